@@ -1,0 +1,71 @@
+#include "graphics/bitmap.h"
+
+#include <algorithm>
+
+namespace orbelle::graphics {
+
+bool IsBitmapSizeAllowed(std::int64_t width, std::int64_t height) {
+    return width >= 1 && height >= 1 && width <= kMaxBitmapSide && height <= kMaxBitmapSide &&
+           width * height <= kMaxBitmapPixels;
+}
+
+Bitmap::Bitmap(int width, int height, PixelFormat format) {
+    if (!IsBitmapSizeAllowed(width, height))
+        return;
+    const Argb blank = format == PixelFormat::Rgb24 ? MakeARGB(255, 0, 0, 0) : 0;
+    pixels_ = std::make_shared<std::vector<Argb>>(static_cast<std::size_t>(width) * height, blank);
+    width_ = width;
+    height_ = height;
+    format_ = format;
+}
+
+Argb* Bitmap::MutablePixels() {
+    if (!pixels_)
+        return nullptr;
+    if (pixels_.use_count() > 1)
+        pixels_ = std::make_shared<std::vector<Argb>>(*pixels_);
+    return pixels_->data();
+}
+
+std::optional<Argb> Bitmap::GetPixel(int x, int y) const {
+    if (x < 0 || y < 0 || x >= width_ || y >= height_)
+        return std::nullopt;
+    return Row(y)[x];
+}
+
+bool Bitmap::SetPixel(int x, int y, Argb color) {
+    if (x < 0 || y < 0 || x >= width_ || y >= height_)
+        return false;
+    MutableRow(y)[x] = format_ == PixelFormat::Rgb24 ? SetAlphaByte(color, 255) : color;
+    return true;
+}
+
+Bitmap Bitmap::CloneArea(int x, int y, int width, int height, PixelFormat format) const {
+    if (x < 0 || y < 0 || width < 1 || height < 1 || width > width_ - x || height > height_ - y)
+        return {};
+    const bool whole = x == 0 && y == 0 && width == width_ && height == height_;
+    if (whole && format == format_)
+        return *this;
+    Bitmap area(width, height, format);
+    for (int row = 0; row < height; ++row) {
+        const Argb* from = Row(y + row) + x;
+        Argb* to = area.MutableRow(row);
+        if (format == PixelFormat::Rgb24)
+            std::transform(from, from + width, to, [](Argb c) { return SetAlphaByte(c, 255); });
+        else
+            std::copy_n(from, width, to);
+    }
+    return area;
+}
+
+Bitmap CopyBitmap(const Bitmap& image, int width, int height) {
+    if (image.Width() == width && image.Height() == height)
+        return image.CloneArea(0, 0, width, height);
+    Bitmap copy(width, height);
+    const int columns = std::min(copy.Width(), image.Width());
+    for (int y = 0; y < std::min(copy.Height(), image.Height()); ++y)
+        std::copy_n(image.Row(y), columns, copy.MutableRow(y));
+    return copy;
+}
+
+}  // namespace orbelle::graphics

@@ -1,0 +1,27 @@
+// Scaled and unscaled drawing of pictures: the sampling behind the image calls of DrawingContext.
+#pragma once
+
+#include <span>
+
+#include "graphics/bitmap.h"
+#include "graphics/enums.h"
+#include "graphics/geometry.h"
+#include "graphics/image_attributes.h"
+
+namespace orbelle::graphics {
+
+struct ImageDrawing {
+    RectF Destination;  // target pixels
+    RectF Source;       // picture pixels; what lies outside the picture is transparent black
+    InterpolationMode Interpolation = InterpolationMode::Default;
+    double Offset = 0;  // 0 or 0.5: where a pixel's centre lies within it
+    ImageAttributes Attributes;
+};
+
+// Blends the picture over the target within the clip, whose rectangles lie inside the target, do
+// not overlap and come by y and then x. Costs time in proportion to the clipped area (and, in the
+// high-quality modes, the part of the source that it needs).
+void DrawImageOn(Bitmap& target, const Bitmap& image, const ImageDrawing& drawing,
+                 std::span<const RectI> clip);
+
+}  // namespace orbelle::graphics

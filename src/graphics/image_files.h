@@ -1,0 +1,34 @@
+// Picture files: PNG, JPEG, GIF and BMP in, PNG and BMP out.
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <span>
+#include <stdexcept>
+#include <vector>
+
+#include "graphics/bitmap.h"
+
+namespace orbelle::graphics {
+
+// A picture that can't be decoded; what() says what is wrong with it.
+class ImageError : public std::runtime_error {
+public:
+    using std::runtime_error::runtime_error;
+};
+
+// The picture in the file, told by its first bytes, not by its name. Straight alpha; gamma and
+// resolution are ignored. Of an animation the first frame. Throws FileError.
+Bitmap LoadImageFromFile(const std::filesystem::path& path);
+
+// The same from memory. Declared sizes are checked against IsBitmapSizeAllowed and against the
+// data before memory is taken. Throws ImageError.
+Bitmap DecodeImage(std::span<const std::uint8_t> bytes);
+
+// 8-bit RGBA straight from the pixels, colours under alpha 0 kept (Rgb24 bitmaps: 8-bit RGB).
+std::vector<std::uint8_t> EncodePng(const Bitmap& image);
+
+// 24 bits, bottom-up, uncompressed, 3780 pixels a metre; alpha is dropped.
+std::vector<std::uint8_t> EncodeBmp(const Bitmap& image);
+
+}  // namespace orbelle::graphics
