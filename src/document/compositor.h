@@ -1,0 +1,50 @@
+// Stage one of showing a document: the visible layers flattened into one picture of the page.
+#pragma once
+
+#include <vector>
+
+#include "document/document.h"
+#include "graphics/dib_save.h"
+#include "graphics/enums.h"
+
+namespace orbelle::document {
+
+// Remembers what it drew last, so that a change of one layer costs that layer and those above it
+// within the area that changed. The result never depends on what was composed before.
+class Compositor {
+public:
+    // Draws the visible layers, bottom first, source-over with their opacity, into `canvas`, which
+    // has the page's size afterwards; a page side below 1 is first set to 1 in the document. A
+    // visible layer whose lower neighbour has ClipNextLayer is cut to that one's plate (whose Path
+    // is rebuilt in the document), and so are all layers above it. The canvas must not be drawn on
+    // by others between two calls.
+    void Compose(Document& document, graphics::InterpolationMode interpolation,
+                 graphics::DIBSave& canvas);
+
+private:
+    // What one visible layer puts on the page; two equal ones put the same pixels there.
+    struct Drawn {
+        graphics::Bitmap Image;
+        float Opacity = 1;
+        graphics::RectI Destination;  // page pixels
+        graphics::RectI Source;       // image pixels
+        std::vector<graphics::RectF> Plates;  // all that cut it
+
+        bool operator==(const Drawn& other) const;
+    };
+
+    static std::vector<Drawn> ListLayers(Document& document);
+    void Draw(graphics::Bitmap& page, const std::vector<Drawn>& layers, std::size_t first,
+              std::size_t last, const graphics::RectI& area) const;
+    graphics::RectI Update(graphics::Bitmap& page, const std::vector<Drawn>& layers);
+
+    std::vector<Drawn> drawn_;
+    graphics::InterpolationMode interpolation_ = graphics::InterpolationMode::Default;
+
+    // The layers below the one that changes again and again, flattened.
+    std::size_t lastPrefix_ = 0;
+    std::vector<Drawn> below_;
+    graphics::Bitmap belowPicture_;
+};
+
+}  // namespace orbelle::document

@@ -1,0 +1,37 @@
+// One image layer of the page, an icon object.
+#pragma once
+
+#include "graphics/bitmap.h"
+#include "graphics/geometry.h"
+#include "graphics/path.h"
+#include "graphics/region.h"
+
+namespace orbelle::document {
+
+// A plain record. Copying it is cheap: pictures, regions and paths share their contents until one
+// of the copies is written.
+struct IconLayer {
+    float Opacity = 1;        // 0 to 1
+    graphics::Bitmap Image;   // straight alpha; empty: draws nothing
+    graphics::Region Region;  // the visible pixels in page pixels; null: none
+    graphics::RectF Rect;     // place and size on the page, page pixels
+    graphics::RectF BaseRect;  // what the scale slider works from
+    int ScaleValue = 0;        // -50 to 50: the scale slider shows it + 50
+    int ImageWidth = 0;        // the part of Image that is drawn, from its top left corner
+    int ImageHeight = 0;
+
+    // Last positions of the adjustment sliders, 0 to 100; the pixels do not depend on them.
+    int Hue = 0;
+    int Contrast = 50;
+    int Brightness = 50;
+    int Saturation = 40;  // 40 is neutral, unlike the others
+
+    bool Visible = true;
+    graphics::Path Path;         // outline of a plate; null until a style makes one
+    bool ClipNextLayer = false;  // the layer above is cut to this one's plate when composed
+};
+
+// Puts the four adjustment fields at their neutral places.
+void ResetLayerAdjust(IconLayer& layer);
+
+}  // namespace orbelle::document

@@ -1,0 +1,26 @@
+// Where a new layer goes in the stack, and how one is made from a picture.
+#pragma once
+
+#include "document/document.h"
+
+namespace orbelle::document {
+
+// Which size the layers that move up get when their pictures are copied: the fields ImageWidth and
+// ImageHeight, or the rounded size of Rect (deliberately different for empty layers).
+enum class SlotCopySize { Image, Rect };
+
+// Opens a slot directly above the selected layer, or on top when none is selected, and selects it.
+// Until the caller fills it, the slot holds a copy of the layer below it (a blank record on top of
+// an unselected stack). Throws std::length_error when the stack holds kMaxLayers already.
+IconLayer& OpenLayerSlot(Document& document, SlotCopySize size);
+
+// Fills the layer with the picture at its own size in the middle of the page; the offsets truncate,
+// so a picture larger than the page gets a negative place. An empty picture makes a layer of 0 by 0.
+// A picture without a visible pixel leaves the Region that the slot held, moved to the new place.
+void MakeImageLayer(const Document& document, IconLayer& layer, const graphics::Bitmap& image);
+
+// Fills the layer as a new transparent one: Rect, ImageWidth and ImageHeight follow width and
+// height, the picture is always of the page's size. The Region stays as it was.
+void MakeEmptyLayer(const Document& document, IconLayer& layer, float width, float height);
+
+}  // namespace orbelle::document

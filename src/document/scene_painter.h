@@ -1,0 +1,25 @@
+// Stage two of showing a document: the composed page on the scene, with all that surrounds it.
+#pragma once
+
+#include <optional>
+
+#include "document/document.h"
+#include "document/view.h"
+#include "graphics/bitmap.h"
+#include "graphics/geometry.h"
+
+namespace orbelle::document {
+
+// The scene around the page.
+inline constexpr graphics::Argb kSceneColor = graphics::MakeARGB(255, 96, 96, 96);
+
+// Paints `canvas` (the composed page) on `scene`, whose size is the view's: background or
+// checkerboard, page shadow, page frame, picture. Nothing happens while the view is not active.
+void DrawScene(graphics::Bitmap& scene, const graphics::Bitmap& canvas, const Document& document,
+               const View& view);
+
+// Where the outline around the selected layer stands, in scene pixels: two pixels outside the layer
+// on every side. None when no visible layer is selected.
+std::optional<graphics::RectI> ObjectFrame(const Document& document, const View& view);
+
+}  // namespace orbelle::document

@@ -1,0 +1,25 @@
+#include "document/view.h"
+
+#include <cmath>
+
+namespace orbelle::document {
+
+double RoundToTenth(double value) {
+    // The text form works on decimal digits: 0.35 is a half there though its double lies below.
+    const double tenths = std::floor(std::abs(value) * 10 + 0.5 + 1e-9) / 10;
+    return std::copysign(tenths, value);
+}
+
+double ScrollRatio(const ScrollBar& bar) {
+    return bar.Max == 0 ? 0 : RoundToTenth(static_cast<double>(bar.Value) / bar.Max);
+}
+
+double PageOffsetX(const Document& document, const View& view) {
+    return ScrollRatio(view.Hs1) * (view.SceneWidth - document.PageWidth * view.Zoom);
+}
+
+double PageOffsetY(const Document& document, const View& view) {
+    return ScrollRatio(view.Vs1) * (view.SceneHeight - document.PageHeight * view.Zoom);
+}
+
+}  // namespace orbelle::document

@@ -1,0 +1,36 @@
+// How the page lies on the scene: zoom and scroll position.
+#pragma once
+
+#include "document/document.h"
+
+namespace orbelle::document {
+
+// Value runs from 0 to Max.
+struct ScrollBar {
+    int Value = 5;
+    int Max = 10;
+    int LargeChange = 0;
+    bool Visible = false;
+};
+
+struct View {
+    int SceneWidth = 1024;  // scene pixels
+    int SceneHeight = 768;
+    double Zoom = 0;  // scene pixels per page pixel
+    ScrollBar Hs1;    // horizontal
+    ScrollBar Vs1;    // vertical
+    bool ViewActive = false;  // set once a document exists; nothing is painted before
+};
+
+// The number as text with one decimal reads: rounded to tenths, halves away from zero.
+double RoundToTenth(double value);
+
+// Value / Max in tenths: scrolling has eleven positions. 0 when Max is 0.
+double ScrollRatio(const ScrollBar& bar);
+
+// Where the page's top left corner lies, in scene pixels:
+// ScrollRatio x (scene size - page size x Zoom).
+double PageOffsetX(const Document& document, const View& view);
+double PageOffsetY(const Document& document, const View& view);
+
+}  // namespace orbelle::document

@@ -1,0 +1,18 @@
+// The shape of a picture, from its alpha.
+#pragma once
+
+#include "graphics/bitmap.h"
+#include "graphics/region.h"
+
+namespace orbelle::filters {
+
+// Thresholds in use: any visible pixel, and the solid body of a picture.
+inline constexpr int kVisibleAlpha = 1;
+inline constexpr int kSolidAlpha = 150;
+
+// Sets `region` to the pixels of alpha `level` (1 to 255) and above, in picture coordinates, one
+// rectangle a horizontal run. Every rectangle deliberately lies one pixel to the left of the pixels
+// it stands for. A picture without such a pixel leaves `region` as it was. Linear in the pixels.
+void CreateRegion(const graphics::Bitmap& image, graphics::Region& region, int level);
+
+}  // namespace orbelle::filters

@@ -1,0 +1,63 @@
+// Export: the composed page as a picture file of another kind.
+#pragma once
+
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "formats/icon_file.h"
+#include "graphics/bitmap.h"
+#include "graphics/color.h"
+#include "graphics/geometry.h"
+
+namespace orbelle::formats {
+
+// The product's numbers of the output formats.
+enum class FileTypes { Bmp = 0, Jpeg = 1, Gif = 2, Png = 6, Ico = 7 };
+
+// One entry of the Export submenu.
+struct ExportFormat {
+    const char* Caption;
+    const char* Filter;  // for the file dialog: "text|patterns"
+    FileTypes FileType;
+};
+
+// The formats in the order of the menu.
+inline constexpr ExportFormat kExportFormats[] = {
+    {"ICO Windows Icon File", "Windows ICO Files (*.ICO)|*.ico", FileTypes::Ico},
+    {"PNG with Transparency", "PNG Portable Network Graphics (*.PNG)|*.png", FileTypes::Png},
+    {"GIF Image", "GIF Files (*.GIF)|*.gif", FileTypes::Gif},
+    {"JPEG Image", "JPEG Files (*.JPG;*.JPEG)|*.jpg;*.jpeg", FileTypes::Jpeg},
+    {"BMP Image", "BMP Windows Bitmap (*.BMP)|*.bmp", FileTypes::Bmp},
+};
+
+struct ExportSettings {
+    std::vector<int> IconSizes;  // 1 to 256; empty: the product's own table
+    IconFormat IconPictures = IconFormat::Bmp;
+};
+
+// The sizes of an icon made from a page: the row of 256, 128, 64, 48, 32, 24, 16 that the larger
+// side reaches and all below it, largest first; none below 16.
+std::vector<int> IconSizesFor(int pageWidth, int pageHeight);
+
+// Where a page of sourceWidth x sourceHeight goes in a box: never enlarged, else the side that
+// binds fills the box; centred, halves dropped.
+graphics::RectF FitIntoBox(float sourceWidth, float sourceHeight, float boxWidth, float boxHeight);
+
+// The page in a transparent size x size square, scaled with high quality.
+graphics::Bitmap DrawIconPicture(const graphics::Bitmap& page, int size);
+
+// Writes the composed page `page` to `path`. A PNG has the background (0: transparent) under the
+// picture, an icon never has. A page too small for any icon size writes no file. The pictures of an
+// icon are also left in SizesFolder() until the next icon export. Throws graphics::FileError;
+// std::invalid_argument for a format that has no writer.
+void ExportImage(const std::filesystem::path& path, FileTypes fileType,
+                 const graphics::Bitmap& page, graphics::Argb pageBackground,
+                 const ExportSettings& settings = {});
+
+// The folder "Sizes" in the user's cache folder (XDG_CACHE_HOME, else ~/.cache; LOCALAPPDATA on
+// Windows); not made here. Empty when there is no such folder.
+std::filesystem::path SizesFolder();
+
+}  // namespace orbelle::formats

@@ -1,0 +1,35 @@
+// Document files (.volf): a header, then a record with a PNG picture for each layer.
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <span>
+#include <stdexcept>
+#include <vector>
+
+#include "document/document.h"
+
+namespace orbelle::formats {
+
+// The file does not begin like a document. what() is the product's text "Invalid File".
+class InvalidFile : public std::runtime_error {
+public:
+    InvalidFile();
+};
+
+// The whole file as bytes, little-endian, layers from the bottom up.
+std::vector<std::uint8_t> EncodeDocument(const document::Document& document);
+
+// Replaces page size, background and layers of `document` with what the bytes hold; adjustment
+// sliders come back neutral, each layer's Region is built from its picture and moved to its place.
+// Throws InvalidFile with nothing changed when the bytes do not begin like a document, and
+// std::runtime_error, with all whole layers before the fault in place, when they are cut short or
+// hold what memory or the limits cannot hold.
+void DecodeDocument(std::span<const std::uint8_t> bytes, document::Document& document);
+
+// The same with a file. Throw graphics::FileError besides; Load puts the path before the problem of
+// a damaged file.
+void SaveDocument(const std::filesystem::path& path, const document::Document& document);
+void LoadDocument(const std::filesystem::path& path, document::Document& document);
+
+}  // namespace orbelle::formats
