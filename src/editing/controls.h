@@ -1,0 +1,66 @@
+// The states of the window's controls, as data: commands change them, the host mirrors them.
+#pragma once
+
+#include <array>
+#include <string>
+
+namespace orbelle::editing {
+
+struct Slider {
+    int Value = 0;
+    bool Enabled = true;
+};
+
+struct Button {
+    bool Enabled = true;
+    bool Pressed = false;
+};
+
+struct MenuEntry {
+    bool Enabled = true;
+};
+
+// Button numbers of the toolbars; index 0 of the arrays below is unused.
+namespace main_buttons {  // ToolBarvs1
+enum { New = 1, Open, Import, Save, Undo = 6, Redo, ZoomIn = 9, ZoomOut, OriginalSize };
+}
+namespace layer_buttons {  // ToolBarvs4
+enum { Add = 1, Remove, Hide, SetOrder = 5, MergeDown };
+}
+
+struct Controls {
+    Slider CtlScroll1{1, false};    // page width, 1 to 512
+    Slider CtlScroll2{1, false};    // page height, 1 to 512
+    Slider CtlScroll21{10, false};  // opacity, 0 to 100
+    Slider HUEscroll{0, false};
+    Slider BrightnessScroll{50, false};
+    Slider SaturationScroll{40, false};
+    Slider ContrastScroll{50, false};
+    Slider ScaleScroll{50, false};  // 0 to 100
+
+    // Labels beside the sliders.
+    std::string HueValue = "0";
+    std::string BrightnessValue = "0";
+    std::string SaturationValue = "0";
+    std::string ContrastValue = "0";
+    std::string ScaleValue = "0";
+    std::string FilterCaption = "No filters are used, click Style menu to choose a filter.";
+
+    std::array<Button, 14> ToolBarvs1;
+    std::array<Button, 7> ToolBarvs4;
+
+    MenuEntry m_Import{false};
+    MenuEntry m_Save{false};
+    MenuEntry menu_SaveAs{false};
+    MenuEntry m_Export{false};
+    MenuEntry m_Undo{false};
+    MenuEntry m_Redo{false};
+    MenuEntry m_Crystal{false};
+
+    bool PageSliderLock = false;      // the page-size sliders do not react while they are set
+    bool PageSizeChanged = false;     // the page was resized since the last fit to the window
+
+    Controls();
+};
+
+}  // namespace orbelle::editing

@@ -1,0 +1,11 @@
+// Which menu entries are enabled, worked out each time a menu opens.
+#pragma once
+
+#include "editing/editor.h"
+
+namespace orbelle::editing {
+
+void OpenFileMenu(Editor& editor);
+void OpenStyleMenu(Editor& editor);
+
+}  // namespace orbelle::editing

@@ -1,0 +1,16 @@
+// Page size and page background. None of these is an undo step or marks the document as changed.
+#pragma once
+
+#include "editing/editor.h"
+
+namespace orbelle::editing {
+
+// The page-size sliders; the value is limited to 1 to document::kMaxPageSide. Layers keep their
+// place.
+void ChangePageWidth(Editor& editor, int value);
+void ChangePageHeight(Editor& editor, int value);
+
+// 0: transparent.
+void SetPageBackground(Editor& editor, graphics::Argb color);
+
+}  // namespace orbelle::editing
