@@ -26,8 +26,8 @@ private:
     struct Drawn {
         graphics::Bitmap Image;
         float Opacity = 1;
-        graphics::RectI Destination;  // page pixels
-        graphics::RectI Source;       // image pixels
+        graphics::RectI Destination;          // page pixels
+        graphics::RectI Source;               // image pixels
         std::vector<graphics::RectF> Plates;  // all that cut it
 
         bool operator==(const Drawn& other) const;
@@ -36,7 +36,7 @@ private:
     static std::vector<Drawn> ListLayers(Document& document);
     void Draw(graphics::Bitmap& page, const std::vector<Drawn>& layers, std::size_t first,
               std::size_t last, const graphics::RectI& area) const;
-    graphics::RectI Update(graphics::Bitmap& page, const std::vector<Drawn>& layers);
+    void Update(graphics::Bitmap& page, const std::vector<Drawn>& layers);
 
     std::vector<Drawn> drawn_;
     graphics::InterpolationMode interpolation_ = graphics::InterpolationMode::Default;

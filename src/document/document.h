@@ -19,7 +19,7 @@ struct Document {
     int SelectedLayer = kNoLayer;
     int PageWidth = 0;  // page pixels
     int PageHeight = 0;
-    graphics::Argb PageBackground = 0;  // 0: transparent
+    graphics::Argb PageBackground = 0;   // 0: transparent
     std::filesystem::path DocumentPath;  // of the .volf file; empty until saved or opened
     bool Modified = false;
 

@@ -11,10 +11,10 @@ namespace orbelle::document {
 // A plain record. Copying it is cheap: pictures, regions and paths share their contents until one
 // of the copies is written.
 struct IconLayer {
-    float Opacity = 1;        // 0 to 1
-    graphics::Bitmap Image;   // straight alpha; empty: draws nothing
-    graphics::Region Region;  // the visible pixels in page pixels; null: none
-    graphics::RectF Rect;     // place and size on the page, page pixels
+    float Opacity = 1;         // 0 to 1
+    graphics::Bitmap Image;    // straight alpha; empty: draws nothing
+    graphics::Region Region;   // the visible pixels in page pixels; null: none
+    graphics::RectF Rect;      // place and size on the page, page pixels
     graphics::RectF BaseRect;  // what the scale slider works from
     int ScaleValue = 0;        // -50 to 50: the scale slider shows it + 50
     int ImageWidth = 0;        // the part of Image that is drawn, from its top left corner

@@ -15,8 +15,9 @@ enum class SlotCopySize { Image, Rect };
 IconLayer& OpenLayerSlot(Document& document, SlotCopySize size);
 
 // Fills the layer with the picture at its own size in the middle of the page; the offsets truncate,
-// so a picture larger than the page gets a negative place. An empty picture makes a layer of 0 by 0.
-// A picture without a visible pixel leaves the Region that the slot held, moved to the new place.
+// so a picture larger than the page gets a negative place. An empty picture makes a layer of 0 by
+// 0. A picture without a visible pixel leaves the Region that the slot held, moved to the new
+// place.
 void MakeImageLayer(const Document& document, IconLayer& layer, const graphics::Bitmap& image);
 
 // Fills the layer as a new transparent one: Rect, ImageWidth and ImageHeight follow width and

@@ -16,9 +16,9 @@ struct ScrollBar {
 struct View {
     int SceneWidth = 1024;  // scene pixels
     int SceneHeight = 768;
-    double Zoom = 0;  // scene pixels per page pixel
-    ScrollBar Hs1;    // horizontal
-    ScrollBar Vs1;    // vertical
+    double Zoom = 0;          // scene pixels per page pixel
+    ScrollBar Hs1;            // horizontal
+    ScrollBar Vs1;            // vertical
     bool ViewActive = false;  // set once a document exists; nothing is painted before
 };
 

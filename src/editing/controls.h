@@ -57,8 +57,8 @@ struct Controls {
     MenuEntry m_Redo{false};
     MenuEntry m_Crystal{false};
 
-    bool PageSliderLock = false;      // the page-size sliders do not react while they are set
-    bool PageSizeChanged = false;     // the page was resized since the last fit to the window
+    bool PageSliderLock = false;   // the page-size sliders do not react while they are set
+    bool PageSizeChanged = false;  // the page was resized since the last fit to the window
 
     Controls();
 };

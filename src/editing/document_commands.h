@@ -18,7 +18,8 @@ void Open(Editor& editor);
 // A picture as a new layer above the selected one; with no document yet it makes the page.
 void Import(Editor& editor);
 
-// Import of a file dropped on the window.
+// Import of a file that is known: one dropped on the window. A document takes the place of the
+// present one, after the save prompt.
 void ImportFile(Editor& editor, const std::filesystem::path& path);
 
 // False: not saved, because the user cancelled or writing failed (then the document stays marked as
@@ -31,8 +32,9 @@ bool SaveAs(Editor& editor);
 // first and last characters, meant to be quotation marks, are cut unseen.
 void ShellOpenFile(Editor& editor, std::string_view command);
 
-// The window is to be closed: the save prompt. False: it stays open.
-bool QueryUnload(Editor& editor);
+// Before a changed document is given up: by New, Open, a hand-over, or closing the window. False:
+// the user wants to go back. After "Yes" all goes on even if saving was cancelled or failed.
+bool RunSavePrompt(Editor& editor);
 
 // The state before anything is done with a page of this size; with an empty layer if said.
 void ResetDocument(Editor& editor, int pageWidth, int pageHeight, bool addFirstLayer);

@@ -42,9 +42,9 @@ struct Editor {
     document::View View;
     SavedView SavedZoom;
     int MaxZoom = 20;
-    bool ZoomBusy = false;    // a zoom command runs: scroll bars redraw nothing
-    double ZoomStep = -0.2;   // what the zoom animation subtracts a tick
-    double ZoomTarget = 1;    // where it stops
+    bool ZoomBusy = false;   // a zoom command runs: scroll bars redraw nothing
+    double ZoomStep = -0.2;  // what the zoom animation subtracts a tick
+    double ZoomTarget = 1;   // where it stops
 
     // Set while a document exists; cleared while one is being opened.
     bool DocumentExists = false;

@@ -5,8 +5,8 @@
 
 namespace orbelle::editing {
 
-// Asks for a file and writes the composed page to it; the document is not changed. A failure is told
-// in the status line.
+// Asks for a file and writes the composed page to it; the document is not changed. A failure is
+// told in the status line.
 void Export(Editor& editor, const formats::ExportFormat& format);
 
 }  // namespace orbelle::editing

@@ -5,9 +5,12 @@
 
 namespace orbelle::editing {
 
-// An undo step and a new transparent layer above the selected one; Rect takes the given size in page
-// pixels, the picture that of the page. Throws document::HistoryLimit.
+// An undo step and a new transparent layer above the selected one; Rect takes the given size in
+// page pixels, the picture that of the page. Throws document::HistoryLimit.
 void AddEmptyLayer(Editor& editor, float width, float height);
+
+// The same without the undo step: the first layer of a new document.
+void InsertEmptyLayer(Editor& editor, float width, float height);
 
 // Button 1 of ToolBarvs4: an empty layer of the page's size.
 void AddLayerCommand(Editor& editor);

@@ -13,10 +13,18 @@ constexpr Argb MakeARGB(unsigned alpha, unsigned red, unsigned green, unsigned b
     return alpha << 24 | red << 16 | green << 8 | blue;
 }
 
-constexpr unsigned AlphaOf(Argb color) { return color >> 24; }
-constexpr unsigned RedOf(Argb color) { return color >> 16 & 0xFF; }
-constexpr unsigned GreenOf(Argb color) { return color >> 8 & 0xFF; }
-constexpr unsigned BlueOf(Argb color) { return color & 0xFF; }
+constexpr unsigned AlphaOf(Argb color) {
+    return color >> 24;
+}
+constexpr unsigned RedOf(Argb color) {
+    return color >> 16 & 0xFF;
+}
+constexpr unsigned GreenOf(Argb color) {
+    return color >> 8 & 0xFF;
+}
+constexpr unsigned BlueOf(Argb color) {
+    return color & 0xFF;
+}
 
 // The colour with its alpha replaced.
 constexpr Argb SetAlphaByte(Argb color, unsigned alpha) {

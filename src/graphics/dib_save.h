@@ -30,8 +30,8 @@ public:
     bool FirstL() const { return bitWidth_ != 0; }
     void SetFirstL(bool value) { firstLoad_ = value; }
 
-    // A new zeroed bitmap with a context on it. Height comes first. A refused size keeps the earlier
-    // bitmap, while NewWidth and NewHeight take the arguments all the same.
+    // A new zeroed bitmap with a context on it. Height comes first. A refused size keeps the
+    // earlier bitmap, while NewWidth and NewHeight take the arguments all the same.
     void CreateBlankMemory(int height, int width, PixelFormat format);
     // Takes over the picture.
     void CreateBlankMemoryFromImg(Bitmap image);

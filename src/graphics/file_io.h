@@ -14,8 +14,8 @@ inline constexpr std::uintmax_t kMaxFileBytes = std::uintmax_t{256} << 20;
 // Throws FileError when the file is missing, unreadable, no regular file or above kMaxFileBytes.
 std::vector<std::uint8_t> ReadFile(const std::filesystem::path& path);
 
-// Replaces the file in one step: the bytes go to a new file beside it that then takes its name, so a
-// failure (FileError with the path and the system's reason) leaves the old file whole.
+// Replaces the file in one step: the bytes go to a new file beside it that then takes its name, so
+// a failure (FileError with the path and the system's reason) leaves the old file whole.
 void WriteFile(const std::filesystem::path& path, std::span<const std::uint8_t> bytes);
 
 }  // namespace orbelle::graphics

@@ -29,8 +29,7 @@ RectI Intersect(const RectI& a, const RectI& b) {
     // In 64 bits: hostile documents hold rectangles at the ends of int.
     const std::int64_t left = std::max(a.X, b.X);
     const std::int64_t top = std::max(a.Y, b.Y);
-    const std::int64_t right =
-        std::min(std::int64_t{a.X} + a.Width, std::int64_t{b.X} + b.Width);
+    const std::int64_t right = std::min(std::int64_t{a.X} + a.Width, std::int64_t{b.X} + b.Width);
     const std::int64_t bottom =
         std::min(std::int64_t{a.Y} + a.Height, std::int64_t{b.Y} + b.Height);
     if (right <= left || bottom <= top)

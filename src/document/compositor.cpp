@@ -1,0 +1,147 @@
+#include "document/compositor.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "filters/round_shape.h"
+#include "graphics/drawing_context.h"
+
+namespace orbelle::document {
+
+using graphics::Bitmap;
+using graphics::RectF;
+using graphics::RectI;
+
+namespace {
+
+// Toward zero; a document may hold any number.
+int Truncate(float value) {
+    if (!(std::abs(value) < 1e9F))
+        return value > 0 ? 1'000'000'000 : value < 0 ? -1'000'000'000 : 0;
+    return static_cast<int>(value);
+}
+
+RectI Truncate(const RectF& rect) {
+    return {Truncate(rect.X), Truncate(rect.Y), Truncate(rect.Width), Truncate(rect.Height)};
+}
+
+}  // namespace
+
+bool Compositor::Drawn::operator==(const Drawn& other) const {
+    return Image.SharesPixelsWith(other.Image) && Opacity == other.Opacity &&
+           Destination == other.Destination && Source == other.Source && Plates == other.Plates;
+}
+
+std::vector<Compositor::Drawn> Compositor::ListLayers(Document& document) {
+    std::vector<Drawn> drawn;
+    std::vector<RectF> plates;
+    for (std::size_t i = 0; i < document.Layers.size(); ++i) {
+        const IconLayer& layer = document.Layers[i];
+        if (!layer.Visible)
+            continue;
+        if (i > 0 && document.Layers[i - 1].ClipNextLayer) {
+            IconLayer& plate = document.Layers[i - 1];
+            const int width = graphics::RoundToEven(plate.Rect.Width);
+            const int height = graphics::RoundToEven(plate.Rect.Height);
+            plate.Path = filters::UpdateiOSstylePath(width, height, plate.Rect.X, plate.Rect.Y);
+            plates.push_back({plate.Rect.X, plate.Rect.Y, static_cast<float>(width),
+                              static_cast<float>(height)});
+        }
+        drawn.push_back({layer.Image,
+                         layer.Opacity,
+                         Truncate(layer.Rect),
+                         {0, 0, layer.ImageWidth, layer.ImageHeight},
+                         plates});
+    }
+    return drawn;
+}
+
+void Compositor::Draw(Bitmap& page, const std::vector<Drawn>& layers, std::size_t first,
+                      std::size_t last, const RectI& area) const {
+    graphics::DrawingContext context(page);
+    context.SetInterpolationMode(interpolation_);
+    context.SetPixelOffsetMode(graphics::PixelOffsetMode::HighQuality);
+    const auto clip = graphics::Region::FromPixelRects({area});
+    context.SetClipRegion(clip, graphics::CombineMode::Replace);
+    const std::vector<RectF>* plates = nullptr;
+    for (std::size_t i = first; i < last; ++i) {
+        const Drawn& layer = layers[i];
+        if (Intersect(layer.Destination, area).IsEmpty())
+            continue;
+        if (!plates || layer.Plates != *plates) {
+            plates = &layer.Plates;
+            context.SetClipRegion(clip, graphics::CombineMode::Replace);
+            for (const RectF& plate : *plates)
+                context.SetClipPath(
+                    filters::UpdateiOSstylePath(static_cast<int>(plate.Width),
+                                                static_cast<int>(plate.Height), plate.X, plate.Y),
+                    graphics::CombineMode::Intersect);
+        }
+        context.DrawImageRectRectI(layer.Image, layer.Destination, layer.Source,
+                                   {graphics::OpacityMatrix(layer.Opacity)});
+    }
+}
+
+void Compositor::Update(Bitmap& page, const std::vector<Drawn>& layers) {
+    const RectI whole{0, 0, page.Width(), page.Height()};
+    const auto [newFirst, oldFirst] =
+        std::mismatch(layers.begin(), layers.end(), drawn_.begin(), drawn_.end());
+    const auto prefix = static_cast<std::size_t>(newFirst - layers.begin());
+    const auto [newLast, oldLast] =
+        std::mismatch(layers.rbegin(), std::make_reverse_iterator(newFirst), drawn_.rbegin(),
+                      std::make_reverse_iterator(oldFirst));
+    RectI damage;
+    for (auto layer = newFirst; layer != newLast.base(); ++layer)
+        damage = Unite(damage, Intersect(layer->Destination, whole));
+    for (auto layer = oldFirst; layer != oldLast.base(); ++layer)
+        damage = Unite(damage, Intersect(layer->Destination, whole));
+    if (damage.IsEmpty())
+        return;
+
+    // What lies below is flattened once it has stayed the same for two changes in a row: a drag.
+    const bool known = prefix >= below_.size() && !below_.empty() &&
+                       std::equal(below_.begin(), below_.end(), layers.begin());
+    const bool dragging = prefix > 0 && prefix == lastPrefix_;
+    if (dragging && !(known && below_.size() == prefix)) {
+        belowPicture_ = Bitmap(page.Width(), page.Height());
+        Draw(belowPicture_, layers, 0, prefix, whole);
+        below_.assign(layers.begin(), newFirst);
+    }
+    lastPrefix_ = prefix;
+
+    std::size_t start = 0;
+    if (dragging || known) {
+        start = below_.size();
+        for (int y = damage.Y; y < damage.Y + damage.Height; ++y)
+            std::copy_n(belowPicture_.Row(y) + damage.X, damage.Width,
+                        page.MutableRow(y) + damage.X);
+    } else {
+        for (int y = damage.Y; y < damage.Y + damage.Height; ++y)
+            std::fill_n(page.MutableRow(y) + damage.X, damage.Width, graphics::Argb{0});
+    }
+    Draw(page, layers, start, layers.size(), damage);
+}
+
+void Compositor::Compose(Document& document, graphics::InterpolationMode interpolation,
+                         graphics::DIBSave& canvas) {
+    document.PageWidth = std::max(document.PageWidth, 1);
+    document.PageHeight = std::max(document.PageHeight, 1);
+    std::vector<Drawn> layers = ListLayers(document);
+
+    const bool sameSize = canvas.new_Img.Width() == document.PageWidth &&
+                          canvas.new_Img.Height() == document.PageHeight;
+    if (!sameSize || interpolation != interpolation_) {
+        canvas.Destroy();
+        canvas.CreateBlankMemory(document.PageHeight, document.PageWidth,
+                                 graphics::PixelFormat::Argb32);
+        drawn_.clear();
+        below_.clear();
+        belowPicture_ = {};
+        lastPrefix_ = 0;
+    }
+    interpolation_ = interpolation;
+    Update(canvas.new_Img, layers);
+    drawn_ = std::move(layers);
+}
+
+}  // namespace orbelle::document

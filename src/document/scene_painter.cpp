@@ -1,0 +1,92 @@
+#include "document/scene_painter.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "graphics/drawing_context.h"
+
+namespace orbelle::document {
+
+using namespace graphics;
+
+namespace {
+
+constexpr Argb kCheckerLight = MakeARGB(255, 255, 255, 255);
+constexpr Argb kCheckerDark = MakeARGB(255, 240, 240, 240);
+constexpr int kCheckerCell = 5;  // scene pixels, whatever the zoom
+constexpr Argb kPageShadow = MakeARGB(255, 128, 128, 128);
+constexpr float kShadowWidth = 20;
+constexpr Argb kPageFrame = MakeARGB(200, 0, 0, 0);
+
+// The checkerboard over the pixels of the rectangle, its first dark cell in the top left corner.
+void DrawChecker(Bitmap& scene, const RectF& rect) {
+    const RectI cells{static_cast<int>(std::ceil(rect.X)), static_cast<int>(std::ceil(rect.Y)),
+                      static_cast<int>(rect.Width), static_cast<int>(rect.Height)};
+    const RectI shown = Intersect(cells, {0, 0, scene.Width(), scene.Height()});
+    for (int y = shown.Y; y < shown.Y + shown.Height; ++y) {
+        Argb* row = scene.MutableRow(y);
+        const int rowOfCells = (y - cells.Y) / kCheckerCell;
+        for (int x = shown.X; x < shown.X + shown.Width; ++x) {
+            const int column = (x - cells.X) / kCheckerCell;
+            row[x] = (rowOfCells + column) % 2 == 0 ? kCheckerDark : kCheckerLight;
+        }
+    }
+}
+
+void DrawPageBackground(Bitmap& scene, Argb background, const RectF& page, float halfZoom) {
+    DrawingContext context(scene);
+    if (background != 0)
+        context.FillRectangle(SolidBrush{background}, page);
+    else
+        DrawChecker(scene, page);
+    const SolidBrush shadow{kPageShadow};
+    context.FillRectangle(shadow,
+                          {page.X + page.Width - halfZoom, page.Y, kShadowWidth, page.Height});
+    context.FillRectangle(shadow, {page.X, page.Y + page.Height - halfZoom,
+                                   page.Width + kShadowWidth - halfZoom, kShadowWidth});
+}
+
+}  // namespace
+
+void DrawScene(Bitmap& scene, const Bitmap& canvas, const Document& document, const View& view) {
+    if (!view.ViewActive)
+        return;
+    if (scene.Width() != view.SceneWidth || scene.Height() != view.SceneHeight)
+        scene = Bitmap(view.SceneWidth, view.SceneHeight);
+    DrawingContext context(scene);
+    context.SetInterpolationMode(InterpolationMode::NearestNeighbor);
+    context.Clear(kSceneColor);
+
+    const int width = static_cast<int>(canvas.Width() * view.Zoom);
+    const int height = static_cast<int>(canvas.Height() * view.Zoom);
+    const auto left = static_cast<float>((view.SceneWidth - width) * ScrollRatio(view.Hs1));
+    const auto top = static_cast<float>((view.SceneHeight - height) * ScrollRatio(view.Vs1));
+    const auto pageWidth = static_cast<float>(width);
+    const auto pageHeight = static_cast<float>(height);
+
+    // The background deliberately lies half a page pixel to the lower right of the picture.
+    const auto halfZoom = static_cast<float>(RoundToEven(view.Zoom / 2));
+    DrawPageBackground(scene, document.PageBackground,
+                       {left + halfZoom, top + halfZoom, pageWidth, pageHeight}, halfZoom);
+    context.DrawRectangle({SolidBrush{kPageFrame}, 1}, {left, top, pageWidth + 1, pageHeight + 1});
+
+    context.SetPixelOffsetMode(PixelOffsetMode::HighQuality);
+    context.DrawImageRectRectI(canvas,
+                               {static_cast<int>(left), static_cast<int>(top), width, height},
+                               {0, 0, canvas.Width(), canvas.Height()});
+}
+
+std::optional<RectI> ObjectFrame(const Document& document, const View& view) {
+    constexpr int kMargin = 2;
+    if (!document.HasSelection() || !document.Selected().Visible)
+        return std::nullopt;
+    const RectF& rect = document.Selected().Rect;
+    return RectI{
+        RoundToEven(PageOffsetX(document, view) + rect.X * view.Zoom) - kMargin,
+        RoundToEven(PageOffsetY(document, view) + rect.Y * view.Zoom) - kMargin,
+        RoundToEven(rect.Width * view.Zoom) + 2 * kMargin,
+        RoundToEven(rect.Height * view.Zoom) + 2 * kMargin,
+    };
+}
+
+}  // namespace orbelle::document

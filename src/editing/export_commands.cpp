@@ -1,0 +1,28 @@
+#include "editing/export_commands.h"
+
+#include <exception>
+
+#include "editing/command_frame.h"
+
+namespace orbelle::editing {
+
+void Export(Editor& editor, const formats::ExportFormat& format) {
+    const std::filesystem::path path = editor.Host.ShowFileDialog(format.Filter, false);
+    if (path.empty())
+        return;
+    std::error_code ignored;
+    if (std::filesystem::exists(path, ignored)) {
+        // Deliberate: the answer changes nothing, the export goes on and replaces the file.
+        editor.Host.Confirm("Image already exists, overwrite it?", "Warning");
+    }
+    RunCommand(editor, [&] {
+        try {
+            formats::ExportImage(path, format.FileType, editor.Canvas.new_Img,
+                                 editor.Document.PageBackground, editor.ExportSettings);
+        } catch (const std::exception& failure) {
+            editor.Host.ShowStatus(failure.what());
+        }
+    });
+}
+
+}  // namespace orbelle::editing

@@ -1,0 +1,36 @@
+#include "editing/page_commands.h"
+
+#include <algorithm>
+
+#include "editing/view_commands.h"
+
+namespace orbelle::editing {
+namespace {
+
+void ChangePageSide(Editor& editor, Slider& slider, int& side, int value) {
+    if (editor.Controls.PageSliderLock)
+        return;
+    editor.Controls.PageSizeChanged = true;
+    slider.Value = std::clamp(value, 1, document::kMaxPageSide);
+    side = slider.Value;
+    Compose(editor);
+    editor.Host.ControlsChanged();
+}
+
+}  // namespace
+
+void ChangePageWidth(Editor& editor, int value) {
+    ChangePageSide(editor, editor.Controls.CtlScroll1, editor.Document.PageWidth, value);
+}
+
+void ChangePageHeight(Editor& editor, int value) {
+    ChangePageSide(editor, editor.Controls.CtlScroll2, editor.Document.PageHeight, value);
+}
+
+void SetPageBackground(Editor& editor, graphics::Argb color) {
+    editor.Document.PageBackground = color;
+    Compose(editor);
+    editor.Host.LayerPanelChanged();
+}
+
+}  // namespace orbelle::editing

@@ -1,0 +1,189 @@
+#include "editing/view_commands.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "document/scene_painter.h"
+#include "graphics/geometry.h"
+
+namespace orbelle::editing {
+
+using document::ScrollBar;
+
+namespace {
+
+Button& MainButton(Editor& editor, int number) {
+    return editor.Controls.ToolBarvs1[static_cast<std::size_t>(number)];
+}
+
+void Centre(ScrollBar& bar) {
+    bar.Value = graphics::RoundToEven(bar.Max / 2.0);
+}
+
+// A bar for a page that is larger than the scene; one for a page that fits stays, or is hidden.
+void FitBar(ScrollBar& bar, double page, int scene, bool mayHide) {
+    if (page > scene) {
+        bar.Max = static_cast<int>(page - scene);
+        bar.Visible = true;
+    } else if (mayHide) {
+        bar.Visible = false;
+    }
+    Centre(bar);
+}
+
+void FitBars(Editor& editor, bool mayHide) {
+    document::View& view = editor.View;
+    FitBar(view.Hs1, editor.Document.PageWidth * view.Zoom, view.SceneWidth, mayHide);
+    FitBar(view.Vs1, editor.Document.PageHeight * view.Zoom, view.SceneHeight, mayHide);
+}
+
+void EndZoom(Editor& editor, bool redraw) {
+    editor.ZoomBusy = false;
+    if (redraw)
+        DrawScene(editor);
+    editor.Host.ControlsChanged();
+}
+
+void Scroll(Editor& editor, ScrollBar& bar, int value) {
+    bar.Value = std::clamp(value, 0, bar.Max);
+    if (!editor.ZoomBusy)
+        DrawScene(editor);
+}
+
+// The zoom at which the page's larger side fills the scene, in tenths.
+double FitZoom(const Editor& editor) {
+    constexpr double kMargin = 4;
+    const document::Document& page = editor.Document;
+    const double zoom = page.PageWidth <= page.PageHeight
+                            ? (editor.View.SceneHeight - kMargin) / page.PageHeight
+                            : (editor.View.SceneWidth - kMargin) / page.PageWidth;
+    return std::min<double>(document::RoundToTenth(zoom), editor.MaxZoom);
+}
+
+void EnterOriginalSize(Editor& editor) {
+    document::View& view = editor.View;
+    editor.SavedZoom = {view.Zoom, view.Hs1, view.Vs1};
+    editor.ZoomStep = view.Zoom < 1 ? -0.3 : 3;
+    view.Zoom = 1;
+    view.Hs1.Visible = view.SceneWidth < editor.Document.PageWidth;
+    view.Vs1.Visible = view.SceneHeight < editor.Document.PageHeight;
+    Centre(view.Hs1);
+    Centre(view.Vs1);
+    DrawScene(editor);
+}
+
+void LeaveOriginalSize(Editor& editor) {
+    document::View& view = editor.View;
+    if (editor.SavedZoom.Zoom == 1 || editor.Controls.PageSizeChanged) {
+        editor.SavedZoom = {FitZoom(editor), {}, {}};
+        editor.Controls.PageSizeChanged = false;
+    }
+    if (editor.SavedZoom.Zoom == 1)
+        return;
+    view.Hs1 = editor.SavedZoom.Hs1;
+    view.Vs1 = editor.SavedZoom.Vs1;
+    editor.ZoomStep = editor.SavedZoom.Zoom < 1 ? 0.3 : -3;
+    view.Zoom = editor.SavedZoom.Zoom;
+    DrawScene(editor);
+}
+
+}  // namespace
+
+void Compose(Editor& editor) {
+    editor.Compositor.Compose(editor.Document, graphics::InterpolationMode::NearestNeighbor,
+                              editor.Canvas);
+    DrawScene(editor);
+}
+
+void DrawScene(Editor& editor) {
+    document::DrawScene(editor.Scene, editor.Canvas.new_Img, editor.Document, editor.View);
+    editor.Host.SceneChanged();
+}
+
+void ResizeScene(Editor& editor, int width, int height) {
+    editor.View.SceneWidth = width;
+    editor.View.SceneHeight = height;
+    DrawScene(editor);
+}
+
+void ScrollHorizontally(Editor& editor, int value) {
+    Scroll(editor, editor.View.Hs1, value);
+}
+
+void ScrollVertically(Editor& editor, int value) {
+    Scroll(editor, editor.View.Vs1, value);
+}
+
+void ZoomIn(Editor& editor) {
+    Button& zoomIn = MainButton(editor, main_buttons::ZoomIn);
+    if (!editor.DocumentExists || !zoomIn.Enabled)
+        return;
+    editor.ZoomBusy = true;
+    MainButton(editor, main_buttons::OriginalSize).Pressed = false;
+    MainButton(editor, main_buttons::ZoomOut).Enabled = true;
+    double& zoom = editor.View.Zoom;
+    zoom += zoom < 1 ? 0.2 : 2;
+    if (zoom >= editor.MaxZoom) {
+        zoomIn.Enabled = false;
+        zoom = editor.MaxZoom;
+        // Deliberately without a redraw: the last step shows with the next change.
+        EndZoom(editor, false);
+        return;
+    }
+    FitBars(editor, false);
+    EndZoom(editor, true);
+}
+
+void ZoomOut(Editor& editor) {
+    Button& zoomOut = MainButton(editor, main_buttons::ZoomOut);
+    if (!editor.DocumentExists || !zoomOut.Enabled)
+        return;
+    editor.ZoomBusy = true;
+    MainButton(editor, main_buttons::OriginalSize).Pressed = false;
+    double& zoom = editor.View.Zoom;
+    if (zoom - editor.MaxZoom <= 1)
+        MainButton(editor, main_buttons::ZoomIn).Enabled = true;
+    if (zoom >= 2 || zoom <= 0) {
+        // Deliberately reaches 0 and goes below it: the page is then empty.
+        zoom -= 2;
+    } else if (std::lround(zoom * 100) == 20) {
+        zoomOut.Enabled = false;
+        EndZoom(editor, false);
+        return;
+    } else {
+        zoom -= 0.2;
+    }
+    FitBars(editor, true);
+    EndZoom(editor, true);
+}
+
+void OriginalSize(Editor& editor) {
+    if (!editor.DocumentExists)
+        return;
+    Button& toggle = MainButton(editor, main_buttons::OriginalSize);
+    toggle.Pressed = !toggle.Pressed;
+    if (toggle.Pressed)
+        EnterOriginalSize(editor);
+    else
+        LeaveOriginalSize(editor);
+    editor.Host.ControlsChanged();
+}
+
+void StartZoomIn(Editor& editor) {
+    editor.View.Zoom = 0;
+    editor.ZoomStep = -0.2;
+    editor.ZoomTarget = 1;
+    editor.Host.StartZoomAnimation();
+}
+
+bool TickZoomAnimation(Editor& editor) {
+    double& zoom = editor.View.Zoom;
+    zoom = document::RoundToTenth(zoom - editor.ZoomStep);
+    const bool done = editor.ZoomStep <= 0 ? zoom >= editor.ZoomTarget : zoom <= editor.ZoomTarget;
+    if (done)
+        zoom = editor.ZoomTarget;
+    DrawScene(editor);
+    return done;
+}
+
+}  // namespace orbelle::editing
