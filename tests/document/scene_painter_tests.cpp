@@ -46,8 +46,11 @@ TEST(View, ALargePageMovesLeftAsTheBarMovesRight) {
     Document document;
     document.PageWidth = 300;
     document.PageHeight = 20;
-    View view{.SceneWidth = 100, .SceneHeight = 60, .Zoom = 1};
-    view.Hs1 = {.Value = 2, .Max = 10};
+    View view;
+    view.SceneWidth = 100;
+    view.SceneHeight = 60;
+    view.Zoom = 1;
+    view.Hs1.Value = 2;
     EXPECT_DOUBLE_EQ(PageOffsetX(document, view), -40);
     EXPECT_DOUBLE_EQ(PageOffsetY(document, view), 20);
 }

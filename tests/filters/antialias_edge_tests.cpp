@@ -59,8 +59,9 @@ TEST(AntialiasEdge, NeverChangesAPixelThatIsNotTransparent) {
         AntialiasEdge(after);
         for (int y = 0; y < before.Height(); ++y)
             for (int x = 0; x < before.Width(); ++x)
-                if (graphics::AlphaOf(*before.GetPixel(x, y)) != 0)
+                if (graphics::AlphaOf(*before.GetPixel(x, y)) != 0) {
                     ASSERT_EQ(after.GetPixel(x, y), before.GetPixel(x, y));
+                }
     }
 }
 

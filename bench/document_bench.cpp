@@ -1,0 +1,104 @@
+// Composing, painting the scene, snapshots.
+#include <benchmark/benchmark.h>
+
+#include "bench_pictures.h"
+#include "document/compositor.h"
+#include "document/scene_painter.h"
+#include "document/undo_history.h"
+
+namespace orbelle::bench {
+namespace {
+
+constexpr auto kNearest = graphics::InterpolationMode::NearestNeighbor;
+
+// Everything from nothing: arguments are layers and content.
+void ComposeWhole(benchmark::State& state) {
+    const int layers = static_cast<int>(state.range(0));
+    auto document = MakeDocument(static_cast<Content>(state.range(1)), 512, layers, 0.9F);
+    for (auto _ : state) {
+        document::Compositor compositor;
+        graphics::DIBSave canvas;
+        compositor.Compose(document, kNearest, canvas);
+        benchmark::DoNotOptimize(canvas.new_Img.Pixels());
+    }
+    state.SetItemsProcessed(state.iterations() * layers * 512 * 512);
+}
+BENCHMARK(ComposeWhole)
+    ->ArgsProduct({{1, 10, 50},
+                   {static_cast<int>(Content::Opaque), static_cast<int>(Content::HalfTransparent),
+                    static_cast<int>(Content::MostlyEmpty)}})
+    ->ArgNames({"layers", "content"})
+    ->Unit(benchmark::kMicrosecond);
+
+// One step of a drag: arguments are the content and the layer of fifty that moves.
+void ComposeOneOfFifty(benchmark::State& state) {
+    auto document = MakeDocument(static_cast<Content>(state.range(0)), 512, 50, 0.9F);
+    document::IconLayer& moved = document.Layers[static_cast<std::size_t>(state.range(1))];
+    document::Compositor compositor;
+    graphics::DIBSave canvas;
+    float x = 0;
+    for (int i = 0; i < 3; ++i) {
+        moved.Rect.X = (x = 1 - x);
+        compositor.Compose(document, kNearest, canvas);
+    }
+    for (auto _ : state) {
+        moved.Rect.X = (x = 1 - x);
+        compositor.Compose(document, kNearest, canvas);
+    }
+}
+BENCHMARK(ComposeOneOfFifty)
+    ->ArgsProduct({{static_cast<int>(Content::HalfTransparent),
+                    static_cast<int>(Content::MostlyEmpty)},
+                   {0, 25, 49}})
+    ->ArgNames({"content", "layer"})
+    ->Unit(benchmark::kMicrosecond);
+
+// The same with a small layer that moves on top of fifty full ones.
+void ComposeSmallLayerOverFifty(benchmark::State& state) {
+    auto document = MakeDocument(Content::HalfTransparent, 512, 50);
+    document::MakeImageLayer(document, document.Layers.emplace_back(),
+                             MakePicture(Content::Icon, 48));
+    document::Compositor compositor;
+    graphics::DIBSave canvas;
+    float x = 0;
+    for (auto _ : state) {
+        document.Layers.back().Rect.X = (x = 1 - x);
+        compositor.Compose(document, kNearest, canvas);
+    }
+}
+BENCHMARK(ComposeSmallLayerOverFifty)->Unit(benchmark::kMicrosecond);
+
+void Snapshot50Layers(benchmark::State& state) {
+    auto document = MakeDocument(Content::Icon, 64, 50);
+    for (auto& layer : document.Layers)
+        layer.Image = graphics::Bitmap(512, 512);
+    document::UndoHistory history;
+    for (auto _ : state) {
+        if (history.UndoIndex() == document::UndoHistory::kMaxSnapshots)
+            history.ClearHistory();
+        history.PushSnapshot(document);
+    }
+}
+BENCHMARK(Snapshot50Layers)->Unit(benchmark::kMicrosecond);
+
+// On a scene of 1600 x 1000 pixels.
+void PaintScene(benchmark::State& state) {
+    document::Document document = MakeDocument(Content::Icon, 512, 1);
+    document::Compositor compositor;
+    graphics::DIBSave canvas;
+    compositor.Compose(document, kNearest, canvas);
+    document::View view;
+    view.SceneWidth = 1600;
+    view.SceneHeight = 1000;
+    view.Zoom = static_cast<double>(state.range(0));
+    view.ViewActive = true;
+    graphics::Bitmap scene;
+    for (auto _ : state) {
+        document::DrawScene(scene, canvas.new_Img, document, view);
+        benchmark::DoNotOptimize(scene.Pixels());
+    }
+}
+BENCHMARK(PaintScene)->Arg(1)->Arg(8)->ArgName("zoom")->Unit(benchmark::kMicrosecond);
+
+}  // namespace
+}  // namespace orbelle::bench
