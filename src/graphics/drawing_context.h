@@ -36,7 +36,7 @@ public:
     void FillPath(const Brush& brush, const Path& path);
 
     // The outline of the rectangle, hard-edged: at width 1 that of Width + 1 by Height + 1 pixels.
-    // Negative width or height: nothing.
+    // Negative width or height, or both zero: nothing.
     void DrawRectangle(const Pen& pen, const RectF& rect);
 
     // Pixel for pixel with its top left at (x, y), which may be fractions.

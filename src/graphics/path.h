@@ -35,7 +35,9 @@ public:
     // Closed figures of their own. An ellipse is four Bézier curves from its right-most point on,
     // clockwise on screen, with control points 4/3 (sqrt 2 - 1) of the radius away.
     void AddEllipse(const RectF& box);
+    // Zero or negative width or height: nothing.
     void AddRectangle(const RectF& rect);
+    // Fewer than three points: nothing.
     void AddPolygon(std::span<const PointF> points);
     // Closes every open figure.
     void CloseFigures();

@@ -20,7 +20,9 @@ public:
     Region() = default;
     static Region Infinite();
     static Region Empty();
+    // Zero or negative width or height, or not a number: an empty region.
     static Region FromRect(const RectF& rect);
+    // A null path gives no region. Outlines end two largest bitmaps away from the origin.
     static Region FromPath(const Path& path);
     // From rectangles of whole pixels that do not overlap, in time linear in their number when they
     // come by rows from the top, left to right.
@@ -28,6 +30,7 @@ public:
 
     bool IsNull() const { return !node_; }
 
+    // Combining with no region changes nothing; no region takes only a replacement.
     void CombineRect(const RectF& rect, CombineMode mode);
     void Combine(const Region& other, CombineMode mode);
     void Translate(float dx, float dy);

@@ -10,7 +10,10 @@ TEST(Bitmap, NewOnesAreZeroAndRefuseSizesOutsideTheLimits) {
     EXPECT_EQ(bitmap.GetPixel(2, 1), Argb{0});
     EXPECT_EQ(bitmap.GetPixel(3, 1), std::nullopt);
     EXPECT_FALSE(bitmap.SetPixel(-1, 0, 1));
-    for (auto [width, height] : {std::pair{0, 5}, {5, 0}, {-1, 5}, {kMaxBitmapSide + 1, 1},
+    for (auto [width, height] : {std::pair{0, 5},
+                                 {5, 0},
+                                 {-1, 5},
+                                 {kMaxBitmapSide + 1, 1},
                                  {kMaxBitmapSide, kMaxBitmapSide}}) {
         EXPECT_TRUE(Bitmap(width, height).IsEmpty()) << width << " x " << height;
     }

@@ -1,0 +1,33 @@
+// Painting runs of pixels with a brush.
+#pragma once
+
+#include <cstdint>
+#include <vector>
+
+#include "graphics/brush.h"
+#include "graphics/geometry.h"
+
+namespace orbelle::graphics {
+
+// The colours of a brush for the pixels of `area`, worked out once for each column or row.
+// Gradients are evaluated at (x + offset, y + offset).
+class BrushRows {
+public:
+    BrushRows(const Brush& brush, double offset, const RectI& area);
+
+    // Blends the brush over `count` pixels of row y from column x on, its alpha times coverage /
+    // 255, rounded. `pixels` points at the first; the run has to lie in the area.
+    void Blend(Argb* pixels, int x, int y, int count, unsigned coverage = 255) const;
+    // The same with a coverage for each pixel.
+    void Blend(Argb* pixels, int x, int y, int count, const std::uint8_t* coverage) const;
+
+private:
+    Argb ColorAt(int x, int y) const;
+
+    RectI area_;
+    Argb solid_ = 0;
+    std::vector<Argb> columns_;  // only for a horizontal gradient
+    std::vector<Argb> rows_;     // only for a vertical gradient
+};
+
+}  // namespace orbelle::graphics

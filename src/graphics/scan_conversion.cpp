@@ -1,0 +1,130 @@
+#include "graphics/scan_conversion.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace orbelle::graphics {
+namespace {
+
+// A polygon's edge, downwards, with the rows whose centres it spans.
+struct Edge {
+    double X;  // the upper end
+    double Y;
+    double Dx;  // from there to the lower end
+    double Dy;
+    int Winding;  // 1 when the polygon runs down here, -1 when up
+    int FirstRow;
+    int EndRow;
+
+    // Multiplies before it divides, which leaves crossings at whole numbers exact.
+    double CrossingAt(double y) const { return X + (y - Y) * Dx / Dy; }
+};
+
+struct Crossing {
+    double X;
+    int Winding;
+};
+
+// The first pixel whose centre is not before the coordinate, held between `low` and `high`.
+int FirstCentre(double coordinate, double offset, int low, int high) {
+    const double first = std::ceil(coordinate - offset);
+    return static_cast<int>(std::clamp(first, double(low), double(high)));
+}
+
+std::vector<Edge> EdgesOf(std::span<const FlatFigure> figures, double offset, int top, int bottom) {
+    std::vector<Edge> edges;
+    for (const FlatFigure& figure : figures) {
+        if (!IsFinite(figure))
+            continue;
+        for (std::size_t i = 0; i < figure.Points.size(); ++i) {
+            PointF a = figure.Points[i];
+            PointF b = figure.Points[i + 1 < figure.Points.size() ? i + 1 : 0];
+            const int winding = a.Y < b.Y ? 1 : -1;
+            if (winding < 0)
+                std::swap(a, b);
+            const int firstRow = FirstCentre(a.Y, offset, top, bottom);
+            const int endRow = FirstCentre(b.Y, offset, top, bottom);
+            if (firstRow < endRow) {
+                edges.push_back(
+                    {a.X, a.Y, double{b.X} - a.X, double{b.Y} - a.Y, winding, firstRow, endRow});
+            }
+        }
+    }
+    std::sort(edges.begin(), edges.end(),
+              [](const Edge& a, const Edge& b) { return a.FirstRow < b.FirstRow; });
+    return edges;
+}
+
+// Turns the sorted crossings of one row into runs.
+void AppendRuns(std::vector<RectI>& runs, std::span<const Crossing> crossings, FillMode fillMode,
+                double offset, int row, const RectI& within) {
+    const int right = within.X + within.Width;
+    int winding = 0;
+    for (std::size_t i = 0; i + 1 < crossings.size(); ++i) {
+        winding += crossings[i].Winding;
+        const bool inside = fillMode == FillMode::Winding ? winding != 0 : i % 2 == 0;
+        if (!inside)
+            continue;
+        const int from = FirstCentre(crossings[i].X, offset, within.X, right);
+        const int end = FirstCentre(crossings[i + 1].X, offset, within.X, right);
+        if (from >= end)
+            continue;
+        if (!runs.empty() && runs.back().Y == row && runs.back().X + runs.back().Width == from)
+            runs.back().Width += end - from;
+        else
+            runs.push_back({from, row, end - from, 1});
+    }
+}
+
+}  // namespace
+
+Edges EdgesOf(const RectF& rect) {
+    const float right = rect.X + rect.Width;
+    const float bottom = rect.Y + rect.Height;
+    return {rect.X, rect.Y, right, bottom};
+}
+
+RectI PixelsInside(const Edges& edges, double offset, const RectI& within) {
+    // Written so that not-a-number fails.
+    if (!(edges.Left < edges.Right && edges.Top < edges.Bottom) || within.IsEmpty())
+        return {};
+    const int right = within.X + within.Width, bottom = within.Y + within.Height;
+    const int x = FirstCentre(edges.Left, offset, within.X, right);
+    const int y = FirstCentre(edges.Top, offset, within.Y, bottom);
+    const RectI pixels{x, y, FirstCentre(edges.Right, offset, within.X, right) - x,
+                       FirstCentre(edges.Bottom, offset, within.Y, bottom) - y};
+    return pixels.IsEmpty() ? RectI{} : pixels;
+}
+
+std::vector<RectI> PixelsInside(std::span<const FlatFigure> figures, FillMode fillMode,
+                                double offset, const RectI& within) {
+    std::vector<RectI> runs;
+    if (within.IsEmpty())
+        return runs;
+    const std::vector<Edge> edges = EdgesOf(figures, offset, within.Y, within.Y + within.Height);
+    std::vector<const Edge*> active;
+    std::vector<Crossing> crossings;
+    auto next = edges.begin();
+    for (int row = 0; next != edges.end() || !active.empty(); ++row) {
+        if (active.empty())
+            row = next->FirstRow;
+        for (; next != edges.end() && next->FirstRow == row; ++next)
+            active.push_back(&*next);
+        crossings.clear();
+        for (const Edge* edge : active)
+            crossings.push_back({edge->CrossingAt(row + offset), edge->Winding});
+        std::sort(crossings.begin(), crossings.end(),
+                  [](const Crossing& a, const Crossing& b) { return a.X < b.X; });
+        AppendRuns(runs, crossings, fillMode, offset, row, within);
+        std::erase_if(active, [&](const Edge* edge) { return edge->EndRow == row + 1; });
+    }
+    return runs;
+}
+
+bool IsFinite(const FlatFigure& figure) {
+    return std::all_of(figure.Points.begin(), figure.Points.end(), [](PointF point) {
+        return std::isfinite(point.X) && std::isfinite(point.Y);
+    });
+}
+
+}  // namespace orbelle::graphics

@@ -1,0 +1,48 @@
+// An editor with a recording host and a folder for its files.
+#pragma once
+
+#include <gmock/gmock.h>
+
+#include "editing/document_commands.h"
+#include "editing/editor.h"
+#include "graphics/file_io.h"
+#include "graphics/image_files.h"
+#include "support/pictures.h"
+#include "support/recording_host.h"
+#include "support/temporary_folder.h"
+
+namespace orbelle::editing {
+
+class EditingTest : public ::testing::Test {
+protected:
+    EditingTest() { setenv("XDG_CACHE_HOME", (folder / "cache").c_str(), 1); }
+
+    // A PNG file of one colour.
+    std::filesystem::path Picture(const std::string& name, int width, int height,
+                                  graphics::Argb color = 0xFF204060) {
+        const std::filesystem::path path = folder / name;
+        graphics::WriteFile(path,
+                            graphics::EncodePng(testing::FilledPicture(width, height, color)));
+        return path;
+    }
+
+    void NewPage(int width, int height) {
+        host.Size = PageSize{width, height};
+        New(editor);
+    }
+
+    void OpenFile(const std::filesystem::path& path) {
+        host.File = path;
+        Open(editor);
+    }
+
+    document::IconLayer& Layer(int index) {
+        return editor.Document.Layers.at(static_cast<std::size_t>(index));
+    }
+
+    testing::TemporaryFolder folder;
+    testing::RecordingHost host;
+    Editor editor{host};
+};
+
+}  // namespace orbelle::editing

@@ -1,0 +1,146 @@
+#include "graphics/scan_conversion.h"
+
+#include <gtest/gtest.h>
+
+#include <limits>
+
+#include "support/pixel_runs.h"
+
+namespace orbelle::graphics {
+namespace {
+
+constexpr RectI kArea{0, 0, 32, 32};
+constexpr double kNone = 0, kHalf = 0.5;
+
+Path Ellipse(const RectF& box) {
+    Path path(FillMode::Alternate);
+    path.AddEllipse(box);
+    return path;
+}
+
+Path Polygon(std::vector<PointF> points, FillMode mode = FillMode::Alternate) {
+    Path path(mode);
+    path.AddPolygon(points);
+    return path;
+}
+
+// A square of the given side with rounded corners, its top left at the origin.
+Path RoundedPlate(float side, float radius) {
+    const float k = radius * (1 - 0.5522847f), far = side - radius, end = side;
+    Path path(FillMode::Alternate);
+    path.AddBezier({0, radius}, {0, k}, {k, 0}, {radius, 0});
+    path.AddBezier({far, 0}, {end - k, 0}, {end, k}, {end, radius});
+    path.AddBezier({end, far}, {end, end - k}, {end - k, end}, {far, end});
+    path.AddBezier({radius, end}, {k, end}, {0, end - k}, {0, far});
+    path.CloseFigures();
+    return path;
+}
+
+std::string Runs(const Path& path, double offset, const RectI& within = kArea) {
+    return PixelRuns(PixelsInside(path.Flatten(), path.Fill(), offset, within));
+}
+
+TEST(PixelsInside, BoxesTakeLeftAndTopEdgesOnly) {
+    const struct {
+        RectF Rect;
+        double Offset;
+        RectI Expected;
+    } cases[] = {
+        {{1, 1, 2, 2}, kNone, {1, 1, 2, 2}},
+        {{1, 1, 2, 2}, kHalf, {1, 1, 2, 2}},
+        {{1.25f, 1.25f, 2, 2}, kNone, {2, 2, 2, 2}},
+        {{1.5f, 1.5f, 2, 2}, kNone, {2, 2, 2, 2}},
+        {{1.5f, 1.5f, 2, 2}, kHalf, {1, 1, 2, 2}},
+        {{10.1f, 10.1f, 0.9f, 0.9f}, kNone, {}},
+        {{-5, -5, 8, 100}, kNone, {0, 0, 3, 32}},
+        {{40, 0, 5, 5}, kNone, {}},
+        {{1, 1, 0, 5}, kNone, {}},
+        {{1, 1, 5, -2}, kNone, {}},
+        {{1, 1, std::numeric_limits<float>::quiet_NaN(), 5}, kNone, {}},
+        {{-3e38f, -3e38f, 3.4e38f, 3.4e38f}, kHalf, {0, 0, 32, 32}},
+    };
+    for (const auto& test : cases) {
+        EXPECT_EQ(PixelsInside(EdgesOf(test.Rect), test.Offset, kArea), test.Expected)
+            << test.Rect.X << " " << test.Rect.Width << " offset " << test.Offset;
+    }
+}
+
+TEST(PixelsInside, Figures) {
+    const struct {
+        const char* Name;
+        Path Figure;
+        const char* None;
+        const char* Half;
+    } cases[] = {
+        {"ellipse 4 x 4", Ellipse({1, 1, 4, 4}), "2: 2-4; 3: 1-4; 4: 2-4",
+         "1: 2-3; 2-3: 1-4; 4: 2-3"},
+        {"ellipse 5 x 5", Ellipse({1, 1, 5, 5}), "2-5: 2-5", "1: 2-4; 2-4: 1-5; 5: 2-4"},
+        {"ellipse 10 x 8", Ellipse({1, 1, 10, 8}), "2: 3-9; 3-4: 2-10; 5: 1-10; 6-7: 2-10; 8: 3-9",
+         "1: 4-7; 2: 2-9; 3-6: 1-10; 7: 2-9; 8: 4-7"},
+        {"triangle", Polygon({{1, 1}, {8, 1}, {1, 8}}),
+         "1: 1-7; 2: 1-6; 3: 1-5; 4: 1-4; 5: 1-3; 6: 1-2; 7: 1",
+         "1: 1-6; 2: 1-5; 3: 1-4; 4: 1-3; 5: 1-2; 6: 1"},
+        {"diamond", Polygon({{4, 1}, {7, 4}, {4, 7}, {1, 4}}),
+         "2: 3-4; 3: 2-5; 4: 1-6; 5: 2-5; 6: 3-4", "1: 3; 2: 2-4; 3-4: 1-5; 5: 2-4; 6: 3"},
+        {"rectangle", Polygon({{1, 1}, {1, 3}, {3, 3}, {3, 1}}), "1-2: 1-2", "1-2: 1-2"},
+    };
+    for (const auto& test : cases) {
+        EXPECT_EQ(Runs(test.Figure, kNone), test.None) << test.Name;
+        EXPECT_EQ(Runs(test.Figure, kHalf), test.Half) << test.Name;
+    }
+    EXPECT_EQ(Runs(RoundedPlate(24, 4), kHalf), "0: 2-21; 1: 1-22; 2-21: 0-23; 22: 1-22; 23: 2-21");
+}
+
+// Many of these edges meet rows at whole numbers, where a rounding error would move a pixel from
+// one shape to the other.
+TEST(PixelsInside, TwoSidesOfAnEdgeMeetWhereExactArithmeticSays) {
+    for (int height = 1; height <= 32; ++height) {
+        for (int width = 1; width <= 32; ++width) {
+            const auto x = static_cast<float>(width), y = static_cast<float>(height);
+            std::vector<RectI> left, right;
+            for (int row = 0; row < height; ++row) {
+                const int edge = (row * width + height - 1) / height;
+                if (edge > 0)
+                    left.push_back({0, row, edge, 1});
+                if (edge < 32)
+                    right.push_back({edge, row, 32 - edge, 1});
+            }
+            const Path triangle = Polygon({{0, 0}, {x, y}, {0, y}});
+            EXPECT_EQ(PixelsInside(triangle.Flatten(), FillMode::Alternate, kNone, kArea), left);
+            const Path rest = Polygon({{0, 0}, {32, 0}, {32, y}, {x, y}});
+            EXPECT_EQ(PixelsInside(rest.Flatten(), FillMode::Winding, kNone, kArea), right);
+        }
+    }
+}
+
+TEST(PixelsInside, FillModesDifferWhereOutlinesOverlap) {
+    const std::vector<PointF> windsTwice{{1, 1}, {9, 1}, {9, 9}, {3, 9},
+                                         {3, 3}, {6, 3}, {6, 6}, {1, 6}};
+    EXPECT_EQ(Runs(Polygon(windsTwice), 0), "1-2: 1-8; 3-5: 1-2 6-8; 6-8: 3-8");
+    EXPECT_EQ(Runs(Polygon(windsTwice, FillMode::Winding), 0), "1-5: 1-8; 6-8: 3-8");
+}
+
+TEST(PixelsInside, RunsAreCutToTheAreaAndDoNotTouch) {
+    const Path path = Polygon({{-100, -100}, {100, -100}, {100, 100}, {-100, 100}});
+    EXPECT_EQ(Runs(path, 0, {4, 5, 3, 2}), "5-6: 4-6");
+    Path halves(FillMode::Alternate);
+    halves.AddRectangle({1, 1, 3, 1});
+    halves.AddRectangle({4, 1, 3, 1});
+    const std::vector<RectI> runs = PixelsInside(halves.Flatten(), halves.Fill(), 0, kArea);
+    EXPECT_EQ(runs, (std::vector<RectI>{{1, 1, 6, 1}}));
+}
+
+TEST(PixelsInside, HostileCoordinatesAreHarmless) {
+    constexpr float huge = std::numeric_limits<float>::max();
+    constexpr float infinity = std::numeric_limits<float>::infinity();
+    EXPECT_EQ(Runs(Polygon({{-huge, -huge}, {huge, -huge}, {huge, huge}, {-huge, huge}}), 0),
+              "0-31: 0-31");
+    for (float bad : {infinity, -infinity, std::numeric_limits<float>::quiet_NaN()}) {
+        Path path = Polygon({{0, 0}, {bad, 0}, {8, 8}, {0, 8}});
+        path.AddRectangle({2, 2, 2, 1});
+        EXPECT_EQ(Runs(path, 0), "2: 2-3");
+    }
+}
+
+}  // namespace
+}  // namespace orbelle::graphics

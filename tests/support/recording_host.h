@@ -1,0 +1,50 @@
+// A host for tests: answers from a list, and notes what it was told.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "editing/editor_host.h"
+
+namespace orbelle::testing {
+
+class RecordingHost : public editing::EditorHost {
+public:
+    // Answers.
+    editing::SavePromptAnswer SaveAnswer = editing::SavePromptAnswer::No;
+    std::optional<editing::PageSize> Size;
+    std::filesystem::path File;
+    bool ConfirmAnswer = true;
+
+    // Notes.
+    std::vector<std::string> Messages;
+    std::vector<std::string> Statuses;
+    std::vector<std::string> Questions;
+    std::vector<std::string> Filters;
+    std::vector<int> Tips;
+    int SavePrompts = 0;
+    int Animations = 0;
+    int Busy = 0;
+
+    void ShowTips(int tip) override { Tips.push_back(tip); }
+    void SetBusyPointer(bool busy) override { Busy += busy ? 1 : -1; }
+    void StartZoomAnimation() override { ++Animations; }
+    void ShowMessage(const std::string& text) override { Messages.push_back(text); }
+    void ShowStatus(const std::string& text) override { Statuses.push_back(text); }
+    editing::SavePromptAnswer AskSave() override {
+        ++SavePrompts;
+        return SaveAnswer;
+    }
+    std::optional<editing::PageSize> AskPageSize() override { return Size; }
+    std::filesystem::path ShowFileDialog(const std::string& filter, bool) override {
+        Filters.push_back(filter);
+        return File;
+    }
+    bool Confirm(const std::string& text, const std::string& title) override {
+        Questions.push_back(title + ": " + text);
+        return ConfirmAnswer;
+    }
+};
+
+}  // namespace orbelle::testing
