@@ -7,6 +7,7 @@
 #include "graphics/errors.h"
 #include "graphics/file_io.h"
 #include "graphics/image_files.h"
+#include "support/pictures.h"
 #include "support/temporary_folder.h"
 
 namespace orbelle::formats {
@@ -16,15 +17,10 @@ using graphics::Argb;
 using graphics::Bitmap;
 using graphics::RectF;
 using ::testing::ElementsAre;
+using testing::FilledPicture;
 
 constexpr Argb kRed = 0xFFFF0000;
 constexpr Argb kBlue = 0xFF0000FF;
-
-Bitmap MakePage(int width, int height, Argb color) {
-    Bitmap page(width, height);
-    std::fill_n(page.MutablePixels(), width * height, color);
-    return page;
-}
 
 TEST(IconSizesFor, FollowTheLargerSide) {
     const struct {
@@ -109,7 +105,7 @@ TEST_F(ExportTest, PngAndBmpStandOnTheBackground) {
 }
 
 TEST_F(ExportTest, AnIconHoldsThePageInTransparentSquares) {
-    const Bitmap page = MakePage(512, 100, kBlue);
+    const Bitmap page = FilledPicture(512, 100, kBlue);
     std::vector<Bitmap> pictures;
     for (int size : {256, 128, 64, 48, 32, 24, 16})
         pictures.push_back(DrawIconPicture(page, size));
@@ -126,7 +122,7 @@ TEST_F(ExportTest, AnIconHoldsThePageInTransparentSquares) {
 }
 
 TEST_F(ExportTest, SettingsChooseSizesAndFormatOfAnIcon) {
-    const Bitmap page = MakePage(15, 15, kBlue);
+    const Bitmap page = FilledPicture(15, 15, kBlue);
     ExportImage(path_, FileTypes::Ico, page, 0, {{32, 15}, IconFormat::Png});
     const Bitmap pictures[] = {DrawIconPicture(page, 32), page};
     EXPECT_EQ(pictures[0].GetPixel(8, 22), kBlue);
@@ -138,14 +134,14 @@ TEST_F(ExportTest, SettingsChooseSizesAndFormatOfAnIcon) {
 TEST_F(ExportTest, APageTooSmallForAnIconLeavesTheOldFile) {
     const std::vector<std::uint8_t> old = {'o', 'l', 'd'};
     graphics::WriteFile(path_, old);
-    ExportImage(path_, FileTypes::Ico, MakePage(15, 15, kBlue), 0);
+    ExportImage(path_, FileTypes::Ico, FilledPicture(15, 15, kBlue), 0);
     EXPECT_EQ(graphics::ReadFile(path_), old);
     EXPECT_FALSE(std::filesystem::exists(SizesFolder()));
 }
 
 TEST_F(ExportTest, ThePicturesOfAnIconStayInTheCacheFolder) {
     for (Argb color : {kRed, kBlue}) {
-        const Bitmap page = MakePage(24, 24, color);
+        const Bitmap page = FilledPicture(24, 24, color);
         ExportImage(path_, FileTypes::Ico, page, 0);
         const Bitmap scratch = graphics::LoadImageFromFile(folder_ / "cache/Sizes/temp24.png");
         EXPECT_EQ(scratch.GetPixel(23, 23), color);
@@ -156,16 +152,16 @@ TEST_F(ExportTest, ThePicturesOfAnIconStayInTheCacheFolder) {
 
 TEST_F(ExportTest, ACacheFolderThatCannotBeWrittenStopsNoExport) {
     graphics::WriteFile(folder_ / "cache", std::vector<std::uint8_t>{1});
-    ExportImage(path_, FileTypes::Ico, MakePage(16, 16, kBlue), 0);
+    ExportImage(path_, FileTypes::Ico, FilledPicture(16, 16, kBlue), 0);
     EXPECT_TRUE(std::filesystem::exists(path_));
     // A picture's name that is taken by a folder.
     setenv("XDG_CACHE_HOME", (folder_ / "other").c_str(), 1);
     std::filesystem::create_directories(SizesFolder() / "temp16.png");
-    EXPECT_NO_THROW(ExportImage(path_, FileTypes::Ico, MakePage(16, 16, kBlue), 0));
+    EXPECT_NO_THROW(ExportImage(path_, FileTypes::Ico, FilledPicture(16, 16, kBlue), 0));
 }
 
 TEST_F(ExportTest, FailuresOfTheOutputAreTold) {
-    const Bitmap page = MakePage(16, 16, kBlue);
+    const Bitmap page = FilledPicture(16, 16, kBlue);
     const auto nowhere = folder_ / "missing" / "x";
     EXPECT_THROW(ExportImage(nowhere, FileTypes::Ico, page, 0), graphics::FileError);
     EXPECT_THROW(ExportImage(nowhere, FileTypes::Png, page, 0), graphics::FileError);

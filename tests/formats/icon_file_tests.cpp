@@ -30,19 +30,17 @@ TEST(IconFile, ABitmapEntryStandsByteForByte) {
     picture.SetPixel(1, 0, 0x00445566);
     picture.SetPixel(0, 1, 0x80778899);
     picture.SetPixel(1, 1, 0xFFAABBCC);
+    // clang-format off
     const Bytes expected = {
-        0,    0,    1,    0,    1,    0,  // directory
-        2,    2,    0,    0,    1,    0,    32,   0,    64,   0,    0,
-        0,    22,   0,    0,    0,  // entry
-        40,   0,    0,    0,    2,    0,    0,    0,    4,    0,    0,
-        0,    1,    0,    32,   0,  // bitmap header
-        0,    0,    0,    0,    0,    0,    0,    0,    0,    0,    0,
-        0,    0,    0,    0,    0,    0,    0,    0,    0,    0,    0,
-        0,    0,    0x99, 0x88, 0x77, 0x80, 0xCC, 0xBB, 0xAA, 0xFF,  // the lower row
-        0x33, 0x22, 0x11, 0xFF, 0x66, 0x55, 0x44, 0x00,              // the upper row
-        0,    0,    0,    0,                                         // its mask
-        0x40, 0,    0,    0,
+        0, 0, 1, 0, 1, 0,                                         // directory
+        2, 2, 0, 0,  1, 0, 32, 0,  64, 0, 0, 0,  22, 0, 0, 0,     // entry
+        40, 0, 0, 0,  2, 0, 0, 0,  4, 0, 0, 0,  1, 0, 32, 0,      // bitmap header
+        0, 0, 0, 0,  0, 0, 0, 0,  0, 0, 0, 0,  0, 0, 0, 0,  0, 0, 0, 0,  0, 0, 0, 0,
+        0x99, 0x88, 0x77, 0x80,  0xCC, 0xBB, 0xAA, 0xFF,          // the lower row
+        0x33, 0x22, 0x11, 0xFF,  0x66, 0x55, 0x44, 0x00,          // the upper row
+        0, 0, 0, 0,  0x40, 0, 0, 0,                               // mask
     };
+    // clang-format on
     EXPECT_THAT(EncodeIcon({&picture, 1}, IconFormat::Bmp), ElementsAreArray(expected));
 }
 

@@ -94,25 +94,22 @@ TEST(VolfStore, StandsInTheFileByteForByte) {
     document.Layers = {layer};
     const Bytes file = EncodeDocument(document);
 
-    const Bytes header = {'v', 'o', 'l',  'f',  ' ',  1,    0,    'O',  'r', 'b', 'e', 'l',
-                          'l', 'e', 'W',  'o',  'r',  'k',  0x2C, 0x01, 0,   0,   200, 0,
-                          0,   0,   0x20, 0x40, 0x80, 0xFF, 1,    0,    0,   0};
-    const Bytes record = {
-        1,    0,    0,    0,    2, 0, 0,    0,                             // hue, contrast
-        3,    0,    0,    0,    4, 0, 0,    0,                             // brightness, saturation
-        1,    0,    0,    0,                                               // image height
-        0,    0,    0,    0x3F,                                            // opacity
-        0,    0,    0x80, 0x3F, 0, 0, 0,    0x40,                          // base rectangle
-        0,    0,    0x40, 0x40, 0, 0, 0x80, 0x40, 1,    0,    0,    0,     // image width
-        0,    0,    0x80, 0xBF, 0, 0, 0,    0x3F,                          // rectangle
-        0,    0,    0x80, 0x3F, 0, 0, 0x80, 0x3F, 0xFD, 0xFF, 0xFF, 0xFF,  // scale
-        0xFF, 0xFF, 0,    0,  // visible, clips the next layer
-        0,    0,    0,    0,  // path
+    // clang-format off
+    const Bytes start = {
+        'v', 'o', 'l', 'f', ' ', 1, 0, 'O', 'r', 'b', 'e', 'l', 'l', 'e', 'W', 'o', 'r', 'k',
+        0x2C, 0x01, 0, 0,  200, 0, 0, 0,                                        // page size
+        0x20, 0x40, 0x80, 0xFF,  1, 0, 0, 0,                                    // background, count
+        1, 0, 0, 0,  2, 0, 0, 0,  3, 0, 0, 0,  4, 0, 0, 0,                      // sliders
+        1, 0, 0, 0,  0, 0, 0, 0x3F,                                             // height, opacity
+        0, 0, 0x80, 0x3F,  0, 0, 0, 0x40,  0, 0, 0x40, 0x40,  0, 0, 0x80, 0x40,  // base rectangle
+        1, 0, 0, 0,                                                             // width
+        0, 0, 0x80, 0xBF,  0, 0, 0, 0x3F,  0, 0, 0x80, 0x3F,  0, 0, 0x80, 0x3F,  // rectangle
+        0xFD, 0xFF, 0xFF, 0xFF,  0xFF, 0xFF, 0, 0,  0, 0, 0, 0,                 // scale, flags, path
     };
+    // clang-format on
     Bytes picture = graphics::EncodePng(layer.Image);
     ASSERT_EQ(file.size(), kHeaderBytes + kLayerBytes + picture.size() + 1);
-    EXPECT_THAT(Bytes(file.begin(), file.begin() + 34), ElementsAreArray(header));
-    EXPECT_THAT(Bytes(file.begin() + 34, file.begin() + 34 + 72), ElementsAreArray(record));
+    EXPECT_THAT(Bytes(file.begin(), file.begin() + kPictureBytesAt), ElementsAreArray(start));
     EXPECT_EQ(file[kPictureBytesAt] + 256 * file[kPictureBytesAt + 1],
               static_cast<int>(picture.size()));
     picture.push_back(0);
