@@ -26,9 +26,11 @@ Bitmap LoadImageFromFile(const std::filesystem::path& path);
 Bitmap DecodeImage(std::span<const std::uint8_t> bytes);
 
 // 8-bit RGBA straight from the pixels, colours under alpha 0 kept (Rgb24 bitmaps: 8-bit RGB).
+// An empty bitmap gives no bytes.
 std::vector<std::uint8_t> EncodePng(const Bitmap& image);
 
-// 24 bits, bottom-up, uncompressed, 3780 pixels a metre; alpha is dropped.
+// 24 bits, bottom-up, uncompressed, 3780 pixels a metre; alpha is dropped. An empty bitmap
+// gives no bytes.
 std::vector<std::uint8_t> EncodeBmp(const Bitmap& image);
 
 }  // namespace orbelle::graphics

@@ -2,8 +2,9 @@
 
 #include <gmock/gmock.h>
 
+#include <bit>
 #include <cstring>
-#include <limits>
+#include <tuple>
 
 #include "graphics/errors.h"
 #include "graphics/file_io.h"
@@ -133,30 +134,16 @@ TEST(VolfStore, LayersComeBackWithNeutralSliders) {
     read.Layers.resize(5);
     read.SelectedLayer = 4;
     DecodeDocument(file, read);
-    EXPECT_EQ(read.PageWidth, 64);
-    EXPECT_EQ(read.PageHeight, 48);
-    EXPECT_EQ(read.PageBackground, 0x80102030);
-    EXPECT_EQ(read.SelectedLayer, document::kNoLayer);
     ASSERT_EQ(read.LayerCount(), 2);
+    EXPECT_EQ(read.SelectedLayer, document::kNoLayer);
     const IconLayer& first = read.Layers[0];
-    EXPECT_EQ(first.Hue, 0);
-    EXPECT_EQ(first.Contrast, 50);
-    EXPECT_EQ(first.Brightness, 50);
-    EXPECT_EQ(first.Saturation, 40);
-    EXPECT_EQ(first.Opacity, 0.25f);
-    EXPECT_EQ(first.BaseRect, (RectF{1, 2, 3, 4}));
-    EXPECT_EQ(first.Rect, (RectF{10, 20, 3, 1}));
-    EXPECT_EQ(first.ScaleValue, 50);
-    EXPECT_EQ(first.ImageWidth, 3);
-    EXPECT_EQ(first.ImageHeight, 1);
-    EXPECT_FALSE(first.Visible);
-    EXPECT_TRUE(first.ClipNextLayer);
+    EXPECT_EQ(std::tuple(first.Hue, first.Contrast, first.Brightness, first.Saturation),
+              std::tuple(0, 50, 50, 40));
     EXPECT_TRUE(first.Path.IsNull());
-    EXPECT_EQ(first.Image.GetPixel(0, 0), 0xFF112233);
     EXPECT_EQ(first.Image.GetPixel(1, 0), 0x00445566u);
-    EXPECT_EQ(first.Image.GetPixel(2, 0), 0x01778899u);
-    EXPECT_TRUE(read.Layers[1].Visible);
-    EXPECT_FALSE(read.Layers[1].ClipNextLayer);
+    // All else is what was saved.
+    ResetLayerAdjust(layer);
+    EXPECT_EQ(EncodeDocument(read), EncodeDocument(saved));
     // Pixels 0 and 2 are visible; regions lie one pixel to the left of what they stand for.
     EXPECT_EQ(first.Region.Bounds(), (RectF{9, 20, 3, 1}));
     EXPECT_FALSE(first.Region.IsVisiblePoint(10, 20));
@@ -226,9 +213,8 @@ TEST(VolfStore, AFileCutShortKeepsItsWholeLayers) {
 }
 
 TEST(VolfStore, HostileNumbersEndTheReading) {
-    constexpr auto kNoNumber = std::numeric_limits<float>::quiet_NaN();
-    constexpr auto kInfinity = std::numeric_limits<float>::infinity();
-    const auto bits = [](float value) { return std::bit_cast<std::int32_t>(value); };
+    constexpr std::int32_t kNoNumber = 0x7FC00000;  // as a float
+    constexpr std::int32_t kInfinity = 0x7F800000;
     const struct {
         std::size_t Offset;
         std::int32_t Value;
@@ -245,10 +231,10 @@ TEST(VolfStore, HostileNumbersEndTheReading) {
         {kPictureBytesAt, -1, "layer 0: the file is cut short", 0},
         {kPictureBytesAt, INT32_MIN, "layer 0: the file is cut short", 0},
         {kPictureBytesAt, INT32_MAX, "layer 0: the file is cut short", 0},
-        {kRectAt, bits(kNoNumber), "layer 0: its rectangle", 0},
-        {kRectAt + 12, bits(kInfinity), "layer 0: its rectangle", 0},
-        {kBaseRectAt + 4, bits(-5e6f), "layer 0: its rectangle", 0},
-        {kOpacityAt, bits(kNoNumber), "layer 0: its opacity", 0},
+        {kRectAt, kNoNumber, "layer 0: its rectangle", 0},
+        {kRectAt + 12, kInfinity, "layer 0: its rectangle", 0},
+        {kBaseRectAt + 4, std::bit_cast<std::int32_t>(-5e6f), "layer 0: its rectangle", 0},
+        {kOpacityAt, kNoNumber, "layer 0: its opacity", 0},
     };
     for (const auto& [offset, value, problem, layers] : cases) {
         Bytes file = EncodeDocument(TwoLayers());

@@ -1,0 +1,159 @@
+#include <gmock/gmock.h>
+#include <png.h>
+
+#include <algorithm>
+#include <random>
+
+#include "graphics/decoding.h"
+#include "graphics/image_files.h"
+
+namespace orbelle::graphics {
+namespace {
+
+using testing::StartsWith;
+
+struct PngPicture {
+    int Width;
+    int Height;
+    int Depth;
+    int ColorType;
+    std::vector<std::uint8_t> Rows;  // as the file holds them
+    std::vector<png_color> Palette = {};
+    std::vector<std::uint8_t> PaletteAlpha = {};
+    png_color_16p TransparentColor = nullptr;
+    bool Interlaced = false;
+};
+
+// With `Rows` empty the file ends where the pixels would begin.
+FileBytes MakePng(const PngPicture& picture) {
+    FileBytes file;
+    png_structp png = png_create_write_struct(PNG_LIBPNG_VER_STRING, nullptr, nullptr, nullptr);
+    png_infop info = png_create_info_struct(png);
+    const auto append = [](png_structp p, png_bytep data, std::size_t count) {
+        auto* to = static_cast<FileBytes*>(png_get_io_ptr(p));
+        to->insert(to->end(), data, data + count);
+    };
+    png_set_write_fn(png, &file, append, nullptr);
+    png_set_IHDR(png, info, picture.Width, picture.Height, picture.Depth, picture.ColorType,
+                 picture.Interlaced ? PNG_INTERLACE_ADAM7 : PNG_INTERLACE_NONE, 0, 0);
+    png_set_gAMA(png, info, 1.0);  // readers that heed it would change the colours
+    png_set_pHYs(png, info, 1000, 2000, PNG_RESOLUTION_METER);
+    if (!picture.Palette.empty())
+        png_set_PLTE(png, info, picture.Palette.data(), static_cast<int>(picture.Palette.size()));
+    if (!picture.PaletteAlpha.empty() || picture.TransparentColor)
+        png_set_tRNS(png, info, picture.PaletteAlpha.data(),
+                     static_cast<int>(picture.PaletteAlpha.size()), picture.TransparentColor);
+    png_write_info(png, info);
+    if (picture.Rows.empty()) {
+        file.insert(file.end(), {0, 0, 0, 0, 'I', 'D', 'A', 'T'});
+    } else {
+        const std::size_t stride = picture.Rows.size() / picture.Height;
+        std::vector<png_bytep> rows;
+        for (int y = 0; y < picture.Height; ++y)
+            rows.push_back(const_cast<png_bytep>(picture.Rows.data() + y * stride));
+        png_write_image(png, rows.data());
+        png_write_end(png, info);
+    }
+    png_destroy_write_struct(&png, &info);
+    return file;
+}
+
+Bitmap RandomPicture(int width, int height, PixelFormat format) {
+    Bitmap image(width, height, format);
+    std::mt19937 random(1);
+    std::generate_n(image.MutablePixels(), width * height, [&] {
+        return static_cast<Argb>(random()) | (format == PixelFormat::Rgb24 ? 0xFF000000 : 0);
+    });
+    return image;
+}
+
+TEST(PngDecoder, ReadsAllColorTypesAndDepths) {
+    const std::vector<png_color> kPalette = {{0x10, 0x20, 0x30}, {0x40, 0x50, 0x60}, {1, 2, 3}};
+    const std::vector<png_color> kTwoColors(kPalette.begin(), kPalette.begin() + 2);
+    png_color_16 grey2 = {};
+    grey2.gray = 2;
+    png_color_16 grey16 = {};
+    grey16.gray = 0x1234;
+    png_color_16 rgb = {};
+    rgb.red = 1, rgb.green = 2, rgb.blue = 3;
+    const struct {
+        PngPicture Picture;
+        std::vector<Argb> Pixels;
+    } kCases[] = {
+        {{3, 1, 1, PNG_COLOR_TYPE_GRAY, {0b10100000}}, {0xFFFFFFFF, 0xFF000000, 0xFFFFFFFF}},
+        {{2, 1, 2, PNG_COLOR_TYPE_GRAY, {0b01100000}, {}, {}, &grey2}, {0xFF555555, 0x00AAAAAA}},
+        {{2, 1, 4, PNG_COLOR_TYPE_GRAY, {0x2F}}, {0xFF222222, 0xFFFFFFFF}},
+        {{2, 1, 8, PNG_COLOR_TYPE_GRAY, {0x2F, 0x80}}, {0xFF2F2F2F, 0xFF808080}},
+        {{2, 1, 16, PNG_COLOR_TYPE_GRAY, {0x12, 0x34, 0x12, 0xFF}, {}, {}, &grey16},
+         {0x00121212, 0xFF121212}},
+        {{1, 2, 8, PNG_COLOR_TYPE_RGB, {1, 2, 3, 1, 2, 4}, {}, {}, &rgb}, {0x00010203, 0xFF010204}},
+        {{1, 1, 16, PNG_COLOR_TYPE_RGB, {1, 0xFF, 2, 0x80, 3, 0x7F}}, {0xFF010203}},
+        {{2, 1, 1, PNG_COLOR_TYPE_PALETTE, {0b01000000}, kTwoColors}, {0xFF102030, 0xFF405060}},
+        {{3, 1, 2, PNG_COLOR_TYPE_PALETTE, {0b00011000}, kPalette, {0, 0x80}},
+         {0x00102030, 0x80405060, 0xFF010203}},
+        {{2, 1, 4, PNG_COLOR_TYPE_PALETTE, {0x21}, kPalette}, {0xFF010203, 0xFF405060}},
+        {{2, 1, 8, PNG_COLOR_TYPE_PALETTE, {0, 2}, kPalette, {7}}, {0x07102030, 0xFF010203}},
+        {{1, 1, 8, PNG_COLOR_TYPE_GRAY_ALPHA, {0x2F, 0}}, {0x002F2F2F}},
+        {{1, 1, 16, PNG_COLOR_TYPE_GRAY_ALPHA, {0x2F, 0xFF, 0x7F, 0xFF}}, {0x7F2F2F2F}},
+        {{2, 1, 8, PNG_COLOR_TYPE_RGB_ALPHA, {1, 2, 3, 0, 4, 5, 6, 0xFE}},
+         {0x00010203, 0xFE040506}},
+        {{1, 1, 16, PNG_COLOR_TYPE_RGB_ALPHA, {1, 0xFF, 2, 0, 3, 0, 4, 0xFF}}, {0x04010203}},
+    };
+    for (const auto& [picture, pixels] : kCases) {
+        EXPECT_EQ(PixelsOf(DecodeImage(MakePng(picture))), pixels)
+            << "colour type " << picture.ColorType << ", depth " << picture.Depth;
+    }
+}
+
+TEST(PngDecoder, ReadsInterlacedPictures) {
+    const int kSide = 11;  // all seven passes, with uneven ends
+    PngPicture picture{kSide, kSide, 8, PNG_COLOR_TYPE_RGB, {}};
+    picture.Interlaced = true;
+    std::vector<Argb> expected;
+    for (int i = 0; i < kSide * kSide; ++i) {
+        picture.Rows.insert(picture.Rows.end(), {std::uint8_t(i), std::uint8_t(2 * i), 7});
+        expected.push_back(MakeARGB(255, i, 2 * i & 0xFF, 7));
+    }
+    EXPECT_EQ(PixelsOf(DecodeImage(MakePng(picture))), expected);
+}
+
+TEST(PngDecoder, RefusesSizesBeforeTakingMemory) {
+    EXPECT_THAT(ProblemOf(MakePng({100000, 100000, 8, PNG_COLOR_TYPE_RGB, {}})),
+                StartsWith("the picture claims 100000 x 100000 pixels, more than"));
+    EXPECT_EQ(ProblemOf(MakePng({16384, 4096, 8, PNG_COLOR_TYPE_RGB, {}})),
+              "the PNG picture is cut short or damaged: too little data for its size");
+}
+
+TEST(PngDecoder, CutOrDamagedFilesThrow) {
+    PngPicture picture{
+        5,  4, 8, PNG_COLOR_TYPE_PALETTE, std::vector<std::uint8_t>(20, 1), {{1, 2, 3}, {4, 5, 6}},
+        {9}};
+    for (bool interlaced : {false, true}) {
+        picture.Interlaced = interlaced;
+        FileBytes file = MakePng(picture);
+        ExpectCutsToThrow(file, file.size() - 12);  // only the end chunk may be missing
+        ExpectToSurviveDamage(file);
+    }
+    FileBytes file = MakePng(picture);
+    file[file.size() - 20] ^= 1;  // in the pixels
+    EXPECT_THAT(ProblemOf(file), StartsWith("the PNG picture is cut short or damaged: "));
+}
+
+TEST(PngCodec, RoundTripsKeepEveryBit) {
+    for (auto format : {PixelFormat::Argb32, PixelFormat::Rgb24}) {
+        Bitmap image = RandomPicture(211, 97, format);
+        image.SetPixel(5, 5, 0x00FEDCBA);
+        FileBytes file = EncodePng(image);
+        const std::size_t kColorTypeAt = 25;
+        EXPECT_EQ(file[kColorTypeAt],
+                  format == PixelFormat::Rgb24 ? PNG_COLOR_TYPE_RGB : PNG_COLOR_TYPE_RGB_ALPHA);
+        file.push_back(0);  // bytes after the end don't matter
+        const Bitmap decoded = DecodeImage(file);
+        EXPECT_EQ(decoded.Width(), 211);
+        EXPECT_EQ(PixelsOf(decoded), PixelsOf(image));
+    }
+    EXPECT_TRUE(EncodePng({}).empty());
+}
+
+}  // namespace
+}  // namespace orbelle::graphics
