@@ -20,11 +20,12 @@ public:
 // The whole file as bytes, little-endian, layers from the bottom up.
 std::vector<std::uint8_t> EncodeDocument(const document::Document& document);
 
-// Replaces page size, background and layers of `document` with what the bytes hold; adjustment
-// sliders come back neutral, each layer's Region is built from its picture and moved to its place.
+// Replaces page size, background and layers of `document` with what the bytes hold, none selected.
+// Adjustment sliders come back neutral, each layer's Region is built from its picture and moved to
+// its place; a picture that can't be decoded comes back transparent.
 // Throws InvalidFile with nothing changed when the bytes do not begin like a document, and
-// std::runtime_error, with all whole layers before the fault in place, when they are cut short or
-// hold what memory or the limits cannot hold.
+// std::runtime_error when they are cut short or hold what memory or the limits cannot hold: with
+// nothing changed when that shows in the header, else with all whole layers before it in place.
 void DecodeDocument(std::span<const std::uint8_t> bytes, document::Document& document);
 
 // The same with a file. Throw graphics::FileError besides; Load puts the path before the problem of

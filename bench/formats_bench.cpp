@@ -1,0 +1,89 @@
+#include <benchmark/benchmark.h>
+
+#include <cstdlib>
+#include <filesystem>
+
+#include "formats/export_image.h"
+#include "formats/volf_store.h"
+
+namespace orbelle {
+namespace {
+
+namespace fs = std::filesystem;
+using graphics::Bitmap;
+
+// A shaded disc with a soft edge on nothing, with a little grain, as painted icons have.
+Bitmap MakeIconPicture(int side) {
+    Bitmap picture(side, side);
+    const int radius = side / 2;
+    unsigned grain = 1;
+    for (int y = 0; y < side; ++y) {
+        graphics::Argb* row = picture.MutableRow(y);
+        for (int x = 0; x < side; ++x) {
+            const int dx = x - radius, dy = y - radius;
+            const int inside = (radius * radius - dx * dx - dy * dy) / radius;
+            if (inside <= 0)
+                continue;
+            grain = grain * 1664525 + 1013904223;
+            const unsigned shade = static_cast<unsigned>(255 * y / side);
+            row[x] = graphics::MakeARGB(static_cast<unsigned>(std::min(255, inside * 16)),
+                                        255 - shade, shade / 2 + (grain >> 30), 96);
+        }
+    }
+    return picture;
+}
+
+document::Document MakeDocument() {
+    document::Document document;
+    document.PageWidth = document.PageHeight = 512;
+    for (int i = 0; i < 10; ++i) {
+        document::IconLayer layer;
+        layer.Image = MakeIconPicture(512);
+        layer.ImageWidth = layer.ImageHeight = 512;
+        layer.Rect = layer.BaseRect = {static_cast<float>(i), 0, 512, 512};
+        document.Layers.push_back(layer);
+    }
+    return document;
+}
+
+void EncodeTenLayers(benchmark::State& state) {
+    const document::Document document = MakeDocument();
+    for (auto _ : state)
+        benchmark::DoNotOptimize(formats::EncodeDocument(document));
+}
+BENCHMARK(EncodeTenLayers)->Unit(benchmark::kMillisecond);
+
+void DecodeTenLayers(benchmark::State& state) {
+    const auto file = formats::EncodeDocument(MakeDocument());
+    document::Document document;
+    for (auto _ : state)
+        formats::DecodeDocument(file, document);
+    state.counters["bytes"] = static_cast<double>(file.size());
+}
+BENCHMARK(DecodeTenLayers)->Unit(benchmark::kMillisecond);
+
+void DrawAndEncodeIcon(benchmark::State& state) {
+    const Bitmap page = MakeIconPicture(512);
+    for (auto _ : state) {
+        std::vector<Bitmap> pictures;
+        for (int size : formats::IconSizesFor(512, 512))
+            pictures.push_back(formats::DrawIconPicture(page, size));
+        benchmark::DoNotOptimize(formats::EncodeIcon(pictures, formats::IconFormat::Bmp));
+    }
+}
+BENCHMARK(DrawAndEncodeIcon)->Unit(benchmark::kMillisecond);
+
+// With the files: the icon and the pictures in the cache folder.
+void ExportIcon(benchmark::State& state) {
+    const fs::path folder = fs::temp_directory_path() / "orbelle-bench";
+    setenv("XDG_CACHE_HOME", folder.c_str(), 1);
+    fs::create_directories(folder);
+    const Bitmap page = MakeIconPicture(512);
+    for (auto _ : state)
+        formats::ExportImage(folder / "icon.ico", formats::FileTypes::Ico, page, 0);
+    fs::remove_all(folder);
+}
+BENCHMARK(ExportIcon)->Unit(benchmark::kMillisecond);
+
+}  // namespace
+}  // namespace orbelle

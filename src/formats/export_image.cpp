@@ -1,0 +1,136 @@
+#include "formats/export_image.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <stdexcept>
+#include <system_error>
+
+#include "graphics/drawing_context.h"
+#include "graphics/errors.h"
+#include "graphics/file_io.h"
+#include "graphics/image_files.h"
+
+namespace orbelle::formats {
+namespace {
+
+namespace fs = std::filesystem;
+using graphics::Argb;
+using graphics::Bitmap;
+
+constexpr int kIconSides[] = {256, 128, 64, 48, 32, 24, 16};
+constexpr Argb kWhite = 0xFFFFFFFF;
+
+// The page over a colour, in a surface of its own.
+Bitmap DrawOver(Argb background, const Bitmap& page, graphics::PixelFormat format) {
+    Bitmap surface(page.Width(), page.Height(), format);
+    graphics::DrawingContext context(surface);
+    context.Clear(background);
+    context.DrawImage(page, 0, 0);
+    return surface;
+}
+
+// Nobody needs these pictures, so a folder that can't be written is no failure.
+void LeaveInSizesFolder(const std::vector<Bitmap>& pictures) {
+    const fs::path folder = SizesFolder();
+    std::error_code error;
+    fs::create_directories(folder, error);
+    if (error || folder.empty())
+        return;
+    for (const Bitmap& picture : pictures) {
+        const std::string name = "temp" + std::to_string(picture.Width()) + ".png";
+        try {
+            graphics::WriteFile(folder / name, graphics::EncodePng(picture));
+        } catch (const graphics::FileError&) {
+            return;
+        }
+    }
+}
+
+void ExportIcon(const fs::path& path, const Bitmap& page, const ExportSettings& settings) {
+    const std::vector<int> sizes =
+        settings.IconSizes.empty() ? IconSizesFor(page.Width(), page.Height()) : settings.IconSizes;
+    if (sizes.empty())
+        return;
+    std::vector<Bitmap> pictures;
+    for (int size : sizes)
+        pictures.push_back(DrawIconPicture(page, size));
+    graphics::WriteFile(path, EncodeIcon(pictures, settings.IconPictures));
+    LeaveInSizesFolder(pictures);
+}
+
+}  // namespace
+
+std::vector<int> IconSizesFor(int pageWidth, int pageHeight) {
+    const int side = std::max(pageWidth, pageHeight);
+    const auto* largest =
+        std::ranges::find_if(kIconSides, [side](int size) { return size <= side; });
+    return {largest, std::end(kIconSides)};
+}
+
+graphics::RectF FitIntoBox(float sourceWidth, float sourceHeight, float boxWidth, float boxHeight) {
+    int width, height;
+    const float rx = boxWidth / sourceWidth;
+    const float ry = boxHeight / sourceHeight;
+    if (sourceWidth <= boxWidth && sourceHeight <= boxHeight) {
+        width = graphics::RoundToEven(sourceWidth);
+        height = graphics::RoundToEven(sourceHeight);
+    } else if (rx < ry) {
+        width = graphics::RoundToEven(boxWidth);
+        height = graphics::RoundToEven(rx * sourceHeight);
+    } else {
+        height = graphics::RoundToEven(boxHeight);
+        width = graphics::RoundToEven(ry * sourceWidth);
+    }
+    const int x = graphics::RoundToEven(boxWidth - static_cast<float>(width)) / 2;
+    const int y = graphics::RoundToEven(boxHeight - static_cast<float>(height)) / 2;
+    return {static_cast<float>(x), static_cast<float>(y), static_cast<float>(width),
+            static_cast<float>(height)};
+}
+
+Bitmap DrawIconPicture(const Bitmap& page, int size) {
+    Bitmap square(size, size);
+    graphics::DrawingContext context(square);
+    context.SetInterpolationMode(graphics::InterpolationMode::HighQuality);
+    const auto side = static_cast<float>(size);
+    context.DrawImageRect(page, FitIntoBox(static_cast<float>(page.Width()),
+                                           static_cast<float>(page.Height()), side, side));
+    return square;
+}
+
+void ExportImage(const fs::path& path, FileTypes fileType, const Bitmap& page, Argb pageBackground,
+                 const ExportSettings& settings) {
+    using graphics::PixelFormat;
+    if (page.IsEmpty())
+        throw graphics::FileError(path, "there is no page to export");
+    switch (fileType) {
+        case FileTypes::Png:
+            return graphics::WriteFile(
+                path, EncodePng(DrawOver(pageBackground, page, PixelFormat::Argb32)));
+        case FileTypes::Bmp:
+            return graphics::WriteFile(
+                path, EncodeBmp(DrawOver(pageBackground != 0 ? pageBackground : kWhite, page,
+                                         PixelFormat::Rgb24)));
+        case FileTypes::Ico:
+            return ExportIcon(path, page, settings);
+        case FileTypes::Gif:
+            throw std::invalid_argument("GIF export is not available.");
+        case FileTypes::Jpeg:
+            throw std::invalid_argument("JPEG export is not available.");
+    }
+}
+
+fs::path SizesFolder() {
+#ifdef _WIN32
+    const wchar_t* folder = _wgetenv(L"LOCALAPPDATA");
+    return folder ? fs::path(folder) / "Sizes" : fs::path();
+#else
+    // A relative cache folder counts as none.
+    const char* cache = std::getenv("XDG_CACHE_HOME");
+    if (cache && fs::path(cache).is_absolute())
+        return fs::path(cache) / "Sizes";
+    const char* home = std::getenv("HOME");
+    return home && fs::path(home).is_absolute() ? fs::path(home) / ".cache" / "Sizes" : fs::path();
+#endif
+}
+
+}  // namespace orbelle::formats

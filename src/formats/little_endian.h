@@ -1,0 +1,49 @@
+// Numbers as they stand in files: little-endian, not aligned.
+#pragma once
+
+#include <bit>
+#include <cstdint>
+#include <cstring>
+#include <span>
+#include <stdexcept>
+#include <type_traits>
+#include <vector>
+
+namespace orbelle::formats {
+
+static_assert(std::endian::native == std::endian::little);
+
+// Puts the number at the end. Its type is always said at the call, for it is the width in the file.
+template <typename Number>
+void Append(std::vector<std::uint8_t>& bytes, std::type_identity_t<Number> value) {
+    const std::size_t end = bytes.size();
+    bytes.resize(end + sizeof value);
+    std::memcpy(bytes.data() + end, &value, sizeof value);
+}
+
+// Goes through bytes that someone else keeps. Throws std::runtime_error, without moving on, when
+// fewer are left than asked for.
+class ByteReader {
+public:
+    explicit ByteReader(std::span<const std::uint8_t> bytes) : left_(bytes) {}
+
+    std::span<const std::uint8_t> Take(std::size_t count) {
+        if (count > left_.size())
+            throw std::runtime_error("the file is cut short");
+        const auto taken = left_.first(count);
+        left_ = left_.subspan(count);
+        return taken;
+    }
+
+    template <typename Number>
+    Number Read() {
+        Number value;
+        std::memcpy(&value, Take(sizeof value).data(), sizeof value);
+        return value;
+    }
+
+private:
+    std::span<const std::uint8_t> left_;
+};
+
+}  // namespace orbelle::formats

@@ -1,0 +1,182 @@
+#include "formats/export_image.h"
+
+#include <gmock/gmock.h>
+
+#include <cstdlib>
+
+#include "graphics/errors.h"
+#include "graphics/file_io.h"
+#include "graphics/image_files.h"
+#include "support/pictures.h"
+#include "support/temporary_folder.h"
+
+namespace orbelle::formats {
+namespace {
+
+using graphics::Argb;
+using graphics::Bitmap;
+using graphics::RectF;
+using ::testing::ElementsAre;
+using testing::FilledPicture;
+
+constexpr Argb kRed = 0xFFFF0000;
+constexpr Argb kBlue = 0xFF0000FF;
+
+TEST(IconSizesFor, FollowTheLargerSide) {
+    const struct {
+        int Width, Height;
+        std::size_t Count;
+        int Largest;
+    } cases[] = {
+        {512, 100, 7, 256}, {256, 1, 7, 256}, {255, 255, 6, 128}, {1, 128, 6, 128}, {127, 1, 5, 64},
+        {64, 64, 5, 64},    {63, 1, 4, 48},   {48, 48, 4, 48},    {47, 1, 3, 32},   {32, 32, 3, 32},
+        {31, 1, 2, 24},     {24, 16, 2, 24},  {23, 23, 1, 16},    {16, 16, 1, 16},
+    };
+    for (const auto& [width, height, count, largest] : cases) {
+        const std::vector<int> sizes = IconSizesFor(width, height);
+        ASSERT_EQ(sizes.size(), count) << width << " x " << height;
+        EXPECT_EQ(sizes.front(), largest);
+        EXPECT_EQ(sizes.back(), 16);
+    }
+    EXPECT_THAT(IconSizesFor(600, 9), ElementsAre(256, 128, 64, 48, 32, 24, 16));
+    EXPECT_TRUE(IconSizesFor(15, 15).empty());
+}
+
+TEST(FitIntoBox, ShrinksToTheSideThatBindsAndCentres) {
+    const struct {
+        float Width, Height, Box;
+        RectF Place;
+    } cases[] = {
+        {512, 100, 256, {0, 103, 256, 50}},
+        {512, 100, 16, {0, 6, 16, 3}},
+        {100, 512, 256, {103, 0, 50, 256}},
+        {24, 16, 24, {0, 4, 24, 16}},
+        {24, 16, 16, {0, 2, 16, 11}},
+        {512, 512, 48, {0, 0, 48, 48}},
+        {16, 16, 256, {120, 120, 16, 16}},
+        {13, 16, 16, {1, 0, 13, 16}},
+        {512, 1, 16, {0, 8, 16, 0}},
+        // Ties go to the even number.
+        {16, 5, 8, {0, 3, 8, 2}},
+        {16, 7, 8, {0, 2, 8, 4}},
+        {5, 16, 8, {3, 0, 2, 8}},
+        {10.5f, 3.5f, 16, {3, 6, 10, 4}},
+    };
+    for (const auto& [width, height, box, place] : cases)
+        EXPECT_EQ(FitIntoBox(width, height, box, box), place) << width << " x " << height;
+}
+
+class ExportTest : public ::testing::Test {
+protected:
+    void SetUp() override { setenv("XDG_CACHE_HOME", (folder_ / "cache").c_str(), 1); }
+
+    Bitmap Exported(FileTypes type, const Bitmap& page, Argb background) const {
+        ExportImage(path_, type, page, background);
+        return graphics::LoadImageFromFile(path_);
+    }
+
+    const testing::TemporaryFolder folder_;
+    const std::filesystem::path path_ = folder_ / "exported";
+};
+
+TEST_F(ExportTest, PngAndBmpStandOnTheBackground) {
+    Bitmap page(2, 1);
+    page.SetPixel(0, 0, kBlue);
+    page.SetPixel(1, 0, 0x00445566);
+    const struct {
+        FileTypes Type;
+        Argb Background;
+        Argb Uncovered;
+    } cases[] = {
+        {FileTypes::Png, kRed, kRed},
+        {FileTypes::Png, 0, 0},
+        {FileTypes::Png, 0x80FF0000, 0x80FF0000},
+        {FileTypes::Bmp, kRed, kRed},
+        {FileTypes::Bmp, 0, 0xFFFFFFFF},
+        {FileTypes::Bmp, 0x00FF0000, kRed},
+    };
+    for (const auto& [type, background, uncovered] : cases) {
+        const Bitmap picture = Exported(type, page, background);
+        EXPECT_EQ(picture.Width(), 2);
+        EXPECT_EQ(picture.Height(), 1);
+        EXPECT_EQ(picture.GetPixel(0, 0), kBlue);
+        EXPECT_EQ(picture.GetPixel(1, 0), uncovered) << static_cast<int>(type) << background;
+    }
+}
+
+TEST_F(ExportTest, AnIconHoldsThePageInTransparentSquares) {
+    const Bitmap page = FilledPicture(512, 100, kBlue);
+    std::vector<Bitmap> pictures;
+    for (int size : {256, 128, 64, 48, 32, 24, 16})
+        pictures.push_back(DrawIconPicture(page, size));
+    for (int y = 0; y < 256; ++y) {
+        const Argb expected = y >= 103 && y < 153 ? kBlue : 0;
+        for (int x : {0, 128, 255})
+            ASSERT_EQ(pictures[0].GetPixel(x, y), expected) << x << ", " << y;
+    }
+    for (int y = 0; y < 16; ++y)
+        EXPECT_EQ(pictures[6].GetPixel(15, y), y >= 6 && y < 9 ? kBlue : 0) << y;
+
+    ExportImage(path_, FileTypes::Ico, page, kRed);
+    EXPECT_EQ(graphics::ReadFile(path_), EncodeIcon(pictures, IconFormat::Bmp));
+}
+
+TEST_F(ExportTest, SettingsChooseSizesAndFormatOfAnIcon) {
+    const Bitmap page = FilledPicture(15, 15, kBlue);
+    ExportImage(path_, FileTypes::Ico, page, 0, {{32, 15}, IconFormat::Png});
+    const Bitmap pictures[] = {DrawIconPicture(page, 32), page};
+    EXPECT_EQ(pictures[0].GetPixel(8, 22), kBlue);
+    EXPECT_EQ(pictures[0].GetPixel(7, 22), 0u);
+    EXPECT_EQ(pictures[0].GetPixel(23, 23), 0u);
+    EXPECT_EQ(graphics::ReadFile(path_), EncodeIcon(pictures, IconFormat::Png));
+}
+
+TEST_F(ExportTest, APageTooSmallForAnIconLeavesTheOldFile) {
+    const std::vector<std::uint8_t> old = {'o', 'l', 'd'};
+    graphics::WriteFile(path_, old);
+    ExportImage(path_, FileTypes::Ico, FilledPicture(15, 15, kBlue), 0);
+    EXPECT_EQ(graphics::ReadFile(path_), old);
+    EXPECT_FALSE(std::filesystem::exists(SizesFolder()));
+}
+
+TEST_F(ExportTest, ThePicturesOfAnIconStayInTheCacheFolder) {
+    for (Argb color : {kRed, kBlue}) {
+        const Bitmap page = FilledPicture(24, 24, color);
+        ExportImage(path_, FileTypes::Ico, page, 0);
+        const Bitmap scratch = graphics::LoadImageFromFile(folder_ / "cache/Sizes/temp24.png");
+        EXPECT_EQ(scratch.GetPixel(23, 23), color);
+    }
+    const std::filesystem::directory_iterator files(SizesFolder());
+    EXPECT_EQ(std::distance(begin(files), end(files)), 2);
+}
+
+TEST_F(ExportTest, ACacheFolderThatCannotBeWrittenStopsNoExport) {
+    graphics::WriteFile(folder_ / "cache", std::vector<std::uint8_t>{1});
+    ExportImage(path_, FileTypes::Ico, FilledPicture(16, 16, kBlue), 0);
+    EXPECT_TRUE(std::filesystem::exists(path_));
+    // A picture's name that is taken by a folder.
+    setenv("XDG_CACHE_HOME", (folder_ / "other").c_str(), 1);
+    std::filesystem::create_directories(SizesFolder() / "temp16.png");
+    EXPECT_NO_THROW(ExportImage(path_, FileTypes::Ico, FilledPicture(16, 16, kBlue), 0));
+}
+
+TEST_F(ExportTest, FailuresOfTheOutputAreTold) {
+    const Bitmap page = FilledPicture(16, 16, kBlue);
+    const auto nowhere = folder_ / "missing" / "x";
+    EXPECT_THROW(ExportImage(nowhere, FileTypes::Ico, page, 0), graphics::FileError);
+    EXPECT_THROW(ExportImage(nowhere, FileTypes::Png, page, 0), graphics::FileError);
+    EXPECT_THROW(ExportImage(path_, FileTypes::Png, Bitmap(), 0), graphics::FileError);
+    EXPECT_THROW(ExportImage(path_, FileTypes::Gif, page, 0), std::invalid_argument);
+    EXPECT_FALSE(std::filesystem::exists(path_));
+}
+
+TEST_F(ExportTest, ARelativeCacheFolderCountsAsNone) {
+    setenv("XDG_CACHE_HOME", "relative", 1);
+    const std::string home = std::getenv("HOME") ? std::getenv("HOME") : "";
+    setenv("HOME", "/home/someone", 1);
+    EXPECT_EQ(SizesFolder(), "/home/someone/.cache/Sizes");
+    setenv("HOME", home.c_str(), 1);
+}
+
+}  // namespace
+}  // namespace orbelle::formats

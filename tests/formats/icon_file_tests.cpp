@@ -1,0 +1,139 @@
+#include "formats/icon_file.h"
+
+#include <gmock/gmock.h>
+
+#include "graphics/errors.h"
+#include "graphics/file_io.h"
+#include "graphics/image_files.h"
+#include "support/temporary_folder.h"
+
+namespace orbelle::formats {
+namespace {
+
+using graphics::Bitmap;
+using ::testing::ElementsAre;
+using ::testing::ElementsAreArray;
+using ::testing::HasSubstr;
+using Bytes = std::vector<std::uint8_t>;
+
+constexpr int kDirectoryBytes = 6;
+constexpr int kEntryBytes = 16;
+
+Bytes Part(const Bytes& bytes, std::size_t offset, std::size_t count) {
+    const auto start = bytes.begin() + static_cast<std::ptrdiff_t>(offset);
+    return {start, start + static_cast<std::ptrdiff_t>(count)};
+}
+
+TEST(IconFile, ABitmapEntryStandsByteForByte) {
+    Bitmap picture(2, 2);
+    picture.SetPixel(0, 0, 0xFF112233);
+    picture.SetPixel(1, 0, 0x00445566);
+    picture.SetPixel(0, 1, 0x80778899);
+    picture.SetPixel(1, 1, 0xFFAABBCC);
+    // clang-format off
+    const Bytes expected = {
+        0, 0, 1, 0, 1, 0,                                         // directory
+        2, 2, 0, 0,  1, 0, 32, 0,  64, 0, 0, 0,  22, 0, 0, 0,     // entry
+        40, 0, 0, 0,  2, 0, 0, 0,  4, 0, 0, 0,  1, 0, 32, 0,      // bitmap header
+        0, 0, 0, 0,  0, 0, 0, 0,  0, 0, 0, 0,  0, 0, 0, 0,  0, 0, 0, 0,  0, 0, 0, 0,
+        0x99, 0x88, 0x77, 0x80,  0xCC, 0xBB, 0xAA, 0xFF,          // the lower row
+        0x33, 0x22, 0x11, 0xFF,  0x66, 0x55, 0x44, 0x00,          // the upper row
+        0, 0, 0, 0,  0x40, 0, 0, 0,                               // mask
+    };
+    // clang-format on
+    EXPECT_THAT(EncodeIcon({&picture, 1}, IconFormat::Bmp), ElementsAreArray(expected));
+}
+
+TEST(IconFile, MaskRowsAreFilledUpToFourBytes) {
+    Bitmap picture(33, 1);
+    for (int x : {1, 2, 3, 4, 5, 6, 7, 31})
+        picture.SetPixel(x, 0, 0x01000000);
+    const Bytes icon = EncodeIcon({&picture, 1}, IconFormat::Bmp);
+    EXPECT_THAT(Part(icon, icon.size() - 8, 8), ElementsAre(0x80, 0xFF, 0xFF, 0xFE, 0x80, 0, 0, 0));
+}
+
+TEST(IconFile, TheFormatDecidesWhichPicturesArePng) {
+    const Bitmap pictures[] = {Bitmap(256, 255), Bitmap(16, 16, graphics::PixelFormat::Rgb24)};
+    const struct {
+        IconFormat Format;
+        bool FirstIsPng;
+        bool SecondIsPng;
+    } cases[] = {{IconFormat::Bmp, false, false},
+                 {IconFormat::Png256, true, false},
+                 {IconFormat::Png, true, true}};
+    for (const auto& [format, firstIsPng, secondIsPng] : cases) {
+        const Bytes icon = EncodeIcon(pictures, format);
+        EXPECT_THAT(Part(icon, 0, kDirectoryBytes), ElementsAre(0, 0, 1, 0, 2, 0));
+        EXPECT_THAT(Part(icon, 6, 2), ElementsAre(0, 255));
+        EXPECT_THAT(Part(icon, 22, 2), ElementsAre(16, 16));
+        std::size_t end = kDirectoryBytes + 2 * kEntryBytes;
+        for (int i = 0; i < 2; ++i) {
+            const std::uint8_t* entry = icon.data() + kDirectoryBytes + i * kEntryBytes;
+            const std::size_t size = entry[8] + 256u * entry[9] + 65536u * entry[10];
+            const std::size_t start = entry[12] + 256u * entry[13] + 65536u * entry[14];
+            EXPECT_EQ(start, end);
+            end = start + size;
+            ASSERT_LE(end, icon.size());
+            const Bytes data = Part(icon, start, size);
+            if (i == 0 ? firstIsPng : secondIsPng) {
+                EXPECT_EQ(graphics::DecodeImage(data).Width(), pictures[i].Width());
+                EXPECT_EQ(data[25], 6) << "32 bits with alpha";
+            } else {
+                EXPECT_EQ(data[0], 40);
+            }
+        }
+        EXPECT_EQ(end, icon.size());
+    }
+}
+
+TEST(IconFile, RefusesWhatNoEntryCanHold) {
+    const std::vector<Bitmap> cases[] = {{}, {Bitmap()}, {Bitmap(257, 1)}, {Bitmap(1, 257)}};
+    for (const auto& pictures : cases)
+        EXPECT_THROW(EncodeIcon(pictures, IconFormat::Bmp), std::invalid_argument);
+}
+
+class PngToIco : public ::testing::Test {
+protected:
+    std::filesystem::path WritePicture(const char* name, const Bitmap& picture) {
+        graphics::WriteFile(folder_ / name, graphics::EncodePng(picture));
+        return folder_ / name;
+    }
+
+    const testing::TemporaryFolder folder_;
+    const std::filesystem::path output_ = folder_ / "out.ico";
+};
+
+TEST_F(PngToIco, PassesOverEmptyNames) {
+    const Bitmap pictures[] = {Bitmap(3, 2), Bitmap(256, 256)};
+    const std::filesystem::path names[] = {
+        "", WritePicture("1.png", pictures[0]), "", WritePicture("2.png", pictures[1]), "", "", ""};
+    png2ico(names, output_);
+    EXPECT_EQ(graphics::ReadFile(output_), EncodeIcon(pictures, IconFormat::Bmp));
+    png2ico(names, output_, IconFormat::Png);
+    EXPECT_EQ(graphics::ReadFile(output_), EncodeIcon(pictures, IconFormat::Png));
+
+    const std::filesystem::path none = folder_ / "none.ico";
+    png2ico(std::vector<std::filesystem::path>(7), none);
+    EXPECT_FALSE(std::filesystem::exists(none));
+    EXPECT_THROW(png2ico(std::vector<std::filesystem::path>(8), none), std::invalid_argument);
+}
+
+TEST_F(PngToIco, NamesTheFileAtFaultAndWritesNothing) {
+    const auto good = WritePicture("good.png", Bitmap(1, 1));
+    const auto large = WritePicture("large.png", Bitmap(257, 16));
+    const auto text = folder_ / "text.png";
+    graphics::WriteFile(text, Bytes{'t', 'e', 'x', 't'});
+    for (const auto& bad : {large, text, folder_ / "missing.png"}) {
+        const std::filesystem::path names[] = {good, bad};
+        try {
+            png2ico(names, output_);
+            ADD_FAILURE() << bad << " was taken";
+        } catch (const graphics::FileError& error) {
+            EXPECT_THAT(error.what(), HasSubstr(bad.string()));
+        }
+        EXPECT_FALSE(std::filesystem::exists(output_));
+    }
+}
+
+}  // namespace
+}  // namespace orbelle::formats
