@@ -12,15 +12,16 @@ namespace orbelle::graphics {
 
 struct ImageDrawing {
     RectF Destination;  // target pixels
-    RectF Source;       // picture pixels; what lies outside the picture is transparent black
+    RectI Source;       // picture pixels; what lies outside the picture is transparent black
     InterpolationMode Interpolation = InterpolationMode::Default;
     double Offset = 0;  // 0 or 0.5: where a pixel's centre lies within it
     ImageAttributes Attributes;
 };
 
 // Blends the picture over the target within the clip, whose rectangles lie inside the target, do
-// not overlap and come by y and then x. Costs time in proportion to the clipped area (and, in the
-// high-quality modes, the part of the source that it needs).
+// not overlap and come by y and then x. A destination or source without area, or with infinite or
+// not-a-number bounds, draws nothing. Costs time in proportion to the clipped area (and, in the
+// smooth modes, the part of the source that it needs).
 void DrawImageOn(Bitmap& target, const Bitmap& image, const ImageDrawing& drawing,
                  std::span<const RectI> clip);
 

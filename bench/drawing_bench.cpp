@@ -1,0 +1,89 @@
+#include <benchmark/benchmark.h>
+
+#include <random>
+
+#include "graphics/bitmap.h"
+#include "graphics/blend.h"
+#include "graphics/image_drawing.h"
+
+namespace orbelle {
+namespace {
+
+using namespace graphics;
+
+constexpr int kSide = 512;
+
+// Random pixels; alpha is `alpha`, or random when that is negative.
+Bitmap Noise(int alpha) {
+    std::mt19937 random(7);
+    Bitmap noise(kSide, kSide);
+    for (int i = 0; i < kSide * kSide; ++i) {
+        const Argb color = static_cast<Argb>(random());
+        noise.MutablePixels()[i] = alpha < 0 ? color : SetAlphaByte(color, alpha);
+    }
+    return noise;
+}
+
+// Counts `pixels` a round, as a rate and as time for each.
+void CountPixels(benchmark::State& state, double pixels) {
+    using benchmark::Counter;
+    state.counters["pixels"] = Counter(pixels, Counter::kIsIterationInvariantRate);
+    state.counters["per_pixel"] =
+        Counter(pixels, Counter::kIsIterationInvariantRate | Counter::kInvert);
+}
+
+void BlendRows(benchmark::State& state, int sourceAlpha) {
+    const Bitmap source = Noise(sourceAlpha);
+    const Bitmap background = Noise(-1);
+    Bitmap target = background;
+    for (auto _ : state) {
+        // Blending over and over would make the target opaque: start from the same noise.
+        state.PauseTiming();
+        std::copy_n(background.Pixels(), kSide * kSide, target.MutablePixels());
+        state.ResumeTiming();
+        for (int y = 0; y < kSide; ++y)
+            BlendRow(target.MutableRow(y), source.Row(y), kSide);
+    }
+    CountPixels(state, kSide * kSide);
+}
+BENCHMARK_CAPTURE(BlendRows, random, -1);
+BENCHMARK_CAPTURE(BlendRows, opaque, 255);
+BENCHMARK_CAPTURE(BlendRows, empty, 0);
+
+void DrawScaled(benchmark::State& state, InterpolationMode mode, int width, int height,
+                float opacity) {
+    const Bitmap image = Noise(-1);
+    Bitmap target(width, height);
+    ImageDrawing drawing{.Destination = {0, 0, static_cast<float>(width), float(height)},
+                         .Source = {0, 0, kSide, kSide},
+                         .Interpolation = mode,
+                         .Offset = 0.5,
+                         .Attributes = {}};
+    if (opacity < 1)
+        drawing.Attributes.Matrix = OpacityMatrix(opacity);
+    const RectI clip{0, 0, width, height};
+    for (auto _ : state)
+        DrawImageOn(target, image, drawing, {&clip, 1});
+    CountPixels(state, kSide * kSide);
+}
+BENCHMARK_CAPTURE(DrawScaled, same_size_opacity, InterpolationMode::HighQuality, 512, 512, 0.5F);
+BENCHMARK_CAPTURE(DrawScaled, bicubic_to_256, InterpolationMode::HighQuality, 256, 256, 1);
+BENCHMARK_CAPTURE(DrawScaled, bicubic_to_16, InterpolationMode::HighQuality, 16, 16, 1);
+
+void DrawZoomed(benchmark::State& state) {
+    const Bitmap image = Noise(-1);
+    Bitmap target(1600, 1000);
+    const ImageDrawing drawing{.Destination = {0, 0, 8 * kSide, 8 * kSide},
+                               .Source = {0, 0, kSide, kSide},
+                               .Interpolation = InterpolationMode::NearestNeighbor,
+                               .Offset = 0.5,
+                               .Attributes = {}};
+    const RectI clip{0, 0, 1600, 1000};
+    for (auto _ : state)
+        DrawImageOn(target, image, drawing, {&clip, 1});
+    CountPixels(state, 1600 * 1000);
+}
+BENCHMARK(DrawZoomed);
+
+}  // namespace
+}  // namespace orbelle

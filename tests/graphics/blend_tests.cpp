@@ -1,0 +1,121 @@
+#include "graphics/blend.h"
+
+#include <gtest/gtest.h>
+#include <hwy/targets.h>
+
+#include <random>
+#include <vector>
+
+namespace orbelle::graphics {
+namespace {
+
+using std::uint64_t;
+
+// The definition, word for word.
+Argb Reference(Argb destination, Argb source) {
+    const uint64_t a1 = AlphaOf(source), a0 = AlphaOf(destination);
+    if (a1 == 0)
+        return destination;
+    const uint64_t r = 255 * a1 + a0 * (255 - a1);
+    const auto mean = [&](uint64_t c1, uint64_t c0) {
+        const uint64_t n = 255 * a1 * c1 + a0 * (255 - a1) * c0;
+        return static_cast<unsigned>((2 * n + r) / (2 * r));
+    };
+    return MakeARGB(
+        static_cast<unsigned>((2 * r + 255) / 510), mean(RedOf(source), RedOf(destination)),
+        mean(GreenOf(source), GreenOf(destination)), mean(BlueOf(source), BlueOf(destination)));
+}
+
+// Runs a check with each instruction set of this machine for which there is code.
+template <class Check>
+void WithEachInstructionSet(Check check) {
+    for (std::int64_t left = hwy::SupportedTargets(); left != 0; left &= left - 1) {
+        const std::int64_t target = left & -left;
+        SCOPED_TRACE(hwy::TargetName(target));
+        hwy::SetSupportedTargetsForTest(target);
+        check();
+    }
+    hwy::SetSupportedTargetsForTest(0);
+}
+
+TEST(Blend, GivesTheKnownResults) {
+    struct Case {
+        Argb Destination, Source, Result;
+    };
+    const std::vector<Case> cases = {
+        {0x00FF8040, 0x10ABCDEF, 0x10ABCDEF}, {0xFF204060, 0x80C0A010, 0xFF707038},
+        {0x80204060, 0x80C0A010, 0xC08B802B}, {0x40204060, 0x01C0A010, 0x4122415F},
+        {0x01FFFFFF, 0x01000000, 0x027F7F7F}, {0x7F808080, 0x7F808080, 0xBF808080},
+        {0x80204060, 0x00C0A010, 0x80204060}, {0x00204060, 0x00C0A010, 0x00204060},
+        {0x80204060, 0xFFC0A010, 0xFFC0A010}};
+    WithEachInstructionSet([&] {
+        for (const Case& c : cases) {
+            EXPECT_EQ(BlendPixel(c.Destination, c.Source), c.Result);
+            // Long enough for whole vectors and a rest, transparent and opaque ones among them.
+            std::vector<Argb> row(71, c.Destination), color = row;
+            BlendRow(row.data(), std::vector<Argb>(70, c.Source).data(), 70);
+            BlendColor(color.data(), c.Source, 70);
+            std::vector<Argb> expected(70, c.Result);
+            expected.push_back(c.Destination);
+            EXPECT_EQ(row, expected);
+            EXPECT_EQ(color, expected);
+        }
+    });
+}
+
+TEST(Blend, IsExactForEveryPairOfAlphas) {
+    WithEachInstructionSet([] {
+        std::mt19937 random(1);
+        constexpr std::size_t count = 3072;  // each destination alpha twelve times
+        std::vector<Argb> source(count), destination(count), blended;
+        for (unsigned a1 = 0; a1 < 256; ++a1) {
+            for (std::size_t i = 0; i < count; ++i) {
+                source[i] = SetAlphaByte(static_cast<Argb>(random()), a1);
+                destination[i] = SetAlphaByte(static_cast<Argb>(random()), i % 256);
+            }
+            blended = destination;
+            BlendRow(blended.data(), source.data(), count);
+            for (std::size_t i = 0; i < count; ++i) {
+                const Argb expected = Reference(destination[i], source[i]);
+                ASSERT_EQ(blended[i], expected) << std::hex << destination[i] << ' ' << source[i];
+                ASSERT_EQ(BlendPixel(destination[i], source[i]), expected);
+            }
+        }
+    });
+}
+
+// A mean that ends in one half goes up; the nearest ones below it stay. With both alphas small
+// there are the most of the first, with both large the second come closest.
+TEST(Blend, DecidesTiesExactly) {
+    WithEachInstructionSet([] {
+        for (const unsigned a1 : {1u, 2u, 3u, 127u, 128u, 253u, 254u}) {
+            for (const unsigned a0 : {1u, 2u, 85u, 128u, 254u, 255u}) {
+                for (unsigned c1 = 0; c1 < 256; ++c1) {
+                    std::vector<Argb> row(256);
+                    for (unsigned c0 = 0; c0 < 256; ++c0)
+                        row[c0] = MakeARGB(a0, c0, 255 - c0, c0 ^ 0x55);
+                    const std::vector<Argb> before = row;
+                    const Argb source = MakeARGB(a1, c1, c1, c1);
+                    BlendColor(row.data(), source, row.size());
+                    for (std::size_t i = 0; i < row.size(); ++i)
+                        ASSERT_EQ(row[i], Reference(before[i], source)) << std::hex << before[i];
+                }
+            }
+        }
+    });
+}
+
+TEST(Blend, TakesSourceAlphasThroughATable) {
+    std::array<std::uint8_t, 256> halved;
+    for (unsigned alpha = 0; alpha < halved.size(); ++alpha)
+        halved[alpha] = static_cast<std::uint8_t>(alpha / 2);
+    std::vector<Argb> source(1000), row(1000, 0x80204060);
+    for (std::size_t i = 0; i < source.size(); ++i)
+        source[i] = SetAlphaByte(0x00C0A010, i % 256);
+    BlendRow(row.data(), source.data(), row.size(), halved);
+    for (std::size_t i = 0; i < row.size(); ++i)
+        ASSERT_EQ(row[i], Reference(0x80204060, SetAlphaByte(source[i], i % 256 / 2))) << i;
+}
+
+}  // namespace
+}  // namespace orbelle::graphics
