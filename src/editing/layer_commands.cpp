@@ -1,5 +1,7 @@
 #include "editing/layer_commands.h"
 
+#include <algorithm>
+
 #include "document/layer_slots.h"
 #include "editing/command_frame.h"
 #include "editing/undo_commands.h"
@@ -65,7 +67,8 @@ void ShowLayerAdjust(Editor& editor, int index) {
 void ShowLayerSliders(Editor& editor) {
     const document::IconLayer& layer = editor.Document.Selected();
     editor.Controls.CtlScroll21.Value = graphics::RoundToEven(layer.Opacity * 100.0);
-    editor.Controls.ScaleScroll.Value = layer.ScaleValue + 50;
+    // A file may hold any scale.
+    editor.Controls.ScaleScroll.Value = std::clamp(layer.ScaleValue, -50, 50) + 50;
     editor.Controls.ScaleValue = std::to_string(layer.ScaleValue);
 }
 

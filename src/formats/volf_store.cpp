@@ -94,7 +94,7 @@ IconLayer LayerReader::Read() {
     layer.BaseRect = ReadRect();
     layer.ImageWidth = std::max(file_.Read<std::int32_t>(), 0);
     layer.Rect = ReadRect();
-    layer.ScaleValue = std::clamp(file_.Read<std::int32_t>(), -50, 50);
+    layer.ScaleValue = file_.Read<std::int32_t>();
     layer.Visible = ReadFlag();
     layer.ClipNextLayer = ReadFlag();
     file_.Read<std::int32_t>();  // a handle of the program that wrote it

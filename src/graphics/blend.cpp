@@ -1,6 +1,7 @@
 #include "graphics/blend.h"
 
 #include <algorithm>
+#include <cmath>
 
 #undef HWY_TARGET_INCLUDE
 #define HWY_TARGET_INCLUDE "graphics/blend.cpp"
@@ -70,6 +71,14 @@ HWY_INLINE PixelVec BlendVector(PixelVec destination, PixelVec source) {
     return hn::IfThenElse(hn::Lt(source, hn::Set(d, 1u << 24)), destination, blended);
 }
 
+// Takes the alphas through the factor, as AlphaFactor::Apply does.
+HWY_INLINE PixelVec Scaled(PixelVec pixels, PixelVec multiplier, PixelVec half, int shift) {
+    const Pixels d;
+    const auto product = hn::Mul(hn::ShiftRight<24>(pixels), multiplier);
+    const auto alpha = hn::ShiftRightSame(hn::Add(hn::ShiftRight<1>(product), half), shift);
+    return hn::Or(hn::And(pixels, hn::Set(d, 0xFFFFFFu)), hn::ShiftLeft<24>(alpha));
+}
+
 void BlendRowVectors(Argb* destination, const Argb* source, std::size_t count) {
     const Pixels d;
     const auto lowestVisible = hn::Set(d, 1u << 24);
@@ -87,6 +96,26 @@ void BlendRowVectors(Argb* destination, const Argb* source, std::size_t count) {
     }
     for (; i < count; ++i)
         destination[i] = BlendPixel(destination[i], source[i]);
+}
+
+void BlendScaledRowVectors(Argb* destination, const Argb* source, std::size_t count,
+                           const AlphaFactor& factor) {
+    const Pixels d;
+    const auto lowestVisible = hn::Set(d, 1u << 24);
+    const auto multiplier = hn::Set(d, factor.Multiplier);
+    const auto half = hn::Set(d, 1u << (factor.Shift - 1));
+    const std::size_t step = hn::Lanes(d);
+    std::size_t i = 0;
+    for (; i + step <= count; i += step) {
+        const auto pixels = hn::LoadU(d, source + i);
+        if (hn::AllTrue(d, hn::Lt(pixels, lowestVisible)))
+            continue;
+        const auto scaled = Scaled(pixels, multiplier, half, factor.Shift);
+        hn::StoreU(BlendVector(hn::LoadU(d, destination + i), scaled), d, destination + i);
+    }
+    for (; i < count; ++i)
+        destination[i] =
+            BlendPixel(destination[i], SetAlphaByte(source[i], factor.Apply(AlphaOf(source[i]))));
 }
 
 void BlendColorVectors(Argb* destination, Argb color, std::size_t count) {
@@ -108,7 +137,20 @@ HWY_AFTER_NAMESPACE();
 namespace orbelle::graphics {
 
 HWY_EXPORT(BlendRowVectors);
+HWY_EXPORT(BlendScaledRowVectors);
 HWY_EXPORT(BlendColorVectors);
+
+AlphaFactor::AlphaFactor(float opacity) {
+    constexpr int kMantissaBits = 24;
+    constexpr int kMaxShift = 31;
+    int exponent = 0;
+    const float mantissa = std::frexp(std::clamp(opacity, 0.0F, 1.0F), &exponent);
+    // Below 2^-9 every alpha becomes 0, as it does with the multiplier 0.
+    if (kMantissaBits - exponent - 1 > kMaxShift || std::isnan(opacity))
+        return;
+    Multiplier = static_cast<std::uint32_t>(std::ldexp(mantissa, kMantissaBits));
+    Shift = kMantissaBits - exponent - 1;
+}
 
 Argb BlendPixel(Argb destination, Argb source) {
     const unsigned a = AlphaOf(source);
@@ -130,18 +172,8 @@ void BlendRow(Argb* destination, const Argb* source, std::size_t count) {
     HWY_DYNAMIC_DISPATCH(BlendRowVectors)(destination, source, count);
 }
 
-void BlendRow(Argb* destination, const Argb* source, std::size_t count,
-              const std::array<std::uint8_t, 256>& alphaTable) {
-    std::array<Argb, 256> changed;
-    while (count > 0) {
-        const std::size_t step = std::min(count, changed.size());
-        for (std::size_t i = 0; i < step; ++i)
-            changed[i] = SetAlphaByte(source[i], alphaTable[AlphaOf(source[i])]);
-        BlendRow(destination, changed.data(), step);
-        destination += step;
-        source += step;
-        count -= step;
-    }
+void BlendRow(Argb* destination, const Argb* source, std::size_t count, const AlphaFactor& factor) {
+    HWY_DYNAMIC_DISPATCH(BlendScaledRowVectors)(destination, source, count, factor);
 }
 
 void BlendColor(Argb* destination, Argb color, std::size_t count) {

@@ -5,7 +5,6 @@
 // is, colour under alpha 0 included; a = 0 gives the source.
 #pragma once
 
-#include <array>
 #include <cstddef>
 #include <cstdint>
 
@@ -18,9 +17,23 @@ Argb BlendPixel(Argb destination, Argb source);
 // Blends `count` source pixels over as many destination pixels.
 void BlendRow(Argb* destination, const Argb* source, std::size_t count);
 
-// The same with each source alpha first taken through `alphaTable`.
-void BlendRow(Argb* destination, const Argb* source, std::size_t count,
-              const std::array<std::uint8_t, 256>& alphaTable);
+// An opacity made ready for many alphas. Apply is floor(opacity x alpha + 0.5), exact for the value
+// of the float, in whole numbers; opacities outside 0 to 1 are brought to the nearer end.
+class AlphaFactor {
+public:
+    explicit AlphaFactor(float opacity);
+
+    // alpha is 0 to 255.
+    unsigned Apply(unsigned alpha) const {
+        return ((alpha * Multiplier >> 1) + (1U << (Shift - 1))) >> Shift;
+    }
+
+    std::uint32_t Multiplier = 0;  // below 2^24
+    int Shift = 1;                 // opacity = Multiplier / 2^(Shift + 1)
+};
+
+// The same with each source alpha first taken through the factor.
+void BlendRow(Argb* destination, const Argb* source, std::size_t count, const AlphaFactor& factor);
 
 // Blends one colour over `count` pixels.
 void BlendColor(Argb* destination, Argb color, std::size_t count);

@@ -1,9 +1,7 @@
 #include "graphics/image_drawing.h"
 
 #include <algorithm>
-#include <array>
 #include <cmath>
-#include <cstdint>
 #include <optional>
 #include <vector>
 
@@ -17,34 +15,32 @@ namespace {
 // The attributes made ready for many pixels.
 class Recoloring {
 public:
-    using AlphaTable = std::array<std::uint8_t, 256>;
-
     explicit Recoloring(const ImageAttributes& attributes) : attributes_(attributes) {
         const auto& matrix = attributes.Matrix;
-        if (!matrix || *matrix != OpacityMatrix((*matrix)[3][3]))
+        if (!matrix)
             return;
-        AlphaTable& table = alphaTable_.emplace();
-        for (unsigned alpha = 0; alpha < table.size(); ++alpha)
-            table[alpha] = AlphaOf(attributes.Apply(MakeARGB(alpha, 0, 0, 0)));
+        const float opacity = (*matrix)[3][3];
+        if (opacity >= 0 && opacity <= 1 && *matrix == OpacityMatrix(opacity))
+            factor_.emplace(opacity);
     }
 
     bool ChangesNothing() const { return !attributes_.Matrix; }
 
-    // The new alpha of each old one, when nothing else changes.
-    const std::optional<AlphaTable>& OpacityTable() const { return alphaTable_; }
+    // The factor of the alphas, when nothing else changes.
+    const std::optional<AlphaFactor>& Factor() const { return factor_; }
 
     void Apply(std::span<Argb> pixels) const {
         if (ChangesNothing())
             return;
         for (Argb& pixel : pixels) {
-            pixel = alphaTable_ ? SetAlphaByte(pixel, (*alphaTable_)[AlphaOf(pixel)])
-                                : attributes_.Apply(pixel);
+            pixel = factor_ ? SetAlphaByte(pixel, factor_->Apply(AlphaOf(pixel)))
+                            : attributes_.Apply(pixel);
         }
     }
 
 private:
     const ImageAttributes& attributes_;
-    std::optional<AlphaTable> alphaTable_;
+    std::optional<AlphaFactor> factor_;
 };
 
 // Whether every picture pixel falls exactly on a target pixel: no mode changes it then.
@@ -74,8 +70,8 @@ void DrawPixelForPixel(Bitmap& target, const Bitmap& image, const ImageDrawing& 
             Argb* to = target.MutableRow(y) + area.X;
             if (recoloring.ChangesNothing()) {
                 BlendRow(to, from, area.Width);
-            } else if (const auto& table = recoloring.OpacityTable()) {
-                BlendRow(to, from, area.Width, *table);
+            } else if (const auto& factor = recoloring.Factor()) {
+                BlendRow(to, from, area.Width, *factor);
             } else {
                 changed.assign(from, from + area.Width);
                 recoloring.Apply(changed);

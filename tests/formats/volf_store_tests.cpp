@@ -33,7 +33,6 @@ constexpr std::size_t kOpacityAt = kHeaderBytes + 20;
 constexpr std::size_t kBaseRectAt = kHeaderBytes + 24;
 constexpr std::size_t kImageWidthAt = kHeaderBytes + 40;
 constexpr std::size_t kRectAt = kHeaderBytes + 44;
-constexpr std::size_t kScaleValueAt = kHeaderBytes + 60;
 constexpr std::size_t kPathAt = kHeaderBytes + 68;
 constexpr std::size_t kPictureBytesAt = kHeaderBytes + 72;
 constexpr std::size_t kPictureAt = kHeaderBytes + 76;
@@ -246,14 +245,12 @@ TEST(VolfStore, HostileNumbersEndTheReading) {
     }
 }
 
-TEST(VolfStore, NumbersOfSlidersStopAtTheirEnds) {
+TEST(VolfStore, AnOpacityStopsAtItsEnds) {
     Bytes file = EncodeDocument(TwoLayers());
     Put<float>(file, kOpacityAt, 1e30f);
-    Put<std::int32_t>(file, kScaleValueAt, INT32_MAX);
     Document document;
     DecodeDocument(file, document);
     EXPECT_EQ(document.Layers[0].Opacity, 1);
-    EXPECT_EQ(document.Layers[0].ScaleValue, 50);
 }
 
 TEST(VolfStore, ReadsNoMoreLayersThanAStackHolds) {

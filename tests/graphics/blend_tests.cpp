@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 #include <hwy/targets.h>
 
+#include <cmath>
 #include <random>
 #include <vector>
 
@@ -105,16 +106,41 @@ TEST(Blend, DecidesTiesExactly) {
     });
 }
 
-TEST(Blend, TakesSourceAlphasThroughATable) {
-    std::array<std::uint8_t, 256> halved;
-    for (unsigned alpha = 0; alpha < halved.size(); ++alpha)
-        halved[alpha] = static_cast<std::uint8_t>(alpha / 2);
-    std::vector<Argb> source(1000), row(1000, 0x80204060);
+std::vector<float> Opacities() {
+    std::vector<float> opacities = {1e-30F, 1.0F / 512, 1.0F / 511, 0.00196F, 0.999999F, 1};
+    for (int percent = 0; percent < 100; ++percent)
+        opacities.push_back(static_cast<float>(percent / 100.0));
+    return opacities;
+}
+
+TEST(AlphaFactor, RoundsOpacityTimesAlphaToTheNearest) {
+    for (const float opacity : Opacities()) {
+        const AlphaFactor factor(opacity);
+        for (unsigned alpha = 0; alpha < 256; ++alpha) {
+            ASSERT_EQ(factor.Apply(alpha), std::floor(double{opacity} * alpha + 0.5))
+                << opacity << " x " << alpha;
+        }
+    }
+    EXPECT_EQ(AlphaFactor(-1).Apply(255), 0U);
+    EXPECT_EQ(AlphaFactor(7).Apply(100), 100U);
+    EXPECT_EQ(AlphaFactor(std::nanf("")).Apply(255), 0U);
+}
+
+TEST(Blend, TakesSourceAlphasThroughAFactor) {
+    std::vector<Argb> source(1000);
     for (std::size_t i = 0; i < source.size(); ++i)
         source[i] = SetAlphaByte(0x00C0A010, i % 256);
-    BlendRow(row.data(), source.data(), row.size(), halved);
-    for (std::size_t i = 0; i < row.size(); ++i)
-        ASSERT_EQ(row[i], Reference(0x80204060, SetAlphaByte(source[i], i % 256 / 2))) << i;
+    WithEachInstructionSet([&] {
+        for (const float opacity : Opacities()) {
+            const AlphaFactor factor(opacity);
+            std::vector<Argb> row(1000, 0x80204060);
+            BlendRow(row.data(), source.data(), row.size(), factor);
+            for (std::size_t i = 0; i < row.size(); ++i) {
+                const Argb faded = SetAlphaByte(source[i], factor.Apply(i % 256));
+                ASSERT_EQ(row[i], Reference(0x80204060, faded)) << i << ", " << opacity;
+            }
+        }
+    });
 }
 
 }  // namespace
