@@ -1,5 +1,6 @@
 // What tells about the document: text on the output, and pictures as they stand in memory.
 #include <algorithm>
+#include <utility>
 
 #include "cli/document_json.h"
 #include "cli/verb_table.h"
@@ -71,11 +72,12 @@ Action ReadWriteScene(Words& words) {
     return [path = words.Path("PATH")](Workspace& workspace) {
         RequireDocument(workspace);
         editing::Editor& editor = workspace.Editor;
-        // A view as it is made has the scene's size and its scroll bars in the middle.
-        editor.View = {};
+        // A view as it is made has the window's scene and its scroll bars in the middle.
+        const document::View before = std::exchange(editor.View, {});
         editor.View.Zoom = workspace.Zoom;
         editor.View.ViewActive = true;
         editing::DrawScene(editor);
+        editor.View = before;
         WritePng(editor.Scene, path);
     };
 }

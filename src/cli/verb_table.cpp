@@ -42,7 +42,7 @@ std::string VerbHelp() {
             if (!verb.Arguments.empty())
                 line.append(" ").append(verb.Arguments);
             line.resize(std::max(kHelpColumn, line.size() + 1), ' ');
-            help.append(line).append(verb.Help).append("\n");
+            help.append("\n").append(line).append(verb.Help);
         }
     }
     return help;

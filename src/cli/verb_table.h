@@ -31,7 +31,7 @@ std::span<const Verb> ReportVerbs();
 // Null when there is none of that name.
 const Verb* FindVerb(std::string_view name);
 
-// A line for each verb.
+// A line for each verb, after a line end.
 std::string VerbHelp();
 
 // A verb with arguments that have been checked.

@@ -17,6 +17,12 @@ void CliHost::ShowStatus(const std::string& text) {
     ShowMessage(text);
 }
 
+Workspace::Workspace(std::ostream& output) : Output(output) {
+    // Every command paints the scene, which nobody sees until a verb asks for it.
+    Editor.View.SceneWidth = 1;
+    Editor.View.SceneHeight = 1;
+}
+
 void RequireDocument(const Workspace& workspace) {
     if (!workspace.Editor.DocumentExists)
         throw Failure("there is no document");

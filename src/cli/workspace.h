@@ -38,7 +38,7 @@ private:
 };
 
 struct Workspace {
-    explicit Workspace(std::ostream& output) : Output(output) {}
+    explicit Workspace(std::ostream& output);
 
     CliHost Host;
     editing::Editor Editor{Host};

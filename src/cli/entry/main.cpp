@@ -36,12 +36,16 @@ std::vector<Call> ParseScriptFile(const std::string& name) {
 
 int main(int argc, char** argv) {
     std::ios::sync_with_stdio(false);
-    CLI::App app("Varnel Orbelle without a window.", "orbelle-cli");
+    CLI::App app(
+        "The icon editor without a window:\n"
+        "  orbelle-cli VERB [ARG...] [VERB [ARG...]]...\n"
+        "  orbelle-cli --script FILE\n",
+        "orbelle-cli");
     app.set_version_flag("--version", "orbelle-cli " ORBELLE_VERSION);
     std::string script;
     app.add_option("--script", script, "Read the verbs from FILE, one a line; '-': standard input")
         ->type_name("FILE");
-    app.footer([] { return "Verbs, run in order:\n" + VerbHelp(); });
+    app.footer([] { return "Verbs, run in order:" + VerbHelp(); });
     // From the first word that is no option on, all words belong to verbs, whatever they look like.
     app.prefix_command();
     try {
