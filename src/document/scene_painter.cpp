@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <vector>
 
 #include "graphics/drawing_context.h"
 
@@ -23,13 +24,15 @@ void DrawChecker(Bitmap& scene, const RectF& rect) {
     const RectI cells{static_cast<int>(std::ceil(rect.X)), static_cast<int>(std::ceil(rect.Y)),
                       static_cast<int>(rect.Width), static_cast<int>(rect.Height)};
     const RectI shown = Intersect(cells, {0, 0, scene.Width(), scene.Height()});
+    // A row of cells and the one below it begin one cell apart in the same pattern.
+    std::vector<Argb> pattern(static_cast<std::size_t>(shown.Width + kCheckerCell));
+    for (int i = 0; i < shown.Width + kCheckerCell; ++i) {
+        const int column = (shown.X - cells.X + i) / kCheckerCell;
+        pattern[static_cast<std::size_t>(i)] = column % 2 == 0 ? kCheckerDark : kCheckerLight;
+    }
     for (int y = shown.Y; y < shown.Y + shown.Height; ++y) {
-        Argb* row = scene.MutableRow(y);
-        const int rowOfCells = (y - cells.Y) / kCheckerCell;
-        for (int x = shown.X; x < shown.X + shown.Width; ++x) {
-            const int column = (x - cells.X) / kCheckerCell;
-            row[x] = (rowOfCells + column) % 2 == 0 ? kCheckerDark : kCheckerLight;
-        }
+        const int start = (y - cells.Y) / kCheckerCell % 2 * kCheckerCell;
+        std::copy_n(pattern.data() + start, shown.Width, scene.MutableRow(y) + shown.X);
     }
 }
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstdlib>
 #include <stdexcept>
+#include <string>
 #include <system_error>
 
 #include "graphics/drawing_context.h"
@@ -32,10 +33,10 @@ Bitmap DrawOver(Argb background, const Bitmap& page, graphics::PixelFormat forma
 // Nobody needs these pictures, so a folder that can't be written is no failure.
 void LeaveInSizesFolder(const std::vector<Bitmap>& pictures) {
     const fs::path folder = SizesFolder();
-    std::error_code error;
-    fs::create_directories(folder, error);
-    if (error || folder.empty())
+    if (folder.empty())
         return;
+    std::error_code ignored;
+    fs::create_directories(folder, ignored);
     for (const Bitmap& picture : pictures) {
         const std::string name = "temp" + std::to_string(picture.Width()) + ".png";
         try {

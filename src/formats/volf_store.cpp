@@ -27,9 +27,9 @@ constexpr std::size_t kSliderBytes = 16;
 // Regions know no pixel farther out.
 constexpr float kMaxCoordinate = 4194304;
 
-// What all layers of a file together may take: 128 Mi pixels, or less when their regions are
+// What all layers of a file together may take: 112 Mi pixels, or less when their regions are
 // ragged, as if every run of pixels in a region cost so many pixels more.
-constexpr std::int64_t kMaxPixels = std::int64_t{128} << 20;
+constexpr std::int64_t kMaxPixels = std::int64_t{112} << 20;
 constexpr std::int64_t kPixelsPerRun = 8;
 
 void AppendRect(std::vector<std::uint8_t>& file, const RectF& rect) {

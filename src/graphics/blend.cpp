@@ -5,6 +5,7 @@
 
 #undef HWY_TARGET_INCLUDE
 #define HWY_TARGET_INCLUDE "graphics/blend.cpp"
+#include <hwy/cache_control.h>
 #include <hwy/foreach_target.h>
 #include <hwy/highway.h>
 
@@ -79,6 +80,14 @@ HWY_INLINE PixelVec Scaled(PixelVec pixels, PixelVec multiplier, PixelVec half, 
     return hn::Or(hn::And(pixels, hn::Set(d, 0xFFFFFFu)), hn::ShiftLeft<24>(alpha));
 }
 
+// Layers are read once, row after row, and are seldom in the cache: without this most of the time
+// of a stack is spent waiting. Where nothing follows, the request is dropped by the machine.
+HWY_INLINE void FetchAhead(const Argb* pixels) {
+    constexpr std::uintptr_t kAheadBytes = 4096;
+    hwy::Prefetch(
+        reinterpret_cast<const Argb*>(reinterpret_cast<std::uintptr_t>(pixels) + kAheadBytes));
+}
+
 void BlendRowVectors(Argb* destination, const Argb* source, std::size_t count) {
     const Pixels d;
     const auto lowestVisible = hn::Set(d, 1u << 24);
@@ -86,6 +95,7 @@ void BlendRowVectors(Argb* destination, const Argb* source, std::size_t count) {
     const std::size_t step = hn::Lanes(d);
     std::size_t i = 0;
     for (; i + step <= count; i += step) {
+        FetchAhead(source + i);
         const auto pixels = hn::LoadU(d, source + i);
         if (hn::AllTrue(d, hn::Lt(pixels, lowestVisible)))
             continue;
@@ -107,6 +117,7 @@ void BlendScaledRowVectors(Argb* destination, const Argb* source, std::size_t co
     const std::size_t step = hn::Lanes(d);
     std::size_t i = 0;
     for (; i + step <= count; i += step) {
+        FetchAhead(source + i);
         const auto pixels = hn::LoadU(d, source + i);
         if (hn::AllTrue(d, hn::Lt(pixels, lowestVisible)))
             continue;
