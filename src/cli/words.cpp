@@ -18,7 +18,9 @@ bool IsDigit(char c) {
 
 // What stands in a list of numbers, whether or not the list takes this one.
 bool LooksLikeNumber(std::string_view word) {
-    return IsDigit(word[0]) || (word[0] == '-' && word.size() > 1 && IsDigit(word[1]));
+    if (word.starts_with('-'))
+        word.remove_prefix(1);
+    return !word.empty() && IsDigit(word[0]);
 }
 
 std::optional<int> ParseInteger(std::string_view word) {

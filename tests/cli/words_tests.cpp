@@ -43,10 +43,12 @@ TEST(WordsTest, UnboundedNumbersStopAtTheEndsOfInt) {
 }
 
 TEST(WordsTest, AListEndsAtTheFirstWordThatIsNoNumber) {
-    const TextList list{"10", "-20", "30", "-x", "40"};
-    Words words(list);
-    EXPECT_THAT(words.Integers("V", -100, 100), ElementsAre(10, -20, 30));
-    EXPECT_EQ(words.Next(), "-x");
+    for (const char* other : {"-x", "-", "", "x5", "#5"}) {
+        const TextList list{"10", "-20", "30", other, "40"};
+        Words words(list);
+        EXPECT_THAT(words.Integers("V", -100, 100), ElementsAre(10, -20, 30));
+        EXPECT_EQ(words.Next(), other);
+    }
 
     const auto read = [](Words& arguments) { arguments.Integers("V", 0, 100, 3); };
     EXPECT_EQ(Refusal({"info"}, read), "V must be a whole number");
