@@ -56,7 +56,7 @@ protected:
     bool StartDisplay() {
         display.start("Xvfb", {"-displayfd", "1", "-screen", "0",
                                QString("%1x%2x24").arg(kWidth).arg(kHeight), "-nolisten", "tcp",
-                               "-fbdir", Path("screen")});
+                               "-noreset", "-fbdir", Path("screen")});
         if (!display.waitForStarted() ||
             !WaitUntil([&] { return display.waitForReadyRead(100) || display.canReadLine(); }))
             return false;
