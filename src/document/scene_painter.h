@@ -11,7 +11,7 @@
 namespace orbelle::document {
 
 // The scene around the page.
-inline constexpr graphics::Argb kSceneColor = graphics::MakeARGB(255, 96, 96, 96);
+inline constexpr graphics::Argb kSceneColor = graphics::MakeARGB(255, 110, 110, 110);
 
 // Paints `canvas` (the composed page) on `scene`, whose size is the view's: background or
 // checkerboard, page shadow, page frame, picture. Nothing happens while the view is not active.

@@ -1,0 +1,29 @@
+#!/usr/bin/env bash
+# Installs the packages of Debian 12 that building, testing and running need and that are missing.
+set -euo pipefail
+
+packages=(
+    g++ cmake ninja-build pkg-config
+    qt6-base-dev libagg-dev libpixman-1-dev libpng-dev libjpeg62-turbo-dev libgif-dev libhwy-dev
+    libcli11-dev nlohmann-json3-dev
+    libgtest-dev libgmock-dev libbenchmark-dev
+)
+
+if ! command -v dpkg-query >/dev/null; then
+    echo "No Debian package system here. Needed are what Debian calls: ${packages[*]}" >&2
+    exit 0
+fi
+
+missing=()
+for package in "${packages[@]}"; do
+    status=$(dpkg-query -W -f '${db:Status-Status}' "$package" 2>/dev/null || true)
+    [[ $status == installed ]] || missing+=("$package")
+done
+[[ ${#missing[@]} -gt 0 ]] || exit 0
+
+echo "Installing ${missing[*]}" >&2
+as_root=()
+[[ $EUID -eq 0 ]] || as_root=(sudo)
+"${as_root[@]}" apt-get update -q
+"${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
+    apt-get install -q -y --no-install-recommends "${missing[@]}"

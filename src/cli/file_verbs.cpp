@@ -1,0 +1,131 @@
+// The File menu, the settings of exports, and putting an icon together from files.
+#include <algorithm>
+#include <cctype>
+
+#include "cli/verb_table.h"
+#include "editing/document_commands.h"
+#include "editing/export_commands.h"
+#include "editing/menu_state.h"
+#include "formats/icon_file.h"
+
+namespace orbelle::cli {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr std::string_view kIconFormatNames[] = {"bmp", "png256", "png"};
+constexpr formats::IconFormat kIconFormats[] = {
+    formats::IconFormat::Bmp, formats::IconFormat::Png256, formats::IconFormat::Png};
+
+// Far more than an icon is good for, and what memory holds.
+constexpr std::size_t kMaxIconSizes = 256;
+
+// The entry of the Export submenu with the path's extension among its patterns; null: none.
+const formats::ExportFormat* FindExportFormat(const fs::path& path) {
+    std::string extension = path.extension().string();
+    std::ranges::transform(extension, extension.begin(),
+                           [](unsigned char c) { return std::tolower(c); });
+    if (extension.empty())
+        return nullptr;
+    for (const formats::ExportFormat& format : formats::kExportFormats) {
+        const std::string_view filter = format.Filter;
+        const std::string patterns = std::string(filter.substr(filter.find('|') + 1)) + ";";
+        if (patterns.find("*" + extension + ";") != std::string::npos)
+            return &format;
+    }
+    return nullptr;
+}
+
+void RequireEntry(const Workspace& workspace, const editing::MenuEntry& entry) {
+    RequireDocument(workspace);
+    if (!entry.Enabled)
+        throw Failure("the document has no layer");
+}
+
+Action ReadNew(Words& words) {
+    const int width = words.Integer("W");
+    const int height = words.Integer("H");
+    return [=](Workspace& workspace) {
+        workspace.Host.Size = {width, height};
+        editing::New(workspace.Editor);
+    };
+}
+
+Action ReadOpen(Words& words) {
+    return [path = words.Path("PATH")](Workspace& workspace) {
+        workspace.Host.File = path;
+        editing::Open(workspace.Editor);
+    };
+}
+
+Action ReadImport(Words& words) {
+    return [path = words.Path("PATH")](Workspace& workspace) {
+        workspace.Host.File = path;
+        editing::Import(workspace.Editor);
+    };
+}
+
+Action ReadSave(Words& words) {
+    return [path = words.Path("PATH")](Workspace& workspace) {
+        editing::OpenFileMenu(workspace.Editor);
+        RequireEntry(workspace, workspace.Editor.Controls.menu_SaveAs);
+        workspace.Host.File = path;
+        editing::SaveAs(workspace.Editor);
+    };
+}
+
+Action ReadExport(Words& words) {
+    const fs::path path = words.Path("PATH");
+    const formats::ExportFormat* format = FindExportFormat(path);
+    if (!format)
+        throw UsageError("PATH must end in .ico, .png, .gif, .jpg, .jpeg or .bmp");
+    return [=](Workspace& workspace) {
+        editing::OpenFileMenu(workspace.Editor);
+        RequireEntry(workspace, workspace.Editor.Controls.m_Export);
+        workspace.Host.File = path;
+        editing::Export(workspace.Editor, *format);
+    };
+}
+
+Action ReadCombine(Words& words) {
+    const fs::path output = words.Path("OUT.ico");
+    std::vector<fs::path> pictures{words.Path("PNG")};
+    // A file that is named like a verb can be given as ./NAME.
+    while (!words.IsAtEnd() && !FindVerb(words.Next()))
+        pictures.push_back(words.Path("PNG"));
+    if (pictures.size() > formats::kMaxCombinedPictures)
+        throw UsageError("more than seven PNG files");
+    return [=](Workspace& workspace) {
+        formats::png2ico(pictures, output, workspace.Editor.ExportSettings.IconPictures);
+    };
+}
+
+Action ReadIconSizes(Words& words) {
+    return [sizes = words.Integers("N", 1, formats::kMaxIconSide, kMaxIconSizes)](
+               Workspace& workspace) { workspace.Editor.ExportSettings.IconSizes = sizes; };
+}
+
+Action ReadIconFormat(Words& words) {
+    const formats::IconFormat format = kIconFormats[words.Choice("FORMAT", kIconFormatNames)];
+    return [=](Workspace& workspace) { workspace.Editor.ExportSettings.IconPictures = format; };
+}
+
+constexpr Verb kVerbs[] = {
+    {"new", "W H", "a page of that size (1 to 512) with one empty layer", ReadNew},
+    {"open", "PATH", "a .volf document, or a picture that becomes the page", ReadOpen},
+    {"import", "PATH", "a picture as a new layer, or as the page when there is none", ReadImport},
+    {"save", "PATH", "write the document as a .volf file", ReadSave},
+    {"export", "PATH", "write the page as .ico .png .gif .jpg .jpeg or .bmp", ReadExport},
+    {"combine", "OUT.ico PNG...", "one to seven PNG files into one icon file", ReadCombine},
+    {"icon-sizes", "N N...", "sizes (1 to 256) of the icons exported from here on", ReadIconSizes},
+    {"icon-format", "bmp|png256|png", "how pictures stand in the icons written from here on",
+     ReadIconFormat},
+};
+
+}  // namespace
+
+std::span<const Verb> FileVerbs() {
+    return kVerbs;
+}
+
+}  // namespace orbelle::cli

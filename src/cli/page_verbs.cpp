@@ -1,0 +1,52 @@
+// The page, and the view on it.
+#include "cli/verb_table.h"
+#include "editing/page_commands.h"
+
+namespace orbelle::cli {
+namespace {
+
+constexpr double kMaxZoom = 20;
+
+Action ReadPage(Words& words) {
+    const int width = words.Integer("W");
+    const int height = words.Integer("H");
+    return [=](Workspace& workspace) {
+        const editing::Controls& controls = workspace.Editor.Controls;
+        if (!controls.CtlScroll1.Enabled || !controls.CtlScroll2.Enabled)
+            throw Failure("there is no document");
+        editing::ChangePageWidth(workspace.Editor, width);
+        editing::ChangePageHeight(workspace.Editor, height);
+    };
+}
+
+Action ReadBackground(Words& words) {
+    graphics::Argb color = 0;
+    if (!words.IsAtEnd() && words.Next() == "none")
+        words.Text("COLOUR");
+    else
+        color = words.Color("COLOUR");
+    return [=](Workspace& workspace) {
+        RequireDocument(workspace);
+        editing::SetPageBackground(workspace.Editor, color);
+    };
+}
+
+Action ReadZoom(Words& words) {
+    return [zoom = words.PositiveNumber("Z", kMaxZoom)](Workspace& workspace) {
+        workspace.Zoom = zoom;
+    };
+}
+
+constexpr Verb kVerbs[] = {
+    {"page", "W H", "the page-size sliders", ReadPage},
+    {"background", "COLOUR|none", "the page background: #RRGGBB or #AARRGGBB", ReadBackground},
+    {"zoom", "Z", "the view's zoom, above 0 up to 20; 1 if not said", ReadZoom},
+};
+
+}  // namespace
+
+std::span<const Verb> PageVerbs() {
+    return kVerbs;
+}
+
+}  // namespace orbelle::cli

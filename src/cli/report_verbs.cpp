@@ -1,0 +1,100 @@
+// What tells about the document: text on the output, and pictures as they stand in memory.
+#include <algorithm>
+#include <utility>
+
+#include "cli/document_json.h"
+#include "cli/verb_table.h"
+#include "editing/view_commands.h"
+#include "graphics/file_io.h"
+#include "graphics/image_files.h"
+
+namespace orbelle::cli {
+namespace {
+
+using graphics::RectI;
+
+void CheckOutput(Workspace& workspace) {
+    if (!workspace.Output.flush())
+        throw Failure("the output can't be written");
+}
+
+// One line for each run of pixels. The rectangles come in bands that share top and bottom, so all
+// rectangles of a band are told for each of its rows.
+void PrintRuns(std::ostream& output, const std::vector<RectI>& rects) {
+    for (auto band = rects.begin(); band != rects.end();) {
+        const auto end = std::find_if(band, rects.end(),
+                                      [band](const RectI& rect) { return rect.Y != band->Y; });
+        for (int y = band->Y; y < band->Y + band->Height; ++y) {
+            for (auto rect = band; rect != end; ++rect)
+                output << y << ' ' << rect->X << ' ' << rect->X + rect->Width << '\n';
+        }
+        band = end;
+    }
+}
+
+void WritePng(const graphics::Bitmap& image, const std::filesystem::path& path) {
+    graphics::WriteFile(path, graphics::EncodePng(image));
+}
+
+Action ReadInfo(Words&) {
+    return [](Workspace& workspace) {
+        RequireDocument(workspace);
+        workspace.Output << DescribeDocument(workspace.Editor) << '\n';
+        CheckOutput(workspace);
+    };
+}
+
+Action ReadRegion(Words& words) {
+    return [layer = words.Integer("N", 0)](Workspace& workspace) {
+        PrintRuns(workspace.Output, RequireLayer(workspace, layer).Region.Rects());
+        CheckOutput(workspace);
+    };
+}
+
+Action ReadWriteLayer(Words& words) {
+    const int layer = words.Integer("N", 0);
+    return [layer, path = words.Path("PATH")](Workspace& workspace) {
+        const graphics::Bitmap& image = RequireLayer(workspace, layer).Image;
+        if (image.IsEmpty())
+            throw Failure("the layer has no pixels");
+        WritePng(image, path);
+    };
+}
+
+Action ReadWritePage(Words& words) {
+    return [path = words.Path("PATH")](Workspace& workspace) {
+        RequireDocument(workspace);
+        WritePng(workspace.Editor.Canvas.new_Img, path);
+    };
+}
+
+Action ReadWriteScene(Words& words) {
+    return [path = words.Path("PATH")](Workspace& workspace) {
+        RequireDocument(workspace);
+        editing::Editor& editor = workspace.Editor;
+        // A view as it is made has the window's scene and its scroll bars in the middle.
+        const document::View before = std::exchange(editor.View, {});
+        editor.View.Zoom = workspace.Zoom;
+        editor.View.ViewActive = true;
+        editing::DrawScene(editor);
+        editor.View = before;
+        WritePng(editor.Scene, path);
+    };
+}
+
+constexpr Verb kVerbs[] = {
+    {"info", "", "print the document as one JSON object on one line", ReadInfo},
+    {"region", "N", "print layer N's region: a line 'y x0 x1' for each run of pixels", ReadRegion},
+    {"write-layer", "N PATH", "write layer N's own pixels as a PNG", ReadWriteLayer},
+    {"write-page", "PATH", "write the composed page as a PNG", ReadWritePage},
+    {"write-scene", "PATH", "write the scene as the window shows it, 1024 by 768, as a PNG",
+     ReadWriteScene},
+};
+
+}  // namespace
+
+std::span<const Verb> ReportVerbs() {
+    return kVerbs;
+}
+
+}  // namespace orbelle::cli

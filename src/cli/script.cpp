@@ -1,0 +1,83 @@
+#include "cli/script.h"
+
+#include <algorithm>
+#include <cctype>
+
+namespace orbelle::cli {
+namespace {
+
+constexpr std::size_t kMaxScriptBytes = std::size_t{16} << 20;
+constexpr std::string_view kBlanks = " \t\r";
+
+bool IsBlank(char c) {
+    return kBlanks.find(c) != std::string_view::npos;
+}
+
+// `rest` begins with '#'.
+bool BeginsWithColor(std::string_view rest) {
+    const std::string_view digits = rest.substr(1, rest.find_first_of(kBlanks) - 1);
+    return (digits.size() == 6 || digits.size() == 8) &&
+           std::ranges::all_of(digits, [](unsigned char c) { return std::isxdigit(c) != 0; });
+}
+
+// Cuts the word off the line that begins with it.
+std::string TakeWord(std::string_view& line) {
+    std::string word;
+    bool quoted = false;
+    while (!line.empty() && (quoted || !IsBlank(line[0]))) {
+        if (line[0] == '"')
+            quoted = !quoted;
+        else
+            word += line[0];
+        line.remove_prefix(1);
+    }
+    if (quoted)
+        throw UsageError("a double quote is not closed");
+    return word;
+}
+
+std::string ReadText(std::istream& script) {
+    std::string text;
+    char part[1 << 14];
+    while (script.read(part, sizeof part), script.gcount() > 0) {
+        text.append(part, static_cast<std::size_t>(script.gcount()));
+        if (text.size() > kMaxScriptBytes)
+            throw UsageError("longer than 16 MiB");
+    }
+    if (script.bad())
+        throw UsageError("can't be read");
+    return text;
+}
+
+}  // namespace
+
+std::vector<std::string> SplitLine(std::string_view line) {
+    std::vector<std::string> words;
+    while (true) {
+        line.remove_prefix(std::min(line.find_first_not_of(kBlanks), line.size()));
+        if (line.empty() || (line[0] == '#' && (words.empty() || !BeginsWithColor(line))))
+            return words;
+        words.push_back(TakeWord(line));
+    }
+}
+
+std::vector<Call> ParseScript(std::istream& script) {
+    const std::string text = ReadText(script);
+    std::vector<Call> calls;
+    std::string_view rest = text;
+    for (int number = 1; !rest.empty(); ++number) {
+        const std::string_view line = rest.substr(0, rest.find('\n'));
+        rest.remove_prefix(std::min(line.size() + 1, rest.size()));
+        try {
+            std::vector<Call> parsed = ParseCalls(SplitLine(line));
+            if (parsed.size() > 1)
+                throw UsageError(JoinWords(parsed[1].Words) + ": a second verb on the line");
+            std::ranges::move(parsed, std::back_inserter(calls));
+        } catch (const UsageError& error) {
+            throw UsageError("line " + std::to_string(number) + ": " + error.what());
+        }
+    }
+    return calls;
+}
+
+}  // namespace orbelle::cli

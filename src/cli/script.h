@@ -1,0 +1,21 @@
+// Scripts: the verbs of a run in a text, one a line.
+#pragma once
+
+#include <istream>
+#include <string>
+#include <vector>
+
+#include "cli/verb_table.h"
+
+namespace orbelle::cli {
+
+// The words of one line, parted by blanks. Double quotes keep blanks and '#'; they may stand
+// anywhere in a word. A '#' at the start of a word begins a comment, unless the word reads as a
+// colour and is not the first. Throws UsageError for a quote that is not closed.
+std::vector<std::string> SplitLine(std::string_view line);
+
+// The calls of all lines. Throws UsageError, which begins with the line's number, and for a script
+// that can't be read or is longer than 16 MiB.
+std::vector<Call> ParseScript(std::istream& script);
+
+}  // namespace orbelle::cli

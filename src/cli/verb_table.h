@@ -1,0 +1,50 @@
+// The verbs, and how words become calls of them.
+#pragma once
+
+#include <functional>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "cli/words.h"
+#include "cli/workspace.h"
+
+namespace orbelle::cli {
+
+// What a verb does once its arguments are known. Throws on failure or leaves word with the host.
+using Action = std::function<void(Workspace&)>;
+
+struct Verb {
+    std::string_view Name;
+    std::string_view Arguments;  // for the help
+    std::string_view Help;
+    Action (*Read)(Words& arguments);  // throws UsageError; changes nothing
+};
+
+// By topic, in the order of the help.
+std::span<const Verb> FileVerbs();
+std::span<const Verb> PageVerbs();
+std::span<const Verb> LayerVerbs();
+std::span<const Verb> ReportVerbs();
+
+// Null when there is none of that name.
+const Verb* FindVerb(std::string_view name);
+
+// A line for each verb, after a line end.
+std::string VerbHelp();
+
+// A verb with arguments that have been checked.
+struct Call {
+    std::vector<std::string> Words;  // as typed, the verb first
+    Action Run;
+};
+
+// All calls in the words. Throws UsageError, which begins with the verb that it is about.
+std::vector<Call> ParseCalls(std::span<const std::string> words);
+
+// Runs the calls in order. Throws Failure, with the call before what is wrong, at the first that
+// fails.
+void RunCalls(std::span<const Call> calls, Workspace& workspace);
+
+}  // namespace orbelle::cli

@@ -1,0 +1,113 @@
+#include "cli/words.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cmath>
+#include <optional>
+
+namespace orbelle::cli {
+namespace {
+
+[[noreturn]] void Refuse(const char* name, const std::string& expected) {
+    throw UsageError(std::string(name) + " must be " + expected);
+}
+
+bool IsDigit(char c) {
+    return c >= '0' && c <= '9';
+}
+
+// What stands in a list of numbers, whether or not the list takes this one.
+bool LooksLikeNumber(std::string_view word) {
+    return IsDigit(word[0]) || (word[0] == '-' && word.size() > 1 && IsDigit(word[1]));
+}
+
+std::optional<int> ParseInteger(std::string_view word) {
+    int value = 0;
+    const auto [end, error] = std::from_chars(word.data(), word.data() + word.size(), value);
+    if (error == std::errc::invalid_argument || end != word.data() + word.size())
+        return std::nullopt;
+    if (error == std::errc::result_out_of_range)
+        return word[0] == '-' ? std::numeric_limits<int>::min() : std::numeric_limits<int>::max();
+    return value;
+}
+
+}  // namespace
+
+std::string JoinWords(std::span<const std::string> words) {
+    std::string line;
+    for (const std::string& word : words) {
+        const bool quoted = word.empty() || word.find_first_of(" \t") != std::string::npos;
+        line.append(line.empty() ? "" : " ").append(quoted ? "\"" + word + "\"" : word);
+    }
+    return line;
+}
+
+const std::string& Words::Text(const char* name) {
+    if (IsAtEnd())
+        throw UsageError(std::string(name) + " is missing");
+    return words_[taken_++];
+}
+
+int Words::Integer(const char* name, int least, int most) {
+    const std::optional<int> value = ParseInteger(Text(name));
+    if (!value)
+        Refuse(name, "a whole number");
+    if (*value < least || *value > most) {
+        const bool bounded = most != std::numeric_limits<int>::max();
+        Refuse(name, bounded ? "from " + std::to_string(least) + " to " + std::to_string(most)
+                             : std::to_string(least) + " or more");
+    }
+    return *value;
+}
+
+std::vector<int> Words::Integers(const char* name, int least, int most, std::size_t maxCount) {
+    std::vector<int> values{Integer(name, least, most)};
+    while (!IsAtEnd() && LooksLikeNumber(Next())) {
+        if (values.size() == maxCount)
+            throw UsageError("more than " + std::to_string(maxCount) + " numbers");
+        values.push_back(Integer(name, least, most));
+    }
+    return values;
+}
+
+double Words::PositiveNumber(const char* name, double most) {
+    const std::string& word = Text(name);
+    double value = 0;
+    const char* const end = word.data() + word.size();
+    const auto result = std::from_chars(word.data(), end, value, std::chars_format::fixed);
+    // Written so that not-a-number is refused, too.
+    if (result.ec != std::errc() || result.ptr != end || !(value > 0 && value <= most))
+        Refuse(name, "a number above 0, up to " + std::to_string(std::lround(most)));
+    return value;
+}
+
+graphics::Argb Words::Color(const char* name) {
+    const std::string& word = Text(name);
+    const char* const first = word.data() + 1;
+    const char* const end = word.data() + word.size();
+    graphics::Argb color = 0;
+    if ((word.size() != 7 && word.size() != 9) || word[0] != '#' ||
+        std::from_chars(first, end, color, 16).ptr != end)
+        Refuse(name, "a colour: #RRGGBB or #AARRGGBB");
+    return word.size() == 7 ? graphics::SetAlphaByte(color, 255) : color;
+}
+
+std::filesystem::path Words::Path(const char* name) {
+    const std::string& word = Text(name);
+    if (word.empty())
+        Refuse(name, "the name of a file");
+    return word;
+}
+
+std::size_t Words::Choice(const char* name, std::span<const std::string_view> choices) {
+    const auto found = std::ranges::find(choices, Text(name));
+    if (found == choices.end()) {
+        std::string list;
+        for (const std::string_view choice : choices)
+            list.append(list.empty() ? "" : " or ").append(choice);
+        Refuse(name, list);
+    }
+    return static_cast<std::size_t>(found - choices.begin());
+}
+
+}  // namespace orbelle::cli

@@ -1,0 +1,63 @@
+// The arguments of verbs: words, checked and turned into numbers, colours and paths.
+#pragma once
+
+#include <filesystem>
+#include <limits>
+#include <span>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+#include "graphics/color.h"
+
+namespace orbelle::cli {
+
+// Wrong usage; what() says what is wrong.
+class UsageError : public std::runtime_error {
+public:
+    using std::runtime_error::runtime_error;
+};
+
+// The words as they could be typed: those with blanks, and empty ones, between double quotes.
+std::string JoinWords(std::span<const std::string> words);
+
+// Reads arguments one after the other; a reader takes the next word. All throw UsageError when it
+// is missing, malformed or out of range; `name` is the argument's name for the message.
+class Words {
+public:
+    explicit Words(std::span<const std::string> words) : words_(words) {}
+
+    bool IsAtEnd() const { return taken_ == words_.size(); }
+    // Only before the end.
+    const std::string& Next() const { return words_[taken_]; }
+    std::size_t Taken() const { return taken_; }
+
+    // The next word as it stands.
+    const std::string& Text(const char* name);
+
+    // A whole number from `least` to `most`. One that no int holds counts as the nearest int.
+    int Integer(const char* name, int least = std::numeric_limits<int>::min(),
+                int most = std::numeric_limits<int>::max());
+
+    // The same for all words up to the first that is no number: at least one, up to `maxCount`.
+    std::vector<int> Integers(const char* name, int least, int most,
+                              std::size_t maxCount = std::numeric_limits<std::size_t>::max());
+
+    // A number above 0, up to `most`; decimals allowed.
+    double PositiveNumber(const char* name, double most);
+
+    // #RRGGBB (alpha 255) or #AARRGGBB.
+    graphics::Argb Color(const char* name);
+
+    // Any word but an empty one.
+    std::filesystem::path Path(const char* name);
+
+    // The place of the word in the list.
+    std::size_t Choice(const char* name, std::span<const std::string_view> choices);
+
+private:
+    std::span<const std::string> words_;
+    std::size_t taken_ = 0;
+};
+
+}  // namespace orbelle::cli
