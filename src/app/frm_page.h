@@ -1,0 +1,31 @@
+// The dialog "New Icon...": the size of a new page.
+#pragma once
+
+#include <QDialog>
+
+#include "editing/editor_host.h"
+
+class QGridLayout;
+class QSpinBox;
+
+namespace orbelle::app {
+
+// Starts with the size chosen last, 0 x 0 on a first run. OK with a side outside 1 to 512 shows a
+// message and leaves the dialog open; otherwise it stores the size.
+class FrmPage : public QDialog {
+    Q_OBJECT
+
+public:
+    explicit FrmPage(QWidget* parent = nullptr);
+
+    editing::PageSize Size() const;  // page pixels
+    void accept() override;
+
+private:
+    QSpinBox* AddSide(QGridLayout& rows, const QString& caption, const char* setting);
+
+    QSpinBox* width_;
+    QSpinBox* height_;
+};
+
+}  // namespace orbelle::app

@@ -1,0 +1,215 @@
+#include "app/main_menu.h"
+
+#include <QMenuBar>
+#include <functional>
+
+#include "app/mform.h"
+#include "editing/document_commands.h"
+#include "editing/export_commands.h"
+#include "editing/style_commands.h"
+#include "editing/undo_commands.h"
+#include "formats/export_image.h"
+
+namespace orbelle::app {
+namespace {
+
+using editing::Controls;
+using Command = std::function<void(mForm&)>;
+
+struct Entry {
+    const char* Name = nullptr;
+    QString Caption;  // '&' marks the mnemonic; empty: a separator
+    QList<QKeySequence> Shortcuts = {};
+    Command Run = {};
+    editing::MenuEntry Controls::*State = nullptr;  // none: always enabled
+    std::vector<Entry> Entries = {};                // of a submenu
+};
+
+Command Edit(mForm::EditorCommand command) {
+    return [command = std::move(command)](mForm& form) { form.Run(command); };
+}
+
+std::vector<Entry> ExportEntries() {
+    static constexpr const char* kNames[] = {"m_ExportFormat0", "m_ExportFormat1",
+                                             "m_ExportFormat2", "m_ExportFormat3",
+                                             "m_ExportFormat4"};
+    static_assert(std::size(kNames) == std::size(formats::kExportFormats));
+    std::vector<Entry> entries;
+    for (const formats::ExportFormat& format : formats::kExportFormats) {
+        const bool hasWriter = format.FileType == formats::FileTypes::Ico ||
+                               format.FileType == formats::FileTypes::Png;
+        const Command run = Edit([&format](editing::Editor& editor) { Export(editor, format); });
+        entries.push_back({kNames[entries.size()],
+                           QString("&") + format.Caption,
+                           {},
+                           hasWriter ? run : Command()});
+    }
+    return entries;
+}
+
+std::vector<Entry> FileEntries() {
+    return {
+        {"m_New", "&New", {Qt::CTRL | Qt::Key_N}, Edit(editing::New)},
+        {"m_Open", "&Open", {Qt::CTRL | Qt::Key_O}, Edit(editing::Open)},
+        {},
+        {"m_Save", "&Save", {Qt::CTRL | Qt::Key_S}, Edit(editing::Save), &Controls::m_Save},
+        {"menu_SaveAs",
+         "Save &As...",
+         {Qt::CTRL | Qt::SHIFT | Qt::Key_S},
+         Edit(editing::SaveAs),
+         &Controls::menu_SaveAs},
+        {},
+        {"m_Import",
+         "&Import...",
+         {Qt::CTRL | Qt::Key_I},
+         Edit(editing::Import),
+         &Controls::m_Import},
+        {"m_Export", "&Export...", {}, {}, &Controls::m_Export, ExportEntries()},
+        {},
+        {"m_Exit", "E&xit", {Qt::CTRL | Qt::Key_Q}, [](mForm& form) { form.close(); }},
+    };
+}
+
+std::vector<Entry> ImageEntries() {
+    return {
+        {"m_Opcaity", "&Opacity..."},
+        {"menu_Grey", "&Grey"},
+        {},
+        {"menu_BgColor",
+         "&Background Color",
+         {},
+         {},
+         nullptr,
+         {{"m_SetBG", "&Set Background Color"}, {"m_TransBG", "&Transparency Background Color"}}},
+    };
+}
+
+std::vector<Entry> EditEntries() {
+    return {
+        {"m_Undo", "&Undo", {Qt::CTRL | Qt::Key_Z}, Edit(editing::Undo), &Controls::m_Undo},
+        {"m_Redo",
+         "&Redo",
+         {Qt::CTRL | Qt::Key_Y, Qt::CTRL | Qt::SHIFT | Qt::Key_Z},
+         Edit(editing::Redo),
+         &Controls::m_Redo},
+        {},
+        {"m_Cut", "Cu&t"},
+        {"m_Copy", "&Copy"},
+        {"m_Paste", "&Paste"},
+        {"m_Del", "&Delete"},
+        {},
+        {"menu_Merge", "&Merge Down"},
+        {},
+        {"menu_FlipH", "Flip &Horizontal"},
+        {"menu_FlipV", "Flip &Veritcal"},
+        {"m_90CW", "Rotate &90 CW"},
+        {"m_90CWW", "Rotate 90 CW&W"},
+        {},
+        {"m_BackOne", "&Back One"},
+        {"m_FowardOne", "&Foward One"},
+        {"m_ToBack", "To Bac&k"},
+        {"m_ToFront", "To Fro&nt"},
+    };
+}
+
+std::vector<Entry> StyleEntries() {
+    return {
+        {"m_Disabled", "&Disabled State"},
+        {"m_Hot", "&Hot State"},
+        {},
+        {"m_freshstyle", "Varnel &Fresh Style"},
+        {"m_iosstyle", "&IOS Style"},
+        {"m_origamistyle",
+         "&Origami style",
+         {},
+         {},
+         nullptr,
+         {{"m_origamistylelevel0", "&Vertical"}, {"m_origamistylelevel1", "&Horizontal"}}},
+        {"m_Macstyle", "&Mac Style"},
+        {"m_Vistastyle", "&Vista Style"},
+        {"m_Crystal", "&Crystal Style", {}, Edit(editing::Crystal), &Controls::m_Crystal},
+        {},
+        {"m_Blur", "&Blur"},
+        {"m_Sharpen", "Shar&pen"},
+        {},
+        {"m_Irradiation", "I&rradiation"},
+        {"m_Shade", "&Shade"},
+        {"m_Reflection", "Ref&lection"},
+        {"m_Shadow", "Drop Shado&w"},
+    };
+}
+
+std::vector<Entry> ToolEntries() {
+    return {{"m_Selection", "&Selecetion"},
+            {"m_Pencil", "&Pencil"},
+            {"m_Line", "&Line"},
+            {"m_Ellipse", "&Ellipse"},
+            {"m_Rectangle", "&Rectangle"}};
+}
+
+std::vector<Entry> HelpEntries() {
+    return {
+        {"m_Tips", "&Tips"},
+        {"m_Samples", "&Samples"},
+        {"m_DownloadSample", "&Free Download Sample Icons..."},
+        {"m_GetIcons", "&Download Over 20,000 Professional Icons..."},
+        {},
+        {"m_Web", "Varnel &Website"},
+        {"m_About", "&About"},
+    };
+}
+
+bool HasCommand(const Entry& entry) {
+    return entry.Run || std::ranges::any_of(entry.Entries, HasCommand);
+}
+
+}  // namespace
+
+MainMenu::MainMenu(mForm& form) {
+    const std::function<void(QMenu&, const std::vector<Entry>&)> fill =
+        [&](QMenu& menu, const std::vector<Entry>& entries) {
+            for (const Entry& entry : entries) {
+                if (entry.Caption.isEmpty()) {
+                    menu.addSeparator();
+                    continue;
+                }
+                QAction* action;
+                if (entry.Entries.empty()) {
+                    action = menu.addAction(entry.Caption);
+                } else {
+                    QMenu* submenu = menu.addMenu(entry.Caption);
+                    fill(*submenu, entry.Entries);
+                    action = submenu->menuAction();
+                }
+                action->setObjectName(entry.Name);
+                action->setShortcuts(entry.Shortcuts);
+                action->setEnabled(HasCommand(entry));
+                if (entry.Run)
+                    QObject::connect(action, &QAction::triggered, &form,
+                                     [run = entry.Run, &form] { run(form); });
+                if (entry.State)
+                    states_.push_back({action, entry.State});
+            }
+        };
+    const Entry menus[] = {
+        {"menu_File", "&File", {}, {}, nullptr, FileEntries()},
+        {"menu_Image", "&Image", {}, {}, nullptr, ImageEntries()},
+        {"menu_Edit", "&Edit", {}, {}, nullptr, EditEntries()},
+        {"menu_Style", "&Style", {}, {}, nullptr, StyleEntries()},
+        {"menu_Tools", "&Tool", {}, {}, nullptr, ToolEntries()},
+        {"menu_Help", "&Help", {}, {}, nullptr, HelpEntries()},
+    };
+    for (const Entry& entry : menus) {
+        QMenu* menu = form.menuBar()->addMenu(entry.Caption);
+        menu->setObjectName(entry.Name);
+        fill(*menu, entry.Entries);
+        QObject::connect(menu, &QMenu::aboutToShow, &form, [&form] { form.ControlsChanged(); });
+    }
+}
+
+void MainMenu::ShowStates(const editing::Controls& controls) {
+    for (const State& state : states_)
+        state.Action->setEnabled((controls.*state.Entry).Enabled);
+}
+
+}  // namespace orbelle::app

@@ -1,0 +1,31 @@
+#include "app/message_boxes.h"
+
+#include <QMessageBox>
+
+#include "editing/editor.h"
+
+namespace orbelle::app {
+namespace {
+
+int Show(QWidget* parent, QMessageBox::Icon icon, const QString& title, const std::string& text,
+         QMessageBox::StandardButtons buttons, QMessageBox::StandardButton usual) {
+    QMessageBox box(icon, title, QString::fromStdString(text), buttons, parent);
+    // A text may carry a file's name: markup in it is no markup.
+    box.setTextFormat(Qt::PlainText);
+    box.setDefaultButton(usual);
+    return box.exec();
+}
+
+}  // namespace
+
+void ShowPlainMessage(QWidget* parent, const std::string& text) {
+    Show(parent, QMessageBox::NoIcon, editing::kProductName, text, QMessageBox::Ok,
+         QMessageBox::Ok);
+}
+
+bool AskOkCancel(QWidget* parent, const std::string& text, const std::string& title) {
+    return Show(parent, QMessageBox::Information, QString::fromStdString(title), text,
+                QMessageBox::Ok | QMessageBox::Cancel, QMessageBox::Cancel) == QMessageBox::Ok;
+}
+
+}  // namespace orbelle::app

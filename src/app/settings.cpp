@@ -1,0 +1,61 @@
+#include "app/settings.h"
+
+#include <QGuiApplication>
+#include <QScreen>
+#include <QStyle>
+#include <QWidget>
+#include <algorithm>
+
+namespace orbelle::app {
+namespace {
+
+constexpr int kMaximized = 2;  // the stored number of that window state
+
+QRect ScreenFor(const QPoint& point) {
+    const QScreen* screen = QGuiApplication::screenAt(point);
+    return (screen ? screen : QGuiApplication::primaryScreen())->availableGeometry();
+}
+
+}  // namespace
+
+QRect MainWindowPlace(const QRect& stored, const QRect& screen) {
+    const auto side = [](int value, int usual, int room) {
+        return std::min(value > 0 ? value : usual, room);
+    };
+    const QSize size(side(stored.width(), kDefaultMainSize.width(), screen.width()),
+                     side(stored.height(), kDefaultMainSize.height(), screen.height()));
+    const QSize free = screen.size() - size;
+    if (stored.topLeft().isNull())
+        return {screen.topLeft() + QPoint(free.width() / 2, free.height() / 2), size};
+    return {QPoint(std::clamp(stored.left(), screen.left(), screen.left() + free.width()),
+                   std::clamp(stored.top(), screen.top(), screen.top() + free.height())),
+            size};
+}
+
+void RestoreMainWindow(QWidget& window) {
+    const Settings settings;
+    const auto number = [&](const char* name) { return settings.value(name).toInt(); };
+    const QRect stored(number("MainLeft"), number("MainTop"), number("MainWidth"),
+                       number("MainHeight"));
+    // The frame that the window system will add belongs on the screen too.
+    const int titleBar = window.style()->pixelMetric(QStyle::PM_TitleBarHeight);
+    const QRect place =
+        MainWindowPlace(stored, ScreenFor(stored.topLeft()).adjusted(0, 0, 0, -titleBar));
+    window.resize(place.size());
+    window.move(place.topLeft());
+    if (number("MainState") == kMaximized)
+        window.setWindowState(Qt::WindowMaximized);
+}
+
+void StoreMainWindow(const QWidget& window) {
+    Settings settings;
+    if (!window.isMaximized()) {
+        settings.setValue("MainLeft", window.x());
+        settings.setValue("MainTop", window.y());
+        settings.setValue("MainWidth", window.width());
+        settings.setValue("MainHeight", window.height());
+    }
+    settings.setValue("MainState", window.isMaximized() ? kMaximized : 0);
+}
+
+}  // namespace orbelle::app

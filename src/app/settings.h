@@ -1,0 +1,27 @@
+// What the program remembers of its user between two runs.
+#pragma once
+
+#include <QRect>
+#include <QSettings>
+
+class QWidget;
+
+namespace orbelle::app {
+
+// A missing value reads as 0 or as the empty text.
+class Settings : public QSettings {
+public:
+    Settings() : QSettings(QStringLiteral("OrbelleWork")) {}
+};
+
+inline constexpr QSize kDefaultMainSize(1100, 760);
+
+// Where the main window goes, wholly on `screen`: a stored side of 0 takes the default, a stored
+// corner at (0, 0) centres. All in logical pixels.
+QRect MainWindowPlace(const QRect& stored, const QRect& screen);
+
+// Position, size and state of the main window; the first two stay as stored while it is maximised.
+void RestoreMainWindow(QWidget& window);
+void StoreMainWindow(const QWidget& window);
+
+}  // namespace orbelle::app

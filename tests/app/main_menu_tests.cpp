@@ -1,0 +1,123 @@
+#include <gmock/gmock.h>
+
+#include <QMenuBar>
+#include <algorithm>
+#include <set>
+
+#include "app/mform.h"
+#include "editing/document_commands.h"
+#include "editing/style_commands.h"
+
+namespace orbelle::app {
+namespace {
+
+using ::testing::ElementsAre;
+
+// The entries of a menu and its submenus, in order, without separators: all, or those that can be
+// reached and chosen.
+enum class Which { All, Enabled };
+std::vector<QAction*> Entries(const QMenu& menu, Which which) {
+    std::vector<QAction*> entries;
+    for (QAction* action : menu.actions()) {
+        if (action->isSeparator() || (which == Which::Enabled && !action->isEnabled()))
+            continue;
+        entries.push_back(action);
+        if (action->menu())
+            std::ranges::copy(Entries(*action->menu(), which), std::back_inserter(entries));
+    }
+    return entries;
+}
+
+std::string Caption(const QAction& action) {
+    return action.text().remove('&').toStdString();
+}
+
+class MainMenuTest : public ::testing::Test {
+protected:
+    QMenu& Menu(const char* name) { return *form.findChild<QMenu*>(name); }
+
+    std::vector<std::string> Captions(const char* menu) {
+        std::vector<std::string> captions;
+        for (const QAction* entry : Entries(Menu(menu), Which::All))
+            captions.push_back(Caption(*entry));
+        return captions;
+    }
+
+    std::set<std::string> EnabledNames() {
+        std::set<std::string> names;
+        for (const QMenu* menu : form.menuBar()->findChildren<QMenu*>(Qt::FindDirectChildrenOnly))
+            for (const QAction* entry : Entries(*menu, Which::Enabled))
+                names.insert(entry->objectName().toStdString());
+        return names;
+    }
+
+    mForm form;
+};
+
+TEST_F(MainMenuTest, CaptionsStandInTheirOrder) {
+    std::vector<std::string> menus;
+    for (const QAction* menu : form.menuBar()->actions())
+        menus.push_back(Caption(*menu));
+    EXPECT_THAT(menus, ElementsAre("File", "Image", "Edit", "Style", "Tool", "Help"));
+
+    EXPECT_THAT(Captions("menu_File"),
+                ElementsAre("New", "Open", "Save", "Save As...", "Import...", "Export...",
+                            "ICO Windows Icon File", "PNG with Transparency", "GIF Image",
+                            "JPEG Image", "BMP Image", "Exit"));
+    EXPECT_THAT(Captions("menu_Image"),
+                ElementsAre("Opacity...", "Grey", "Background Color", "Set Background Color",
+                            "Transparency Background Color"));
+    EXPECT_THAT(Captions("menu_Edit"),
+                ElementsAre("Undo", "Redo", "Cut", "Copy", "Paste", "Delete", "Merge Down",
+                            "Flip Horizontal", "Flip Veritcal", "Rotate 90 CW", "Rotate 90 CWW",
+                            "Back One", "Foward One", "To Back", "To Front"));
+    EXPECT_THAT(Captions("menu_Style"),
+                ElementsAre("Disabled State", "Hot State", "Varnel Fresh Style", "IOS Style",
+                            "Origami style", "Vertical", "Horizontal", "Mac Style", "Vista Style",
+                            "Crystal Style", "Blur", "Sharpen", "Irradiation", "Shade",
+                            "Reflection", "Drop Shadow"));
+    EXPECT_THAT(Captions("menu_Tools"),
+                ElementsAre("Selecetion", "Pencil", "Line", "Ellipse", "Rectangle"));
+    EXPECT_THAT(
+        Captions("menu_Help"),
+        ElementsAre("Tips", "Samples", "Free Download Sample Icons...",
+                    "Download Over 20,000 Professional Icons...", "Varnel Website", "About"));
+}
+
+TEST_F(MainMenuTest, EntriesAreEnabledOnlyWhileTheirCommandCanRun) {
+    EXPECT_THAT(EnabledNames(), ElementsAre("m_Exit", "m_New", "m_Open"));
+
+    form.Run([](editing::Editor& editor) {
+        ResetDocument(editor, 16, 16, true);
+        editor.DocumentExists = true;
+    });
+    emit Menu("menu_File").aboutToShow();
+    EXPECT_THAT(EnabledNames(),
+                ElementsAre("m_Crystal", "m_Exit", "m_Export", "m_ExportFormat0", "m_ExportFormat1",
+                            "m_Import", "m_New", "m_Open", "m_Save", "menu_SaveAs"));
+
+    form.Run(editing::Crystal);
+    EXPECT_EQ(EnabledNames().count("m_Undo"), 1u);
+    EXPECT_EQ(EnabledNames().count("m_Redo"), 0u);
+    Menu("menu_Edit").actions().constFirst()->trigger();
+    EXPECT_EQ(EnabledNames().count("m_Redo"), 1u);
+}
+
+TEST_F(MainMenuTest, EveryMnemonicIsUniqueInItsMenu) {
+    QList<QWidget*> menus{form.menuBar()};
+    for (QMenu* menu : form.menuBar()->findChildren<QMenu*>())
+        menus += menu;
+    for (const QWidget* menu : menus) {
+        std::set<QString> mnemonics;
+        for (const QAction* action : menu->actions()) {
+            if (action->isSeparator())
+                continue;
+            const QString mnemonic = QKeySequence::mnemonic(action->text()).toString();
+            EXPECT_FALSE(mnemonic.isEmpty()) << action->text().toStdString();
+            EXPECT_TRUE(mnemonics.insert(mnemonic).second) << action->text().toStdString();
+        }
+    }
+}
+
+}  // namespace
+}  // namespace orbelle::app
