@@ -76,9 +76,9 @@ mForm::mForm() {
     connect(statusBar(), &QStatusBar::messageChanged, this,
             [this](const QString& text) { statusBar()->setVisible(!text.isEmpty()); });
 
-    SceneChanged();
-    ControlsChanged();
-    TitleChanged();
+    mForm::SceneChanged();
+    mForm::ControlsChanged();
+    mForm::TitleChanged();
 }
 
 void mForm::AddScene() {

@@ -41,7 +41,7 @@ void SceneView::paintEvent(QPaintEvent*) {
         return;
     // The painter scales without smoothing, so at 200 % a scene pixel is a hard 2 x 2 square.
     const QImage image(reinterpret_cast<const uchar*>(scene.Pixels()), scene.Width(),
-                       scene.Height(), scene.Width() * 4, QImage::Format_RGB32);
+                       scene.Height(), scene.Width() * qsizetype{4}, QImage::Format_RGB32);
     painter.drawImage(0, 0, image);
 
     if (const auto frame = document::ObjectFrame(editor_.Document, editor_.View)) {
