@@ -6,7 +6,7 @@ packages=(
     g++ cmake ninja-build pkg-config
     qt6-base-dev libagg-dev libpixman-1-dev libpng-dev libjpeg62-turbo-dev libgif-dev libhwy-dev
     libcli11-dev nlohmann-json3-dev
-    libgtest-dev libgmock-dev libbenchmark-dev
+    libgtest-dev libgmock-dev libbenchmark-dev xvfb xdotool
 )
 
 if ! command -v dpkg-query >/dev/null; then

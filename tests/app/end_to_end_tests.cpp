@@ -32,7 +32,7 @@ protected:
         for (const char* name : {"HOME", "XDG_CONFIG_HOME", "XDG_CACHE_HOME", "XDG_DATA_HOME"})
             environment.insert(name, Path("home"));
         environment.insert("XDG_RUNTIME_DIR", Path("run"));
-        // Away from the user's session too: a desktop's own menu bar would take the window's.
+        // Away from the user's desktop too: its own menu bar would take the window's.
         environment.insert("DBUS_SESSION_BUS_ADDRESS", "disabled:");
     }
 

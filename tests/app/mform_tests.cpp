@@ -3,6 +3,8 @@
 #include <gtest/gtest.h>
 
 #include <QDropEvent>
+#include <QFile>
+#include <QFileDialog>
 #include <QGuiApplication>
 #include <QLabel>
 #include <QMessageBox>
@@ -11,6 +13,8 @@
 #include <QScrollBar>
 #include <QStatusBar>
 #include <QUrl>
+#include <QWheelEvent>
+#include <QWindow>
 #include <stdexcept>
 
 #include "app/frm_prompt.h"
@@ -129,6 +133,37 @@ TEST_F(MFormTest, TakesADragOnlyWithLocalFiles) {
     EXPECT_FALSE(accepted(data));
     data.setUrls({QUrl::fromLocalFile("/near.png")});
     EXPECT_TRUE(accepted(data));
+}
+
+TEST_F(MFormTest, CtrlAndTheWheelZoomInWholeSteps) {
+    OpenPicture(16, 16);
+    const auto turn = [&](int delta, Qt::KeyboardModifiers modifiers) {
+        QWheelEvent wheel(QPointF(50, 50), Scene().mapToGlobal(QPointF(50, 50)), QPoint(),
+                          QPoint(0, delta), Qt::NoButton, modifiers, Qt::NoScrollPhase, false);
+        QApplication::sendEvent(&Scene(), &wheel);
+        return form.Editor().View.Zoom;
+    };
+    EXPECT_EQ(turn(120, Qt::NoModifier), 1);
+    EXPECT_EQ(turn(60, Qt::ControlModifier), 1);
+    EXPECT_EQ(turn(60, Qt::ControlModifier), 3);
+    EXPECT_EQ(turn(240, Qt::ControlModifier), 7);
+    EXPECT_EQ(turn(-120, Qt::ControlModifier), 5);
+}
+
+TEST_F(MFormTest, SavesUnderTheNameThatTheDialogGives) {
+    OpenPicture(16, 16);
+    const QString path = QString::fromStdString((folder / "a[*].volf").string());
+    AnswerDialog<QFileDialog>([&](QFileDialog& files) {
+        EXPECT_EQ(files.windowTitle(), "Open File...");
+        EXPECT_EQ(files.acceptMode(), QFileDialog::AcceptSave);
+        EXPECT_EQ(files.nameFilters(), QStringList("Varnel Orbelle File(*.VOLF) (*.volf)"));
+        files.selectFile(path);
+        static_cast<QDialog&>(files).accept();
+    });
+    form.Run(editing::Save);
+    EXPECT_TRUE(QFile::exists(path));
+    EXPECT_EQ(form.windowHandle()->title(), "a[*].volf - Varnel Orbelle");
+    EXPECT_EQ(Settings().value("LastFolder").toString().toStdString(), folder.Path().string());
 }
 
 TEST_F(MFormTest, TellsWhatACommandThrows) {

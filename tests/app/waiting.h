@@ -3,7 +3,6 @@
 
 #include <QApplication>
 #include <QDeadlineTimer>
-#include <QDialog>
 #include <QThread>
 #include <QTimer>
 #include <functional>
@@ -23,7 +22,7 @@ inline bool WaitUntil(const std::function<bool()>& condition, int seconds = 60) 
 }
 
 // Once the next modal dialog is open: hands it to `answer`, which is to close it.
-template <typename Dialog = QDialog>
+template <typename Dialog>
 void AnswerDialog(std::function<void(Dialog&)> answer) {
     QTimer::singleShot(1, qApp, [answer] {
         if (auto* dialog = qobject_cast<Dialog*>(QApplication::activeModalWidget()))
