@@ -1,0 +1,103 @@
+#include "filters/erasers.h"
+
+#include <gmock/gmock.h>
+
+#include <climits>
+
+#include "support/pictures.h"
+
+namespace orbelle::filters {
+namespace {
+
+using graphics::Bitmap;
+using testing::AlphaRow;
+using ::testing::ElementsAre;
+using testing::FilledPicture;
+using testing::SamePixels;
+
+constexpr graphics::Argb kColor = 0xFF336699;
+
+TEST(EraseColor, ScalesTheAlphaOfOnePixel) {
+    struct Case {
+        unsigned Alpha;
+        int Level;
+        unsigned Expected;
+    };
+    // 127.5 and 126.5 are ties; 400 is no alpha.
+    for (const Case& c : {Case{255, 0, 0}, Case{255, 50, 128}, Case{253, 50, 126},
+                          Case{200, 100, 200}, Case{200, 200, 200}, Case{200, -1, 200},
+                          Case{200, INT_MIN, 200}, Case{200, INT_MAX, 200}}) {
+        Bitmap picture = FilledPicture(3, 2, graphics::SetAlphaByte(kColor, c.Alpha));
+        const Bitmap before = picture;
+        EraseColor(picture, 1, 1, c.Level);
+        EXPECT_EQ(picture.GetPixel(1, 1), graphics::SetAlphaByte(kColor, c.Expected)) << c.Level;
+        picture.SetPixel(1, 1, *before.GetPixel(1, 1));
+        EXPECT_TRUE(SamePixels(picture, before));
+    }
+}
+
+TEST(Erasers, ChangeNothingOutsideThePicture) {
+    const Bitmap before = FilledPicture(3, 3, kColor);
+    const std::vector<std::pair<int, int>> places = {
+        {3, 0}, {0, 3}, {-1, 1}, {1, -1}, {INT_MIN, INT_MIN}, {INT_MAX, INT_MAX}, {INT_MAX, 1}};
+    for (const auto& [x, y] : places) {
+        Bitmap after = before;
+        EraseColor(after, x, y, 0);
+        EXPECT_TRUE(SamePixels(after, before)) << x << ", " << y;
+    }
+    // Radius 2: the nearest pixels lie exactly on the rim.
+    for (const auto& [x, y] :
+         std::vector<std::pair<int, int>>{{4, 1}, {1, -2}, {INT_MIN, 1}, {INT_MAX, INT_MIN}}) {
+        Bitmap after = before;
+        EraseTool(after, x, y, 1, 50);
+        EXPECT_TRUE(SamePixels(after, before)) << x << ", " << y;
+    }
+    Bitmap empty;
+    EraseColor(empty, 0, 0, 0);
+    EraseTool(empty, 0, 0, 100, 50);
+    EXPECT_TRUE(empty.IsEmpty());
+}
+
+// Radius 2; on the diagonal 255 - (1 - sqrt(2) / 2) x 250 = 181.8.
+TEST(EraseTool, FallsFromTheCentreToTheRim) {
+    Bitmap picture = FilledPicture(5, 5, kColor);
+    EraseTool(picture, 2, 2, 1, 50);
+    EXPECT_THAT(AlphaRow(picture, 0), ElementsAre(255, 255, 255, 255, 255));
+    EXPECT_THAT(AlphaRow(picture, 1), ElementsAre(255, 182, 130, 182, 255));
+    EXPECT_THAT(AlphaRow(picture, 2), ElementsAre(255, 130, 5, 130, 255));
+    EXPECT_THAT(AlphaRow(picture, 3), ElementsAre(255, 182, 130, 182, 255));
+    EXPECT_EQ(picture.GetPixel(2, 2), graphics::SetAlphaByte(kColor, 5));
+    EraseTool(picture, 2, 2, 1, 50);
+    EXPECT_THAT(AlphaRow(picture, 2), ElementsAre(255, 5, 0, 5, 255));
+}
+
+// 4.5 goes to radius 4, and the alphas 67.5 and 192.5 to 68 and 192.
+TEST(EraseTool, RoundsTiesToEven) {
+    Bitmap picture = FilledPicture(6, 3, kColor);
+    EraseTool(picture, 0, 1, 3, 50);
+    EXPECT_THAT(AlphaRow(picture, 1), ElementsAre(5, 68, 130, 192, 255, 255));
+}
+
+TEST(EraseTool, LeavesThinPicturesAloneAndErasesNothingWithoutStrengthOrSize) {
+    struct Case {
+        int Width, Height, Size, Level;
+    };
+    for (const Case& c : {Case{1, 9, 9, 50}, Case{9, 1, 9, 50}, Case{9, 9, 9, 0}, Case{9, 9, 0, 50},
+                          Case{9, 9, -9, 50}, Case{9, 9, INT_MIN, 50}}) {
+        const Bitmap before = FilledPicture(c.Width, c.Height, kColor);
+        Bitmap after = before;
+        EraseTool(after, 0, 0, c.Size, c.Level);
+        EXPECT_TRUE(SamePixels(after, before)) << c.Width << " x " << c.Height << ", " << c.Size;
+    }
+}
+
+TEST(EraseTool, ALimitlessBrushIsSafe) {
+    Bitmap picture = FilledPicture(3, 3, kColor);
+    EraseTool(picture, INT_MIN, INT_MAX, INT_MAX, INT_MIN);
+    EXPECT_THAT(AlphaRow(picture, 0), ElementsAre(255, 255, 255));
+    EraseTool(picture, 1, 1, INT_MAX, INT_MAX);
+    EXPECT_THAT(AlphaRow(picture, 0), ElementsAre(0, 0, 0));
+}
+
+}  // namespace
+}  // namespace orbelle::filters
