@@ -2,6 +2,8 @@
 
 #include <cmath>
 
+#include "graphics/gradient_mix.h"
+
 namespace orbelle::graphics {
 namespace {
 
@@ -15,26 +17,13 @@ double Wrapped(double t, WrapMode wrap) {
     return inPair > 1 ? 2 - inPair : inPair;
 }
 
-unsigned Rounded(double channel) {
-    return static_cast<unsigned>(std::floor(channel + 0.5));
-}
-
 }  // namespace
 
 Argb LinearGradientBrush::ColorAt(double x, double y) const {
     const double t = Wrapped(Mode == LinearGradientMode::Horizontal ? (x - Rect.X) / Rect.Width
                                                                     : (y - Rect.Y) / Rect.Height,
                              Wrap);
-    const double weight1 = (1 - t) * AlphaOf(Color1);
-    const double weight2 = t * AlphaOf(Color2);
-    const double alpha = weight1 + weight2;
-    if (alpha <= 0)
-        return 0;
-    const auto mix = [&](unsigned channel1, unsigned channel2) {
-        return Rounded((weight1 * channel1 + weight2 * channel2) / alpha);
-    };
-    return MakeARGB(Rounded(alpha), mix(RedOf(Color1), RedOf(Color2)),
-                    mix(GreenOf(Color1), GreenOf(Color2)), mix(BlueOf(Color1), BlueOf(Color2)));
+    return MixPremultiplied(Color1, Color2, t);
 }
 
 std::optional<LinearGradientBrush> CreateLineBrushFromRect(const RectF& rect, Argb color1,

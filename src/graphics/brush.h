@@ -7,6 +7,7 @@
 #include "graphics/color.h"
 #include "graphics/enums.h"
 #include "graphics/geometry.h"
+#include "graphics/path_gradient.h"
 
 namespace orbelle::graphics {
 
@@ -27,7 +28,7 @@ struct LinearGradientBrush {
     Argb ColorAt(double x, double y) const;
 };
 
-using Brush = std::variant<SolidBrush, LinearGradientBrush>;
+using Brush = std::variant<SolidBrush, LinearGradientBrush, PathGradientBrush>;
 
 // No brush when the rectangle's width or height is 0.
 std::optional<LinearGradientBrush> CreateLineBrushFromRect(const RectF& rect, Argb color1,

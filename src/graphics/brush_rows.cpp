@@ -14,10 +14,10 @@ Argb WithCoverage(Argb color, unsigned coverage) {
 BrushRows::BrushRows(const Brush& brush, double offset, const RectI& area) : area_(area) {
     if (const auto* solid = std::get_if<SolidBrush>(&brush)) {
         solid_ = solid->Color;
-        return;
-    }
-    const auto& gradient = std::get<LinearGradientBrush>(brush);
-    if (gradient.Mode == LinearGradientMode::Horizontal) {
+    } else if (const auto* around = std::get_if<PathGradientBrush>(&brush)) {
+        pixels_ = around->ColorsOf(area, offset);
+    } else if (const auto& gradient = std::get<LinearGradientBrush>(brush);
+               gradient.Mode == LinearGradientMode::Horizontal) {
         for (int i = 0; i < area.Width; ++i)
             columns_.push_back(gradient.ColorAt(area.X + i + offset, 0));
     } else {
@@ -26,26 +26,36 @@ BrushRows::BrushRows(const Brush& brush, double offset, const RectI& area) : are
     }
 }
 
-Argb BrushRows::ColorAt(int x, int y) const {
+const Argb* BrushRows::Row(int x, int y) const {
     if (!columns_.empty())
-        return columns_[x - area_.X];
+        return &columns_[x - area_.X];
+    if (!pixels_.empty())
+        return &pixels_[static_cast<std::size_t>(y - area_.Y) * area_.Width + (x - area_.X)];
+    return nullptr;
+}
+
+Argb BrushRows::RowColor(int y) const {
     return rows_.empty() ? solid_ : rows_[y - area_.Y];
 }
 
 void BrushRows::Blend(Argb* pixels, int x, int y, int count, unsigned coverage) const {
-    if (columns_.empty()) {
-        BlendColor(pixels, WithCoverage(ColorAt(x, y), coverage), count);
+    const Argb* colors = Row(x, y);
+    if (!colors) {
+        BlendColor(pixels, WithCoverage(RowColor(y), coverage), count);
     } else if (coverage == 255) {
-        BlendRow(pixels, &columns_[x - area_.X], count);
+        BlendRow(pixels, colors, count);
     } else {
         for (int i = 0; i < count; ++i)
-            pixels[i] = BlendPixel(pixels[i], WithCoverage(ColorAt(x + i, y), coverage));
+            pixels[i] = BlendPixel(pixels[i], WithCoverage(colors[i], coverage));
     }
 }
 
 void BrushRows::Blend(Argb* pixels, int x, int y, int count, const std::uint8_t* coverage) const {
-    for (int i = 0; i < count; ++i)
-        pixels[i] = BlendPixel(pixels[i], WithCoverage(ColorAt(x + i, y), coverage[i]));
+    const Argb* colors = Row(x, y);
+    for (int i = 0; i < count; ++i) {
+        const Argb color = colors ? colors[i] : RowColor(y);
+        pixels[i] = BlendPixel(pixels[i], WithCoverage(color, coverage[i]));
+    }
 }
 
 }  // namespace orbelle::graphics

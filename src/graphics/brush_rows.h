@@ -9,8 +9,9 @@
 
 namespace orbelle::graphics {
 
-// The colours of a brush for the pixels of `area`, worked out once for each column or row.
-// Gradients are evaluated at (x + offset, y + offset).
+// The colours of a brush for the pixels of `area`, worked out once: for each column or row of a
+// linear gradient, for each pixel of a path gradient. Gradients are evaluated at (x + offset,
+// y + offset).
 class BrushRows {
 public:
     BrushRows(const Brush& brush, double offset, const RectI& area);
@@ -22,12 +23,15 @@ public:
     void Blend(Argb* pixels, int x, int y, int count, const std::uint8_t* coverage) const;
 
 private:
-    Argb ColorAt(int x, int y) const;
+    // The colours of row y from column x on; null when they are all RowColor.
+    const Argb* Row(int x, int y) const;
+    Argb RowColor(int y) const;
 
     RectI area_;
     Argb solid_ = 0;
     std::vector<Argb> columns_;  // only for a horizontal gradient
     std::vector<Argb> rows_;     // only for a vertical gradient
+    std::vector<Argb> pixels_;   // only for a path gradient
 };
 
 }  // namespace orbelle::graphics

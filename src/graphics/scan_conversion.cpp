@@ -55,6 +55,17 @@ std::vector<Edge> EdgesOf(std::span<const FlatFigure> figures, double offset, in
     return edges;
 }
 
+void SortByX(std::vector<Crossing>& crossings) {
+    // Rows of convex shapes have two crossings; a general sort would take most of their time.
+    if (crossings.size() == 2) {
+        if (crossings[1].X < crossings[0].X)
+            std::swap(crossings[0], crossings[1]);
+        return;
+    }
+    std::sort(crossings.begin(), crossings.end(),
+              [](const Crossing& a, const Crossing& b) { return a.X < b.X; });
+}
+
 // Turns the sorted crossings of one row into runs.
 void AppendRuns(std::vector<RectI>& runs, std::span<const Crossing> crossings, FillMode fillMode,
                 double offset, int row, const RectI& within) {
@@ -113,8 +124,7 @@ std::vector<RectI> PixelsInside(std::span<const FlatFigure> figures, FillMode fi
         crossings.clear();
         for (const Edge* edge : active)
             crossings.push_back({edge->CrossingAt(row + offset), edge->Winding});
-        std::sort(crossings.begin(), crossings.end(),
-                  [](const Crossing& a, const Crossing& b) { return a.X < b.X; });
+        SortByX(crossings);
         AppendRuns(runs, crossings, fillMode, offset, row, within);
         std::erase_if(active, [&](const Edge* edge) { return edge->EndRow == row + 1; });
     }

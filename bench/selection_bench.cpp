@@ -1,0 +1,81 @@
+// The selection on a page of 512 x 512, path gradients and quarter turns of that size.
+#include <benchmark/benchmark.h>
+
+#include "bench_pictures.h"
+#include "filters/selection_region.h"
+#include "graphics/rotate_flip.h"
+
+namespace orbelle::bench {
+namespace {
+
+using namespace graphics;
+using filters::ClsFilters;
+using filters::CropShape;
+
+ClsFilters SelectionOf(int ellipses) {
+    ClsFilters selection;
+    for (int i = 0; i < ellipses; ++i) {
+        const int x = i * 37 % 400, y = i * 61 % 400;
+        selection.SetCropDatas(x + 100, y + 90, x, y, CropShape::Ellipse);
+    }
+    return selection;
+}
+
+void DrawSelection(benchmark::State& state) {
+    ClsFilters selection = SelectionOf(static_cast<int>(state.range(0)));
+    const auto zoom = static_cast<float>(state.range(1));
+    Bitmap scene(1600, 1000);
+    DrawingContext context(scene);
+    const float side = 512 * zoom;
+    const RectF page{(1600 - side) / 2, (1000 - side) / 2, side, side};
+    for (auto _ : state) {
+        selection.DrawCropRegion(context, page, {0, 0}, zoom);
+        benchmark::ClobberMemory();
+    }
+}
+BENCHMARK(DrawSelection)
+    ->ArgNames({"shapes", "zoom"})
+    ->ArgsProduct({{1, 200}, {1, 20}})
+    ->Unit(benchmark::kMillisecond);
+
+void CropImage(benchmark::State& state) {
+    const ClsFilters selection = SelectionOf(static_cast<int>(state.range(0)));
+    const Bitmap picture = MakePicture(Content::HalfTransparent, 512);
+    for (auto _ : state) {
+        Bitmap image = picture;
+        benchmark::DoNotOptimize(
+            selection.CropImage(image, 512, 512, 512, 512, {0, 0}, true, true).Image.Pixels());
+    }
+}
+BENCHMARK(CropImage)->ArgName("shapes")->Arg(1)->Arg(200)->Unit(benchmark::kMillisecond);
+
+void FillWithPathGradient(benchmark::State& state) {
+    Path ellipse(FillMode::Winding);
+    ellipse.AddEllipse({0, 0, 512, 512});
+    const auto brush = CreatePathGradientFromPath(ellipse, 0xC8FF8040, {256, 256}, 0x402040FF);
+    Bitmap target(512, 512);
+    DrawingContext context(target);
+    for (auto _ : state) {
+        context.FillPath(*brush, ellipse);
+        benchmark::ClobberMemory();
+    }
+}
+BENCHMARK(FillWithPathGradient)->Unit(benchmark::kMillisecond);
+
+void RotateFlip(benchmark::State& state) {
+    Bitmap image = MakePicture(Content::Opaque, 512);
+    for (auto _ : state) {
+        ImageRotateFlip(image, static_cast<RotateFlipType>(state.range(0)));
+        benchmark::ClobberMemory();
+    }
+}
+BENCHMARK(RotateFlip)
+    ->ArgName("type")
+    ->Arg(1)
+    ->Arg(4)
+    ->Arg(5)
+    ->Arg(6)
+    ->Unit(benchmark::kMicrosecond);
+
+}  // namespace
+}  // namespace orbelle::bench
