@@ -2,46 +2,15 @@
 
 #include <algorithm>
 #include <cmath>
-#include <optional>
 #include <vector>
 
 #include "graphics/blend.h"
+#include "graphics/recoloring.h"
 #include "graphics/resampling.h"
 #include "graphics/sampling.h"
 
 namespace orbelle::graphics {
 namespace {
-
-// The attributes made ready for many pixels.
-class Recoloring {
-public:
-    explicit Recoloring(const ImageAttributes& attributes) : attributes_(attributes) {
-        const auto& matrix = attributes.Matrix;
-        if (!matrix)
-            return;
-        const float opacity = (*matrix)[3][3];
-        if (opacity >= 0 && opacity <= 1 && *matrix == OpacityMatrix(opacity))
-            factor_.emplace(opacity);
-    }
-
-    bool ChangesNothing() const { return !attributes_.Matrix; }
-
-    // The factor of the alphas, when nothing else changes.
-    const std::optional<AlphaFactor>& Factor() const { return factor_; }
-
-    void Apply(std::span<Argb> pixels) const {
-        if (ChangesNothing())
-            return;
-        for (Argb& pixel : pixels) {
-            pixel = factor_ ? SetAlphaByte(pixel, factor_->Apply(AlphaOf(pixel)))
-                            : attributes_.Apply(pixel);
-        }
-    }
-
-private:
-    const ImageAttributes& attributes_;
-    std::optional<AlphaFactor> factor_;
-};
 
 // Whether every picture pixel falls exactly on a target pixel: no mode changes it then.
 bool IsPixelForPixel(const ImageDrawing& drawing) {

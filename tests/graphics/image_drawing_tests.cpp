@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "graphics/blend.h"
+#include "graphics/recoloring.h"
 
 namespace orbelle::graphics {
 namespace {
@@ -292,8 +293,7 @@ TEST(ImageDrawing, AttributesChangeThePictureBeforeItIsSampled) {
     for (const ColorMatrix& matrix : {swap, OpacityMatrix(0.6F)}) {
         const ImageAttributes attributes{matrix};
         Bitmap changed = image;
-        for (int i = 0; i < 9 * 6; ++i)
-            changed.MutablePixels()[i] = attributes.Apply(changed.Pixels()[i]);
+        Recoloring(attributes).Apply({changed.MutablePixels(), 9 * 6});
         for (const auto mode : kAllModes) {
             for (const RectF& destination : {RectF{1, 2, 9, 6}, {0.5F, 1, 20, 4}}) {
                 Bitmap direct = Noise(24, 9), expected = direct;
