@@ -93,8 +93,9 @@ void PaintScene(benchmark::State& state) {
     view.Zoom = static_cast<double>(state.range(0));
     view.ViewActive = true;
     graphics::Bitmap scene;
+    filters::ClsFilters selection;
     for (auto _ : state) {
-        document::DrawScene(scene, canvas.new_Img, document, view);
+        document::DrawScene(scene, canvas.new_Img, document, view, selection);
         benchmark::DoNotOptimize(scene.Pixels());
     }
 }

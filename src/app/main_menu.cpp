@@ -113,29 +113,39 @@ std::vector<Entry> EditEntries() {
 }
 
 std::vector<Entry> StyleEntries() {
+    const auto entry = [](const char* name, const char* caption, void (*command)(editing::Editor&),
+                          editing::MenuEntry Controls::*state) {
+        return Entry{name, caption, {}, Edit(command), state};
+    };
+    const auto fold = [](const char* name, const char* caption, filters::Fold direction) {
+        return Entry{name, caption, {}, Edit([direction](editing::Editor& editor) {
+                         Origami(editor, direction);
+                     })};
+    };
     return {
-        {"m_Disabled", "&Disabled State"},
-        {"m_Hot", "&Hot State"},
+        entry("m_Disabled", "&Disabled State", editing::DisabledState, &Controls::m_Disabled),
+        entry("m_Hot", "&Hot State", editing::HotState, &Controls::m_Hot),
         {},
-        {"m_freshstyle", "Varnel &Fresh Style"},
-        {"m_iosstyle", "&IOS Style"},
+        entry("m_freshstyle", "Varnel &Fresh Style", editing::Fresh, &Controls::m_freshstyle),
+        entry("m_iosstyle", "&IOS Style", editing::iOS, &Controls::m_iosstyle),
         {"m_origamistyle",
          "&Origami style",
          {},
          {},
-         nullptr,
-         {{"m_origamistylelevel0", "&Vertical"}, {"m_origamistylelevel1", "&Horizontal"}}},
-        {"m_Macstyle", "&Mac Style"},
-        {"m_Vistastyle", "&Vista Style"},
-        {"m_Crystal", "&Crystal Style", {}, Edit(editing::Crystal), &Controls::m_Crystal},
+         &Controls::m_origamistyle,
+         {fold("m_origamistylelevel0", "&Vertical", filters::Fold::Vertical),
+          fold("m_origamistylelevel1", "&Horizontal", filters::Fold::Horizontal)}},
+        entry("m_Macstyle", "&Mac Style", editing::Mac, &Controls::m_Macstyle),
+        entry("m_Vistastyle", "&Vista Style", editing::Vista, &Controls::m_Vistastyle),
+        entry("m_Crystal", "&Crystal Style", editing::Crystal, &Controls::m_Crystal),
         {},
-        {"m_Blur", "&Blur"},
-        {"m_Sharpen", "Shar&pen"},
+        entry("m_Blur", "&Blur", editing::Blur, &Controls::m_Blur),
+        entry("m_Sharpen", "Shar&pen", editing::Sharpen, &Controls::m_Sharpen),
         {},
-        {"m_Irradiation", "I&rradiation"},
-        {"m_Shade", "&Shade"},
-        {"m_Reflection", "Ref&lection"},
-        {"m_Shadow", "Drop Shado&w"},
+        entry("m_Irradiation", "I&rradiation", editing::Irradiation, &Controls::m_Irradiation),
+        entry("m_Shade", "&Shade", editing::Shade, &Controls::m_Shade),
+        entry("m_Reflection", "Ref&lection", editing::Reflection, &Controls::m_Reflection),
+        entry("m_Shadow", "Drop Shado&w", editing::DropShadow, &Controls::m_Shadow),
     };
 }
 

@@ -44,6 +44,8 @@ void SceneView::paintEvent(QPaintEvent*) {
                        scene.Height(), scene.Width() * qsizetype{4}, QImage::Format_RGB32);
     painter.drawImage(0, 0, image);
 
+    if (editor_.Filters.SelectionOK())
+        return;
     if (const auto frame = document::ObjectFrame(editor_.Document, editor_.View)) {
         painter.setPen(QPen(kFrameColor, 1, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
         painter.drawRect(

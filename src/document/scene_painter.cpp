@@ -51,7 +51,8 @@ void DrawPageBackground(Bitmap& scene, Argb background, const RectF& page, float
 
 }  // namespace
 
-void DrawScene(Bitmap& scene, const Bitmap& canvas, const Document& document, const View& view) {
+void DrawScene(Bitmap& scene, const Bitmap& canvas, const Document& document, const View& view,
+               filters::ClsFilters& selection) {
     if (!view.ViewActive)
         return;
     if (scene.Width() != view.SceneWidth || scene.Height() != view.SceneHeight)
@@ -77,6 +78,7 @@ void DrawScene(Bitmap& scene, const Bitmap& canvas, const Document& document, co
     context.DrawImageRectRectI(canvas,
                                {static_cast<int>(left), static_cast<int>(top), width, height},
                                {0, 0, canvas.Width(), canvas.Height()});
+    selection.DrawCropRegion(context, {left, top, pageWidth, pageHeight}, {}, view.Zoom);
 }
 
 std::optional<RectI> ObjectFrame(const Document& document, const View& view) {

@@ -5,6 +5,7 @@
 
 #include "document/document.h"
 #include "document/view.h"
+#include "filters/selection_region.h"
 #include "graphics/bitmap.h"
 #include "graphics/geometry.h"
 
@@ -14,9 +15,10 @@ namespace orbelle::document {
 inline constexpr graphics::Argb kSceneColor = graphics::MakeARGB(255, 110, 110, 110);
 
 // Paints `canvas` (the composed page) on `scene`, whose size is the view's: background or
-// checkerboard, page shadow, page frame, picture. Nothing happens while the view is not active.
+// checkerboard, page shadow, page frame, picture, and the page dimmed outside the selection.
+// Nothing happens while the view is not active.
 void DrawScene(graphics::Bitmap& scene, const graphics::Bitmap& canvas, const Document& document,
-               const View& view);
+               const View& view, filters::ClsFilters& selection);
 
 // Where the outline around the selected layer stands, in scene pixels: two pixels outside the layer
 // on every side. None when no visible layer is selected.

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "editing/apply_layer_pixels.h"
 #include "editing/command_frame.h"
 #include "editing/tips.h"
 #include "editing/undo_commands.h"
@@ -9,23 +10,93 @@
 
 namespace orbelle::editing {
 
+using document::IconLayer;
+
+namespace {
+
+// What an adjustment is made of.
+struct AdjustmentParts {
+    Slider Controls::*Position;
+    std::string Controls::*Label;
+    int Rest;  // the label shows the position less this
+    PixelFilter Filter;
+    int IconLayer::*Field;
+};
+
+AdjustmentParts PartsOf(Adjustment adjustment) {
+    switch (adjustment) {
+        case Adjustment::Hue:
+            return {&Controls::HUEscroll, &Controls::HueValue, 0, PixelFilter::Hue,
+                    &IconLayer::Hue};
+        case Adjustment::Saturation:
+            return {&Controls::SaturationScroll, &Controls::SaturationValue, 40,
+                    PixelFilter::Saturation, &IconLayer::Saturation};
+        case Adjustment::Brightness:
+            return {&Controls::BrightnessScroll, &Controls::BrightnessValue, 50,
+                    PixelFilter::BrightnessContrast, &IconLayer::Brightness};
+        case Adjustment::Contrast:
+            break;
+    }
+    return {&Controls::ContrastScroll, &Controls::ContrastValue, 50,
+            PixelFilter::BrightnessContrast, &IconLayer::Contrast};
+}
+
+void EndDrag(Editor& editor) {
+    editor.Host.LayerPanelChanged();
+    editor.Host.ShowTips(tips::Adjusted);
+    editor.Host.ControlsChanged();
+}
+
+}  // namespace
+
 void PressOpacity(Editor& editor) {
-    RunCommand(editor, [&] { BeginUndoStep(editor); });
+    if (editor.Document.HasSelection())
+        RunCommand(editor, [&] { BeginUndoStep(editor); });
 }
 
 void ChangeOpacity(Editor& editor, int value) {
+    if (!editor.Document.HasSelection())
+        return;
     editor.Controls.CtlScroll21.Value = std::clamp(value, 0, 100);
-    if (editor.Document.HasSelection())
-        editor.Document.Selected().Opacity =
-            static_cast<float>(editor.Controls.CtlScroll21.Value / 100.0);
+    editor.Document.Selected().Opacity =
+        static_cast<float>(editor.Controls.CtlScroll21.Value / 100.0);
     Compose(editor);
 }
 
 void ReleaseOpacity(Editor& editor) {
+    if (!editor.Document.HasSelection())
+        return;
     Compose(editor);
-    editor.Host.LayerPanelChanged();
-    editor.Host.ShowTips(tips::Adjusted);
-    editor.Host.ControlsChanged();
+    EndDrag(editor);
+}
+
+void PressAdjustment(Editor& editor) {
+    if (!editor.Document.HasSelection())
+        return;
+    RunCommand(editor, [&] {
+        BeginUndoStep(editor);
+        editor.AdjustSnapshot = editor.Document.Selected().Image;
+    });
+}
+
+void ChangeAdjustment(Editor& editor, Adjustment adjustment, int value) {
+    if (!editor.Document.HasSelection())
+        return;
+    const AdjustmentParts parts = PartsOf(adjustment);
+    const int position = std::clamp(value, 0, 100);
+    (editor.Controls.*parts.Position).Value = position;
+    editor.Controls.*parts.Label = std::to_string(position - parts.Rest);
+    ApplyLayerPixels(editor, parts.Filter, editor.AdjustSnapshot);
+}
+
+void ReleaseAdjustment(Editor& editor, Adjustment adjustment) {
+    if (!editor.Document.HasSelection())
+        return;
+    const AdjustmentParts parts = PartsOf(adjustment);
+    editor.Document.Selected().*parts.Field = (editor.Controls.*parts.Position).Value;
+    editor.AdjustSnapshot = {};
+    DrawScene(editor);
+    EndDrag(editor);
 }
 
 }  // namespace orbelle::editing

@@ -1,13 +1,28 @@
-// The sliders of the layer panels: press, change, release.
+// The sliders of the layer panels. A drag is a press, any number of changes and a release, and one
+// undo step, taken at the press. Values are slider positions, 0 to 100; others are brought to the
+// nearer end. Each does nothing without a selected layer.
 #pragma once
 
 #include "editing/editor.h"
 
 namespace orbelle::editing {
 
-// One drag of the opacity slider is one undo step, taken at the press. `value` is 0 to 100.
 void PressOpacity(Editor& editor);
 void ChangeOpacity(Editor& editor, int value);
 void ReleaseOpacity(Editor& editor);
+
+enum class Adjustment { Hue, Saturation, Brightness, Contrast };
+
+// Every change filters the picture as it was at the press, so steps of one drag do not add up; the
+// next drag starts from the changed pixels, so drags do.
+void PressAdjustment(Editor& editor);
+void ChangeAdjustment(Editor& editor, Adjustment adjustment, int value);
+void ReleaseAdjustment(Editor& editor, Adjustment adjustment);
+
+// The drag changes only the layer's Rect; the release draws the picture in the new size and puts
+// the slider back to its middle.
+void PressScale(Editor& editor);
+void ChangeScale(Editor& editor, int value);
+void ReleaseScale(Editor& editor);
 
 }  // namespace orbelle::editing

@@ -37,6 +37,8 @@ struct Controls {
     Slider SaturationScroll{40, false};
     Slider ContrastScroll{50, false};
     Slider ScaleScroll{50, false};  // 0 to 100
+    Slider CtlScroll22{1, true};    // brush opacity, 1 to 100
+    Slider CtlScroll23{1, true};    // brush size, 1 to 100
 
     // Labels beside the sliders.
     std::string HueValue = "0";
@@ -55,7 +57,21 @@ struct Controls {
     MenuEntry m_Export{false};
     MenuEntry m_Undo{false};
     MenuEntry m_Redo{false};
+
+    MenuEntry m_Disabled{false};
+    MenuEntry m_Hot{false};
+    MenuEntry m_freshstyle;
+    MenuEntry m_iosstyle{false};
+    MenuEntry m_origamistyle{false};
+    MenuEntry m_Macstyle{false};
+    MenuEntry m_Vistastyle{false};
     MenuEntry m_Crystal{false};
+    MenuEntry m_Blur{false};
+    MenuEntry m_Sharpen{false};
+    MenuEntry m_Irradiation{false};
+    MenuEntry m_Shade{false};
+    MenuEntry m_Reflection{false};
+    MenuEntry m_Shadow{false};
 
     bool PageSliderLock = false;   // the page-size sliders do not react while they are set
     bool PageSizeChanged = false;  // the page was resized since the last fit to the window

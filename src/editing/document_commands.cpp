@@ -64,6 +64,9 @@ void ClearStack(Editor& editor) {
     controls.ToolBarvs1[main_buttons::Redo].Enabled = false;
     controls.m_Undo.Enabled = false;
     controls.m_Redo.Enabled = false;
+    controls.m_Blur.Enabled = false;
+    controls.m_Sharpen.Enabled = false;
+    editor.Filters.ClearCrop();
 }
 
 void ShowPageSize(Editor& editor) {
@@ -91,6 +94,8 @@ void ShowIncomingLayer(Editor& editor) {
     EnableLayerSliders(editor);
     EnableDocumentCommands(editor);
     Controls& controls = editor.Controls;
+    controls.m_Blur.Enabled = true;
+    controls.m_Sharpen.Enabled = true;
     controls.ToolBarvs1[main_buttons::Save].Enabled = true;
     controls.ToolBarvs4[layer_buttons::Remove].Enabled = true;
     controls.ToolBarvs4[layer_buttons::Hide] = {true, true};
@@ -165,6 +170,7 @@ void ImportPicture(Editor& editor, const fs::path& path) {
             document::OpenLayerSlot(document, document::SlotCopySize::Image);
         document::MakeImageLayer(document, layer, image);
         ShowIncomingLayer(editor);
+        editor.Filters.ClearCrop();
         Compose(editor);
         editor.Host.LayerPanelChanged();
         if (!failure.empty())

@@ -1,6 +1,7 @@
 // The whole state of the editor. The commands in this folder are plain routines that work on it.
 #pragma once
 
+#include <array>
 #include <string>
 
 #include "document/compositor.h"
@@ -9,6 +10,7 @@
 #include "document/view.h"
 #include "editing/controls.h"
 #include "editing/editor_host.h"
+#include "filters/selection_region.h"
 #include "formats/export_image.h"
 #include "graphics/bitmap.h"
 #include "graphics/dib_save.h"
@@ -45,6 +47,15 @@ struct Editor {
     bool ZoomBusy = false;   // a zoom command runs: scroll bars redraw nothing
     double ZoomStep = -0.2;  // what the zoom animation subtracts a tick
     double ZoomTarget = 1;   // where it stops
+
+    filters::ClsFilters Filters;  // holds the selection
+
+    std::array<graphics::Argb, 2> Colors{};  // foreground, background
+
+    // Between the press and the release of a slider: the picture or place that its steps start
+    // from.
+    graphics::Bitmap AdjustSnapshot;
+    graphics::RectF ScaleStartRect;
 
     // Set while a document exists; cleared while one is being opened.
     bool DocumentExists = false;

@@ -27,6 +27,7 @@ void AddEmptyLayer(Editor& editor, float width, float height) {
 
 void AddLayerCommand(Editor& editor) {
     RunCommand(editor, [&] {
+        editor.Filters.ClearCrop();
         AddEmptyLayer(editor, static_cast<float>(editor.Document.PageWidth),
                       static_cast<float>(editor.Document.PageHeight));
         Compose(editor);

@@ -10,8 +10,17 @@ void OpenFileMenu(Editor& editor) {
 }
 
 void OpenStyleMenu(Editor& editor) {
-    editor.Controls.m_Crystal.Enabled =
-        editor.Document.HasSelection() && editor.Document.Selected().Visible;
+    Controls& controls = editor.Controls;
+    const bool hasLayers = editor.Document.LayerCount() > 0;
+    controls.m_Disabled.Enabled = hasLayers;
+    controls.m_Hot.Enabled = hasLayers;
+    // Fresh is deliberately left out: it stays enabled.
+    const bool visible = editor.Document.HasSelection() && editor.Document.Selected().Visible;
+    for (MenuEntry* entry :
+         {&controls.m_Blur, &controls.m_Sharpen, &controls.m_Irradiation, &controls.m_iosstyle,
+          &controls.m_origamistyle, &controls.m_Crystal, &controls.m_Macstyle,
+          &controls.m_Vistastyle, &controls.m_Reflection, &controls.m_Shade, &controls.m_Shadow})
+        entry->Enabled = visible;
 }
 
 }  // namespace orbelle::editing

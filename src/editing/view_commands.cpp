@@ -96,7 +96,8 @@ void Compose(Editor& editor) {
 }
 
 void DrawScene(Editor& editor) {
-    document::DrawScene(editor.Scene, editor.Canvas.new_Img, editor.Document, editor.View);
+    document::DrawScene(editor.Scene, editor.Canvas.new_Img, editor.Document, editor.View,
+                        editor.Filters);
     editor.Host.SceneChanged();
 }
 

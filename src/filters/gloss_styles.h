@@ -4,6 +4,7 @@
 #include <optional>
 
 #include "graphics/bitmap.h"
+#include "graphics/path.h"
 
 namespace orbelle::filters {
 
@@ -19,5 +20,22 @@ struct StylePicture {
 // A white gloss over the upper part of the picture's body, cut by a big ellipse. None when the
 // picture has no body (no pixel of kSolidAlpha and above).
 std::optional<StylePicture> CrystalStyle(const graphics::Bitmap& image);
+
+// Which half of the body OrigamiStyle leaves: the upper one or the left one.
+enum class Fold { Vertical = 0, Horizontal = 1 };
+
+// A fold: a faint gradient from color2 (top or left) to color1 on one half of the picture's body.
+// None without a body.
+std::optional<StylePicture> OrigamiStyle(const graphics::Bitmap& image, Fold fold,
+                                         graphics::Argb color1, graphics::Argb color2);
+
+struct Plate {
+    graphics::Bitmap Image;
+    graphics::Path Path;
+};
+
+// A rounded plate of width x height pixels in a colour, its outline from (x, y) on. No picture for
+// a size that no bitmap has.
+Plate iOSStyle(graphics::Argb color, int width, int height, float x, float y);
 
 }  // namespace orbelle::filters

@@ -117,6 +117,28 @@ TEST_F(ProgramTest, UndoAndRedoStepThroughTheHistory) {
     EXPECT_EQ(Run({"open", "a.png", "redo"}), Failed("redo: there is nothing to redo"));
 }
 
+// A layer on a page of its size: the colours that come out are worked by hand.
+TEST_F(ProgramTest, StylesAndSlidersDoWhatTheMenuAndThePanelsDo) {
+    Write("a.png", FilledPicture(4, 4, 0xFF3366CC));
+    EXPECT_EQ(Run({"open", "a.png", "style", "hot", "write-layer", "0", "hot.png", "undo", "hue",
+                   "90", "100", "write-layer", "0", "hue.png", "saturation", "0", "write-layer",
+                   "0", "grey.png"}),
+              kSuccess);
+    EXPECT_EQ(Picture("hot.png").GetPixel(0, 0), 0xFF5A8DDD);
+    // Sector 6 with t 255: green takes red's place and gets its own value back.
+    EXPECT_EQ(Picture("hue.png").GetPixel(0, 0), 0xFF3366CC);
+    EXPECT_EQ(Picture("grey.png").GetPixel(0, 0), 0xFF777777);
+
+    EXPECT_THAT(Run({"open", "a.png", "foreground", "#80FF0000", "style", "ios", "style", "shadow",
+                     "scale", "60", "info"})
+                    .Output,
+                AllOf(HasSubstr(R"("selected":0,"undo":3,)"),
+                      HasSubstr(R"("rect":[1,1,16,16],"base_rect":[1,1,16,16],"image":[16,16])")));
+    EXPECT_EQ(Run({"new", "8", "8", "undo"}), Failed("undo: there is nothing to undo"));
+    EXPECT_EQ(Run({"style", "mac"}), Failed("style mac: there is no document"));
+    EXPECT_EQ(Run({"hue", "3"}), Failed("hue 3: there is no document"));
+}
+
 TEST_F(ProgramTest, ThePageSlidersStopAtTheirEnds) {
     EXPECT_THAT(Run({"new", "9", "9", "page", "-3", "99999999999", "info"}).Output,
                 StartsWith(R"({"page":{"width":1,"height":512,)"));

@@ -47,7 +47,12 @@ TEST(ParseCallsTest, WrongUsageNamesTheVerbAndTheWord) {
         {{"opacity", "50", "101"}, "opacity 50 101: V must be from 0 to 100"},
         {{"icon-sizes", "0"}, "icon-sizes 0: N must be from 1 to 256"},
         {{"icon-format", "gif"}, "icon-format gif: FORMAT must be bmp or png256 or png"},
-        {{"style", "vista"}, "style vista: NAME must be crystal"},
+        {{"style", "Vista"},
+         "style Vista: NAME must be disabled or hot or fresh or ios or origami-vertical or "
+         "origami-horizontal or mac or vista or crystal or blur or sharpen or irradiation or shade "
+         "or reflection or shadow"},
+        {{"hue", "50", "101"}, "hue 50 101: V must be from 0 to 100"},
+        {{"foreground", "red"}, "foreground red: COLOUR must be a colour: #RRGGBB or #AARRGGBB"},
         {{"export", "a.tga"},
          "export a.tga: PATH must end in .ico, .png, .gif, .jpg, .jpeg or .bmp"},
         {{"export", "png"}, "export png: PATH must end in .ico, .png, .gif, .jpg, .jpeg or .bmp"},

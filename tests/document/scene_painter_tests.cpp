@@ -19,6 +19,7 @@ struct Shown {
     View view;
     Bitmap canvas;
     Bitmap scene;
+    filters::ClsFilters selection;
 
     Shown(int width, int height, double zoom) : canvas(width, height) {
         document.PageWidth = width;
@@ -30,7 +31,7 @@ struct Shown {
     }
 
     Argb At(int x, int y) {
-        DrawScene(scene, canvas, document, view);
+        DrawScene(scene, canvas, document, view, selection);
         return *scene.GetPixel(x, y);
     }
 };
@@ -58,7 +59,7 @@ TEST(View, ALargePageMovesLeftAsTheBarMovesRight) {
 TEST(DrawScene, NothingHappensWithoutADocument) {
     Shown shown(4, 2, 1);
     shown.view.ViewActive = false;
-    DrawScene(shown.scene, shown.canvas, shown.document, shown.view);
+    DrawScene(shown.scene, shown.canvas, shown.document, shown.view, shown.selection);
     EXPECT_TRUE(shown.scene.IsEmpty());
 }
 
@@ -110,13 +111,26 @@ TEST(DrawScene, ZoomedPixelsAreSquaresAndTheBackgroundLiesHalfAPixelOff) {
     EXPECT_EQ(shown.At(85, 30), kSceneColor);
 }
 
+// The page less the selection is darkened by black at alpha 100: 255 x 155 / 255.
+TEST(DrawScene, TheSelectionStaysBright) {
+    Shown shown(40, 20, 1);
+    shown.canvas = FilledPicture(40, 20, 0xFFFFFFFF);
+    shown.selection.CreateCrop();
+    shown.selection.SetCropDatas(20, 10, 10, 5, filters::CropShape::Rectangle);
+    EXPECT_EQ(shown.At(30, 20), 0xFF9B9B9B);
+    EXPECT_EQ(shown.At(40, 25), 0xFFFFFFFF);
+    EXPECT_EQ(shown.At(49, 29), 0xFFFFFFFF);
+    EXPECT_EQ(shown.At(50, 29), 0xFF9B9B9B);
+    EXPECT_TRUE(shown.selection.isInCropRregion(40, 25));
+}
+
 TEST(DrawScene, StaysInsideTheSceneAtEveryZoom) {
     Shown shown(512, 300, 1);
     for (const double zoom : {-2.0, 0.0, 0.2, 20.0}) {
         shown.view.Zoom = zoom;
         for (const int value : {0, 3, 10}) {
             shown.view.Hs1.Value = shown.view.Vs1.Value = value;
-            DrawScene(shown.scene, shown.canvas, shown.document, shown.view);
+            DrawScene(shown.scene, shown.canvas, shown.document, shown.view, shown.selection);
         }
     }
     EXPECT_EQ(shown.scene.Width(), 100);

@@ -49,5 +49,38 @@ TEST(CrystalStyle, WithoutASolidBodyThereIsNoGloss) {
     EXPECT_TRUE(CrystalStyle(FilledPicture(1, 1, 0x96FFFFFF)));
 }
 
+// The body of a 20 x 10 picture is (-1, 0, 20, 10); the fold is at column -1 + 10 or row 5.
+TEST(OrigamiStyle, LeavesTheLeftOrTheUpperHalfOfTheBody) {
+    const auto picture = FilledPicture(20, 10, 0xFF000000);
+    const auto left = OrigamiStyle(picture, Fold::Horizontal, 0x0F336699, 0x00336699);
+    ASSERT_TRUE(left);
+    EXPECT_EQ(left->X, -1);
+    EXPECT_EQ(left->Width, 10);
+    EXPECT_EQ(left->Height, 10);
+    // Column x stands for x - 1 in the source: t = (x - 1 + 0.5 + 1) / 10, alpha 15 t.
+    EXPECT_EQ(left->Image.GetPixel(0, 5), 0U);
+    EXPECT_EQ(left->Image.GetPixel(1, 5), MakeARGB(2, 0x33, 0x66, 0x99));
+    EXPECT_EQ(left->Image.GetPixel(9, 0), MakeARGB(14, 0x33, 0x66, 0x99));
+
+    const auto upper = OrigamiStyle(picture, Fold::Vertical, 0x0F336699, 0x00336699);
+    ASSERT_TRUE(upper);
+    EXPECT_EQ(upper->Width, 20);
+    EXPECT_EQ(upper->Height, 5);
+    EXPECT_EQ(upper->Image.GetPixel(7, 4), MakeARGB(14, 0x33, 0x66, 0x99));  // 15 x 0.9
+    EXPECT_EQ(upper->Image.GetPixel(19, 2), MakeARGB(8, 0x33, 0x66, 0x99));  // 15 x 0.5
+
+    EXPECT_FALSE(OrigamiStyle(graphics::Bitmap(4, 4), Fold::Vertical, 0, 0));
+    EXPECT_TRUE(
+        OrigamiStyle(FilledPicture(1, 1, 0xFF000000), Fold::Horizontal, 0, 0)->Image.IsEmpty());
+}
+
+TEST(iOSStyle, IsARoundedPlateInTheColour) {
+    const Plate plate = iOSStyle(0x80FF0000, 24, 48, 0, 0);
+    EXPECT_EQ(testing::AlphaRow(plate.Image, 0)[1], 0);
+    EXPECT_EQ(plate.Image.GetPixel(2, 0), 0x80FF0000);
+    EXPECT_EQ(plate.Image.GetPixel(0, 24), 0x80FF0000);
+    EXPECT_EQ(plate.Path.WorldBounds(), (graphics::RectF{0, 0, 24, 48}));
+}
+
 }  // namespace
 }  // namespace orbelle::filters

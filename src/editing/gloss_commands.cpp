@@ -1,0 +1,105 @@
+// Crystal, Vista, Fresh, Origami and iOS.
+#include "editing/command_frame.h"
+#include "editing/layer_commands.h"
+#include "editing/style_commands.h"
+#include "editing/style_frames.h"
+#include "editing/tips.h"
+#include "filters/antialias_edge.h"
+#include "filters/colour_adjustments.h"
+#include "filters/create_region.h"
+#include "filters/edge_relief.h"
+#include "filters/radial_light.h"
+
+namespace orbelle::editing {
+namespace {
+
+constexpr unsigned kFoldAlpha = 15;
+
+void PutGlossOver(const OverlayLayers& layers) {
+    PlaceStylePicture(layers.New, filters::CrystalStyle(layers.Source.Image));
+    filters::AntialiasEdge(layers.New.Image);
+    FinishOverlay(layers);
+}
+
+}  // namespace
+
+void Crystal(Editor& editor) {
+    if (!editor.Document.HasSelection())
+        return;
+    RunCommand(editor, [&] {
+        PutGlossOver(OpenOverlay(editor));
+        ShowStyle(editor);
+        editor.Host.ShowTips(tips::Crystal);
+    });
+}
+
+void Vista(Editor& editor) {
+    constexpr int kSaturation = 25;
+    if (!editor.Document.HasSelection())
+        return;
+    RunCommand(editor, [&] {
+        const OverlayLayers layers = OpenOverlay(editor, OverlayUndo::OneStep);
+        PutGlossOver(layers);
+        filters::i3Dstyle(layers.Source.Image, filters::kStrongLight);
+        filters::SaturationColor(layers.Source.Image, kSaturation);
+        ShowStyle(editor);
+        editor.Host.ShowTips(tips::Vista);
+    });
+}
+
+void Fresh(Editor& editor) {
+    if (!editor.Document.HasSelection())
+        return;
+    RunCommand(editor, [&] {
+        const OverlayLayers layers = OpenOverlay(editor);
+        PlaceStylePicture(layers.New,
+                          filters::FreshStyle(layers.Source.Image, editor.Document.PageWidth,
+                                              editor.Document.PageHeight));
+        filters::AntialiasEdge(layers.New.Image);
+        FinishOverlay(layers);
+        ShowStyle(editor);
+        editor.Host.ShowTips(tips::Vista);
+    });
+}
+
+void Origami(Editor& editor, filters::Fold fold) {
+    if (!editor.Document.HasSelection())
+        return;
+    RunCommand(editor, [&] {
+        const OverlayLayers layers = OpenOverlay(editor);
+        const graphics::Argb foreground = editor.Colors[0];
+        PlaceStylePicture(layers.New,
+                          filters::OrigamiStyle(layers.Source.Image, fold,
+                                                graphics::SetAlphaByte(foreground, kFoldAlpha),
+                                                graphics::SetAlphaByte(foreground, 0)));
+        FinishOverlay(layers);
+        ShowStyle(editor);
+        editor.Host.ShowTips(tips::Crystal);
+    });
+}
+
+void iOS(Editor& editor) {
+    if (!editor.Document.HasSelection())
+        return;
+    RunCommand(editor, [&] {
+        document::IconLayer& plate = OpenUnderlay(editor).New;
+        const int width = editor.Document.PageWidth;
+        const int height = editor.Document.PageHeight;
+        plate.Rect = {0, 0, static_cast<float>(width), static_cast<float>(height)};
+        plate.ImageWidth = width;
+        plate.ImageHeight = height;
+        plate.Opacity = 1;
+        filters::Plate drawn = filters::iOSStyle(editor.Colors[0], width, height, 0, 0);
+        plate.Image = drawn.Image;
+        plate.Path = drawn.Path;
+        plate.ClipNextLayer = true;
+        filters::AntialiasEdge(plate.Image);
+        filters::CreateRegion(plate.Image, plate.Region, filters::kVisibleAlpha);
+        editor.Filters.ClearCrop();
+        UpdateLayerButtons(editor);
+        ShowStyle(editor);
+        editor.Host.ShowTips(tips::iOS);
+    });
+}
+
+}  // namespace orbelle::editing

@@ -1,0 +1,87 @@
+// Reflection, Shade and Drop Shadow.
+#include "editing/command_frame.h"
+#include "editing/style_commands.h"
+#include "editing/style_frames.h"
+#include "editing/tips.h"
+#include "filters/create_region.h"
+#include "filters/light_and_shadow.h"
+#include "graphics/rotate_flip.h"
+
+namespace orbelle::editing {
+
+using document::IconLayer;
+
+namespace {
+
+constexpr float kReflectionOpacity = 0.4F;
+constexpr float kShadeOpacity = 0.3F;
+constexpr float kShadowOpacity = 0.4F;
+
+void FillRect(IconLayer& layer, float x, float y) {
+    layer.Rect = {x, y, static_cast<float>(layer.ImageWidth),
+                  static_cast<float>(layer.ImageHeight)};
+    layer.BaseRect = layer.Rect;
+    layer.Visible = true;
+}
+
+}  // namespace
+
+void Reflection(Editor& editor) {
+    if (!editor.Document.HasSelection())
+        return;
+    RunCommand(editor, [&] {
+        const auto [layer, source] = OpenOverlay(editor);
+        filters::ReflectionPicture picture = filters::Reflection(source.Image);
+        graphics::ImageRotateFlip(picture.Image, graphics::RotateFlipType::RotateNoneFlipY);
+        if (!picture.Image.IsEmpty())
+            layer.Image = picture.Image;
+        filters::CreateRegion(layer.Image, layer.Region, filters::kVisibleAlpha);
+        const float below = source.Rect.Height + source.Rect.Y;
+        // Deliberately lower than the picture, which takes the margin into account.
+        layer.Region.Translate(source.Rect.X, below);
+        layer.Opacity = kReflectionOpacity;
+        FillRect(layer, source.Rect.X, below - 2 * static_cast<float>(picture.Margin) + 1);
+        ShowStyle(editor);
+        editor.Host.ShowTips(tips::Reflection);
+    });
+}
+
+void Shade(Editor& editor) {
+    if (!editor.Document.HasSelection())
+        return;
+    RunCommand(editor, [&] {
+        const auto [layer, source] = OpenOverlay(editor);
+        // The region deliberately stays what making room left: that of the source.
+        if (!source.Image.IsEmpty())
+            layer.Image = filters::GradientBlack(source.Image);
+        layer.Opacity = kShadeOpacity;
+        FillRect(layer, source.Rect.X, source.Rect.Y);
+        ShowStyle(editor);
+        editor.Host.ShowTips(tips::Shade);
+    });
+}
+
+void DropShadow(Editor& editor) {
+    constexpr int kRadius = 1;
+    if (!editor.Document.HasSelection())
+        return;
+    RunCommand(editor, [&] {
+        IconLayer& shadow = OpenUnderlay(editor).New;
+        const graphics::Bitmap picture = filters::Shadow(shadow.Image, kRadius);
+        if (!picture.IsEmpty())
+            shadow.Image = picture;
+        shadow.Rect.X += 1;
+        shadow.Rect.Y += 1;
+        filters::CreateRegion(shadow.Image, shadow.Region, filters::kVisibleAlpha);
+        shadow.Region.Translate(shadow.Rect.X, shadow.Rect.Y);
+        // BaseRect deliberately stays the source's.
+        shadow.Rect.Width += 2 * kRadius;
+        shadow.Rect.Height += 2 * kRadius;
+        shadow.ImageWidth = graphics::RoundToEven(shadow.Rect.Width);
+        shadow.ImageHeight = graphics::RoundToEven(shadow.Rect.Height);
+        shadow.Opacity = kShadowOpacity;
+        ShowStyle(editor);
+    });
+}
+
+}  // namespace orbelle::editing

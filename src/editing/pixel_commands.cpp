@@ -1,0 +1,94 @@
+// Styles that change pictures in place: Mac, Irradiation, Blur, Sharpen and the two states.
+#include "editing/apply_layer_pixels.h"
+#include "editing/command_frame.h"
+#include "editing/style_commands.h"
+#include "editing/tips.h"
+#include "editing/undo_commands.h"
+#include "editing/view_commands.h"
+#include "filters/blur_sharpen.h"
+#include "filters/colour_adjustments.h"
+#include "filters/radial_light.h"
+#include "filters/state_looks.h"
+
+namespace orbelle::editing {
+
+using graphics::Bitmap;
+
+namespace {
+
+// One undo step, then the change, then the scene and the panel anew.
+template <typename Change>
+void ChangeInPlace(Editor& editor, Change change) {
+    RunCommand(editor, [&] {
+        BeginUndoStep(editor);
+        change();
+        Compose(editor);
+        editor.Host.LayerPanelChanged();
+    });
+}
+
+template <typename Change>
+void ChangeSelected(Editor& editor, Change change) {
+    if (editor.Document.HasSelection())
+        ChangeInPlace(editor, [&] { change(editor.Document.Selected().Image); });
+}
+
+template <typename Change>
+void ChangeAll(Editor& editor, Change change) {
+    if (editor.Document.LayerCount() < 1)
+        return;
+    ChangeInPlace(editor, [&] {
+        for (document::IconLayer& layer : editor.Document.Layers)
+            change(layer);
+        editor.Host.ShowTips(tips::Adjusted);
+    });
+}
+
+}  // namespace
+
+void Mac(Editor& editor) {
+    ChangeSelected(editor, [&](Bitmap& image) {
+        filters::SaturationColor(image, -25);
+        filters::Soften(image, filters::kBlurLevel);
+        filters::i3Dstyle(image, filters::kGentleLight);
+        editor.Host.ShowTips(tips::Adjusted);
+    });
+}
+
+void Irradiation(Editor& editor) {
+    ChangeSelected(editor, [&](Bitmap& image) {
+        filters::i3Dstyle(image, filters::kStrongLight);
+        editor.Host.ShowTips(tips::Adjusted);
+    });
+}
+
+void Blur(Editor& editor) {
+    ChangeSelected(editor, [](Bitmap& image) { filters::Soften(image, filters::kBlurLevel); });
+}
+
+void Sharpen(Editor& editor) {
+    if (!editor.Document.HasSelection())
+        return;
+    RunCommand(editor, [&] {
+        BeginUndoStep(editor);
+        ApplyLayerPixels(editor, PixelFilter::Sharpen, editor.Document.Selected().Image);
+        editor.Host.LayerPanelChanged();
+    });
+}
+
+void DisabledState(Editor& editor) {
+    constexpr float kLighten = 0.5F;
+    ChangeAll(editor, [](document::IconLayer& layer) {
+        filters::DisabledStyle(layer.Image, layer.ImageWidth, layer.ImageHeight);
+        filters::HotStyle(layer.Image, layer.ImageWidth, layer.ImageHeight, kLighten);
+    });
+}
+
+void HotState(Editor& editor) {
+    constexpr float kLighten = 0.65F;
+    ChangeAll(editor, [](document::IconLayer& layer) {
+        filters::HotStyle(layer.Image, layer.ImageWidth, layer.ImageHeight, kLighten);
+    });
+}
+
+}  // namespace orbelle::editing

@@ -1,0 +1,59 @@
+#include "editing/style_frames.h"
+
+#include "editing/layer_commands.h"
+#include "editing/undo_commands.h"
+#include "editing/view_commands.h"
+#include "filters/create_region.h"
+
+namespace orbelle::editing {
+
+using document::IconLayer;
+
+OverlayLayers OpenOverlay(Editor& editor, OverlayUndo undo) {
+    if (undo == OverlayUndo::TwoSteps)
+        BeginUndoStep(editor);
+    const IconLayer& selected = editor.Document.Selected();
+    AddEmptyLayer(editor, static_cast<float>(selected.ImageWidth),
+                  static_cast<float>(selected.ImageHeight));
+    const auto above = static_cast<std::size_t>(editor.Document.SelectedLayer);
+    return {editor.Document.Layers[above], editor.Document.Layers[above - 1]};
+}
+
+void PlaceStylePicture(IconLayer& layer, const std::optional<filters::StylePicture>& style) {
+    const bool drawn = style && !style->Image.IsEmpty();
+    if (drawn)
+        layer.Image = style->Image;
+    layer.Rect.X = style ? style->X : 0;
+    layer.Rect.Y = style ? style->Y : 0;
+    layer.ImageWidth = drawn ? style->Width : layer.Image.Width();
+    layer.ImageHeight = drawn ? style->Height : layer.Image.Height();
+}
+
+void FinishOverlay(const OverlayLayers& layers) {
+    IconLayer& layer = layers.New;
+    layer.Rect.X += layers.Source.Rect.X;
+    layer.Rect.Y += layers.Source.Rect.Y;
+    filters::CreateRegion(layer.Image, layer.Region, filters::kVisibleAlpha);
+    layer.Region.Translate(layer.Rect.X, layer.Rect.Y);
+    layer.Opacity = 1;
+    layer.Rect.Width = static_cast<float>(layer.ImageWidth);
+    layer.Rect.Height = static_cast<float>(layer.ImageHeight);
+    layer.BaseRect = layer.Rect;
+    layer.Visible = true;
+}
+
+UnderlayLayers OpenUnderlay(Editor& editor) {
+    const OverlayLayers room = OpenOverlay(editor, OverlayUndo::OneStep);
+    room.New = room.Source;
+    --editor.Document.SelectedLayer;
+    return {room.Source, room.New};
+}
+
+void ShowStyle(Editor& editor) {
+    editor.Controls.CtlScroll21.Value =
+        graphics::RoundToEven(editor.Document.Selected().Opacity * 100.0);
+    Compose(editor);
+    editor.Host.LayerPanelChanged();
+}
+
+}  // namespace orbelle::editing
