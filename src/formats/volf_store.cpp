@@ -7,6 +7,7 @@
 
 #include "filters/create_region.h"
 #include "formats/little_endian.h"
+#include "formats/parallel.h"
 #include "graphics/errors.h"
 #include "graphics/file_io.h"
 #include "graphics/image_files.h"
@@ -43,7 +44,8 @@ void AppendFlag(std::vector<std::uint8_t>& file, bool flag) {
     Append<std::int16_t>(file, flag ? -1 : 0);
 }
 
-void AppendLayer(std::vector<std::uint8_t>& file, const IconLayer& layer) {
+void AppendLayer(std::vector<std::uint8_t>& file, const IconLayer& layer,
+                 const std::vector<std::uint8_t>& png) {
     for (int slider : {layer.Hue, layer.Contrast, layer.Brightness, layer.Saturation})
         Append<std::int32_t>(file, slider);
     Append<std::int32_t>(file, layer.ImageHeight);
@@ -56,8 +58,6 @@ void AppendLayer(std::vector<std::uint8_t>& file, const IconLayer& layer) {
     AppendFlag(file, layer.ClipNextLayer);
     Append<std::int32_t>(file, 0);  // the path's place; paths are not kept
 
-    const std::vector<std::uint8_t> png =
-        EncodePng(CopyBitmap(layer.Image, layer.ImageWidth, layer.ImageHeight));
     Append<std::int32_t>(file, static_cast<std::int32_t>(png.size()));
     file.insert(file.end(), png.begin(), png.end());
     file.push_back(0);
@@ -178,6 +178,12 @@ bool StartsWithMagic(std::span<const std::uint8_t> bytes) {
 InvalidFile::InvalidFile() : std::runtime_error("Invalid File") {}
 
 std::vector<std::uint8_t> EncodeDocument(const Document& document) {
+    // The pictures take nearly all of the time.
+    std::vector<std::vector<std::uint8_t>> pngs(document.Layers.size());
+    ForEachInParallel(pngs.size(), [&](std::size_t i) {
+        const IconLayer& layer = document.Layers[i];
+        pngs[i] = EncodePng(CopyBitmap(layer.Image, layer.ImageWidth, layer.ImageHeight));
+    });
     std::vector<std::uint8_t> file(kMagic.begin(), kMagic.end());
     Append<std::uint16_t>(file, kFormatNumber);
     file.insert(file.end(), kTag.begin(), kTag.end());
@@ -185,8 +191,8 @@ std::vector<std::uint8_t> EncodeDocument(const Document& document) {
     Append<std::int32_t>(file, document.PageHeight);
     Append<graphics::Argb>(file, document.PageBackground);
     Append<std::int32_t>(file, document.LayerCount());
-    for (const IconLayer& layer : document.Layers)
-        AppendLayer(file, layer);
+    for (std::size_t i = 0; i < pngs.size(); ++i)
+        AppendLayer(file, document.Layers[i], pngs[i]);
     return file;
 }
 

@@ -16,9 +16,9 @@ enum class PixelFormat {
 };
 
 // Limits of every bitmap, so that a hostile size never takes memory: 16384 pixels a side and
-// 64 Mi pixels (256 MiB) in all.
+// 48 Mi pixels (192 MiB) in all.
 inline constexpr int kMaxBitmapSide = 16384;
-inline constexpr std::int64_t kMaxBitmapPixels = std::int64_t{64} << 20;
+inline constexpr std::int64_t kMaxBitmapPixels = std::int64_t{48} << 20;
 
 // True when a bitmap of this size can be made.
 bool IsBitmapSizeAllowed(std::int64_t width, std::int64_t height);
