@@ -1,4 +1,4 @@
-// Picture files: PNG, JPEG, GIF and BMP in, PNG and BMP out.
+// Picture files: PNG, JPEG, GIF and BMP in, PNG, GIF and BMP out.
 #pragma once
 
 #include <cstdint>
@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "graphics/bitmap.h"
+#include "graphics/indexed_bitmap.h"
 
 namespace orbelle::graphics {
 
@@ -32,5 +33,11 @@ std::vector<std::uint8_t> EncodePng(const Bitmap& image);
 // 24 bits, bottom-up, uncompressed, 3780 pixels a metre; alpha is dropped. An empty bitmap
 // gives no bytes.
 std::vector<std::uint8_t> EncodeBmp(const Bitmap& image);
+
+// GIF89a, one frame, not interlaced, all 256 palette entries. The first entry with alpha 0 is the
+// file's transparent colour if a pixel uses it; other alphas are dropped. An empty picture gives no
+// bytes. Throws std::invalid_argument when Indexes does not fit the size or the size is not
+// allowed, ImageError when the encoder fails.
+std::vector<std::uint8_t> EncodeGif(const IndexedBitmap& image);
 
 }  // namespace orbelle::graphics

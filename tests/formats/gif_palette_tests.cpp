@@ -1,0 +1,237 @@
+#include "formats/gif_palette.h"
+
+#include <gmock/gmock.h>
+
+#include <algorithm>
+#include <functional>
+#include <random>
+
+#include "formats/gif_preview.h"
+#include "formats/octree.h"
+#include "formats/octree_transcription.h"
+#include "graphics/image_files.h"
+#include "support/pictures.h"
+
+namespace orbelle::formats {
+namespace {
+
+using graphics::Argb;
+using graphics::Bitmap;
+using graphics::IndexedBitmap;
+using graphics::RectF;
+using ::testing::ElementsAre;
+using testing::FilledPicture;
+using testing::SamePixels;
+
+Bitmap RowOf(const std::vector<Argb>& colors) {
+    Bitmap row(static_cast<int>(colors.size()), 1);
+    std::ranges::copy(colors, row.MutablePixels());
+    return row;
+}
+
+std::vector<Argb> PixelsOf(const Bitmap& image) {
+    return {image.Pixels(), image.Pixels() + image.Width() * image.Height()};
+}
+
+Bitmap Drawn(int width, int height, const std::function<Argb(int, int)>& colorAt) {
+    Bitmap image(width, height);
+    for (int y = 0; y < height; ++y)
+        for (int x = 0; x < width; ++x)
+            image.SetPixel(x, y, colorAt(x, y));
+    return image;
+}
+
+TEST(FlattenToKeyColor, KeepsBlackForWhatIsTransparent) {
+    const struct {
+        Argb From;
+        std::uint8_t Threshold;
+        Argb To;
+    } cases[] = {
+        {0x81FF8040, 130, 0xFF000000},  // 129
+        {0x82FF8040, 130, 0xFFFF8040},  // 130: opaque, not mixed with anything
+        {0xFF000000, 130, 0xFF050505}, {0xFF090909, 130, 0xFF050505}, {0xFF0A0000, 130, 0xFF0A0000},
+        {0xFF00090A, 130, 0xFF00090A}, {0x00FFFFFF, 130, 0xFF000000}, {0x00FFFFFF, 0, 0xFFFFFFFF},
+        {0x00000000, 0, 0xFF050505},   {0xFEFFFFFF, 255, 0xFF000000}, {0xFFFFFFFF, 255, 0xFFFFFFFF},
+    };
+    for (const auto& [from, threshold, to] : cases) {
+        const Bitmap flat = FlattenToKeyColor(RowOf({from}), threshold);
+        EXPECT_EQ(flat.GetPixel(0, 0), to) << std::hex << from;
+        EXPECT_EQ(flat.Format(), graphics::PixelFormat::Rgb24);
+    }
+    EXPECT_TRUE(FlattenToKeyColor(Bitmap(), 130).IsEmpty());
+}
+
+TEST(PaletteImageGIF, UpTo256ColoursStayExact) {
+    // Depth first: red counts most, then green, then blue, bit by bit.
+    const IndexedBitmap four =
+        PaletteImageGIF(RowOf({0xFFFF0000, 0xFF0000FF, 0xFF00FF00, 0xFF0000FF, 0xFF0000FE}), false);
+    EXPECT_THAT(four.Indexes, ElementsAre(3, 1, 2, 1, 0));
+    EXPECT_THAT(std::vector<Argb>(four.Palette.begin(), four.Palette.begin() + 5),
+                ElementsAre(0xFF0000FE, 0xFF0000FF, 0xFF00FF00, 0xFFFF0000, 0u));
+
+    std::mt19937 random(1);
+    const Bitmap many = Drawn(16, 16, [&](int, int) { return 0xFF000000 | random(); });
+    const IndexedBitmap all = PaletteImageGIF(many, false);
+    EXPECT_TRUE(SamePixels(all.ToBitmap(), many));
+    EXPECT_EQ(PlainOctree(many).Palette.size(), 256u);
+}
+
+TEST(PaletteImageGIF, AColourTooManyMergesTheLastPairMade) {
+    // 256 greys with gaps of one, walked from the end; then the colour that is walked last is
+    // next to grey 1, which was made just before it. Both share all but the lowest bits.
+    std::vector<Argb> colors = {0xFF000001};
+    for (unsigned grey = 0; grey < 256; ++grey)
+        colors.push_back(graphics::MakeARGB(255, grey, grey, grey));
+    const IndexedBitmap indexed = PaletteImageGIF(RowOf(colors), false);
+    // 0,0,0 and 0,0,1 and 1,1,1 are the leaves of the last node: the mean of 0, 0, 1 is 0; of the
+    // blues 0, 1, 1 too.
+    EXPECT_EQ(indexed.Indexes[0], 0);
+    EXPECT_EQ(indexed.Indexes[1], 0);
+    EXPECT_EQ(indexed.Indexes[2], 0);
+    EXPECT_EQ(indexed.Palette[0], 0xFF000000);
+    EXPECT_EQ(indexed.Palette[1], 0xFF020202);
+    EXPECT_EQ(indexed.Palette[254], 0xFFFFFFFF);
+    EXPECT_EQ(indexed.Palette[255], 0u);
+}
+
+TEST(PaletteImageGIF, OneEntryBecomesTransparent) {
+    const struct {
+        std::vector<Argb> Colors;
+        bool UseTransparency;
+        std::vector<Argb> Result;
+    } cases[] = {
+        {{0xFF000000, 0xFFFFFFFF}, true, {0x00000000, 0xFFFFFFFF}},
+        {{0xFF000000, 0xFFFFFFFF}, false, {0xFF000000, 0xFFFFFFFF}},
+        {{0xFF000000, 0xFF040404}, true, {0x00000000, 0xFF040404}},  // only the first
+        {{0xFF040404, 0xFF050505}, true, {0x00040404, 0xFF050505}},
+        {{0xFF040405, 0xFF800000}, true, {0xFF040405, 0xFF800000}},
+    };
+    for (const auto& [colors, useTransparency, result] : cases)
+        EXPECT_EQ(PixelsOf(PaletteImageGIF(RowOf(colors), useTransparency).ToBitmap()), result);
+}
+
+TEST(PaletteImageGIF, AnEmptyPictureGivesAnEmptyOne) {
+    EXPECT_TRUE(PaletteImageGIF(Bitmap(), true).ToBitmap().IsEmpty());
+    EXPECT_TRUE(EncodeGifPicture(Bitmap(), true, 130).empty());
+}
+
+TEST(PaletteImageGIF, AgreesWithThePlainForm) {
+    std::mt19937 random(7);
+    int reductions = 0;
+    for (int round = 0; round < 300; ++round) {
+        const int width = 1 + static_cast<int>(random() % 64);
+        const int height = 1 + static_cast<int>(random() % 64);
+        // Few or many colours, spread or close together, in noise or in slopes.
+        const Argb mask =
+            std::vector<Argb>{0xFFFFFF, 0xF0F0F0, 0x1F1F1F, 0xFF00, 0x0F0F3F}[round % 5];
+        const Argb base = random() & ~mask;
+        const unsigned slope = random() % 9;
+        const bool noise = round % 3 == 0;
+        const Bitmap image = Drawn(width, height, [&](int x, int y) {
+            const unsigned ux = x, uy = y;
+            const Argb color = noise ? static_cast<Argb>(random())
+                                     : graphics::MakeARGB(0, ux * slope & 255, uy * 4 & 255,
+                                                          (ux * uy + random() % 4) & 255);
+            return (color & mask) | base | 0xFF000000;
+        });
+        const PlainOctree plain(image);
+        reductions += plain.Reductions;
+        const IndexedBitmap indexed = PaletteImageGIF(image, false);
+        for (int i = 0; i < width * height; ++i)
+            ASSERT_EQ(indexed.Indexes[i], plain.GetPaletteIndex(image.Pixels()[i])) << round;
+        std::vector<Argb> palette = plain.Palette;
+        palette.resize(256);
+        ASSERT_TRUE(std::ranges::equal(indexed.Palette, palette)) << round;
+    }
+    EXPECT_GT(reductions, 1000);
+}
+
+TEST(Octree, ColoursNeverAddedFindALeafOrTheFirst) {
+    std::mt19937 random(3);
+    for (unsigned count : {0u, 1u, 3u, 40u, 3000u}) {
+        std::vector<Argb> colors(count);
+        std::ranges::generate(colors, [&] { return 0xFF000000 | random(); });
+        const Bitmap image = count > 0 ? RowOf(colors) : Bitmap();
+        const PlainOctree plain(image);
+        Octree tree;
+        for (unsigned i = count; i > 0; --i)
+            tree.AddColor(colors[i - 1]);
+        tree.NumberLeaves();
+        for (int i = 0; i < 2000; ++i) {
+            const auto color = static_cast<Argb>(random());
+            ASSERT_EQ(tree.GetPaletteIndex(color), plain.GetPaletteIndex(color)) << count;
+        }
+    }
+    // The search stands at child 2 after the first level, so child 0 below it is passed over.
+    Octree tree;
+    for (Argb color : {0xFF00FF00, 0xFFFFFFFF, 0xFF008000})
+        tree.AddColor(color);
+    tree.NumberLeaves();
+    EXPECT_EQ(tree.GetPaletteIndex(0xFFFF0000), 1);
+}
+
+TEST(EncodeGifPicture, ATransparentBackgroundComesBackAsOne) {
+    const Bitmap surface = RowOf({0x00FFFFFF, 0x81FF0000, 0x82FF0000, 0xFF000000, 0xFF00C0FF});
+    const struct {
+        bool Transparent;
+        std::vector<Argb> Result;
+    } cases[] = {
+        {true, {0, 0, 0xFFFF0000, 0xFF050505, 0xFF00C0FF}},
+        {false, {0xFFFFFFFF, 0xFFFF0000, 0xFFFF0000, 0xFF000000, 0xFF00C0FF}},
+    };
+    for (const auto& [transparent, result] : cases) {
+        const Bitmap back = graphics::DecodeImage(EncodeGifPicture(surface, transparent, 130));
+        EXPECT_EQ(PixelsOf(back), result);
+    }
+    const Bitmap nothing = graphics::DecodeImage(EncodeGifPicture(Bitmap(3, 2), true, 130));
+    EXPECT_TRUE(SamePixels(nothing, Bitmap(3, 2)));
+}
+
+TEST(GifPreview, PicturesAreCentredAndEachAxisIsLimitedOnItsOwn) {
+    const struct {
+        int Width, Height, BoxWidth, BoxHeight;
+        RectF Place;
+    } cases[] = {
+        {10, 10, 21, 30, {5, 10, 10, 10}},
+        {40, 10, 20, 15, {0, 2, 20, 10}},
+        {40, 50, 20, 15, {0, 0, 20, 15}},
+    };
+    for (const auto& [width, height, boxWidth, boxHeight, place] : cases)
+        EXPECT_EQ(PreviewRect(Bitmap(width, height), boxWidth, boxHeight), place);
+}
+
+TEST(GifPreview, TheCheckerHasWholeSquaresOnly) {
+    Bitmap box(19, 12);
+    graphics::DrawingContext context(box);
+    context.SetPixelOffsetMode(graphics::PixelOffsetMode::HighQuality);
+    DrawPreviewChecker(context, 19, 12);
+    const std::vector<std::string> upper(5, ".....#####.........");
+    const std::vector<std::string> lower(5, "#####.....#####....");
+    std::vector<std::string> rows(upper);
+    rows.insert(rows.end(), lower.begin(), lower.end());
+    rows.resize(12, std::string(19, '.'));
+    EXPECT_TRUE(SamePixels(box, testing::PictureOf(rows, 0x14000000)));
+}
+
+TEST(GifPreview, DemoShowsTheGifOverTheBackdrop) {
+    Bitmap surface(2, 2);
+    surface.SetPixel(0, 0, 0x64FF0000);
+    surface.SetPixel(1, 1, 0xFF0000FF);
+    for (const auto& [threshold, corner] : {std::pair{100, 0xFFFF0000}, {101, 0xFFFFFFFF}}) {
+        Bitmap box = FilledPicture(5, 4, 0xFFFFFFFF);
+        graphics::DrawingContext context(box);
+        context.SetPixelOffsetMode(graphics::PixelOffsetMode::HighQuality);
+        DemoGIFimage(context, surface, 5, 4, static_cast<std::uint8_t>(threshold));
+        Bitmap expected = FilledPicture(5, 4, 0xFFFFFFFF);
+        expected.SetPixel(1, 1, corner);
+        expected.SetPixel(2, 2, 0xFF0000FF);
+        EXPECT_TRUE(SamePixels(box, expected)) << threshold;
+    }
+    graphics::Bitmap box(4, 4);
+    graphics::DrawingContext context(box);
+    DemoGIFimage(context, Bitmap(), 4, 4, 130);
+    EXPECT_TRUE(SamePixels(box, Bitmap(4, 4)));
+}
+
+}  // namespace
+}  // namespace orbelle::formats
