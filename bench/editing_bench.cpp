@@ -15,6 +15,7 @@ public:
     editing::SavePromptAnswer AskSave() override { return editing::SavePromptAnswer::No; }
     std::optional<editing::PageSize> AskPageSize() override { return std::nullopt; }
     std::filesystem::path ShowFileDialog(const std::string&, bool) override { return {}; }
+    std::optional<int> AskGifThreshold(const graphics::Bitmap&) override { return std::nullopt; }
     bool Confirm(const std::string&, const std::string&) override { return true; }
 };
 

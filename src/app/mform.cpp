@@ -12,6 +12,7 @@
 #include <new>
 
 #include "app/file_dialog.h"
+#include "app/frm_gif.h"
 #include "app/frm_page.h"
 #include "app/frm_prompt.h"
 #include "app/message_boxes.h"
@@ -220,6 +221,14 @@ std::optional<editing::PageSize> mForm::AskPageSize() {
 std::filesystem::path mForm::ShowFileDialog(const std::string& filter, bool isOpen) {
     const PlainPointer pointer(busyPointers_);
     return AskForFile(this, filter, isOpen);
+}
+
+std::optional<int> mForm::AskGifThreshold(const graphics::Bitmap& surface) {
+    const PlainPointer pointer(busyPointers_);
+    FrmGIF optimizer(surface, this);
+    if (optimizer.exec() != QDialog::Accepted)
+        return std::nullopt;
+    return optimizer.OptimizeValue();
 }
 
 bool mForm::Confirm(const std::string& text, const std::string& title) {

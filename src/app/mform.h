@@ -43,6 +43,7 @@ public:
     editing::SavePromptAnswer AskSave() override;
     std::optional<editing::PageSize> AskPageSize() override;
     std::filesystem::path ShowFileDialog(const std::string& filter, bool isOpen) override;
+    std::optional<int> AskGifThreshold(const graphics::Bitmap& surface) override;
     bool Confirm(const std::string& text, const std::string& title) override;
 
 protected:

@@ -20,6 +20,8 @@ constexpr formats::IconFormat kIconFormats[] = {
 // Far more than an icon is good for, and what memory holds.
 constexpr std::size_t kMaxIconSizes = 256;
 
+constexpr int kMaxGifThreshold = 200;
+
 // The entry of the Export submenu with the path's extension among its patterns; null: none.
 const formats::ExportFormat* FindExportFormat(const fs::path& path) {
     std::string extension = path.extension().string();
@@ -110,6 +112,12 @@ Action ReadIconFormat(Words& words) {
     return [=](Workspace& workspace) { workspace.Editor.ExportSettings.IconPictures = format; };
 }
 
+Action ReadGifThreshold(Words& words) {
+    return [threshold = words.Integer("T", 0, kMaxGifThreshold)](Workspace& workspace) {
+        workspace.Host.GifThreshold = threshold;
+    };
+}
+
 constexpr Verb kVerbs[] = {
     {"new", "W H", "a page of that size (1 to 512) with one empty layer", ReadNew},
     {"open", "PATH", "a .volf document, or a picture that becomes the page", ReadOpen},
@@ -120,6 +128,8 @@ constexpr Verb kVerbs[] = {
     {"icon-sizes", "N N...", "sizes (1 to 256) of the icons exported from here on", ReadIconSizes},
     {"icon-format", "bmp|png256|png", "how pictures stand in the icons written from here on",
      ReadIconFormat},
+    {"gif-threshold", "T", "alpha (0 to 200) from which a GIF's pixels count as opaque; 130",
+     ReadGifThreshold},
 };
 
 }  // namespace

@@ -5,6 +5,8 @@
 #include <optional>
 #include <string>
 
+#include "graphics/bitmap.h"
+
 namespace orbelle::editing {
 
 enum class SavePromptAnswer { Cancel = 0, No = 1, Yes = 2 };
@@ -39,6 +41,9 @@ public:
     virtual std::optional<PageSize> AskPageSize() = 0;
     // A file dialog with a filter of "text|patterns|text|patterns..."; empty: cancelled.
     virtual std::filesystem::path ShowFileDialog(const std::string& filter, bool isOpen) = 0;
+    // At which alpha (0 to 200) a pixel of the surface counts as opaque in a GIF. No value:
+    // cancelled.
+    virtual std::optional<int> AskGifThreshold(const graphics::Bitmap& surface) = 0;
     // A question with OK and Cancel, Cancel the default; true: OK.
     virtual bool Confirm(const std::string& text, const std::string& title) = 0;
 };

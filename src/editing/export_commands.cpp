@@ -15,10 +15,19 @@ void Export(Editor& editor, const formats::ExportFormat& format) {
         // Deliberate: the answer changes nothing, the export goes on and replaces the file.
         editor.Host.Confirm("Image already exists, overwrite it?", "Warning");
     }
+    const graphics::Argb background = editor.Document.PageBackground;
+    formats::ExportSettings settings = editor.ExportSettings;
+    if (format.FileType == formats::FileTypes::Gif && graphics::AlphaOf(background) == 0) {
+        const std::optional<int> threshold = editor.Host.AskGifThreshold(
+            formats::DrawGifSurface(editor.Canvas.new_Img, background));
+        if (!threshold)
+            return;
+        settings.GifThreshold = *threshold;
+    }
     RunCommand(editor, [&] {
         try {
-            formats::ExportImage(path, format.FileType, editor.Canvas.new_Img,
-                                 editor.Document.PageBackground, editor.ExportSettings);
+            formats::ExportImage(path, format.FileType, editor.Canvas.new_Img, background,
+                                 settings);
         } catch (const std::exception& failure) {
             editor.Host.ShowStatus(failure.what());
         }

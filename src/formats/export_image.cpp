@@ -6,6 +6,7 @@
 #include <string>
 #include <system_error>
 
+#include "formats/gif_palette.h"
 #include "graphics/drawing_context.h"
 #include "graphics/errors.h"
 #include "graphics/file_io.h"
@@ -114,10 +115,19 @@ void ExportImage(const fs::path& path, FileTypes fileType, const Bitmap& page, A
         case FileTypes::Ico:
             return ExportIcon(path, page, settings);
         case FileTypes::Gif:
-            throw std::invalid_argument("GIF export is not available.");
+            // Only a background of exactly 0 makes a transparent entry; alpha 0 with other bits
+            // does not.
+            return graphics::WriteFile(
+                path, EncodeGifPicture(DrawGifSurface(page, pageBackground), pageBackground == 0,
+                                       static_cast<std::uint8_t>(settings.GifThreshold)));
         case FileTypes::Jpeg:
             throw std::invalid_argument("JPEG export is not available.");
     }
+}
+
+Bitmap DrawGifSurface(const Bitmap& page, Argb pageBackground) {
+    return DrawOver(graphics::AlphaOf(pageBackground) != 0 ? pageBackground : 0, page,
+                    graphics::PixelFormat::Argb32);
 }
 
 fs::path SizesFolder() {

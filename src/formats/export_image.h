@@ -33,6 +33,7 @@ inline constexpr ExportFormat kExportFormats[] = {
 struct ExportSettings {
     std::vector<int> IconSizes;  // 1 to 256; empty: the product's own table
     IconFormat IconPictures = IconFormat::Bmp;
+    int GifThreshold = 130;  // 0 to 200: pixels of a lower alpha become transparent in a GIF
 };
 
 // The sizes of an icon made from a page: the row of 256, 128, 64, 48, 32, 24, 16 that the larger
@@ -45,6 +46,10 @@ graphics::RectF FitIntoBox(float sourceWidth, float sourceHeight, float boxWidth
 
 // The page in a transparent size x size square, scaled with high quality.
 graphics::Bitmap DrawIconPicture(const graphics::Bitmap& page, int size);
+
+// The page over its background as a GIF is made from it: a background whose alpha is 0 counts as
+// none.
+graphics::Bitmap DrawGifSurface(const graphics::Bitmap& page, graphics::Argb pageBackground);
 
 // Writes the composed page `page` to `path`. PNG and BMP have the background under the picture (0:
 // transparent in PNG, white in BMP), an icon never has. A page too small for any icon size writes

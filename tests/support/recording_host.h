@@ -16,6 +16,7 @@ public:
     std::optional<editing::PageSize> Size;
     std::filesystem::path File;
     bool ConfirmAnswer = true;
+    std::optional<int> GifThreshold;
 
     // Notes.
     std::vector<std::string> Messages;
@@ -41,6 +42,7 @@ public:
         Filters.push_back(filter);
         return File;
     }
+    std::optional<int> AskGifThreshold(const graphics::Bitmap&) override { return GifThreshold; }
     bool Confirm(const std::string& text, const std::string& title) override {
         Questions.push_back(title + ": " + text);
         return ConfirmAnswer;
