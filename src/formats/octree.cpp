@@ -18,12 +18,16 @@ void Octree::AddPath(std::uint32_t path) {
             return;
         }
     }
-    for (; level < kLevels; ++level) {
+    // In a full tree all that would be made below the deepest reducible level would be the first to
+    // be taken back, one child at a time.
+    const int leafLevel =
+        leafCount_ < kMaxLeaves ? kLevels : std::max(level + 1, DeepestReducibleLevel());
+    for (; level < leafLevel; ++level) {
         const Link child = GetNode();
         nodes_[node].Children[ChildNumber(path, level)] = child;
-        if (level < kLevels - 1) {
-            nodes_[child].Next = reducible_[level];
-            reducible_[level] = child;
+        if (level + 1 < leafLevel) {
+            nodes_[child].Next = reducible_[level + 1];
+            reducible_[level + 1] = child;
         }
         node = child;
     }
@@ -33,9 +37,16 @@ void Octree::AddPath(std::uint32_t path) {
         ReduceTree();
 }
 
+// With more leaves than the root has children there always is one.
+int Octree::DeepestReducibleLevel() const {
+    int level = kLevels - 1;
+    while (reducible_[level] == 0)
+        --level;
+    return level;
+}
+
 void Octree::ReduceTree() {
-    // With this many leaves there always is one.
-    Link& head = *std::find_if(reducible_.rbegin(), reducible_.rend(), [](Link l) { return l; });
+    Link& head = reducible_[DeepestReducibleLevel()];
     Node& node = nodes_[head];
     head = node.Next;
     for (Link& child : node.Children) {

@@ -92,6 +92,7 @@ private:
     }();
 
     void AddPath(std::uint32_t path);
+    int DeepestReducibleLevel() const;
     void ReduceTree();
     Link GetNode();
     void FreeNode(Link index);
@@ -100,8 +101,7 @@ private:
 
     std::vector<Node> nodes_;
     Link freeList_ = 0;
-    // Inner nodes, the most recently made first; entry i those that lie i + 1 levels under the
-    // root.
+    // Per level, the root's being 0, its inner nodes, the most recently made first; never the root.
     std::array<Link, kLevels> reducible_ = {};
     int leafCount_ = 0;
 

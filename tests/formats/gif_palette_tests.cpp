@@ -8,7 +8,7 @@
 
 #include "formats/gif_preview.h"
 #include "formats/octree.h"
-#include "formats/octree_transcription.h"
+#include "formats/plain_octree.h"
 #include "graphics/image_files.h"
 #include "support/pictures.h"
 
@@ -77,18 +77,16 @@ TEST(PaletteImageGIF, UpTo256ColoursStayExact) {
 }
 
 TEST(PaletteImageGIF, AColourTooManyMergesTheLastPairMade) {
-    // 256 greys with gaps of one, walked from the end; then the colour that is walked last is
-    // next to grey 1, which was made just before it. Both share all but the lowest bits.
+    // The greys, from 255 down, fill the palette; 0,0,1 then is one too many. It shares all bits
+    // but the last with greys 0 and 1, whose node was made last.
     std::vector<Argb> colors = {0xFF000001};
     for (unsigned grey = 0; grey < 256; ++grey)
         colors.push_back(graphics::MakeARGB(255, grey, grey, grey));
     const IndexedBitmap indexed = PaletteImageGIF(RowOf(colors), false);
-    // 0,0,0 and 0,0,1 and 1,1,1 are the leaves of the last node: the mean of 0, 0, 1 is 0; of the
-    // blues 0, 1, 1 too.
     EXPECT_EQ(indexed.Indexes[0], 0);
     EXPECT_EQ(indexed.Indexes[1], 0);
     EXPECT_EQ(indexed.Indexes[2], 0);
-    EXPECT_EQ(indexed.Palette[0], 0xFF000000);
+    EXPECT_EQ(indexed.Palette[0], 0xFF000000);  // remainders of the means are dropped
     EXPECT_EQ(indexed.Palette[1], 0xFF020202);
     EXPECT_EQ(indexed.Palette[254], 0xFFFFFFFF);
     EXPECT_EQ(indexed.Palette[255], 0u);

@@ -1,4 +1,4 @@
-#include "formats/octree_transcription.h"
+#include "formats/plain_octree.h"
 
 namespace orbelle::formats {
 
