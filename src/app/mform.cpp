@@ -12,6 +12,7 @@
 #include <new>
 
 #include "app/file_dialog.h"
+#include "app/form_icon.h"
 #include "app/frm_gif.h"
 #include "app/frm_page.h"
 #include "app/frm_prompt.h"
@@ -229,6 +230,14 @@ std::optional<int> mForm::AskGifThreshold(const graphics::Bitmap& surface) {
     if (optimizer.exec() != QDialog::Accepted)
         return std::nullopt;
     return optimizer.OptimizeValue();
+}
+
+std::optional<int> mForm::ChooseIconEntry(const std::vector<formats::IconEntryImage>& offered) {
+    const PlainPointer pointer(busyPointers_);
+    FormIcon form(offered, this);
+    if (form.exec() != QDialog::Accepted)
+        return std::nullopt;
+    return form.SelectedIndex();
 }
 
 bool mForm::Confirm(const std::string& text, const std::string& title) {

@@ -23,6 +23,7 @@ public:
     editing::PageSize Size;      // for the New dialog
     std::filesystem::path File;  // for every file dialog
     int GifThreshold = 130;      // for the GIF optimiser
+    int IconEntry = 0;           // for the next icon file
 
     // The first problem that a command has told, and none from then on.
     std::string TakeProblem();
@@ -33,6 +34,9 @@ public:
     std::optional<editing::PageSize> AskPageSize() override { return Size; }
     std::filesystem::path ShowFileDialog(const std::string&, bool) override { return File; }
     std::optional<int> AskGifThreshold(const graphics::Bitmap&) override { return GifThreshold; }
+    // No such image: nothing is imported, and that is the problem.
+    std::optional<int> ChooseIconEntry(
+        const std::vector<formats::IconEntryImage>& offered) override;
     bool Confirm(const std::string&, const std::string&) override { return true; }
 
 private:

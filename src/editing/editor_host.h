@@ -4,7 +4,9 @@
 #include <filesystem>
 #include <optional>
 #include <string>
+#include <vector>
 
+#include "formats/icon_reader.h"
 #include "graphics/bitmap.h"
 
 namespace orbelle::editing {
@@ -44,6 +46,10 @@ public:
     // At which alpha (0 to 200) a pixel of the surface counts as opaque in a GIF. No value:
     // cancelled.
     virtual std::optional<int> AskGifThreshold(const graphics::Bitmap& surface) = 0;
+    // Which image of an icon file to take, as its place among those offered; -1: OK without one,
+    // as when none is offered. No value: cancelled.
+    virtual std::optional<int> ChooseIconEntry(
+        const std::vector<formats::IconEntryImage>& offered) = 0;
     // A question with OK and Cancel, Cancel the default; true: OK.
     virtual bool Confirm(const std::string& text, const std::string& title) = 0;
 };

@@ -1,4 +1,4 @@
-// Picture files: PNG, JPEG, GIF and BMP in, PNG, GIF and BMP out.
+// Picture files: PNG, JPEG, GIF and BMP in and out.
 #pragma once
 
 #include <cstdint>
@@ -39,5 +39,9 @@ std::vector<std::uint8_t> EncodeBmp(const Bitmap& image);
 // bytes. Throws std::invalid_argument when Indexes does not fit the size or the size is not
 // allowed, ImageError when the encoder fails.
 std::vector<std::uint8_t> EncodeGif(const IndexedBitmap& image);
+
+// Baseline JFIF at 96 dpi, colours at full resolution; alpha is dropped. Quality 1 to 100, others
+// count as the nearest of these. An empty bitmap gives no bytes.
+std::vector<std::uint8_t> EncodeJpeg(const Bitmap& image, int quality);
 
 }  // namespace orbelle::graphics

@@ -66,6 +66,17 @@ TEST(FitIntoBox, ShrinksToTheSideThatBindsAndCentres) {
         EXPECT_EQ(FitIntoBox(width, height, box, box), place) << width << " x " << height;
 }
 
+// JPEG loses a little.
+MATCHER_P(NearColor, color, "") {
+    for (int shift : {0, 8, 16, 24}) {
+        const int difference =
+            static_cast<int>(*arg >> shift & 255) - static_cast<int>(color >> shift & 255);
+        if (difference < -3 || difference > 3)
+            return false;
+    }
+    return true;
+}
+
 class ExportTest : public ::testing::Test {
 protected:
     void SetUp() override { setenv("XDG_CACHE_HOME", (folder_ / "cache").c_str(), 1); }
@@ -101,6 +112,19 @@ TEST_F(ExportTest, PngAndBmpStandOnTheBackground) {
         EXPECT_EQ(picture.Height(), 1);
         EXPECT_EQ(picture.GetPixel(0, 0), kBlue);
         EXPECT_EQ(picture.GetPixel(1, 0), uncovered) << static_cast<int>(type) << background;
+    }
+}
+
+TEST_F(ExportTest, JpegStandsOnTheBackgroundOrOnWhite) {
+    Bitmap page(2, 1);
+    page.SetPixel(0, 0, kBlue);
+    const std::pair<Argb, Argb> cases[] = {{kRed, kRed}, {0, 0xFFFFFFFF}, {0x00FF0000, kRed}};
+    for (const auto& [background, uncovered] : cases) {
+        const Bitmap picture = Exported(FileTypes::Jpeg, page, background);
+        EXPECT_EQ(picture.Width(), 2);
+        EXPECT_EQ(picture.Height(), 1);
+        EXPECT_THAT(picture.GetPixel(0, 0), NearColor(kBlue));
+        EXPECT_THAT(picture.GetPixel(1, 0), NearColor(uncovered));
     }
 }
 
@@ -166,8 +190,26 @@ TEST_F(ExportTest, FailuresOfTheOutputAreTold) {
     EXPECT_THROW(ExportImage(nowhere, FileTypes::Ico, page, 0), graphics::FileError);
     EXPECT_THROW(ExportImage(nowhere, FileTypes::Png, page, 0), graphics::FileError);
     EXPECT_THROW(ExportImage(path_, FileTypes::Png, Bitmap(), 0), graphics::FileError);
-    EXPECT_THROW(ExportImage(path_, FileTypes::Gif, page, 0), std::invalid_argument);
+    EXPECT_THROW(ExportImage(nowhere, FileTypes::Gif, page, 0), graphics::FileError);
     EXPECT_FALSE(std::filesystem::exists(path_));
+}
+
+// Half transparent red on the left of a page; the right stays blank.
+TEST_F(ExportTest, AGifIsTransparentOnlyWithoutAnyBackground) {
+    Bitmap page(2, 1);
+    page.SetPixel(0, 0, 0x80FF0000);
+    const auto exported = [&](graphics::Argb background, int threshold) {
+        ExportSettings settings;
+        settings.GifThreshold = threshold;
+        ExportImage(path_, FileTypes::Gif, page, background, settings);
+        const Bitmap gif = graphics::LoadImageFromFile(path_);
+        return std::pair{*gif.GetPixel(0, 0), *gif.GetPixel(1, 0)};
+    };
+    EXPECT_EQ(exported(0, 128), std::pair(0xFFFF0000, 0x00000000U));
+    EXPECT_EQ(exported(0, 129), std::pair(0x00000000U, 0x00000000U));
+    EXPECT_EQ(exported(0xFF0000FF, 129), std::pair(0xFF80007F, 0xFF0000FF));
+    // Alpha 0 with other bits: nothing is behind the picture, and nothing is transparent.
+    EXPECT_EQ(exported(0x00123456, 128), std::pair(0xFFFF0000, 0xFF000000));
 }
 
 TEST_F(ExportTest, ARelativeCacheFolderCountsAsNone) {

@@ -17,6 +17,7 @@ public:
     std::filesystem::path File;
     bool ConfirmAnswer = true;
     std::optional<int> GifThreshold;
+    std::optional<int> IconEntry = 0;
 
     // Notes.
     std::vector<std::string> Messages;
@@ -24,6 +25,7 @@ public:
     std::vector<std::string> Questions;
     std::vector<std::string> Filters;
     std::vector<int> Tips;
+    std::vector<std::size_t> OfferedCounts;  // for each icon file
     int SavePrompts = 0;
     int Animations = 0;
     int Busy = 0;
@@ -43,6 +45,11 @@ public:
         return File;
     }
     std::optional<int> AskGifThreshold(const graphics::Bitmap&) override { return GifThreshold; }
+    std::optional<int> ChooseIconEntry(
+        const std::vector<formats::IconEntryImage>& offered) override {
+        OfferedCounts.push_back(offered.size());
+        return IconEntry;
+    }
     bool Confirm(const std::string& text, const std::string& title) override {
         Questions.push_back(title + ": " + text);
         return ConfirmAnswer;
