@@ -15,6 +15,9 @@ public:
     editing::SavePromptAnswer AskSave() override { return editing::SavePromptAnswer::No; }
     std::optional<editing::PageSize> AskPageSize() override { return std::nullopt; }
     std::filesystem::path ShowFileDialog(const std::string&, bool) override { return {}; }
+    std::optional<int> ChooseIconEntry(const std::vector<formats::IconEntryImage>&) override {
+        return 0;
+    }
     bool Confirm(const std::string&, const std::string&) override { return true; }
 };
 

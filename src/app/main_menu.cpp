@@ -36,8 +36,7 @@ std::vector<Entry> ExportEntries() {
     static_assert(std::size(kNames) == std::size(formats::kExportFormats));
     std::vector<Entry> entries;
     for (const formats::ExportFormat& format : formats::kExportFormats) {
-        const bool hasWriter = format.FileType == formats::FileTypes::Ico ||
-                               format.FileType == formats::FileTypes::Png;
+        const bool hasWriter = format.FileType != formats::FileTypes::Gif;
         const Command run = Edit([&format](editing::Editor& editor) { Export(editor, format); });
         entries.push_back({kNames[entries.size()],
                            QString("&") + format.Caption,

@@ -12,6 +12,7 @@
 #include <new>
 
 #include "app/file_dialog.h"
+#include "app/form_icon.h"
 #include "app/frm_page.h"
 #include "app/frm_prompt.h"
 #include "app/message_boxes.h"
@@ -220,6 +221,14 @@ std::optional<editing::PageSize> mForm::AskPageSize() {
 std::filesystem::path mForm::ShowFileDialog(const std::string& filter, bool isOpen) {
     const PlainPointer pointer(busyPointers_);
     return AskForFile(this, filter, isOpen);
+}
+
+std::optional<int> mForm::ChooseIconEntry(const std::vector<formats::IconEntryImage>& offered) {
+    const PlainPointer pointer(busyPointers_);
+    FormIcon form(offered, this);
+    if (form.exec() != QDialog::Accepted)
+        return std::nullopt;
+    return form.SelectedIndex();
 }
 
 bool mForm::Confirm(const std::string& text, const std::string& title) {

@@ -43,6 +43,8 @@ public:
     editing::SavePromptAnswer AskSave() override;
     std::optional<editing::PageSize> AskPageSize() override;
     std::filesystem::path ShowFileDialog(const std::string& filter, bool isOpen) override;
+    std::optional<int> ChooseIconEntry(
+        const std::vector<formats::IconEntryImage>& offered) override;
     bool Confirm(const std::string& text, const std::string& title) override;
 
 protected:

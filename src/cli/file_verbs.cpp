@@ -65,6 +65,11 @@ Action ReadImport(Words& words) {
     };
 }
 
+Action ReadIconEntry(Words& words) {
+    return
+        [entry = words.Integer("K", 0)](Workspace& workspace) { workspace.Host.IconEntry = entry; };
+}
+
 Action ReadSave(Words& words) {
     return [path = words.Path("PATH")](Workspace& workspace) {
         editing::OpenFileMenu(workspace.Editor);
@@ -114,6 +119,8 @@ constexpr Verb kVerbs[] = {
     {"new", "W H", "a page of that size (1 to 512) with one empty layer", ReadNew},
     {"open", "PATH", "a .volf document, or a picture that becomes the page", ReadOpen},
     {"import", "PATH", "a picture as a new layer, or as the page when there is none", ReadImport},
+    {"icon-entry", "K", "the image (from 0) that the next open or import of an .ico takes",
+     ReadIconEntry},
     {"save", "PATH", "write the document as a .volf file", ReadSave},
     {"export", "PATH", "write the page as .ico .png .gif .jpg .jpeg or .bmp", ReadExport},
     {"combine", "OUT.ico PNG...", "one to seven PNG files into one icon file", ReadCombine},

@@ -17,6 +17,18 @@ void CliHost::ShowStatus(const std::string& text) {
     ShowMessage(text);
 }
 
+std::optional<int> CliHost::ChooseIconEntry(const std::vector<formats::IconEntryImage>& offered) {
+    const int entry = std::exchange(IconEntry, 0);
+    // The editor knows better why there is nothing to choose from.
+    if (offered.empty())
+        return -1;
+    if (entry < static_cast<int>(offered.size()))
+        return entry;
+    ShowMessage("there is no image " + std::to_string(entry) + "; the icon offers " +
+                std::to_string(offered.size()));
+    return std::nullopt;
+}
+
 Workspace::Workspace(std::ostream& output) : Output(output) {
     // Every command paints the scene, which nobody sees until a verb asks for it.
     Editor.View.SceneWidth = 1;

@@ -22,6 +22,7 @@ class CliHost : public editing::EditorHost {
 public:
     editing::PageSize Size;      // for the New dialog
     std::filesystem::path File;  // for every file dialog
+    int IconEntry = 0;           // for the next icon file
 
     // The first problem that a command has told, and none from then on.
     std::string TakeProblem();
@@ -31,6 +32,9 @@ public:
     editing::SavePromptAnswer AskSave() override { return editing::SavePromptAnswer::No; }
     std::optional<editing::PageSize> AskPageSize() override { return Size; }
     std::filesystem::path ShowFileDialog(const std::string&, bool) override { return File; }
+    // No such image: nothing is imported, and that is the problem.
+    std::optional<int> ChooseIconEntry(
+        const std::vector<formats::IconEntryImage>& offered) override;
     bool Confirm(const std::string&, const std::string&) override { return true; }
 
 private:

@@ -10,6 +10,7 @@
 #include "editing/tips.h"
 #include "editing/undo_commands.h"
 #include "editing/view_commands.h"
+#include "formats/icon_reader.h"
 #include "formats/volf_store.h"
 #include "graphics/errors.h"
 #include "graphics/image_files.h"
@@ -149,16 +150,53 @@ void OpenDocument(Editor& editor) {
     });
 }
 
+struct IncomingPicture {
+    graphics::Bitmap Image;
+    std::string Failure;  // why Image is empty
+};
+
+// The image of an icon that the user chooses; no value: cancelled. A file that can't be read offers
+// nothing to choose from.
+std::optional<IncomingPicture> ReadIconPicture(Editor& editor, const fs::path& path) {
+    std::vector<formats::IconEntryImage> offered;
+    std::string failure = path.string() + ": no image of the icon was chosen";
+    try {
+        offered = formats::OfferedEntries(formats::ReadIconFile(path));
+        if (offered.empty())
+            failure = path.string() + ": the icon has no image of more than 8 bits a pixel";
+    } catch (const graphics::FileError& error) {
+        failure = error.what();
+    }
+    const std::optional<int> chosen = editor.Host.ChooseIconEntry(offered);
+    if (!chosen)
+        return std::nullopt;
+    if (*chosen < 0 || *chosen >= static_cast<int>(offered.size()))
+        return IncomingPicture{{}, failure};
+    return IncomingPicture{offered[static_cast<std::size_t>(*chosen)].Image, {}};
+}
+
+std::optional<IncomingPicture> ReadPicture(Editor& editor, const fs::path& path) {
+    if (FileExtension(path) == "ico")
+        return ReadIconPicture(editor, path);
+    try {
+        return IncomingPicture{graphics::LoadImageFromFile(path), {}};
+    } catch (const graphics::FileError& error) {
+        return IncomingPicture{{}, error.what()};
+    }
+}
+
+enum class PictureBecomes { Layer, Document };
+
 // A picture that can't be read is told, and deliberately makes a layer all the same: an empty one.
-void ImportPicture(Editor& editor, const fs::path& path) {
+// Nothing changes before the user has chosen the image of an icon, for he may cancel.
+void ImportPicture(Editor& editor, const fs::path& path, PictureBecomes becomes) {
     RunCommand(editor, [&] {
-        graphics::Bitmap image;
-        std::string failure;
-        try {
-            image = graphics::LoadImageFromFile(path);
-        } catch (const graphics::FileError& error) {
-            failure = error.what();
-        }
+        const std::optional<IncomingPicture> incoming = ReadPicture(editor, path);
+        if (!incoming)
+            return;
+        const graphics::Bitmap& image = incoming->Image;
+        if (becomes == PictureBecomes::Document)
+            editor.DocumentExists = false;
         document::Document& document = editor.Document;
         if (editor.DocumentExists) {
             BeginUndoStep(editor);
@@ -173,8 +211,8 @@ void ImportPicture(Editor& editor, const fs::path& path) {
         editor.Filters.ClearCrop();
         Compose(editor);
         editor.Host.LayerPanelChanged();
-        if (!failure.empty())
-            editor.Host.ShowMessage(failure);
+        if (!incoming->Failure.empty())
+            editor.Host.ShowMessage(incoming->Failure);
         else
             editor.Host.ShowTips(tips::Imported);
     });
@@ -182,14 +220,13 @@ void ImportPicture(Editor& editor, const fs::path& path) {
 
 // The file takes the place of the present document.
 void OpenFile(Editor& editor, const fs::path& path) {
-    editor.Document.Modified = false;
     if (FileExtension(path) == "volf") {
+        editor.Document.Modified = false;
         editor.Document.DocumentPath = path;
         ShowSavedTitle(editor);
         OpenDocument(editor);
     } else {
-        editor.DocumentExists = false;
-        ImportPicture(editor, path);
+        ImportPicture(editor, path, PictureBecomes::Document);
     }
 }
 
@@ -283,7 +320,7 @@ void Import(Editor& editor) {
 
 void ImportFile(Editor& editor, const fs::path& path) {
     if (FileExtension(path) != "volf")
-        ImportPicture(editor, path);
+        ImportPicture(editor, path, PictureBecomes::Layer);
     else if (RunSavePrompt(editor))
         OpenFile(editor, path);
 }

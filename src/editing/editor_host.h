@@ -4,6 +4,9 @@
 #include <filesystem>
 #include <optional>
 #include <string>
+#include <vector>
+
+#include "formats/icon_reader.h"
 
 namespace orbelle::editing {
 
@@ -39,6 +42,10 @@ public:
     virtual std::optional<PageSize> AskPageSize() = 0;
     // A file dialog with a filter of "text|patterns|text|patterns..."; empty: cancelled.
     virtual std::filesystem::path ShowFileDialog(const std::string& filter, bool isOpen) = 0;
+    // Which image of an icon file to take, as its place among those offered; -1: OK without one,
+    // as when none is offered. No value: cancelled.
+    virtual std::optional<int> ChooseIconEntry(
+        const std::vector<formats::IconEntryImage>& offered) = 0;
     // A question with OK and Cancel, Cancel the default; true: OK.
     virtual bool Confirm(const std::string& text, const std::string& title) = 0;
 };

@@ -20,6 +20,7 @@ using graphics::Bitmap;
 
 constexpr int kIconSides[] = {256, 128, 64, 48, 32, 24, 16};
 constexpr Argb kWhite = 0xFFFFFFFF;
+constexpr int kJpegQuality = 99;
 
 // The page over a colour, in a surface of its own.
 Bitmap DrawOver(Argb background, const Bitmap& page, graphics::PixelFormat format) {
@@ -28,6 +29,12 @@ Bitmap DrawOver(Argb background, const Bitmap& page, graphics::PixelFormat forma
     context.Clear(background);
     context.DrawImage(page, 0, 0);
     return surface;
+}
+
+// For formats without alpha: the page over its background, or over white when it has none.
+Bitmap DrawOnPaper(Argb pageBackground, const Bitmap& page) {
+    return DrawOver(pageBackground != 0 ? pageBackground : kWhite, page,
+                    graphics::PixelFormat::Rgb24);
 }
 
 // Nobody needs these pictures, so a folder that can't be written is no failure.
@@ -100,23 +107,21 @@ Bitmap DrawIconPicture(const Bitmap& page, int size) {
 
 void ExportImage(const fs::path& path, FileTypes fileType, const Bitmap& page, Argb pageBackground,
                  const ExportSettings& settings) {
-    using graphics::PixelFormat;
     if (page.IsEmpty())
         throw graphics::FileError(path, "there is no page to export");
     switch (fileType) {
         case FileTypes::Png:
             return graphics::WriteFile(
-                path, EncodePng(DrawOver(pageBackground, page, PixelFormat::Argb32)));
+                path, EncodePng(DrawOver(pageBackground, page, graphics::PixelFormat::Argb32)));
         case FileTypes::Bmp:
-            return graphics::WriteFile(
-                path, EncodeBmp(DrawOver(pageBackground != 0 ? pageBackground : kWhite, page,
-                                         PixelFormat::Rgb24)));
+            return graphics::WriteFile(path, EncodeBmp(DrawOnPaper(pageBackground, page)));
         case FileTypes::Ico:
             return ExportIcon(path, page, settings);
         case FileTypes::Gif:
             throw std::invalid_argument("GIF export is not available.");
         case FileTypes::Jpeg:
-            throw std::invalid_argument("JPEG export is not available.");
+            return graphics::WriteFile(path,
+                                       EncodeJpeg(DrawOnPaper(pageBackground, page), kJpegQuality));
     }
 }
 

@@ -46,11 +46,12 @@ graphics::RectF FitIntoBox(float sourceWidth, float sourceHeight, float boxWidth
 // The page in a transparent size x size square, scaled with high quality.
 graphics::Bitmap DrawIconPicture(const graphics::Bitmap& page, int size);
 
-// Writes the composed page `page` to `path`. PNG and BMP have the background under the picture (0:
-// transparent in PNG, white in BMP), an icon never has. A page too small for any icon size writes
-// no file. The pictures of an icon are also left in SizesFolder() until the next icon export; a
-// failure to do so is no failure of the export. Throws graphics::FileError, also for an empty page;
-// std::invalid_argument for a format that has no writer and for an icon size out of range.
+// Writes the composed page `page` to `path`. PNG, BMP and JPEG have the background under the
+// picture (0: transparent in PNG, white in the others), an icon never has. A page too small for any
+// icon size writes no file. The pictures of an icon are also left in SizesFolder() until the next
+// icon export; a failure to do so is no failure of the export. Throws graphics::FileError, also for
+// an empty page; std::invalid_argument for a format that has no writer and for an icon size out of
+// range.
 void ExportImage(const std::filesystem::path& path, FileTypes fileType,
                  const graphics::Bitmap& page, graphics::Argb pageBackground,
                  const ExportSettings& settings = {});

@@ -1,4 +1,4 @@
-// Picture files: PNG, JPEG, GIF and BMP in, PNG and BMP out.
+// Picture files: PNG, JPEG, GIF and BMP in, PNG, BMP and JPEG out.
 #pragma once
 
 #include <cstdint>
@@ -32,5 +32,9 @@ std::vector<std::uint8_t> EncodePng(const Bitmap& image);
 // 24 bits, bottom-up, uncompressed, 3780 pixels a metre; alpha is dropped. An empty bitmap
 // gives no bytes.
 std::vector<std::uint8_t> EncodeBmp(const Bitmap& image);
+
+// Baseline JFIF at 96 dpi, colours at full resolution; alpha is dropped. Quality 1 to 100, others
+// count as the nearest of these. An empty bitmap gives no bytes.
+std::vector<std::uint8_t> EncodeJpeg(const Bitmap& image, int quality);
 
 }  // namespace orbelle::graphics

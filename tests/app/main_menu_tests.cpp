@@ -95,10 +95,11 @@ TEST_F(MainMenuTest, EntriesAreEnabledOnlyWhileTheirCommandCanRun) {
     EXPECT_THAT(
         EnabledNames(),
         ElementsAre("m_Blur", "m_Crystal", "m_Disabled", "m_Exit", "m_Export", "m_ExportFormat0",
-                    "m_ExportFormat1", "m_Hot", "m_Import", "m_Irradiation", "m_Macstyle", "m_New",
-                    "m_Open", "m_Reflection", "m_Save", "m_Shade", "m_Shadow", "m_Sharpen",
-                    "m_Vistastyle", "m_freshstyle", "m_iosstyle", "m_origamistyle",
-                    "m_origamistylelevel0", "m_origamistylelevel1", "menu_SaveAs"));
+                    "m_ExportFormat1", "m_ExportFormat3", "m_ExportFormat4", "m_Hot", "m_Import",
+                    "m_Irradiation", "m_Macstyle", "m_New", "m_Open", "m_Reflection", "m_Save",
+                    "m_Shade", "m_Shadow", "m_Sharpen", "m_Vistastyle", "m_freshstyle",
+                    "m_iosstyle", "m_origamistyle", "m_origamistylelevel0", "m_origamistylelevel1",
+                    "menu_SaveAs"));
 
     form.Run(editing::Crystal);
     EXPECT_EQ(EnabledNames().count("m_Undo"), 1u);

@@ -173,6 +173,32 @@ TEST_F(ProgramTest, CombineNeedsNoDocument) {
     EXPECT_FALSE(Exists("p.ico"));
 }
 
+TEST_F(ProgramTest, IconEntryChoosesForTheNextIconOnly) {
+    for (int size : {16, 32, 48})
+        Write(std::to_string(size) + ".png", FilledPicture(size, size, kBlue));
+    EXPECT_EQ(Run({"combine", "a.ico", "16.png", "32.png", "48.png"}), kSuccess);
+    const Outcome outcome = Run({"icon-entry", "2", "open", "a.ico", "import", "a.ico",
+                                 "icon-entry", "1", "import", "16.png", "import", "a.ico", "info"});
+    EXPECT_EQ(outcome.Errors, "");
+    EXPECT_THAT(outcome.Output, HasSubstr(R"("page":{"width":48,"height":48)"));
+    const std::string part = R"("image":[)";
+    std::string sizes;
+    for (auto at = outcome.Output.find(part); at != std::string::npos;
+         at = outcome.Output.find(part, at + 1))
+        sizes += outcome.Output.substr(at + part.size(), 2) + " ";
+    EXPECT_EQ(sizes, "48 16 16 32 ");
+
+    EXPECT_EQ(Run({"icon-entry", "3", "open", "a.ico"}),
+              Failed("open a.ico: there is no image 3; the icon offers 3"));
+    EXPECT_EQ(Run({"icon-entry", "-1"}).Status, 2);
+    EXPECT_EQ(Run({"combine", "b.ico", "16.png", "icon-format", "png", "combine", "b.ico", "16.png",
+                   "open", "b.ico"})
+                  .Status,
+              1);
+    Write("c.ico", std::vector<std::uint8_t>{0, 0, 2, 0, 1, 0});
+    EXPECT_EQ(Run({"open", "c.ico"}), Failed("open c.ico: not a Windows icon"));
+}
+
 TEST_F(ProgramTest, VerbsThatNeedADocumentSaySo) {
     const std::vector<std::vector<std::string>> verbs = {
         {"save", "a.volf"},      {"export", "a.png"},     {"page", "8", "8"},

@@ -104,6 +104,64 @@ TEST_F(DocumentCommands, AnUnreadablePictureIsToldAndMakesAnEmptyLayer) {
     EXPECT_EQ(host.Busy, 0);
 }
 
+TEST_F(DocumentCommands, TheChosenImageOfAnIconBecomesThePageOrALayer) {
+    const std::filesystem::path icon = Icon("a.ICO", {{16, 16}, {40, 6}});
+    host.IconEntry = 1;
+    OpenFile(icon);
+    EXPECT_EQ(editor.Document.PageWidth, 40);
+    EXPECT_EQ(editor.Document.PageHeight, 6);
+    host.IconEntry = 0;
+    Import(editor);
+    ASSERT_EQ(editor.Document.LayerCount(), 2);
+    EXPECT_EQ(Layer(1).Rect, (RectF{12, -5, 16, 16}));
+    EXPECT_EQ(Layer(1).Image.GetPixel(15, 15), 0xFF204060);
+    EXPECT_EQ(editor.History.UndoIndex(), 1);
+    EXPECT_THAT(host.OfferedCounts, ElementsAre(2, 2));
+    EXPECT_THAT(host.Messages, IsEmpty());
+}
+
+TEST_F(DocumentCommands, ACancelledChoiceOfAnIconImageChangesNothing) {
+    const std::filesystem::path icon = Icon("a.ico", {{16, 16}});
+    host.IconEntry = std::nullopt;
+    OpenFile(icon);
+    EXPECT_FALSE(editor.DocumentExists);
+    OpenFile(Picture("a.png", 12, 10));
+    host.File = Picture("b.png", 5, 5);
+    Import(editor);
+    Undo(editor);
+    const std::string title = editor.Title;
+    host.File = icon;
+    Import(editor);
+    Open(editor);
+    EXPECT_EQ(editor.Document.LayerCount(), 1);
+    EXPECT_EQ(editor.Document.SelectedLayer, 0);
+    EXPECT_EQ(editor.Title, title);
+    EXPECT_TRUE(editor.DocumentExists);
+    EXPECT_TRUE(editor.Document.Modified);
+    EXPECT_EQ(editor.History.UndoIndex(), 0);
+    EXPECT_TRUE(editor.Controls.m_Redo.Enabled);
+    EXPECT_EQ(host.Busy, 0);
+    EXPECT_THAT(host.OfferedCounts, ElementsAre(1, 1, 1));
+}
+
+TEST_F(DocumentCommands, AnIconWithoutAnImageToTakeMakesAnEmptyLayerAndSaysWhy) {
+    std::vector<std::uint8_t> bytes = graphics::ReadFile(Icon("hidden.ico", {{16, 16}}));
+    bytes[6 + 16 + 14] = 8;
+    graphics::WriteFile(folder / "hidden.ico", bytes);
+    bytes[2] = 2;
+    graphics::WriteFile(folder / "cursor.ico", bytes);
+    NewPage(20, 20);
+    for (const char* name : {"hidden.ico", "cursor.ico", "missing.ico"}) {
+        host.File = folder / name;
+        Import(editor);
+        EXPECT_THAT(host.Messages.back(), HasSubstr(name));
+        EXPECT_EQ(Layer(editor.Document.SelectedLayer).Rect, (RectF{10, 10, 0, 0}));
+    }
+    EXPECT_THAT(host.OfferedCounts, ElementsAre(0, 0, 0));
+    EXPECT_EQ(host.Messages.size(), 3U);
+    EXPECT_EQ(editor.Document.LayerCount(), 4);
+}
+
 TEST_F(DocumentCommands, SaveAndOpenBringTheSameLayersBack) {
     OpenFile(Picture("a.png", 12, 10));
     host.File = Picture("b.png", 5, 5, 0x80FF0000);

@@ -5,6 +5,7 @@
 
 #include "editing/document_commands.h"
 #include "editing/editor.h"
+#include "formats/icon_file.h"
 #include "graphics/file_io.h"
 #include "graphics/image_files.h"
 #include "support/pictures.h"
@@ -23,6 +24,17 @@ protected:
         const std::filesystem::path path = folder / name;
         graphics::WriteFile(path,
                             graphics::EncodePng(testing::FilledPicture(width, height, color)));
+        return path;
+    }
+
+    // An icon file of pictures of one colour.
+    std::filesystem::path Icon(const std::string& name,
+                               const std::vector<std::pair<int, int>>& sizes) {
+        std::vector<graphics::Bitmap> pictures;
+        for (const auto& [width, height] : sizes)
+            pictures.push_back(testing::FilledPicture(width, height, 0xFF204060));
+        const std::filesystem::path path = folder / name;
+        graphics::WriteFile(path, formats::EncodeIcon(pictures, formats::IconFormat::Bmp));
         return path;
     }
 

@@ -66,6 +66,17 @@ TEST(FitIntoBox, ShrinksToTheSideThatBindsAndCentres) {
         EXPECT_EQ(FitIntoBox(width, height, box, box), place) << width << " x " << height;
 }
 
+// JPEG loses a little.
+MATCHER_P(NearColor, color, "") {
+    for (int shift : {0, 8, 16, 24}) {
+        const int difference =
+            static_cast<int>(*arg >> shift & 255) - static_cast<int>(color >> shift & 255);
+        if (difference < -3 || difference > 3)
+            return false;
+    }
+    return true;
+}
+
 class ExportTest : public ::testing::Test {
 protected:
     void SetUp() override { setenv("XDG_CACHE_HOME", (folder_ / "cache").c_str(), 1); }
@@ -101,6 +112,19 @@ TEST_F(ExportTest, PngAndBmpStandOnTheBackground) {
         EXPECT_EQ(picture.Height(), 1);
         EXPECT_EQ(picture.GetPixel(0, 0), kBlue);
         EXPECT_EQ(picture.GetPixel(1, 0), uncovered) << static_cast<int>(type) << background;
+    }
+}
+
+TEST_F(ExportTest, JpegStandsOnTheBackgroundOrOnWhite) {
+    Bitmap page(2, 1);
+    page.SetPixel(0, 0, kBlue);
+    const std::pair<Argb, Argb> cases[] = {{kRed, kRed}, {0, 0xFFFFFFFF}, {0x00FF0000, kRed}};
+    for (const auto& [background, uncovered] : cases) {
+        const Bitmap picture = Exported(FileTypes::Jpeg, page, background);
+        EXPECT_EQ(picture.Width(), 2);
+        EXPECT_EQ(picture.Height(), 1);
+        EXPECT_THAT(picture.GetPixel(0, 0), NearColor(kBlue));
+        EXPECT_THAT(picture.GetPixel(1, 0), NearColor(uncovered));
     }
 }
 

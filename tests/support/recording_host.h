@@ -16,6 +16,7 @@ public:
     std::optional<editing::PageSize> Size;
     std::filesystem::path File;
     bool ConfirmAnswer = true;
+    std::optional<int> IconEntry = 0;
 
     // Notes.
     std::vector<std::string> Messages;
@@ -23,6 +24,7 @@ public:
     std::vector<std::string> Questions;
     std::vector<std::string> Filters;
     std::vector<int> Tips;
+    std::vector<std::size_t> OfferedCounts;  // for each icon file
     int SavePrompts = 0;
     int Animations = 0;
     int Busy = 0;
@@ -40,6 +42,11 @@ public:
     std::filesystem::path ShowFileDialog(const std::string& filter, bool) override {
         Filters.push_back(filter);
         return File;
+    }
+    std::optional<int> ChooseIconEntry(
+        const std::vector<formats::IconEntryImage>& offered) override {
+        OfferedCounts.push_back(offered.size());
+        return IconEntry;
     }
     bool Confirm(const std::string& text, const std::string& title) override {
         Questions.push_back(title + ": " + text);

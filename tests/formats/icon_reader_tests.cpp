@@ -1,0 +1,200 @@
+#include "formats/icon_reader.h"
+
+#include <gmock/gmock.h>
+
+#include "formats/icon_file.h"
+#include "formats/little_endian.h"
+#include "graphics/errors.h"
+#include "graphics/file_io.h"
+#include "graphics/image_files.h"
+#include "support/pictures.h"
+#include "support/temporary_folder.h"
+
+namespace orbelle::formats {
+namespace {
+
+using graphics::Bitmap;
+using graphics::ImageError;
+using ::testing::ElementsAre;
+using ::testing::HasSubstr;
+using Bytes = std::vector<std::uint8_t>;
+
+struct Entry {
+    std::int32_t Width = 1;
+    std::int32_t Height = 2;  // colours and mask together
+    std::int16_t BitCount = 32;
+    Bytes Pixels = {};
+};
+
+Bytes MakeIcon(const std::vector<Entry>& entries, std::uint16_t reserved = 0,
+               std::uint16_t type = 1) {
+    Bytes icon;
+    Append<std::uint16_t>(icon, reserved);
+    Append<std::uint16_t>(icon, type);
+    Append<std::uint16_t>(icon, static_cast<std::uint16_t>(entries.size()));
+    std::size_t offset = icon.size() + 16 * entries.size();
+    for (const Entry& entry : entries) {
+        icon.insert(icon.end(), 12, 0xEE);  // what nobody reads
+        Append<std::uint32_t>(icon, static_cast<std::uint32_t>(offset));
+        offset += 40 + entry.Pixels.size();
+    }
+    for (const Entry& entry : entries) {
+        const std::size_t start = icon.size();
+        Append<std::uint32_t>(icon, 0xEEEEEEEE);
+        Append<std::int32_t>(icon, entry.Width);
+        Append<std::int32_t>(icon, entry.Height);
+        Append<std::uint16_t>(icon, 0xEEEE);
+        Append<std::int16_t>(icon, entry.BitCount);
+        icon.resize(start + 40, 0xEE);
+        icon.insert(icon.end(), entry.Pixels.begin(), entry.Pixels.end());
+    }
+    return icon;
+}
+
+std::string ProblemOf(const Bytes& icon) {
+    try {
+        DecodeIcon(icon);
+    } catch (const ImageError& error) {
+        return error.what();
+    }
+    return "";
+}
+
+std::vector<graphics::Argb> PixelsOf(const Bitmap& image) {
+    return {image.Pixels(), image.Pixels() + image.Width() * image.Height()};
+}
+
+TEST(IconReader, TakesPixelsBottomUpRightBehindTheHeader) {
+    const Bytes icon = MakeIcon({{2, 5, 32, {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 0}},
+                                 {1, 2, 8, {0x33, 0x22, 0x11, 0xFF}}});
+    const std::vector<IconEntryImage> entries = DecodeIcon(icon);
+    ASSERT_EQ(entries.size(), 2u);
+    EXPECT_EQ(entries[0].Width, 2);
+    EXPECT_EQ(entries[0].Height, 2);
+    EXPECT_EQ(entries[0].BitCount, 32);
+    EXPECT_THAT(PixelsOf(entries[0].Image),
+                ElementsAre(0x0C0B0A09, 0x000F0E0D, 0x04030201, 0x08070605));
+    EXPECT_EQ(entries[1].BitCount, 8);
+    EXPECT_THAT(PixelsOf(entries[1].Image), ElementsAre(0xFF112233));
+}
+
+TEST(IconReader, A24BitEntryIsTakenWithFourBytesAPixel) {
+    // Two rows of two pixels with padding, then the mask's first byte.
+    const Bytes icon =
+        MakeIcon({{2, 4, 24, {1, 2, 3, 4, 5, 6, 0, 0, 7, 8, 9, 10, 11, 12, 0, 0, 0xC0}}});
+    EXPECT_THAT(PixelsOf(DecodeIcon(icon)[0].Image),
+                ElementsAre(0x0A090807, 0x00000C0B, 0x04030201, 0x00000605));
+}
+
+TEST(IconReader, WrittenIconsComeBack) {
+    const Bitmap pictures[] = {orbelle::testing::PictureOf({"#..", ".##"}, 0x80123456),
+                               Bitmap(256, 256),
+                               orbelle::testing::FilledPicture(17, 1, 0x01FFFFFF)};
+    const std::vector<IconEntryImage> entries = DecodeIcon(EncodeIcon(pictures, IconFormat::Bmp));
+    ASSERT_EQ(entries.size(), 3u);
+    for (std::size_t i = 0; i < 3; ++i)
+        EXPECT_TRUE(orbelle::testing::SamePixels(entries[i].Image, pictures[i])) << i;
+    // One PNG entry spoils the others.
+    EXPECT_THAT(ProblemOf(EncodeIcon(pictures, IconFormat::Png256)), HasSubstr("169478669 x "));
+}
+
+TEST(IconReader, RefusesWhatIsNoIcon) {
+    const std::vector<Entry> one{{}};
+    EXPECT_EQ(ProblemOf(MakeIcon(one, 0, 0)), "");
+    EXPECT_EQ(ProblemOf(MakeIcon(one, 0, 2)), "not a Windows icon");
+    EXPECT_EQ(ProblemOf(MakeIcon(one, 0, 0xFFFF)), "not a Windows icon");
+    EXPECT_EQ(ProblemOf(MakeIcon(one, 1, 1)), "not a Windows icon");
+    EXPECT_EQ(ProblemOf(MakeIcon({})), "the icon holds no image");
+    EXPECT_EQ(ProblemOf({}), "the icon holds no image");
+}
+
+TEST(IconReader, AnImpossibleSizeFailsTheWholeFile) {
+    const std::pair<std::int32_t, std::int32_t> sizes[] = {{0, 2},
+                                                           {-1, 2},
+                                                           {1, 0},
+                                                           {1, 1},
+                                                           {1, -2},
+                                                           {16385, 2},
+                                                           {1, 2 * 16385},
+                                                           {16384, 16384},
+                                                           {0x7FFFFFFF, 0x7FFFFFFF},
+                                                           {-0x7FFFFFFF - 1, -0x7FFFFFFF - 1}};
+    for (const auto& [width, height] : sizes)
+        EXPECT_NE(ProblemOf(MakeIcon({{}, {width, height, 32, Bytes(16)}})), "")
+            << width << " x " << height;
+    EXPECT_EQ(ProblemOf(MakeIcon({{}, {16384, 2, 32, {}}})), "");
+}
+
+TEST(IconReader, AShortFileTakesLittleMemory) {
+    EXPECT_EQ(ProblemOf(MakeIcon({{1024, 2048, 32, {}}})), "");
+    EXPECT_EQ(ProblemOf(MakeIcon({{1024, 2050, 32, {}}})),
+              "the pixels of a large image are missing");
+    EXPECT_EQ(ProblemOf(MakeIcon({{1024, 2050, 32, {1}}})), "");
+    // Many entries that share one large image.
+    const std::vector<Entry> many(65, Entry{1024, 2048, 32, {}});
+    EXPECT_EQ(ProblemOf(MakeIcon(many)), "the images of the icon are too large together");
+}
+
+TEST(IconReader, TakesAsManyEntriesAsTheDirectoryCanCount) {
+    const std::vector<IconEntryImage> entries =
+        DecodeIcon(MakeIcon(std::vector<Entry>(0xFFFF, Entry{1, 2, 32, {1, 2, 3, 4}})));
+    ASSERT_EQ(entries.size(), 0xFFFFu);
+    EXPECT_EQ(entries.back().Image.GetPixel(0, 0), 0x04030201u);
+}
+
+TEST(IconReader, BytesBeyondTheEndReadAsZero) {
+    const Bytes icon = MakeIcon({{2, 4, 32, Bytes(16, 0xFF)}});
+    const std::size_t sizeKnown = 6 + 16 + 4 + 4 + 1;  // the upper bytes of its height are zero
+    for (std::size_t length = 0; length < icon.size(); ++length) {
+        const Bytes cut(icon.begin(), icon.begin() + static_cast<std::ptrdiff_t>(length));
+        if (length < sizeKnown) {
+            EXPECT_NE(ProblemOf(cut), "") << length;
+            continue;
+        }
+        const IconEntryImage entry = DecodeIcon(cut)[0];
+        EXPECT_EQ(entry.BitCount, length >= 6 + 16 + 14 + 1 ? 32 : 0) << length;
+        Bytes pixels(16);
+        for (std::size_t i = 0; i < 16; ++i)
+            pixels[i] = 6 + 16 + 40 + i < length ? 0xFF : 0;
+        const auto* stored = reinterpret_cast<const std::uint8_t*>(entry.Image.Pixels());
+        EXPECT_EQ(Bytes(stored + 8, stored + 16), Bytes(pixels.begin(), pixels.begin() + 8));
+        EXPECT_EQ(Bytes(stored, stored + 8), Bytes(pixels.begin() + 8, pixels.end()));
+    }
+}
+
+TEST(IconReader, OffsetsMayPointAnywhere) {
+    const Bytes icon = MakeIcon({{2, 4, 32, Bytes(16, 0xFF)}});
+    for (std::uint32_t offset : {0u, 1u, 61u, 77u, 78u, 0x7FFFFFFFu, 0x80000000u, 0xFFFFFFFFu}) {
+        Bytes moved = icon;
+        std::memcpy(moved.data() + 18, &offset, sizeof offset);
+        EXPECT_NE(ProblemOf(moved), "") << offset;
+    }
+}
+
+TEST(IconReader, OffersWhatHasMoreThan8Bits) {
+    std::vector<Entry> entries;
+    for (int bits : {8, 32, 1, 24, 9, 0, 16, -1})
+        entries.push_back({1, 2, static_cast<std::int16_t>(bits), {}});
+    std::vector<int> offered;
+    for (const IconEntryImage& entry : OfferedEntries(DecodeIcon(MakeIcon(entries))))
+        offered.push_back(entry.BitCount);
+    EXPECT_THAT(offered, ElementsAre(32, 24, 9, 16));
+}
+
+TEST(IconReader, ADamagedFileIsNamed) {
+    const orbelle::testing::TemporaryFolder folder;
+    graphics::WriteFile(folder / "a.ico", MakeIcon({{}}));
+    EXPECT_EQ(ReadIconFile(folder / "a.ico").size(), 1u);
+    graphics::WriteFile(folder / "b.ico", MakeIcon({}));
+    for (const auto& bad : {folder / "b.ico", folder / "missing.ico"}) {
+        try {
+            ReadIconFile(bad);
+            ADD_FAILURE() << bad << " was taken";
+        } catch (const graphics::FileError& error) {
+            EXPECT_THAT(error.what(), HasSubstr(bad.string()));
+        }
+    }
+}
+
+}  // namespace
+}  // namespace orbelle::formats
