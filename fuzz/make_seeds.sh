@@ -55,3 +55,7 @@ done
 for layout in RGB565 RGB555; do
     make BMP:bmp/${layout,,}.bmp -alpha off -define bmp:subtype=$layout
 done
+
+make ICO:ico/deep.ico
+make ICO:ico/palette.ico -alpha off -colors 200 -type Palette
+make ICO:ico/sizes.ico -resize 16x16! '(' +clone -resize 8x12! ')' '(' +clone -monochrome ')'
