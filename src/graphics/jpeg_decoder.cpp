@@ -19,6 +19,9 @@ namespace {
 // much time each.
 constexpr int kMaxScans = 100;
 
+// Pixels times scans: 16 scans of the largest picture.
+constexpr std::int64_t kMaxScannedPixels = 16 * kMaxBitmapPixels;
+
 // A Huffman code takes a bit at least, and no coded unit covers more than 32 x 32 pixels: 8 of them
 // to a byte.
 constexpr std::int64_t kMaxPixelsPerByte = 8192;
@@ -139,11 +142,11 @@ private:
     }
 
     static void OnProgress(j_common_ptr jpeg) {
-        if (reinterpret_cast<j_decompress_ptr>(jpeg)->input_scan_number <= kMaxScans)
-            return;
         JpegReader* self = Self(jpeg);
-        std::snprintf(self->message_, sizeof self->message_, "it has more than %d scans",
-                      kMaxScans);
+        const int scans = self->jpeg_.input_scan_number;
+        if (scans <= kMaxScans && scans * self->Width() * self->Height() <= kMaxScannedPixels)
+            return;
+        std::snprintf(self->message_, sizeof self->message_, "it has too many scans for its size");
         std::longjmp(self->jump_, 1);
     }
 

@@ -1,0 +1,13 @@
+#include <cstddef>
+#include <cstdint>
+
+#include "graphics/image_codecs.h"
+#include "graphics/image_files.h"
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    try {
+        orbelle::graphics::DecodeJpeg({data, size});
+    } catch (const orbelle::graphics::ImageError&) {
+    }
+    return 0;
+}

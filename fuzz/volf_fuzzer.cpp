@@ -1,0 +1,34 @@
+#include <cstddef>
+#include <cstdint>
+#include <stdexcept>
+
+#include "document/compositor.h"
+#include "formats/volf_store.h"
+
+namespace {
+
+using orbelle::document::Document;
+
+// Larger pages only cost time: nothing in composing them depends on their size.
+constexpr int kMaxComposedSide = 2048;
+
+void Compose(Document& document) {
+    if (document.PageWidth > kMaxComposedSide || document.PageHeight > kMaxComposedSide)
+        return;
+    orbelle::document::Compositor compositor;
+    orbelle::graphics::DIBSave canvas;
+    compositor.Compose(document, orbelle::graphics::InterpolationMode::HighQuality, canvas);
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    Document document;
+    try {
+        orbelle::formats::DecodeDocument({data, size}, document);
+    } catch (const std::runtime_error&) {
+        // The whole layers before the damage are in the document.
+    }
+    Compose(document);
+    return 0;
+}
