@@ -1,14 +1,10 @@
 #include <benchmark/benchmark.h>
-#include <gif_lib.h>
 
 #include <algorithm>
 #include <cmath>
-#include <cstdio>
-#include <cstdlib>
 #include <vector>
-// Needs cstdio and cstdlib before it.
-#include <jpeglib.h>
 
+#include "formats/gif_palette.h"
 #include "graphics/image_files.h"
 
 namespace orbelle {
@@ -40,51 +36,11 @@ Bitmap IconPicture(int side) {
 }
 
 FileBytes MakeJpeg(const Bitmap& image) {
-    jpeg_compress_struct jpeg = {};
-    jpeg_error_mgr errors;
-    jpeg.err = jpeg_std_error(&errors);
-    jpeg_create_compress(&jpeg);
-    unsigned char* memory = nullptr;
-    unsigned long size = 0;
-    jpeg_mem_dest(&jpeg, &memory, &size);
-    jpeg.image_width = image.Width();
-    jpeg.image_height = image.Height();
-    jpeg.in_color_space = JCS_EXT_BGRX;
-    jpeg.input_components = 4;
-    jpeg_set_defaults(&jpeg);
-    jpeg_set_quality(&jpeg, 95, TRUE);
-    jpeg_start_compress(&jpeg, TRUE);
-    for (int y = 0; y < image.Height(); ++y) {
-        auto* row = reinterpret_cast<JSAMPROW>(const_cast<Argb*>(image.Row(y)));
-        jpeg_write_scanlines(&jpeg, &row, 1);
-    }
-    jpeg_finish_compress(&jpeg);
-    jpeg_destroy_compress(&jpeg);
-    FileBytes file(memory, memory + size);
-    std::free(memory);
-    return file;
+    return graphics::EncodeJpeg(image, 99);
 }
 
 FileBytes MakeGif(const Bitmap& image) {
-    FileBytes file;
-    const auto append = [](GifFileType* gif, const GifByteType* data, int count) {
-        auto* to = static_cast<FileBytes*>(gif->UserData);
-        to->insert(to->end(), data, data + count);
-        return count;
-    };
-    GifFileType* gif = EGifOpen(&file, append, nullptr);
-    ColorMapObject* colors = GifMakeMapObject(256, nullptr);
-    EGifPutScreenDesc(gif, image.Width(), image.Height(), 8, 0, colors);
-    EGifPutImageDesc(gif, 0, 0, image.Width(), image.Height(), false, nullptr);
-    std::vector<GifByteType> indexes(image.Width());
-    for (int y = 0; y < image.Height(); ++y) {
-        std::transform(image.Row(y), image.Row(y) + image.Width(), indexes.begin(),
-                       [](Argb c) { return static_cast<GifByteType>(graphics::GreenOf(c)); });
-        EGifPutLine(gif, indexes.data(), image.Width());
-    }
-    GifFreeMapObject(colors);
-    EGifCloseFile(gif, nullptr);
-    return file;
+    return formats::EncodeGifPicture(image, true, 130);
 }
 
 // Shows the time of one pixel and the size of the file.
@@ -95,14 +51,13 @@ void Report(benchmark::State& state, const Bitmap& image, const FileBytes& file)
     state.counters["file_bytes"] = static_cast<double>(file.size());
 }
 
-void EncodePng(benchmark::State& state) {
+void Encode(benchmark::State& state, FileBytes (*encode)(const Bitmap&)) {
     const Bitmap image = IconPicture(static_cast<int>(state.range(0)));
     FileBytes file;
     for (auto _ : state)
-        file = graphics::EncodePng(image);
+        file = encode(image);
     Report(state, image, file);
 }
-BENCHMARK(EncodePng)->Arg(48)->Arg(256)->Arg(512);
 
 void Decode(benchmark::State& state, FileBytes (*encode)(const Bitmap&)) {
     const Bitmap image = IconPicture(static_cast<int>(state.range(0)));
@@ -111,10 +66,14 @@ void Decode(benchmark::State& state, FileBytes (*encode)(const Bitmap&)) {
         benchmark::DoNotOptimize(graphics::DecodeImage(file));
     Report(state, image, file);
 }
-BENCHMARK_CAPTURE(Decode, Png, graphics::EncodePng)->Arg(48)->Arg(256)->Arg(512);
-BENCHMARK_CAPTURE(Decode, Jpeg, MakeJpeg)->Arg(512);
-BENCHMARK_CAPTURE(Decode, Gif, MakeGif)->Arg(512);
-BENCHMARK_CAPTURE(Decode, Bmp, graphics::EncodeBmp)->Arg(512);
+
+#define ORBELLE_FORMAT_BENCHMARKS(name, encode)                           \
+    BENCHMARK_CAPTURE(Encode, name, encode)->Arg(48)->Arg(256)->Arg(512); \
+    BENCHMARK_CAPTURE(Decode, name, encode)->Arg(48)->Arg(256)->Arg(512)
+ORBELLE_FORMAT_BENCHMARKS(Png, graphics::EncodePng);
+ORBELLE_FORMAT_BENCHMARKS(Jpeg, MakeJpeg);
+ORBELLE_FORMAT_BENCHMARKS(Gif, MakeGif);
+ORBELLE_FORMAT_BENCHMARKS(Bmp, graphics::EncodeBmp);
 
 }  // namespace
 }  // namespace orbelle

@@ -33,10 +33,10 @@ Bitmap MakeIconPicture(int side) {
     return picture;
 }
 
-document::Document MakeDocument() {
+document::Document MakeDocument(int layers) {
     document::Document document;
     document.PageWidth = document.PageHeight = 512;
-    for (int i = 0; i < 10; ++i) {
+    for (int i = 0; i < layers; ++i) {
         document::IconLayer layer;
         layer.Image = MakeIconPicture(512);
         layer.ImageWidth = layer.ImageHeight = 512;
@@ -46,21 +46,21 @@ document::Document MakeDocument() {
     return document;
 }
 
-void EncodeTenLayers(benchmark::State& state) {
-    const document::Document document = MakeDocument();
+void EncodeDocument(benchmark::State& state) {
+    const document::Document document = MakeDocument(static_cast<int>(state.range(0)));
     for (auto _ : state)
         benchmark::DoNotOptimize(formats::EncodeDocument(document));
 }
-BENCHMARK(EncodeTenLayers)->Unit(benchmark::kMillisecond);
+BENCHMARK(EncodeDocument)->Arg(1)->Arg(10)->Arg(50)->UseRealTime()->Unit(benchmark::kMillisecond);
 
-void DecodeTenLayers(benchmark::State& state) {
-    const auto file = formats::EncodeDocument(MakeDocument());
+void DecodeDocument(benchmark::State& state) {
+    const auto file = formats::EncodeDocument(MakeDocument(static_cast<int>(state.range(0))));
     document::Document document;
     for (auto _ : state)
         formats::DecodeDocument(file, document);
     state.counters["bytes"] = static_cast<double>(file.size());
 }
-BENCHMARK(DecodeTenLayers)->Unit(benchmark::kMillisecond);
+BENCHMARK(DecodeDocument)->Arg(1)->Arg(10)->Arg(50)->Unit(benchmark::kMillisecond);
 
 void DrawAndEncodeIcon(benchmark::State& state) {
     const Bitmap page = MakeIconPicture(512);
