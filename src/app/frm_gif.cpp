@@ -67,6 +67,7 @@ FrmGIF::FrmGIF(const graphics::Bitmap& surface, QWidget* parent)
     layout->addLayout(previews);
     QLabel* original = AddPreview(*previews, 0, "Original");
     result_ = AddPreview(*previews, 1, "Transparency  GIF");
+    result_->setObjectName("Result");
     original->setPixmap(PaintPreview([&](graphics::DrawingContext& context) {
         context.DrawImageRect(surface_, formats::PreviewRect(surface_, kBox, kBox));
     }));
