@@ -38,7 +38,7 @@ QPixmap PaintPreview(const Draw& draw) {
 QLabel* AddPreview(QGridLayout& layout, int column, const char* caption) {
     auto* box = new QLabel;
     box->setFixedSize(kBox + 2, kBox + 2);
-    box->setFrameStyle(QFrame::Box | QFrame::Plain);
+    box->setStyleSheet("border: 1px solid rgba(0, 0, 0, 50)");
     box->setAccessibleName(caption);
     layout.addWidget(new QLabel(caption), 0, column);
     layout.addWidget(box, 1, column);
@@ -64,6 +64,8 @@ FrmGIF::FrmGIF(const graphics::Bitmap& surface, QWidget* parent)
 
     auto* previews = new QGridLayout;
     previews->setHorizontalSpacing(20);
+    previews->setVerticalSpacing(6);
+    previews->setRowStretch(1, 1);
     layout->addLayout(previews);
     QLabel* original = AddPreview(*previews, 0, "Original");
     result_ = AddPreview(*previews, 1, "Transparency  GIF");
@@ -88,7 +90,7 @@ FrmGIF::FrmGIF(const graphics::Bitmap& surface, QWidget* parent)
 
     auto* hint = new QLabel(kHint);
     hint->setWordWrap(true);
-    hint->setFixedWidth(2 * kBox);
+    hint->setFixedWidth(2 * kBox + 20);
     layout->addWidget(hint);
 
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
