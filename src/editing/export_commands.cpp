@@ -18,8 +18,8 @@ void Export(Editor& editor, const formats::ExportFormat& format) {
     const graphics::Argb background = editor.Document.PageBackground;
     formats::ExportSettings settings = editor.ExportSettings;
     if (format.FileType == formats::FileTypes::Gif && graphics::AlphaOf(background) == 0) {
-        const std::optional<int> threshold = editor.Host.AskGifThreshold(
-            formats::DrawGifSurface(editor.Canvas.new_Img, background));
+        const std::optional<int> threshold =
+            editor.Host.AskGifThreshold(formats::DrawGifSurface(editor.Canvas.new_Img, background));
         if (!threshold)
             return;
         settings.GifThreshold = *threshold;

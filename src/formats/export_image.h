@@ -53,9 +53,9 @@ graphics::Bitmap DrawGifSurface(const graphics::Bitmap& page, graphics::Argb pag
 
 // Writes the composed page `page` to `path`. PNG, BMP, JPEG and GIF have the background under the
 // picture (0: transparent in PNG and GIF, white in the others), an icon never has. A page too small
-// for any icon size writes no file. The pictures of an icon are also left in SizesFolder() until the
-// next icon export; a failure to do so is no failure of the export. Throws graphics::FileError, also
-// for an empty page; std::invalid_argument for an icon size out of range.
+// for any icon size writes no file. The pictures of an icon are also left in SizesFolder() until
+// the next icon export; a failure to do so is no failure of the export. Throws graphics::FileError,
+// also for an empty page; std::invalid_argument for an icon size out of range.
 void ExportImage(const std::filesystem::path& path, FileTypes fileType,
                  const graphics::Bitmap& page, graphics::Argb pageBackground,
                  const ExportSettings& settings = {});
