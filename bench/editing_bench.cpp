@@ -19,6 +19,11 @@ public:
     std::optional<int> ChooseIconEntry(const std::vector<formats::IconEntryImage>&) override {
         return 0;
     }
+    std::optional<graphics::Argb> AskColor(graphics::Argb) override { return std::nullopt; }
+    void SetClipboard(const graphics::Bitmap&, const std::string&) override {}
+    bool ClipboardHasPicture() override { return false; }
+    graphics::Bitmap ClipboardPicture() override { return {}; }
+    std::string ClipboardText() override { return {}; }
     bool Confirm(const std::string&, const std::string&) override { return true; }
 };
 

@@ -1,6 +1,7 @@
 #include "app/mform.h"
 
 #include <QCloseEvent>
+#include <QColorDialog>
 #include <QFile>
 #include <QGridLayout>
 #include <QGuiApplication>
@@ -19,6 +20,7 @@
 #include "app/message_boxes.h"
 #include "app/scene_view.h"
 #include "app/settings.h"
+#include "app/system_clipboard.h"
 #include "editing/document_commands.h"
 #include "editing/menu_state.h"
 #include "editing/view_commands.h"
@@ -238,6 +240,30 @@ std::optional<int> mForm::ChooseIconEntry(const std::vector<formats::IconEntryIm
     if (form.exec() != QDialog::Accepted)
         return std::nullopt;
     return form.SelectedIndex();
+}
+
+std::optional<graphics::Argb> mForm::AskColor(graphics::Argb initial) {
+    const PlainPointer pointer(busyPointers_);
+    const QColor color = QColorDialog::getColor(QColor::fromRgb(initial), this);
+    if (!color.isValid())
+        return std::nullopt;
+    return color.rgb();
+}
+
+void mForm::SetClipboard(const graphics::Bitmap& picture, const std::string& text) {
+    SetSystemClipboard(picture, text);
+}
+
+bool mForm::ClipboardHasPicture() {
+    return SystemClipboardHasPicture();
+}
+
+graphics::Bitmap mForm::ClipboardPicture() {
+    return SystemClipboardPicture();
+}
+
+std::string mForm::ClipboardText() {
+    return SystemClipboardText();
 }
 
 bool mForm::Confirm(const std::string& text, const std::string& title) {

@@ -46,6 +46,11 @@ public:
     std::optional<int> AskGifThreshold(const graphics::Bitmap& surface) override;
     std::optional<int> ChooseIconEntry(
         const std::vector<formats::IconEntryImage>& offered) override;
+    std::optional<graphics::Argb> AskColor(graphics::Argb initial) override;
+    void SetClipboard(const graphics::Bitmap& picture, const std::string& text) override;
+    bool ClipboardHasPicture() override;
+    graphics::Bitmap ClipboardPicture() override;
+    std::string ClipboardText() override;
     bool Confirm(const std::string& text, const std::string& title) override;
 
 protected:

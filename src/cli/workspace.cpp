@@ -29,6 +29,11 @@ std::optional<int> CliHost::ChooseIconEntry(const std::vector<formats::IconEntry
     return std::nullopt;
 }
 
+void CliHost::SetClipboard(const graphics::Bitmap& picture, const std::string& text) {
+    clipboardPicture_ = picture;
+    clipboardText_ = text;
+}
+
 Workspace::Workspace(std::ostream& output) : Output(output) {
     // Every command paints the scene, which nobody sees until a verb asks for it.
     Editor.View.SceneWidth = 1;

@@ -37,10 +37,17 @@ public:
     // No such image: nothing is imported, and that is the problem.
     std::optional<int> ChooseIconEntry(
         const std::vector<formats::IconEntryImage>& offered) override;
+    std::optional<graphics::Argb> AskColor(graphics::Argb) override { return std::nullopt; }
+    void SetClipboard(const graphics::Bitmap& picture, const std::string& text) override;
+    bool ClipboardHasPicture() override { return !clipboardPicture_.IsEmpty(); }
+    graphics::Bitmap ClipboardPicture() override { return clipboardPicture_; }
+    std::string ClipboardText() override { return clipboardText_; }
     bool Confirm(const std::string&, const std::string&) override { return true; }
 
 private:
     std::string problem_;
+    graphics::Bitmap clipboardPicture_;
+    std::string clipboardText_;
 };
 
 struct Workspace {

@@ -8,6 +8,12 @@ Controls::Controls() {
         ToolBarvs1[static_cast<std::size_t>(button)].Enabled = false;
     for (Button& button : ToolBarvs4)
         button.Enabled = false;
+    for (Button& button : ToolBarvs2)
+        button.Enabled = false;
+    ToolBarvs2[tool_buttons::Move] = {true, true};
+    ToolBarvs3[1].Pressed = true;
+    ToolBarvs5[selection_buttons::Rectangle].Pressed = true;
+    ToolBarvs6[eraser_buttons::Pencil].Pressed = true;
 }
 
 }  // namespace orbelle::editing

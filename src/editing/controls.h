@@ -18,11 +18,32 @@ struct Button {
 
 struct MenuEntry {
     bool Enabled = true;
+    bool Checked = false;
 };
 
 // Button numbers of the toolbars; index 0 of the arrays below is unused.
 namespace main_buttons {  // ToolBarvs1
 enum { New = 1, Open, Import, Save, Undo = 6, Redo, ZoomIn = 9, ZoomOut, OriginalSize };
+}
+namespace tool_buttons {  // ToolBarvs2; the picture and text of 6 to 9 are crossed
+enum {
+    Move = 1,
+    Selection,
+    Pencil = 4,
+    Line,
+    Ellipse,
+    FilledEllipse,
+    Rectangle,
+    FilledRectangle,
+    ColorPick = 11,
+    Eraser
+};
+}
+namespace selection_buttons {  // ToolBarvs5
+enum { Rectangle = 1, Ellipse, Polygon };
+}
+namespace eraser_buttons {  // ToolBarvs6
+enum { Brush = 1, Pencil };
 }
 namespace layer_buttons {  // ToolBarvs4
 enum { Add = 1, Remove, Hide, SetOrder = 5, MergeDown };
@@ -39,6 +60,8 @@ struct Controls {
     Slider ScaleScroll{50, false};  // 0 to 100
     Slider CtlScroll22{1, true};    // brush opacity, 1 to 100
     Slider CtlScroll23{1, true};    // brush size, 1 to 100
+    Slider LineWidth{1, true};      // 1 to 255 pixels
+    Slider ColorOpacity{0, true};   // of the active colour, 0 to 100
 
     // Labels beside the sliders.
     std::string HueValue = "0";
@@ -46,10 +69,20 @@ struct Controls {
     std::string SaturationValue = "0";
     std::string ContrastValue = "0";
     std::string ScaleValue = "0";
+    std::string BrushOpacity = "1%";
+    std::string BrushSize = "1";
     std::string FilterCaption = "No filters are used, click Style menu to choose a filter.";
 
-    std::array<Button, 14> ToolBarvs1;
-    std::array<Button, 7> ToolBarvs4;
+    std::array<Button, 14> ToolBarvs1;  // main
+    std::array<Button, 13> ToolBarvs2;  // tools
+    std::array<Button, 5> ToolBarvs3;   // fill kinds, a pop-up: button FillKind + 1 is pressed
+    std::array<Button, 7> ToolBarvs4;   // layers
+    std::array<Button, 4> ToolBarvs5;   // selection kinds, a pop-up
+    std::array<Button, 3> ToolBarvs6;   // erasers, a pop-up
+    bool ToolBarvs3Visible = false;
+    bool ToolBarvs5Visible = false;
+    bool ToolBarvs6Visible = false;
+    bool BrushPanelOpen = false;
 
     MenuEntry m_Import{false};
     MenuEntry m_Save{false};
@@ -57,6 +90,20 @@ struct Controls {
     MenuEntry m_Export{false};
     MenuEntry m_Undo{false};
     MenuEntry m_Redo{false};
+
+    MenuEntry m_Cut{false};
+    MenuEntry m_Copy{false};
+    MenuEntry m_Paste{false};
+    MenuEntry m_Del{false};
+    MenuEntry menu_Merge{false};
+    MenuEntry menu_FlipH{false};
+    MenuEntry menu_FlipV{false};
+    MenuEntry m_90CW{false};
+    MenuEntry m_90CWW{false};
+    MenuEntry m_BackOne{false};
+    MenuEntry m_FowardOne{false};
+    MenuEntry m_ToBack{false};
+    MenuEntry m_ToFront{false};
 
     MenuEntry m_Disabled{false};
     MenuEntry m_Hot{false};
@@ -72,6 +119,12 @@ struct Controls {
     MenuEntry m_Shade{false};
     MenuEntry m_Reflection{false};
     MenuEntry m_Shadow{false};
+
+    MenuEntry m_Selection{true, true};
+    MenuEntry m_Pencil;
+    MenuEntry m_Line;
+    MenuEntry m_Ellipse;
+    MenuEntry m_Rectangle;
 
     bool PageSliderLock = false;   // the page-size sliders do not react while they are set
     bool PageSizeChanged = false;  // the page was resized since the last fit to the window

@@ -86,6 +86,8 @@ void EnableDocumentCommands(Editor& editor) {
     controls.ToolBarvs1[main_buttons::ZoomIn].Enabled = true;
     controls.ToolBarvs1[main_buttons::ZoomOut].Enabled = true;
     controls.ToolBarvs4[layer_buttons::Add].Enabled = true;
+    for (Button& button : controls.ToolBarvs2)
+        button.Enabled = true;
 }
 
 // The controls after a picture or a document has come in and its top or new layer is selected.

@@ -2,7 +2,9 @@
 #pragma once
 
 #include <array>
+#include <optional>
 #include <string>
+#include <vector>
 
 #include "document/compositor.h"
 #include "document/document.h"
@@ -10,6 +12,8 @@
 #include "document/view.h"
 #include "editing/controls.h"
 #include "editing/editor_host.h"
+#include "editing/overlays.h"
+#include "editing/tool.h"
 #include "filters/selection_region.h"
 #include "formats/export_image.h"
 #include "graphics/bitmap.h"
@@ -50,7 +54,31 @@ struct Editor {
 
     filters::ClsFilters Filters;  // holds the selection
 
+    Tool CurrentTool = Tool::Move;
+    editing::FillKind FillKind = editing::FillKind::Solid;
     std::array<graphics::Argb, 2> Colors{};  // foreground, background
+    int ActiveColor = 0;                     // the one in use
+    int LastToolButton = 1;                  // of ToolBarvs2
+
+    // The pointer on the scene, scene pixels.
+    bool DragActive = false;  // a left press has begun what the next release ends
+    float MouseDownX = 0;     // the last press; a brush and a selection frame move them
+    float MouseDownY = 0;
+    float LastMouseX = 0;  // the last move
+    float LastMouseY = 0;
+    editing::Overlays Overlays;
+    int TipCounter = 0;  // age of the open tips in ticks
+
+    // Between press and release: where the layer was, page pixels, and how it looked.
+    float LayerStartX = 0;
+    float LayerStartY = 0;
+    graphics::Bitmap StrokeBackup;
+    std::vector<graphics::PointF> PencilPoints;  // layer pixels
+
+    std::vector<graphics::PointF> PolygonPoints;  // of an open polygon, page pixels
+
+    // What the last Copy took, while the clipboard carries the product's mark.
+    document::IconLayer ClipboardLayer;
 
     // Between the press and the release of a slider: the picture or place that its steps start
     // from.

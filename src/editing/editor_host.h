@@ -8,6 +8,7 @@
 
 #include "formats/icon_reader.h"
 #include "graphics/bitmap.h"
+#include "graphics/color.h"
 
 namespace orbelle::editing {
 
@@ -26,9 +27,14 @@ public:
     virtual void SceneChanged() {}         // Editor::Scene was painted anew
     virtual void LayerPanelChanged() {}    // the stack or a thumbnail changed
     virtual void ControlsChanged() {}      // Editor::Controls changed
+    virtual void OverlaysChanged() {}      // Editor::Overlays changed
     virtual void TitleChanged() {}         // Editor::Title changed
     virtual void ShowTips(int /*tip*/) {}  // a tip fits now, by its number
+    virtual void HideTips() {}             // the first balloon closes now
     virtual void SetBusyPointer(bool /*busy*/) {}
+    virtual void SlideBrushPanel() {}  // in or out, as Controls::BrushPanelOpen says
+    // The layer order menu, wanted at this place of the scene, scene pixels.
+    virtual void ShowLayerMenu(float /*x*/, float /*y*/) {}
     // Editor::Zoom is to be stepped by TickZoomAnimation until that says that it is done.
     virtual void StartZoomAnimation() {}
 
@@ -50,6 +56,15 @@ public:
     // as when none is offered. No value: cancelled.
     virtual std::optional<int> ChooseIconEntry(
         const std::vector<formats::IconEntryImage>& offered) = 0;
+    // The colour dialog; no value: cancelled. The alpha of both means nothing.
+    virtual std::optional<graphics::Argb> AskColor(graphics::Argb initial) = 0;
+
+    // The clipboard holds one picture and, beside it, a text.
+    virtual void SetClipboard(const graphics::Bitmap& picture, const std::string& text) = 0;
+    virtual bool ClipboardHasPicture() = 0;
+    virtual graphics::Bitmap ClipboardPicture() = 0;  // empty: none that can be read
+    virtual std::string ClipboardText() = 0;
+
     // A question with OK and Cancel, Cancel the default; true: OK.
     virtual bool Confirm(const std::string& text, const std::string& title) = 0;
 };

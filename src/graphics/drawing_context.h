@@ -1,6 +1,8 @@
 // Drawing on a bitmap: everything is blended source-over on straight alpha.
 #pragma once
 
+#include <span>
+
 #include "graphics/bitmap.h"
 #include "graphics/brush.h"
 #include "graphics/enums.h"
@@ -38,6 +40,16 @@ public:
     // The outline of the rectangle, hard-edged: at width 1 that of Width + 1 by Height + 1 pixels.
     // Negative width or height, or both zero: nothing.
     void DrawRectangle(const Pen& pen, const RectF& rect);
+
+    // Lines and outlines, hard-edged or by coverage with SmoothingMode::AntiAlias. A hard-edged
+    // line of width 1 is one pixel thick, both end pixels drawn; two equal points draw nothing. A
+    // pixel is blended once for a whole call. Fewer than two points: nothing.
+    void DrawLine(const Pen& pen, PointF start, PointF end);
+    void DrawLines(const Pen& pen, std::span<const PointF> points);
+    // Closed by a line from the last point to the first.
+    void DrawPolygon(const Pen& pen, std::span<const PointF> points);
+    void DrawEllipse(const Pen& pen, const RectF& box);
+    void FillEllipse(const Brush& brush, const RectF& box);
 
     // Pixel for pixel with its top left at (x, y), which may be fractions.
     void DrawImage(const Bitmap& image, float x, float y);

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "editing/editor_host.h"
+#include "graphics/geometry.h"
 
 namespace orbelle::testing {
 
@@ -18,6 +19,9 @@ public:
     bool ConfirmAnswer = true;
     std::optional<int> GifThreshold;
     std::optional<int> IconEntry = 0;
+    std::optional<graphics::Argb> Color;
+    graphics::Bitmap Clipboard;
+    std::string ClipboardMark;
 
     // Notes.
     std::vector<std::string> Messages;
@@ -29,9 +33,15 @@ public:
     int SavePrompts = 0;
     int Animations = 0;
     int Busy = 0;
+    int HiddenTips = 0;
+    int BrushPanelSlides = 0;
+    std::vector<graphics::PointF> LayerMenus;
 
     void ShowTips(int tip) override { Tips.push_back(tip); }
     void SetBusyPointer(bool busy) override { Busy += busy ? 1 : -1; }
+    void HideTips() override { ++HiddenTips; }
+    void SlideBrushPanel() override { ++BrushPanelSlides; }
+    void ShowLayerMenu(float x, float y) override { LayerMenus.push_back({x, y}); }
     void StartZoomAnimation() override { ++Animations; }
     void ShowMessage(const std::string& text) override { Messages.push_back(text); }
     void ShowStatus(const std::string& text) override { Statuses.push_back(text); }
@@ -50,6 +60,14 @@ public:
         OfferedCounts.push_back(offered.size());
         return IconEntry;
     }
+    std::optional<graphics::Argb> AskColor(graphics::Argb) override { return Color; }
+    void SetClipboard(const graphics::Bitmap& picture, const std::string& text) override {
+        Clipboard = picture;
+        ClipboardMark = text;
+    }
+    bool ClipboardHasPicture() override { return !Clipboard.IsEmpty(); }
+    graphics::Bitmap ClipboardPicture() override { return Clipboard; }
+    std::string ClipboardText() override { return ClipboardMark; }
     bool Confirm(const std::string& text, const std::string& title) override {
         Questions.push_back(title + ": " + text);
         return ConfirmAnswer;

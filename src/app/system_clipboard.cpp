@@ -1,0 +1,43 @@
+#include "app/system_clipboard.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QImage>
+#include <QMimeData>
+#include <algorithm>
+
+namespace orbelle::app {
+
+void SetSystemClipboard(const graphics::Bitmap& picture, const std::string& text) {
+    auto* data = new QMimeData;
+    // The copy outlives the bitmap, whose pixels the image would only borrow.
+    data->setImageData(QImage(reinterpret_cast<const uchar*>(picture.Pixels()), picture.Width(),
+                              picture.Height(), picture.Width() * qsizetype{4},
+                              QImage::Format_ARGB32)
+                           .copy());
+    data->setText(QString::fromStdString(text));
+    QGuiApplication::clipboard()->setMimeData(data);
+}
+
+bool SystemClipboardHasPicture() {
+    const QMimeData* data = QGuiApplication::clipboard()->mimeData();
+    return data && data->hasImage();
+}
+
+graphics::Bitmap SystemClipboardPicture() {
+    const QImage image =
+        QGuiApplication::clipboard()->image().convertToFormat(QImage::Format_ARGB32);
+    if (image.isNull())
+        return {};
+    graphics::Bitmap picture(image.width(), image.height());
+    for (int y = 0; y < picture.Height(); ++y)
+        std::copy_n(reinterpret_cast<const graphics::Argb*>(image.constScanLine(y)),
+                    picture.Width(), picture.MutableRow(y));
+    return picture;
+}
+
+std::string SystemClipboardText() {
+    return QGuiApplication::clipboard()->text().toStdString();
+}
+
+}  // namespace orbelle::app

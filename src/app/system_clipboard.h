@@ -1,0 +1,16 @@
+// The system's clipboard: one picture and a text beside it.
+#pragma once
+
+#include <string>
+
+#include "graphics/bitmap.h"
+
+namespace orbelle::app {
+
+void SetSystemClipboard(const graphics::Bitmap& picture, const std::string& text);
+bool SystemClipboardHasPicture();
+// Empty: none that can be read, or one too large for a bitmap.
+graphics::Bitmap SystemClipboardPicture();
+std::string SystemClipboardText();
+
+}  // namespace orbelle::app

@@ -1,0 +1,31 @@
+// Cut, copy and paste, and what becomes of a selection. Each does nothing without a selected layer
+// unless said otherwise.
+#pragma once
+
+#include "editing/editor.h"
+
+namespace orbelle::editing {
+
+// The text that marks the clipboard's content as the program's own.
+inline constexpr char kClipboardMark[] = "Orbelle";
+
+// The selected pixels, or the whole layer, into ClipboardLayer and onto the clipboard.
+void CopyToClipboard(Editor& editor);
+
+// Copies, then deletes the selection or the layer.
+void CutToClipboard(Editor& editor);
+
+// An undo step, then a new layer above the selected one (on top when none is selected): what was
+// copied, at its place on the page, or another program's picture at the page's corner, opaque.
+// Nothing is added when the clipboard holds no picture.
+void PasteFromClipboard(Editor& editor);
+
+// Cuts the selected pixels out of the layer and ends the selection.
+void DeleteSelection(Editor& editor);
+
+// Cuts the selected pixels into a new layer above the selected one, or on top and out of the top
+// layer when none is selected; the selection ends. Deliberately two undo steps. Needs a selection
+// and a layer. Throws document::HistoryLimit with nothing changed.
+void FloatSelection(Editor& editor);
+
+}  // namespace orbelle::editing

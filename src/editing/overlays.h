@@ -1,0 +1,27 @@
+// Outlines that the host draws over the scene; they are no part of the page.
+#pragma once
+
+#include "graphics/geometry.h"
+
+namespace orbelle::editing {
+
+// All in scene pixels.
+struct OverlayShape {
+    bool Visible = false;
+    bool IsOval = false;
+    graphics::RectF Rect;
+};
+
+struct OverlayLine {
+    bool Visible = false;
+    graphics::PointF Start;
+    graphics::PointF End;
+};
+
+struct Overlays {
+    OverlayShape Shape2;         // the page pixel under the pointer, or the brush
+    OverlayLine Line2;           // from the last point of an open polygon to the pointer
+    OverlayShape SelectedShape;  // the frame of a selection being dragged
+};
+
+}  // namespace orbelle::editing
