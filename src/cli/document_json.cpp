@@ -51,6 +51,8 @@ std::string DescribeDocument(const editing::Editor& editor) {
     Json layers = Json::array();
     for (const document::IconLayer& layer : document.Layers)
         layers.push_back(Layer(layer));
+    const Json selection =
+        editor.Filters.SelectionOK() ? Rect(editor.Filters.CropRegion.Bounds()) : Json();
     const Json json = {{"page",
                         {{"width", document.PageWidth},
                          {"height", document.PageHeight},
@@ -60,7 +62,7 @@ std::string DescribeDocument(const editing::Editor& editor) {
                        {"selected", document.SelectedLayer},
                        {"undo", editor.History.UndoIndex()},
                        {"redo", editor.History.RedoCount()},
-                       {"selection", nullptr},
+                       {"selection", selection},
                        {"layers", std::move(layers)}};
     // A path need not be text.
     return json.dump(-1, ' ', false, Json::error_handler_t::replace);

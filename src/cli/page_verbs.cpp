@@ -1,4 +1,4 @@
-// The page, the view on it, and the colours in use.
+// The page and the view on it.
 #include "cli/verb_table.h"
 #include "editing/page_commands.h"
 
@@ -37,18 +37,9 @@ Action ReadZoom(Words& words) {
     };
 }
 
-template <int kWell>
-Action ReadWell(Words& words) {
-    return [color = words.Color("COLOUR")](Workspace& workspace) {
-        workspace.Editor.Colors[kWell] = color;
-    };
-}
-
 constexpr Verb kVerbs[] = {
     {"page", "W H", "the page-size sliders", ReadPage},
     {"background", "COLOUR|none", "the page background: #RRGGBB or #AARRGGBB", ReadBackground},
-    {"foreground", "COLOUR", "the foreground colour: #RRGGBB or #AARRGGBB", ReadWell<0>},
-    {"background-colour", "COLOUR", "the background colour", ReadWell<1>},
     {"zoom", "Z", "the view's zoom, above 0 up to 20; 1 if not said", ReadZoom},
 };
 

@@ -1,6 +1,5 @@
 // What tells about the document: text on the output, and pictures as they stand in memory.
 #include <algorithm>
-#include <utility>
 
 #include "cli/document_json.h"
 #include "cli/verb_table.h"
@@ -51,6 +50,16 @@ Action ReadRegion(Words& words) {
     };
 }
 
+Action ReadSelection(Words&) {
+    return [](Workspace& workspace) {
+        RequireDocument(workspace);
+        const filters::ClsFilters& selection = workspace.Editor.Filters;
+        if (selection.SelectionOK())
+            PrintRuns(workspace.Output, selection.CropRegion.Rects());
+        CheckOutput(workspace);
+    };
+}
+
 Action ReadWriteLayer(Words& words) {
     const int layer = words.Integer("N", 0);
     return [layer, path = words.Path("PATH")](Workspace& workspace) {
@@ -72,12 +81,8 @@ Action ReadWriteScene(Words& words) {
     return [path = words.Path("PATH")](Workspace& workspace) {
         RequireDocument(workspace);
         editing::Editor& editor = workspace.Editor;
-        // A view as it is made has the window's scene and its scroll bars in the middle.
-        const document::View before = std::exchange(editor.View, {});
-        editor.View.Zoom = workspace.Zoom;
-        editor.View.ViewActive = true;
+        const WindowView view(workspace);
         editing::DrawScene(editor);
-        editor.View = before;
         WritePng(editor.Scene, path);
     };
 }
@@ -85,6 +90,7 @@ Action ReadWriteScene(Words& words) {
 constexpr Verb kVerbs[] = {
     {"info", "", "print the document as one JSON object on one line", ReadInfo},
     {"region", "N", "print layer N's region: a line 'y x0 x1' for each run of pixels", ReadRegion},
+    {"selection", "", "print the selection's region in the same form", ReadSelection},
     {"write-layer", "N PATH", "write layer N's own pixels as a PNG", ReadWriteLayer},
     {"write-page", "PATH", "write the composed page as a PNG", ReadWritePage},
     {"write-scene", "PATH", "write the scene as the window shows it, 1024 by 768, as a PNG",

@@ -26,6 +26,8 @@ struct Verb {
 std::span<const Verb> FileVerbs();
 std::span<const Verb> PageVerbs();
 std::span<const Verb> LayerVerbs();
+std::span<const Verb> ToolVerbs();
+std::span<const Verb> PointerVerbs();
 std::span<const Verb> ReportVerbs();
 
 // Null when there is none of that name.

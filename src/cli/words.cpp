@@ -44,6 +44,10 @@ std::string JoinWords(std::span<const std::string> words) {
     return line;
 }
 
+bool Words::IsNumberNext() const {
+    return !IsAtEnd() && LooksLikeNumber(Next());
+}
+
 const std::string& Words::Text(const char* name) {
     if (IsAtEnd())
         throw UsageError(std::string(name) + " is missing");
@@ -64,7 +68,7 @@ int Words::Integer(const char* name, int least, int most) {
 
 std::vector<int> Words::Integers(const char* name, int least, int most, std::size_t maxCount) {
     std::vector<int> values{Integer(name, least, most)};
-    while (!IsAtEnd() && LooksLikeNumber(Next())) {
+    while (IsNumberNext()) {
         if (values.size() == maxCount)
             throw UsageError("more than " + std::to_string(maxCount) + " numbers");
         values.push_back(Integer(name, least, most));

@@ -30,6 +30,8 @@ public:
     bool IsAtEnd() const { return taken_ == words_.size(); }
     // Only before the end.
     const std::string& Next() const { return words_[taken_]; }
+    // The next word is one that a list of numbers goes on with.
+    bool IsNumberNext() const;
     std::size_t Taken() const { return taken_; }
 
     // The next word as it stands.

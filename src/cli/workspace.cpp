@@ -40,6 +40,14 @@ Workspace::Workspace(std::ostream& output) : Output(output) {
     Editor.View.SceneHeight = 1;
 }
 
+WindowView::WindowView(Workspace& workspace)
+    : editor_(workspace.Editor), before_(workspace.Editor.View) {
+    // A view as it is made has the window's scene and its scroll bars in the middle.
+    editor_.View = {};
+    editor_.View.Zoom = workspace.Zoom;
+    editor_.View.ViewActive = true;
+}
+
 void RequireDocument(const Workspace& workspace) {
     if (!workspace.Editor.DocumentExists)
         throw Failure("there is no document");

@@ -59,6 +59,20 @@ struct Workspace {
     std::ostream& Output;  // for what verbs print
 };
 
+// While it lives the editor has the view of a window: a scene of 1024 by 768 with the page in its
+// middle, at the run's zoom.
+class WindowView {
+public:
+    explicit WindowView(Workspace& workspace);
+    ~WindowView() { editor_.View = before_; }
+    WindowView(const WindowView&) = delete;
+    WindowView& operator=(const WindowView&) = delete;
+
+private:
+    editing::Editor& editor_;
+    document::View before_;
+};
+
 // These throw Failure when there is no such thing.
 void RequireDocument(const Workspace& workspace);
 void RequireSelectedLayer(const Workspace& workspace);

@@ -36,6 +36,20 @@ void DrawChecker(Bitmap& scene, const RectF& rect) {
     }
 }
 
+struct PagePlace {
+    float Left = 0;  // scene pixels
+    float Top = 0;
+    int Width = 0;
+    int Height = 0;
+};
+
+PagePlace PlaceOnScene(const Bitmap& canvas, const View& view) {
+    const int width = static_cast<int>(canvas.Width() * view.Zoom);
+    const int height = static_cast<int>(canvas.Height() * view.Zoom);
+    return {static_cast<float>((view.SceneWidth - width) * ScrollRatio(view.Hs1)),
+            static_cast<float>((view.SceneHeight - height) * ScrollRatio(view.Vs1)), width, height};
+}
+
 void DrawPageBackground(Bitmap& scene, Argb background, const RectF& page, float halfZoom) {
     DrawingContext context(scene);
     if (background != 0)
@@ -61,10 +75,7 @@ void DrawScene(Bitmap& scene, const Bitmap& canvas, const Document& document, co
     context.SetInterpolationMode(InterpolationMode::NearestNeighbor);
     context.Clear(kSceneColor);
 
-    const int width = static_cast<int>(canvas.Width() * view.Zoom);
-    const int height = static_cast<int>(canvas.Height() * view.Zoom);
-    const auto left = static_cast<float>((view.SceneWidth - width) * ScrollRatio(view.Hs1));
-    const auto top = static_cast<float>((view.SceneHeight - height) * ScrollRatio(view.Vs1));
+    const auto [left, top, width, height] = PlaceOnScene(canvas, view);
     const auto pageWidth = static_cast<float>(width);
     const auto pageHeight = static_cast<float>(height);
 
@@ -75,10 +86,14 @@ void DrawScene(Bitmap& scene, const Bitmap& canvas, const Document& document, co
     context.DrawRectangle({SolidBrush{kPageFrame}, 1}, {left, top, pageWidth + 1, pageHeight + 1});
 
     context.SetPixelOffsetMode(PixelOffsetMode::HighQuality);
-    context.DrawImageRectRectI(canvas,
-                               {static_cast<int>(left), static_cast<int>(top), width, height},
+    context.DrawImageRectRectI(canvas, PageOnScene(canvas, view),
                                {0, 0, canvas.Width(), canvas.Height()});
     selection.DrawCropRegion(context, {left, top, pageWidth, pageHeight}, {}, view.Zoom);
+}
+
+RectI PageOnScene(const Bitmap& canvas, const View& view) {
+    const PagePlace page = PlaceOnScene(canvas, view);
+    return {static_cast<int>(page.Left), static_cast<int>(page.Top), page.Width, page.Height};
 }
 
 std::optional<RectI> ObjectFrame(const Document& document, const View& view) {

@@ -20,6 +20,9 @@ inline constexpr graphics::Argb kSceneColor = graphics::MakeARGB(255, 110, 110, 
 void DrawScene(graphics::Bitmap& scene, const graphics::Bitmap& canvas, const Document& document,
                const View& view, filters::ClsFilters& selection);
 
+// Where the composed page lies on the scene, scene pixels; its corner truncated to whole ones.
+graphics::RectI PageOnScene(const graphics::Bitmap& canvas, const View& view);
+
 // Where the outline around the selected layer stands, in scene pixels: two pixels outside the layer
 // on every side. None when no visible layer is selected.
 std::optional<graphics::RectI> ObjectFrame(const Document& document, const View& view);

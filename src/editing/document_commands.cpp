@@ -8,6 +8,7 @@
 #include "editing/command_frame.h"
 #include "editing/layer_commands.h"
 #include "editing/tips.h"
+#include "editing/tools/polygon.h"
 #include "editing/undo_commands.h"
 #include "editing/view_commands.h"
 #include "formats/icon_reader.h"
@@ -68,6 +69,8 @@ void ClearStack(Editor& editor) {
     controls.m_Blur.Enabled = false;
     controls.m_Sharpen.Enabled = false;
     editor.Filters.ClearCrop();
+    DropPolygon(editor);
+    editor.Overlays = {};
 }
 
 void ShowPageSize(Editor& editor) {

@@ -36,6 +36,7 @@ void AddLayerCommand(Editor& editor) {
 }
 
 void SelectLayer(Editor& editor, int index) {
+    AbandonDrag(editor);
     if (index != editor.Document.SelectedLayer)
         SetAdjustSliders(editor, 0, 50, 40, 50);
     editor.Document.SelectedLayer = index;

@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "document/scene_painter.h"
+#include "editing/tools/polygon.h"
 #include "graphics/geometry.h"
 
 namespace orbelle::editing {
@@ -96,8 +97,13 @@ void Compose(Editor& editor) {
 }
 
 void DrawScene(Editor& editor) {
+    // While a polygon is open its outline is shown in place of the selection.
+    const bool polygonOpen = !editor.PolygonPoints.empty();
+    filters::ClsFilters nothingSelected;
     document::DrawScene(editor.Scene, editor.Canvas.new_Img, editor.Document, editor.View,
-                        editor.Filters);
+                        polygonOpen ? nothingSelected : editor.Filters);
+    if (polygonOpen)
+        DrawOpenPolygon(editor);
     editor.Host.SceneChanged();
 }
 

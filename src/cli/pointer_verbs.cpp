@@ -1,0 +1,93 @@
+// The pointer and the keys on the scene.
+#include "cli/verb_table.h"
+#include "document/view.h"
+#include "editing/scene_input.h"
+#include "editing/tools/object_keys.h"
+
+namespace orbelle::cli {
+namespace {
+
+constexpr int kLeftButton = 1;
+constexpr int kRightButton = 2;
+constexpr int kShift = 1;
+
+constexpr std::string_view kKeys[] = {"left", "right", "up", "down", "delete"};
+constexpr int kKeyCodes[] = {
+    editing::key_codes::Left, editing::key_codes::Right,  editing::key_codes::Up,
+    editing::key_codes::Down, editing::key_codes::Delete,
+};
+
+struct PagePixel {
+    int X = 0;
+    int Y = 0;
+};
+
+PagePixel ReadPixel(Words& words) {
+    const int x = words.Integer("X");
+    return {x, words.Integer("Y")};
+}
+
+// The pointer on the middle of a page pixel.
+editing::Pointer At(const editing::Editor& editor, PagePixel pixel, int button, int shift) {
+    const document::View& view = editor.View;
+    const auto scene = [&view](double pageOffset, int place) {
+        return static_cast<float>(pageOffset + (place + 0.5) * view.Zoom);
+    };
+    return {button, shift, scene(document::PageOffsetX(editor.Document, view), pixel.X),
+            scene(document::PageOffsetY(editor.Document, view), pixel.Y)};
+}
+
+// The pointer goes to the first pixel, is pressed there, passes the others and is released on the
+// last one.
+void Gesture(Workspace& workspace, std::span<const PagePixel> pixels, int button, int shift) {
+    RequireDocument(workspace);
+    const WindowView view(workspace);
+    editing::Editor& editor = workspace.Editor;
+    const auto at = [&](PagePixel pixel) { return At(editor, pixel, button, shift); };
+    MoveScene(editor, at(pixels.front()));
+    PressScene(editor, at(pixels.front()));
+    for (const PagePixel& pixel : pixels.subspan(1))
+        MoveScene(editor, at(pixel));
+    ReleaseScene(editor, at(pixels.back()));
+}
+
+template <int kShiftState>
+Action ReadDrag(Words& words) {
+    std::vector<PagePixel> pixels;
+    do
+        pixels.push_back(ReadPixel(words));
+    while (words.IsNumberNext() || pixels.size() < 2);
+    return [pixels](Workspace& workspace) { Gesture(workspace, pixels, kLeftButton, kShiftState); };
+}
+
+template <int kButton, int kShiftState>
+Action ReadClick(Words& words) {
+    return [pixel = ReadPixel(words)](Workspace& workspace) {
+        Gesture(workspace, {&pixel, 1}, kButton, kShiftState);
+    };
+}
+
+Action ReadKey(Words& words) {
+    return [key = kKeyCodes[words.Choice("KEY", kKeys)]](Workspace& workspace) {
+        RequireDocument(workspace);
+        const WindowView view(workspace);
+        KeyDownScene(workspace.Editor, key);
+    };
+}
+
+constexpr Verb kVerbs[] = {
+    {"drag", "X Y X Y...", "press, move and release over these page pixels", ReadDrag<0>},
+    {"shift-drag", "X Y X Y...", "the same with Shift held", ReadDrag<kShift>},
+    {"click", "X Y", "press and release on one page pixel", ReadClick<kLeftButton, 0>},
+    {"shift-click", "X Y", "the same with Shift held", ReadClick<kLeftButton, kShift>},
+    {"right-click", "X Y", "the same with the right button", ReadClick<kRightButton, 0>},
+    {"key", "KEY", "left right up down delete, pressed on the scene", ReadKey},
+};
+
+}  // namespace
+
+std::span<const Verb> PointerVerbs() {
+    return kVerbs;
+}
+
+}  // namespace orbelle::cli

@@ -1,0 +1,31 @@
+// The foreground and background colours, in wells 0 and 1, and the opacity of the one in use.
+#pragma once
+
+#include "editing/editor.h"
+
+namespace orbelle::editing {
+
+// A click: the well is in use.
+void UseColorWell(Editor& editor, int well);
+
+// A double click: the colour dialog, then the well is in use either way. The opacity slider gives
+// the new colour's alpha.
+void AskWellColor(Editor& editor, int well);
+
+// Puts a colour with its alpha into a well.
+void SetWellColor(Editor& editor, int well, graphics::Argb color);
+
+// ColorOpacity, 0 to 100: 2.55 of alpha for each, ties to even, for the colour in use.
+void ChangeColorOpacity(Editor& editor, int value);
+
+// The wells change colours; the same well stays in use.
+void ExchangeColor(Editor& editor);
+
+// The colour in use becomes that of the page, as composed and without its background, under a scene
+// point; transparent beside the page. Nothing happens outside the scene.
+void PickColor(Editor& editor, float x, float y);
+
+// ColorOpacity shows the alpha of the colour in use.
+void ShowColorOpacity(Editor& editor);
+
+}  // namespace orbelle::editing

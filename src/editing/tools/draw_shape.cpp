@@ -1,0 +1,121 @@
+#include "editing/tools/draw_shape.h"
+
+#include <algorithm>
+#include <optional>
+
+#include "editing/scene_mapping.h"
+#include "graphics/drawing_context.h"
+
+namespace orbelle::editing {
+
+using namespace graphics;
+
+namespace {
+
+// All in layer pixels. The shape lies one pixel to the upper left of the points it is dragged
+// between and is one pixel larger than their distance and the pixel under the pointer ask for.
+struct ShapeBox {
+    PointF Start;
+    PointF End;
+    PointF Anchor;  // one pixel to the upper left of Start
+    float Left = 0;
+    float Top = 0;
+    float Width = 0;
+    float Height = 0;
+};
+
+ShapeBox BoxBetween(PointF start, PointF end, bool square) {
+    ShapeBox box{start, end, {start.X - 1, start.Y - 1}};
+    box.Left = std::min(start.X, end.X) - 1;
+    box.Top = std::min(start.Y, end.Y) - 1;
+    box.Width = std::max(start.X, end.X) - 1 - box.Left + 2;
+    box.Height = std::max(start.Y, end.Y) - 1 - box.Top + 2;
+    if (square)
+        box.Width = box.Height = std::max(box.Width, box.Height);
+    return box;
+}
+
+bool IsRectangle(Tool tool) {
+    return tool == Tool::Rectangle || tool == Tool::FilledRectangle;
+}
+
+std::optional<Brush> RadialBrush(const ShapeBox& box, Tool tool, Argb centre, Argb surround) {
+    const float width = box.Width - 2, height = box.Height - 2;
+    Path outline(FillMode::Winding);
+    if (tool == Tool::Line) {
+        const float side = std::max(width, height);
+        outline.AddRectangle({box.Left, box.Top, side, side});
+    } else if (IsRectangle(tool)) {
+        outline.AddRectangle({box.Anchor.X, box.Anchor.Y, width, height});
+    } else {
+        outline.AddEllipse({box.Left, box.Top, width, height});
+    }
+    const auto half = [](float side) { return static_cast<float>(RoundToEven(side) / 2); };
+    return CreatePathGradientFromPath(
+        outline, centre, {box.Anchor.X + half(width), box.Anchor.Y + half(height)}, surround);
+}
+
+// The gradients begin at the press and run from the foreground to the background colour, whichever
+// is in use.
+std::optional<Brush> MakeBrush(const Editor& editor, const ShapeBox& box) {
+    const Argb foreground = editor.Colors[0], background = editor.Colors[1];
+    const auto linear = [&](RectF rect, LinearGradientMode mode, WrapMode wrap) {
+        return CreateLineBrushFromRect(rect, foreground, background, mode, wrap);
+    };
+    const PointF anchor = box.Anchor;
+    switch (editor.CurrentTool == Tool::Pencil ? FillKind::Solid : editor.FillKind) {
+        case FillKind::Solid:
+            break;
+        case FillKind::HorizontalGradient:
+            return linear({anchor.X, anchor.Y, box.Width - 2, box.Height},
+                          LinearGradientMode::Horizontal, WrapMode::TileFlipX);
+        case FillKind::VerticalGradient:
+            return linear({anchor.X, anchor.Y, box.Width, box.Height - 2},
+                          LinearGradientMode::Vertical, WrapMode::TileFlipXY);
+        case FillKind::RadialGradient:
+            return RadialBrush(box, editor.CurrentTool, foreground, background);
+    }
+    return SolidBrush{editor.ActiveColor == 0 ? foreground : background};
+}
+
+}  // namespace
+
+void DrawShape(const Editor& editor, Bitmap& image, const Pointer& pointer,
+               SmoothingMode smoothing) {
+    const Tool tool = editor.CurrentTool;
+    const SceneMapping mapping = MappingOf(editor);
+    const RectF& layer = editor.Document.Selected().Rect;
+    const ShapeBox box =
+        BoxBetween(ScreenToLayer(mapping, layer, editor.MouseDownX, editor.MouseDownY),
+                   ScreenToLayer(mapping, layer, pointer.X, pointer.Y), pointer.IsShiftAlone());
+    const std::optional<Brush> brush = MakeBrush(editor, box);
+    if (!brush)
+        return;
+
+    DrawingContext context(image);
+    if (!IsRectangle(tool))
+        context.SetSmoothingMode(smoothing);
+    const float penWidth =
+        tool == Tool::Pencil ? 1 : static_cast<float>(editor.Controls.LineWidth.Value);
+    const Pen pen{*brush, penWidth};
+    const RectF whole{box.Left, box.Top, box.Width, box.Height};
+    const RectF outline{box.Left, box.Top, box.Width - 1, box.Height - 1};
+    switch (tool) {
+        case Tool::Pencil:
+            return context.DrawLines(pen, editor.PencilPoints);
+        case Tool::Line:
+            return context.DrawLine(pen, box.Start, box.End);
+        case Tool::Rectangle:
+            return context.DrawRectangle(pen, outline);
+        case Tool::Ellipse:
+            return context.DrawEllipse(pen, outline);
+        case Tool::FilledRectangle:
+            return context.FillRectangle(*brush, whole);
+        case Tool::FilledEllipse:
+            return context.FillEllipse(*brush, whole);
+        default:
+            return;
+    }
+}
+
+}  // namespace orbelle::editing

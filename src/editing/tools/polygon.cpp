@@ -1,0 +1,51 @@
+#include "editing/tools/polygon.h"
+
+#include "editing/scene_mapping.h"
+#include "editing/view_commands.h"
+#include "graphics/drawing_context.h"
+
+namespace orbelle::editing {
+
+using graphics::PointF;
+
+namespace {
+
+PointF OnScene(const SceneMapping& mapping, PointF page) {
+    return {static_cast<float>(page.X * mapping.Zoom + mapping.PageOffsetX),
+            static_cast<float>(page.Y * mapping.Zoom + mapping.PageOffsetY)};
+}
+
+}  // namespace
+
+void StretchRubberBand(Editor& editor, const Pointer& pointer) {
+    if (editor.PolygonPoints.empty())
+        return;
+    editor.Overlays.Line2 = {
+        true, OnScene(MappingOf(editor), editor.PolygonPoints.back()), {pointer.X, pointer.Y}};
+}
+
+void ClosePolygon(Editor& editor) {
+    if (!editor.PolygonPoints.empty()) {
+        editor.PolygonPoints.push_back(editor.PolygonPoints.front());
+        editor.Filters.AddPolygonToCrop(editor.PolygonPoints);
+    }
+    DropPolygon(editor);
+    DrawScene(editor);
+}
+
+void DropPolygon(Editor& editor) {
+    editor.PolygonPoints.clear();
+    editor.Overlays.Line2.Visible = false;
+}
+
+void DrawOpenPolygon(Editor& editor) {
+    constexpr graphics::Argb kOutline = graphics::MakeARGB(255, 0, 0, 0);
+    const SceneMapping mapping = MappingOf(editor);
+    std::vector<PointF> outline;
+    for (const PointF& point : editor.PolygonPoints)
+        outline.push_back(OnScene(mapping, point));
+    graphics::DrawingContext(editor.Scene)
+        .DrawPolygon({graphics::SolidBrush{kOutline}, 1}, outline);
+}
+
+}  // namespace orbelle::editing
