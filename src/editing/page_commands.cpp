@@ -33,4 +33,11 @@ void SetPageBackground(Editor& editor, graphics::Argb color) {
     editor.Host.LayerPanelChanged();
 }
 
+void AskPageBackground(Editor& editor) {
+    if (!editor.DocumentExists)
+        return;
+    if (const auto color = editor.Host.AskColor(editor.Document.PageBackground))
+        SetPageBackground(editor, graphics::SetAlphaByte(*color, 255));
+}
+
 }  // namespace orbelle::editing

@@ -13,4 +13,7 @@ void ChangePageHeight(Editor& editor, int value);
 // 0: transparent.
 void SetPageBackground(Editor& editor, graphics::Argb color);
 
+// A click on the page's colour well: the colour dialog, then the chosen colour, opaque.
+void AskPageBackground(Editor& editor);
+
 }  // namespace orbelle::editing

@@ -32,6 +32,8 @@ bool CanMap(const Editor& editor) {
 void PressLeft(Editor& editor, const Pointer& pointer) {
     if (editor.Document.LayerCount() == 0 || !CanMap(editor))
         return;
+    // A release can get lost, as when a menu opens in between.
+    AbandonDrag(editor);
     HandlersOf(editor.CurrentTool).Press(editor, pointer);
     EnableLayerSliders(editor);
     editor.TipCounter = kCloseTips;

@@ -1,12 +1,11 @@
-// Steps that follow the hand: a slider's change with filter, composition and scene.
-#include <benchmark/benchmark.h>
+// An editor with a full page, for benchmarks of what follows the hand.
+#pragma once
 
 #include "bench_pictures.h"
-#include "editing/adjust_sliders.h"
+#include "editing/editor.h"
 #include "editing/view_commands.h"
 
 namespace orbelle::bench {
-namespace {
 
 class SilentHost : public editing::EditorHost {
 public:
@@ -27,11 +26,11 @@ public:
     bool Confirm(const std::string&, const std::string&) override { return true; }
 };
 
-// Ten layers of 512 x 512 on a page of that size, in a scene of 1600 x 1000 at zoom 1, the layer
+// Layers of 512 x 512 on a page of that size, in a scene of 1600 x 1000 at zoom 1, the layer
 // `selected` selected.
-struct TenLayers {
-    explicit TenLayers(int selected) {
-        editor.Document = MakeDocument(Content::Icon, 512, 10);
+struct EditorPage {
+    EditorPage(int layers, int selected) {
+        editor.Document = MakeDocument(Content::Icon, 512, layers);
         editor.Document.SelectedLayer = selected;
         editor.DocumentExists = true;
         editor.View.ViewActive = true;
@@ -45,37 +44,4 @@ struct TenLayers {
     editing::Editor editor{host};
 };
 
-void AdjustmentStep(benchmark::State& state) {
-    TenLayers page(static_cast<int>(state.range(1)));
-    const auto adjustment = static_cast<editing::Adjustment>(state.range(0));
-    editing::PressAdjustment(page.editor);
-    int position = 0;
-    for (auto _ : state)
-        editing::ChangeAdjustment(page.editor, adjustment, position = (position + 7) % 101);
-    editing::ReleaseAdjustment(page.editor, adjustment);
-}
-BENCHMARK(AdjustmentStep)
-    ->ArgsProduct({{0, 1, 2, 3}, {0, 5, 9}})
-    ->ArgNames({"adjustment", "layer"})
-    ->Unit(benchmark::kMicrosecond);
-
-void OpacityStep(benchmark::State& state) {
-    TenLayers page(5);
-    int position = 0;
-    for (auto _ : state)
-        editing::ChangeOpacity(page.editor, position = (position + 7) % 101);
-}
-BENCHMARK(OpacityStep)->Unit(benchmark::kMicrosecond);
-
-void ScaleStep(benchmark::State& state) {
-    TenLayers page(5);
-    editing::PressScale(page.editor);
-    int position = 0;
-    for (auto _ : state)
-        editing::ChangeScale(page.editor, position = (position + 7) % 101);
-    editing::ReleaseScale(page.editor);
-}
-BENCHMARK(ScaleStep)->Unit(benchmark::kMicrosecond);
-
-}  // namespace
 }  // namespace orbelle::bench
