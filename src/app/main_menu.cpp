@@ -4,8 +4,10 @@
 #include <functional>
 
 #include "app/mform.h"
+#include "editing/clipboard_commands.h"
 #include "editing/document_commands.h"
 #include "editing/export_commands.h"
+#include "editing/stack_commands.h"
 #include "editing/style_commands.h"
 #include "editing/undo_commands.h"
 #include "formats/export_image.h"
@@ -82,30 +84,54 @@ std::vector<Entry> ImageEntries() {
 }
 
 std::vector<Entry> EditEntries() {
+    using editing::FlipRotate;
+    using editing::LayerOrder;
+    using Shortcuts = QList<QKeySequence>;
+    using State = editing::MenuEntry Controls::*;
+    const auto entry = [](const char* name, const char* caption, const Shortcuts& shortcuts,
+                          void (*command)(editing::Editor&), State state) {
+        return Entry{name, caption, shortcuts, Edit(command), state};
+    };
+    const auto turn = [](const char* name, const char* caption, FlipRotate mode, State state) {
+        return Entry{name,
+                     caption,
+                     {},
+                     Edit([mode](editing::Editor& editor) { FlipRotateLayer(editor, mode); }),
+                     state};
+    };
+    const auto move = [](const char* name, const char* caption, const Shortcuts& shortcuts,
+                         LayerOrder order, State state) {
+        return Entry{name, caption, shortcuts,
+                     Edit([order](editing::Editor& editor) { SetLayerOrder(editor, order); }),
+                     state};
+    };
     return {
-        {"m_Undo", "&Undo", {Qt::CTRL | Qt::Key_Z}, Edit(editing::Undo), &Controls::m_Undo},
-        {"m_Redo",
-         "&Redo",
-         {Qt::CTRL | Qt::Key_Y, Qt::CTRL | Qt::SHIFT | Qt::Key_Z},
-         Edit(editing::Redo),
-         &Controls::m_Redo},
+        entry("m_Undo", "&Undo", {Qt::CTRL | Qt::Key_Z}, editing::Undo, &Controls::m_Undo),
+        entry("m_Redo", "&Redo", {Qt::CTRL | Qt::Key_Y, Qt::CTRL | Qt::SHIFT | Qt::Key_Z},
+              editing::Redo, &Controls::m_Redo),
         {},
-        {"m_Cut", "Cu&t"},
-        {"m_Copy", "&Copy"},
-        {"m_Paste", "&Paste"},
-        {"m_Del", "&Delete"},
+        entry("m_Cut", "Cu&t", {Qt::CTRL | Qt::Key_X}, editing::CutToClipboard, &Controls::m_Cut),
+        entry("m_Copy", "&Copy", {Qt::CTRL | Qt::Key_C}, editing::CopyToClipboard,
+              &Controls::m_Copy),
+        entry("m_Paste", "&Paste", {Qt::CTRL | Qt::Key_V}, editing::PasteFromClipboard,
+              &Controls::m_Paste),
+        entry("m_Del", "&Delete", {}, editing::DeleteCommand, &Controls::m_Del),
         {},
-        {"menu_Merge", "&Merge Down"},
+        entry("menu_Merge", "&Merge Down", {}, editing::CombineIcon, &Controls::menu_Merge),
         {},
-        {"menu_FlipH", "Flip &Horizontal"},
-        {"menu_FlipV", "Flip &Veritcal"},
-        {"m_90CW", "Rotate &90 CW"},
-        {"m_90CWW", "Rotate 90 CW&W"},
+        turn("menu_FlipH", "Flip &Horizontal", FlipRotate::FlipH, &Controls::menu_FlipH),
+        turn("menu_FlipV", "Flip &Veritcal", FlipRotate::FlipV, &Controls::menu_FlipV),
+        turn("m_90CW", "Rotate &90 CW", FlipRotate::Rotate90CW, &Controls::m_90CW),
+        turn("m_90CWW", "Rotate 90 CW&W", FlipRotate::Rotate90CWW, &Controls::m_90CWW),
         {},
-        {"m_BackOne", "&Back One"},
-        {"m_FowardOne", "&Foward One"},
-        {"m_ToBack", "To Bac&k"},
-        {"m_ToFront", "To Fro&nt"},
+        move("m_BackOne", "&Back One", {Qt::CTRL | Qt::Key_BracketLeft}, LayerOrder::BackOne,
+             &Controls::m_BackOne),
+        move("m_FowardOne", "&Foward One", {Qt::CTRL | Qt::Key_BracketRight}, LayerOrder::FowardOne,
+             &Controls::m_FowardOne),
+        move("m_ToBack", "To Bac&k", {Qt::CTRL | Qt::SHIFT | Qt::Key_BracketLeft},
+             LayerOrder::ToBack, &Controls::m_ToBack),
+        move("m_ToFront", "To Fro&nt", {Qt::CTRL | Qt::SHIFT | Qt::Key_BracketRight},
+             LayerOrder::ToFront, &Controls::m_ToFront),
     };
 }
 

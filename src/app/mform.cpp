@@ -177,6 +177,7 @@ void mForm::SceneChanged() {
 // The shortcuts of entries work without their menu ever having been opened.
 void mForm::ControlsChanged() {
     OpenFileMenu(editor_);
+    OpenEditMenu(editor_);
     OpenStyleMenu(editor_);
     menu_->ShowStates(editor_.Controls);
 }

@@ -5,23 +5,33 @@
 #include <QImage>
 #include <QMimeData>
 #include <algorithm>
+#include <optional>
 
 namespace orbelle::app {
 
 void SetSystemClipboard(const graphics::Bitmap& picture, const std::string& text) {
     auto* data = new QMimeData;
     // The copy outlives the bitmap, whose pixels the image would only borrow.
-    data->setImageData(QImage(reinterpret_cast<const uchar*>(picture.Pixels()), picture.Width(),
-                              picture.Height(), picture.Width() * qsizetype{4},
-                              QImage::Format_ARGB32)
-                           .copy());
+    if (!picture.IsEmpty())
+        data->setImageData(QImage(reinterpret_cast<const uchar*>(picture.Pixels()), picture.Width(),
+                                  picture.Height(), picture.Width() * qsizetype{4},
+                                  QImage::Format_ARGB32)
+                               .copy());
     data->setText(QString::fromStdString(text));
     QGuiApplication::clipboard()->setMimeData(data);
 }
 
+// Asked at every change of the controls, while the answer may take another program to give.
 bool SystemClipboardHasPicture() {
-    const QMimeData* data = QGuiApplication::clipboard()->mimeData();
-    return data && data->hasImage();
+    static std::optional<bool> remembered;
+    if (!remembered) {
+        const QClipboard* clipboard = QGuiApplication::clipboard();
+        const QMimeData* data = clipboard->mimeData();
+        remembered = data && data->hasImage();
+        static const QMetaObject::Connection forget = QObject::connect(
+            clipboard, &QClipboard::dataChanged, clipboard, [] { remembered.reset(); });
+    }
+    return *remembered;
 }
 
 graphics::Bitmap SystemClipboardPicture() {

@@ -7,7 +7,9 @@
 
 namespace orbelle::app {
 
+// An empty picture leaves only the text.
 void SetSystemClipboard(const graphics::Bitmap& picture, const std::string& text);
+// Cheap: remembered until the clipboard changes.
 bool SystemClipboardHasPicture();
 // Empty: none that can be read, or one too large for a bitmap.
 graphics::Bitmap SystemClipboardPicture();

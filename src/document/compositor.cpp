@@ -1,7 +1,6 @@
 #include "document/compositor.h"
 
 #include <algorithm>
-#include <cmath>
 
 #include "filters/round_shape.h"
 #include "graphics/drawing_context.h"
@@ -11,21 +10,6 @@ namespace orbelle::document {
 using graphics::Bitmap;
 using graphics::RectF;
 using graphics::RectI;
-
-namespace {
-
-// Toward zero; a document may hold any number.
-int Truncate(float value) {
-    if (!(std::abs(value) < 1e9F))
-        return value > 0 ? 1'000'000'000 : value < 0 ? -1'000'000'000 : 0;
-    return static_cast<int>(value);
-}
-
-RectI Truncate(const RectF& rect) {
-    return {Truncate(rect.X), Truncate(rect.Y), Truncate(rect.Width), Truncate(rect.Height)};
-}
-
-}  // namespace
 
 bool Compositor::Drawn::operator==(const Drawn& other) const {
     return Image.SharesPixelsWith(other.Image) && Opacity == other.Opacity &&
@@ -49,7 +33,7 @@ std::vector<Compositor::Drawn> Compositor::ListLayers(Document& document) {
         }
         drawn.push_back({layer.Image,
                          layer.Opacity,
-                         Truncate(layer.Rect),
+                         DrawnArea(layer.Rect),
                          {0, 0, layer.ImageWidth, layer.ImageHeight},
                          plates});
     }

@@ -31,6 +31,10 @@ struct IconLayer {
     bool ClipNextLayer = false;  // the layer above is cut to this one's plate when composed
 };
 
+// Where a picture with this place is drawn: every number cut toward zero, as far as 1e9 either way;
+// not-a-number gives 0. A document may hold any number.
+graphics::RectI DrawnArea(const graphics::RectF& rect);
+
 // Puts the four adjustment fields at their neutral places.
 void ResetLayerAdjust(IconLayer& layer);
 

@@ -4,11 +4,11 @@
 
 namespace orbelle::document {
 
-void UndoHistory::CheckRoom(const Document& document) const {
+void UndoHistory::CheckRoom(const Document& document, int snapshots) const {
     if (document.LayerCount() > kMaxSnapshotLayers)
         throw HistoryLimit("A document with more than " + std::to_string(kMaxSnapshotLayers) +
                            " layers can't be changed: the undo history holds no more.");
-    if (undoIndex_ >= kMaxSnapshots)
+    if (undoIndex_ + snapshots > kMaxSnapshots)
         throw HistoryLimit("The undo history is full after " + std::to_string(kMaxSnapshots) +
                            " changes. Save the document and open it again to go on.");
 }

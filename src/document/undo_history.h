@@ -25,8 +25,8 @@ public:
     int RedoCount() const { return redoCount_; }  // steps that can be redone
     int UndoCount() const { return undoCount_; }  // snapshots, those ahead of the cursor included
 
-    // Throws HistoryLimit when PushSnapshot would refuse this document.
-    void CheckRoom(const Document& document) const;
+    // Throws HistoryLimit when PushSnapshot would refuse this document, so often in a row.
+    void CheckRoom(const Document& document, int snapshots = 1) const;
 
     // Forgets everything ahead of the cursor.
     void TruncateRedo();

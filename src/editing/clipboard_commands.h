@@ -20,7 +20,11 @@ void CutToClipboard(Editor& editor);
 // Nothing is added when the clipboard holds no picture.
 void PasteFromClipboard(Editor& editor);
 
-// Cuts the selected pixels out of the layer and ends the selection.
+// Ends the selection, if there is one, and paints the scene without it.
+void EndSelection(Editor& editor);
+
+// Cuts the selected pixels out of the layer and ends the selection. Throws document::HistoryLimit
+// with nothing changed.
 void DeleteSelection(Editor& editor);
 
 // Cuts the selected pixels into a new layer above the selected one, or on top and out of the top

@@ -77,8 +77,8 @@ struct Editor {
 
     std::vector<graphics::PointF> PolygonPoints;  // of an open polygon, page pixels
 
-    // What the last Copy took, while the clipboard carries the product's mark.
-    document::IconLayer ClipboardLayer;
+    // What the last Copy took; it counts while the clipboard carries the product's mark.
+    std::optional<document::IconLayer> ClipboardLayer;
 
     // Between the press and the release of a slider: the picture or place that its steps start
     // from.

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "document/layer_slots.h"
+#include "editing/clipboard_commands.h"
 #include "editing/command_frame.h"
 #include "editing/undo_commands.h"
 #include "editing/view_commands.h"
@@ -14,10 +15,7 @@ void InsertEmptyLayer(Editor& editor, float width, float height) {
         document::OpenLayerSlot(editor.Document, document::SlotCopySize::Rect);
     document::MakeEmptyLayer(editor.Document, layer, width, height);
     editor.Host.LayerPanelChanged();
-    ShowLayerSliders(editor);
-    ShowLayerAdjust(editor, editor.Document.SelectedLayer);
-    EnableLayerSliders(editor);
-    UpdateLayerButtons(editor);
+    ShowSelectedLayer(editor);
 }
 
 void AddEmptyLayer(Editor& editor, float width, float height) {
@@ -27,7 +25,7 @@ void AddEmptyLayer(Editor& editor, float width, float height) {
 
 void AddLayerCommand(Editor& editor) {
     RunCommand(editor, [&] {
-        editor.Filters.ClearCrop();
+        EndSelection(editor);
         AddEmptyLayer(editor, static_cast<float>(editor.Document.PageWidth),
                       static_cast<float>(editor.Document.PageHeight));
         Compose(editor);
@@ -40,10 +38,7 @@ void SelectLayer(Editor& editor, int index) {
     if (index != editor.Document.SelectedLayer)
         SetAdjustSliders(editor, 0, 50, 40, 50);
     editor.Document.SelectedLayer = index;
-    ShowLayerSliders(editor);
-    ShowLayerAdjust(editor, index);
-    EnableLayerSliders(editor);
-    UpdateLayerButtons(editor);
+    ShowSelectedLayer(editor);
     editor.Host.LayerPanelChanged();
     DrawScene(editor);
     editor.Host.ControlsChanged();
@@ -72,6 +67,15 @@ void ShowLayerSliders(Editor& editor) {
     // A file may hold any scale.
     editor.Controls.ScaleScroll.Value = std::clamp(layer.ScaleValue, -50, 50) + 50;
     editor.Controls.ScaleValue = std::to_string(layer.ScaleValue);
+}
+
+void ShowSelectedLayer(Editor& editor) {
+    if (editor.Document.HasSelection()) {
+        ShowLayerSliders(editor);
+        ShowLayerAdjust(editor, editor.Document.SelectedLayer);
+    }
+    EnableLayerSliders(editor);
+    UpdateLayerButtons(editor);
 }
 
 void EnableLayerSliders(Editor& editor) {

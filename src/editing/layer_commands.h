@@ -34,4 +34,7 @@ void EnableLayerSliders(Editor& editor);
 // The states of ToolBarvs4's buttons for the selected layer.
 void UpdateLayerButtons(Editor& editor);
 
+// All of these. With no layer selected the sliders keep their places, disabled.
+void ShowSelectedLayer(Editor& editor);
+
 }  // namespace orbelle::editing

@@ -6,6 +6,8 @@
 namespace orbelle::editing {
 
 void OpenFileMenu(Editor& editor);
+// Asks the host for the clipboard.
+void OpenEditMenu(Editor& editor);
 void OpenStyleMenu(Editor& editor);
 
 }  // namespace orbelle::editing

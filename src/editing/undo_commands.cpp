@@ -41,7 +41,7 @@ void ShowRestoredStack(Editor& editor) {
     controls.m_Undo.Enabled = UndoButton(editor).Enabled;
     controls.m_Redo.Enabled = RedoButton(editor).Enabled;
     controls.ToolBarvs4[layer_buttons::Remove].Enabled = selected;
-    controls.ToolBarvs4[layer_buttons::Hide].Pressed = selected && document.Selected().Visible;
+    controls.ToolBarvs4[layer_buttons::Hide] = {selected, selected && document.Selected().Visible};
     controls.ToolBarvs4[layer_buttons::SetOrder].Enabled = document.SelectedLayer >= 2;
     controls.ToolBarvs4[layer_buttons::MergeDown].Enabled = document.SelectedLayer >= 1;
     Compose(editor);
