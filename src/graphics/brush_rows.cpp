@@ -58,4 +58,16 @@ void BrushRows::Blend(Argb* pixels, int x, int y, int count, const std::uint8_t*
     }
 }
 
+void BlendRects(Bitmap& target, std::span<const RectI> rects, const Brush& brush, double offset) {
+    if (rects.empty())
+        return;
+    const BrushRows colors(brush, offset, BoxAround(rects));
+    Argb* pixels = target.MutablePixels();
+    for (const RectI& rect : rects) {
+        Argb* row = pixels + static_cast<std::size_t>(rect.Y) * target.Width() + rect.X;
+        for (int y = rect.Y; y < rect.Y + rect.Height; ++y, row += target.Width())
+            colors.Blend(row, rect.X, y, rect.Width);
+    }
+}
+
 }  // namespace orbelle::graphics

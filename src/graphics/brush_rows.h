@@ -2,8 +2,10 @@
 #pragma once
 
 #include <cstdint>
+#include <span>
 #include <vector>
 
+#include "graphics/bitmap.h"
 #include "graphics/brush.h"
 #include "graphics/geometry.h"
 
@@ -33,5 +35,8 @@ private:
     std::vector<Argb> rows_;     // only for a vertical gradient
     std::vector<Argb> pixels_;   // only for a path gradient
 };
+
+// Blends the brush over rectangles that lie in the target and do not overlap.
+void BlendRects(Bitmap& target, std::span<const RectI> rects, const Brush& brush, double offset);
 
 }  // namespace orbelle::graphics

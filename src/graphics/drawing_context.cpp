@@ -16,26 +16,6 @@ RectI WholeOf(const Bitmap& bitmap) {
     return {0, 0, bitmap.Width(), bitmap.Height()};
 }
 
-RectI BoxAround(const std::vector<RectI>& rects) {
-    RectI box;
-    for (const RectI& rect : rects)
-        box = Unite(box, rect);
-    return box;
-}
-
-void BlendRects(Bitmap& target, const std::vector<RectI>& rects, const Brush& brush,
-                double offset) {
-    if (rects.empty())
-        return;
-    const BrushRows colors(brush, offset, BoxAround(rects));
-    Argb* pixels = target.MutablePixels();
-    for (const RectI& rect : rects) {
-        Argb* row = pixels + static_cast<std::size_t>(rect.Y) * target.Width() + rect.X;
-        for (int y = rect.Y; y < rect.Y + rect.Height; ++y, row += target.Width())
-            colors.Blend(row, rect.X, y, rect.Width);
-    }
-}
-
 // Walks down a clip's rectangles, which come in bands, row by row.
 class ClipRows {
 public:
@@ -60,8 +40,8 @@ private:
 using SmoothRasterizer = agg::rasterizer_scanline_aa<agg::rasterizer_sl_clip_dbl>;
 using SmoothSpan = agg::scanline_p8::span;
 
-void AddFigures(SmoothRasterizer& rasterizer, const Path& path, double shift) {
-    for (const FlatFigure& figure : path.Flatten()) {
+void AddFigures(SmoothRasterizer& rasterizer, std::span<const FlatFigure> figures, double shift) {
+    for (const FlatFigure& figure : figures) {
         if (!IsFinite(figure))
             continue;
         rasterizer.move_to_d(figure.Points[0].X + shift, figure.Points[0].Y + shift);
@@ -129,9 +109,14 @@ void DrawingContext::FillRegion(const Brush& brush, const Region& region) {
 }
 
 void DrawingContext::FillPath(const Brush& brush, const Path& path) {
+    FillFigures(brush, path.Flatten(), path.Fill());
+}
+
+void DrawingContext::FillFigures(const Brush& brush, std::span<const FlatFigure> figures,
+                                 FillMode fillMode) {
     if (smoothing_ != SmoothingMode::AntiAlias) {
-        FillRegion(brush, Region::FromPixelRects(PixelsInside(path.Flatten(), path.Fill(), Offset(),
-                                                              WholeOf(target_))));
+        FillRegion(brush, Region::FromPixelRects(
+                              PixelsInside(figures, fillMode, Offset(), WholeOf(target_))));
         return;
     }
     const std::vector<RectI> clip = clip_.Rects(WholeOf(target_));
@@ -140,12 +125,15 @@ void DrawingContext::FillPath(const Brush& brush, const Path& path) {
     const RectI area = BoxAround(clip);
     SmoothRasterizer rasterizer;
     rasterizer.clip_box(area.X, area.Y, area.X + area.Width, area.Y + area.Height);
-    rasterizer.filling_rule(path.Fill() == FillMode::Winding ? agg::fill_non_zero
-                                                             : agg::fill_even_odd);
-    AddFigures(rasterizer, path, 0.5 - Offset());
+    rasterizer.filling_rule(fillMode == FillMode::Winding ? agg::fill_non_zero
+                                                          : agg::fill_even_odd);
+    AddFigures(rasterizer, figures, 0.5 - Offset());
     if (!rasterizer.rewind_scanlines())
         return;
-    const BrushRows colors(brush, Offset(), area);
+    const RectI painted{rasterizer.min_x(), rasterizer.min_y(),
+                        rasterizer.max_x() - rasterizer.min_x() + 1,
+                        rasterizer.max_y() - rasterizer.min_y() + 1};
+    const BrushRows colors(brush, Offset(), Intersect(painted, area));
     Argb* pixels = target_.MutablePixels();
     ClipRows clipRows(clip);
     agg::scanline_p8 scanline;

@@ -43,11 +43,13 @@ public:
 
     // Lines and outlines, hard-edged or by coverage with SmoothingMode::AntiAlias. A hard-edged
     // line of width 1 is one pixel thick, both end pixels drawn; two equal points draw nothing. A
-    // pixel is blended once for a whole call. Fewer than two points: nothing.
+    // pixel is blended once for a whole call. Pens narrower than 1 count as 1. Fewer than two
+    // points, or a point that is infinite or not a number: nothing.
     void DrawLine(const Pen& pen, PointF start, PointF end);
     void DrawLines(const Pen& pen, std::span<const PointF> points);
     // Closed by a line from the last point to the first.
     void DrawPolygon(const Pen& pen, std::span<const PointF> points);
+    // Negative width or height: nothing.
     void DrawEllipse(const Pen& pen, const RectF& box);
     void FillEllipse(const Brush& brush, const RectF& box);
 
@@ -61,6 +63,9 @@ public:
 
 private:
     double Offset() const;
+    // By centres or by coverage, as the smoothing says.
+    void FillFigures(const Brush& brush, std::span<const FlatFigure> figures, FillMode fillMode);
+    void DrawFigure(const Pen& pen, const FlatFigure& figure);
 
     Bitmap& target_;
     Region clip_ = Region::Infinite();

@@ -50,4 +50,11 @@ RectI Unite(const RectI& a, const RectI& b) {
     return {left, top, right - left, bottom - top};
 }
 
+RectI BoxAround(std::span<const RectI> rects) {
+    RectI box;
+    for (const RectI& rect : rects)
+        box = Unite(box, rect);
+    return box;
+}
+
 }  // namespace orbelle::graphics

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cmath>
+#include <span>
 
 namespace orbelle::graphics {
 
@@ -40,5 +41,6 @@ RectI Intersect(const RectI& a, const RectI& b);
 
 // The smallest rectangle around both; an empty one counts for nothing.
 RectI Unite(const RectI& a, const RectI& b);
+RectI BoxAround(std::span<const RectI> rects);
 
 }  // namespace orbelle::graphics

@@ -31,23 +31,30 @@ int FirstCentre(double coordinate, double offset, int low, int high) {
     return static_cast<int>(std::clamp(first, double(low), double(high)));
 }
 
+// The rows lie between top and bottom; there are none when the edge passes no row's centre there.
+Edge EdgeBetween(PointF a, PointF b, double offset, int top, int bottom) {
+    const int winding = a.Y < b.Y ? 1 : -1;
+    if (winding < 0)
+        std::swap(a, b);
+    return {a.X,
+            a.Y,
+            double{b.X} - a.X,
+            double{b.Y} - a.Y,
+            winding,
+            FirstCentre(a.Y, offset, top, bottom),
+            FirstCentre(b.Y, offset, top, bottom)};
+}
+
 std::vector<Edge> EdgesOf(std::span<const FlatFigure> figures, double offset, int top, int bottom) {
     std::vector<Edge> edges;
     for (const FlatFigure& figure : figures) {
         if (!IsFinite(figure))
             continue;
         for (std::size_t i = 0; i < figure.Points.size(); ++i) {
-            PointF a = figure.Points[i];
-            PointF b = figure.Points[i + 1 < figure.Points.size() ? i + 1 : 0];
-            const int winding = a.Y < b.Y ? 1 : -1;
-            if (winding < 0)
-                std::swap(a, b);
-            const int firstRow = FirstCentre(a.Y, offset, top, bottom);
-            const int endRow = FirstCentre(b.Y, offset, top, bottom);
-            if (firstRow < endRow) {
-                edges.push_back(
-                    {a.X, a.Y, double{b.X} - a.X, double{b.Y} - a.Y, winding, firstRow, endRow});
-            }
+            const PointF next = figure.Points[i + 1 < figure.Points.size() ? i + 1 : 0];
+            const Edge edge = EdgeBetween(figure.Points[i], next, offset, top, bottom);
+            if (edge.FirstRow < edge.EndRow)
+                edges.push_back(edge);
         }
     }
     std::sort(edges.begin(), edges.end(),
@@ -129,6 +136,35 @@ std::vector<RectI> PixelsInside(std::span<const FlatFigure> figures, FillMode fi
         std::erase_if(active, [&](const Edge* edge) { return edge->EndRow == row + 1; });
     }
     return runs;
+}
+
+void PixelsInsideTriangle(const std::array<PointF, 3>& corners, double offset, const RectI& within,
+                          std::vector<RectI>& runs) {
+    runs.clear();
+    if (within.IsEmpty())
+        return;
+    const int bottom = within.Y + within.Height, right = within.X + within.Width;
+    std::array<Edge, 3> edges;
+    int firstRow = bottom, endRow = within.Y;
+    for (std::size_t i = 0; i < 3; ++i) {
+        edges[i] = EdgeBetween(corners[i], corners[(i + 1) % 3], offset, within.Y, bottom);
+        firstRow = std::min(firstRow, edges[i].FirstRow);
+        endRow = std::max(endRow, edges[i].EndRow);
+    }
+    for (int row = firstRow; row < endRow; ++row) {
+        // A row that meets a triangle crosses exactly two of its edges.
+        std::array<double, 3> crossings;
+        std::size_t count = 0;
+        for (const Edge& edge : edges) {
+            if (edge.FirstRow <= row && row < edge.EndRow)
+                crossings[count++] = edge.CrossingAt(row + offset);
+        }
+        const auto [left, end] = std::minmax(crossings[0], crossings[1]);
+        const int from = FirstCentre(left, offset, within.X, right);
+        const int to = FirstCentre(end, offset, within.X, right);
+        if (from < to)
+            runs.push_back({from, row, to - from, 1});
+    }
 }
 
 bool IsFinite(const FlatFigure& figure) {
