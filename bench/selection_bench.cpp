@@ -35,7 +35,7 @@ void DrawSelection(benchmark::State& state) {
 }
 BENCHMARK(DrawSelection)
     ->ArgNames({"shapes", "zoom"})
-    ->ArgsProduct({{1, 200}, {1, 20}})
+    ->ArgsProduct({{1, 200, 5000}, {1, 8, 20}})
     ->Unit(benchmark::kMillisecond);
 
 void CropImage(benchmark::State& state) {
