@@ -129,5 +129,28 @@ void PaintScene(benchmark::State& state) {
 }
 BENCHMARK(PaintScene)->Arg(1)->Arg(8)->ArgName("zoom")->Unit(benchmark::kMicrosecond);
 
+// The same with a selection of as many ellipses.
+void PaintSceneWithSelection(benchmark::State& state) {
+    document::Document document = MakeDocument(Content::Icon, 512, 1);
+    document::Compositor compositor;
+    graphics::DIBSave canvas;
+    compositor.Compose(document, kNearest, canvas);
+    document::View view;
+    view.SceneWidth = 1600;
+    view.SceneHeight = 1000;
+    view.Zoom = static_cast<double>(state.range(1));
+    view.ViewActive = true;
+    graphics::Bitmap scene;
+    filters::ClsFilters selection = SelectionOfEllipses(static_cast<int>(state.range(0)));
+    for (auto _ : state) {
+        document::DrawScene(scene, canvas.new_Img, document, view, selection);
+        benchmark::DoNotOptimize(scene.Pixels());
+    }
+}
+BENCHMARK(PaintSceneWithSelection)
+    ->ArgNames({"shapes", "zoom"})
+    ->ArgsProduct({{200, 5000}, {1, 8, 20}})
+    ->Unit(benchmark::kMicrosecond);
+
 }  // namespace
 }  // namespace orbelle::bench
