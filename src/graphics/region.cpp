@@ -22,6 +22,9 @@ constexpr RectI kOutlinePlane{-2 * kMaxBitmapSide, -2 * kMaxBitmapSide, 4 * kMax
 constexpr int kMaxShapes = 8192;
 constexpr int kMaxDepth = 256;
 
+// So many rows of shapes (16 MiB) are merged at once.
+constexpr std::size_t kMaxGatheredRects = 1 << 20;
+
 struct Everything {};
 
 using Pixels = std::shared_ptr<const PixelSet>;
@@ -150,17 +153,17 @@ Pixels PixelsOf(const Node::Combination& parts, const RectI& within) {
         Pixels operand;
         if (end - part == 1) {
             operand = part->Shape->Covered(within);
+            ++part;
         } else {
             std::vector<RectI> rects;
-            std::for_each(part, end,
-                          [&](const auto& next) { next.Shape->AppendRects(rects, within); });
+            for (; part != end && rects.size() < kMaxGatheredRects; ++part)
+                part->Shape->AppendRects(rects, within);
             operand = MergedPixels(std::move(rects));
         }
         if (result)
             result = std::make_shared<PixelSet>(*result, *operand, mode);
         else
             result = std::move(operand);
-        part = end;
     }
     return result;
 }
