@@ -68,6 +68,34 @@ void ComposeSmallLayerOverFifty(benchmark::State& state) {
 }
 BENCHMARK(ComposeSmallLayerOverFifty)->Unit(benchmark::kMicrosecond);
 
+// A tool changed 20 x 20 pixels in a copy of the picture; arguments are the number of layers of
+// 512 x 512 and the layer that it draws on.
+void ComposeStroke(benchmark::State& state) {
+    auto document =
+        MakeDocument(Content::HalfTransparent, 512, static_cast<int>(state.range(0)), 0.9F);
+    document::IconLayer& drawnOn = document.Layers[static_cast<std::size_t>(state.range(1))];
+    document::Compositor compositor;
+    graphics::DIBSave canvas;
+    graphics::Bitmap pictures[] = {drawnOn.Image, drawnOn.Image};
+    for (int i = 0; i < 400; ++i)
+        pictures[1].SetPixel(300 + i % 20, 300 + i / 20, 0xFF00FF00);
+    int step = 0;
+    for (int i = 0; i < 3; ++i) {
+        drawnOn.Image = pictures[++step % 2];
+        compositor.Compose(document, kNearest, canvas);
+    }
+    for (auto _ : state) {
+        drawnOn.Image = pictures[++step % 2];
+        compositor.Compose(document, kNearest, canvas);
+    }
+}
+BENCHMARK(ComposeStroke)
+    ->Args({1, 0})
+    ->Args({50, 0})
+    ->Args({50, 49})
+    ->ArgNames({"layers", "layer"})
+    ->Unit(benchmark::kMicrosecond);
+
 void Snapshot50Layers(benchmark::State& state) {
     auto document = MakeDocument(Content::Icon, 64, 50);
     for (auto& layer : document.Layers)
@@ -100,6 +128,29 @@ void PaintScene(benchmark::State& state) {
     }
 }
 BENCHMARK(PaintScene)->Arg(1)->Arg(8)->ArgName("zoom")->Unit(benchmark::kMicrosecond);
+
+// The same with a selection of as many ellipses.
+void PaintSceneWithSelection(benchmark::State& state) {
+    document::Document document = MakeDocument(Content::Icon, 512, 1);
+    document::Compositor compositor;
+    graphics::DIBSave canvas;
+    compositor.Compose(document, kNearest, canvas);
+    document::View view;
+    view.SceneWidth = 1600;
+    view.SceneHeight = 1000;
+    view.Zoom = static_cast<double>(state.range(1));
+    view.ViewActive = true;
+    graphics::Bitmap scene;
+    filters::ClsFilters selection = SelectionOfEllipses(static_cast<int>(state.range(0)));
+    for (auto _ : state) {
+        document::DrawScene(scene, canvas.new_Img, document, view, selection);
+        benchmark::DoNotOptimize(scene.Pixels());
+    }
+}
+BENCHMARK(PaintSceneWithSelection)
+    ->ArgNames({"shapes", "zoom"})
+    ->ArgsProduct({{200, 5000}, {1, 8, 20}})
+    ->Unit(benchmark::kMicrosecond);
 
 }  // namespace
 }  // namespace orbelle::bench

@@ -10,19 +10,9 @@ namespace {
 
 using namespace graphics;
 using filters::ClsFilters;
-using filters::CropShape;
-
-ClsFilters SelectionOf(int ellipses) {
-    ClsFilters selection;
-    for (int i = 0; i < ellipses; ++i) {
-        const int x = i * 37 % 400, y = i * 61 % 400;
-        selection.SetCropDatas(x + 100, y + 90, x, y, CropShape::Ellipse);
-    }
-    return selection;
-}
 
 void DrawSelection(benchmark::State& state) {
-    ClsFilters selection = SelectionOf(static_cast<int>(state.range(0)));
+    ClsFilters selection = SelectionOfEllipses(static_cast<int>(state.range(0)));
     const auto zoom = static_cast<float>(state.range(1));
     Bitmap scene(1600, 1000);
     DrawingContext context(scene);
@@ -35,11 +25,44 @@ void DrawSelection(benchmark::State& state) {
 }
 BENCHMARK(DrawSelection)
     ->ArgNames({"shapes", "zoom"})
-    ->ArgsProduct({{1, 200}, {1, 20}})
+    ->ArgsProduct({{1, 200, 5000}, {1, 8, 20}})
     ->Unit(benchmark::kMillisecond);
 
+// A shape joins as many others, and the frame around the selection is asked for.
+void AddShapeToSelection(benchmark::State& state) {
+    ClsFilters selection = SelectionOfEllipses(static_cast<int>(state.range(0)));
+    for (auto _ : state) {
+        ClsFilters grown = selection;
+        grown.SetCropDatas(300, 290, 200, 200, filters::CropShape::Ellipse);
+        benchmark::DoNotOptimize(grown.GetRegionRect());
+    }
+}
+BENCHMARK(AddShapeToSelection)
+    ->ArgName("shapes")
+    ->Arg(200)
+    ->Arg(5000)
+    ->Unit(benchmark::kMicrosecond);
+
+// All shapes of a selection one by one.
+void BuildSelection(benchmark::State& state) {
+    for (auto _ : state)
+        benchmark::DoNotOptimize(SelectionOfEllipses(static_cast<int>(state.range(0))).CropCount);
+}
+BENCHMARK(BuildSelection)->ArgName("shapes")->Arg(200)->Arg(5000)->Unit(benchmark::kMicrosecond);
+
+void SelectionBounds(benchmark::State& state) {
+    const ClsFilters selection = SelectionOfEllipses(static_cast<int>(state.range(0)));
+    for (auto _ : state) {
+        // A moved copy has forgotten its pixels.
+        ClsFilters moved = selection;
+        moved.CropRegion.Translate(1, 0);
+        benchmark::DoNotOptimize(moved.GetRegionRect());
+    }
+}
+BENCHMARK(SelectionBounds)->ArgName("shapes")->Arg(200)->Arg(5000)->Unit(benchmark::kMicrosecond);
+
 void CropImage(benchmark::State& state) {
-    const ClsFilters selection = SelectionOf(static_cast<int>(state.range(0)));
+    const ClsFilters selection = SelectionOfEllipses(static_cast<int>(state.range(0)));
     const Bitmap picture = MakePicture(Content::HalfTransparent, 512);
     for (auto _ : state) {
         Bitmap image = picture;

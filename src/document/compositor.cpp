@@ -11,9 +11,58 @@ using graphics::Bitmap;
 using graphics::RectF;
 using graphics::RectI;
 
+namespace {
+
+// The smallest box around the pixels of `area`, which lies in both pictures, that differ.
+RectI DifferingPixels(const Bitmap& first, const Bitmap& second, const RectI& area) {
+    const int end = area.X + area.Width;
+    int left = end, right = area.X, top = 0, bottom = 0;
+    for (int y = area.Y; y < area.Y + area.Height; ++y) {
+        const graphics::Argb* a = first.Row(y);
+        const graphics::Argb* b = second.Row(y);
+        if (std::equal(a + area.X, a + end, b + area.X))
+            continue;
+        int x = area.X;
+        while (x < left && a[x] == b[x])
+            ++x;
+        left = x;
+        x = end;
+        while (x > right && a[x - 1] == b[x - 1])
+            --x;
+        right = x;
+        top = bottom == 0 ? y : top;
+        bottom = y + 1;
+    }
+    return bottom == 0 ? RectI{} : RectI{left, top, right - left, bottom - top};
+}
+
+}  // namespace
+
+bool Compositor::Drawn::DiffersAtMostInImage(const Drawn& other) const {
+    return Opacity == other.Opacity && Destination == other.Destination && Source == other.Source &&
+           Plates == other.Plates;
+}
+
 bool Compositor::Drawn::operator==(const Drawn& other) const {
-    return Image.SharesPixelsWith(other.Image) && Opacity == other.Opacity &&
-           Destination == other.Destination && Source == other.Source && Plates == other.Plates;
+    return Image.SharesPixelsWith(other.Image) && DiffersAtMostInImage(other);
+}
+
+RectI Compositor::ChangedArea(const Drawn& before, const Drawn& after, const RectI& page) {
+    if (before == after)
+        return {};
+    const Bitmap &image = after.Image, &old = before.Image;
+    const RectI &to = after.Destination, &from = after.Source;
+    const bool samePlace = before.DiffersAtMostInImage(after) && image.Width() == old.Width() &&
+                           image.Height() == old.Height() && image.Format() == old.Format();
+    // One pixel of a scaled picture reaches into others.
+    const bool scaled = to.Width != from.Width || to.Height != from.Height;
+    if (!samePlace || scaled)
+        return Unite(Intersect(before.Destination, page), Intersect(to, page));
+    RectI changed =
+        DifferingPixels(old, image, Intersect(from, {0, 0, image.Width(), image.Height()}));
+    changed.X += to.X - from.X;
+    changed.Y += to.Y - from.Y;
+    return Intersect(changed, page);
 }
 
 std::vector<Compositor::Drawn> Compositor::ListLayers(Document& document) {
@@ -75,10 +124,16 @@ void Compositor::Update(Bitmap& page, const std::vector<Drawn>& layers) {
         std::mismatch(layers.rbegin(), std::make_reverse_iterator(newFirst), drawn_.rbegin(),
                       std::make_reverse_iterator(oldFirst));
     RectI damage;
-    for (auto layer = newFirst; layer != newLast.base(); ++layer)
-        damage = Unite(damage, Intersect(layer->Destination, whole));
-    for (auto layer = oldFirst; layer != oldLast.base(); ++layer)
-        damage = Unite(damage, Intersect(layer->Destination, whole));
+    if (newLast.base() - newFirst == oldLast.base() - oldFirst) {
+        auto before = oldFirst;
+        for (auto after = newFirst; after != newLast.base(); ++before, ++after)
+            damage = Unite(damage, ChangedArea(*before, *after, whole));
+    } else {
+        for (auto layer = newFirst; layer != newLast.base(); ++layer)
+            damage = Unite(damage, Intersect(layer->Destination, whole));
+        for (auto layer = oldFirst; layer != oldLast.base(); ++layer)
+            damage = Unite(damage, Intersect(layer->Destination, whole));
+    }
     if (damage.IsEmpty())
         return;
 

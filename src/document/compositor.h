@@ -10,7 +10,8 @@
 namespace orbelle::document {
 
 // Remembers what it drew last, so that a change of one layer costs that layer and those above it
-// within the area that changed. The result never depends on what was composed before.
+// within the area that changed: the box around the pixels that differ when only the picture of an
+// unscaled layer did. The result never depends on what was composed before.
 class Compositor {
 public:
     // Draws the visible layers, bottom first, source-over with their opacity, into `canvas`, which
@@ -30,8 +31,13 @@ private:
         graphics::RectI Source;               // image pixels
         std::vector<graphics::RectF> Plates;  // all that cut it
 
+        bool DiffersAtMostInImage(const Drawn& other) const;
         bool operator==(const Drawn& other) const;
     };
+
+    // A box around the pixels of the page that look different with `after` in place of `before`.
+    static graphics::RectI ChangedArea(const Drawn& before, const Drawn& after,
+                                       const graphics::RectI& page);
 
     static std::vector<Drawn> ListLayers(Document& document);
     void Draw(graphics::Bitmap& page, const std::vector<Drawn>& layers, std::size_t first,

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <tuple>
 #include <variant>
 
 #include "graphics/bitmap.h"
@@ -16,9 +17,13 @@ namespace {
 constexpr RectI kOutlinePlane{-2 * kMaxBitmapSide, -2 * kMaxBitmapSide, 4 * kMaxBitmapSide,
                               4 * kMaxBitmapSide};
 
-// A combination of more shapes is kept as its pixels: that bounds the depth of a tree, and a region
-// that is joined with moved copies of itself doesn't double for ever.
-constexpr int kMaxShapes = 256;
+// A combination of more shapes is kept as its pixels: a region that is joined with moved copies of
+// itself doesn't double for ever. So is a deeper tree, which is walked by recursion.
+constexpr int kMaxShapes = 8192;
+constexpr int kMaxDepth = 256;
+
+// So many rows of shapes (16 MiB) are merged at once.
+constexpr std::size_t kMaxGatheredRects = 1 << 20;
 
 struct Everything {};
 
@@ -32,7 +37,7 @@ bool IsWholeMove(const Matrix& matrix) {
            isWhole(matrix.OffsetY);
 }
 
-Edges Transformed(const Edges& edges, const Matrix& matrix) {
+Edges Scaled(const Edges& edges, const Matrix& matrix) {
     const auto [left, right] = std::minmax({matrix.ScaleX * edges.Left + matrix.OffsetX,
                                             matrix.ScaleX * edges.Right + matrix.OffsetX});
     const auto [top, bottom] = std::minmax({matrix.ScaleY * edges.Top + matrix.OffsetY,
@@ -55,14 +60,9 @@ Pixels MakePixels(std::span<const RectI> rects) {
     return std::make_shared<PixelSet>(rects);
 }
 
-Pixels PixelsOf(const RectF& rect, const Matrix& matrix) {
-    const RectI pixels = PixelsInside(Transformed(EdgesOf(rect), matrix), 0, kPlane);
-    return MakePixels({&pixels, 1});
-}
-
-Pixels PixelsOf(Path path, const Matrix& matrix) {
+std::vector<RectI> RectsOf(Path path, const Matrix& matrix, const RectI& within) {
     path.Transform(matrix);
-    return MakePixels(PixelsInside(path.Flatten(), path.Fill(), 0, kOutlinePlane));
+    return PixelsInside(path.Flatten(), path.Fill(), 0, Intersect(within, kOutlinePlane));
 }
 
 Pixels PixelsOf(const Pixels& pixels, const Matrix& matrix) {
@@ -74,27 +74,48 @@ Pixels PixelsOf(const Pixels& pixels, const Matrix& matrix) {
     for (RectI& rect : rects) {
         const Edges edges{double(rect.X), double(rect.Y), double(rect.X) + rect.Width,
                           double(rect.Y) + rect.Height};
-        rect = PixelsInside(Transformed(edges, matrix), 0, kPlane);
+        rect = PixelsInside(Scaled(edges, matrix), 0, kPlane);
     }
     return MakePixels(rects);
 }
 
+// The pixels of rectangles that overlap, such as the rows of many shapes.
+Pixels MergedPixels(std::vector<RectI> rects) {
+    const auto sameRows = [](const RectI& a, const RectI& b) {
+        return a.Y == b.Y && a.Height == b.Height;
+    };
+    std::sort(rects.begin(), rects.end(), [](const RectI& a, const RectI& b) {
+        return std::tie(a.Y, a.Height, a.X) < std::tie(b.Y, b.Height, b.X);
+    });
+    std::vector<RectI> merged;
+    for (const RectI& rect : rects) {
+        if (!merged.empty() && sameRows(merged.back(), rect) &&
+            rect.X <= merged.back().X + merged.back().Width)
+            merged.back() = Unite(merged.back(), rect);
+        else
+            merged.push_back(rect);
+    }
+    return MakePixels(merged);
+}
+
 }  // namespace
 
-// A shape and how it is moved and scaled, or two nodes and how they are combined. Nodes never
-// change, so regions share them; only the pixels are filled in when they are first asked for.
+// A shape and how it is moved and scaled, or a combination of nodes from the first to the last.
+// Regions share nodes, which change only while a single region holds them; the pixels are filled in
+// when they are asked for.
 struct Region::Node {
-    using Pointer = std::shared_ptr<const Node>;
-    struct Combination {
-        Pointer First;
-        Pointer Second;
-        CombineMode Mode;
+    struct Part {
+        CombineMode Mode;  // the first one's joins it to nothing
+        std::shared_ptr<const Node> Shape;
     };
+    using Combination = std::vector<Part>;
 
     std::variant<Everything, RectF, Path, Pixels, Combination> Shape;
-    Matrix Placement{};  // combinations leave it to their shapes
+    Matrix Placement{};  // combinations leave it to their parts
     int ShapeCount = 1;
+    int Depth = 0;
     mutable Pixels Cache{};
+    mutable RectI CachedWithin{};
 
     bool IsEverything() const { return std::holds_alternative<Everything>(Shape); }
     bool IsWholePixels() const {
@@ -103,67 +124,127 @@ struct Region::Node {
     bool IsNothing() const {
         return std::holds_alternative<Pixels>(Shape) && std::get<Pixels>(Shape)->IsEmpty();
     }
+    bool Knows(const RectI& area) const { return Cache && Intersect(CachedWithin, area) == area; }
 
-    const Pixels& Covered() const;
-    Pointer Transformed(const Matrix& matrix) const;
-    static Pointer Combined(const Pointer& first, const Pointer& second, CombineMode mode);
+    // A set that has the node's pixels in `within`, a part of the plane, and any others outside.
+    const Pixels& Covered(const RectI& within) const;
+    void AppendRects(std::vector<RectI>& rects, const RectI& within) const;
+    std::shared_ptr<Node> Transformed(const Matrix& matrix) const;
 };
 
 namespace {
 
-using NodePointer = std::shared_ptr<const Region::Node>;
+using Node = Region::Node;
 
 template <typename Shape>
-NodePointer MakeNode(Shape shape) {
-    return std::make_shared<Region::Node>(Region::Node{std::move(shape)});
+std::shared_ptr<Node> MakeNode(Shape shape) {
+    return std::make_shared<Node>(Node{std::move(shape)});
+}
+
+Pixels PixelsOf(const Node::Combination& parts, const RectI& within) {
+    Pixels result;
+    for (auto part = parts.begin(); part != parts.end();) {
+        const CombineMode mode = part->Mode;
+        auto end = part + 1;
+        // Shapes that are joined, or cut off, one after the other are merged at once.
+        if (mode == CombineMode::Union || mode == CombineMode::Exclude)
+            end =
+                std::find_if(end, parts.end(), [&](const auto& next) { return next.Mode != mode; });
+        Pixels operand;
+        if (end - part == 1) {
+            operand = part->Shape->Covered(within);
+            ++part;
+        } else {
+            std::vector<RectI> rects;
+            for (; part != end && rects.size() < kMaxGatheredRects; ++part)
+                part->Shape->AppendRects(rects, within);
+            operand = MergedPixels(std::move(rects));
+        }
+        if (result)
+            result = std::make_shared<PixelSet>(*result, *operand, mode);
+        else
+            result = std::move(operand);
+    }
+    return result;
+}
+
+void CombineInto(std::shared_ptr<Node>& first, const std::shared_ptr<Node>& second,
+                 CombineMode mode) {
+    const bool keepsSecond = mode == CombineMode::Union || mode == CombineMode::Xor;
+    if (first->IsNothing()) {
+        if (keepsSecond)
+            first = second;
+        return;
+    }
+    if (second->IsNothing()) {
+        if (mode == CombineMode::Intersect)
+            first = second;
+        return;
+    }
+    auto* parts = std::get_if<Node::Combination>(&first->Shape);
+    const bool appends = parts && first.use_count() == 1;
+    const int shapes = first->ShapeCount + second->ShapeCount;
+    const int depth = std::max(first->Depth + (appends ? 0 : 1), second->Depth + 1);
+    if ((first->IsWholePixels() && second->IsWholePixels()) || shapes > kMaxShapes ||
+        depth > kMaxDepth) {
+        first = MakeNode(Pixels(
+            std::make_shared<PixelSet>(*first->Covered(kPlane), *second->Covered(kPlane), mode)));
+        return;
+    }
+    if (appends)
+        parts->push_back({mode, second});
+    else
+        first = MakeNode(Node::Combination{{CombineMode::Union, first}, {mode, second}});
+    first->ShapeCount = shapes;
+    first->Depth = depth;
+    first->Cache = {};
 }
 
 }  // namespace
 
-const Pixels& Region::Node::Covered() const {
-    if (Cache)
+const Pixels& Node::Covered(const RectI& within) const {
+    if (Knows(within))
         return Cache;
-    if (IsEverything())
-        Cache = MakePixels({&kPlane, 1});
-    else if (const auto* rect = std::get_if<RectF>(&Shape))
-        Cache = PixelsOf(*rect, Placement);
-    else if (const auto* path = std::get_if<Path>(&Shape))
-        Cache = PixelsOf(*path, Placement);
-    else if (const auto* pixels = std::get_if<Pixels>(&Shape))
+    if (const auto* pixels = std::get_if<Pixels>(&Shape)) {
         Cache = PixelsOf(*pixels, Placement);
-    else if (const auto* both = std::get_if<Combination>(&Shape))
-        Cache = std::make_shared<PixelSet>(*both->First->Covered(), *both->Second->Covered(),
-                                           both->Mode);
+        CachedWithin = kPlane;
+        return Cache;
+    }
+    if (const auto* parts = std::get_if<Combination>(&Shape)) {
+        Cache = PixelsOf(*parts, within);
+    } else {
+        std::vector<RectI> rects;
+        AppendRects(rects, within);
+        Cache = MakePixels(rects);
+    }
+    CachedWithin = within;
     return Cache;
 }
 
-NodePointer Region::Node::Transformed(const Matrix& matrix) const {
-    Node moved{.Shape = Shape, .Placement = Placement, .ShapeCount = ShapeCount};
-    if (auto* both = std::get_if<Combination>(&moved.Shape)) {
-        both->First = both->First->Transformed(matrix);
-        both->Second = both->Second->Transformed(matrix);
-    } else {
-        moved.Placement.Scale(matrix.ScaleX, matrix.ScaleY, MatrixOrder::Append);
-        moved.Placement.Translate(matrix.OffsetX, matrix.OffsetY, MatrixOrder::Append);
-    }
-    return std::make_shared<Node>(std::move(moved));
+void Node::AppendRects(std::vector<RectI>& rects, const RectI& within) const {
+    std::vector<RectI> own;
+    if (IsEverything())
+        own = {within};
+    else if (const auto* rect = std::get_if<RectF>(&Shape))
+        own = {PixelsInside(Scaled(EdgesOf(*rect), Placement), 0, within)};
+    else if (const auto* path = std::get_if<Path>(&Shape))
+        own = RectsOf(*path, Placement, within);
+    else
+        own = Covered(within)->Rects();
+    rects.insert(rects.end(), own.begin(), own.end());
 }
 
-NodePointer Region::Node::Combined(const NodePointer& first, const NodePointer& second,
-                                   CombineMode mode) {
-    const bool keepsFirst = mode == CombineMode::Union || mode == CombineMode::Xor;
-    if (mode == CombineMode::Replace || (first->IsNothing() && keepsFirst))
-        return second;
-    if (first->IsNothing() || (second->IsNothing() && mode != CombineMode::Intersect))
-        return first;
-    if (second->IsNothing())
-        return second;
-    const int shapes = first->ShapeCount + second->ShapeCount;
-    if ((first->IsWholePixels() && second->IsWholePixels()) || shapes > kMaxShapes)
-        return MakeNode(
-            Pixels(std::make_shared<PixelSet>(*first->Covered(), *second->Covered(), mode)));
-    return std::make_shared<Node>(
-        Node{.Shape = Combination{first, second, mode}, .ShapeCount = shapes});
+std::shared_ptr<Node> Node::Transformed(const Matrix& matrix) const {
+    auto moved = std::make_shared<Node>(
+        Node{.Shape = Shape, .Placement = Placement, .ShapeCount = ShapeCount, .Depth = Depth});
+    if (auto* parts = std::get_if<Combination>(&moved->Shape)) {
+        for (Part& part : *parts)
+            part.Shape = part.Shape->Transformed(matrix);
+    } else {
+        moved->Placement.Scale(matrix.ScaleX, matrix.ScaleY, MatrixOrder::Append);
+        moved->Placement.Translate(matrix.OffsetX, matrix.OffsetY, MatrixOrder::Append);
+    }
+    return moved;
 }
 
 Region Region::Infinite() {
@@ -194,10 +275,11 @@ void Region::CombineRect(const RectF& rect, CombineMode mode) {
 }
 
 void Region::Combine(const Region& other, CombineMode mode) {
-    if (other.node_ && mode == CombineMode::Replace)
-        node_ = other.node_;
-    else if (other.node_ && node_)
-        node_ = Node::Combined(node_, other.node_, mode);
+    const std::shared_ptr<Node> second = other.node_;  // also counts a region joined with itself
+    if (second && mode == CombineMode::Replace)
+        node_ = second;
+    else if (second && node_)
+        CombineInto(node_, second, mode);
 }
 
 void Region::Translate(float dx, float dy) {
@@ -213,27 +295,29 @@ RectF Region::Bounds() const {
     if (!node_)
         return {};
     if (const auto* rect = std::get_if<RectF>(&node_->Shape))
-        return ToRectF(Transformed(EdgesOf(*rect), node_->Placement));
+        return ToRectF(Scaled(EdgesOf(*rect), node_->Placement));
     if (const auto* path = std::get_if<Path>(&node_->Shape))
-        return path->IsEmpty()
-                   ? RectF{}
-                   : ToRectF(Transformed(EdgesOf(path->WorldBounds()), node_->Placement));
-    return ToRectF(node_->Covered()->Bounds());
+        return path->IsEmpty() ? RectF{}
+                               : ToRectF(Scaled(EdgesOf(path->WorldBounds()), node_->Placement));
+    return ToRectF(node_->Covered(kPlane)->Bounds());
 }
 
 bool Region::IsVisiblePoint(float x, float y) const {
-    return node_ &&
-           (node_->IsEverything() || node_->Covered()->Contains(RoundHalfUp(x), RoundHalfUp(y)));
+    if (!node_ || node_->IsEverything())
+        return node_ != nullptr;
+    const RectI pixel{RoundHalfUp(x), RoundHalfUp(y), 1, 1};
+    // Many points may be asked for: one on its own isn't worth remembering.
+    return node_->Covered(node_->Knows(pixel) ? pixel : kPlane)->Contains(pixel.X, pixel.Y);
 }
 
 bool Region::IsEmpty() const {
-    return !node_ || node_->Covered()->IsEmpty();
+    return !node_ || node_->Covered(kPlane)->IsEmpty();
 }
 
 std::vector<RectI> Region::Rects(const RectI& within) const {
     if (!node_ || within.IsEmpty())
         return {};
-    const PixelSet& pixels = *node_->Covered();
+    const PixelSet& pixels = *node_->Covered(Intersect(within, kPlane));
     const RectI bounds = pixels.Bounds();
     if (Intersect(bounds, within) == bounds)
         return pixels.Rects();
@@ -241,7 +325,7 @@ std::vector<RectI> Region::Rects(const RectI& within) const {
 }
 
 std::vector<RectI> Region::Rects() const {
-    return node_ ? node_->Covered()->Rects() : std::vector<RectI>{};
+    return node_ ? node_->Covered(kPlane)->Rects() : std::vector<RectI>{};
 }
 
 }  // namespace orbelle::graphics

@@ -55,8 +55,8 @@ public:
     struct Node;
 
 private:
-    explicit Region(std::shared_ptr<const Node> node) : node_(std::move(node)) {}
-    std::shared_ptr<const Node> node_;
+    explicit Region(std::shared_ptr<Node> node) : node_(std::move(node)) {}
+    std::shared_ptr<Node> node_;
 };
 
 }  // namespace orbelle::graphics

@@ -12,15 +12,16 @@ namespace {
 
 using graphics::Bitmap;
 using graphics::InterpolationMode;
+using graphics::RectI;
 using testing::FilledPicture;
 using testing::SamePixels;
 
 constexpr auto kNearest = InterpolationMode::NearestNeighbor;
 
-Bitmap Composed(Document& document) {
+Bitmap Composed(Document& document, InterpolationMode interpolation = kNearest) {
     Compositor compositor;
     graphics::DIBSave canvas;
-    compositor.Compose(document, kNearest, canvas);
+    compositor.Compose(document, interpolation, canvas);
     return canvas.new_Img;
 }
 
@@ -87,7 +88,7 @@ public:
     explicit RandomEdits(unsigned seed) : random_(seed) {}
 
     void Edit(Document& document) {
-        const int choice = Below(10);
+        const int choice = Below(11);
         if (document.Layers.empty() || choice == 0) {
             AddLayer(document, RandomPicture());
             return;
@@ -96,7 +97,7 @@ public:
         if (choice <= 3) {
             layer.Rect.X += static_cast<float>(Below(9) - 4);
         } else if (choice == 4) {
-            layer.Image.SetPixel(Below(8), Below(8), random_());
+            Stroke(layer);
         } else if (choice == 5) {
             layer.Opacity = static_cast<float>(Below(101)) / 100.0F;
         } else if (choice == 6) {
@@ -105,6 +106,9 @@ public:
             std::swap(layer, document.Layers.back());
         } else if (choice == 8) {
             layer.ClipNextLayer = !layer.ClipNextLayer;
+        } else if (choice == 9) {
+            layer.ImageWidth = 1 + Below(30);
+            layer.Rect.Width = static_cast<float>(Below(3) ? layer.ImageWidth : 1 + Below(30));
         } else if (document.LayerCount() > 6) {
             document.Layers.erase(document.Layers.begin() + Below(document.LayerCount()));
         } else {
@@ -114,6 +118,17 @@ public:
 
 private:
     int Below(int bound) { return static_cast<int>(random_() % static_cast<unsigned>(bound)); }
+
+    // What a tool does: another picture that differs in a box, in several, or nowhere.
+    void Stroke(IconLayer& layer) {
+        Bitmap picture = layer.Image;
+        picture.MutablePixels();
+        for (int dots = Below(4); dots > 0; --dots)
+            picture.SetPixel(Below(picture.Width()), Below(picture.Height()), random_());
+        layer.Image = picture;
+        if (Below(8) == 0)
+            layer.Rect.X += 1;
+    }
 
     Bitmap RandomPicture() {
         Bitmap picture(1 + Below(30), 1 + Below(30));
@@ -127,17 +142,61 @@ private:
 };
 
 TEST(Compositor, WhatItRemembersNeverShows) {
-    for (unsigned seed = 1; seed <= 20; ++seed) {
+    for (unsigned seed = 1; seed <= 30; ++seed) {
+        const auto interpolation = seed % 3 ? kNearest : InterpolationMode::HighQualityBilinear;
         RandomEdits edits(seed);
         Document document = PageOf(24, 20);
         Compositor compositor;
         graphics::DIBSave canvas;
         for (int step = 0; step < 150; ++step) {
             edits.Edit(document);
-            compositor.Compose(document, kNearest, canvas);
-            ASSERT_TRUE(SamePixels(canvas.new_Img, Composed(document)))
+            compositor.Compose(document, interpolation, canvas);
+            ASSERT_TRUE(SamePixels(canvas.new_Img, Composed(document, interpolation)))
                 << "seed " << seed << ", step " << step;
         }
+    }
+}
+
+TEST(Compositor, RepaintsTheBoxAroundTheDotsThatAToolSet) {
+    constexpr graphics::Argb kLayer = 0xFF204060, kDot = 0xFFFFFFFF, kSpoilt = 0xFF00FF00;
+    // Where two dots are set in the lower layer, and the box on the page that is painted again.
+    const struct {
+        std::vector<std::pair<int, int>> Dots;
+        RectI Repainted;
+    } cases[] = {
+        {{{2, 5}, {7, 3}}, {5, 2, 6, 3}},
+        {{{0, 0}, {9, 9}}, {3, 0, 10, 9}},  // row 0 lies above the page
+        {{{4, 4}}, {7, 3, 1, 1}},
+        {{{8, 2}}, {}},  // beyond what is shown of the picture
+        {{}, {}},
+    };
+    for (const auto& test : cases) {
+        Document document = PageOf(16, 12);
+        AddLayer(document, FilledPicture(10, 10, kLayer));
+        AddLayer(document, FilledPicture(16, 12, 0x40FF0000));
+        IconLayer& layer = document.Layers[0];
+        layer.Rect.X = 3;
+        layer.Rect.Y = -1;
+        if (test.Repainted.IsEmpty())
+            layer.ImageWidth = layer.Rect.Width = 6;
+        Compositor compositor;
+        graphics::DIBSave canvas;
+        compositor.Compose(document, kNearest, canvas);
+        canvas.new_Img = FilledPicture(16, 12, kSpoilt);
+
+        Bitmap drawn = FilledPicture(10, 10, kLayer);
+        for (const auto& [x, y] : test.Dots)
+            drawn.SetPixel(x, y, kDot);
+        layer.Image = drawn;
+        compositor.Compose(document, kNearest, canvas);
+
+        const Bitmap whole = Composed(document);
+        Bitmap expected = FilledPicture(16, 12, kSpoilt);
+        const RectI& box = test.Repainted;
+        for (int y = box.Y; y < box.Y + box.Height; ++y)
+            for (int x = box.X; x < box.X + box.Width; ++x)
+                expected.SetPixel(x, y, *whole.GetPixel(x, y));
+        EXPECT_TRUE(SamePixels(canvas.new_Img, expected)) << box.X << ", " << box.Width;
     }
 }
 

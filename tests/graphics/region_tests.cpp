@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <limits>
+#include <random>
 
 #include "support/pixel_runs.h"
 
@@ -189,6 +190,127 @@ TEST(Region, RectanglesComeByRowsAndAreJoinedDownwards) {
               (std::vector<RectI>{{2, 2, 1, 1}, {2, 3, 1, 1}, {5, 3, 1, 1}}));
     EXPECT_TRUE(region.Rects({100, 100, 5, 5}).empty());
     EXPECT_TRUE(region.Rects({2, 2, 0, 9}).empty());
+}
+
+// A region and, built beside it, the pixels of the window that it must have.
+struct Modelled {
+    Region Built;
+    std::vector<bool> Pixels;
+};
+
+std::vector<bool> WindowPixels(const Region& region, const RectI& within = kWindow) {
+    std::vector<bool> pixels(kWindow.Width * kWindow.Height);
+    for (const RectI& rect : region.Rects(within)) {
+        for (int y = rect.Y; y < rect.Y + rect.Height; ++y)
+            std::fill_n(pixels.begin() + y * kWindow.Width + rect.X, rect.Width, true);
+    }
+    return pixels;
+}
+
+class RandomRegions {
+public:
+    explicit RandomRegions(unsigned seed) : random_(seed) {}
+
+    int Below(int bound) { return static_cast<int>(random_() % static_cast<unsigned>(bound)); }
+
+    Modelled Shape() {
+        const RectF box{Quarters(), Quarters(), 1 + Quarters(), 1 + Quarters()};
+        Region shape = Ellipse(box);
+        if (const int kind = Below(8); kind == 0)
+            shape = Region::FromRect(box);
+        else if (kind == 1)
+            shape = Region::FromPixelRects({{2, 3, 5, 9}, {9, 3, 2, 9}});
+        else if (kind == 2)
+            shape = Region::Infinite();
+        return {shape, WindowPixels(shape)};
+    }
+
+    RectI Area() {
+        return Intersect({Below(20), Below(20), 1 + Below(20), 1 + Below(20)}, kWindow);
+    }
+
+private:
+    float Quarters() { return static_cast<float>(Below(60)) / 4; }
+
+    std::mt19937 random_;
+};
+
+void Combine(Modelled& first, const Modelled& second, CombineMode mode) {
+    first.Built.Combine(second.Built, mode);
+    for (std::size_t i = 0; i < first.Pixels.size(); ++i) {
+        const bool a = first.Pixels[i], b = second.Pixels[i];
+        first.Pixels[i] = mode == CombineMode::Union     ? a || b
+                          : mode == CombineMode::Xor     ? a != b
+                          : mode == CombineMode::Exclude ? a && !b
+                                                         : a && b;
+    }
+}
+
+TEST(Region, CombinationsHaveThePixelsOfTheirShapesInWhateverWindowAndOrder) {
+    const CombineMode modes[] = {CombineMode::Union,   CombineMode::Union,
+                                 CombineMode::Xor,     CombineMode::Intersect,
+                                 CombineMode::Exclude, CombineMode::Exclude};
+    for (unsigned seed = 1; seed <= 40; ++seed) {
+        RandomRegions random(seed);
+        // Copies share their contents; some are combined with one another, others grow on.
+        std::vector<Modelled> regions(4);
+        for (Modelled& region : regions)
+            region = random.Shape();
+        for (int step = 0; step < 120; ++step) {
+            Modelled& region = regions[random.Below(4)];
+            if (random.Below(8) == 0)
+                region = random.Below(2) ? regions[random.Below(4)] : random.Shape();
+            const Modelled operand = random.Below(4) ? random.Shape() : regions[random.Below(4)];
+            Combine(region, operand, modes[random.Below(6)]);
+
+            const RectI area = random.Below(2) ? kWindow : random.Area();
+            std::vector<bool> expected(region.Pixels.size());
+            for (int y = area.Y; y < area.Y + area.Height; ++y) {
+                for (int x = area.X; x < area.X + area.Width; ++x)
+                    expected[y * 20 + x] = region.Pixels[y * 20 + x];
+            }
+            ASSERT_EQ(WindowPixels(region.Built, area), expected) << seed << ", step " << step;
+            const int x = random.Below(20), y = random.Below(20);
+            const bool visible = region.Built.IsVisiblePoint(float(x), float(y));
+            ASSERT_EQ(visible, region.Pixels[y * 20 + x]) << seed << ", step " << step;
+        }
+    }
+}
+
+TEST(Region, ThousandsOfShapesKeepTheirNumbers) {
+    // Each too narrow for a pixel until it is scaled.
+    Region comb = Region::Empty();
+    for (int i = 0; i < 5000; ++i) {
+        Path tooth(FillMode::Alternate);
+        tooth.AddRectangle({static_cast<float>(i) + 0.25f, 0, 0.5f, 1});
+        comb.Combine(Region::FromPath(tooth), CombineMode::Union);
+    }
+    EXPECT_TRUE(comb.IsEmpty());
+    comb.Transform({.ScaleX = 4, .ScaleY = 1});
+    EXPECT_EQ(comb.Bounds(), (RectF{1, 0, 19998, 1}));
+    EXPECT_EQ(comb.Rects().size(), 5000U);
+    EXPECT_EQ(Runs(comb), "0: 1-2 5-6 9-10 13-14 17-18");
+
+    // Each time the old region is the second operand, and its copies live on.
+    std::vector<Region> kept{Region::FromRect({0, 0, 1, 1})};
+    for (int i = 1; i < 5000; ++i) {
+        Region grown = Region::FromRect({static_cast<float>(i), 0, 1, 1});
+        grown.Combine(kept.back(), CombineMode::Xor);
+        kept.push_back(grown);
+    }
+    EXPECT_EQ(kept.back().Bounds(), (RectF{0, 0, 5000, 1}));
+    EXPECT_EQ(kept[9].Bounds(), (RectF{0, 0, 10, 1}));
+}
+
+TEST(Region, ManyTallShapesAreMergedBitByBit) {
+    Region fence = Region::Empty();
+    for (int i = 0; i < 80; ++i) {
+        Path pale(FillMode::Alternate);
+        pale.AddRectangle({static_cast<float>(i * 3), -15000, 2, 30000});
+        fence.Combine(Region::FromPath(pale), CombineMode::Union);
+    }
+    EXPECT_EQ(fence.Rects().size(), 80U);
+    EXPECT_EQ(fence.Bounds(), (RectF{0, -15000, 239, 30000}));
 }
 
 TEST(Region, HostileNumbersAndEndlessCombinationsAreHarmless) {
