@@ -36,12 +36,10 @@ void WritePng(const graphics::Bitmap& image, const std::filesystem::path& path) 
     graphics::WriteFile(path, graphics::EncodePng(image));
 }
 
-Action ReadInfo(Words&) {
-    return [](Workspace& workspace) {
-        RequireDocument(workspace);
-        workspace.Output << DescribeDocument(workspace.Editor) << '\n';
-        CheckOutput(workspace);
-    };
+void Info(Workspace& workspace) {
+    RequireDocument(workspace);
+    workspace.Output << DescribeDocument(workspace.Editor) << '\n';
+    CheckOutput(workspace);
 }
 
 Action ReadRegion(Words& words) {
@@ -61,34 +59,30 @@ Action ReadWriteLayer(Words& words) {
     };
 }
 
-Action ReadWritePage(Words& words) {
-    return [path = words.Path("PATH")](Workspace& workspace) {
-        RequireDocument(workspace);
-        WritePng(workspace.Editor.Canvas.new_Img, path);
-    };
+void WritePage(Workspace& workspace, const std::filesystem::path& path) {
+    RequireDocument(workspace);
+    WritePng(workspace.Editor.Canvas.new_Img, path);
 }
 
-Action ReadWriteScene(Words& words) {
-    return [path = words.Path("PATH")](Workspace& workspace) {
-        RequireDocument(workspace);
-        editing::Editor& editor = workspace.Editor;
-        // A view as it is made has the window's scene and its scroll bars in the middle.
-        const document::View before = std::exchange(editor.View, {});
-        editor.View.Zoom = workspace.Zoom;
-        editor.View.ViewActive = true;
-        editing::DrawScene(editor);
-        editor.View = before;
-        WritePng(editor.Scene, path);
-    };
+void WriteScene(Workspace& workspace, const std::filesystem::path& path) {
+    RequireDocument(workspace);
+    editing::Editor& editor = workspace.Editor;
+    // A view as it is made has the window's scene and its scroll bars in the middle.
+    const document::View before = std::exchange(editor.View, {});
+    editor.View.Zoom = workspace.Zoom;
+    editor.View.ViewActive = true;
+    editing::DrawScene(editor);
+    editor.View = before;
+    WritePng(editor.Scene, path);
 }
 
 constexpr Verb kVerbs[] = {
-    {"info", "", "print the document as one JSON object on one line", ReadInfo},
+    {"info", "", "print the document as one JSON object on one line", ReadNothing<Info>},
     {"region", "N", "print layer N's region: a line 'y x0 x1' for each run of pixels", ReadRegion},
     {"write-layer", "N PATH", "write layer N's own pixels as a PNG", ReadWriteLayer},
-    {"write-page", "PATH", "write the composed page as a PNG", ReadWritePage},
+    {"write-page", "PATH", "write the composed page as a PNG", ReadPath<WritePage>},
     {"write-scene", "PATH", "write the scene as the window shows it, 1024 by 768, as a PNG",
-     ReadWriteScene},
+     ReadPath<WriteScene>},
 };
 
 }  // namespace

@@ -10,8 +10,8 @@ namespace {
 
 constexpr std::size_t kHelpColumn = 36;
 
-std::array<std::span<const Verb>, 4> Topics() {
-    return {FileVerbs(), PageVerbs(), LayerVerbs(), ReportVerbs()};
+std::array<std::span<const Verb>, 5> Topics() {
+    return {FileVerbs(), PageVerbs(), LayerVerbs(), StackVerbs(), ReportVerbs()};
 }
 
 std::string Describe(const Call& call, std::string problem) {
