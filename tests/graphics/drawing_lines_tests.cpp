@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
 
@@ -353,6 +354,19 @@ TEST_F(DrawingLinesTest, WideCirclesAreRings) {
                 }
             }
         }
+    }
+}
+
+// A pixel's centre on the right or bottom edge is outside, and on the top edge nothing is wide.
+TEST_F(DrawingLinesTest, WideCirclesHaveNoSpikes) {
+    for (float radius : {1, 3, 6, 9}) {
+        context_.Clear(0);
+        context_.DrawEllipse(BlackPen(8), {16 - radius, 16 - radius, 2 * radius, 2 * radius});
+        const int reach = static_cast<int>(radius) + 4;
+        EXPECT_EQ(bitmap_.GetPixel(16 + reach, 16), 0U) << radius;
+        EXPECT_EQ(bitmap_.GetPixel(16, 16 + reach), 0U) << radius;
+        EXPECT_EQ(bitmap_.GetPixel(16, 16 - reach), 0U) << radius;
+        EXPECT_EQ(bitmap_.GetPixel(16, 17 - reach), kBlack) << radius;
     }
 }
 
