@@ -25,8 +25,8 @@ void RequireVisibleLayer(const Workspace& workspace) {
         throw Failure("the selected layer is hidden");
 }
 
-// Of the entries that wait for a visible layer that clips no other; only the order has a place to
-// be at besides.
+// For the entries that wait for a visible layer that clips no other. Only those of the order may be
+// disabled besides.
 void RequireEntry(Workspace& workspace, Entry entry) {
     if (IsEnabled(workspace, entry))
         return;
