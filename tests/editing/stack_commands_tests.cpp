@@ -247,6 +247,15 @@ TEST_F(StackCommands, MergeBlendsBothLayersInTheBoxOfBoth) {
     EXPECT_EQ(Layer(2).Hue, 70);
 }
 
+TEST_F(StackCommands, AMergedLayerCanBePickedThoughTheLowerOneWasEmpty) {
+    NewPage(8, 8);
+    AddLayer(FilledPicture(2, 2, kBlue), {1, 1, 2, 2}).Region =
+        graphics::Region::FromRect({0, 1, 2, 2});
+    SelectLayer(editor, 1);
+    CombineIcon(editor);
+    EXPECT_EQ(Layer(0).Region.Bounds(), (RectF{0, 1, 2, 2}));
+}
+
 TEST_F(StackCommands, MergeNeedsALayerBelow) {
     NewStack(2, 0);
     CombineIcon(editor);
