@@ -112,10 +112,7 @@ Action ReadContrast(Words& words) {
 }
 
 Action ReadStyle(Words& words) {
-    std::vector<std::string_view> names;
-    for (const Style& style : kStyles)
-        names.push_back(style.Name);
-    return [&style = kStyles[words.Choice("NAME", names)]](Workspace& workspace) {
+    return [&style = words.Entry("NAME", kStyles)](Workspace& workspace) {
         Editor& editor = workspace.Editor;
         editing::OpenStyleMenu(editor);
         if (!(editor.Controls.*style.Entry).Enabled) {

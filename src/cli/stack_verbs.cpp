@@ -69,15 +69,15 @@ void Paste(Workspace& workspace) {
 }
 
 Action ReadOrder(Words& words) {
-    static constexpr std::string_view kNames[] = {"front", "back", "forward", "backward"};
     static constexpr struct {
+        std::string_view Name;
         Entry State;
         LayerOrder Order;
-    } kOrders[] = {{&Controls::m_ToFront, LayerOrder::ToFront},
-                   {&Controls::m_ToBack, LayerOrder::ToBack},
-                   {&Controls::m_FowardOne, LayerOrder::FowardOne},
-                   {&Controls::m_BackOne, LayerOrder::BackOne}};
-    return [&order = kOrders[words.Choice("ORDER", kNames)]](Workspace& workspace) {
+    } kOrders[] = {{"front", &Controls::m_ToFront, LayerOrder::ToFront},
+                   {"back", &Controls::m_ToBack, LayerOrder::ToBack},
+                   {"forward", &Controls::m_FowardOne, LayerOrder::FowardOne},
+                   {"backward", &Controls::m_BackOne, LayerOrder::BackOne}};
+    return [&order = words.Entry("ORDER", kOrders)](Workspace& workspace) {
         RequireEntry(workspace, order.State);
         editing::SetLayerOrder(workspace.Editor, order.Order);
     };
