@@ -1,9 +1,11 @@
 #include <benchmark/benchmark.h>
 
+#include <cmath>
 #include <random>
 
 #include "graphics/bitmap.h"
 #include "graphics/blend.h"
+#include "graphics/drawing_context.h"
 #include "graphics/image_drawing.h"
 
 namespace orbelle {
@@ -84,6 +86,76 @@ void DrawZoomed(benchmark::State& state) {
     CountPixels(state, 1600 * 1000);
 }
 BENCHMARK(DrawZoomed);
+
+// A stroke of 500 points: `reach` pixels to either side of the middle, in loops like a hand's.
+std::vector<PointF> Loops(float reach) {
+    std::vector<PointF> points;
+    for (int i = 0; i < 500; ++i) {
+        const float angle = static_cast<float>(i) / 500 * 6.2832F;
+        points.push_back({256 + reach * std::cos(3 * angle), 256 + reach * std::sin(5 * angle)});
+    }
+    return points;
+}
+
+// Every segment crosses the page.
+std::vector<PointF> Scattered() {
+    std::mt19937 random(7);
+    std::vector<PointF> points(500);
+    for (PointF& point : points)
+        point = {static_cast<float>(random() % kSide), static_cast<float>(random() % kSide)};
+    return points;
+}
+
+void DrawPolyline(benchmark::State& state, const std::vector<PointF>& points, float width,
+                  SmoothingMode smoothing) {
+    Bitmap target(kSide, kSide);
+    DrawingContext context(target);
+    context.SetSmoothingMode(smoothing);
+    for (auto _ : state)
+        context.DrawLines({SolidBrush{0x80204060}, width}, points);
+}
+BENCHMARK_CAPTURE(DrawPolyline, loops_hard, Loops(240), 1, SmoothingMode::None);
+BENCHMARK_CAPTURE(DrawPolyline, loops_smooth, Loops(240), 1, SmoothingMode::AntiAlias);
+BENCHMARK_CAPTURE(DrawPolyline, loops_smooth_20, Loops(240), 20, SmoothingMode::AntiAlias);
+BENCHMARK_CAPTURE(DrawPolyline, dense_hard, Loops(30), 1, SmoothingMode::None);
+BENCHMARK_CAPTURE(DrawPolyline, dense_smooth, Loops(30), 1, SmoothingMode::AntiAlias);
+BENCHMARK_CAPTURE(DrawPolyline, scattered_hard, Scattered(), 1, SmoothingMode::None);
+BENCHMARK_CAPTURE(DrawPolyline, scattered_smooth, Scattered(), 1, SmoothingMode::AntiAlias);
+BENCHMARK_CAPTURE(DrawPolyline, across_smooth_20, {{6, 30}, {500, 460}}, 20,
+                  SmoothingMode::AntiAlias);
+
+const RectF kBigEllipse{6, 6, 500, 500};
+
+Brush RadialBrush() {
+    Path path(FillMode::Winding);
+    path.AddEllipse(kBigEllipse);
+    return *CreatePathGradientFromPath(path, 0x80204060, {256, 256}, 0xFFC0A010);
+}
+
+void FillBigEllipse(benchmark::State& state, const Brush& brush, SmoothingMode smoothing) {
+    Bitmap target(kSide, kSide);
+    DrawingContext context(target);
+    context.SetSmoothingMode(smoothing);
+    for (auto _ : state)
+        context.FillEllipse(brush, kBigEllipse);
+}
+const LinearGradientBrush kAcross{kBigEllipse, 0x80204060, 0xFFC0A010};
+BENCHMARK_CAPTURE(FillBigEllipse, solid_hard, SolidBrush{0x80204060}, SmoothingMode::None);
+BENCHMARK_CAPTURE(FillBigEllipse, solid_smooth, SolidBrush{0x80204060}, SmoothingMode::AntiAlias);
+BENCHMARK_CAPTURE(FillBigEllipse, linear_hard, kAcross, SmoothingMode::None);
+BENCHMARK_CAPTURE(FillBigEllipse, linear_smooth, kAcross, SmoothingMode::AntiAlias);
+BENCHMARK_CAPTURE(FillBigEllipse, radial_hard, RadialBrush(), SmoothingMode::None);
+BENCHMARK_CAPTURE(FillBigEllipse, radial_smooth, RadialBrush(), SmoothingMode::AntiAlias);
+
+void DrawBigEllipse(benchmark::State& state, const Brush& brush, SmoothingMode smoothing) {
+    Bitmap target(kSide, kSide);
+    DrawingContext context(target);
+    context.SetSmoothingMode(smoothing);
+    for (auto _ : state)
+        context.DrawEllipse({brush, 20}, kBigEllipse);
+}
+BENCHMARK_CAPTURE(DrawBigEllipse, radial_hard, RadialBrush(), SmoothingMode::None);
+BENCHMARK_CAPTURE(DrawBigEllipse, radial_smooth, RadialBrush(), SmoothingMode::AntiAlias);
 
 }  // namespace
 }  // namespace orbelle

@@ -28,21 +28,6 @@ BENCHMARK(DrawSelection)
     ->ArgsProduct({{1, 200, 5000}, {1, 8, 20}})
     ->Unit(benchmark::kMillisecond);
 
-// A shape joins as many others, and the frame around the selection is asked for.
-void AddShapeToSelection(benchmark::State& state) {
-    ClsFilters selection = SelectionOfEllipses(static_cast<int>(state.range(0)));
-    for (auto _ : state) {
-        ClsFilters grown = selection;
-        grown.SetCropDatas(300, 290, 200, 200, filters::CropShape::Ellipse);
-        benchmark::DoNotOptimize(grown.GetRegionRect());
-    }
-}
-BENCHMARK(AddShapeToSelection)
-    ->ArgName("shapes")
-    ->Arg(200)
-    ->Arg(5000)
-    ->Unit(benchmark::kMicrosecond);
-
 // All shapes of a selection one by one.
 void BuildSelection(benchmark::State& state) {
     for (auto _ : state)

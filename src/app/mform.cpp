@@ -1,5 +1,6 @@
 #include "app/mform.h"
 
+#include <QClipboard>
 #include <QCloseEvent>
 #include <QColorDialog>
 #include <QFile>
@@ -79,6 +80,12 @@ mForm::mForm() {
     statusBar()->hide();
     connect(statusBar(), &QStatusBar::messageChanged, this,
             [this](const QString& text) { statusBar()->setVisible(!text.isEmpty()); });
+
+    clipboardHasPicture_ = SystemClipboardHasPicture();
+    connect(QGuiApplication::clipboard(), &QClipboard::dataChanged, this, [this] {
+        clipboardHasPicture_ = SystemClipboardHasPicture();
+        ControlsChanged();
+    });
 
     mForm::SceneChanged();
     mForm::ControlsChanged();
@@ -256,7 +263,7 @@ void mForm::SetClipboard(const graphics::Bitmap& picture, const std::string& tex
 }
 
 bool mForm::ClipboardHasPicture() {
-    return SystemClipboardHasPicture();
+    return clipboardHasPicture_;
 }
 
 graphics::Bitmap mForm::ClipboardPicture() {

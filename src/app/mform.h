@@ -68,6 +68,7 @@ private:
     QScrollBar* vs1_ = nullptr;
     QTimer zoomTimer_;
     int busyPointers_ = 0;
+    bool clipboardHasPicture_ = false;  // kept, as every change of the controls asks for it
     std::unique_ptr<MainMenu> menu_;
 };
 

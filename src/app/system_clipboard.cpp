@@ -5,7 +5,6 @@
 #include <QImage>
 #include <QMimeData>
 #include <algorithm>
-#include <optional>
 
 namespace orbelle::app {
 
@@ -21,17 +20,9 @@ void SetSystemClipboard(const graphics::Bitmap& picture, const std::string& text
     QGuiApplication::clipboard()->setMimeData(data);
 }
 
-// Asked at every change of the controls, while the answer may take another program to give.
 bool SystemClipboardHasPicture() {
-    static std::optional<bool> remembered;
-    if (!remembered) {
-        const QClipboard* clipboard = QGuiApplication::clipboard();
-        const QMimeData* data = clipboard->mimeData();
-        remembered = data && data->hasImage();
-        static const QMetaObject::Connection forget = QObject::connect(
-            clipboard, &QClipboard::dataChanged, clipboard, [] { remembered.reset(); });
-    }
-    return *remembered;
+    const QMimeData* data = QGuiApplication::clipboard()->mimeData();
+    return data && data->hasImage();
 }
 
 graphics::Bitmap SystemClipboardPicture() {

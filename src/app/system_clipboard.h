@@ -9,7 +9,7 @@ namespace orbelle::app {
 
 // An empty picture leaves only the text.
 void SetSystemClipboard(const graphics::Bitmap& picture, const std::string& text);
-// Cheap: remembered until the clipboard changes.
+// May take another program to answer.
 bool SystemClipboardHasPicture();
 // Empty: none that can be read, or one too large for a bitmap.
 graphics::Bitmap SystemClipboardPicture();

@@ -53,18 +53,14 @@ Action ReadNew(Words& words) {
     };
 }
 
-Action ReadOpen(Words& words) {
-    return [path = words.Path("PATH")](Workspace& workspace) {
-        workspace.Host.File = path;
-        editing::Open(workspace.Editor);
-    };
+void Open(Workspace& workspace, const fs::path& path) {
+    workspace.Host.File = path;
+    editing::Open(workspace.Editor);
 }
 
-Action ReadImport(Words& words) {
-    return [path = words.Path("PATH")](Workspace& workspace) {
-        workspace.Host.File = path;
-        editing::Import(workspace.Editor);
-    };
+void Import(Workspace& workspace, const fs::path& path) {
+    workspace.Host.File = path;
+    editing::Import(workspace.Editor);
 }
 
 Action ReadIconEntry(Words& words) {
@@ -72,13 +68,11 @@ Action ReadIconEntry(Words& words) {
         [entry = words.Integer("K", 0)](Workspace& workspace) { workspace.Host.IconEntry = entry; };
 }
 
-Action ReadSave(Words& words) {
-    return [path = words.Path("PATH")](Workspace& workspace) {
-        editing::OpenFileMenu(workspace.Editor);
-        RequireEntry(workspace, workspace.Editor.Controls.menu_SaveAs);
-        workspace.Host.File = path;
-        editing::SaveAs(workspace.Editor);
-    };
+void Save(Workspace& workspace, const fs::path& path) {
+    editing::OpenFileMenu(workspace.Editor);
+    RequireEntry(workspace, workspace.Editor.Controls.menu_SaveAs);
+    workspace.Host.File = path;
+    editing::SaveAs(workspace.Editor);
 }
 
 Action ReadExport(Words& words) {
@@ -125,11 +119,12 @@ Action ReadGifThreshold(Words& words) {
 
 constexpr Verb kVerbs[] = {
     {"new", "W H", "a page of that size (1 to 512) with one empty layer", ReadNew},
-    {"open", "PATH", "a .volf document, or a picture that becomes the page", ReadOpen},
-    {"import", "PATH", "a picture as a new layer, or as the page when there is none", ReadImport},
+    {"open", "PATH", "a .volf document, or a picture that becomes the page", ReadPath<Open>},
+    {"import", "PATH", "a picture as a new layer, or as the page when there is none",
+     ReadPath<Import>},
     {"icon-entry", "K", "the image (from 0) that the next open or import of an .ico takes",
      ReadIconEntry},
-    {"save", "PATH", "write the document as a .volf file", ReadSave},
+    {"save", "PATH", "write the document as a .volf file", ReadPath<Save>},
     {"export", "PATH", "write the page as .ico .png .gif .jpg .jpeg or .bmp", ReadExport},
     {"combine", "OUT.ico PNG...", "one to seven PNG files into one icon file", ReadCombine},
     {"icon-sizes", "N N...", "sizes (1 to 256) of the icons exported from here on", ReadIconSizes},

@@ -49,12 +49,10 @@ Action ReadSelect(Words& words) {
     };
 }
 
-Action ReadAddLayer(Words&) {
-    return [](Workspace& workspace) {
-        if (!workspace.Editor.Controls.ToolBarvs4[layer_buttons::Add].Enabled)
-            throw Failure("there is no document");
-        editing::AddLayerCommand(workspace.Editor);
-    };
+void AddLayer(Workspace& workspace) {
+    if (!workspace.Editor.Controls.ToolBarvs4[layer_buttons::Add].Enabled)
+        throw Failure("there is no document");
+    editing::AddLayerCommand(workspace.Editor);
 }
 
 // A slider, and the three parts of a drag.
@@ -114,10 +112,7 @@ Action ReadContrast(Words& words) {
 }
 
 Action ReadStyle(Words& words) {
-    std::vector<std::string_view> names;
-    for (const Style& style : kStyles)
-        names.push_back(style.Name);
-    return [&style = kStyles[words.Choice("NAME", names)]](Workspace& workspace) {
+    return [&style = words.Entry("NAME", kStyles)](Workspace& workspace) {
         Editor& editor = workspace.Editor;
         editing::OpenStyleMenu(editor);
         if (!(editor.Controls.*style.Entry).Enabled) {
@@ -128,25 +123,21 @@ Action ReadStyle(Words& words) {
     };
 }
 
-Action ReadUndo(Words&) {
-    return [](Workspace& workspace) {
-        if (!workspace.Editor.Controls.ToolBarvs1[main_buttons::Undo].Enabled)
-            throw Failure("there is nothing to undo");
-        editing::Undo(workspace.Editor);
-    };
+void Undo(Workspace& workspace) {
+    if (!workspace.Editor.Controls.ToolBarvs1[main_buttons::Undo].Enabled)
+        throw Failure("there is nothing to undo");
+    editing::Undo(workspace.Editor);
 }
 
-Action ReadRedo(Words&) {
-    return [](Workspace& workspace) {
-        if (!workspace.Editor.Controls.ToolBarvs1[main_buttons::Redo].Enabled)
-            throw Failure("there is nothing to redo");
-        editing::Redo(workspace.Editor);
-    };
+void Redo(Workspace& workspace) {
+    if (!workspace.Editor.Controls.ToolBarvs1[main_buttons::Redo].Enabled)
+        throw Failure("there is nothing to redo");
+    editing::Redo(workspace.Editor);
 }
 
 constexpr Verb kVerbs[] = {
     {"select", "N", "click on the row of layer N; 0 is the bottom", ReadSelect},
-    {"add-layer", "", "an empty layer above the selected one", ReadAddLayer},
+    {"add-layer", "", "an empty layer above the selected one", ReadNothing<AddLayer>},
     {"opacity", "V...", "one drag of the opacity slider through each V (0 to 100)", ReadOpacity},
     {"scale", "V...", "one drag of the scale slider (0 to 100, 50 is rest)", ReadScale},
     {"hue", "V...", "one drag of the hue slider (0 to 100)", ReadHue},
@@ -157,8 +148,8 @@ constexpr Verb kVerbs[] = {
      "disabled hot fresh ios origami-vertical origami-horizontal mac vista crystal blur sharpen "
      "irradiation shade reflection shadow",
      ReadStyle},
-    {"undo", "", "take back one step", ReadUndo},
-    {"redo", "", "do again what was taken back", ReadRedo},
+    {"undo", "", "take back one step", ReadNothing<Undo>},
+    {"redo", "", "do again what was taken back", ReadNothing<Redo>},
 };
 
 }  // namespace

@@ -35,12 +35,10 @@ void WritePng(const graphics::Bitmap& image, const std::filesystem::path& path) 
     graphics::WriteFile(path, graphics::EncodePng(image));
 }
 
-Action ReadInfo(Words&) {
-    return [](Workspace& workspace) {
-        RequireDocument(workspace);
-        workspace.Output << DescribeDocument(workspace.Editor) << '\n';
-        CheckOutput(workspace);
-    };
+void Info(Workspace& workspace) {
+    RequireDocument(workspace);
+    workspace.Output << DescribeDocument(workspace.Editor) << '\n';
+    CheckOutput(workspace);
 }
 
 Action ReadRegion(Words& words) {
@@ -50,14 +48,12 @@ Action ReadRegion(Words& words) {
     };
 }
 
-Action ReadSelection(Words&) {
-    return [](Workspace& workspace) {
-        RequireDocument(workspace);
-        const filters::ClsFilters& selection = workspace.Editor.Filters;
-        if (selection.SelectionOK())
-            PrintRuns(workspace.Output, selection.CropRegion.Rects());
-        CheckOutput(workspace);
-    };
+void PrintSelection(Workspace& workspace) {
+    RequireDocument(workspace);
+    const filters::ClsFilters& selection = workspace.Editor.Filters;
+    if (selection.SelectionOK())
+        PrintRuns(workspace.Output, selection.CropRegion.Rects());
+    CheckOutput(workspace);
 }
 
 Action ReadWriteLayer(Words& words) {
@@ -70,31 +66,26 @@ Action ReadWriteLayer(Words& words) {
     };
 }
 
-Action ReadWritePage(Words& words) {
-    return [path = words.Path("PATH")](Workspace& workspace) {
-        RequireDocument(workspace);
-        WritePng(workspace.Editor.Canvas.new_Img, path);
-    };
+void WritePage(Workspace& workspace, const std::filesystem::path& path) {
+    RequireDocument(workspace);
+    WritePng(workspace.Editor.Canvas.new_Img, path);
 }
 
-Action ReadWriteScene(Words& words) {
-    return [path = words.Path("PATH")](Workspace& workspace) {
-        RequireDocument(workspace);
-        editing::Editor& editor = workspace.Editor;
-        const WindowView view(workspace);
-        editing::DrawScene(editor);
-        WritePng(editor.Scene, path);
-    };
+void WriteScene(Workspace& workspace, const std::filesystem::path& path) {
+    RequireDocument(workspace);
+    const WindowView view(workspace);
+    editing::DrawScene(workspace.Editor);
+    WritePng(workspace.Editor.Scene, path);
 }
 
 constexpr Verb kVerbs[] = {
-    {"info", "", "print the document as one JSON object on one line", ReadInfo},
+    {"info", "", "print the document as one JSON object on one line", ReadNothing<Info>},
     {"region", "N", "print layer N's region: a line 'y x0 x1' for each run of pixels", ReadRegion},
-    {"selection", "", "print the selection's region in the same form", ReadSelection},
+    {"selection", "", "print the selection's region in the same form", ReadNothing<PrintSelection>},
     {"write-layer", "N PATH", "write layer N's own pixels as a PNG", ReadWriteLayer},
-    {"write-page", "PATH", "write the composed page as a PNG", ReadWritePage},
+    {"write-page", "PATH", "write the composed page as a PNG", ReadPath<WritePage>},
     {"write-scene", "PATH", "write the scene as the window shows it, 1024 by 768, as a PNG",
-     ReadWriteScene},
+     ReadPath<WriteScene>},
 };
 
 }  // namespace

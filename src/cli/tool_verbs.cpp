@@ -88,10 +88,7 @@ Action ReadBrushOpacity(Words& words) {
 }
 
 Action ReadTool(Words& words) {
-    std::vector<std::string_view> names;
-    for (const ToolName& tool : kTools)
-        names.push_back(tool.Name);
-    return [&tool = kTools[words.Choice("NAME", names)]](Workspace& workspace) {
+    return [&tool = words.Entry("NAME", kTools)](Workspace& workspace) {
         Editor& editor = workspace.Editor;
         if (!editor.Controls.ToolBarvs2[static_cast<std::size_t>(tool.Button)].Enabled)
             throw Failure("there is no document");

@@ -10,8 +10,9 @@ namespace {
 
 constexpr std::size_t kHelpColumn = 36;
 
-std::array<std::span<const Verb>, 6> Topics() {
-    return {FileVerbs(), PageVerbs(), LayerVerbs(), ToolVerbs(), PointerVerbs(), ReportVerbs()};
+std::array<std::span<const Verb>, 7> Topics() {
+    return {FileVerbs(), PageVerbs(),    LayerVerbs(), StackVerbs(),
+            ToolVerbs(), PointerVerbs(), ReportVerbs()};
 }
 
 std::string Describe(const Call& call, std::string problem) {

@@ -1,6 +1,7 @@
 // The verbs, and how words become calls of them.
 #pragma once
 
+#include <filesystem>
 #include <functional>
 #include <span>
 #include <string>
@@ -22,12 +23,25 @@ struct Verb {
     Action (*Read)(Words& arguments);  // throws UsageError; changes nothing
 };
 
+// The Read of a verb without arguments.
+template <void (*kRun)(Workspace&)>
+Action ReadNothing(Words&) {
+    return kRun;
+}
+
+// The Read of a verb whose one argument is the path of a file.
+template <void (*kRun)(Workspace&, const std::filesystem::path&)>
+Action ReadPath(Words& arguments) {
+    return [path = arguments.Path("PATH")](Workspace& workspace) { kRun(workspace, path); };
+}
+
 // By topic, in the order of the help.
 std::span<const Verb> FileVerbs();
 std::span<const Verb> PageVerbs();
 std::span<const Verb> LayerVerbs();
 std::span<const Verb> ToolVerbs();
 std::span<const Verb> PointerVerbs();
+std::span<const Verb> StackVerbs();
 std::span<const Verb> ReportVerbs();
 
 // Null when there is none of that name.

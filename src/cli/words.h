@@ -6,6 +6,7 @@
 #include <span>
 #include <stdexcept>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "graphics/color.h"
@@ -56,6 +57,15 @@ public:
 
     // The place of the word in the list.
     std::size_t Choice(const char* name, std::span<const std::string_view> choices);
+
+    // The entry of the list with the word as its Name.
+    template <typename Named, std::size_t kCount>
+    const Named& Entry(const char* name, const Named (&list)[kCount]) {
+        std::vector<std::string_view> names;
+        for (const Named& entry : list)
+            names.push_back(entry.Name);
+        return list[Choice(name, names)];
+    }
 
 private:
     std::span<const std::string> words_;

@@ -98,7 +98,11 @@ IconLayer Merged(const IconLayer& upper, const IconLayer& lower) {
     merged.Opacity = 1;
     merged.ScaleValue = 0;
     merged.Visible = true;
-    merged.Region.Combine(upper.Region, graphics::CombineMode::Union);
+    // A layer that nothing was drawn on yet has no region to unite with.
+    if (merged.Region.IsNull())
+        merged.Region = upper.Region;
+    else
+        merged.Region.Combine(upper.Region, graphics::CombineMode::Union);
     ResetLayerAdjust(merged);
     return merged;
 }

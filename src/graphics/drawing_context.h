@@ -65,7 +65,7 @@ private:
     double Offset() const;
     // By centres or by coverage, as the smoothing says.
     void FillFigures(const Brush& brush, std::span<const FlatFigure> figures, FillMode fillMode);
-    void DrawFigure(const Pen& pen, const FlatFigure& figure);
+    void DrawFigure(const Pen& pen, const FlatFigure& figure, LineJoin join);
 
     Bitmap& target_;
     Region clip_ = Region::Infinite();

@@ -21,6 +21,9 @@ enum class CombineMode { Replace = 0, Intersect = 1, Union = 2, Xor = 3, Exclude
 
 enum class FillMode { Alternate = 0, Winding = 1 };
 
+// Round also for lines that stand for a curve, whose corners are none.
+enum class LineJoin { Miter = 0, Round = 2 };
+
 enum class WrapMode { Tile = 0, TileFlipX = 1, TileFlipY = 2, TileFlipXY = 3 };
 
 enum class LinearGradientMode { Horizontal = 0, Vertical = 1 };

@@ -23,33 +23,33 @@ std::vector<Argb> ColorTable(Argb centerColor, Argb surroundColor) {
 // the centre, kSteps on the edge.
 class EdgeDistance {
 public:
-    EdgeDistance(PointF center, PointF start, PointF end)
-        : centerX_(center.X),
-          centerY_(center.Y),
-          dx_(double{end.X} - start.X),
-          dy_(double{end.Y} - start.Y),
-          area_((start.X - centerX_) * dy_ - (start.Y - centerY_) * dx_) {}
+    EdgeDistance(PointF center, PointF start, PointF end) : centerX_(center.X), centerY_(center.Y) {
+        const double dx = double{end.X} - start.X, dy = double{end.Y} - start.Y;
+        const double area = (start.X - centerX_) * dy - (start.Y - centerY_) * dx;
+        isFlat_ = area == 0;
+        perColumn_ = kSteps * dy / area;
+        perRow_ = kSteps * -dx / area;
+    }
 
-    bool IsFlat() const { return area_ == 0; }
+    bool IsFlat() const { return isFlat_; }
 
     // Sets the colours of a run of one row, `colors` pointing at the first.
     void Paint(Argb* colors, const RectI& run, double offset,
                const std::vector<Argb>& table) const {
         // From column 0 on and not from the run's start: a pixel's colour must not depend on where
         // the painted area begins.
-        const double perColumn = kSteps * dy_ / area_;
         const double atColumn0 =
-            ((offset - centerX_) * dy_ - (run.Y + offset - centerY_) * dx_) * kSteps / area_ + 0.5;
+            (offset - centerX_) * perColumn_ + (run.Y + offset - centerY_) * perRow_ + 0.5;
         for (int i = 0; i < run.Width; ++i) {
-            const double step = atColumn0 + (run.X + i) * perColumn;
+            const double step = atColumn0 + (run.X + i) * perColumn_;
             colors[i] = table[static_cast<int>(std::clamp(step, 0.0, double{kSteps}))];
         }
     }
 
 private:
     double centerX_, centerY_;
-    double dx_, dy_;
-    double area_;  // twice the triangle's
+    double perColumn_, perRow_;
+    bool isFlat_;
 };
 
 // Sets the pixels of `area` that no run covers to 0; the runs come by y and then x.

@@ -1,11 +1,15 @@
 #include <gmock/gmock.h>
 
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QImage>
 #include <QMenuBar>
 #include <algorithm>
 #include <set>
 
 #include "app/mform.h"
 #include "editing/document_commands.h"
+#include "editing/layer_commands.h"
 #include "editing/style_commands.h"
 
 namespace orbelle::app {
@@ -34,6 +38,8 @@ std::string Caption(const QAction& action) {
 
 class MainMenuTest : public ::testing::Test {
 protected:
+    MainMenuTest() { QGuiApplication::clipboard()->clear(); }
+
     QMenu& Menu(const char* name) { return *form.findChild<QMenu*>(name); }
 
     std::vector<std::string> Captions(const char* menu) {
@@ -94,18 +100,82 @@ TEST_F(MainMenuTest, EntriesAreEnabledOnlyWhileTheirCommandCanRun) {
     emit Menu("menu_File").aboutToShow();
     EXPECT_THAT(
         EnabledNames(),
-        ElementsAre("m_Blur", "m_Crystal", "m_Disabled", "m_Exit", "m_Export", "m_ExportFormat0",
-                    "m_ExportFormat1", "m_ExportFormat2", "m_ExportFormat3", "m_ExportFormat4",
-                    "m_Hot", "m_Import", "m_Irradiation", "m_Macstyle", "m_New", "m_Open",
-                    "m_Reflection", "m_Save", "m_Shade", "m_Shadow", "m_Sharpen", "m_Vistastyle",
-                    "m_freshstyle", "m_iosstyle", "m_origamistyle", "m_origamistylelevel0",
-                    "m_origamistylelevel1", "menu_SaveAs"));
+        ElementsAre("m_90CW", "m_90CWW", "m_Blur", "m_Copy", "m_Crystal", "m_Cut", "m_Del",
+                    "m_Disabled", "m_Exit", "m_Export", "m_ExportFormat0", "m_ExportFormat1",
+                    "m_ExportFormat2", "m_ExportFormat3", "m_ExportFormat4", "m_Hot", "m_Import",
+                    "m_Irradiation", "m_Macstyle", "m_New", "m_Open", "m_Reflection", "m_Save",
+                    "m_Shade", "m_Shadow", "m_Sharpen", "m_Vistastyle", "m_freshstyle",
+                    "m_iosstyle", "m_origamistyle", "m_origamistylelevel0", "m_origamistylelevel1",
+                    "menu_FlipH", "menu_FlipV", "menu_SaveAs"));
 
     form.Run(editing::Crystal);
     EXPECT_EQ(EnabledNames().count("m_Undo"), 1u);
     EXPECT_EQ(EnabledNames().count("m_Redo"), 0u);
     Menu("menu_Edit").actions().constFirst()->trigger();
     EXPECT_EQ(EnabledNames().count("m_Redo"), 1u);
+}
+
+TEST_F(MainMenuTest, ThePasteEntryFollowsTheSystemsClipboard) {
+    const auto choose = [&](const char* name) { form.findChild<QAction*>(name)->trigger(); };
+    form.Run([](editing::Editor& editor) {
+        ResetDocument(editor, 3, 2, true);
+        editor.DocumentExists = true;
+        editor.Document.Selected().Image.SetPixel(1, 1, 0x80FF8040);
+        editor.Host.ControlsChanged();
+    });
+    EXPECT_EQ(EnabledNames().count("m_Paste"), 0u);
+    choose("m_Copy");
+    EXPECT_EQ(EnabledNames().count("m_Paste"), 1u);
+    const QImage copied = QGuiApplication::clipboard()->image();
+    EXPECT_EQ(copied.size(), QSize(3, 2));
+    EXPECT_EQ(copied.pixel(1, 1), 0x80FF8040);
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), "Orbelle");
+    choose("m_Paste");
+    EXPECT_EQ(form.Editor().Document.Layers.at(1).Image.GetPixel(1, 1), 0x80FF8040);
+
+    // Another program copies a picture, and then a text.
+    QImage other(1, 1, QImage::Format_ARGB32);
+    other.fill(0xFF102030);
+    QGuiApplication::clipboard()->setImage(other);
+    choose("m_Paste");
+    EXPECT_EQ(form.Editor().Document.Selected().Image.GetPixel(0, 0), 0xFF102030);
+    QGuiApplication::clipboard()->setText("words");
+    EXPECT_EQ(EnabledNames().count("m_Paste"), 0u);
+}
+
+TEST_F(MainMenuTest, EntriesOfTheStackRunTheCommandOfTheirName) {
+    const auto choose = [&](const char* name) { form.findChild<QAction*>(name)->trigger(); };
+    form.Run([](editing::Editor& editor) {
+        ResetDocument(editor, 2, 2, true);
+        editor.DocumentExists = true;
+        AddLayerCommand(editor);
+        AddLayerCommand(editor);
+        editor.Document.Selected().Image.SetPixel(0, 0, 0xFF204060);
+        editor.Host.ControlsChanged();
+    });
+    const document::Document& document = form.Editor().Document;
+    const auto pixel = [&](int x, int y) {
+        return document.Selected().Image.GetPixel(x, y) == 0xFF204060;
+    };
+    for (const auto& [entry, place] : std::initializer_list<std::pair<const char*, int>>{
+             {"m_BackOne", 1}, {"m_ToBack", 0}, {"m_FowardOne", 1}, {"m_ToFront", 2}}) {
+        choose(entry);
+        EXPECT_EQ(document.SelectedLayer, place) << entry;
+    }
+    choose("menu_FlipH");
+    EXPECT_TRUE(pixel(1, 0));
+    choose("m_90CW");
+    EXPECT_TRUE(pixel(1, 1));
+    choose("menu_FlipV");
+    EXPECT_TRUE(pixel(1, 0));
+    choose("m_90CWW");
+    EXPECT_TRUE(pixel(0, 1));
+    choose("menu_Merge");
+    EXPECT_EQ(document.LayerCount(), 2);
+    choose("m_Del");
+    EXPECT_EQ(document.LayerCount(), 1);
+    choose("m_Cut");
+    EXPECT_EQ(document.LayerCount(), 0);
 }
 
 TEST_F(MainMenuTest, EveryMnemonicIsUniqueInItsMenu) {

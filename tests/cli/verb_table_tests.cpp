@@ -40,7 +40,6 @@ TEST(ParseCallsTest, WrongUsageNamesTheVerbAndTheWord) {
         {{"frobnicate"}, "frobnicate: unknown verb"},
         {{"Undo"}, "Undo: unknown verb"},
         {{"undo", "2"}, "2: unknown verb"},
-        {{"selection"}, "selection: unknown verb"},
         {{"new", "64"}, "new 64: H is missing"},
         {{"new", "64", "x", "undo"}, "new 64 x: H must be a whole number"},
         {{"select", "-1"}, "select -1: N must be 0 or more"},

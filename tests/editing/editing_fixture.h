@@ -48,6 +48,19 @@ protected:
         Open(editor);
     }
 
+    // A layer on top, selected, with the picture drawn in the size of `rect` (page pixels).
+    document::IconLayer& AddLayer(const graphics::Bitmap& image, const graphics::RectF& rect) {
+        document::IconLayer layer;
+        layer.Image = image;
+        layer.ImageWidth = image.Width();
+        layer.ImageHeight = image.Height();
+        layer.Rect = rect;
+        layer.BaseRect = rect;
+        editor.Document.Layers.push_back(layer);
+        editor.Document.SelectedLayer = editor.Document.LayerCount() - 1;
+        return editor.Document.Layers.back();
+    }
+
     document::IconLayer& Layer(int index) {
         return editor.Document.Layers.at(static_cast<std::size_t>(index));
     }

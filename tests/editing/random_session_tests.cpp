@@ -25,7 +25,7 @@ namespace {
 using testing::SamePixels;
 
 constexpr int kPageSide = 40;
-constexpr int kSteps = 700;
+constexpr int kSteps = 2500;
 constexpr int kMostLayers = 12;  // a stack above this is thinned out, so that steps stay quick
 constexpr long kMaxMebibytes = 1024;
 
