@@ -68,12 +68,7 @@ TEST_F(DrawingTools, HardEdgedShapes) {
         {"beyond the edge", Tool::FilledRectangle, 1, {{38, 28}, {50, 50}}, {}, "27-29: 37-39"},
         {"click", Tool::Rectangle, 1, {{10, 5}}, {}, "4-5: 9-10"},
         {"drag", Tool::Rectangle, 1, {{10, 5}, {13, 7}}, {}, "4: 9-13; 5-6: 9 13; 7: 9-13"},
-        {"wide",
-         Tool::Rectangle,
-         3,
-         {{16, 10}, {10, 5}},
-         {},
-         "3-5: 8-17; 6-8: 8-10 15-17; 9-11: 8-17"},
+        {"3", Tool::Rectangle, 3, {{14, 9}, {10, 5}}, {}, "3-5: 8-15; 6-7: 8-10 13-15; 8-10: 8-15"},
         {"click", Tool::Pencil, 9, {{20, 17}}, {}, "17: 20"},
         {"one move", Tool::Pencil, 1, {{2, 2}, {8, 2}}, {}, ""},
         {"path", Tool::Pencil, 1, {{1, 1}, {2, 2}, {8, 2}, {8, 4}}, {}, "2: 2-8; 3-4: 8"},
@@ -166,45 +161,15 @@ TEST_F(DrawingTools, GradientsRunFromThePressWhicheverColourIsInUse) {
         Tool Chosen;
         FillKind Fill;
         graphics::PointF From, To;
-        std::array<int, 6> Row, Column;  // from (9, 4); -1: not painted
+        std::array<int, 6> Expected;  // along the gradient from (9, 4) on; -1: not painted
     } cases[] = {
-        {Tool::FilledRectangle,
-         kAcross,
-         {10, 5},
-         {14, 7},
-         {0, 50, 100, 150, 200, 150},
-         {0, 0, 0, 0, -1, -1}},
-        {Tool::FilledRectangle,
-         kAcross,
-         {14, 7},
-         {10, 5},
-         {200, 150, 100, 50, 0, 50},
-         {200, 200, 200, 200, -1, -1}},
-        {Tool::FilledRectangle,
-         kDown,
-         {10, 5},
-         {14, 7},
-         {0, 0, 0, 0, 0, 0},
-         {0, 100, 200, 100, -1, -1}},
-        {Tool::FilledRectangle,
-         kDown,
-         {14, 7},
-         {10, 5},
-         {200, 200, 200, 200, 200, 200},
-         {200, 100, 0, 100, -1, -1}},
-        {Tool::Rectangle,
-         kAcross,
-         {10, 5},
-         {14, 7},
-         {0, 50, 100, 150, 200, 150},
-         {0, 0, 0, 0, -1, -1}},
-        {Tool::Line, kDown, {9, 4}, {9, 8}, {50, -1, -1, -1, -1, -1}, {50, 100, 150, 200, 150, -1}},
-        {Tool::Line,
-         kAcross,
-         {9, 4},
-         {13, 4},
-         {50, 100, 150, 200, 150, -1},
-         {50, -1, -1, -1, -1, -1}},
+        {Tool::FilledRectangle, kAcross, {10, 5}, {14, 7}, {0, 50, 100, 150, 200, 150}},
+        {Tool::FilledRectangle, kAcross, {14, 7}, {10, 5}, {200, 150, 100, 50, 0, 50}},
+        {Tool::FilledRectangle, kDown, {10, 5}, {14, 7}, {0, 100, 200, 100, -1, -1}},
+        {Tool::FilledRectangle, kDown, {14, 7}, {10, 5}, {200, 100, 0, 100, -1, -1}},
+        {Tool::Rectangle, kAcross, {10, 5}, {14, 7}, {0, 50, 100, 150, 200, 150}},
+        {Tool::Line, kAcross, {9, 4}, {13, 4}, {50, 100, 150, 200, 150, -1}},
+        {Tool::Line, kDown, {9, 4}, {9, 8}, {50, 100, 150, 200, 150, -1}},
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(&c - cases);
@@ -213,11 +178,10 @@ TEST_F(DrawingTools, GradientsRunFromThePressWhicheverColourIsInUse) {
         editor.ActiveColor = 1;
         Use(c.Chosen, 1, c.Fill);
         DragWithoutRelease({c.From, c.To});
-        const std::vector<int> row = Reds(9, 4, 1, 0, 6), column = Reds(9, 4, 0, 1, 6);
-        for (std::size_t i = 0; i < 6; ++i) {
-            EXPECT_NEAR(row[i], c.Row[i], 2) << "column " << i;
-            EXPECT_NEAR(column[i], c.Column[i], 2) << "row " << i;
-        }
+        const bool across = c.Fill == kAcross;
+        const std::vector<int> reds = Reds(9, 4, across, !across, 6);
+        for (std::size_t i = 0; i < 6; ++i)
+            EXPECT_NEAR(reds[i], c.Expected[i], 2) << i;
         ReleaseAt(c.To.X, c.To.Y);
     }
 }
