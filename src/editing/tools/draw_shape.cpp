@@ -93,8 +93,7 @@ void DrawShape(const Editor& editor, Bitmap& image, const Pointer& pointer,
         return;
 
     DrawingContext context(image);
-    if (!IsRectangle(tool))
-        context.SetSmoothingMode(smoothing);
+    context.SetSmoothingMode(smoothing);  // rectangles stay hard-edged all the same
     const float penWidth =
         tool == Tool::Pencil ? 1 : static_cast<float>(editor.Controls.LineWidth.Value);
     const Pen pen{*brush, penWidth};
