@@ -4,7 +4,7 @@ set -euo pipefail
 
 packages=(
     g++ cmake ninja-build pkg-config
-    qt6-base-dev libagg-dev libpixman-1-dev libpng-dev libjpeg62-turbo-dev libgif-dev libhwy-dev libdeflate-dev
+    qt6-base-dev qt6-svg-dev libagg-dev libpixman-1-dev libpng-dev libjpeg62-turbo-dev libgif-dev libhwy-dev libdeflate-dev
     libcli11-dev nlohmann-json3-dev
     libgtest-dev libgmock-dev libbenchmark-dev xvfb xdotool
 )

@@ -1,0 +1,20 @@
+// A text block, wrapped by words, with an optional picture at its left.
+#pragma once
+
+#include <QWidget>
+
+namespace orbelle::widgets {
+
+class CtlCaptions : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit CtlCaptions(const QString& caption = {}, QWidget* parent = nullptr);
+
+    QString Caption() const;
+    void SetCaption(const QString& caption);
+    // The name of a drawing; empty: none.
+    void SetPicture(const QString& artwork);
+};
+
+}  // namespace orbelle::widgets
