@@ -21,7 +21,7 @@ constexpr QColor kFrameColor(58, 150, 255);
 constexpr int kWelcomeStrongest = 250;
 
 // Hot spots of the pointers, as their drawings have them.
-constexpr QPoint kMoveSpot(16, 16), kLineSpot(16, 16), kPickSpot(4, 27), kEraseSpot(6, 25);
+constexpr QPoint kMoveSpot(16, 16), kLineSpot(16, 16), kPickSpot(2, 29), kEraseSpot(10, 27);
 
 // Visible on light and dark ground: a dark line beside a white one.
 void DrawOutline(QPainter& painter, const QRectF& rect, bool isOval) {

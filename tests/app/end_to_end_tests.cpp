@@ -167,8 +167,9 @@ TEST_F(EndToEndTest, AScreenshotAt200PercentHasHardSquares) {
         for (int x = 0; x < shot.width(); x += 2) {
             const QRgb pixel = shot.pixel(x, y);
             picturePixels += pixel == kPictureColor;
-            softSquares += pixel != shot.pixel(x + 1, y) || pixel != shot.pixel(x, y + 1) ||
-                           pixel != shot.pixel(x + 1, y + 1);
+            softSquares += pixel == kPictureColor &&
+                           (pixel != shot.pixel(x + 1, y) || pixel != shot.pixel(x, y + 1) ||
+                            pixel != shot.pixel(x + 1, y + 1));
         }
     }
     EXPECT_EQ(picturePixels, kWholePicture);

@@ -16,6 +16,7 @@ namespace orbelle::app {
 namespace {
 
 using ::testing::ElementsAre;
+using ::testing::UnorderedElementsAreArray;
 
 // The entries of a menu and its submenus, in order, without separators: all, or those that can be
 // reached and chosen.
@@ -90,23 +91,55 @@ TEST_F(MainMenuTest, CaptionsStandInTheirOrder) {
                     "Download Over 20,000 Professional Icons...", "Varnel Website", "About"));
 }
 
+// With the entries that can always be chosen.
+std::vector<std::string> Joined(std::vector<std::string> names) {
+    for (const char* name : {"m_Exit", "m_New", "m_Open", "m_Selection", "m_Pencil", "m_Line",
+                             "m_Ellipse", "m_Rectangle", "m_Tips", "m_Samples", "m_DownloadSample",
+                             "m_GetIcons", "m_Web", "m_About"})
+        names.emplace_back(name);
+    return names;
+}
+
 TEST_F(MainMenuTest, EntriesAreEnabledOnlyWhileTheirCommandCanRun) {
-    EXPECT_THAT(EnabledNames(), ElementsAre("m_Exit", "m_New", "m_Open", "m_freshstyle"));
+    EXPECT_THAT(EnabledNames(), UnorderedElementsAreArray(Joined({"m_freshstyle"})));
 
     form.Run([](editing::Editor& editor) {
         ResetDocument(editor, 16, 16, true);
         editor.DocumentExists = true;
     });
     emit Menu("menu_File").aboutToShow();
-    EXPECT_THAT(
-        EnabledNames(),
-        ElementsAre("m_90CW", "m_90CWW", "m_Blur", "m_Copy", "m_Crystal", "m_Cut", "m_Del",
-                    "m_Disabled", "m_Exit", "m_Export", "m_ExportFormat0", "m_ExportFormat1",
-                    "m_ExportFormat2", "m_ExportFormat3", "m_ExportFormat4", "m_Hot", "m_Import",
-                    "m_Irradiation", "m_Macstyle", "m_New", "m_Open", "m_Reflection", "m_Save",
-                    "m_Shade", "m_Shadow", "m_Sharpen", "m_Vistastyle", "m_freshstyle",
-                    "m_iosstyle", "m_origamistyle", "m_origamistylelevel0", "m_origamistylelevel1",
-                    "menu_FlipH", "menu_FlipV", "menu_SaveAs"));
+    EXPECT_THAT(EnabledNames(), UnorderedElementsAreArray(Joined({"m_90CW",
+                                                                  "m_90CWW",
+                                                                  "m_Blur",
+                                                                  "m_Copy",
+                                                                  "m_Crystal",
+                                                                  "m_Cut",
+                                                                  "m_Del",
+                                                                  "m_Disabled",
+                                                                  "m_Export",
+                                                                  "m_ExportFormat0",
+                                                                  "m_ExportFormat1",
+                                                                  "m_ExportFormat2",
+                                                                  "m_ExportFormat3",
+                                                                  "m_ExportFormat4",
+                                                                  "m_Hot",
+                                                                  "m_Import",
+                                                                  "m_Irradiation",
+                                                                  "m_Macstyle",
+                                                                  "m_Reflection",
+                                                                  "m_Save",
+                                                                  "m_Shade",
+                                                                  "m_Shadow",
+                                                                  "m_Sharpen",
+                                                                  "m_Vistastyle",
+                                                                  "m_freshstyle",
+                                                                  "m_iosstyle",
+                                                                  "m_origamistyle",
+                                                                  "m_origamistylelevel0",
+                                                                  "m_origamistylelevel1",
+                                                                  "menu_FlipH",
+                                                                  "menu_FlipV",
+                                                                  "menu_SaveAs"})));
 
     form.Run(editing::Crystal);
     EXPECT_EQ(EnabledNames().count("m_Undo"), 1u);
