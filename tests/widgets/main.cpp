@@ -1,0 +1,16 @@
+// The controls's tests run without a display and leave the user's settings alone.
+#include <gtest/gtest.h>
+
+#include <QApplication>
+
+#include "support/temporary_folder.h"
+
+int main(int argc, char** argv) {
+    const orbelle::testing::TemporaryFolder home;
+    for (const char* name : {"HOME", "XDG_CONFIG_HOME", "XDG_CACHE_HOME", "XDG_RUNTIME_DIR"})
+        qputenv(name, home.Path().c_str());
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    ::testing::InitGoogleTest(&argc, argv);
+    const QApplication application(argc, argv);
+    return RUN_ALL_TESTS();
+}
