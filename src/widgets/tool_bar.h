@@ -7,30 +7,11 @@
 #include <QWidget>
 #include <vector>
 
+#include "widgets/accessible_parts.h"
+#include "widgets/tool_bar_layout.h"
+#include "widgets/tool_button.h"
+
 namespace orbelle::widgets {
-
-// One entry of a button's drop-down menu; the owner reads it and acts on it.
-struct ToolMenu {
-    int Index = 0;
-    QString OriginalCaption;
-    QString Captions;
-    bool Enables = true;
-    bool Visible = true;
-};
-
-struct ToolButton {
-    int Index = 0;
-    QString Kind;  // "Y" a button, "1" a separator
-    QString Caption;
-    QString ExtraFlag;
-    QString ToolTip;
-    int ButtonType = 0;  // 1: latching, each click turns its press state
-    bool Enabled = true;
-    std::vector<ToolMenu> Menus;
-    bool IsPressed = false;
-
-    bool IsSeparator() const { return Kind == "1"; }
-};
 
 enum class ToolBarStyle { Normal = 0, Vista = 1, Win10 = 2 };
 
@@ -43,7 +24,7 @@ struct ToolBarSetup {
     QStringList Buttons;  // eight fields with commas: "1,Y,,,Move tool,1,-1,0"
 };
 
-class ToolBarvs : public QWidget {
+class ToolBarvs : public QWidget, public AccessibleParts {
     Q_OBJECT
 
 public:
@@ -60,7 +41,7 @@ public:
     void AddButtonMenu(int index, const ToolMenu& menu);
     const std::vector<ToolButton>& Buttons() const;
 
-    // The last button hit, 0 before the first.
+    // The button that the mouse or the keyboard came to last, 0 before the first.
     int ButtonIndex() const;
     // Where that button begins, from the top of the bar.
     int refTopValue() const;
@@ -69,6 +50,16 @@ public:
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
+
+    QAccessible::Role WholeRole() const override { return QAccessible::ToolBar; }
+    int PartCount() const override;
+    QString PartName(int part) const override;
+    QString PartValue(int) const override { return {}; }
+    QRect PartPlace(int part) const override;
+    QAccessible::Role PartRole(int part) const override;
+    QAccessible::State PartState(int part) const override;
+    int FocusedPart() const override;
+    void PressPart(int part) override;
 
 signals:
     // A press of a mouse button on an enabled button, or Space or Return with the keyboard.
@@ -84,9 +75,49 @@ protected:
     void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
     void changeEvent(QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void leaveEvent(QEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
 
 private:
-    // The rest is the implementation's.
+    // Buttons count from 0 in here.
+    int IndexOf(int number) const;  // -1: there is no button of that number
+    bool IsHorizontal() const { return direction_ == Qt::Horizontal; }
+    bool CanPress(int index) const;
+    int Thickness() const;  // that its buttons ask for
+    void LayOut();
+    void MoveHover(const QPoint& point);
+    void PollHover();
+    void EndHover();
+    void Press(int index);
+    void FocusButton(int index);
+    int NextEnabled(int from, int step) const;
+    int PartOf(int index) const;
+    int ButtonOfPart(int part) const;
+
+    void LoadIcons(qreal ratio);
+    void PaintSeparator(QPainter& painter, int line) const;
+    void PaintButton(QPainter& painter, int index) const;
+    void PaintFace(QPainter& painter, const QRect& place, bool down) const;
+    void PaintFocus(QPainter& painter, const QRect& place) const;
+
+    Qt::Orientation direction_;
+    ToolBarStyle style_;
+    int icoSize_;
+    QStringList images_;
+    std::vector<ToolButton> buttons_;
+    ToolBarLayout layout_;
+    QPixmap skinNormal_;
+    QPixmap skinDown_;
+    std::vector<QPixmap> icons_;
+    qreal iconsRatio_ = 0;  // that the icons were drawn for; 0: not yet
+
+    QTimer poll_;
+    int hoverIndex_ = -1;
+    int buttonIndex_ = -1;
+    int focusIndex_ = -1;
+    bool showFocus_ = false;
+    bool showDown_ = false;
 };
 
 }  // namespace orbelle::widgets
