@@ -115,6 +115,12 @@ CtlScroll::CtlScroll(QWidget* parent)
     });
 }
 
+CtlScroll::~CtlScroll() {
+    // They outlive this part of the object, and end their gestures when they close.
+    field_->disconnect(this);
+    track_->disconnect(this);
+}
+
 int CtlScroll::MinValue() const {
     return minValue_;
 }

@@ -15,6 +15,7 @@ class CtlScroll : public QWidget {
 
 public:
     explicit CtlScroll(QWidget* parent = nullptr);
+    ~CtlScroll() override;
 
     int MinValue() const;
     int MaxValue() const;

@@ -183,6 +183,17 @@ TEST_F(CtlScrollTest, ClosingTheTrackEndsItsDrag) {
     EXPECT_EQ(gestures_.Told(), "pressed released");
 }
 
+TEST_F(CtlScrollTest, TellsNothingMoreWhenItIsDestroyedInADrag) {
+    auto scroll = std::make_unique<CtlScroll>();
+    auto& track = *scroll->findChild<ScrollTrack*>();
+    Gestures gestures(*scroll);
+    scroll->show();
+    Click(*scroll, {scroll->width() - 9.0, 12});
+    Press(track, track.ThumbRect().center());
+    scroll.reset();
+    EXPECT_EQ(gestures.Told(), "pressed");
+}
+
 TEST_F(CtlScrollTest, IsOneStopOfTheTabKey) {
     QWidget window;
     auto* first = new CtlScroll(&window);
