@@ -59,7 +59,8 @@ int CtlCaptions::heightForWidth(int width) const {
 
 void CtlCaptions::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    CtlImageStore(picture_).Drawing(painter, QRect(QPoint(0, 0), kPictureSize), 1);
+    if (!picture_.isEmpty())
+        CtlImageStore(picture_).Drawing(painter, QRect(QPoint(0, 0), kPictureSize), 1);
     painter.setPen(kCaptionColor);
     painter.drawText(rect().adjusted(TextLeft(), 0, 0, 0), Qt::TextWordWrap, caption_);
 }

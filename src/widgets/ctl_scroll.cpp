@@ -82,6 +82,7 @@ CtlScroll::CtlScroll(QWidget* parent)
     setFocusPolicy(Qt::StrongFocus);
     setFont(ChromeFont(8.25));
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    field_->installEventFilter(this);
     field_->setFrame(false);
     field_->setAlignment(Qt::AlignCenter);
     field_->setAttribute(Qt::WA_MacShowFocusRect, false);
@@ -103,13 +104,21 @@ CtlScroll::CtlScroll(QWidget* parent)
     connect(track_, &ScrollTrack::Dragged, this, [this](double x) {
         const ScrollScale::Drag drag = scale_.DragTo(x);
         ChangeTo(drag.Value);
-        track_->SetPlace(drag.Place);
+        // Unless the owner has answered with a value of its own.
+        if (value_ == drag.Value)
+            track_->SetPlace(drag.Place);
     });
     connect(track_, &ScrollTrack::Released, this, &CtlScroll::Released);
     connect(track_, &ScrollTrack::Stepped, this, [this](int direction) {
         StartSpin(direction);
         EndSpin();
     });
+}
+
+CtlScroll::~CtlScroll() {
+    // They outlive this part of the object, and end their gestures when they close.
+    field_->disconnect(this);
+    track_->disconnect(this);
 }
 
 int CtlScroll::MinValue() const {
@@ -177,8 +186,7 @@ void CtlScroll::TakeText(const QString& text) {
 }
 
 void CtlScroll::CommitText() {
-    if (NumberIn(field_->text()) != value_ || typing_)
-        field_->setText(QString::number(value_));
+    field_->setText(QString::number(value_));
     if (typing_) {
         typing_ = false;
         emit Released();
@@ -233,10 +241,13 @@ void CtlScroll::resizeEvent(QResizeEvent* event) {
     QWidget::resizeEvent(event);
 }
 
-void CtlScroll::showEvent(QShowEvent* event) {
-    // The field has the focus in our place, so it has to go by our name.
-    field_->setAccessibleName(accessibleName());
-    QWidget::showEvent(event);
+bool CtlScroll::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut) {
+        // The field has the focus in our place, so it has to go by our name.
+        field_->setAccessibleName(accessibleName());
+        update();
+    }
+    return QWidget::eventFilter(watched, event);
 }
 
 void CtlScroll::hideEvent(QHideEvent* event) {

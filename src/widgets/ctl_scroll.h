@@ -15,6 +15,7 @@ class CtlScroll : public QWidget {
 
 public:
     explicit CtlScroll(QWidget* parent = nullptr);
+    ~CtlScroll() override;
 
     int MinValue() const;
     int MaxValue() const;
@@ -38,9 +39,9 @@ signals:
     void Released();
 
 protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
-    void showEvent(QShowEvent* event) override;
     void hideEvent(QHideEvent* event) override;
     void changeEvent(QEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;

@@ -74,10 +74,11 @@ void CtlScroll2::DragThumb(int left, int direction) {
 }
 
 void CtlScroll2::mousePressEvent(QMouseEvent* event) {
-    if (event->button() != Qt::LeftButton || dragging_) {
+    if (event->button() != Qt::LeftButton) {
         event->ignore();
         return;
     }
+    EndDrag();
     const QPoint place = event->position().toPoint();
     dragging_ = true;
     emit Pressed();
@@ -91,6 +92,9 @@ void CtlScroll2::mousePressEvent(QMouseEvent* event) {
 
 void CtlScroll2::mouseMoveEvent(QMouseEvent* event) {
     const QPoint place = event->position().toPoint();
+    // A message box that comes up in a drag takes the release for itself.
+    if (!(event->buttons() & Qt::LeftButton))
+        EndDrag();
     if (dragging_) {
         const int moved = place.x() - downX_;
         DragThumb(downLeft_ + moved, moved);

@@ -21,6 +21,7 @@ CtlTitle::CtlTitle(const QString& title, QWidget* parent) : QAbstractButton(pare
     setChecked(true);
     setFont(ChromeFont(8.25));
     setFixedHeight(kHeight);
+    setAttribute(Qt::WA_Hover);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     // A click leaves the keyboard with the picture that is being edited.
     setFocusPolicy(Qt::TabFocus);

@@ -68,6 +68,7 @@ void ScrollTrack::paintEvent(QPaintEvent*) {
 
 void ScrollTrack::mousePressEvent(QMouseEvent* event) {
     if (event->button() == Qt::LeftButton && ThumbRect().contains(event->position())) {
+        EndDrag();
         dragging_ = true;
         update();
         emit Pressed();
@@ -78,6 +79,8 @@ void ScrollTrack::mousePressEvent(QMouseEvent* event) {
 }
 
 void ScrollTrack::mouseMoveEvent(QMouseEvent* event) {
+    if (!(event->buttons() & Qt::LeftButton))
+        EndDrag();
     if (dragging_)
         emit Dragged(event->position().x() - kMargin);
 }
