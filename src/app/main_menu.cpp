@@ -3,12 +3,14 @@
 #include <QMenuBar>
 #include <functional>
 
+#include "app/links.h"
 #include "app/mform.h"
 #include "editing/clipboard_commands.h"
 #include "editing/document_commands.h"
 #include "editing/export_commands.h"
 #include "editing/stack_commands.h"
 #include "editing/style_commands.h"
+#include "editing/tool_palette.h"
 #include "editing/undo_commands.h"
 #include "formats/export_image.h"
 
@@ -16,6 +18,9 @@ namespace orbelle::app {
 namespace {
 
 using editing::Controls;
+
+constexpr char kTipsName[] = "m_Tips";
+
 using Command = std::function<void(mForm&)>;
 
 struct Entry {
@@ -25,6 +30,7 @@ struct Entry {
     Command Run = {};
     editing::MenuEntry Controls::*State = nullptr;  // none: always enabled
     std::vector<Entry> Entries = {};                // of a submenu
+    bool Checks = false;                            // it carries a check mark
 };
 
 Command Edit(mForm::EditorCommand command) {
@@ -173,22 +179,46 @@ std::vector<Entry> StyleEntries() {
 }
 
 std::vector<Entry> ToolEntries() {
-    return {{"m_Selection", "&Selecetion"},
-            {"m_Pencil", "&Pencil"},
-            {"m_Line", "&Line"},
-            {"m_Ellipse", "&Ellipse"},
-            {"m_Rectangle", "&Rectangle"}};
+    const auto entry = [](const char* name, const char* caption, editing::Tool tool,
+                          editing::MenuEntry Controls::*state) {
+        return Entry{
+            .Name = name,
+            .Caption = caption,
+            .Run = Edit([tool](editing::Editor& editor) { ChooseToolEntry(editor, tool); }),
+            .State = state,
+            .Checks = true};
+    };
+    return {
+        entry("m_Selection", "&Selecetion", editing::Tool::Move, &Controls::m_Selection),
+        entry("m_Pencil", "&Pencil", editing::Tool::Pencil, &Controls::m_Pencil),
+        entry("m_Line", "&Line", editing::Tool::Line, &Controls::m_Line),
+        entry("m_Ellipse", "&Ellipse", editing::Tool::Ellipse, &Controls::m_Ellipse),
+        entry("m_Rectangle", "&Rectangle", editing::Tool::Rectangle, &Controls::m_Rectangle),
+    };
 }
 
 std::vector<Entry> HelpEntries() {
+    const auto link = [](const char* name, const char* caption, const QString& address) {
+        return Entry{
+            .Name = name, .Caption = caption, .Run = [address](mForm&) { OpenLink(address); }};
+    };
     return {
-        {"m_Tips", "&Tips"},
-        {"m_Samples", "&Samples"},
-        {"m_DownloadSample", "&Free Download Sample Icons..."},
-        {"m_GetIcons", "&Download Over 20,000 Professional Icons..."},
+        {.Name = kTipsName,
+         .Caption = "&Tips",
+         .Run = [](mForm& form) { form.SetTipsEnabled(!form.TipsEnabled()); },
+         .Checks = true},
+        {.Name = "m_Samples",
+         .Caption = "&Samples",
+         .Run =
+             [](mForm& form) {
+                 if (!OpenSamples())
+                     form.ShowStatus("The folder of samples is not there.");
+             }},
+        link("m_DownloadSample", "&Free Download Sample Icons...", kSampleIcons),
+        link("m_GetIcons", "&Download Over 20,000 Professional Icons...", kMoreIcons),
         {},
-        {"m_Web", "Varnel &Website"},
-        {"m_About", "&About"},
+        link("m_Web", "Varnel &Website", kWebsite),
+        {.Name = "m_About", .Caption = "&About", .Run = [](mForm& form) { form.ShowAbout(); }},
     };
 }
 
@@ -217,6 +247,7 @@ MainMenu::MainMenu(mForm& form) {
                 action->setObjectName(entry.Name);
                 action->setShortcuts(entry.Shortcuts);
                 action->setEnabled(HasCommand(entry));
+                action->setCheckable(entry.Checks);
                 if (entry.Run)
                     QObject::connect(action, &QAction::triggered, &form,
                                      [run = entry.Run, &form] { run(form); });
@@ -238,11 +269,24 @@ MainMenu::MainMenu(mForm& form) {
         fill(*menu, entry.Entries);
         QObject::connect(menu, &QMenu::aboutToShow, &form, [&form] { form.ControlsChanged(); });
     }
+    tips_ = form.findChild<QAction*>(kTipsName);
+    orderMenu_ = new QMenu("Right_Layer", &form);
+    orderMenu_->setObjectName("menu_Rightmenu");
+    for (const char* name : {"m_BackOne", "m_FowardOne", "m_ToBack", "m_ToFront"})
+        orderMenu_->addAction(form.findChild<QAction*>(name));
+}
+
+void MainMenu::ShowTipsState(bool enabled) {
+    tips_->setChecked(enabled);
 }
 
 void MainMenu::ShowStates(const editing::Controls& controls) {
-    for (const State& state : states_)
-        state.Action->setEnabled((controls.*state.Entry).Enabled);
+    for (const State& state : states_) {
+        const editing::MenuEntry& entry = controls.*state.Entry;
+        state.Action->setEnabled(entry.Enabled);
+        if (state.Action->isCheckable())
+            state.Action->setChecked(entry.Checked);
+    }
 }
 
 }  // namespace orbelle::app

@@ -6,6 +6,7 @@
 #include "editing/controls.h"
 
 class QAction;
+class QMenu;
 
 namespace orbelle::app {
 
@@ -19,6 +20,11 @@ public:
     explicit MainMenu(mForm& form);
 
     void ShowStates(const editing::Controls& controls);
+    // The check mark of Help/Tips.
+    void ShowTipsState(bool enabled);
+
+    // The pop-up of a layer's order, with entries of the Edit menu.
+    QMenu& OrderMenu() const { return *orderMenu_; }
 
 private:
     struct State {
@@ -26,6 +32,8 @@ private:
         editing::MenuEntry editing::Controls::*Entry;
     };
     std::vector<State> states_;
+    QAction* tips_ = nullptr;
+    QMenu* orderMenu_ = nullptr;
 };
 
 }  // namespace orbelle::app

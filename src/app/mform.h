@@ -7,12 +7,19 @@
 #include <memory>
 
 #include "app/main_menu.h"
+#include "app/pointer_status.h"
+#include "app/tip_balloons.h"
+#include "app/tool_bars.h"
+#include "app/welcome_sequence.h"
 #include "editing/editor.h"
 
 class QScrollBar;
 
 namespace orbelle::app {
 
+class BottomPanel;
+class CloseTipsTab;
+class RightPanel;
 class SceneView;
 
 // Owns the editor, hands it the user's input and shows what it tells.
@@ -27,14 +34,40 @@ public:
     // Runs a command on the editor. What it throws becomes a message box.
     void Run(const EditorCommand& command);
 
-    // Opens what a command line names; an empty path is a file that does not exist.
+    // Opens what a command line names: a path between quotation marks.
+    void ShellOpen(const QString& commandLine);
+    // The same from another copy of the program; the window comes to the front.
+    void TakeHandOver(const QString& commandLine);
+    // An empty path is a file that does not exist.
     void OpenPath(const QString& path);
+
+    // The welcome text of a start without a file.
+    void StartWelcome();
+    // Help/About.
+    void ShowAbout();
+    // "Back One", "Foward One", "To Back", "To Front" at the Set Order button.
+    void ShowOrderMenu();
+    void FocusScene();
+    void CloseTips();
+
+    bool TipsEnabled() const { return tips_->TipsEnabled; }
+    void SetTipsEnabled(bool enabled);
+
+    // Everything that is remembered between two runs.
+    void RestoreSettings();
+    void StoreSettings() const;
 
     bool IsZoomAnimationRunning() const { return zoomTimer_.isActive(); }
     const editing::Editor& Editor() const { return editor_; }
 
     void SceneChanged() override;
+    void LayerPanelChanged() override;
     void ControlsChanged() override;
+    void OverlaysChanged() override;
+    void ShowTips(int tip, bool showLayerTips) override;
+    void HideTips() override;
+    void SlideBrushPanel() override;
+    void ShowLayerMenu(float x, float y) override;
     void TitleChanged() override;
     void SetBusyPointer(bool busy) override;
     void StartZoomAnimation() override;
@@ -55,21 +88,36 @@ public:
 
 protected:
     void closeEvent(QCloseEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
-    void AddScene();
-    void AddViewShortcuts();
+    QWidget* MakeScene();
+    void ConnectScene();
+    void AddPanels();
+    void AddShortcuts();
     void RunGuarded(const EditorCommand& command);
     void ImportFiles(const QStringList& files);
+    void ImportDroppedPicture(const QImage& picture);
+    void PopUpOrderMenu(const QPoint& at);
+    std::optional<QPoint> TipPlacement(editing::TipPlace place, QSize balloon) const;
 
     editing::Editor editor_{*this};
     SceneView* scene_ = nullptr;
     QScrollBar* hs1_ = nullptr;
     QScrollBar* vs1_ = nullptr;
-    QTimer zoomTimer_;
+    QTimer zoomTimer_;    // Timer4
+    QTimer layersTimer_;  // draws the layer list once after all that has changed it
     int busyPointers_ = 0;
-    bool clipboardHasPicture_ = false;  // kept, as every change of the controls asks for it
+    bool clipboardHasPicture_ = false;
     std::unique_ptr<MainMenu> menu_;
+    std::unique_ptr<ToolBars> bars_;
+    std::unique_ptr<PointerStatus> pointerStatus_;
+    std::unique_ptr<TipBalloons> tips_;
+    std::unique_ptr<WelcomeSequence> welcome_;
+    RightPanel* rightPanel_ = nullptr;
+    BottomPanel* bottomPanel_ = nullptr;
+    CloseTipsTab* closeTips_ = nullptr;
+    mutable QPoint lastLayerMiddle_;  // where the last tip about a layer stood
 };
 
 }  // namespace orbelle::app

@@ -1,17 +1,86 @@
 #include "app/scene_view.h"
 
 #include <QDragEnterEvent>
+#include <QGuiApplication>
+#include <QKeyEvent>
 #include <QMimeData>
 #include <QPainter>
 #include <QWheelEvent>
 #include <algorithm>
+#include <cmath>
 
 #include "document/scene_painter.h"
+#include "editing/tools/object_keys.h"
+#include "widgets/artwork.h"
+#include "widgets/ctl_image_store.h"
 
 namespace orbelle::app {
 namespace {
 
 constexpr QColor kFrameColor(58, 150, 255);
+constexpr int kWelcomeStrongest = 250;
+
+// Hot spots of the pointers, as their drawings have them.
+constexpr QPoint kMoveSpot(16, 16), kLineSpot(16, 16), kPickSpot(4, 27), kEraseSpot(6, 25);
+
+// Visible on light and dark ground: a dark line beside a white one.
+void DrawOutline(QPainter& painter, const QRectF& rect, bool isOval) {
+    const QRectF inner = rect.adjusted(0.5, 0.5, -0.5, -0.5);
+    for (const auto& [color, outline] :
+         {std::pair(QColor(255, 255, 255, 190), inner.adjusted(-1, -1, 1, 1)),
+          std::pair(QColor(0, 0, 0, 220), inner)}) {
+        painter.setPen(QPen(color, 1, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+        if (isOval)
+            painter.drawEllipse(outline);
+        else
+            painter.drawRect(outline);
+    }
+}
+
+QRectF RectOf(const graphics::RectF& rect) {
+    return {rect.X, rect.Y, rect.Width, rect.Height};
+}
+
+// Dark and light dashes.
+void DrawRubberBand(QPainter& painter, const editing::OverlayLine& line) {
+    const QLineF band(line.Start.X, line.Start.Y, line.End.X, line.End.Y);
+    painter.setPen(QPen(Qt::white, 1));
+    painter.drawLine(band);
+    painter.setPen(QPen(Qt::black, 1, Qt::DashLine));
+    painter.drawLine(band);
+}
+
+void DrawOverlays(QPainter& painter, const editing::Overlays& overlays) {
+    const editing::OverlayShape& frame = overlays.SelectedShape;
+    if (frame.Visible && frame.Rect.Width > 0 && frame.Rect.Height > 0) {
+        painter.setRenderHint(QPainter::Antialiasing, frame.IsOval);
+        DrawOutline(painter, RectOf(frame.Rect), frame.IsOval);
+    }
+    if (overlays.Line2.Visible) {
+        painter.setRenderHint(QPainter::Antialiasing);
+        DrawRubberBand(painter, overlays.Line2);
+    }
+    if (overlays.Shape2.Visible) {
+        painter.setRenderHint(QPainter::Antialiasing, overlays.Shape2.IsOval);
+        DrawOutline(painter, RectOf(overlays.Shape2.Rect), overlays.Shape2.IsOval);
+    }
+}
+
+editing::Pointer PointerOf(const QMouseEvent& event, Qt::MouseButton button) {
+    editing::Pointer pointer;
+    pointer.Button = button == Qt::LeftButton ? 1 : 2;
+    const Qt::KeyboardModifiers keys =
+        event.modifiers() & (Qt::ShiftModifier | Qt::ControlModifier | Qt::AltModifier);
+    pointer.Shift = keys == Qt::ShiftModifier ? 1 : keys == Qt::NoModifier ? 0 : 2;
+    pointer.X = static_cast<float>(event.position().x());
+    pointer.Y = static_cast<float>(event.position().y());
+    return pointer;
+}
+
+QCursor ToolCursor(const char* artwork, QPoint hotSpot) {
+    return QCursor(widgets::Artwork(artwork, {32, 32}, qGuiApp->devicePixelRatio()), hotSpot.x(),
+                   hotSpot.y());
+}
 
 QStringList LocalFiles(const QMimeData& data) {
     QStringList files;
@@ -30,6 +99,73 @@ SceneView::SceneView(const editing::Editor& editor, QWidget* parent)
     setAcceptDrops(true);
     setAttribute(Qt::WA_OpaquePaintEvent);
     setMinimumSize(160, 120);
+    setMouseTracking(true);
+    ShowCursor();
+}
+
+void SceneView::ShowCursor() {
+    using editing::Tool;
+    static const QCursor move = ToolCursor("cursors/move", kMoveSpot);
+    static const QCursor line = ToolCursor("cursors/line", kLineSpot);
+    static const QCursor pick = ToolCursor("cursors/pick", kPickSpot);
+    static const QCursor erase = ToolCursor("cursors/erase", kEraseSpot);
+    const QCursor* cursor = &line;
+    switch (editor_.CurrentTool) {
+        case Tool::Move:
+            cursor = &move;
+            break;
+        case Tool::ColorPick:
+            cursor = &pick;
+            break;
+        case Tool::PencilEraser:
+        case Tool::BrushEraser:
+            cursor = &erase;
+            break;
+        default:
+            break;
+    }
+    if (this->cursor() != *cursor)
+        setCursor(*cursor);
+}
+
+void SceneView::ShowWelcome(int strength) {
+    welcome_ = strength;
+    update();
+}
+
+void SceneView::mousePressEvent(QMouseEvent* event) {
+    setFocus();
+    emit PointerPressed(PointerOf(*event, event->button()));
+}
+
+void SceneView::mouseMoveEvent(QMouseEvent* event) {
+    emit PointerMoved(PointerOf(*event, Qt::LeftButton));
+}
+
+void SceneView::mouseReleaseEvent(QMouseEvent* event) {
+    emit PointerReleased(PointerOf(*event, event->button()));
+}
+
+void SceneView::leaveEvent(QEvent*) {
+    emit PointerLeft();
+}
+
+void SceneView::keyPressEvent(QKeyEvent* event) {
+    namespace key_codes = editing::key_codes;
+    switch (event->key()) {
+        case Qt::Key_Left:
+            return emit KeyPressed(key_codes::Left);
+        case Qt::Key_Up:
+            return emit KeyPressed(key_codes::Up);
+        case Qt::Key_Right:
+            return emit KeyPressed(key_codes::Right);
+        case Qt::Key_Down:
+            return emit KeyPressed(key_codes::Down);
+        case Qt::Key_Delete:
+            return emit KeyPressed(key_codes::Delete);
+        default:
+            QWidget::keyPressEvent(event);
+    }
 }
 
 void SceneView::paintEvent(QPaintEvent*) {
@@ -37,20 +173,50 @@ void SceneView::paintEvent(QPaintEvent*) {
     const graphics::Bitmap& scene = editor_.Scene;
     if (scene.Width() < width() || scene.Height() < height())
         painter.fillRect(rect(), QColor::fromRgb(document::kSceneColor));
-    if (scene.IsEmpty())
+    if (scene.IsEmpty() || welcome_ >= 0) {
+        DrawWelcome(painter);
         return;
+    }
     // The painter scales without smoothing, so at 200 % a scene pixel is a hard 2 x 2 square.
     const QImage image(reinterpret_cast<const uchar*>(scene.Pixels()), scene.Width(),
                        scene.Height(), scene.Width() * qsizetype{4}, QImage::Format_RGB32);
     painter.drawImage(0, 0, image);
 
-    if (editor_.Filters.SelectionOK())
-        return;
-    if (const auto frame = document::ObjectFrame(editor_.Document, editor_.View)) {
+    const auto frame = document::ObjectFrame(editor_.Document, editor_.View);
+    if (frame && !editor_.Filters.SelectionOK()) {
         painter.setPen(QPen(kFrameColor, 1, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
         painter.drawRect(
             QRectF(frame->X + 0.5, frame->Y + 0.5, frame->Width - 1, frame->Height - 1));
     }
+    painter.setBrush(Qt::NoBrush);
+    DrawOverlays(painter, editor_.Overlays);
+}
+
+void SceneView::DrawWelcome(QPainter& painter) const {
+    if (welcome_ < 0)
+        return;
+    painter.fillRect(rect(), QColor::fromRgb(document::kSceneColor));
+    const int left = (width() - 280) / 2, top = (height() - 80) / 2;
+    // The picture is there or it is not; only the texts fade.
+    const double picture = std::round(std::round(welcome_ * 10.0 / kWelcomeStrongest) / 10);
+    static const widgets::CtlImageStore board("board");
+    board.Drawing(painter, QRect(left - 60, top - 30, 40, 40), picture);
+    QFont font("Verdana");
+    font.setPointSizeF(11);
+    font.setBold(true);
+    painter.setFont(font);
+    painter.setPen(QColor(255, 255, 255, welcome_));
+    painter.drawText(QRect(left, top - 30, 350, 28), Qt::AlignLeft | Qt::AlignTop,
+                     "Welcome to Use Orbelle!");
+    font.setPointSizeF(10);
+    font.setBold(false);
+    painter.setFont(font);
+    painter.setPen(QColor(200, 200, 200, welcome_));
+    painter.drawText(
+        QRect(left, top, 350, 200), Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap,
+        "To be familiar with using the Orbelle quickly, we recommend you to try each function or "
+        "tool, then our artificial intelligence help system will guide you how to use each "
+        "function or tool. - Varnel Software\"");
 }
 
 void SceneView::resizeEvent(QResizeEvent*) {
@@ -58,29 +224,34 @@ void SceneView::resizeEvent(QResizeEvent*) {
 }
 
 void SceneView::wheelEvent(QWheelEvent* event) {
+    event->accept();
     if (!(event->modifiers() & Qt::ControlModifier)) {
-        event->ignore();
+        const QPoint delta = event->angleDelta();
+        emit Scrolled(event->modifiers() & Qt::ShiftModifier ? delta.transposed() : delta);
         return;
     }
-    event->accept();
     // Fine wheels and touch pads tell fractions of a step.
     wheelDelta_ += event->angleDelta().y();
     for (; wheelDelta_ >= QWheelEvent::DefaultDeltasPerStep;
          wheelDelta_ -= QWheelEvent::DefaultDeltasPerStep)
-        emit ZoomInWanted();
+        emit ZoomInWanted(event->position());
     for (; wheelDelta_ <= -QWheelEvent::DefaultDeltasPerStep;
          wheelDelta_ += QWheelEvent::DefaultDeltasPerStep)
-        emit ZoomOutWanted();
+        emit ZoomOutWanted(event->position());
 }
 
 void SceneView::dragEnterEvent(QDragEnterEvent* event) {
-    if (!LocalFiles(*event->mimeData()).isEmpty())
+    if (!LocalFiles(*event->mimeData()).isEmpty() || event->mimeData()->hasImage())
         event->acceptProposedAction();
 }
 
 void SceneView::dropEvent(QDropEvent* event) {
     event->acceptProposedAction();
-    emit FilesDropped(LocalFiles(*event->mimeData()));
+    const QStringList files = LocalFiles(*event->mimeData());
+    if (!files.isEmpty())
+        emit FilesDropped(files);
+    else
+        emit PictureDropped(qvariant_cast<QImage>(event->mimeData()->imageData()));
 }
 
 }  // namespace orbelle::app

@@ -1,15 +1,20 @@
 // The scene on the screen.
 #pragma once
 
+#include <QImage>
 #include <QStringList>
 #include <QWidget>
 
+class QPainter;
+
 #include "editing/editor.h"
+#include "editing/tools/tool_handlers.h"
 
 namespace orbelle::app {
 
 // Shows Editor::Scene from the top left corner, one scene pixel for each logical pixel, and over it
-// the outline around the selected layer. Takes files dropped on it.
+// the outline around the selected layer and the overlay shapes. Hands on the mouse and the keys.
+// Takes files dropped on it.
 class SceneView : public QWidget {
     Q_OBJECT
 
@@ -18,12 +23,29 @@ public:
     explicit SceneView(const editing::Editor& editor, QWidget* parent = nullptr);
 
 signals:
-    void Resized(int width, int height);  // scene pixels, each at least 1
-    void ZoomInWanted();                  // Ctrl and the wheel, one step
-    void ZoomOutWanted();
+    void Resized(int width, int height);   // scene pixels, each at least 1
+    void ZoomInWanted(const QPointF& at);  // Ctrl and the wheel, one step
+    void ZoomOutWanted(const QPointF& at);
+    void Scrolled(const QPoint& pixels);  // by the wheel
+    void PointerPressed(const editing::Pointer& pointer);
+    void PointerMoved(const editing::Pointer& pointer);
+    void PointerReleased(const editing::Pointer& pointer);
+    void PointerLeft();
+    void KeyPressed(int keyCode);                 // see editing/tools/object_keys.h
     void FilesDropped(const QStringList& files);  // local files, in the order given
+    void PictureDropped(const QImage& picture);
+
+    // The pointer's shape, by the tool.
+    void ShowCursor();
+    // The welcome text over an empty scene, 0 (nothing) to 250; -1: none.
+    void ShowWelcome(int strength);
 
 protected:
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void leaveEvent(QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
@@ -31,7 +53,10 @@ protected:
     void dropEvent(QDropEvent* event) override;
 
 private:
+    void DrawWelcome(QPainter& painter) const;
+
     const editing::Editor& editor_;
+    int welcome_ = -1;
     int wheelDelta_ = 0;  // what is left of a step
 };
 

@@ -18,6 +18,24 @@ QRect ScreenFor(const QPoint& point) {
 
 }  // namespace
 
+graphics::Argb ReadColor(const Settings& settings, const QString& name) {
+    // Without quotation marks the file's form of the text is a list.
+    const QStringList parts = settings.value(name).toStringList().join(',').split(',');
+    unsigned channels[4] = {};
+    for (int i = 0; i < std::min<int>(4, static_cast<int>(parts.size())); ++i)
+        channels[i] = parts[i].toUInt() & 0xFF;
+    return graphics::MakeARGB(channels[0], channels[1], channels[2], channels[3]);
+}
+
+void WriteColor(Settings& settings, const QString& name, graphics::Argb color) {
+    using namespace graphics;
+    settings.setValue(name, QString("%1,%2,%3,%4")
+                                .arg(AlphaOf(color))
+                                .arg(RedOf(color))
+                                .arg(GreenOf(color))
+                                .arg(BlueOf(color)));
+}
+
 QRect MainWindowPlace(const QRect& stored, const QRect& screen) {
     const auto side = [](int value, int usual, int room) {
         return std::min(value > 0 ? value : usual, room);

@@ -4,6 +4,8 @@
 #include <QRect>
 #include <QSettings>
 
+#include "graphics/color.h"
+
 class QWidget;
 
 namespace orbelle::app {
@@ -13,6 +15,11 @@ class Settings : public QSettings {
 public:
     Settings() : QSettings(QStringLiteral("OrbelleWork")) {}
 };
+
+// A colour as the text "alpha,red,green,blue" in decimal. Parts that are missing or no number read
+// as 0.
+graphics::Argb ReadColor(const Settings& settings, const QString& name);
+void WriteColor(Settings& settings, const QString& name, graphics::Argb color);
 
 inline constexpr QSize kDefaultMainSize(1100, 760);
 

@@ -23,7 +23,18 @@ struct MenuEntry {
 
 // Button numbers of the toolbars; index 0 of the arrays below is unused.
 namespace main_buttons {  // ToolBarvs1
-enum { New = 1, Open, Import, Save, Undo = 6, Redo, ZoomIn = 9, ZoomOut, OriginalSize };
+enum {
+    New = 1,
+    Open,
+    Import,
+    Save,
+    Undo = 6,
+    Redo,
+    ZoomIn = 9,
+    ZoomOut,
+    OriginalSize,
+    Website = 13
+};
 }
 namespace tool_buttons {  // ToolBarvs2; the picture and text of 6 to 9 are crossed
 enum {

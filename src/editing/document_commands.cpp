@@ -219,7 +219,7 @@ void ImportPicture(Editor& editor, const fs::path& path, PictureBecomes becomes)
         if (!incoming->Failure.empty())
             editor.Host.ShowMessage(incoming->Failure);
         else
-            editor.Host.ShowTips(tips::Imported);
+            editor.Host.ShowTips(tips::Imported, true);
     });
 }
 

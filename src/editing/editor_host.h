@@ -24,13 +24,14 @@ public:
     virtual ~EditorHost() = default;
 
     // Notices. A host that does not show the thing has nothing to do.
-    virtual void SceneChanged() {}         // Editor::Scene was painted anew
-    virtual void LayerPanelChanged() {}    // the stack or a thumbnail changed
-    virtual void ControlsChanged() {}      // Editor::Controls changed
-    virtual void OverlaysChanged() {}      // Editor::Overlays changed
-    virtual void TitleChanged() {}         // Editor::Title changed
-    virtual void ShowTips(int /*tip*/) {}  // a tip fits now, by its number
-    virtual void HideTips() {}             // the first balloon closes now
+    virtual void SceneChanged() {}       // Editor::Scene was painted anew
+    virtual void LayerPanelChanged() {}  // the stack or a thumbnail changed
+    virtual void ControlsChanged() {}    // Editor::Controls changed
+    virtual void OverlaysChanged() {}    // Editor::Overlays changed
+    virtual void TitleChanged() {}       // Editor::Title changed
+    // A tip fits now, by its number; `showLayerTips`: and one about adding layers.
+    virtual void ShowTips(int /*tip*/, bool /*showLayerTips*/ = false) {}
+    virtual void HideTips() {}  // the first balloon closes now
     virtual void SetBusyPointer(bool /*busy*/) {}
     virtual void SlideBrushPanel() {}  // in or out, as Controls::BrushPanelOpen says
     // The layer order menu, wanted at this place of the scene, scene pixels.

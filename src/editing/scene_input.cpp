@@ -12,7 +12,6 @@ namespace orbelle::editing {
 namespace {
 
 constexpr int kLeftButton = 1;
-constexpr int kCloseTips = 500;  // ticks; far beyond the age at which tips close
 
 // An event that fails gives up the drag that it belongs to.
 template <typename Handler>
@@ -36,7 +35,7 @@ void PressLeft(Editor& editor, const Pointer& pointer) {
     AbandonDrag(editor);
     HandlersOf(editor.CurrentTool).Press(editor, pointer);
     EnableLayerSliders(editor);
-    editor.TipCounter = kCloseTips;
+    editor.TipCounter = kTipsExpired;
 }
 
 void PressOther(Editor& editor, const Pointer& pointer) {
@@ -45,7 +44,7 @@ void PressOther(Editor& editor, const Pointer& pointer) {
         return;
     }
     editor.Host.ShowLayerMenu(pointer.X, pointer.Y);
-    editor.TipCounter = kCloseTips;
+    editor.TipCounter = kTipsExpired;
 }
 
 void ShowMarker(Editor& editor, const Pointer& pointer) {
@@ -130,6 +129,13 @@ void KeyDownScene(Editor& editor, int keyCode) {
         HandlersOf(editor.CurrentTool).Key(editor, keyCode);
     });
     editor.Host.ControlsChanged();
+}
+
+void CancelInput(Editor& editor) {
+    AbandonDrag(editor);
+    DropPolygon(editor);
+    DrawScene(editor);
+    editor.Host.OverlaysChanged();
 }
 
 }  // namespace orbelle::editing

@@ -15,4 +15,10 @@ void ReleaseScene(Editor& editor, const Pointer& pointer);
 // `keyCode` as in tools/object_keys.h.
 void KeyDownScene(Editor& editor, int keyCode);
 
+// Gives up a drag in progress and an open polygon.
+void CancelInput(Editor& editor);
+
+// The age that a press gives to open tips: they close at their next tick.
+inline constexpr int kTipsExpired = 500;
+
 }  // namespace orbelle::editing

@@ -3,6 +3,7 @@
 
 namespace orbelle::editing::tips {
 
+inline constexpr int Welcome = 0;
 inline constexpr int NewOrOpened = 1;
 inline constexpr int Adjusted = 2;  // after a change that undo takes back
 inline constexpr int Imported = 3;

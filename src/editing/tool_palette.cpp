@@ -5,14 +5,13 @@
 
 #include "editing/color_wells.h"
 #include "editing/drag.h"
+#include "editing/scene_input.h"
 #include "editing/tips.h"
 #include "editing/tools/polygon.h"
 #include "editing/view_commands.h"
 
 namespace orbelle::editing {
 namespace {
-
-constexpr int kOpenTipsExpire = 500;  // ticks
 
 enum class Selection { Keep, Begin, End };
 
@@ -133,7 +132,7 @@ void ApplyChoice(Editor& editor, const ToolChoice& choice) {
         UseEraser(editor, PressedButton(controls.ToolBarvs6));
         controls.ColorOpacity.Value = 0;
         if (editor.CurrentTool == Tool::BrushEraser)
-            editor.TipCounter = kOpenTipsExpire;
+            editor.TipCounter = kTipsExpired;
     }
 }
 

@@ -51,6 +51,28 @@ void Scroll(Editor& editor, ScrollBar& bar, int value) {
         DrawScene(editor);
 }
 
+// Scrolls so that a page place, in page pixels, comes near a scene place.
+void ScrollTo(ScrollBar& bar, double pagePlace, double scenePlace, double page, int scene,
+              double zoom) {
+    const double room = scene - page * zoom;
+    if (bar.Visible && room < 0)
+        bar.Value = std::clamp(
+            graphics::RoundToEven((scenePlace - pagePlace * zoom) / room * bar.Max), 0, bar.Max);
+}
+
+void ZoomAt(Editor& editor, float x, float y, void (*zoomStep)(Editor&)) {
+    document::View& view = editor.View;
+    if (!editor.DocumentExists || view.Zoom <= 0)
+        return zoomStep(editor);
+    const document::Document& document = editor.Document;
+    const double pageX = (x - document::PageOffsetX(document, view)) / view.Zoom;
+    const double pageY = (y - document::PageOffsetY(document, view)) / view.Zoom;
+    zoomStep(editor);
+    ScrollTo(view.Hs1, pageX, x, document.PageWidth, view.SceneWidth, view.Zoom);
+    ScrollTo(view.Vs1, pageY, y, document.PageHeight, view.SceneHeight, view.Zoom);
+    DrawScene(editor);
+}
+
 // The zoom at which the page's larger side fills the scene, in tenths.
 double FitZoom(const Editor& editor) {
     constexpr double kMargin = 4;
@@ -174,6 +196,14 @@ void OriginalSize(Editor& editor) {
     else
         LeaveOriginalSize(editor);
     editor.Host.ControlsChanged();
+}
+
+void ZoomInAt(Editor& editor, float x, float y) {
+    ZoomAt(editor, x, y, ZoomIn);
+}
+
+void ZoomOutAt(Editor& editor, float x, float y) {
+    ZoomAt(editor, x, y, ZoomOut);
 }
 
 void StartZoomIn(Editor& editor) {

@@ -28,6 +28,11 @@ void ZoomOut(Editor& editor);
 // that was 1 or the page was resized since.
 void OriginalSize(Editor& editor);
 
+// Zoom In or Out as by their buttons, with the page pixel under a scene point staying there as near
+// as scrolling in tenths allows.
+void ZoomInAt(Editor& editor, float x, float y);
+void ZoomOutAt(Editor& editor, float x, float y);
+
 // Sets Zoom to 0 and has the host run the animation up to 1.
 void StartZoomIn(Editor& editor);
 

@@ -15,6 +15,18 @@ public:
     void SetCaption(const QString& caption);
     // The name of a drawing; empty: none.
     void SetPicture(const QString& artwork);
+
+    QSize sizeHint() const override;
+    int heightForWidth(int width) const override;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    int TextLeft() const;
+
+    QString caption_;
+    QString picture_;
 };
 
 }  // namespace orbelle::widgets

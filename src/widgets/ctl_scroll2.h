@@ -5,8 +5,9 @@
 
 namespace orbelle::widgets {
 
-// A horizontal QSlider with a look and a hand of its own: only its thumb is dragged. The arrow keys
-// are a drag of one step.
+// A horizontal QSlider with a look and a hand of its own: only its thumb is dragged, and a press
+// beside the thumb takes it there first. A key and a notch of the wheel are a drag of one step. The
+// scale begins at 0 even where the least value is above it.
 class CtlScroll2 : public QSlider {
     Q_OBJECT
 
@@ -31,6 +32,25 @@ protected:
     void mouseReleaseEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    void leaveEvent(QEvent* event) override;
+    void sliderChange(SliderChange change) override;
+
+private:
+    int TrackWidth() const;
+    QRect ThumbRect() const;
+    void PlaceThumb();
+    void DragThumb(int left, int direction);
+    void EndDrag();
+    void Step(int step);
+
+    int thumbLeft_ = 0;
+    int downX_ = 0;
+    int downLeft_ = 0;
+    int wheelRest_ = 0;  // of a notch, in eighths of a degree
+    bool isOverThumb_ = false;
+    bool dragging_ = false;
 };
 
 }  // namespace orbelle::widgets

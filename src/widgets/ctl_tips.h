@@ -5,7 +5,7 @@
 
 namespace orbelle::widgets {
 
-// Direction 0 points up at what it is about, another one down.
+// Direction 0 points up at what it is about, another one down. Comes up above its siblings.
 class CtlTips : public QWidget {
     Q_OBJECT
 
@@ -18,6 +18,18 @@ public:
 
 signals:
     void Clicked();
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+
+private:
+    bool PointsUp() const { return direction_ == 0; }
+
+    QString text_;
+    int direction_ = 0;
 };
 
 }  // namespace orbelle::widgets

@@ -1,11 +1,12 @@
 // The header of a panel that folds.
 #pragma once
 
-#include <QWidget>
+#include <QAbstractButton>
 
 namespace orbelle::widgets {
 
-class CtlTitle : public QWidget {
+// Open at first. To assistive tools it is a button that is checked while its panel is open.
+class CtlTitle : public QAbstractButton {
     Q_OBJECT
 
 public:
@@ -14,9 +15,15 @@ public:
     bool isClosed() const;
     void SetClosed(bool closed);  // does not raise Clicked
 
+    QSize sizeHint() const override;
+
 signals:
-    // The header was clicked and has turned.
+    // The header was clicked, or Space or Return pressed on it, and has turned.
     void Clicked(bool isClosed);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
 };
 
 }  // namespace orbelle::widgets

@@ -37,7 +37,7 @@ public:
     int BrushPanelSlides = 0;
     std::vector<graphics::PointF> LayerMenus;
 
-    void ShowTips(int tip) override { Tips.push_back(tip); }
+    void ShowTips(int tip, bool) override { Tips.push_back(tip); }
     void SetBusyPointer(bool busy) override { Busy += busy ? 1 : -1; }
     void HideTips() override { ++HiddenTips; }
     void SlideBrushPanel() override { ++BrushPanelSlides; }

@@ -1,12 +1,15 @@
 // The entry point of the window.
 #include <QApplication>
 #include <QCommandLineParser>
+#include <QFileInfo>
 #include <QIcon>
 #include <QTimer>
+#include <memory>
 
+#include "app/frm_welcome.h"
 #include "app/mform.h"
 #include "app/screenshot.h"
-#include "app/settings.h"
+#include "app/single_instance.h"
 
 int main(int argc, char** argv) {
     QApplication application(argc, argv);
@@ -36,11 +39,32 @@ int main(int argc, char** argv) {
     if (parser.isSet(screenshot))
         return orbelle::app::TakeScreenshot(parser.value(screenshot), file);
 
-    orbelle::app::mForm form;
-    orbelle::app::RestoreMainWindow(form);
-    form.show();
-    // Once the window has its size: the document is placed by it.
-    if (!files.isEmpty())
-        QTimer::singleShot(0, &form, [&] { form.OpenPath(file); });
+    // The text that a shell passes on: the path between quotation marks, or nothing.
+    const QString commandLine =
+        file.isEmpty() ? QString() : '"' + QFileInfo(file).absoluteFilePath() + '"';
+    if (orbelle::app::SingleInstance::HandOver(commandLine))
+        return 0;
+
+    orbelle::app::SingleInstance instance;
+    orbelle::app::FrmWelcome welcome;
+    welcome.RunStart();
+    // The window is put together while the welcome stands.
+    std::unique_ptr<orbelle::app::mForm> form;
+    QTimer::singleShot(0, [&] {
+        form = std::make_unique<orbelle::app::mForm>();
+        form->RestoreSettings();
+        QObject::connect(&instance, &orbelle::app::SingleInstance::Received, form.get(),
+                         &orbelle::app::mForm::TakeHandOver);
+    });
+    QObject::connect(&welcome, &orbelle::app::FrmWelcome::Finished, [&] {
+        form->show();
+        // Once the window has its size: the document is placed by it.
+        QTimer::singleShot(0, form.get(), [&] {
+            if (commandLine.isEmpty())
+                form->StartWelcome();
+            else
+                form->ShellOpen(commandLine);
+        });
+    });
     return QApplication::exec();
 }

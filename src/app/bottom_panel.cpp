@@ -1,0 +1,219 @@
+#include "app/bottom_panel.h"
+
+#include <QEvent>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+#include "app/brush_panel.h"
+#include "app/color_well.h"
+#include "app/mform.h"
+#include "editing/color_wells.h"
+#include "editing/page_commands.h"
+#include "editing/tool_palette.h"
+#include "widgets/artwork.h"
+#include "widgets/ctl_scroll.h"
+#include "widgets/ctl_scroll2.h"
+#include "widgets/ctl_title.h"
+
+namespace orbelle::app {
+namespace {
+
+using editing::Editor;
+
+constexpr int kMaxLineWidth = 255;
+constexpr int kSliderWidth = 120;
+constexpr int kGroupGap = 28;
+constexpr int kWidePen = 2;  // around the well in use
+
+QLabel* Caption(const char* text) {
+    auto* label = new QLabel(text);
+    label->setObjectName("caption");
+    return label;
+}
+
+// A caption above its controls.
+QWidget* Group(const char* caption, QLayout* controls) {
+    auto* group = new QWidget;
+    auto* column = new QVBoxLayout(group);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(6);
+    column->addWidget(Caption(caption));
+    column->addLayout(controls);
+    column->addStretch();
+    return group;
+}
+
+QHBoxLayout* Row(std::initializer_list<QWidget*> widgets) {
+    auto* row = new QHBoxLayout;
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(8);
+    for (QWidget* widget : widgets)
+        row->addWidget(widget);
+    row->addStretch();
+    return row;
+}
+
+QToolButton* PictureButton(const char* artwork, const char* tip) {
+    auto* button = new QToolButton;
+    QIcon icon;
+    for (const int ratio : {1, 2})
+        icon.addPixmap(widgets::Artwork(artwork, {16, 16}, ratio));
+    button->setIcon(icon);
+    button->setAutoRaise(true);
+    button->setToolTip(tip);
+    button->setAccessibleName(tip);
+    return button;
+}
+
+}  // namespace
+
+BottomPanel::BottomPanel(mForm& form) : form_(form) {
+    setObjectName("BottomTips");
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    title_ = new widgets::CtlTitle("Properties");
+    title_->setObjectName("CtlTitle4");
+    column->addWidget(title_);
+
+    content_ = new QWidget;
+    auto* groups = new QHBoxLayout(content_);
+    groups->setContentsMargins(12, 8, 12, 10);
+    groups->setSpacing(kGroupGap);
+    for (QWidget* group : {AddPageSize(), AddBackground(), AddColors(), AddOptions()})
+        groups->addWidget(group);
+    groups->addStretch();
+    column->addWidget(content_);
+    brush_ = new BrushPanel(form, content_);
+    content_->installEventFilter(this);
+    connect(title_, &widgets::CtlTitle::Clicked, content_,
+            [this](bool isClosed) { content_->setVisible(!isClosed); });
+}
+
+QWidget* BottomPanel::AddPageSize() {
+    const auto side = [this](const char* name, const char* caption, void (*change)(Editor&, int)) {
+        auto* slider = new widgets::CtlScroll;
+        slider->setObjectName(name);
+        slider->setAccessibleName(caption);
+        slider->setToolTip(caption);
+        slider->SetRange(1, document::kMaxPageSide);
+        connect(slider, &widgets::CtlScroll::Changed, this, [this, change](int value) {
+            form_.Run([=](Editor& editor) { change(editor, value); });
+        });
+        return slider;
+    };
+    pageWidth_ = side("CtlScroll1", "Page width", editing::ChangePageWidth);
+    pageHeight_ = side("CtlScroll2", "Page height", editing::ChangePageHeight);
+    return Group("Page size", Row({pageWidth_, new QLabel(QString(QChar(0x00D7))), pageHeight_}));
+}
+
+QWidget* BottomPanel::AddBackground() {
+    whiteColor_ = new ColorWell("Page background");
+    whiteColor_->setObjectName("WhiteColor");
+    whiteColor_->setToolTip("Page background");
+    connect(whiteColor_, &ColorWell::Clicked, this,
+            [this] { form_.Run(editing::AskPageBackground); });
+    QToolButton* none = PictureButton("tools/no-colour", "No page background");
+    none->setObjectName("Nocolor");
+    connect(none, &QToolButton::pressed, this, [this] {
+        form_.Run([](Editor& editor) {
+            if (editor.DocumentExists)
+                SetPageBackground(editor, 0);
+        });
+    });
+    return Group("Background", Row({whiteColor_, none}));
+}
+
+QWidget* BottomPanel::AddColors() {
+    const char* const names[] = {"Foreground colour", "Background colour"};
+    for (int i = 0; i < 2; ++i) {
+        auto* well = new ColorWell(names[i]);
+        well->setObjectName(QString("ForeColorOLE%1").arg(i));
+        well->setToolTip(QString("%1: click to use it, double-click to change it").arg(names[i]));
+        connect(well, &ColorWell::Clicked, this,
+                [this, i] { form_.Run([i](Editor& editor) { UseColorWell(editor, i); }); });
+        connect(well, &ColorWell::DoubleClicked, this,
+                [this, i] { form_.Run([i](Editor& editor) { AskWellColor(editor, i); }); });
+        wells_[static_cast<std::size_t>(i)] = well;
+    }
+    QToolButton* exchange = PictureButton("tools/swap", "Exchange the colours");
+    exchange->setObjectName("ExchangeColor");
+    connect(exchange, &QToolButton::clicked, this, [this] { form_.Run(editing::ExchangeColor); });
+    return Group("Colours", Row({wells_[0], exchange, wells_[1]}));
+}
+
+QWidget* BottomPanel::AddOptions() {
+    colorOpacity_ = new widgets::CtlScroll2;
+    colorOpacity_->setObjectName("ColorOpacity");
+    colorOpacity_->setAccessibleName("Colour opacity");
+    colorOpacity_->setRange(0, 100);
+    colorOpacity_->setFixedWidth(kSliderWidth);
+    connect(colorOpacity_, &widgets::CtlScroll2::Changed, this, [this](int value) {
+        form_.Run([value](Editor& editor) { ChangeColorOpacity(editor, value); });
+    });
+    opacityValue_ = new QLabel;
+    opacityValue_->setFixedWidth(40);
+    lineWidth_ = new widgets::CtlScroll;
+    lineWidth_->setObjectName("LineWidth");
+    lineWidth_->setAccessibleName("Line width");
+    lineWidth_->SetRange(1, kMaxLineWidth);
+    connect(lineWidth_, &widgets::CtlScroll::Changed, this, [this](int value) {
+        form_.Run([value](Editor& editor) {
+            ChangeLineWidth(editor, std::clamp(value, 1, kMaxLineWidth));
+        });
+    });
+    auto* both = new QWidget;
+    auto* row = new QHBoxLayout(both);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(kGroupGap);
+    row->addWidget(Group("Colour opacity", Row({colorOpacity_, opacityValue_})));
+    row->addWidget(Group("Line width", Row({lineWidth_})));
+    return both;
+}
+
+void BottomPanel::SetOpen(bool open) {
+    title_->SetClosed(!open);
+    content_->setVisible(open);
+}
+
+QWidget& BottomPanel::FirstColorWell() const {
+    return *wells_[0];
+}
+
+void BottomPanel::SlideBrush(bool open) {
+    if (open)
+        SetOpen(true);
+    brush_->Slide(open);
+}
+
+bool BottomPanel::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == content_ && event->type() == QEvent::Resize)
+        brush_->Place();
+    return QWidget::eventFilter(watched, event);
+}
+
+void BottomPanel::ShowStates(const Editor& editor) {
+    const editing::Controls& controls = editor.Controls;
+    const auto mirror = [](widgets::CtlScroll& shown, const editing::Slider& slider) {
+        shown.setEnabled(slider.Enabled);
+        if (shown.ColorValue() != slider.Value)
+            shown.SetColorValue(slider.Value);
+    };
+    mirror(*pageWidth_, controls.CtlScroll1);
+    mirror(*pageHeight_, controls.CtlScroll2);
+    mirror(*lineWidth_, controls.LineWidth);
+    whiteColor_->Show(editor.Document.PageBackground, 1);
+    whiteColor_->setEnabled(editor.DocumentExists);
+    for (int i = 0; i < 2; ++i)
+        wells_[static_cast<std::size_t>(i)]->Show(editor.Colors[static_cast<std::size_t>(i)],
+                                                  i == editor.ActiveColor ? kWidePen : 1);
+    colorOpacity_->setEnabled(controls.ColorOpacity.Enabled);
+    colorOpacity_->SetValue(controls.ColorOpacity.Value);
+    opacityValue_->setText(QString::number(controls.ColorOpacity.Value) + "%");
+    brush_->ShowStates(controls);
+}
+
+}  // namespace orbelle::app

@@ -1,0 +1,114 @@
+#include "app/brush_panel.h"
+
+#include <QGridLayout>
+#include <QLabel>
+#include <QPainter>
+#include <algorithm>
+
+#include "app/mform.h"
+#include "editing/tool_palette.h"
+#include "widgets/ctl_scroll2.h"
+
+namespace orbelle::app {
+namespace {
+
+constexpr int kWidth = 236;
+constexpr int kSlideStep = 10;         // pixels a tick
+constexpr int kSlideMilliseconds = 8;  // a tick
+constexpr int kBlinkMilliseconds = 250;
+constexpr int kBlinkTicks = 6;
+constexpr int kMaxBrush = 100;
+constexpr QColor kBackground(245, 246, 247);
+constexpr QColor kFrame(58, 150, 255);
+
+}  // namespace
+
+BrushPanel::BrushPanel(mForm& form, QWidget* parent) : QWidget(parent) {
+    setObjectName("BrushPanel");
+    auto* rows = new QGridLayout(this);
+    rows->setContentsMargins(12, 8, 12, 8);
+    rows->setHorizontalSpacing(8);
+    rows->setVerticalSpacing(6);
+    const auto addRow = [&](int row, const char* caption, const char* name, QLabel*& value,
+                            void (*change)(editing::Editor&, int)) {
+        auto* slider = new widgets::CtlScroll2;
+        slider->setRange(1, kMaxBrush);
+        slider->setObjectName(name);
+        slider->setAccessibleName(caption);
+        value = new QLabel;
+        value->setFixedWidth(40);
+        value->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+        rows->addWidget(new QLabel(caption), row, 0);
+        rows->addWidget(slider, row, 1);
+        rows->addWidget(value, row, 2);
+        connect(slider, &widgets::CtlScroll2::Changed, this, [&form, change](int to) {
+            form.Run([=](editing::Editor& editor) { change(editor, to); });
+        });
+        return slider;
+    };
+    size_ = addRow(0, "Brush size", "CtlScroll23", sizeValue_, editing::ChangeBrushSize);
+    opacity_ =
+        addRow(1, "Brush opacity", "CtlScroll22", opacityValue_, editing::ChangeBrushOpacity);
+    slide_.setInterval(kSlideMilliseconds);
+    blink_.setInterval(kBlinkMilliseconds);
+    connect(&slide_, &QTimer::timeout, this, &BrushPanel::StepSlide);
+    connect(&blink_, &QTimer::timeout, this, &BrushPanel::StepBlink);
+    hide();
+}
+
+void BrushPanel::ShowStates(const editing::Controls& controls) {
+    size_->SetValue(controls.CtlScroll23.Value);
+    opacity_->SetValue(controls.CtlScroll22.Value);
+    sizeValue_->setText(QString::fromStdString(controls.BrushSize));
+    opacityValue_->setText(QString::fromStdString(controls.BrushOpacity));
+}
+
+void BrushPanel::Place() {
+    const QSize room = parentWidget()->size();
+    const int top = open_ && !slide_.isActive() ? 0 : std::min(y(), room.height());
+    setGeometry(room.width() - kWidth, isHidden() ? room.height() : top, kWidth, room.height());
+}
+
+void BrushPanel::Slide(bool open) {
+    if (isHidden())
+        Place();
+    open_ = open;
+    show();
+    raise();
+    slide_.start();
+}
+
+void BrushPanel::StepSlide() {
+    const int below = parentWidget()->height();
+    const int top = open_ ? std::max(y() - kSlideStep, 0) : std::min(y() + kSlideStep, below);
+    move(x(), top);
+    if (open_ && top == 0) {
+        slide_.stop();
+        blinks_ = 0;
+        blink_.start();
+    } else if (!open_ && top == below) {
+        slide_.stop();
+        hide();
+    }
+}
+
+void BrushPanel::StepBlink() {
+    frame_ = !frame_;
+    if (++blinks_ >= kBlinkTicks) {
+        frame_ = false;
+        blink_.stop();
+    }
+    update();
+}
+
+void BrushPanel::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.fillRect(rect(), kBackground);
+    if (!frame_)
+        return;
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(kFrame, 1));
+    painter.drawRoundedRect(QRectF(rect()).adjusted(3.5, 3.5, -3.5, -3.5), 3, 3);
+}
+
+}  // namespace orbelle::app

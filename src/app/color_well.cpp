@@ -1,0 +1,65 @@
+#include "app/color_well.h"
+
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+
+namespace orbelle::app {
+namespace {
+
+constexpr int kCell = 5;
+constexpr QColor kChecker(230, 230, 230);
+constexpr QColor kOutline(70, 70, 70);
+constexpr QColor kFocus(58, 150, 255);
+constexpr int kMargin = 3;
+
+}  // namespace
+
+ColorWell::ColorWell(const QString& name, QWidget* parent) : QWidget(parent) {
+    setAccessibleName(name);
+    setFocusPolicy(Qt::TabFocus);
+    setFixedSize(ColorWell::sizeHint());
+}
+
+void ColorWell::Show(graphics::Argb color, int penWidth) {
+    color_ = color;
+    penWidth_ = penWidth;
+    setAccessibleDescription(QColor::fromRgba(color).name(QColor::HexArgb));
+    update();
+}
+
+void ColorWell::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.fillRect(rect(), Qt::white);
+    for (int y = 0; y < height(); y += kCell)
+        for (int x = y / kCell % 2 * kCell; x < width(); x += 2 * kCell)
+            painter.fillRect(QRect(x, y, kCell, kCell), kChecker);
+    if (graphics::AlphaOf(color_) != 0)
+        painter.fillRect(rect().adjusted(kMargin, kMargin, -kMargin, -kMargin),
+                         QColor::fromRgba(color_));
+    const double half = penWidth_ / 2.0;
+    painter.setPen(QPen(hasFocus() ? kFocus : kOutline, penWidth_, Qt::SolidLine, Qt::SquareCap,
+                        Qt::MiterJoin));
+    painter.drawRect(QRectF(rect()).adjusted(half, half, -half, -half));
+}
+
+void ColorWell::mousePressEvent(QMouseEvent* event) {
+    if (event->button() == Qt::LeftButton)
+        emit Clicked();
+}
+
+void ColorWell::mouseDoubleClickEvent(QMouseEvent* event) {
+    if (event->button() == Qt::LeftButton)
+        emit DoubleClicked();
+}
+
+void ColorWell::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Space)
+        emit Clicked();
+    else if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+        emit DoubleClicked();
+    else
+        QWidget::keyPressEvent(event);
+}
+
+}  // namespace orbelle::app

@@ -1,0 +1,47 @@
+#include "app/pointer_status.h"
+
+#include <QColor>
+#include <cmath>
+
+#include "editing/scene_mapping.h"
+
+namespace orbelle::app {
+namespace {
+
+QLabel* AddField(QStatusBar& line, const char* name, int width) {
+    auto* field = new QLabel;
+    field->setObjectName(name);
+    field->setMinimumWidth(width);
+    field->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    field->setContentsMargins(0, 0, 12, 0);
+    line.addPermanentWidget(field);
+    return field;
+}
+
+}  // namespace
+
+PointerStatus::PointerStatus(QStatusBar& line)
+    : position_(AddField(line, "PointerPosition", 96)),
+      color_(AddField(line, "PointerColor", 96)),
+      zoom_(AddField(line, "Zoom", 64)) {}
+
+void PointerStatus::ShowPointer(const editing::Editor& editor, float x, float y) {
+    if (!editor.DocumentExists || editor.View.Zoom <= 0)
+        return ClearPointer();
+    const graphics::PointF page = ScreenToPage(editing::MappingOf(editor), x, y);
+    const int column = graphics::RoundToEven(page.X), row = graphics::RoundToEven(page.Y);
+    position_->setText(QString("%1, %2").arg(column).arg(row));
+    const auto color = editor.Canvas.new_Img.GetPixel(column, row);
+    color_->setText(color ? QColor::fromRgba(*color).name(QColor::HexArgb).toUpper() : QString());
+}
+
+void PointerStatus::ClearPointer() {
+    position_->clear();
+    color_->clear();
+}
+
+void PointerStatus::ShowZoom(double zoom) {
+    zoom_->setText(zoom > 0 ? QString::number(std::lround(zoom * 100)) + "%" : QString());
+}
+
+}  // namespace orbelle::app

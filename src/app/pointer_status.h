@@ -1,0 +1,27 @@
+// Tells in the status line where the pointer is on the page, and what lies there.
+#pragma once
+
+#include <QLabel>
+#include <QStatusBar>
+
+#include "editing/editor.h"
+
+namespace orbelle::app {
+
+class PointerStatus {
+public:
+    // Adds its fields to the line's right end.
+    explicit PointerStatus(QStatusBar& line);
+
+    // The pointer in scene pixels.
+    void ShowPointer(const editing::Editor& editor, float x, float y);
+    void ClearPointer();
+    void ShowZoom(double zoom);
+
+private:
+    QLabel* position_;
+    QLabel* color_;
+    QLabel* zoom_;
+};
+
+}  // namespace orbelle::app

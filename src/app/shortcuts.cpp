@@ -1,0 +1,46 @@
+#include "app/shortcuts.h"
+
+#include "editing/color_wells.h"
+#include "editing/scene_input.h"
+#include "editing/tool_palette.h"
+#include "editing/view_commands.h"
+
+namespace orbelle::app {
+namespace {
+
+namespace tool_buttons = editing::tool_buttons;
+
+mForm::EditorCommand Tool(int button) {
+    return [button](editing::Editor& editor) {
+        ClickToolButton(editor, button);
+        // A key chooses the tool; the pop-up is the mouse's.
+        editor.Controls.ToolBarvs3Visible = false;
+        editor.Controls.ToolBarvs5Visible = false;
+        editor.Controls.ToolBarvs6Visible = false;
+        editor.Host.ControlsChanged();
+    };
+}
+
+}  // namespace
+
+std::vector<Shortcut> WindowShortcuts() {
+    return {
+        {"Zoom In", {Qt::CTRL | Qt::Key_Plus, Qt::CTRL | Qt::Key_Equal}, editing::ZoomIn},
+        {"Zoom Out", {Qt::CTRL | Qt::Key_Minus}, editing::ZoomOut},
+        {"Original Size", {Qt::CTRL | Qt::Key_0}, editing::OriginalSize},
+        {"Give up", {Qt::Key_Escape}, editing::CancelInput},
+        {"Move tool", {Qt::Key_V}, Tool(tool_buttons::Move)},
+        {"Selection tool", {Qt::Key_M}, Tool(tool_buttons::Selection)},
+        {"Pencil tool", {Qt::Key_B}, Tool(tool_buttons::Pencil)},
+        {"Line tool", {Qt::Key_L}, Tool(tool_buttons::Line)},
+        {"Rectangle tool", {Qt::Key_R}, Tool(tool_buttons::Rectangle)},
+        {"Filled rectangle tool", {Qt::SHIFT | Qt::Key_R}, Tool(tool_buttons::FilledRectangle)},
+        {"Ellipse tool", {Qt::Key_O}, Tool(tool_buttons::Ellipse)},
+        {"Filled ellipse tool", {Qt::SHIFT | Qt::Key_O}, Tool(tool_buttons::FilledEllipse)},
+        {"Colour pick tool", {Qt::Key_I}, Tool(tool_buttons::ColorPick)},
+        {"Erase tool", {Qt::Key_E}, Tool(tool_buttons::Eraser)},
+        {"Exchange colours", {Qt::Key_X}, editing::ExchangeColor},
+    };
+}
+
+}  // namespace orbelle::app

@@ -1,0 +1,20 @@
+// Keys of the window for what has no menu entry.
+#pragma once
+
+#include <QKeySequence>
+#include <QList>
+#include <vector>
+
+#include "app/mform.h"
+
+namespace orbelle::app {
+
+struct Shortcut {
+    QString Caption;
+    QList<QKeySequence> Keys;
+    mForm::EditorCommand Command;
+};
+
+std::vector<Shortcut> WindowShortcuts();
+
+}  // namespace orbelle::app

@@ -1,0 +1,85 @@
+#include "app/tip_balloons.h"
+
+namespace orbelle::app {
+namespace {
+
+// Meant as 5 ms, which the timers of its day made of 15: a tip stays for the time to read it.
+constexpr int kTickMilliseconds = 16;
+constexpr int kOldest = 300;  // ticks
+
+}  // namespace
+
+TipBalloons::TipBalloons(editing::Editor& editor, QWidget& central, Placement placement)
+    : editor_(editor),
+      placement_(std::move(placement)),
+      tips1_(new widgets::CtlTips(&central)),
+      tips2_(new widgets::CtlTips(&central)) {
+    tips1_->setObjectName("CtlTips1");
+    tips2_->setObjectName("CtlTips2");
+    tips2_->SetDirection(1);
+    for (widgets::CtlTips* balloon : {tips1_, tips2_}) {
+        balloon->hide();
+        connect(balloon, &widgets::CtlTips::Clicked, this, [this, balloon] {
+            balloon->hide();
+            emit BalloonClicked();
+        });
+    }
+    timer2_.setInterval(kTickMilliseconds);
+    connect(&timer2_, &QTimer::timeout, this, &TipBalloons::Grow);
+}
+
+bool TipBalloons::Put(widgets::CtlTips& balloon, const std::optional<editing::Tip>& tip) {
+    if (!tip)
+        return true;
+    balloon.SetTipString(QString::fromStdString(tip->Text));
+    const std::optional<QPoint> place = placement_(tip->Place, balloon.size());
+    if (!place)
+        return false;
+    // A balloon that would leave the window moves in.
+    const QSize room = balloon.parentWidget()->size() - balloon.size();
+    balloon.move(std::clamp(place->x(), 0, std::max(room.width(), 0)),
+                 std::clamp(place->y(), 0, std::max(room.height(), 0)));
+    return true;
+}
+
+void TipBalloons::ShowTips(int tip, bool showLayerTips) {
+    editor_.TipCounter = 0;
+    if (!TipsEnabled)
+        return;
+    const int pick = std::uniform_int_distribution<int>(1, 2)(random_);
+    const editing::TipChoice choice = ChooseTips(editor_, tip, showLayerTips, pick);
+    const bool seen1 = Put(*tips1_, choice.CtlTips1);
+    tips1_->setVisible(choice.Tips1Visible && seen1);
+    const bool seen2 = Put(*tips2_, choice.CtlTips2);
+    if (choice.Tips2Visible)
+        tips2_->setVisible(*choice.Tips2Visible && seen2);
+    for (widgets::CtlTips* balloon : {tips1_, tips2_})
+        balloon->raise();
+    timer2_.start();
+}
+
+void TipBalloons::HideFirst() {
+    if (tips1_->isHidden())
+        return;
+    tips1_->hide();
+    timer2_.stop();
+}
+
+void TipBalloons::HideAll() {
+    tips1_->hide();
+    tips2_->hide();
+}
+
+void TipBalloons::Stop() {
+    timer2_.stop();
+}
+
+void TipBalloons::Grow() {
+    if (++editor_.TipCounter <= kOldest)
+        return;
+    editor_.TipCounter = 0;
+    HideAll();
+    timer2_.stop();
+}
+
+}  // namespace orbelle::app

@@ -1,0 +1,53 @@
+// The two balloons of tips on the main window, and the tab that tells how to turn tips off.
+#pragma once
+
+#include <QLabel>
+#include <QObject>
+#include <QTimer>
+#include <functional>
+#include <random>
+
+#include "editing/editor.h"
+#include "editing/tip_texts.h"
+#include "widgets/ctl_tips.h"
+
+namespace orbelle::app {
+
+class TipBalloons : public QObject {
+    Q_OBJECT
+
+public:
+    // Where the thing that a tip is about lies, in pixels of the central widget; no value: it can't
+    // be seen, and neither can the tip.
+    using Placement = std::function<std::optional<QPoint>(editing::TipPlace, QSize balloon)>;
+
+    // The balloons are children of `central`.
+    TipBalloons(editing::Editor& editor, QWidget& central, Placement placement);
+
+    // Help/Tips. Open balloons close by themselves.
+    bool TipsEnabled = false;
+
+    void ShowTips(int tip, bool showLayerTips);
+    void HideFirst();  // and lets the balloons grow no older
+    void HideAll();
+    void Stop();
+
+    widgets::CtlTips& CtlTips1() const { return *tips1_; }
+    widgets::CtlTips& CtlTips2() const { return *tips2_; }
+
+signals:
+    void BalloonClicked();
+
+private:
+    void Grow();
+    bool Put(widgets::CtlTips& balloon, const std::optional<editing::Tip>& tip);
+
+    editing::Editor& editor_;
+    Placement placement_;
+    widgets::CtlTips* tips1_;
+    widgets::CtlTips* tips2_;
+    QTimer timer2_;
+    std::minstd_rand random_;
+};
+
+}  // namespace orbelle::app

@@ -1,0 +1,43 @@
+// What the balloons say, and beside what they stand.
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "editing/editor.h"
+
+namespace orbelle::editing {
+
+// The thing that a balloon points at.
+enum class TipPlace {
+    NewAndOpenButtons,  // of ToolBarvs1
+    ImportButton,
+    UndoButtons,
+    LayerMiddle,  // of the selected layer, on the scene
+    PageCorner,   // on the scene
+    OpacitySlider,
+    ToolColumn,
+    AddLayerButton,
+    ColorWells,
+    BrushOptions,
+};
+
+struct Tip {
+    std::string Text;
+    TipPlace Place = TipPlace::PageCorner;
+};
+
+// Both balloons after a tip was asked for. A balloon without a value stays as it is; one whose tip
+// is hidden closes.
+struct TipChoice {
+    std::optional<Tip> CtlTips1;
+    bool Tips1Visible = false;
+    std::optional<Tip> CtlTips2;
+    std::optional<bool> Tips2Visible;
+};
+
+// The tip of that number for the editor's state. `pick`, 1 or 2, chooses between two texts where
+// there are two. `showLayerTips` adds a second balloon to tip 3.
+TipChoice ChooseTips(const Editor& editor, int tip, bool showLayerTips, int pick);
+
+}  // namespace orbelle::editing
