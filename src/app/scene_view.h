@@ -22,6 +22,11 @@ public:
     // `editor` outlives the view.
     explicit SceneView(const editing::Editor& editor, QWidget* parent = nullptr);
 
+    // The pointer's shape, by the tool.
+    void ShowCursor();
+    // The welcome text over an empty scene, 0 (nothing) to 250; -1: none.
+    void ShowWelcome(int strength);
+
 signals:
     void Resized(int width, int height);   // scene pixels, each at least 1
     void ZoomInWanted(const QPointF& at);  // Ctrl and the wheel, one step
@@ -34,11 +39,6 @@ signals:
     void KeyPressed(int keyCode);                 // see editing/tools/object_keys.h
     void FilesDropped(const QStringList& files);  // local files, in the order given
     void PictureDropped(const QImage& picture);
-
-    // The pointer's shape, by the tool.
-    void ShowCursor();
-    // The welcome text over an empty scene, 0 (nothing) to 250; -1: none.
-    void ShowWelcome(int strength);
 
 protected:
     void mousePressEvent(QMouseEvent* event) override;
