@@ -52,7 +52,6 @@ QHBoxLayout* Row(std::initializer_list<QWidget*> widgets) {
     row->setSpacing(8);
     for (QWidget* widget : widgets)
         row->addWidget(widget);
-    row->addStretch();
     return row;
 }
 
@@ -85,7 +84,7 @@ BottomPanel::BottomPanel(mForm& form) : form_(form) {
     groups->setSpacing(kGroupGap);
     for (QWidget* group : {AddPageSize(), AddBackground(), AddColors(), AddOptions()})
         groups->addWidget(group);
-    groups->addStretch();
+    groups->addStretch(1);
     column->addWidget(content_);
     brush_ = new BrushPanel(form, content_);
     content_->installEventFilter(this);

@@ -45,11 +45,13 @@ namespace {
 constexpr int kStatusMilliseconds = 8000;
 constexpr int kZoomTickMilliseconds = 1;
 constexpr int kScrollPositions = 10;  // the scene scrolls in tenths
-constexpr int kWheelStep = 120;       // of a wheel's notch
+constexpr int kRightPanelWidth = 248;
+constexpr int kWheelStep = 120;  // of a wheel's notch
 
 // One light chrome whatever the desktop's theme.
 constexpr char kChrome[] =
-    "QMainWindow, QMenuBar, QMenu, QStatusBar, QScrollArea, #RightPic, #BottomTips, QDialog"
+    "QMainWindow, QMenuBar, QMenu, QStatusBar, QScrollArea, #central, #RightPic, #BottomTips, "
+    "QDialog"
     " { background: #f5f6f7; color: #404040 }"
     "QMenuBar::item:selected, QMenu::item:selected { background: #cdecfe; color: #202020 }"
     "QMenu::item:disabled { color: #a8acb0 }"
@@ -124,6 +126,7 @@ mForm::mForm() {
 
 void mForm::AddPanels() {
     auto* central = new QWidget;
+    central->setObjectName("central");
     auto* rows = new QVBoxLayout(central);
     rows->setContentsMargins(0, 0, 0, 0);
     rows->setSpacing(0);
@@ -131,7 +134,7 @@ void mForm::AddPanels() {
     auto* middle = new QHBoxLayout;
     middle->setSpacing(0);
     rows->addLayout(middle, 1);
-    middle->addWidget(bars_->ToolBarvs2);
+    middle->addWidget(bars_->ToolBarvs2, 0, Qt::AlignTop);
     middle->addWidget(MakeScene(), 1);
     rightPanel_ = new RightPanel(*this, *bars_->ToolBarvs4);
     auto* scroller = new QScrollArea;
@@ -140,7 +143,7 @@ void mForm::AddPanels() {
     scroller->setWidgetResizable(true);
     scroller->setFrameShape(QFrame::NoFrame);
     scroller->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    scroller->setFixedWidth(rightPanel_->width());
+    scroller->setFixedWidth(kRightPanelWidth);
     scroller->setFocusPolicy(Qt::NoFocus);
     middle->addWidget(scroller);
     bottomPanel_ = new BottomPanel(*this);

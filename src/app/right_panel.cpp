@@ -18,11 +18,10 @@ using editing::Controls;
 using editing::Editor;
 using widgets::CtlScroll2;
 
-constexpr int kPanelWidth = 232;
 constexpr int kMargin = 12;
 constexpr int kCaptionWidth = 70;
 constexpr int kValueWidth = 32;
-constexpr int kMinLayerList = 124;
+constexpr int kMinLayerList = 84;
 
 // One drag of a slider as the three parts of a command.
 template <typename Press, typename Change, typename Release>
@@ -54,7 +53,6 @@ QString OpacityText(float opacity) {
 
 RightPanel::RightPanel(mForm& form, QWidget& layerBar) : form_(form) {
     setObjectName("RightPic");
-    setFixedWidth(kPanelWidth);
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
@@ -82,7 +80,7 @@ RightPanel::RightPanel(mForm& form, QWidget& layerBar) : form_(form) {
 
     QWidget* filter = AddSection("CtlTitle5", "Icon Filter");
     filterCaption_ = new widgets::CtlCaptions;
-    filterCaption_->setMinimumHeight(44);
+    filterCaption_->setMinimumHeight(30);
     filter->layout()->addWidget(filterCaption_);
 
     QWidget* layers = AddSection("CtlTitle6", "Layer");
@@ -109,9 +107,9 @@ QWidget* RightPanel::AddSection(const char* name, const char* title) {
     header->setObjectName(name);
     auto* content = new QWidget;
     auto* rows = new QGridLayout(content);
-    rows->setContentsMargins(kMargin, 8, kMargin, 12);
+    rows->setContentsMargins(kMargin, 6, kMargin, 8);
     rows->setHorizontalSpacing(8);
-    rows->setVerticalSpacing(6);
+    rows->setVerticalSpacing(4);
     layout()->addWidget(header);
     layout()->addWidget(content);
     headers_.push_back({name, header, content});

@@ -41,7 +41,7 @@ constexpr graphics::Argb kRed = 0xFFC02040;
 class MFormTest : public ::testing::Test {
 protected:
     MFormTest() {
-        form.resize(640, 480);
+        form.resize(800, 600);
         form.show();
     }
 
