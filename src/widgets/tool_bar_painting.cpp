@@ -1,5 +1,6 @@
 // How the toolbar looks.
 #include <QPainter>
+#include <algorithm>
 
 #include "widgets/artwork.h"
 #include "widgets/skin.h"
@@ -43,10 +44,11 @@ void ToolBarvs::LoadIcons(qreal ratio) {
         return;
     iconsRatio_ = ratio;
     icons_.assign(buttons_.size(), QPixmap());
-    for (std::size_t i = 0; i < icons_.size(); ++i)
+    const std::size_t count = std::min(icons_.size(), static_cast<std::size_t>(images_.size()));
+    for (std::size_t i = 0; i < count; ++i)
         if (!buttons_[i].IsSeparator())
             icons_[i] =
-                Artwork(images_.value(static_cast<qsizetype>(i)), QSize(icoSize_, icoSize_), ratio);
+                Artwork(images_[static_cast<qsizetype>(i)], QSize(icoSize_, icoSize_), ratio);
 }
 
 void ToolBarvs::paintEvent(QPaintEvent*) {

@@ -151,6 +151,23 @@ TEST_F(CtlLayersTest, DrawsCheckerAndThumbnail) {
     EXPECT_NE(image.pixelColor(28, 67), QColor(Qt::red));
 }
 
+TEST_F(CtlLayersTest, MixesThePixelsOfAPictureThatShrinks) {
+    Fill(0);
+    QImage stripes = Picture(64, 64, Qt::red);
+    for (int x = 0; x < 64; x += 2)
+        for (int y = 0; y < 64; ++y)
+            stripes.setPixelColor(x, y, Qt::blue);
+    list.LoadImage(stripes, 64, 64, "1.00", true);
+    list.DrawLayers();
+    const QColor middle = list.viewport()->grab().toImage().pixelColor(20, 20);
+    EXPECT_NEAR(middle.red(), 128, 2);
+    EXPECT_NEAR(middle.blue(), 128, 2);
+
+    list.UpdateImage(Picture(64, 64, Qt::green), 64, 64, 0, "1.00", true);
+    list.DrawLayers();
+    EXPECT_EQ(list.viewport()->grab().toImage().pixelColor(20, 20), QColor(Qt::green));
+}
+
 TEST_F(CtlLayersTest, KeysMoveTheSelectionIntoView) {
     Fill(9);
     for (const int key :

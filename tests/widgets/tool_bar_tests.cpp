@@ -15,7 +15,7 @@ namespace {
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
-ToolBarSetup Setup(QStringList buttons, Qt::Orientation direction = Qt::Horizontal) {
+ToolBarSetup BarOf(QStringList buttons, Qt::Orientation direction = Qt::Horizontal) {
     ToolBarSetup setup;
     setup.Direction = direction;
     setup.Buttons = std::move(buttons);
@@ -138,7 +138,7 @@ TEST(ToolBarLayoutTest, HitsNeitherSeparatorsNorSplitLines) {
 }
 
 TEST(ToolBarTest, IgnoresNumbersWithoutAButton) {
-    ToolBarvs bar(Setup({"1,Y,,,,1,-1,0", "2,Y,,,,0,-1,0"}));
+    ToolBarvs bar(BarOf({"1,Y,,,,1,-1,0", "2,Y,,,,0,-1,0"}));
     for (const int number : {-1, 0, 3, 1 << 30}) {
         bar.SetButtonPressState(number, true);
         bar.SetButtonEnable(number, true);
@@ -155,7 +155,7 @@ TEST(ToolBarTest, IgnoresNumbersWithoutAButton) {
 }
 
 TEST(ToolBarTest, PaintsOnlyItsBackgroundWithoutButtons) {
-    ToolBarvs bar(Setup({}));
+    ToolBarvs bar(BarOf({}));
     bar.resize(40, 26);
     Click(bar, {20, 13});
     SendKey(bar, Qt::Key_Right);
@@ -168,7 +168,7 @@ TEST(ToolBarTest, PaintsOnlyItsBackgroundWithoutButtons) {
 }
 
 TEST(ToolBarTest, ClicksAtThePressWithAnyMouseButton) {
-    ShownBar shown(Setup({"1,Y,,,,0,-1,0", "2,1,,,,0,-1,0", "3,Y,,,,0,-1,0"}, Qt::Vertical));
+    ShownBar shown(BarOf({"1,Y,,,,0,-1,0", "2,1,,,,0,-1,0", "3,Y,,,,0,-1,0"}, Qt::Vertical));
     EXPECT_EQ(shown.Bar.ButtonIndex(), 0);
     SendMouse(shown.Bar, QEvent::MouseButtonPress, shown.Middle(3), Qt::LeftButton);
     EXPECT_THAT(shown.Clicks, ElementsAre(3));
@@ -181,7 +181,7 @@ TEST(ToolBarTest, ClicksAtThePressWithAnyMouseButton) {
 }
 
 TEST(ToolBarTest, LatchesBeforeItRaisesTheClick) {
-    ShownBar shown(Setup({"1,Y,,,,1,-1,0"}));
+    ShownBar shown(BarOf({"1,Y,,,,1,-1,0"}));
     std::vector<bool> states;
     QObject::connect(&shown.Bar, &ToolBarvs::MouseClick,
                      [&] { states.push_back(shown.Bar.GetButtonPressState(1)); });
@@ -191,7 +191,7 @@ TEST(ToolBarTest, LatchesBeforeItRaisesTheClick) {
 }
 
 TEST(ToolBarTest, DisabledButtonsAreSilent) {
-    ShownBar shown(Setup({"1,Y,,,,1,0,0"}));
+    ShownBar shown(BarOf({"1,Y,,,,1,0,0"}));
     shown.Bar.SetButtonPressState(1, false);
     const QColor background = Face(shown, 1);
     shown.Hover(1);
@@ -202,7 +202,7 @@ TEST(ToolBarTest, DisabledButtonsAreSilent) {
 }
 
 TEST(ToolBarTest, ShowsTheStatesOfAButton) {
-    ShownBar shown(Setup({"1,Y,,,,0,-1,0"}));
+    ShownBar shown(BarOf({"1,Y,,,,0,-1,0"}));
     const QColor normal = Face(shown, 1);
     shown.Hover(1);
     const QColor hover = Face(shown, 1);
@@ -226,7 +226,7 @@ TEST(ToolBarTest, ShowsTheStatesOfAButton) {
 }
 
 TEST(ToolBarTest, HoverEndsWithoutAMoveOutside) {
-    ShownBar shown(Setup({"1,Y,,,,0,-1,0"}));
+    ShownBar shown(BarOf({"1,Y,,,,0,-1,0"}));
     const QColor normal = Face(shown, 1);
     shown.Hover(1);
     QElapsedTimer stay;
@@ -241,7 +241,7 @@ TEST(ToolBarTest, HoverEndsWithoutAMoveOutside) {
 }
 
 TEST(ToolBarTest, DrawsTheSeparatorLines) {
-    ToolBarvs bar(Setup({"1,1,,,,0,-1,0"}));
+    ToolBarvs bar(BarOf({"1,1,,,,0,-1,0"}));
     bar.resize(40, 26);
     const QImage image = bar.grab().toImage();
     const QColor background(245, 246, 247);
@@ -255,7 +255,7 @@ TEST(ToolBarTest, DrawsTheSeparatorLines) {
 
 TEST(ToolBarTest, KeysWalkOverEnabledButtonsAndPress) {
     ShownBar shown(
-        Setup({"1,Y,,,,0,0,0", "2,Y,,,,0,-1,0", "3,1,,,,0,-1,0", "4,Y,,,,0,0,0", "5,Y,,,,1,-1,0"}));
+        BarOf({"1,Y,,,,0,0,0", "2,Y,,,,0,-1,0", "3,1,,,,0,-1,0", "4,Y,,,,0,0,0", "5,Y,,,,1,-1,0"}));
     const QImage calm = shown.Bar.grab().toImage();
     QFocusEvent focus(QEvent::FocusIn, Qt::TabFocusReason);
     QApplication::sendEvent(&shown.Bar, &focus);
@@ -275,7 +275,7 @@ TEST(ToolBarTest, KeysWalkOverEnabledButtonsAndPress) {
 }
 
 TEST(ToolBarTest, CaptionsAndMenusChangeTheLength) {
-    ToolBarvs bar(Setup({"1,Y,,,,0,-1,0"}));
+    ToolBarvs bar(BarOf({"1,Y,,,,0,-1,0"}));
     const int plain = bar.sizeHint().width();
     bar.AddButtonMenu(1, ToolMenu{1, "a", "a", true, true});
     EXPECT_EQ(bar.sizeHint().width(), plain + 6);
@@ -287,7 +287,7 @@ TEST(ToolBarTest, CaptionsAndMenusChangeTheLength) {
 }
 
 TEST(ToolBarTest, AssistiveToolsReachTheButtons) {
-    ShownBar shown(Setup({"1,Y,New,,,0,-1,0", "2,1,,,,0,-1,0", "3,Y,,,Undo,1,0,0"}));
+    ShownBar shown(BarOf({"1,Y,New,,,0,-1,0", "2,1,,,,0,-1,0", "3,Y,,,Undo,1,0,0"}));
     QAccessibleInterface* bar = QAccessible::queryAccessibleInterface(&shown.Bar);
     ASSERT_NE(bar, nullptr);
     EXPECT_EQ(bar->role(), QAccessible::ToolBar);
