@@ -219,7 +219,7 @@ TEST_F(MFormTest, ClosingAChangedDocumentAsks) {
     EXPECT_FALSE(closeWith("&Cancel"));
     Settings().remove("MainWidth");
     EXPECT_TRUE(closeWith("&No"));
-    EXPECT_EQ(Settings().value("MainWidth").toInt(), 640);
+    EXPECT_EQ(Settings().value("MainWidth").toInt(), 800);
 }
 
 }  // namespace
