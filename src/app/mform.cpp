@@ -48,21 +48,6 @@ constexpr int kScrollPositions = 10;  // the scene scrolls in tenths
 constexpr int kRightPanelWidth = 248;
 constexpr int kWheelStep = 120;  // of a wheel's notch
 
-// One light chrome whatever the desktop's theme.
-constexpr char kChrome[] =
-    "QMainWindow, QMenuBar, QMenu, QStatusBar, QScrollArea, #central, #RightPic, #BottomTips, "
-    "QDialog"
-    " { background: #f5f6f7; color: #404040 }"
-    "QMenuBar::item:selected, QMenu::item:selected { background: #cdecfe; color: #202020 }"
-    "QMenu::item:disabled { color: #a8acb0 }"
-    "QMenu { border: 1px solid #c4c8cc }"
-    "QLabel, QToolButton, QCheckBox { color: #404040 }"
-    "QLabel:disabled { color: #a8acb0 }"
-    "QStatusBar { border-top: 1px solid #dcdcdc }"
-    "QStatusBar::item { border: none }"
-    "QToolTip { background: #fffdf0; color: #303030; border: 1px solid #c8be96 }"
-    "#caption { color: #70757c }";
-
 // The pointer of a dialog that a busy command shows.
 class PlainPointer {
 public:
@@ -94,7 +79,6 @@ void MirrorBar(QScrollBar& shown, const document::ScrollBar& bar, int sceneSize)
 
 mForm::mForm() {
     setObjectName("mForm");
-    setStyleSheet(kChrome);
     menu_ = std::make_unique<MainMenu>(*this);
     bars_ = std::make_unique<ToolBars>(*this);
     pointerStatus_ = std::make_unique<PointerStatus>(*statusBar());

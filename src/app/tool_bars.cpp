@@ -1,5 +1,7 @@
 #include "app/tool_bars.h"
 
+#include <QGraphicsDropShadowEffect>
+
 #include "app/links.h"
 #include "app/mform.h"
 #include "editing/document_commands.h"
@@ -174,8 +176,14 @@ ToolBars::ToolBars(mForm& form)
     connect(ToolBarvs6, [&form](int button) {
         form.Run([button](editing::Editor& editor) { ChooseEraser(editor, button); });
     });
-    for (ToolBarvs* popup : {ToolBarvs3, ToolBarvs5, ToolBarvs6})
+    for (ToolBarvs* popup : {ToolBarvs3, ToolBarvs5, ToolBarvs6}) {
+        auto* shadow = new QGraphicsDropShadowEffect(popup);
+        shadow->setBlurRadius(14);
+        shadow->setOffset(0, 2);
+        shadow->setColor(QColor(0, 0, 0, 120));
+        popup->setGraphicsEffect(shadow);
         popup->hide();
+    }
 }
 
 void ToolBars::ShowPopup(ToolBarvs& popup, bool visible, int button) {

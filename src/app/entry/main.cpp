@@ -6,6 +6,7 @@
 #include <QTimer>
 #include <memory>
 
+#include "app/chrome.h"
 #include "app/frm_welcome.h"
 #include "app/mform.h"
 #include "app/screenshot.h"
@@ -16,6 +17,7 @@ int main(int argc, char** argv) {
     QApplication::setApplicationName("orbelle");
     QApplication::setApplicationVersion(ORBELLE_VERSION);
     QApplication::setDesktopFileName("orbelle");
+    orbelle::app::ApplyChrome();
     QIcon icon;
     for (const int size : {16, 24, 32, 48, 64, 128, 256})
         icon.addFile(QString(":/icons/orbelle-%1.png").arg(size), {size, size});
