@@ -6,6 +6,7 @@
 #include <QTimer>
 #include <memory>
 
+#include "app/benchmark.h"
 #include "app/chrome.h"
 #include "app/frm_welcome.h"
 #include "app/mform.h"
@@ -30,6 +31,9 @@ int main(int argc, char** argv) {
     const QCommandLineOption screenshot(
         "screenshot", "Write what the window shows to PICTURE, a PNG, and exit.", "PICTURE");
     parser.addOption(screenshot);
+    const QCommandLineOption benchmark("benchmark",
+                                       "Print how long the window takes to follow a hand.");
+    parser.addOption(benchmark);
     parser.addPositionalArgument("FILE", "The document or picture to open.", "[FILE]");
     parser.process(application);
     const QStringList files = parser.positionalArguments();
@@ -38,6 +42,8 @@ int main(int argc, char** argv) {
         return 1;
     }
     const QString file = files.value(0);
+    if (parser.isSet(benchmark))
+        return orbelle::app::RunBenchmark();
     if (parser.isSet(screenshot))
         return orbelle::app::TakeScreenshot(parser.value(screenshot), file);
 

@@ -1,0 +1,111 @@
+#include "app/benchmark.h"
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QMouseEvent>
+#include <algorithm>
+#include <cstdio>
+#include <functional>
+#include <vector>
+
+#include "app/mform.h"
+#include "app/scene_view.h"
+#include "app/settings.h"
+#include "document/layer_slots.h"
+#include "editing/document_commands.h"
+#include "editing/layer_commands.h"
+#include "editing/tool_palette.h"
+#include "editing/view_commands.h"
+#include "widgets/ctl_scroll2.h"
+
+namespace orbelle::app {
+namespace {
+
+constexpr int kPageSide = 512;
+constexpr int kLayers = 10;
+constexpr int kSteps = 60;
+
+graphics::Bitmap Gradient(unsigned shade) {
+    graphics::Bitmap picture(kPageSide, kPageSide);
+    for (int y = 0; y < kPageSide; ++y)
+        for (int x = 0; x < kPageSide; ++x)
+            picture.MutableRow(y)[x] = graphics::MakeARGB(160, static_cast<unsigned>(x / 2),
+                                                          static_cast<unsigned>(y / 2), shade);
+    return picture;
+}
+
+void FillDocument(editing::Editor& editor) {
+    ResetDocument(editor, kPageSide, kPageSide, false);
+    for (int i = 0; i < kLayers; ++i)
+        MakeImageLayer(editor.Document, editor.Document.Layers.emplace_back(),
+                       Gradient(static_cast<unsigned>(i * 20)));
+    editor.DocumentExists = true;
+    SelectLayer(editor, 0);
+    Compose(editor);
+}
+
+void Send(QWidget& widget, QEvent::Type type, const QPointF& at) {
+    const bool isMove = type == QEvent::MouseMove;
+    QMouseEvent event(type, at, widget.mapToGlobal(at), isMove ? Qt::NoButton : Qt::LeftButton,
+                      type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::LeftButton,
+                      Qt::NoModifier);
+    QApplication::sendEvent(&widget, &event);
+    QApplication::processEvents();
+}
+
+// A drag over the widget; prints the median and the longest step.
+void Measure(const char* name, QWidget& widget, const QPointF& from,
+             const std::function<QPointF(int)>& step) {
+    Send(widget, QEvent::MouseButtonPress, from);
+    std::vector<double> times;
+    for (int i = 0; i < kSteps; ++i) {
+        QElapsedTimer timer;
+        timer.start();
+        Send(widget, QEvent::MouseMove, step(i));
+        times.push_back(static_cast<double>(timer.nsecsElapsed()) / 1e6);
+    }
+    Send(widget, QEvent::MouseButtonRelease, step(kSteps - 1));
+    std::ranges::sort(times);
+    std::printf("%-18s median %6.2f ms   longest %6.2f ms\n", name, times[times.size() / 2],
+                times.back());
+}
+
+}  // namespace
+
+int RunBenchmark() {
+    mForm form;
+    form.resize(kDefaultMainSize);
+    form.show();
+    form.Run(FillDocument);
+    while (form.IsZoomAnimationRunning())
+        QApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    auto* scene = form.findChild<SceneView*>();
+    const QPointF middle = scene->rect().center();
+    const auto circle = [middle](int i) {
+        return middle + QPointF(i * 3 % 100 - 50, i * 7 % 90 - 45);
+    };
+
+    form.Run([](editing::Editor& editor) {
+        for (std::size_t i = 1; i < editor.Document.Layers.size(); ++i)
+            editor.Document.Layers[i].Region = graphics::Region::Empty();
+    });
+    Measure("drag a layer", *scene, middle, circle);
+    form.Run([](editing::Editor& editor) {
+        SelectLayer(editor, 0);
+        editor.Colors = {0xFF3060C0, 0xFFF0D020};
+        ClickToolButton(editor, editing::tool_buttons::FilledEllipse);
+        ChooseFill(editor, editing::FillKind::RadialGradient);
+    });
+    Measure("draw an ellipse", *scene, middle - QPointF(200, 200), circle);
+    for (widgets::CtlScroll2* slider : form.findChildren<widgets::CtlScroll2*>()) {
+        if (slider->accessibleName() != "Hue" && slider->accessibleName() != "Opacity")
+            continue;
+        slider->SetValue(50);
+        const QPointF thumb(slider->width() / 2.0, slider->height() / 2.0);
+        Measure(qPrintable(slider->accessibleName() + " slider"), *slider, thumb,
+                [thumb](int i) { return thumb + QPointF(i * 11 % 40 - 20, 0); });
+    }
+    return 0;
+}
+
+}  // namespace orbelle::app
