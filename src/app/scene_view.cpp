@@ -220,7 +220,8 @@ void SceneView::DrawWelcome(QPainter& painter) const {
 }
 
 void SceneView::resizeEvent(QResizeEvent*) {
-    emit Resized(std::max(width(), 1), std::max(height(), 1));
+    // An odd side would put a page of even sides between two pixels, beside its own pointer.
+    emit Resized(std::max(width() & ~1, 1), std::max(height() & ~1, 1));
 }
 
 void SceneView::wheelEvent(QWheelEvent* event) {

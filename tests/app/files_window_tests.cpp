@@ -8,6 +8,8 @@ namespace {
 
 using orbelle::testing::WaitUntil;
 
+constexpr QRgb kOther = 0xFF20C060;
+
 class FilesWindowTest : public RealWindowTest {
 protected:
     // A change that all of the picture shows.
@@ -33,8 +35,9 @@ TEST_F(FilesWindowTest, ASavedDocumentOpensAgain) {
     Press({"ctrl+q"});
     ASSERT_TRUE(EndsWell(program)) << "what is saved asks nothing";
 
-    StartProgram({});
+    StartProgram({WritePicture("other.png", QSize(30, 20), kOther)});
     ASSERT_TRUE(FocusMain());
+    ASSERT_TRUE(WaitUntil([&] { return Count(kOther) > 0; }));
     Press({"ctrl+o"});
     ASSERT_TRUE(AnswerFileDialog(Path("work/saved.volf")));
     EXPECT_TRUE(WaitUntil([&] { return Count() == kWholePicture; }));
@@ -73,7 +76,7 @@ TEST_F(FilesWindowTest, ClosingAsksAndDoesAsAnswered) {
     Press({"alt+c"});
     ASSERT_TRUE(FocusMain());
     EXPECT_EQ(program.state(), QProcess::Running);
-    Press({"ctrl+z"});
+    Press({"ctrl+z", "ctrl+z"});
     EXPECT_TRUE(WaitUntil([&] { return Count() == kWholePicture; })) << "Cancel keeps all";
 
     Change();
@@ -91,7 +94,6 @@ TEST_F(FilesWindowTest, ASecondStartHandsItsFileOver) {
     SecondStart({});
     EXPECT_EQ(Scene(), before);
 
-    constexpr QRgb kOther = 0xFF20C060;
     SecondStart({WritePicture("other.png", QSize(100, 80), kOther)});
     EXPECT_TRUE(WaitUntil([&] { return Count(kOther) == 100 * 80 && Count() == 0; }));
     EXPECT_EQ(program.state(), QProcess::Running);
@@ -104,7 +106,8 @@ TEST_F(FilesWindowTest, RemembersItsUser) {
     Press({"e"});
     Xdotool({"getwindowfocus", "windowmove", "30", "40", "windowsize", "1000", "740"});
     WaitUntilIdle();
-    ASSERT_TRUE(QuitWithoutSaving());
+    Press({"ctrl+q"});
+    ASSERT_TRUE(EndsWell(program));
 
     const struct {
         const char* Name;
@@ -132,7 +135,7 @@ TEST_F(FilesWindowTest, RemembersItsUser) {
                 << name << ' ' << when;
     };
     compare("after the first run");
-    StartProgram({});
+    StartProgram({Path("work/tile.png")});
     ASSERT_TRUE(FocusMain());
     Press({"ctrl+q"});
     ASSERT_TRUE(EndsWell(program));
