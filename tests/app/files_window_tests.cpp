@@ -73,7 +73,7 @@ TEST_F(FilesWindowTest, ClosingAsksAndDoesAsAnswered) {
     Change();
     Press({"ctrl+q"});
     ASSERT_TRUE(FocusWindow("^Save Icon Document"));
-    Press({"alt+c"});
+    Press({"Escape"});
     ASSERT_TRUE(FocusMain());
     EXPECT_EQ(program.state(), QProcess::Running);
     Press({"ctrl+z", "ctrl+z"});

@@ -282,6 +282,7 @@ QPoint RealWindowTest::PopupButton(const QString& popup, int opener, int button)
     const auto& column = *Twin().findChild<widgets::ToolBarvs*>("ToolBarvs2");
     auto& bar = *Twin().findChild<widgets::ToolBarvs*>(popup);
     bar.resize(bar.sizeHint());
+    bar.show();
     const QPoint place(column.width() + 1, column.ButtonRect(opener).top());
     return kWindowPlace + column.mapTo(&Twin(), place) + bar.ButtonRect(button).center();
 }

@@ -10,7 +10,7 @@
 namespace orbelle::testing {
 
 // Runs the event loop until the condition holds. False: it did not within a generous time.
-inline bool WaitUntil(const std::function<bool()>& condition, int seconds = 10) {
+inline bool WaitUntil(const std::function<bool()>& condition, int seconds = 60) {
     const QDeadlineTimer deadline(seconds * 1000);
     while (!condition()) {
         if (deadline.hasExpired())
