@@ -14,6 +14,7 @@
 #include "app/right_panel.h"
 #include "app/scene_view.h"
 #include "app/system_clipboard.h"
+#include "editing/clipboard_commands.h"
 #include "editing/command_frame.h"
 #include "editing/document_commands.h"
 #include "editing/view_commands.h"
@@ -43,9 +44,12 @@ mForm::mForm() {
     });
     layersTimer_.setSingleShot(true);
     connect(&layersTimer_, &QTimer::timeout, this, [this] { rightPanel_->ShowLayers(editor_); });
-    clipboardHasPicture_ = SystemClipboardHasPicture();
-    connect(QGuiApplication::clipboard(), &QClipboard::dataChanged, this, [this] {
-        clipboardHasPicture_ = SystemClipboardHasPicture();
+    const auto lookAtClipboard = [this] {
+        clipboardHasPicture_ = SystemClipboardHasPicture() || !SystemClipboardFiles().isEmpty();
+    };
+    lookAtClipboard();
+    connect(QGuiApplication::clipboard(), &QClipboard::dataChanged, this, [this, lookAtClipboard] {
+        lookAtClipboard();
         ControlsChanged();
     });
     statusBar()->setSizeGripEnabled(false);
@@ -112,6 +116,14 @@ void mForm::ShowAbout() {
     about->move(geometry().center() - about->rect().center());
     about->show();
     about->activateWindow();
+}
+
+void mForm::Paste() {
+    const QStringList files = SystemClipboardFiles();
+    if (files.isEmpty())
+        Run(editing::PasteFromClipboard);
+    else
+        ImportFiles(files);
 }
 
 void mForm::FocusScene() {
