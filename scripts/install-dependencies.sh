@@ -7,6 +7,7 @@ packages=(
     qt6-base-dev qt6-svg-dev libagg-dev libpixman-1-dev libpng-dev libjpeg62-turbo-dev libgif-dev libhwy-dev libdeflate-dev
     libcli11-dev nlohmann-json3-dev
     libgtest-dev libgmock-dev libbenchmark-dev xvfb xdotool
+    dpkg-dev file
 )
 
 if ! command -v dpkg-query >/dev/null; then

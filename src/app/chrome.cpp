@@ -23,6 +23,7 @@ constexpr char kDetails[] =
     "QStatusBar { border-top: 1px solid #dcdcdc }"
     "QStatusBar::item { border: none }"
     "QToolTip { background: #fffdf0; color: #303030; border: 1px solid #c8be96; padding: 2px }"
+    "QDialogButtonBox { dialogbuttonbox-buttons-have-icons: 0 }"
     "#caption { color: #70757c }";
 
 }  // namespace

@@ -3,23 +3,20 @@
 #include <QDialogButtonBox>
 #include <QGridLayout>
 #include <QLabel>
-#include <QSignalBlocker>
-#include <QSlider>
-#include <QSpinBox>
 #include <QVBoxLayout>
 
 #include "app/message_boxes.h"
 #include "app/settings.h"
 #include "document/document.h"
 #include "editing/document_commands.h"
+#include "widgets/ctl_scroll.h"
 
 namespace orbelle::app {
 namespace {
 
 constexpr char kWidthSetting[] = "Width";
 constexpr char kHeightSetting[] = "Height";
-// What can be typed goes beyond what is allowed, so that a wrong size is told rather than changed.
-constexpr int kMaxTyped = 9999;
+constexpr int kSideWidth = 140;
 
 }  // namespace
 
@@ -34,20 +31,19 @@ FrmPage::FrmPage(QWidget* parent) : QDialog(parent) {
     rows->setHorizontalSpacing(12);
     rows->setVerticalSpacing(12);
     layout->addLayout(rows);
-    width_ = AddSide(*rows, "&Width:", kWidthSetting);
-    height_ = AddSide(*rows, "&Height:", kHeightSetting);
+    CtlScroll1 = AddSide(*rows, "CtlScroll1", "&Width:", kWidthSetting);
+    CtlScroll2 = AddSide(*rows, "CtlScroll2", "&Height:", kHeightSetting);
 
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
     layout->addWidget(buttons);
     connect(buttons, &QDialogButtonBox::accepted, this, &FrmPage::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &FrmPage::reject);
 
-    width_->setFocus();
-    width_->selectAll();
+    CtlScroll1->setFocus();
 }
 
 editing::PageSize FrmPage::Size() const {
-    return {width_->value(), height_->value()};
+    return {CtlScroll1->ColorValue(), CtlScroll2->ColorValue()};
 }
 
 void FrmPage::accept() {
@@ -63,30 +59,22 @@ void FrmPage::accept() {
     QDialog::accept();
 }
 
-QSpinBox* FrmPage::AddSide(QGridLayout& rows, const QString& caption, const char* setting) {
+widgets::CtlScroll* FrmPage::AddSide(QGridLayout& rows, const char* name, const QString& caption,
+                                     const char* setting) {
     auto* label = new QLabel(caption);
-    auto* slider = new QSlider(Qt::Horizontal);
-    auto* value = new QSpinBox;
-    label->setBuddy(value);
-    slider->setRange(0, document::kMaxPageSide);
-    slider->setPageStep(16);
-    slider->setMinimumWidth(240);
-    slider->setAccessibleName(QString(caption).remove('&'));
-    value->setRange(0, kMaxTyped);
-    value->setSuffix(" px");
-
-    connect(slider, &QSlider::valueChanged, value, &QSpinBox::setValue);
-    connect(value, &QSpinBox::valueChanged, slider, [slider](int typed) {
-        const QSignalBlocker keepsTyped(slider);
-        slider->setValue(typed);
-    });
-    value->setValue(Settings().value(setting).toInt());
+    auto* side = new widgets::CtlScroll;
+    label->setBuddy(side);
+    side->setObjectName(name);
+    side->setAccessibleName(QString(caption).remove('&'));
+    side->SetRange(1, document::kMaxPageSide);
+    side->SetColorValue(Settings().value(setting).toInt());
+    side->setMinimumWidth(kSideWidth);
 
     const int row = rows.rowCount();
     rows.addWidget(label, row, 0);
-    rows.addWidget(slider, row, 1);
-    rows.addWidget(value, row, 2);
-    return value;
+    rows.addWidget(side, row, 1);
+    rows.addWidget(new QLabel("px"), row, 2);
+    return side;
 }
 
 }  // namespace orbelle::app

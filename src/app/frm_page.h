@@ -6,7 +6,10 @@
 #include "editing/editor_host.h"
 
 class QGridLayout;
-class QSpinBox;
+
+namespace orbelle::widgets {
+class CtlScroll;
+}
 
 namespace orbelle::app {
 
@@ -22,10 +25,11 @@ public:
     void accept() override;
 
 private:
-    QSpinBox* AddSide(QGridLayout& rows, const QString& caption, const char* setting);
+    widgets::CtlScroll* AddSide(QGridLayout& rows, const char* name, const QString& caption,
+                                const char* setting);
 
-    QSpinBox* width_;
-    QSpinBox* height_;
+    widgets::CtlScroll* CtlScroll1;  // width
+    widgets::CtlScroll* CtlScroll2;  // height
 };
 
 }  // namespace orbelle::app

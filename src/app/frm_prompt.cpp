@@ -6,11 +6,14 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "widgets/artwork.h"
+
 namespace orbelle::app {
 namespace {
 
 constexpr char kHead[] = "Save Icon Document? ";
 constexpr int kTextWidth = 400;
+constexpr QSize kPictureSize(38, 38);
 
 QLabel* Paragraph(const char* text) {
     auto* label = new QLabel(text);
@@ -31,10 +34,16 @@ QLabel* Head(const char* text) {
 
 FrmPrompt::FrmPrompt(QWidget* parent) : QDialog(parent) {
     setWindowTitle(kHead);
-    auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(20, 20, 20, 16);
+    auto* whole = new QHBoxLayout(this);
+    whole->setContentsMargins(20, 20, 20, 16);
+    whole->setSpacing(16);
+    whole->setSizeConstraint(QLayout::SetFixedSize);
+    auto* picture = new QLabel;
+    picture->setPixmap(widgets::Artwork("information", kPictureSize, devicePixelRatioF()));
+    whole->addWidget(picture, 0, Qt::AlignTop);
+    auto* layout = new QVBoxLayout;
     layout->setSpacing(8);
-    layout->setSizeConstraint(QLayout::SetFixedSize);
+    whole->addLayout(layout);
 
     layout->addWidget(Head(kHead));
     layout->addWidget(

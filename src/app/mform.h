@@ -48,6 +48,8 @@ public:
     // "Back One", "Foward One", "To Back", "To Front" at the Set Order button.
     void ShowOrderMenu();
     void FocusScene();
+    // Edit/Paste: the clipboard's picture, or the files that lie there, imported.
+    void Paste();
     void CloseTips();
 
     bool TipsEnabled() const { return tips_->TipsEnabled; }

@@ -4,6 +4,7 @@
 #include <QGuiApplication>
 #include <QImage>
 #include <QMimeData>
+#include <QUrl>
 #include <algorithm>
 
 namespace orbelle::app {
@@ -18,6 +19,17 @@ void SetSystemClipboard(const graphics::Bitmap& picture, const std::string& text
                                .copy());
     data->setText(QString::fromStdString(text));
     QGuiApplication::clipboard()->setMimeData(data);
+}
+
+QStringList SystemClipboardFiles() {
+    QStringList files;
+    const QMimeData* data = QGuiApplication::clipboard()->mimeData();
+    if (!data || data->hasImage())
+        return files;
+    for (const QUrl& url : data->urls())
+        if (url.isLocalFile())
+            files += url.toLocalFile();
+    return files;
 }
 
 bool SystemClipboardHasPicture() {

@@ -1,6 +1,7 @@
 // The system's clipboard: one picture and a text beside it.
 #pragma once
 
+#include <QStringList>
 #include <string>
 
 #include "graphics/bitmap.h"
@@ -14,5 +15,7 @@ bool SystemClipboardHasPicture();
 // Empty: none that can be read, or one too large for a bitmap.
 graphics::Bitmap SystemClipboardPicture();
 std::string SystemClipboardText();
+// Local files that a file manager has copied; none when there is a picture.
+QStringList SystemClipboardFiles();
 
 }  // namespace orbelle::app

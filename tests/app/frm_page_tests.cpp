@@ -3,11 +3,10 @@
 #include <gtest/gtest.h>
 
 #include <QMessageBox>
-#include <QSlider>
-#include <QSpinBox>
 
 #include "app/settings.h"
 #include "waiting.h"
+#include "widgets/ctl_scroll.h"
 
 namespace orbelle::app {
 namespace {
@@ -19,9 +18,8 @@ protected:
     FrmPageTest() { Settings().clear(); }
 
     static void Enter(const FrmPage& page, int width, int height) {
-        const QList<QSpinBox*> sides = page.findChildren<QSpinBox*>();
-        sides[0]->setValue(width);
-        sides[1]->setValue(height);
+        page.findChild<widgets::CtlScroll*>("CtlScroll1")->SetColorValue(width);
+        page.findChild<widgets::CtlScroll*>("CtlScroll2")->SetColorValue(height);
     }
 };
 
@@ -58,16 +56,6 @@ TEST_F(FrmPageTest, RemembersTheSizeChosenWithOk) {
     FrmPage next;
     EXPECT_EQ(next.Size().Width, 1);
     EXPECT_EQ(next.Size().Height, 512);
-}
-
-TEST_F(FrmPageTest, SlidersAndNumbersFollowEachOther) {
-    FrmPage page;
-    QSlider& width = *page.findChildren<QSlider*>()[0];
-    width.setValue(300);
-    EXPECT_EQ(page.Size().Width, 300);
-    Enter(page, 600, 20);
-    EXPECT_EQ(width.value(), 512);
-    EXPECT_EQ(page.Size().Width, 600);
 }
 
 }  // namespace

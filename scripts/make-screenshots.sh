@@ -1,0 +1,145 @@
+#!/usr/bin/env bash
+# Takes the pictures of docs/pictures from the real window, on a display of its own, at 100 % and
+# 200 %. Needs a built tree, Xvfb, xdotool and ImageMagick.
+set -euo pipefail
+cd "$(dirname "$0")/.."
+bin=$PWD/build/release/bin
+pictures=$PWD/docs/pictures
+work=$(mktemp -d)
+trap 'kill $(jobs -p) 2>/dev/null; rm -rf "$work"' EXIT
+
+for tool in Xvfb xdotool import mogrify; do
+    command -v "$tool" >/dev/null || { echo "make-screenshots: $tool is missing" >&2; exit 1; }
+done
+
+# Pixels of the window at 100 %.
+width=1100 height=760
+
+export XDG_RUNTIME_DIR=$work/run DBUS_SESSION_BUS_ADDRESS=disabled: QT_QPA_PLATFORM=xcb
+mkdir -m 700 "$work/run"
+
+start_display() { # SCALE
+    scale=$1
+    export QT_SCALE_FACTOR=$scale
+    Xvfb -displayfd 3 -screen 0 $((width * scale))x$((height * scale + 40))x24 -nolisten tcp \
+        3>"$work/display" 2>/dev/null &
+    display=$!
+    until [[ -s $work/display ]]; do sleep 0.1; done
+    DISPLAY=:$(cat "$work/display")
+    export DISPLAY
+}
+
+# A home whose user has all panels open, tips on and two colours.
+make_home() { # FIRST|USED
+    home=$work/home-$RANDOM
+    mkdir "$home"
+    export HOME=$home XDG_CONFIG_HOME=$home XDG_CACHE_HOME=$home
+    printf '%s\n' '[General]' MainTop=1 "MainWidth=$width" "MainHeight=$height" \
+        >"$home/OrbelleWork.conf"
+    [[ $1 == USED ]] || return 0
+    printf '%s\n' isQuick=-1 CtlTitle1=-1 CtlTitle2=-1 CtlTitle3=-1 CtlTitle5=-1 \
+        CtlTitle6=-1 "TipsControl=${2:-0}" 'ForeColor0="255,208,48,48"' \
+        'ForeColor1="255,40,90,200"' CtlScroll22=100 CtlScroll23=20 Width=256 Height=256 \
+        >>"$home/OrbelleWork.conf"
+}
+
+start_program() { # [FILE]
+    "$bin/orbelle" "$@" &
+    program=$!
+    sleep 2.2
+    focus 'Varnel Orbelle'
+}
+
+focus() { # TITLE
+    xdotool search --onlyvisible --name "$1" 2>/dev/null | tail -1 |
+        xargs -r xdotool windowfocus --sync 2>/dev/null || true
+}
+
+stop_program() {
+    kill "$program" 2>/dev/null || true
+    wait "$program" 2>/dev/null || true
+}
+
+at() { echo $(($1 * scale)) $(($2 * scale)); }
+click() { xdotool mousemove $(at "$1" "$2") click "${3:-1}"; sleep 0.3; }
+take() { # NAME
+    sleep 0.5
+    local suffix=
+    [[ $scale == 1 ]] || suffix=-200
+    taken=$pictures/$1$suffix.png
+    import -window root -crop $((width * scale))x$((height * scale))+0+"$scale" +repage "$taken"
+}
+
+pictures_at() { # SCALE
+    start_display "$1"
+
+    make_home FIRST
+    "$bin/orbelle" &
+    program=$!
+    take welcome
+    # Only the small window, not the black around it.
+    mogrify -trim +repage "$taken"
+    sleep 1
+    take first-start
+    stop_program
+
+    make_home USED
+    start_program "$PWD/samples/ok-badge.volf"
+    xdotool mousemove $(at 500 700)
+    take layers
+    click 13 224
+    take fill-kinds
+    click 13 106
+    take selection-kinds
+    click 13 330
+    click 52 330
+    sleep 1.2
+    xdotool mousemove $(at 420 330) mousemove $(at 424 334)
+    take brush-eraser
+    focus 'Varnel Orbelle|ok-badge'
+    xdotool key ctrl+n
+    take new-icon
+    xdotool key Escape
+    focus 'Varnel Orbelle|ok-badge'
+    xdotool key v
+    click 430 380
+    xdotool key Right
+    xdotool key ctrl+q
+    take save-prompt
+    stop_program
+
+    make_home USED 1
+    start_program "$PWD/samples/glass-folder.volf"
+    click 13 249
+    take tips
+    stop_program
+
+    # An icon with images to choose from.
+    "$bin/orbelle-cli" open samples/gear.png export "$work/gear.ico"
+    make_home USED
+    start_program "$work/gear.ico"
+    take icon-images
+    stop_program
+
+    make_home USED
+    start_program "$PWD/samples/leaf.png"
+    xdotool key alt+f
+    sleep 0.3
+    xdotool key e
+    sleep 0.3
+    xdotool key g
+    sleep 0.8
+    xdotool type --delay 5 "$work/leaf.gif"
+    xdotool key Return
+    take gif-optimizer
+    stop_program
+
+    kill "$display"
+    wait "$display" 2>/dev/null || true
+    rm "$work/display"
+}
+
+mkdir -p "$pictures"
+pictures_at 1
+pictures_at 2
+cp "$pictures/layers.png" docs/screenshot.png

@@ -1,0 +1,34 @@
+// The sample documents are what their scripts draw.
+#include "program_fixture.h"
+
+namespace orbelle::cli {
+namespace {
+
+class SamplesTest : public ProgramTest, public ::testing::WithParamInterface<std::string> {};
+
+TEST_P(SamplesTest, ScriptDrawsTheDocumentBesideIt) {
+    const std::string sample = std::string(ORBELLE_SAMPLES "/") + GetParam();
+    for (const char* picture : {"camera.png", "folder.png", "gear.png", "leaf.png"})
+        std::filesystem::copy_file(std::string(ORBELLE_SAMPLES "/") + picture, folder / picture);
+
+    const std::string name = GetParam() + ".volf";
+    EXPECT_EQ(Run({"--script", sample + ".txt"}), kSuccess);
+    const Outcome drawn = Run({"open", name, "write-page", "drawn.png", "info"});
+    std::filesystem::copy_file(sample + ".volf", folder / name,
+                               std::filesystem::copy_options::overwrite_existing);
+    EXPECT_EQ(Run({"open", name, "write-page", "kept.png", "info"}), drawn);
+    EXPECT_EQ(Bytes("drawn.png"), Bytes("kept.png")) << "scripts/make-samples.sh makes it again";
+}
+
+INSTANTIATE_TEST_SUITE_P(All, SamplesTest,
+                         ::testing::Values("crystal-camera", "envelope", "glass-folder",
+                                           "leaf-plate", "mirror-gear", "ok-badge",
+                                           "speech-bubble"),
+                         [](const auto& sample) {
+                             std::string name = sample.param;
+                             std::erase(name, '-');
+                             return name;
+                         });
+
+}  // namespace
+}  // namespace orbelle::cli
