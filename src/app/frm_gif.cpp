@@ -3,11 +3,11 @@
 #include <QDialogButtonBox>
 #include <QGridLayout>
 #include <QLabel>
-#include <QSlider>
-#include <QSpinBox>
+#include <algorithm>
 
 #include "app/settings.h"
 #include "formats/gif_preview.h"
+#include "widgets/ctl_scroll.h"
 
 namespace orbelle::app {
 namespace {
@@ -78,15 +78,14 @@ FrmGIF::FrmGIF(const graphics::Bitmap& surface, QWidget* parent)
     row->setSpacing(12);
     layout->addLayout(row);
     auto* label = new QLabel("&Transparency Adjustment:");
-    auto* slider = new QSlider(Qt::Horizontal);
-    value_ = new QSpinBox;
-    label->setBuddy(value_);
-    slider->setRange(0, kSliderEnd);
-    slider->setAccessibleName("Transparency Adjustment");
-    value_->setRange(0, kTypedEnd);
+    CtlScroll1 = new widgets::CtlScroll;
+    CtlScroll1->setObjectName("CtlScroll1");
+    CtlScroll1->setAccessibleName("Transparency Adjustment");
+    CtlScroll1->SetRange(0, kSliderEnd);
+    label->setBuddy(CtlScroll1);
     row->addWidget(label);
-    row->addWidget(slider, 1);
-    row->addWidget(value_);
+    row->addWidget(CtlScroll1);
+    row->addStretch();
 
     auto* hint = new QLabel(kHint);
     hint->setWordWrap(true);
@@ -97,23 +96,17 @@ FrmGIF::FrmGIF(const graphics::Bitmap& surface, QWidget* parent)
     layout->addWidget(buttons);
     connect(buttons, &QDialogButtonBox::accepted, this, &FrmGIF::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &FrmGIF::reject);
-    connect(slider, &QSlider::valueChanged, value_, &QSpinBox::setValue);
-    connect(value_, &QSpinBox::valueChanged, this, [this, slider](int value) {
-        const QSignalBlocker keepsTyped(slider);
-        slider->setValue(value);
-        ShowResult();
-    });
+    connect(CtlScroll1, &widgets::CtlScroll::Changed, this, &FrmGIF::ShowResult);
 
     // A stored 0 is taken for none.
     const int stored = Settings().value(kSetting).toInt();
-    value_->setValue(stored == 0 ? kUsualValue : stored);
+    CtlScroll1->SetColorValue(stored == 0 ? kUsualValue : stored);
     ShowResult();
-    value_->setFocus();
-    value_->selectAll();
+    CtlScroll1->setFocus();
 }
 
 int FrmGIF::OptimizeValue() const {
-    return value_->value();
+    return std::clamp(CtlScroll1->ColorValue(), 0, kTypedEnd);
 }
 
 void FrmGIF::done(int result) {

@@ -6,7 +6,10 @@
 #include "graphics/bitmap.h"
 
 class QLabel;
-class QSpinBox;
+
+namespace orbelle::widgets {
+class CtlScroll;
+}
 
 namespace orbelle::app {
 
@@ -27,7 +30,7 @@ private:
 
     graphics::Bitmap surface_;
     QLabel* result_ = nullptr;
-    QSpinBox* value_ = nullptr;
+    widgets::CtlScroll* CtlScroll1 = nullptr;
 };
 
 }  // namespace orbelle::app

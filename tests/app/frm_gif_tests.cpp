@@ -3,10 +3,10 @@
 #include <gtest/gtest.h>
 
 #include <QLabel>
-#include <QSlider>
-#include <QSpinBox>
+#include <QLineEdit>
 
 #include "app/settings.h"
+#include "support/hands.h"
 #include "support/pictures.h"
 
 namespace orbelle::app {
@@ -16,6 +16,13 @@ class FrmGIFTest : public ::testing::Test {
 protected:
     FrmGIFTest() { Settings().remove("Optimize"); }
 
+    static void Type(const FrmGIF& optimizer, const QString& digits) {
+        auto& field = *optimizer.findChild<QLineEdit*>();
+        field.selectAll();
+        for (const QChar digit : digits)
+            testing::Strike(field, Qt::Key(digit.unicode()), digit);
+    }
+
     const graphics::Bitmap surface = testing::FilledPicture(20, 10, 0x80FF0000);
 };
 
@@ -23,7 +30,7 @@ TEST_F(FrmGIFTest, StartsAt130AndRemembersTheValueEvenWhenCancelled) {
     {
         FrmGIF optimizer(surface, nullptr);
         EXPECT_EQ(optimizer.OptimizeValue(), 130);
-        optimizer.findChild<QSpinBox*>()->setValue(42);
+        Type(optimizer, "42");
         optimizer.reject();
     }
     EXPECT_EQ(FrmGIF(surface, nullptr).OptimizeValue(), 42);
@@ -33,13 +40,10 @@ TEST_F(FrmGIFTest, StartsAt130AndRemembersTheValueEvenWhenCancelled) {
 
 TEST_F(FrmGIFTest, MoreThanTheSlidersTrackCanBeTyped) {
     FrmGIF optimizer(surface, nullptr);
-    auto* slider = optimizer.findChild<QSlider*>();
-    auto* value = optimizer.findChild<QSpinBox*>();
-    value->setValue(250);
+    Type(optimizer, "180");
+    EXPECT_EQ(optimizer.OptimizeValue(), 180);
+    Type(optimizer, "250");
     EXPECT_EQ(optimizer.OptimizeValue(), 200);
-    EXPECT_EQ(slider->value(), 150);
-    slider->setValue(60);
-    EXPECT_EQ(optimizer.OptimizeValue(), 60);
 }
 
 // The middle of the result: red while alpha 128 reaches the value, else the white of the box.
@@ -49,10 +53,9 @@ TEST_F(FrmGIFTest, TheResultFollowsTheValue) {
         const QImage result = optimizer.findChild<QLabel*>("Result")->pixmap().toImage();
         return result.pixelColor(result.width() / 2, result.height() / 2);
     };
-    auto* value = optimizer.findChild<QSpinBox*>();
-    value->setValue(128);
+    Type(optimizer, "128");
     EXPECT_EQ(middle(), QColor(255, 0, 0));
-    value->setValue(129);
+    Type(optimizer, "129");
     EXPECT_NE(middle(), QColor(255, 0, 0));
 }
 

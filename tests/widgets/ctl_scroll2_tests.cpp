@@ -5,7 +5,7 @@
 #include <QImage>
 #include <QWheelEvent>
 
-#include "hands.h"
+#include "support/hands.h"
 
 namespace orbelle::widgets {
 namespace {

@@ -8,7 +8,7 @@
 #include <climits>
 #include <memory>
 
-#include "hands.h"
+#include "support/hands.h"
 
 namespace orbelle::widgets {
 namespace {

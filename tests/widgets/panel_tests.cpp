@@ -4,7 +4,7 @@
 #include <QAccessible>
 #include <QImage>
 
-#include "hands.h"
+#include "support/hands.h"
 #include "widgets/ctl_captions.h"
 #include "widgets/ctl_image_store.h"
 #include "widgets/ctl_tips.h"
