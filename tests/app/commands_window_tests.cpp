@@ -1,6 +1,4 @@
 // Menus, keys, sliders and the clipboard of the real window.
-#include <QFile>
-
 #include "real_window.h"
 
 namespace orbelle::app {
