@@ -67,7 +67,7 @@ take() { # NAME
     local suffix=
     [[ $scale == 1 ]] || suffix=-200
     taken=$pictures/$1$suffix.png
-    import -window root -crop $((width * scale))x$((height * scale))+0+"$scale" +repage "$taken"
+    import -window root -crop $((width * scale))x$(((height - 2) * scale))+0+"$scale" +repage "$taken"
 }
 
 pictures_at() { # SCALE

@@ -19,6 +19,8 @@ constexpr int kBlinkMilliseconds = 250;
 constexpr int kBlinkTicks = 6;
 constexpr int kMaxBrush = 100;
 constexpr QColor kBackground(245, 246, 247);
+constexpr QColor kEdge(220, 220, 220);
+constexpr int kEdgeGap = 8;
 constexpr QColor kFrame(58, 150, 255);
 
 }  // namespace
@@ -104,6 +106,7 @@ void BrushPanel::StepBlink() {
 void BrushPanel::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.fillRect(rect(), kBackground);
+    painter.fillRect(QRect(0, kEdgeGap, 1, height() - 2 * kEdgeGap), kEdge);
     if (!frame_)
         return;
     painter.setRenderHint(QPainter::Antialiasing);
