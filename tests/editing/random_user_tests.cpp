@@ -50,9 +50,9 @@ bool SameLayer(const document::IconLayer& a, const document::IconLayer& b) {
     return ::testing::AssertionSuccess();
 }
 
-class RandomSession : public EditingTest, public ::testing::WithParamInterface<unsigned> {
+class RandomUser : public EditingTest, public ::testing::WithParamInterface<unsigned> {
 protected:
-    RandomSession() {
+    RandomUser() {
         editor.View.SceneWidth = 200;
         editor.View.SceneHeight = 150;
         NewPage(kPageSide, kPageSide);
@@ -209,7 +209,7 @@ protected:
     std::mt19937 random_{GetParam()};
 };
 
-TEST_P(RandomSession, KeepsTheDocumentWhole) {
+TEST_P(RandomUser, KeepsTheDocumentWhole) {
     const document::Document first = editor.Document;
     AddLayerCommand(editor);
     for (int i = 0; i < kSteps; ++i) {
@@ -236,7 +236,7 @@ TEST_P(RandomSession, KeepsTheDocumentWhole) {
     EXPECT_LT(usage.ru_maxrss / 1024, kMaxMebibytes);
 }
 
-INSTANTIATE_TEST_SUITE_P(Seeds, RandomSession, ::testing::Range(1U, 9U));
+INSTANTIATE_TEST_SUITE_P(Seeds, RandomUser, ::testing::Range(1U, 9U));
 
 }  // namespace
 }  // namespace orbelle::editing
