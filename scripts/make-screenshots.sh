@@ -21,7 +21,7 @@ mkdir -m 700 "$work/run"
 start_display() { # SCALE
     scale=$1
     export QT_SCALE_FACTOR=$scale
-    Xvfb -displayfd 3 -screen 0 $((width * scale))x$((height * scale + 40))x24 -nolisten tcp \
+    Xvfb -displayfd 3 -screen 0 $((width * scale))x$(((height + 40) * scale))x24 -nolisten tcp \
         3>"$work/display" 2>/dev/null &
     display=$!
     until [[ -s $work/display ]]; do sleep 0.1; done
