@@ -1,6 +1,8 @@
 // What the main window remembers between two runs.
 #include "app/mform.h"
 
+#include <algorithm>
+
 #include "app/bottom_panel.h"
 #include "app/right_panel.h"
 #include "app/settings.h"
@@ -8,6 +10,11 @@
 #include "editing/tool_palette.h"
 
 namespace orbelle::app {
+namespace {
+
+constexpr int kMaxBrush = 100;
+
+}  // namespace
 
 void mForm::RestoreSettings() {
     RestoreMainWindow(*this);
@@ -16,8 +23,10 @@ void mForm::RestoreSettings() {
     bottomPanel_->SetOpen(number("isQuick") != 0);
     for (const RightPanel::Header& header : rightPanel_->Headers())
         rightPanel_->SetOpen(header, number(header.Name) != 0);
-    editing::ChangeBrushOpacity(editor_, number("CtlScroll22"));
-    editing::ChangeBrushSize(editor_, number("CtlScroll23"));
+    // What is missing reads as 0, which the sliders do not have.
+    const auto brush = [&](const char* name) { return std::clamp(number(name), 1, kMaxBrush); };
+    editing::ChangeBrushOpacity(editor_, brush("CtlScroll22"));
+    editing::ChangeBrushSize(editor_, brush("CtlScroll23"));
     SetTipsEnabled(number("TipsControl") == 1);
     for (int i = 0; i < 2; ++i)
         SetWellColor(editor_, i, ReadColor(settings, QString("ForeColor%1").arg(i)));

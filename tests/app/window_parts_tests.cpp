@@ -181,6 +181,7 @@ TEST_F(WindowPartsTest, SettingsComeBack) {
         settings.setValue("ForeColor0", "255,0,64,128");
         settings.setValue("ForeColor1", "255,7");
         settings.setValue("CtlScroll23", 33);
+        settings.remove("CtlScroll22");
         settings.setValue("TipsControl", 1);
         settings.setValue("isQuick", -1);
         settings.setValue("CtlTitle2", 0);
@@ -190,6 +191,7 @@ TEST_F(WindowPartsTest, SettingsComeBack) {
     EXPECT_EQ(form.Editor().Colors[0], 0xFF004080);
     EXPECT_EQ(form.Editor().Colors[1], 0xFF070000);  // what is missing is 0
     EXPECT_EQ(form.Editor().Controls.CtlScroll23.Value, 33);
+    EXPECT_EQ(form.Editor().Controls.BrushOpacity, "1%");
     EXPECT_TRUE(form.TipsEnabled());
     EXPECT_FALSE(Part<widgets::CtlTitle>("CtlTitle4").isClosed());
     EXPECT_TRUE(Part<widgets::CtlTitle>("CtlTitle2").isClosed());
