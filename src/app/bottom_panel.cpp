@@ -6,6 +6,7 @@
 #include <QLabel>
 #include <QToolButton>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "app/brush_panel.h"
 #include "app/color_well.h"
