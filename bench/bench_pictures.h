@@ -6,7 +6,7 @@
 #include <cstdint>
 
 #include "document/layer_slots.h"
-#include "filters/selection_region.h"
+#include "document/selection.h"
 #include "graphics/bitmap.h"
 
 namespace orbelle::bench {
@@ -65,11 +65,11 @@ inline document::Document MakeDocument(Content content, int size, int layers, fl
 }
 
 // As many overlapping ellipses over a page of 512 x 512.
-inline filters::ClsFilters SelectionOfEllipses(int count) {
-    filters::ClsFilters selection;
+inline document::Selection SelectionOfEllipses(int count) {
+    document::Selection selection;
     for (int i = 0; i < count; ++i) {
         const int x = i * 37 % 400, y = i * 61 % 400;
-        selection.SetCropDatas(x + 100, y + 90, x, y, filters::CropShape::Ellipse);
+        selection.AddFrame(x + 100, y + 90, x, y, document::FrameShape::Ellipse);
     }
     return selection;
 }

@@ -17,9 +17,9 @@ void ComposeWhole(benchmark::State& state) {
     auto document = MakeDocument(static_cast<Content>(state.range(1)), 512, layers, 0.9F);
     for (auto _ : state) {
         document::Compositor compositor;
-        graphics::DIBSave canvas;
+        graphics::Bitmap canvas;
         compositor.Compose(document, kNearest, canvas);
-        benchmark::DoNotOptimize(canvas.new_Img.Pixels());
+        benchmark::DoNotOptimize(canvas.Pixels());
     }
     state.SetItemsProcessed(state.iterations() * layers * 512 * 512);
 }
@@ -35,7 +35,7 @@ void ComposeOneOfFifty(benchmark::State& state) {
     auto document = MakeDocument(static_cast<Content>(state.range(0)), 512, 50, 0.9F);
     document::IconLayer& moved = document.Layers[static_cast<std::size_t>(state.range(1))];
     document::Compositor compositor;
-    graphics::DIBSave canvas;
+    graphics::Bitmap canvas;
     float x = 0;
     for (int i = 0; i < 3; ++i) {
         moved.Rect.X = (x = 1 - x);
@@ -59,7 +59,7 @@ void ComposeSmallLayerOverFifty(benchmark::State& state) {
     document::MakeImageLayer(document, document.Layers.emplace_back(),
                              MakePicture(Content::Icon, 48));
     document::Compositor compositor;
-    graphics::DIBSave canvas;
+    graphics::Bitmap canvas;
     float x = 0;
     for (auto _ : state) {
         document.Layers.back().Rect.X = (x = 1 - x);
@@ -75,7 +75,7 @@ void ComposeStroke(benchmark::State& state) {
         MakeDocument(Content::HalfTransparent, 512, static_cast<int>(state.range(0)), 0.9F);
     document::IconLayer& drawnOn = document.Layers[static_cast<std::size_t>(state.range(1))];
     document::Compositor compositor;
-    graphics::DIBSave canvas;
+    graphics::Bitmap canvas;
     graphics::Bitmap pictures[] = {drawnOn.Image, drawnOn.Image};
     for (int i = 0; i < 400; ++i)
         pictures[1].SetPixel(300 + i % 20, 300 + i / 20, 0xFF00FF00);
@@ -113,7 +113,7 @@ BENCHMARK(Snapshot50Layers)->Unit(benchmark::kMicrosecond);
 void PaintScene(benchmark::State& state) {
     document::Document document = MakeDocument(Content::Icon, 512, 1);
     document::Compositor compositor;
-    graphics::DIBSave canvas;
+    graphics::Bitmap canvas;
     compositor.Compose(document, kNearest, canvas);
     document::View view;
     view.SceneWidth = 1600;
@@ -121,9 +121,9 @@ void PaintScene(benchmark::State& state) {
     view.Zoom = static_cast<double>(state.range(1));
     view.ViewActive = true;
     graphics::Bitmap scene;
-    filters::ClsFilters selection = SelectionOfEllipses(static_cast<int>(state.range(0)));
+    document::Selection selection = SelectionOfEllipses(static_cast<int>(state.range(0)));
     for (auto _ : state) {
-        document::DrawScene(scene, canvas.new_Img, document, view, selection);
+        document::DrawScene(scene, canvas, document, view, selection);
         benchmark::DoNotOptimize(scene.Pixels());
     }
 }

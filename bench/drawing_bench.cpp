@@ -4,9 +4,9 @@
 #include <random>
 
 #include "graphics/bitmap.h"
-#include "graphics/blend.h"
+#include "graphics/detail/blend.h"
+#include "graphics/detail/image_drawing.h"
 #include "graphics/drawing_context.h"
-#include "graphics/image_drawing.h"
 
 namespace orbelle {
 namespace {

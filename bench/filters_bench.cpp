@@ -59,7 +59,7 @@ BENCHMARK(OrigamiStyle)->ArgsProduct(kIcons);
 
 void IosPlate(benchmark::State& state) {
     OnPicture(state, [](const Bitmap& picture) {
-        return filters::iOSStyle(0xFF2060C0, picture.Width(), picture.Height(), 0, 0);
+        return filters::IosStyle(0xFF2060C0, picture.Width(), picture.Height(), 0, 0);
     });
 }
 BENCHMARK(IosPlate)->ArgsProduct(kIcons);

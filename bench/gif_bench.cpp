@@ -5,7 +5,7 @@
 
 #include "bench_pictures.h"
 #include "formats/gif_palette.h"
-#include "graphics/image_files.h"
+#include "graphics/codecs/image_files.h"
 
 namespace orbelle {
 namespace {

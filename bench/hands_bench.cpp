@@ -23,8 +23,8 @@ void UseTool(editing::Editor& editor, Tool tool, editing::FillKind fill) {
     editor.FillKind = fill;
     editor.Colors = {0xFFE04030, 0x802040C0};
     editor.Controls.LineWidth.Value = 20;
-    editor.Controls.CtlScroll22.Value = 100;
-    editor.Controls.CtlScroll23.Value = 50;
+    editor.Controls.BrushOpacity.Value = 100;
+    editor.Controls.BrushSize.Value = 50;
 }
 
 // A drag over most of the page, to and fro; `range` is the number of layers, then the place of the

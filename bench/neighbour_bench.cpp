@@ -42,8 +42,9 @@ void OutLine(benchmark::State& state) {
     Measure(state, [](auto& picture, int) { filters::OutLine(picture, -50, 5); });
 }
 
-void i3Dstyle(benchmark::State& state) {
-    Measure(state, [](auto& picture, int) { filters::i3Dstyle(picture, filters::kStrongLight); });
+void ThreeDStyle(benchmark::State& state) {
+    Measure(state,
+            [](auto& picture, int) { filters::ThreeDStyle(picture, filters::kStrongLight); });
 }
 
 void FreshStyle(benchmark::State& state) {
@@ -56,7 +57,7 @@ BENCHMARK(Soften)->Arg(48)->Arg(512);
 BENCHMARK(Smooth)->Arg(48)->Arg(512);
 BENCHMARK(Sharpen)->Arg(48)->Arg(512);
 BENCHMARK(OutLine)->Arg(48)->Arg(512);
-BENCHMARK(i3Dstyle)->Arg(48)->Arg(512);
+BENCHMARK(ThreeDStyle)->Arg(48)->Arg(512);
 BENCHMARK(FreshStyle)->Arg(48)->Arg(512);
 
 // Stamps on stamps in the centre of one picture, so that no copy is timed.

@@ -2,24 +2,24 @@
 #include <benchmark/benchmark.h>
 
 #include "bench_pictures.h"
-#include "filters/selection_region.h"
+#include "document/selection.h"
 #include "graphics/rotate_flip.h"
 
 namespace orbelle::bench {
 namespace {
 
 using namespace graphics;
-using filters::ClsFilters;
+using document::Selection;
 
 void DrawSelection(benchmark::State& state) {
-    ClsFilters selection = SelectionOfEllipses(static_cast<int>(state.range(0)));
+    Selection selection = SelectionOfEllipses(static_cast<int>(state.range(0)));
     const auto zoom = static_cast<float>(state.range(1));
     Bitmap scene(1600, 1000);
     DrawingContext context(scene);
     const float side = 512 * zoom;
     const RectF page{(1600 - side) / 2, (1000 - side) / 2, side, side};
     for (auto _ : state) {
-        selection.DrawCropRegion(context, page, {0, 0}, zoom);
+        selection.DrawShade(context, page, {0, 0}, zoom);
         benchmark::ClobberMemory();
     }
 }
@@ -31,31 +31,31 @@ BENCHMARK(DrawSelection)
 // All shapes of a selection one by one.
 void BuildSelection(benchmark::State& state) {
     for (auto _ : state)
-        benchmark::DoNotOptimize(SelectionOfEllipses(static_cast<int>(state.range(0))).CropCount);
+        benchmark::DoNotOptimize(SelectionOfEllipses(static_cast<int>(state.range(0))));
 }
 BENCHMARK(BuildSelection)->ArgName("shapes")->Arg(200)->Arg(5000)->Unit(benchmark::kMicrosecond);
 
 void SelectionBounds(benchmark::State& state) {
-    const ClsFilters selection = SelectionOfEllipses(static_cast<int>(state.range(0)));
+    const Selection selection = SelectionOfEllipses(static_cast<int>(state.range(0)));
     for (auto _ : state) {
         // A moved copy has forgotten its pixels.
-        ClsFilters moved = selection;
-        moved.CropRegion.Translate(1, 0);
-        benchmark::DoNotOptimize(moved.GetRegionRect());
+        graphics::Region moved = selection.Region();
+        moved.Translate(1, 0);
+        benchmark::DoNotOptimize(moved.Bounds());
     }
 }
 BENCHMARK(SelectionBounds)->ArgName("shapes")->Arg(200)->Arg(5000)->Unit(benchmark::kMicrosecond);
 
-void CropImage(benchmark::State& state) {
-    const ClsFilters selection = SelectionOfEllipses(static_cast<int>(state.range(0)));
+void TakeOut(benchmark::State& state) {
+    const Selection selection = SelectionOfEllipses(static_cast<int>(state.range(0)));
     const Bitmap picture = MakePicture(Content::HalfTransparent, 512);
     for (auto _ : state) {
         Bitmap image = picture;
         benchmark::DoNotOptimize(
-            selection.CropImage(image, 512, 512, 512, 512, {0, 0}, true, true).Image.Pixels());
+            selection.TakeOut(image, 512, 512, 512, 512, {0, 0}, true, true).Image.Pixels());
     }
 }
-BENCHMARK(CropImage)->ArgName("shapes")->Arg(1)->Arg(200)->Unit(benchmark::kMillisecond);
+BENCHMARK(TakeOut)->ArgName("shapes")->Arg(1)->Arg(200)->Unit(benchmark::kMillisecond);
 
 void FillWithPathGradient(benchmark::State& state) {
     Path ellipse(FillMode::Winding);

@@ -1,8 +1,8 @@
 #include <cstddef>
 #include <cstdint>
 
-#include "graphics/image_codecs.h"
-#include "graphics/image_files.h"
+#include "graphics/codecs/image_codecs.h"
+#include "graphics/codecs/image_files.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     try {

@@ -2,7 +2,7 @@
 #include <cstdint>
 
 #include "formats/icon_reader.h"
-#include "graphics/image_files.h"
+#include "graphics/codecs/image_files.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     try {

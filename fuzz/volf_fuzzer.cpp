@@ -16,7 +16,7 @@ void Compose(Document& document) {
     if (document.PageWidth > kMaxComposedSide || document.PageHeight > kMaxComposedSide)
         return;
     orbelle::document::Compositor compositor;
-    orbelle::graphics::DIBSave canvas;
+    orbelle::graphics::Bitmap canvas;
     compositor.Compose(document, orbelle::graphics::InterpolationMode::HighQuality, canvas);
 }
 

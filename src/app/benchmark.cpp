@@ -8,7 +8,7 @@
 #include <functional>
 #include <vector>
 
-#include "app/mform.h"
+#include "app/main_window.h"
 #include "app/scene_view.h"
 #include "app/settings.h"
 #include "document/layer_slots.h"
@@ -16,7 +16,7 @@
 #include "editing/layer_commands.h"
 #include "editing/tool_palette.h"
 #include "editing/view_commands.h"
-#include "widgets/ctl_scroll2.h"
+#include "widgets/track_slider.h"
 
 namespace orbelle::app {
 namespace {
@@ -73,7 +73,7 @@ void Measure(const char* name, QWidget& widget, const QPointF& from,
 }  // namespace
 
 int RunBenchmark() {
-    mForm form;
+    MainWindow form;
     form.resize(kDefaultMainSize);
     form.show();
     form.Run(FillDocument);
@@ -97,7 +97,7 @@ int RunBenchmark() {
         ChooseFill(editor, editing::FillKind::RadialGradient);
     });
     Measure("draw an ellipse", *scene, middle - QPointF(200, 200), circle);
-    for (widgets::CtlScroll2* slider : form.findChildren<widgets::CtlScroll2*>()) {
+    for (widgets::TrackSlider* slider : form.findChildren<widgets::TrackSlider*>()) {
         if (slider->accessibleName() != "Hue" && slider->accessibleName() != "Opacity")
             continue;
         slider->SetValue(50);

@@ -10,14 +10,14 @@
 
 #include "app/brush_panel.h"
 #include "app/color_well.h"
-#include "app/mform.h"
+#include "app/main_window.h"
 #include "editing/color_wells.h"
 #include "editing/page_commands.h"
 #include "editing/tool_palette.h"
 #include "widgets/artwork.h"
-#include "widgets/ctl_scroll.h"
-#include "widgets/ctl_scroll2.h"
-#include "widgets/ctl_title.h"
+#include "widgets/number_slider.h"
+#include "widgets/panel_header.h"
+#include "widgets/track_slider.h"
 
 namespace orbelle::app {
 namespace {
@@ -70,12 +70,12 @@ QToolButton* PictureButton(const char* artwork, const char* tip) {
 
 }  // namespace
 
-BottomPanel::BottomPanel(mForm& form) : form_(form) {
+BottomPanel::BottomPanel(MainWindow& form) : form_(form) {
     setObjectName("BottomTips");
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
-    title_ = new widgets::CtlTitle("Properties");
+    title_ = new widgets::PanelHeader("Properties");
     title_->setObjectName("CtlTitle4");
     column->addWidget(title_);
 
@@ -89,42 +89,42 @@ BottomPanel::BottomPanel(mForm& form) : form_(form) {
     column->addWidget(content_);
     brush_ = new BrushPanel(form, content_);
     content_->installEventFilter(this);
-    connect(title_, &widgets::CtlTitle::Clicked, content_,
-            [this](bool isClosed) { content_->setVisible(!isClosed); });
+    connect(title_, &widgets::PanelHeader::Clicked, content_,
+            [this](bool IsClosed) { content_->setVisible(!IsClosed); });
 }
 
 QWidget* BottomPanel::AddPageSize() {
     const auto side = [this](const char* name, const char* caption, void (*change)(Editor&, int)) {
-        auto* slider = new widgets::CtlScroll;
+        auto* slider = new widgets::NumberSlider;
         slider->setObjectName(name);
         slider->setAccessibleName(caption);
         slider->setToolTip(caption);
         slider->SetRange(1, document::kMaxPageSide);
-        connect(slider, &widgets::CtlScroll::Changed, this, [this, change](int value) {
+        connect(slider, &widgets::NumberSlider::Changed, this, [this, change](int value) {
             form_.Run([=](Editor& editor) { change(editor, value); });
         });
         return slider;
     };
-    pageWidth_ = side("CtlScroll1", "Page width", editing::ChangePageWidth);
-    pageHeight_ = side("CtlScroll2", "Page height", editing::ChangePageHeight);
+    pageWidth_ = side("PageWidth", "Page width", editing::ChangePageWidth);
+    pageHeight_ = side("PageHeight", "Page height", editing::ChangePageHeight);
     return Group("Page size", Row({pageWidth_, new QLabel(QString(QChar(0x00D7))), pageHeight_}));
 }
 
 QWidget* BottomPanel::AddBackground() {
-    whiteColor_ = new ColorWell("Page background");
-    whiteColor_->setObjectName("WhiteColor");
-    whiteColor_->setToolTip("Page background");
-    connect(whiteColor_, &ColorWell::Clicked, this,
+    backgroundSwatch_ = new ColorWell("Page background");
+    backgroundSwatch_->setObjectName("BackgroundSwatch");
+    backgroundSwatch_->setToolTip("Page background");
+    connect(backgroundSwatch_, &ColorWell::Clicked, this,
             [this] { form_.Run(editing::AskPageBackground); });
     QToolButton* none = PictureButton("tools/no-colour", "No page background");
-    none->setObjectName("Nocolor");
+    none->setObjectName("NoBackground");
     connect(none, &QToolButton::pressed, this, [this] {
         form_.Run([](Editor& editor) {
             if (editor.DocumentExists)
                 SetPageBackground(editor, 0);
         });
     });
-    return Group("Background", Row({whiteColor_, none}));
+    return Group("Background", Row({backgroundSwatch_, none}));
 }
 
 QWidget* BottomPanel::AddColors() {
@@ -146,21 +146,21 @@ QWidget* BottomPanel::AddColors() {
 }
 
 QWidget* BottomPanel::AddOptions() {
-    colorOpacity_ = new widgets::CtlScroll2;
+    colorOpacity_ = new widgets::TrackSlider;
     colorOpacity_->setObjectName("ColorOpacity");
     colorOpacity_->setAccessibleName("Colour opacity");
     colorOpacity_->setRange(0, 100);
     colorOpacity_->setFixedWidth(kSliderWidth);
-    connect(colorOpacity_, &widgets::CtlScroll2::Changed, this, [this](int value) {
+    connect(colorOpacity_, &widgets::TrackSlider::Changed, this, [this](int value) {
         form_.Run([value](Editor& editor) { ChangeColorOpacity(editor, value); });
     });
     opacityValue_ = new QLabel;
     opacityValue_->setFixedWidth(40);
-    lineWidth_ = new widgets::CtlScroll;
+    lineWidth_ = new widgets::NumberSlider;
     lineWidth_->setObjectName("LineWidth");
     lineWidth_->setAccessibleName("Line width");
     lineWidth_->SetRange(1, kMaxLineWidth);
-    connect(lineWidth_, &widgets::CtlScroll::Changed, this, [this](int value) {
+    connect(lineWidth_, &widgets::NumberSlider::Changed, this, [this](int value) {
         form_.Run([value](Editor& editor) {
             ChangeLineWidth(editor, std::clamp(value, 1, kMaxLineWidth));
         });
@@ -197,16 +197,16 @@ bool BottomPanel::eventFilter(QObject* watched, QEvent* event) {
 
 void BottomPanel::ShowStates(const Editor& editor) {
     const editing::Controls& controls = editor.Controls;
-    const auto mirror = [](widgets::CtlScroll& shown, const editing::Slider& slider) {
+    const auto mirror = [](widgets::NumberSlider& shown, const editing::Slider& slider) {
         shown.setEnabled(slider.Enabled);
         if (shown.ColorValue() != slider.Value)
             shown.SetColorValue(slider.Value);
     };
-    mirror(*pageWidth_, controls.CtlScroll1);
-    mirror(*pageHeight_, controls.CtlScroll2);
+    mirror(*pageWidth_, controls.PageWidth);
+    mirror(*pageHeight_, controls.PageHeight);
     mirror(*lineWidth_, controls.LineWidth);
-    whiteColor_->Show(editor.Document.PageBackground, 1);
-    whiteColor_->setEnabled(editor.DocumentExists);
+    backgroundSwatch_->Show(editor.Document.PageBackground, 1);
+    backgroundSwatch_->setEnabled(editor.DocumentExists);
     for (int i = 0; i < 2; ++i)
         wells_[static_cast<std::size_t>(i)]->Show(editor.Colors[static_cast<std::size_t>(i)],
                                                   i == editor.ActiveColor ? kWidePen : 1);

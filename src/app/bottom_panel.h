@@ -9,27 +9,27 @@
 class QLabel;
 
 namespace orbelle::widgets {
-class CtlScroll;
-class CtlScroll2;
-class CtlTitle;
+class NumberSlider;
+class TrackSlider;
+class PanelHeader;
 }  // namespace orbelle::widgets
 
 namespace orbelle::app {
 
 class BrushPanel;
 class ColorWell;
-class mForm;
+class MainWindow;
 
 class BottomPanel : public QWidget {
     Q_OBJECT
 
 public:
-    explicit BottomPanel(mForm& form);
+    explicit BottomPanel(MainWindow& form);
 
     void ShowStates(const editing::Editor& editor);
     void SlideBrush(bool open);
 
-    widgets::CtlTitle& CtlTitle4() const { return *title_; }
+    widgets::PanelHeader& CtlTitle4() const { return *title_; }
     void SetOpen(bool open);
     QWidget& FirstColorWell() const;
     BrushPanel& Brush() const { return *brush_; }
@@ -43,16 +43,16 @@ private:
     QWidget* AddColors();
     QWidget* AddOptions();
 
-    mForm& form_;
-    widgets::CtlTitle* title_ = nullptr;
+    MainWindow& form_;
+    widgets::PanelHeader* title_ = nullptr;
     QWidget* content_ = nullptr;
-    widgets::CtlScroll* pageWidth_ = nullptr;
-    widgets::CtlScroll* pageHeight_ = nullptr;
-    ColorWell* whiteColor_ = nullptr;
+    widgets::NumberSlider* pageWidth_ = nullptr;
+    widgets::NumberSlider* pageHeight_ = nullptr;
+    ColorWell* backgroundSwatch_ = nullptr;
     std::array<ColorWell*, 2> wells_{};
-    widgets::CtlScroll2* colorOpacity_ = nullptr;
+    widgets::TrackSlider* colorOpacity_ = nullptr;
     QLabel* opacityValue_ = nullptr;
-    widgets::CtlScroll* lineWidth_ = nullptr;
+    widgets::NumberSlider* lineWidth_ = nullptr;
     BrushPanel* brush_ = nullptr;
 };
 

@@ -5,9 +5,9 @@
 #include <QPainter>
 #include <algorithm>
 
-#include "app/mform.h"
+#include "app/main_window.h"
 #include "editing/tool_palette.h"
-#include "widgets/ctl_scroll2.h"
+#include "widgets/track_slider.h"
 
 namespace orbelle::app {
 namespace {
@@ -25,7 +25,7 @@ constexpr QColor kFrame(58, 150, 255);
 
 }  // namespace
 
-BrushPanel::BrushPanel(mForm& form, QWidget* parent) : QWidget(parent) {
+BrushPanel::BrushPanel(MainWindow& form, QWidget* parent) : QWidget(parent) {
     setObjectName("BrushPanel");
     auto* rows = new QGridLayout(this);
     rows->setContentsMargins(12, 8, 12, 8);
@@ -33,7 +33,7 @@ BrushPanel::BrushPanel(mForm& form, QWidget* parent) : QWidget(parent) {
     rows->setVerticalSpacing(6);
     const auto addRow = [&](int row, const char* caption, const char* name, QLabel*& value,
                             void (*change)(editing::Editor&, int)) {
-        auto* slider = new widgets::CtlScroll2;
+        auto* slider = new widgets::TrackSlider;
         slider->setRange(1, kMaxBrush);
         slider->setObjectName(name);
         slider->setAccessibleName(caption);
@@ -43,7 +43,7 @@ BrushPanel::BrushPanel(mForm& form, QWidget* parent) : QWidget(parent) {
         rows->addWidget(new QLabel(caption), row, 0);
         rows->addWidget(slider, row, 1);
         rows->addWidget(value, row, 2);
-        connect(slider, &widgets::CtlScroll2::Changed, this, [&form, change](int to) {
+        connect(slider, &widgets::TrackSlider::Changed, this, [&form, change](int to) {
             form.Run([=](editing::Editor& editor) { change(editor, to); });
         });
         return slider;
@@ -59,10 +59,10 @@ BrushPanel::BrushPanel(mForm& form, QWidget* parent) : QWidget(parent) {
 }
 
 void BrushPanel::ShowStates(const editing::Controls& controls) {
-    size_->SetValue(controls.CtlScroll23.Value);
-    opacity_->SetValue(controls.CtlScroll22.Value);
-    sizeValue_->setText(QString::fromStdString(controls.BrushSize));
-    opacityValue_->setText(QString::fromStdString(controls.BrushOpacity));
+    size_->SetValue(controls.BrushSize.Value);
+    opacity_->SetValue(controls.BrushOpacity.Value);
+    sizeValue_->setText(QString::fromStdString(controls.BrushSizeText));
+    opacityValue_->setText(QString::fromStdString(controls.BrushOpacityText));
 }
 
 void BrushPanel::Place() {

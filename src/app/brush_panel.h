@@ -9,19 +9,19 @@
 class QLabel;
 
 namespace orbelle::widgets {
-class CtlScroll2;
+class TrackSlider;
 }
 
 namespace orbelle::app {
 
-class mForm;
+class MainWindow;
 
 // Stands in its parent from top to bottom when it is in, below it when it is out.
 class BrushPanel : public QWidget {
     Q_OBJECT
 
 public:
-    explicit BrushPanel(mForm& form, QWidget* parent);
+    explicit BrushPanel(MainWindow& form, QWidget* parent);
 
     void ShowStates(const editing::Controls& controls);
     // In or out, step by step; once in, a frame around the options blinks.
@@ -37,8 +37,8 @@ private:
     void StepSlide();
     void StepBlink();
 
-    widgets::CtlScroll2* size_ = nullptr;
-    widgets::CtlScroll2* opacity_ = nullptr;
+    widgets::TrackSlider* size_ = nullptr;
+    widgets::TrackSlider* opacity_ = nullptr;
     QLabel* sizeValue_ = nullptr;
     QLabel* opacityValue_ = nullptr;
     QTimer slide_;

@@ -4,7 +4,7 @@
 #include <functional>
 
 #include "app/links.h"
-#include "app/mform.h"
+#include "app/main_window.h"
 #include "editing/clipboard_commands.h"
 #include "editing/document_commands.h"
 #include "editing/export_commands.h"
@@ -21,7 +21,7 @@ using editing::Controls;
 
 constexpr char kTipsName[] = "m_Tips";
 
-using Command = std::function<void(mForm&)>;
+using Command = std::function<void(MainWindow&)>;
 
 struct Entry {
     const char* Name = nullptr;
@@ -33,8 +33,8 @@ struct Entry {
     bool Checks = false;                            // it carries a check mark
 };
 
-Command Edit(mForm::EditorCommand command) {
-    return [command = std::move(command)](mForm& form) { form.Run(command); };
+Command Edit(MainWindow::EditorCommand command) {
+    return [command = std::move(command)](MainWindow& form) { form.Run(command); };
 }
 
 std::vector<Entry> ExportEntries() {
@@ -71,7 +71,7 @@ std::vector<Entry> FileEntries() {
          &Controls::m_Import},
         {"m_Export", "&Export...", {}, {}, &Controls::m_Export, ExportEntries()},
         {},
-        {"m_Exit", "E&xit", {Qt::CTRL | Qt::Key_Q}, [](mForm& form) { form.close(); }},
+        {"m_Exit", "E&xit", {Qt::CTRL | Qt::Key_Q}, [](MainWindow& form) { form.close(); }},
     };
 }
 
@@ -122,7 +122,7 @@ std::vector<Entry> EditEntries() {
         {"m_Paste",
          "&Paste",
          {Qt::CTRL | Qt::Key_V},
-         [](mForm& form) { form.Paste(); },
+         [](MainWindow& form) { form.Paste(); },
          &Controls::m_Paste},
         entry("m_Del", "&Delete", {}, editing::DeleteCommand, &Controls::m_Del),
         {},
@@ -203,17 +203,17 @@ std::vector<Entry> ToolEntries() {
 std::vector<Entry> HelpEntries() {
     const auto link = [](const char* name, const char* caption, const QString& address) {
         return Entry{
-            .Name = name, .Caption = caption, .Run = [address](mForm&) { OpenLink(address); }};
+            .Name = name, .Caption = caption, .Run = [address](MainWindow&) { OpenLink(address); }};
     };
     return {
         {.Name = kTipsName,
          .Caption = "&Tips",
-         .Run = [](mForm& form) { form.SetTipsEnabled(!form.TipsEnabled()); },
+         .Run = [](MainWindow& form) { form.SetTipsEnabled(!form.TipsEnabled()); },
          .Checks = true},
         {.Name = "m_Samples",
          .Caption = "&Samples",
          .Run =
-             [](mForm& form) {
+             [](MainWindow& form) {
                  if (!OpenSamples())
                      form.ShowStatus("The folder of samples is not there.");
              }},
@@ -221,7 +221,7 @@ std::vector<Entry> HelpEntries() {
         link("m_GetIcons", "&Download Over 20,000 Professional Icons...", kMoreIcons),
         {},
         link("m_Web", "Varnel &Website", kWebsite),
-        {.Name = "m_About", .Caption = "&About", .Run = [](mForm& form) { form.ShowAbout(); }},
+        {.Name = "m_About", .Caption = "&About", .Run = [](MainWindow& form) { form.ShowAbout(); }},
     };
 }
 
@@ -231,7 +231,7 @@ bool HasCommand(const Entry& entry) {
 
 }  // namespace
 
-MainMenu::MainMenu(mForm& form) {
+MainMenu::MainMenu(MainWindow& form) {
     const std::function<void(QMenu&, const std::vector<Entry>&)> fill =
         [&](QMenu& menu, const std::vector<Entry>& entries) {
             for (const Entry& entry : entries) {

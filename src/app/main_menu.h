@@ -10,14 +10,14 @@ class QMenu;
 
 namespace orbelle::app {
 
-class mForm;
+class MainWindow;
 
 // Every entry carries its name as object name. Entries without a command are disabled, and so are
 // submenus without an entry that has one.
 class MainMenu {
 public:
     // Fills the window's menu bar.
-    explicit MainMenu(mForm& form);
+    explicit MainMenu(MainWindow& form);
 
     void ShowStates(const editing::Controls& controls);
     // The check mark of Help/Tips.

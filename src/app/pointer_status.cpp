@@ -31,7 +31,7 @@ void PointerStatus::ShowPointer(const editing::Editor& editor, float x, float y)
     const graphics::PointF page = ScreenToPage(editing::MappingOf(editor), x, y);
     const int column = graphics::RoundToEven(page.X), row = graphics::RoundToEven(page.Y);
     position_->setText(QString("%1, %2").arg(column).arg(row));
-    const auto color = editor.Canvas.new_Img.GetPixel(column, row);
+    const auto color = editor.Canvas.GetPixel(column, row);
     color_->setText(color ? QColor::fromRgba(*color).name(QColor::HexArgb).toUpper() : QString());
 }
 

@@ -5,7 +5,7 @@
 #include <QVBoxLayout>
 #include <cstdio>
 
-#include "app/mform.h"
+#include "app/main_window.h"
 #include "app/shared_image.h"
 #include "editing/adjust_sliders.h"
 #include "editing/layer_commands.h"
@@ -16,7 +16,7 @@ namespace {
 using editing::Adjustment;
 using editing::Controls;
 using editing::Editor;
-using widgets::CtlScroll2;
+using widgets::TrackSlider;
 
 constexpr int kMargin = 12;
 constexpr int kCaptionWidth = 70;
@@ -25,17 +25,18 @@ constexpr int kMinLayerList = 84;
 
 // One drag of a slider as the three parts of a command.
 template <typename Press, typename Change, typename Release>
-void ConnectDrag(mForm& form, CtlScroll2& slider, Press press, Change change, Release release) {
-    QObject::connect(&slider, &CtlScroll2::Pressed, &form, [&form, press] { form.Run(press); });
-    QObject::connect(&slider, &CtlScroll2::Changed, &form, [&form, change](int value) {
+void ConnectDrag(MainWindow& form, TrackSlider& slider, Press press, Change change,
+                 Release release) {
+    QObject::connect(&slider, &TrackSlider::Pressed, &form, [&form, press] { form.Run(press); });
+    QObject::connect(&slider, &TrackSlider::Changed, &form, [&form, change](int value) {
         form.Run([=](Editor& editor) { change(editor, value); });
     });
-    QObject::connect(&slider, &CtlScroll2::Released, &form,
+    QObject::connect(&slider, &TrackSlider::Released, &form,
                      [&form, release] { form.Run(release); });
 }
 
 template <Adjustment kAdjustment>
-void ConnectAdjustment(mForm& form, CtlScroll2& slider) {
+void ConnectAdjustment(MainWindow& form, TrackSlider& slider) {
     ConnectDrag(
         form, slider, editing::PressAdjustment,
         [](Editor& editor, int value) { ChangeAdjustment(editor, kAdjustment, value); },
@@ -51,49 +52,47 @@ QString OpacityText(float opacity) {
 
 }  // namespace
 
-RightPanel::RightPanel(mForm& form, QWidget& layerBar) : form_(form) {
+RightPanel::RightPanel(MainWindow& form, QWidget& layerBar) : form_(form) {
     setObjectName("RightPic");
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
 
     QWidget* opacity = AddSection("CtlTitle1", "Icon Opacity");
-    opacity_ = AddSlider(*opacity, "Opacity", &Controls::CtlScroll21, nullptr);
+    opacity_ = AddSlider(*opacity, "Opacity", &Controls::Opacity, nullptr);
     ConnectDrag(form, *opacity_, editing::PressOpacity, editing::ChangeOpacity,
                 editing::ReleaseOpacity);
 
     QWidget* color = AddSection("CtlTitle2", "HUE/Saturation");
     ConnectAdjustment<Adjustment::Hue>(
-        form, *AddSlider(*color, "Hue", &Controls::HUEscroll, &Controls::HueValue));
+        form, *AddSlider(*color, "Hue", &Controls::Hue, &Controls::HueValue));
     ConnectAdjustment<Adjustment::Saturation>(
-        form,
-        *AddSlider(*color, "Saturation", &Controls::SaturationScroll, &Controls::SaturationValue));
+        form, *AddSlider(*color, "Saturation", &Controls::Saturation, &Controls::SaturationValue));
     ConnectAdjustment<Adjustment::Brightness>(
-        form,
-        *AddSlider(*color, "Brightness", &Controls::BrightnessScroll, &Controls::BrightnessValue));
+        form, *AddSlider(*color, "Brightness", &Controls::Brightness, &Controls::BrightnessValue));
     ConnectAdjustment<Adjustment::Contrast>(
-        form, *AddSlider(*color, "Contrast", &Controls::ContrastScroll, &Controls::ContrastValue));
+        form, *AddSlider(*color, "Contrast", &Controls::Contrast, &Controls::ContrastValue));
 
     QWidget* size = AddSection("CtlTitle3", "Icon Resize");
-    ConnectDrag(form, *AddSlider(*size, "Scale", &Controls::ScaleScroll, &Controls::ScaleValue),
+    ConnectDrag(form, *AddSlider(*size, "Scale", &Controls::Scale, &Controls::ScaleValue),
                 editing::PressScale, editing::ChangeScale, editing::ReleaseScale);
 
     QWidget* filter = AddSection("CtlTitle5", "Icon Filter");
-    filterCaption_ = new widgets::CtlCaptions;
+    filterCaption_ = new widgets::CaptionText;
     filterCaption_->setMinimumHeight(30);
     filter->layout()->addWidget(filterCaption_);
 
     QWidget* layers = AddSection("CtlTitle6", "Layer");
     layers->layout()->setContentsMargins(0, 0, 0, 0);
     layers->layout()->addWidget(&layerBar);
-    layers_ = new widgets::CtlLayers;
+    layers_ = new widgets::LayerList;
     layers_->setObjectName("LayerPanel");
     layers_->setAccessibleName("Layers");
     layers_->setMinimumHeight(kMinLayerList);
     layers->layout()->addWidget(layers_);
     column->setStretchFactor(layers, 1);
     column->addStretch();
-    connect(layers_, &widgets::CtlLayers::Clicked, this, [this] {
+    connect(layers_, &widgets::LayerList::Clicked, this, [this] {
         const int index = layers_->SelectedIndex();
         form_.Run([index](Editor& editor) {
             if (index >= 0 && index < editor.Document.LayerCount())
@@ -103,7 +102,7 @@ RightPanel::RightPanel(mForm& form, QWidget& layerBar) : form_(form) {
 }
 
 QWidget* RightPanel::AddSection(const char* name, const char* title) {
-    auto* header = new widgets::CtlTitle(title);
+    auto* header = new widgets::PanelHeader(title);
     header->setObjectName(name);
     auto* content = new QWidget;
     auto* rows = new QGridLayout(content);
@@ -113,8 +112,8 @@ QWidget* RightPanel::AddSection(const char* name, const char* title) {
     layout()->addWidget(header);
     layout()->addWidget(content);
     headers_.push_back({name, header, content});
-    connect(header, &widgets::CtlTitle::Clicked, content,
-            [content](bool isClosed) { content->setVisible(!isClosed); });
+    connect(header, &widgets::PanelHeader::Clicked, content,
+            [content](bool IsClosed) { content->setVisible(!IsClosed); });
     return content;
 }
 
@@ -123,9 +122,9 @@ void RightPanel::SetOpen(const Header& header, bool open) {
     header.Content->setVisible(open);
 }
 
-CtlScroll2* RightPanel::AddSlider(QWidget& section, const char* caption,
-                                  editing::Slider Controls::*state, std::string Controls::*label) {
-    auto* slider = new CtlScroll2;
+TrackSlider* RightPanel::AddSlider(QWidget& section, const char* caption,
+                                   editing::Slider Controls::*state, std::string Controls::*label) {
+    auto* slider = new TrackSlider;
     slider->setRange(0, 100);
     slider->setAccessibleName(caption);
     auto* text = new QLabel(caption);

@@ -5,23 +5,23 @@
 #include <vector>
 
 #include "editing/editor.h"
-#include "widgets/ctl_captions.h"
-#include "widgets/ctl_layers.h"
-#include "widgets/ctl_scroll2.h"
-#include "widgets/ctl_title.h"
+#include "widgets/caption_text.h"
+#include "widgets/layer_list.h"
+#include "widgets/panel_header.h"
+#include "widgets/track_slider.h"
 
 class QLabel;
 
 namespace orbelle::app {
 
-class mForm;
+class MainWindow;
 
 class RightPanel : public QWidget {
     Q_OBJECT
 
 public:
-    // `layerBar` is ToolBarvs4.
-    RightPanel(mForm& form, QWidget& layerBar);
+    // `layerBar` is LayerBar.
+    RightPanel(MainWindow& form, QWidget& layerBar);
 
     void ShowStates(const editing::Controls& controls);
     // The layer list anew.
@@ -33,7 +33,7 @@ public:
     // The headers, by the names that their open states are stored under.
     struct Header {
         const char* Name;
-        widgets::CtlTitle* Title;
+        widgets::PanelHeader* Title;
         QWidget* Content;
     };
     const std::vector<Header>& Headers() const { return headers_; }
@@ -41,23 +41,23 @@ public:
 
 private:
     struct Adjuster {
-        widgets::CtlScroll2* Slider;
+        widgets::TrackSlider* Slider;
         QLabel* Value;
         editing::Slider editing::Controls::*State;
         std::string editing::Controls::*Label;
     };
 
     QWidget* AddSection(const char* name, const char* title);
-    widgets::CtlScroll2* AddSlider(QWidget& section, const char* caption,
-                                   editing::Slider editing::Controls::*state,
-                                   std::string editing::Controls::*label);
+    widgets::TrackSlider* AddSlider(QWidget& section, const char* caption,
+                                    editing::Slider editing::Controls::*state,
+                                    std::string editing::Controls::*label);
 
-    mForm& form_;
+    MainWindow& form_;
     std::vector<Header> headers_;
     std::vector<Adjuster> adjusters_;
-    widgets::CtlScroll2* opacity_ = nullptr;
-    widgets::CtlCaptions* filterCaption_ = nullptr;
-    widgets::CtlLayers* layers_ = nullptr;
+    widgets::TrackSlider* opacity_ = nullptr;
+    widgets::CaptionText* filterCaption_ = nullptr;
+    widgets::LayerList* layers_ = nullptr;
 };
 
 }  // namespace orbelle::app

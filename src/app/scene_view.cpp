@@ -12,7 +12,7 @@
 #include "document/scene_painter.h"
 #include "editing/tools/object_keys.h"
 #include "widgets/artwork.h"
-#include "widgets/ctl_image_store.h"
+#include "widgets/image_store.h"
 
 namespace orbelle::app {
 namespace {
@@ -51,18 +51,18 @@ void DrawRubberBand(QPainter& painter, const editing::OverlayLine& line) {
 }
 
 void DrawOverlays(QPainter& painter, const editing::Overlays& overlays) {
-    const editing::OverlayShape& frame = overlays.SelectedShape;
+    const editing::OverlayShape& frame = overlays.SelectionFrame;
     if (frame.Visible && frame.Rect.Width > 0 && frame.Rect.Height > 0) {
         painter.setRenderHint(QPainter::Antialiasing, frame.IsOval);
         DrawOutline(painter, RectOf(frame.Rect), frame.IsOval);
     }
-    if (overlays.Line2.Visible) {
+    if (overlays.RubberBand.Visible) {
         painter.setRenderHint(QPainter::Antialiasing);
-        DrawRubberBand(painter, overlays.Line2);
+        DrawRubberBand(painter, overlays.RubberBand);
     }
-    if (overlays.Shape2.Visible) {
-        painter.setRenderHint(QPainter::Antialiasing, overlays.Shape2.IsOval);
-        DrawOutline(painter, RectOf(overlays.Shape2.Rect), overlays.Shape2.IsOval);
+    if (overlays.PointerMark.Visible) {
+        painter.setRenderHint(QPainter::Antialiasing, overlays.PointerMark.IsOval);
+        DrawOutline(painter, RectOf(overlays.PointerMark.Rect), overlays.PointerMark.IsOval);
     }
 }
 
@@ -183,7 +183,7 @@ void SceneView::paintEvent(QPaintEvent*) {
     painter.drawImage(0, 0, image);
 
     const auto frame = document::ObjectFrame(editor_.Document, editor_.View);
-    if (frame && !editor_.Filters.SelectionOK()) {
+    if (frame && !editor_.Selection.Exists()) {
         painter.setPen(QPen(kFrameColor, 1, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
         painter.drawRect(
             QRectF(frame->X + 0.5, frame->Y + 0.5, frame->Width - 1, frame->Height - 1));
@@ -199,7 +199,7 @@ void SceneView::DrawWelcome(QPainter& painter) const {
     const int left = (width() - 280) / 2, top = (height() - 80) / 2;
     // The picture is there or it is not; only the texts fade.
     const double picture = std::round(std::round(welcome_ * 10.0 / kWelcomeStrongest) / 10);
-    static const widgets::CtlImageStore board("board");
+    static const widgets::ImageStore board("board");
     board.Drawing(painter, QRect(left - 60, top - 30, 40, 40), picture);
     QFont font("Verdana");
     font.setPointSizeF(11);

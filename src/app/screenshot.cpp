@@ -4,14 +4,14 @@
 #include <QPixmap>
 #include <iostream>
 
-#include "app/mform.h"
+#include "app/main_window.h"
 #include "app/settings.h"
 
 namespace orbelle::app {
 namespace {
 
 // Nobody is there to press OK.
-class UnattendedForm : public mForm {
+class UnattendedForm : public MainWindow {
 public:
     bool HasFailed() const { return hasFailed_; }
     void ShowMessage(const std::string& text) override {

@@ -10,13 +10,13 @@ namespace {
 
 namespace tool_buttons = editing::tool_buttons;
 
-mForm::EditorCommand Tool(int button) {
+MainWindow::EditorCommand Tool(int button) {
     return [button](editing::Editor& editor) {
         ClickToolButton(editor, button);
         // A key chooses the tool; the pop-up is the mouse's.
-        editor.Controls.ToolBarvs3Visible = false;
-        editor.Controls.ToolBarvs5Visible = false;
-        editor.Controls.ToolBarvs6Visible = false;
+        editor.Controls.FillBarVisible = false;
+        editor.Controls.SelectionBarVisible = false;
+        editor.Controls.EraserBarVisible = false;
         editor.Host.ControlsChanged();
     };
 }

@@ -5,14 +5,14 @@
 #include <QList>
 #include <vector>
 
-#include "app/mform.h"
+#include "app/main_window.h"
 
 namespace orbelle::app {
 
 struct Shortcut {
     QString Caption;
     QList<QKeySequence> Keys;
-    mForm::EditorCommand Command;
+    MainWindow::EditorCommand Command;
 };
 
 std::vector<Shortcut> WindowShortcuts();

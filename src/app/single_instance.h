@@ -8,7 +8,7 @@
 namespace orbelle::app {
 
 // What a copy sends to the running one.
-inline constexpr char kHandOverTopic[] = "Orbelle|mForm";
+inline constexpr char kHandOverTopic[] = "Orbelle|MainWindow";
 
 class SingleInstance : public QObject {
     Q_OBJECT

@@ -12,14 +12,14 @@ constexpr int kOldest = 300;  // ticks
 TipBalloons::TipBalloons(editing::Editor& editor, QWidget& central, Placement placement)
     : editor_(editor),
       placement_(std::move(placement)),
-      tips1_(new widgets::CtlTips(&central)),
-      tips2_(new widgets::CtlTips(&central)) {
-    tips1_->setObjectName("CtlTips1");
-    tips2_->setObjectName("CtlTips2");
+      tips1_(new widgets::Balloon(&central)),
+      tips2_(new widgets::Balloon(&central)) {
+    tips1_->setObjectName("FirstBalloon");
+    tips2_->setObjectName("SecondBalloon");
     tips2_->SetDirection(1);
-    for (widgets::CtlTips* balloon : {tips1_, tips2_}) {
+    for (widgets::Balloon* balloon : {tips1_, tips2_}) {
         balloon->hide();
-        connect(balloon, &widgets::CtlTips::Clicked, this, [this, balloon] {
+        connect(balloon, &widgets::Balloon::Clicked, this, [this, balloon] {
             balloon->hide();
             emit BalloonClicked();
         });
@@ -28,7 +28,7 @@ TipBalloons::TipBalloons(editing::Editor& editor, QWidget& central, Placement pl
     connect(&timer2_, &QTimer::timeout, this, &TipBalloons::Grow);
 }
 
-bool TipBalloons::Put(widgets::CtlTips& balloon, const std::optional<editing::Tip>& tip) {
+bool TipBalloons::Put(widgets::Balloon& balloon, const std::optional<editing::Tip>& tip) {
     if (!tip)
         return true;
     balloon.SetTipString(QString::fromStdString(tip->Text));
@@ -48,12 +48,12 @@ void TipBalloons::ShowTips(int tip, bool showLayerTips) {
         return;
     const int pick = std::uniform_int_distribution<int>(1, 2)(random_);
     const editing::TipChoice choice = ChooseTips(editor_, tip, showLayerTips, pick);
-    const bool seen1 = Put(*tips1_, choice.CtlTips1);
-    tips1_->setVisible(choice.Tips1Visible && seen1);
-    const bool seen2 = Put(*tips2_, choice.CtlTips2);
-    if (choice.Tips2Visible)
-        tips2_->setVisible(*choice.Tips2Visible && seen2);
-    for (widgets::CtlTips* balloon : {tips1_, tips2_})
+    const bool seen1 = Put(*tips1_, choice.FirstBalloon);
+    tips1_->setVisible(choice.FirstVisible && seen1);
+    const bool seen2 = Put(*tips2_, choice.SecondBalloon);
+    if (choice.SecondVisible)
+        tips2_->setVisible(*choice.SecondVisible && seen2);
+    for (widgets::Balloon* balloon : {tips1_, tips2_})
         balloon->raise();
     timer2_.start();
 }

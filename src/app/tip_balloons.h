@@ -9,7 +9,7 @@
 
 #include "editing/editor.h"
 #include "editing/tip_texts.h"
-#include "widgets/ctl_tips.h"
+#include "widgets/balloon.h"
 
 namespace orbelle::app {
 
@@ -32,20 +32,20 @@ public:
     void HideAll();
     void Stop();
 
-    widgets::CtlTips& CtlTips1() const { return *tips1_; }
-    widgets::CtlTips& CtlTips2() const { return *tips2_; }
+    widgets::Balloon& FirstBalloon() const { return *tips1_; }
+    widgets::Balloon& SecondBalloon() const { return *tips2_; }
 
 signals:
     void BalloonClicked();
 
 private:
     void Grow();
-    bool Put(widgets::CtlTips& balloon, const std::optional<editing::Tip>& tip);
+    bool Put(widgets::Balloon& balloon, const std::optional<editing::Tip>& tip);
 
     editing::Editor& editor_;
     Placement placement_;
-    widgets::CtlTips* tips1_;
-    widgets::CtlTips* tips2_;
+    widgets::Balloon* tips1_;
+    widgets::Balloon* tips2_;
     QTimer timer2_;
     std::minstd_rand random_;
 };

@@ -52,7 +52,7 @@ std::string DescribeDocument(const editing::Editor& editor) {
     for (const document::IconLayer& layer : document.Layers)
         layers.push_back(Layer(layer));
     const Json selection =
-        editor.Filters.SelectionOK() ? Rect(editor.Filters.CropRegion.Bounds()) : Json();
+        editor.Selection.Exists() ? Rect(editor.Selection.Region().Bounds()) : Json();
     const Json json = {{"page",
                         {{"width", document.PageWidth},
                          {"height", document.PageHeight},

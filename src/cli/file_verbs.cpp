@@ -97,7 +97,7 @@ Action ReadCombine(Words& words) {
     if (pictures.size() > formats::kMaxCombinedPictures)
         throw UsageError("more than seven PNG files");
     return [=](Workspace& workspace) {
-        formats::png2ico(pictures, output, workspace.Editor.ExportSettings.IconPictures);
+        formats::CombinePngs(pictures, output, workspace.Editor.ExportSettings.IconPictures);
     };
 }
 

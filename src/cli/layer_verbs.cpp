@@ -50,7 +50,7 @@ Action ReadSelect(Words& words) {
 }
 
 void AddLayer(Workspace& workspace) {
-    if (!workspace.Editor.Controls.ToolBarvs4[layer_buttons::Add].Enabled)
+    if (!workspace.Editor.Controls.LayerBar[layer_buttons::Add].Enabled)
         throw Failure("there is no document");
     editing::AddLayerCommand(workspace.Editor);
 }
@@ -86,29 +86,29 @@ Action ReadAdjustment(Words& words, editing::Slider Controls::*slider) {
 }
 
 Action ReadOpacity(Words& words) {
-    return ReadDrag(words, {&Controls::CtlScroll21, editing::PressOpacity, editing::ChangeOpacity,
+    return ReadDrag(words, {&Controls::Opacity, editing::PressOpacity, editing::ChangeOpacity,
                             editing::ReleaseOpacity});
 }
 
 Action ReadScale(Words& words) {
-    return ReadDrag(words, {&Controls::ScaleScroll, editing::PressScale, editing::ChangeScale,
+    return ReadDrag(words, {&Controls::Scale, editing::PressScale, editing::ChangeScale,
                             editing::ReleaseScale});
 }
 
 Action ReadHue(Words& words) {
-    return ReadAdjustment<editing::Adjustment::Hue>(words, &Controls::HUEscroll);
+    return ReadAdjustment<editing::Adjustment::Hue>(words, &Controls::Hue);
 }
 
 Action ReadSaturation(Words& words) {
-    return ReadAdjustment<editing::Adjustment::Saturation>(words, &Controls::SaturationScroll);
+    return ReadAdjustment<editing::Adjustment::Saturation>(words, &Controls::Saturation);
 }
 
 Action ReadBrightness(Words& words) {
-    return ReadAdjustment<editing::Adjustment::Brightness>(words, &Controls::BrightnessScroll);
+    return ReadAdjustment<editing::Adjustment::Brightness>(words, &Controls::Brightness);
 }
 
 Action ReadContrast(Words& words) {
-    return ReadAdjustment<editing::Adjustment::Contrast>(words, &Controls::ContrastScroll);
+    return ReadAdjustment<editing::Adjustment::Contrast>(words, &Controls::Contrast);
 }
 
 Action ReadStyle(Words& words) {
@@ -124,13 +124,13 @@ Action ReadStyle(Words& words) {
 }
 
 void Undo(Workspace& workspace) {
-    if (!workspace.Editor.Controls.ToolBarvs1[main_buttons::Undo].Enabled)
+    if (!workspace.Editor.Controls.MainBar[main_buttons::Undo].Enabled)
         throw Failure("there is nothing to undo");
     editing::Undo(workspace.Editor);
 }
 
 void Redo(Workspace& workspace) {
-    if (!workspace.Editor.Controls.ToolBarvs1[main_buttons::Redo].Enabled)
+    if (!workspace.Editor.Controls.MainBar[main_buttons::Redo].Enabled)
         throw Failure("there is nothing to redo");
     editing::Redo(workspace.Editor);
 }

@@ -12,7 +12,7 @@ Action ReadPage(Words& words) {
     const int height = words.Integer("H");
     return [=](Workspace& workspace) {
         const editing::Controls& controls = workspace.Editor.Controls;
-        if (!controls.CtlScroll1.Enabled || !controls.CtlScroll2.Enabled)
+        if (!controls.PageWidth.Enabled || !controls.PageHeight.Enabled)
             throw Failure("there is no document");
         editing::ChangePageWidth(workspace.Editor, width);
         editing::ChangePageHeight(workspace.Editor, height);

@@ -4,8 +4,8 @@
 #include "cli/document_json.h"
 #include "cli/verb_table.h"
 #include "editing/view_commands.h"
+#include "graphics/codecs/image_files.h"
 #include "graphics/file_io.h"
-#include "graphics/image_files.h"
 
 namespace orbelle::cli {
 namespace {
@@ -50,9 +50,9 @@ Action ReadRegion(Words& words) {
 
 void PrintSelection(Workspace& workspace) {
     RequireDocument(workspace);
-    const filters::ClsFilters& selection = workspace.Editor.Filters;
-    if (selection.SelectionOK())
-        PrintRuns(workspace.Output, selection.CropRegion.Rects());
+    const document::Selection& selection = workspace.Editor.Selection;
+    if (selection.Exists())
+        PrintRuns(workspace.Output, selection.Region().Rects());
     CheckOutput(workspace);
 }
 
@@ -68,7 +68,7 @@ Action ReadWriteLayer(Words& words) {
 
 void WritePage(Workspace& workspace, const std::filesystem::path& path) {
     RequireDocument(workspace);
-    WritePng(workspace.Editor.Canvas.new_Img, path);
+    WritePng(workspace.Editor.Canvas, path);
 }
 
 void WriteScene(Workspace& workspace, const std::filesystem::path& path) {

@@ -43,7 +43,7 @@ void RunEntry(Workspace& workspace) {
 }
 
 void ToggleVisible(Workspace& workspace) {
-    if (!workspace.Editor.Controls.ToolBarvs4[editing::layer_buttons::Hide].Enabled) {
+    if (!workspace.Editor.Controls.LayerBar[editing::layer_buttons::Hide].Enabled) {
         RequireDocument(workspace);
         throw Failure("no layer is selected");
     }

@@ -90,7 +90,7 @@ Action ReadBrushOpacity(Words& words) {
 Action ReadTool(Words& words) {
     return [&tool = words.Entry("NAME", kTools)](Workspace& workspace) {
         Editor& editor = workspace.Editor;
-        if (!editor.Controls.ToolBarvs2[static_cast<std::size_t>(tool.Button)].Enabled)
+        if (!editor.Controls.ToolBox[static_cast<std::size_t>(tool.Button)].Enabled)
             throw Failure("there is no document");
         editing::ClickToolButton(editor, tool.Button);
         if (tool.Choose)

@@ -76,7 +76,7 @@ std::vector<Compositor::Drawn> Compositor::ListLayers(Document& document) {
             IconLayer& plate = document.Layers[i - 1];
             const int width = graphics::RoundToEven(plate.Rect.Width);
             const int height = graphics::RoundToEven(plate.Rect.Height);
-            plate.Path = filters::UpdateiOSstylePath(width, height, plate.Rect.X, plate.Rect.Y);
+            plate.Path = filters::IosPlatePath(width, height, plate.Rect.X, plate.Rect.Y);
             plates.push_back({plate.Rect.X, plate.Rect.Y, static_cast<float>(width),
                               static_cast<float>(height)});
         }
@@ -106,8 +106,8 @@ void Compositor::Draw(Bitmap& page, const std::vector<Drawn>& layers, std::size_
             context.SetClipRegion(clip, graphics::CombineMode::Replace);
             for (const RectF& plate : *plates)
                 context.SetClipPath(
-                    filters::UpdateiOSstylePath(static_cast<int>(plate.Width),
-                                                static_cast<int>(plate.Height), plate.X, plate.Y),
+                    filters::IosPlatePath(static_cast<int>(plate.Width),
+                                          static_cast<int>(plate.Height), plate.X, plate.Y),
                     graphics::CombineMode::Intersect);
         }
         context.DrawImageRectRectI(layer.Image, layer.Destination, layer.Source,
@@ -162,24 +162,22 @@ void Compositor::Update(Bitmap& page, const std::vector<Drawn>& layers) {
 }
 
 void Compositor::Compose(Document& document, graphics::InterpolationMode interpolation,
-                         graphics::DIBSave& canvas) {
+                         graphics::Bitmap& canvas) {
     document.PageWidth = std::max(document.PageWidth, 1);
     document.PageHeight = std::max(document.PageHeight, 1);
     std::vector<Drawn> layers = ListLayers(document);
 
-    const bool sameSize = canvas.new_Img.Width() == document.PageWidth &&
-                          canvas.new_Img.Height() == document.PageHeight;
+    const bool sameSize =
+        canvas.Width() == document.PageWidth && canvas.Height() == document.PageHeight;
     if (!sameSize || interpolation != interpolation_) {
-        canvas.Destroy();
-        canvas.CreateBlankMemory(document.PageHeight, document.PageWidth,
-                                 graphics::PixelFormat::Argb32);
+        canvas = Bitmap(document.PageWidth, document.PageHeight);
         drawn_.clear();
         below_.clear();
         belowPicture_ = {};
         lastPrefix_ = 0;
     }
     interpolation_ = interpolation;
-    Update(canvas.new_Img, layers);
+    Update(canvas, layers);
     drawn_ = std::move(layers);
 }
 

@@ -4,7 +4,7 @@
 #include <vector>
 
 #include "document/document.h"
-#include "graphics/dib_save.h"
+#include "graphics/bitmap.h"
 #include "graphics/enums.h"
 
 namespace orbelle::document {
@@ -20,7 +20,7 @@ public:
     // is rebuilt in the document), and so are all layers above it. The canvas must not be drawn on
     // by others between two calls.
     void Compose(Document& document, graphics::InterpolationMode interpolation,
-                 graphics::DIBSave& canvas);
+                 graphics::Bitmap& canvas);
 
 private:
     // What one visible layer puts on the page; two equal ones put the same pixels there.

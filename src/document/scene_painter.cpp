@@ -46,8 +46,9 @@ struct PagePlace {
 PagePlace PlaceOnScene(const Bitmap& canvas, const View& view) {
     const int width = static_cast<int>(canvas.Width() * view.Zoom);
     const int height = static_cast<int>(canvas.Height() * view.Zoom);
-    return {static_cast<float>((view.SceneWidth - width) * ScrollRatio(view.Hs1)),
-            static_cast<float>((view.SceneHeight - height) * ScrollRatio(view.Vs1)), width, height};
+    return {static_cast<float>((view.SceneWidth - width) * ScrollRatio(view.HorizontalScroll)),
+            static_cast<float>((view.SceneHeight - height) * ScrollRatio(view.VerticalScroll)),
+            width, height};
 }
 
 void DrawPageBackground(Bitmap& scene, Argb background, const RectF& page, float halfZoom) {
@@ -66,7 +67,7 @@ void DrawPageBackground(Bitmap& scene, Argb background, const RectF& page, float
 }  // namespace
 
 void DrawScene(Bitmap& scene, const Bitmap& canvas, const Document& document, const View& view,
-               filters::ClsFilters& selection) {
+               document::Selection& selection) {
     if (!view.ViewActive)
         return;
     if (scene.Width() != view.SceneWidth || scene.Height() != view.SceneHeight)
@@ -88,7 +89,7 @@ void DrawScene(Bitmap& scene, const Bitmap& canvas, const Document& document, co
     context.SetPixelOffsetMode(PixelOffsetMode::HighQuality);
     context.DrawImageRectRectI(canvas, PageOnScene(canvas, view),
                                {0, 0, canvas.Width(), canvas.Height()});
-    selection.DrawCropRegion(context, {left, top, pageWidth, pageHeight}, {}, view.Zoom);
+    selection.DrawShade(context, {left, top, pageWidth, pageHeight}, {}, view.Zoom);
 }
 
 RectI PageOnScene(const Bitmap& canvas, const View& view) {

@@ -4,8 +4,8 @@
 #include <optional>
 
 #include "document/document.h"
+#include "document/selection.h"
 #include "document/view.h"
-#include "filters/selection_region.h"
 #include "graphics/bitmap.h"
 #include "graphics/geometry.h"
 
@@ -18,7 +18,7 @@ inline constexpr graphics::Argb kSceneColor = graphics::MakeARGB(255, 110, 110, 
 // checkerboard, page shadow, page frame, picture, and the page dimmed outside the selection.
 // Nothing happens while the view is not active.
 void DrawScene(graphics::Bitmap& scene, const graphics::Bitmap& canvas, const Document& document,
-               const View& view, filters::ClsFilters& selection);
+               const View& view, document::Selection& selection);
 
 // Where the composed page lies on the scene, scene pixels; its corner truncated to whole ones.
 graphics::RectI PageOnScene(const graphics::Bitmap& canvas, const View& view);

@@ -15,11 +15,11 @@ double ScrollRatio(const ScrollBar& bar) {
 }
 
 double PageOffsetX(const Document& document, const View& view) {
-    return ScrollRatio(view.Hs1) * (view.SceneWidth - document.PageWidth * view.Zoom);
+    return ScrollRatio(view.HorizontalScroll) * (view.SceneWidth - document.PageWidth * view.Zoom);
 }
 
 double PageOffsetY(const Document& document, const View& view) {
-    return ScrollRatio(view.Vs1) * (view.SceneHeight - document.PageHeight * view.Zoom);
+    return ScrollRatio(view.VerticalScroll) * (view.SceneHeight - document.PageHeight * view.Zoom);
 }
 
 }  // namespace orbelle::document

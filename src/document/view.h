@@ -16,10 +16,10 @@ struct ScrollBar {
 struct View {
     int SceneWidth = 1024;  // scene pixels
     int SceneHeight = 768;
-    double Zoom = 0;          // scene pixels per page pixel
-    ScrollBar Hs1;            // horizontal
-    ScrollBar Vs1;            // vertical
-    bool ViewActive = false;  // set once a document exists; nothing is painted before
+    double Zoom = 0;             // scene pixels per page pixel
+    ScrollBar HorizontalScroll;  // horizontal
+    ScrollBar VerticalScroll;    // vertical
+    bool ViewActive = false;     // set once a document exists; nothing is painted before
 };
 
 // The number as text with one decimal reads: rounded to tenths, halves away from zero.

@@ -26,19 +26,18 @@ struct AdjustmentParts {
 AdjustmentParts PartsOf(Adjustment adjustment) {
     switch (adjustment) {
         case Adjustment::Hue:
-            return {&Controls::HUEscroll, &Controls::HueValue, 0, PixelFilter::Hue,
-                    &IconLayer::Hue};
+            return {&Controls::Hue, &Controls::HueValue, 0, PixelFilter::Hue, &IconLayer::Hue};
         case Adjustment::Saturation:
-            return {&Controls::SaturationScroll, &Controls::SaturationValue, 40,
-                    PixelFilter::Saturation, &IconLayer::Saturation};
+            return {&Controls::Saturation, &Controls::SaturationValue, 40, PixelFilter::Saturation,
+                    &IconLayer::Saturation};
         case Adjustment::Brightness:
-            return {&Controls::BrightnessScroll, &Controls::BrightnessValue, 50,
+            return {&Controls::Brightness, &Controls::BrightnessValue, 50,
                     PixelFilter::BrightnessContrast, &IconLayer::Brightness};
         case Adjustment::Contrast:
             break;
     }
-    return {&Controls::ContrastScroll, &Controls::ContrastValue, 50,
-            PixelFilter::BrightnessContrast, &IconLayer::Contrast};
+    return {&Controls::Contrast, &Controls::ContrastValue, 50, PixelFilter::BrightnessContrast,
+            &IconLayer::Contrast};
 }
 
 void EndDrag(Editor& editor) {
@@ -57,9 +56,8 @@ void PressOpacity(Editor& editor) {
 void ChangeOpacity(Editor& editor, int value) {
     if (!editor.Document.HasSelection())
         return;
-    editor.Controls.CtlScroll21.Value = std::clamp(value, 0, 100);
-    editor.Document.Selected().Opacity =
-        static_cast<float>(editor.Controls.CtlScroll21.Value / 100.0);
+    editor.Controls.Opacity.Value = std::clamp(value, 0, 100);
+    editor.Document.Selected().Opacity = static_cast<float>(editor.Controls.Opacity.Value / 100.0);
     Compose(editor);
 }
 

@@ -2,7 +2,7 @@
 
 #include "editing/view_commands.h"
 #include "filters/blur_sharpen.h"
-#include "filters/colour_adjustments.h"
+#include "filters/color_adjustments.h"
 #include "filters/erasers.h"
 
 namespace orbelle::editing {
@@ -40,12 +40,12 @@ double BrightnessOf(int slider) {
 void Run(Bitmap& work, PixelFilter filter, const Controls& controls, int x, int y) {
     switch (filter) {
         case PixelFilter::Hue:
-            return filters::HUEColor(work, HueOf(controls.HUEscroll.Value));
+            return filters::HueColor(work, HueOf(controls.Hue.Value));
         case PixelFilter::BrightnessContrast:
-            return filters::BrightnessColor(work, ContrastOf(controls.ContrastScroll.Value),
-                                            BrightnessOf(controls.BrightnessScroll.Value));
+            return filters::BrightnessColor(work, ContrastOf(controls.Contrast.Value),
+                                            BrightnessOf(controls.Brightness.Value));
         case PixelFilter::Saturation:
-            return filters::SaturationColor(work, SaturationOf(controls.SaturationScroll.Value));
+            return filters::SaturationColor(work, SaturationOf(controls.Saturation.Value));
         case PixelFilter::PencilEraser:
             return filters::EraseColor(work, x, y, 0);
         case PixelFilter::Smooth:
@@ -53,8 +53,8 @@ void Run(Bitmap& work, PixelFilter filter, const Controls& controls, int x, int 
         case PixelFilter::Sharpen:
             return filters::Sharpen(work, filters::kSharpenLevel);
         case PixelFilter::BrushEraser:
-            return filters::EraseTool(work, x, y, controls.CtlScroll23.Value,
-                                      controls.CtlScroll22.Value / 2);
+            return filters::EraseTool(work, x, y, controls.BrushSize.Value,
+                                      controls.BrushOpacity.Value / 2);
     }
 }
 

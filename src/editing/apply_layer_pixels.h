@@ -6,13 +6,13 @@
 namespace orbelle::editing {
 
 enum class PixelFilter {
-    Hue = 0,                 // by HUEscroll
-    BrightnessContrast = 1,  // by BrightnessScroll and ContrastScroll, both at once
-    Saturation = 2,          // by SaturationScroll
+    Hue = 0,                 // by Hue
+    BrightnessContrast = 1,  // by Brightness and Contrast, both at once
+    Saturation = 2,          // by Saturation
     PencilEraser = 3,        // at (x, y)
     Smooth = 4,              // no command asks for it
     Sharpen = 5,
-    BrushEraser = 6,  // at (x, y), by CtlScroll23 (size) and CtlScroll22 (opacity)
+    BrushEraser = 6,  // at (x, y), by BrushSize (size) and BrushOpacity (opacity)
 };
 
 // Filters a copy of `source`, cut to the layer's ImageWidth x ImageHeight, and makes it the

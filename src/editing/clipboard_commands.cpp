@@ -23,9 +23,9 @@ namespace {
 enum class Crop { Copy, Cut, CopyAndCut };
 
 // `image` is the layer's own, or a copy that is to be cut.
-filters::CroppedPicture CropLayer(const Editor& editor, const IconLayer& layer, Bitmap& image,
-                                  Crop crop) {
-    return editor.Filters.CropImage(image, layer.ImageWidth, layer.ImageHeight,
+document::TakenOut CropLayer(const Editor& editor, const IconLayer& layer, Bitmap& image,
+                             Crop crop) {
+    return editor.Selection.TakeOut(image, layer.ImageWidth, layer.ImageHeight,
                                     editor.Document.PageWidth, editor.Document.PageHeight,
                                     {layer.Rect.X, layer.Rect.Y}, crop != Crop::Copy,
                                     crop != Crop::Cut);
@@ -41,7 +41,7 @@ void PlaceAt(IconLayer& layer, const RectI& area) {
 IconLayer CopyOfSelectedPixels(const Editor& editor) {
     const IconLayer& source = editor.Document.Selected();
     Bitmap image = source.Image;
-    const filters::CroppedPicture cropped = CropLayer(editor, source, image, Crop::Copy);
+    const document::TakenOut cropped = CropLayer(editor, source, image, Crop::Copy);
     IconLayer copy;
     copy.Image = cropped.Image;
     PlaceAt(copy, cropped.Area);
@@ -64,7 +64,7 @@ Bitmap PictureOf(const document::Document& document, const IconLayer& layer) {
 }
 
 void Copy(Editor& editor) {
-    const bool isSelection = editor.Filters.SelectionOK();
+    const bool isSelection = editor.Selection.Exists();
     IconLayer copy = isSelection ? CopyOfSelectedPixels(editor) : editor.Document.Selected();
     const Bitmap picture = isSelection ? copy.Image : PictureOf(editor.Document, copy);
     editor.Host.SetClipboard(CopyBitmap(picture, graphics::RoundToEven(copy.Rect.Width),
@@ -131,7 +131,7 @@ void CutToClipboard(Editor& editor) {
     RunCommand(editor, [&] {
         editor.History.CheckRoom(editor.Document);
         Copy(editor);
-        if (editor.Filters.SelectionOK())
+        if (editor.Selection.Exists())
             DeleteSelection(editor);
         else
             DeleteIcon(editor, true);
@@ -147,7 +147,7 @@ void PasteFromClipboard(Editor& editor) {
             return;
         BeginUndoStep(editor);
         OpenLayerSlot(editor.Document, document::SlotCopySize::Image) = std::move(*content);
-        editor.Filters.ClearCrop();
+        editor.Selection.Clear();
         ShowSelectedLayer(editor);
         Compose(editor);
         editor.Host.LayerPanelChanged();
@@ -155,9 +155,9 @@ void PasteFromClipboard(Editor& editor) {
 }
 
 void EndSelection(Editor& editor) {
-    if (!editor.Filters.SelectionOK())
+    if (!editor.Selection.Exists())
         return;
-    editor.Filters.ClearCrop();
+    editor.Selection.Clear();
     DrawScene(editor);
 }
 
@@ -171,7 +171,7 @@ void DeleteSelection(Editor& editor) {
     layer.Image = rest;
     layer.Rect.Width = static_cast<float>(layer.ImageWidth);
     layer.Rect.Height = static_cast<float>(layer.ImageHeight);
-    editor.Filters.ClearCrop();
+    editor.Selection.Clear();
     Compose(editor);
     editor.Host.LayerPanelChanged();
 }
@@ -183,7 +183,7 @@ void FloatSelection(Editor& editor) {
     const IconLayer& source =
         document.HasSelection() ? document.Selected() : document.Layers.back();
     Bitmap rest = source.Image;
-    const filters::CroppedPicture floated = CropLayer(editor, source, rest, Crop::CopyAndCut);
+    const document::TakenOut floated = CropLayer(editor, source, rest, Crop::CopyAndCut);
 
     BeginUndoStep(editor);
     AddEmptyLayer(editor, 0, 0);
@@ -195,7 +195,7 @@ void FloatSelection(Editor& editor) {
         layer.Image = floated.Image;
     PlaceAt(layer, floated.Area);
     layer.Opacity = below.Opacity;
-    editor.Filters.ClearCrop();
+    editor.Selection.Clear();
     ShowSelectedLayer(editor);
     Compose(editor);
     editor.Host.LayerPanelChanged();

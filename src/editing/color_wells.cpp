@@ -68,7 +68,7 @@ void PickColor(Editor& editor, float x, float y) {
     graphics::DrawingContext context(pixel);
     context.SetInterpolationMode(graphics::InterpolationMode::NearestNeighbor);
     context.SetPixelOffsetMode(graphics::PixelOffsetMode::HighQuality);
-    const graphics::Bitmap& canvas = editor.Canvas.new_Img;
+    const graphics::Bitmap& canvas = editor.Canvas;
     graphics::RectI page = document::PageOnScene(canvas, editor.View);
     page.X -= column;
     page.Y -= row;

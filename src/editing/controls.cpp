@@ -5,15 +5,15 @@ namespace orbelle::editing {
 Controls::Controls() {
     for (const int button : {main_buttons::Save, main_buttons::Undo, main_buttons::Redo,
                              main_buttons::ZoomIn, main_buttons::ZoomOut})
-        ToolBarvs1[static_cast<std::size_t>(button)].Enabled = false;
-    for (Button& button : ToolBarvs4)
+        MainBar[static_cast<std::size_t>(button)].Enabled = false;
+    for (Button& button : LayerBar)
         button.Enabled = false;
-    for (Button& button : ToolBarvs2)
+    for (Button& button : ToolBox)
         button.Enabled = false;
-    ToolBarvs2[tool_buttons::Move] = {true, true};
-    ToolBarvs3[1].Pressed = true;
-    ToolBarvs5[selection_buttons::Rectangle].Pressed = true;
-    ToolBarvs6[eraser_buttons::Pencil].Pressed = true;
+    ToolBox[tool_buttons::Move] = {true, true};
+    FillBar[1].Pressed = true;
+    SelectionBar[selection_buttons::Rectangle].Pressed = true;
+    EraserBar[eraser_buttons::Pencil].Pressed = true;
 }
 
 }  // namespace orbelle::editing

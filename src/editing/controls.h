@@ -22,7 +22,7 @@ struct MenuEntry {
 };
 
 // Button numbers of the toolbars; index 0 of the arrays below is unused.
-namespace main_buttons {  // ToolBarvs1
+namespace main_buttons {  // MainBar
 enum {
     New = 1,
     Open,
@@ -36,7 +36,7 @@ enum {
     Website = 13
 };
 }
-namespace tool_buttons {  // ToolBarvs2; the picture and text of 6 to 9 are crossed
+namespace tool_buttons {  // ToolBox; the picture and text of 6 to 9 are crossed
 enum {
     Move = 1,
     Selection,
@@ -50,29 +50,29 @@ enum {
     Eraser
 };
 }
-namespace selection_buttons {  // ToolBarvs5
+namespace selection_buttons {  // SelectionBar
 enum { Rectangle = 1, Ellipse, Polygon };
 }
-namespace eraser_buttons {  // ToolBarvs6
+namespace eraser_buttons {  // EraserBar
 enum { Brush = 1, Pencil };
 }
-namespace layer_buttons {  // ToolBarvs4
+namespace layer_buttons {  // LayerBar
 enum { Add = 1, Remove, Hide, SetOrder = 5, MergeDown };
 }
 
 struct Controls {
-    Slider CtlScroll1{1, false};    // page width, 1 to 512
-    Slider CtlScroll2{1, false};    // page height, 1 to 512
-    Slider CtlScroll21{10, false};  // opacity, 0 to 100
-    Slider HUEscroll{0, false};
-    Slider BrightnessScroll{50, false};
-    Slider SaturationScroll{40, false};
-    Slider ContrastScroll{50, false};
-    Slider ScaleScroll{50, false};  // 0 to 100
-    Slider CtlScroll22{1, true};    // brush opacity, 1 to 100
-    Slider CtlScroll23{1, true};    // brush size, 1 to 100
-    Slider LineWidth{1, true};      // 1 to 255 pixels
-    Slider ColorOpacity{0, true};   // of the active colour, 0 to 100
+    Slider PageWidth{1, false};   // page width, 1 to 512
+    Slider PageHeight{1, false};  // page height, 1 to 512
+    Slider Opacity{10, false};    // opacity, 0 to 100
+    Slider Hue{0, false};
+    Slider Brightness{50, false};
+    Slider Saturation{40, false};
+    Slider Contrast{50, false};
+    Slider Scale{50, false};       // 0 to 100
+    Slider BrushOpacity{1, true};  // brush opacity, 1 to 100
+    Slider BrushSize{1, true};     // brush size, 1 to 100
+    Slider LineWidth{1, true};     // 1 to 255 pixels
+    Slider ColorOpacity{0, true};  // of the active colour, 0 to 100
 
     // Labels beside the sliders.
     std::string HueValue = "0";
@@ -80,19 +80,19 @@ struct Controls {
     std::string SaturationValue = "0";
     std::string ContrastValue = "0";
     std::string ScaleValue = "0";
-    std::string BrushOpacity = "1%";
-    std::string BrushSize = "1";
+    std::string BrushOpacityText = "1%";
+    std::string BrushSizeText = "1";
     std::string FilterCaption = "No filters are used, click Style menu to choose a filter.";
 
-    std::array<Button, 14> ToolBarvs1;  // main
-    std::array<Button, 13> ToolBarvs2;  // tools
-    std::array<Button, 5> ToolBarvs3;   // fill kinds, a pop-up: button FillKind + 1 is pressed
-    std::array<Button, 7> ToolBarvs4;   // layers
-    std::array<Button, 4> ToolBarvs5;   // selection kinds, a pop-up
-    std::array<Button, 3> ToolBarvs6;   // erasers, a pop-up
-    bool ToolBarvs3Visible = false;
-    bool ToolBarvs5Visible = false;
-    bool ToolBarvs6Visible = false;
+    std::array<Button, 14> MainBar;      // main
+    std::array<Button, 13> ToolBox;      // tools
+    std::array<Button, 5> FillBar;       // fill kinds, a pop-up: button FillKind + 1 is pressed
+    std::array<Button, 7> LayerBar;      // layers
+    std::array<Button, 4> SelectionBar;  // selection kinds, a pop-up
+    std::array<Button, 3> EraserBar;     // erasers, a pop-up
+    bool FillBarVisible = false;
+    bool SelectionBarVisible = false;
+    bool EraserBarVisible = false;
     bool BrushPanelOpen = false;
 
     MenuEntry m_Import{false};

@@ -13,8 +13,8 @@
 #include "editing/view_commands.h"
 #include "formats/icon_reader.h"
 #include "formats/volf_store.h"
+#include "graphics/codecs/image_files.h"
 #include "graphics/errors.h"
-#include "graphics/image_files.h"
 
 namespace orbelle::editing {
 
@@ -51,8 +51,8 @@ std::string FileExtension(const fs::path& path) {
 void ResetView(Editor& editor) {
     editor.View.ViewActive = true;
     editor.View.Zoom = 0;
-    editor.View.Hs1 = {};
-    editor.View.Vs1 = {};
+    editor.View.HorizontalScroll = {};
+    editor.View.VerticalScroll = {};
     editor.SavedZoom = {};
     editor.MaxZoom = 20;
 }
@@ -62,13 +62,13 @@ void ClearStack(Editor& editor) {
     editor.Document.SelectedLayer = document::kNoLayer;
     editor.History.ClearHistory();
     Controls& controls = editor.Controls;
-    controls.ToolBarvs1[main_buttons::Undo].Enabled = false;
-    controls.ToolBarvs1[main_buttons::Redo].Enabled = false;
+    controls.MainBar[main_buttons::Undo].Enabled = false;
+    controls.MainBar[main_buttons::Redo].Enabled = false;
     controls.m_Undo.Enabled = false;
     controls.m_Redo.Enabled = false;
     controls.m_Blur.Enabled = false;
     controls.m_Sharpen.Enabled = false;
-    editor.Filters.ClearCrop();
+    editor.Selection.Clear();
     DropPolygon(editor);
     editor.Overlays = {};
 }
@@ -76,8 +76,8 @@ void ClearStack(Editor& editor) {
 void ShowPageSize(Editor& editor) {
     Controls& controls = editor.Controls;
     controls.PageSliderLock = true;
-    controls.CtlScroll1 = {editor.Document.PageWidth, true};
-    controls.CtlScroll2 = {editor.Document.PageHeight, true};
+    controls.PageWidth = {editor.Document.PageWidth, true};
+    controls.PageHeight = {editor.Document.PageHeight, true};
     controls.PageSliderLock = false;
 }
 
@@ -86,10 +86,10 @@ void EnableDocumentCommands(Editor& editor) {
     controls.m_Import.Enabled = true;
     controls.m_Save.Enabled = true;
     controls.m_Export.Enabled = true;
-    controls.ToolBarvs1[main_buttons::ZoomIn].Enabled = true;
-    controls.ToolBarvs1[main_buttons::ZoomOut].Enabled = true;
-    controls.ToolBarvs4[layer_buttons::Add].Enabled = true;
-    for (Button& button : controls.ToolBarvs2)
+    controls.MainBar[main_buttons::ZoomIn].Enabled = true;
+    controls.MainBar[main_buttons::ZoomOut].Enabled = true;
+    controls.LayerBar[layer_buttons::Add].Enabled = true;
+    for (Button& button : controls.ToolBox)
         button.Enabled = true;
 }
 
@@ -102,12 +102,12 @@ void ShowIncomingLayer(Editor& editor) {
     Controls& controls = editor.Controls;
     controls.m_Blur.Enabled = true;
     controls.m_Sharpen.Enabled = true;
-    controls.ToolBarvs1[main_buttons::Save].Enabled = true;
-    controls.ToolBarvs4[layer_buttons::Remove].Enabled = true;
-    controls.ToolBarvs4[layer_buttons::Hide] = {true, true};
+    controls.MainBar[main_buttons::Save].Enabled = true;
+    controls.LayerBar[layer_buttons::Remove].Enabled = true;
+    controls.LayerBar[layer_buttons::Hide] = {true, true};
     const bool hasBelow = editor.Document.SelectedLayer >= 1;
-    controls.ToolBarvs4[layer_buttons::SetOrder].Enabled = hasBelow;
-    controls.ToolBarvs4[layer_buttons::MergeDown].Enabled = hasBelow;
+    controls.LayerBar[layer_buttons::SetOrder].Enabled = hasBelow;
+    controls.LayerBar[layer_buttons::MergeDown].Enabled = hasBelow;
 }
 
 void ShowScrollBar(document::ScrollBar& bar, int page, int scene) {
@@ -140,8 +140,8 @@ void OpenDocument(Editor& editor) {
             document.SelectedLayer = document.LayerCount() - 1;
             ShowPageSize(editor);
             ShowIncomingLayer(editor);
-            ShowScrollBar(editor.View.Hs1, document.PageWidth, editor.View.SceneWidth);
-            ShowScrollBar(editor.View.Vs1, document.PageHeight, editor.View.SceneHeight);
+            ShowScrollBar(editor.View.HorizontalScroll, document.PageWidth, editor.View.SceneWidth);
+            ShowScrollBar(editor.View.VerticalScroll, document.PageHeight, editor.View.SceneHeight);
         }
         editor.Host.LayerPanelChanged();
         if (editor.DocumentExists) {
@@ -213,7 +213,7 @@ void ImportPicture(Editor& editor, const fs::path& path, PictureBecomes becomes)
             document::OpenLayerSlot(document, document::SlotCopySize::Image);
         document::MakeImageLayer(document, layer, image);
         ShowIncomingLayer(editor);
-        editor.Filters.ClearCrop();
+        editor.Selection.Clear();
         Compose(editor);
         editor.Host.LayerPanelChanged();
         if (!incoming->Failure.empty())
@@ -274,13 +274,13 @@ void ResetDocument(Editor& editor, int pageWidth, int pageHeight, bool addFirstL
     document.PageWidth = pageWidth;
     document.PageHeight = pageHeight;
     ShowPageSize(editor);
-    controls.CtlScroll21.Value = 0;
-    controls.ScaleScroll.Value = 50;
+    controls.Opacity.Value = 0;
+    controls.Scale.Value = 50;
     SetAdjustSliders(editor, 0, 50, 40, 50);
     EnableLayerSliders(editor);
     EnableDocumentCommands(editor);
-    controls.ToolBarvs1[main_buttons::Import].Enabled = true;
-    controls.ToolBarvs1[main_buttons::Save].Enabled = false;
+    controls.MainBar[main_buttons::Import].Enabled = true;
+    controls.MainBar[main_buttons::Save].Enabled = false;
     if (addFirstLayer)
         InsertEmptyLayer(editor, static_cast<float>(pageWidth), static_cast<float>(pageHeight));
     document.Modified = false;

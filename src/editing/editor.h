@@ -8,16 +8,15 @@
 
 #include "document/compositor.h"
 #include "document/document.h"
+#include "document/selection.h"
 #include "document/undo_history.h"
 #include "document/view.h"
 #include "editing/controls.h"
 #include "editing/editor_host.h"
 #include "editing/overlays.h"
 #include "editing/tool.h"
-#include "filters/selection_region.h"
 #include "formats/export_image.h"
 #include "graphics/bitmap.h"
-#include "graphics/dib_save.h"
 
 namespace orbelle::editing {
 
@@ -26,8 +25,8 @@ inline constexpr char kProductName[] = "Varnel Orbelle";
 // The view that Original Size goes back to.
 struct SavedView {
     double Zoom = 1;
-    document::ScrollBar Hs1;
-    document::ScrollBar Vs1;
+    document::ScrollBar HorizontalScroll;
+    document::ScrollBar VerticalScroll;
 };
 
 struct Editor {
@@ -41,8 +40,8 @@ struct Editor {
     formats::ExportSettings ExportSettings;
     std::string Title = kProductName;
 
-    graphics::DIBSave Canvas;  // the composed page, without its background
-    graphics::Bitmap Scene;    // what the window shows, of the view's size
+    graphics::Bitmap Canvas;  // the composed page, without its background
+    graphics::Bitmap Scene;   // what the window shows, of the view's size
     document::Compositor Compositor;
 
     document::View View;
@@ -52,13 +51,13 @@ struct Editor {
     double ZoomStep = -0.2;  // what the zoom animation subtracts a tick
     double ZoomTarget = 1;   // where it stops
 
-    filters::ClsFilters Filters;  // holds the selection
+    document::Selection Selection;
 
     Tool CurrentTool = Tool::Move;
     editing::FillKind FillKind = editing::FillKind::Solid;
     std::array<graphics::Argb, 2> Colors{};  // foreground, background
     int ActiveColor = 0;                     // the one in use
-    int LastToolButton = 1;                  // of ToolBarvs2
+    int LastToolButton = 1;                  // of ToolBox
 
     // The pointer on the scene, scene pixels.
     bool DragActive = false;  // a left press has begun what the next release ends

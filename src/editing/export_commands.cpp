@@ -19,15 +19,14 @@ void Export(Editor& editor, const formats::ExportFormat& format) {
     formats::ExportSettings settings = editor.ExportSettings;
     if (format.FileType == formats::FileTypes::Gif && graphics::AlphaOf(background) == 0) {
         const std::optional<int> threshold =
-            editor.Host.AskGifThreshold(formats::DrawGifSurface(editor.Canvas.new_Img, background));
+            editor.Host.AskGifThreshold(formats::DrawGifSurface(editor.Canvas, background));
         if (!threshold)
             return;
         settings.GifThreshold = *threshold;
     }
     RunCommand(editor, [&] {
         try {
-            formats::ExportImage(path, format.FileType, editor.Canvas.new_Img, background,
-                                 settings);
+            formats::ExportImage(path, format.FileType, editor.Canvas, background, settings);
         } catch (const std::exception& failure) {
             editor.Host.ShowStatus(failure.what());
         }

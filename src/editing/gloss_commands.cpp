@@ -5,7 +5,7 @@
 #include "editing/style_frames.h"
 #include "editing/tips.h"
 #include "filters/antialias_edge.h"
-#include "filters/colour_adjustments.h"
+#include "filters/color_adjustments.h"
 #include "filters/create_region.h"
 #include "filters/edge_relief.h"
 #include "filters/radial_light.h"
@@ -40,7 +40,7 @@ void Vista(Editor& editor) {
     RunCommand(editor, [&] {
         const OverlayLayers layers = OpenOverlay(editor, OverlayUndo::OneStep);
         PutGlossOver(layers);
-        filters::i3Dstyle(layers.Source.Image, filters::kStrongLight);
+        filters::ThreeDStyle(layers.Source.Image, filters::kStrongLight);
         filters::SaturationColor(layers.Source.Image, kSaturation);
         ShowStyle(editor);
         editor.Host.ShowTips(tips::Vista);
@@ -89,13 +89,13 @@ void iOS(Editor& editor) {
         plate.ImageWidth = width;
         plate.ImageHeight = height;
         plate.Opacity = 1;
-        filters::Plate drawn = filters::iOSStyle(editor.Colors[0], width, height, 0, 0);
+        filters::Plate drawn = filters::IosStyle(editor.Colors[0], width, height, 0, 0);
         plate.Image = drawn.Image;
         plate.Path = drawn.Path;
         plate.ClipNextLayer = true;
         filters::AntialiasEdge(plate.Image);
         filters::CreateRegion(plate.Image, plate.Region, filters::kVisibleAlpha);
-        editor.Filters.ClearCrop();
+        editor.Selection.Clear();
         UpdateLayerButtons(editor);
         ShowStyle(editor);
         editor.Host.ShowTips(tips::iOS);

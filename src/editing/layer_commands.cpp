@@ -46,10 +46,10 @@ void SelectLayer(Editor& editor, int index) {
 
 void SetAdjustSliders(Editor& editor, int hue, int brightness, int saturation, int contrast) {
     Controls& controls = editor.Controls;
-    controls.HUEscroll.Value = hue;
-    controls.BrightnessScroll.Value = brightness;
-    controls.SaturationScroll.Value = saturation;
-    controls.ContrastScroll.Value = contrast;
+    controls.Hue.Value = hue;
+    controls.Brightness.Value = brightness;
+    controls.Saturation.Value = saturation;
+    controls.Contrast.Value = contrast;
     controls.HueValue = std::to_string(hue);
     controls.BrightnessValue = "0";
     controls.SaturationValue = "0";
@@ -63,9 +63,9 @@ void ShowLayerAdjust(Editor& editor, int index) {
 
 void ShowLayerSliders(Editor& editor) {
     const document::IconLayer& layer = editor.Document.Selected();
-    editor.Controls.CtlScroll21.Value = graphics::RoundToEven(layer.Opacity * 100.0);
+    editor.Controls.Opacity.Value = graphics::RoundToEven(layer.Opacity * 100.0);
     // A file may hold any scale.
-    editor.Controls.ScaleScroll.Value = std::clamp(layer.ScaleValue, -50, 50) + 50;
+    editor.Controls.Scale.Value = std::clamp(layer.ScaleValue, -50, 50) + 50;
     editor.Controls.ScaleValue = std::to_string(layer.ScaleValue);
 }
 
@@ -80,15 +80,14 @@ void ShowSelectedLayer(Editor& editor) {
 
 void EnableLayerSliders(Editor& editor) {
     Controls& controls = editor.Controls;
-    for (Slider* slider :
-         {&controls.CtlScroll21, &controls.HUEscroll, &controls.SaturationScroll,
-          &controls.BrightnessScroll, &controls.ContrastScroll, &controls.ScaleScroll})
+    for (Slider* slider : {&controls.Opacity, &controls.Hue, &controls.Saturation,
+                           &controls.Brightness, &controls.Contrast, &controls.Scale})
         slider->Enabled = editor.Document.HasSelection();
 }
 
 void UpdateLayerButtons(Editor& editor) {
     const document::Document& document = editor.Document;
-    auto& buttons = editor.Controls.ToolBarvs4;
+    auto& buttons = editor.Controls.LayerBar;
     const bool selected = document.HasSelection();
     const bool visible = selected && document.Selected().Visible;
     buttons[layer_buttons::Remove].Enabled = selected;

@@ -12,7 +12,7 @@ void AddEmptyLayer(Editor& editor, float width, float height);
 // The same without the undo step: the first layer of a new document.
 void InsertEmptyLayer(Editor& editor, float width, float height);
 
-// Button 1 of ToolBarvs4: an empty layer of the page's size.
+// Button 1 of LayerBar: an empty layer of the page's size.
 void AddLayerCommand(Editor& editor);
 
 // A click on the row of layer `index` in the layer list (0 is the bottom).
@@ -31,7 +31,7 @@ void ShowLayerSliders(Editor& editor);
 // The six sliders are enabled exactly when a layer is selected.
 void EnableLayerSliders(Editor& editor);
 
-// The states of ToolBarvs4's buttons for the selected layer.
+// The states of LayerBar's buttons for the selected layer.
 void UpdateLayerButtons(Editor& editor);
 
 // All of these. With no layer selected the sliders keep their places, disabled.

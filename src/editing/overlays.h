@@ -19,9 +19,9 @@ struct OverlayLine {
 };
 
 struct Overlays {
-    OverlayShape Shape2;         // the page pixel under the pointer, or the brush
-    OverlayLine Line2;           // from the last point of an open polygon to the pointer
-    OverlayShape SelectedShape;  // the frame of a selection being dragged
+    OverlayShape PointerMark;     // the page pixel under the pointer, or the brush
+    OverlayLine RubberBand;       // from the last point of an open polygon to the pointer
+    OverlayShape SelectionFrame;  // the frame of a selection being dragged
 };
 
 }  // namespace orbelle::editing

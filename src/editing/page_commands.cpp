@@ -20,11 +20,11 @@ void ChangePageSide(Editor& editor, Slider& slider, int& side, int value) {
 }  // namespace
 
 void ChangePageWidth(Editor& editor, int value) {
-    ChangePageSide(editor, editor.Controls.CtlScroll1, editor.Document.PageWidth, value);
+    ChangePageSide(editor, editor.Controls.PageWidth, editor.Document.PageWidth, value);
 }
 
 void ChangePageHeight(Editor& editor, int value) {
-    ChangePageSide(editor, editor.Controls.CtlScroll2, editor.Document.PageHeight, value);
+    ChangePageSide(editor, editor.Controls.PageHeight, editor.Document.PageHeight, value);
 }
 
 void SetPageBackground(Editor& editor, graphics::Argb color) {

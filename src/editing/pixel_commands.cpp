@@ -6,7 +6,7 @@
 #include "editing/undo_commands.h"
 #include "editing/view_commands.h"
 #include "filters/blur_sharpen.h"
-#include "filters/colour_adjustments.h"
+#include "filters/color_adjustments.h"
 #include "filters/radial_light.h"
 #include "filters/state_looks.h"
 
@@ -50,14 +50,14 @@ void Mac(Editor& editor) {
     ChangeSelected(editor, [&](Bitmap& image) {
         filters::SaturationColor(image, -25);
         filters::Soften(image, filters::kBlurLevel);
-        filters::i3Dstyle(image, filters::kGentleLight);
+        filters::ThreeDStyle(image, filters::kGentleLight);
         editor.Host.ShowTips(tips::Adjusted);
     });
 }
 
 void Irradiation(Editor& editor) {
     ChangeSelected(editor, [&](Bitmap& image) {
-        filters::i3Dstyle(image, filters::kStrongLight);
+        filters::ThreeDStyle(image, filters::kStrongLight);
         editor.Host.ShowTips(tips::Adjusted);
     });
 }

@@ -60,8 +60,8 @@ void PressScale(Editor& editor) {
 void ChangeScale(Editor& editor, int value) {
     if (!editor.Document.HasSelection())
         return;
-    editor.Controls.ScaleScroll.Value = std::clamp(value, 0, 100);
-    const int step = editor.Controls.ScaleScroll.Value - kRest;
+    editor.Controls.Scale.Value = std::clamp(value, 0, 100);
+    const int step = editor.Controls.Scale.Value - kRest;
     editor.Controls.ScaleValue = std::to_string(step);
     ScaleRect(editor.Document.Selected().Rect, editor.ScaleStartRect, step);
     Compose(editor);
@@ -77,7 +77,7 @@ void ReleaseScale(Editor& editor) {
         layer.ImageHeight = graphics::RoundToEven(layer.Rect.Height);
         layer.ScaleValue = 0;
         layer.BaseRect = layer.Rect;
-        editor.Controls.ScaleScroll.Value = kRest;
+        editor.Controls.Scale.Value = kRest;
         editor.Controls.ScaleValue = "0";
         filters::CreateRegion(layer.Image, layer.Region, filters::kVisibleAlpha);
         layer.Region.Translate(layer.Rect.X, layer.Rect.Y);

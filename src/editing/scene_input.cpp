@@ -51,9 +51,9 @@ void ShowMarker(Editor& editor, const Pointer& pointer) {
     const SceneMapping mapping = MappingOf(editor);
     const graphics::PointF page = ScreenToPage(mapping, pointer.X, pointer.Y);
     const bool isBrush = editor.CurrentTool == Tool::BrushEraser;
-    const double size = isBrush ? editor.Controls.CtlScroll23.Value * mapping.Zoom : mapping.Zoom;
+    const double size = isBrush ? editor.Controls.BrushSize.Value * mapping.Zoom : mapping.Zoom;
     const double reach = isBrush ? graphics::RoundToEven(size) / 2 : 0;
-    editor.Overlays.Shape2 = {
+    editor.Overlays.PointerMark = {
         true,
         isBrush,
         {static_cast<float>(mapping.PageOffsetX + page.X * mapping.Zoom - reach),
@@ -76,7 +76,7 @@ void PressScene(Editor& editor, const Pointer& pointer) {
     HandleInput(editor, [&] {
         editor.MouseDownX = pointer.X;
         editor.MouseDownY = pointer.Y;
-        editor.Controls.ToolBarvs3Visible = false;
+        editor.Controls.FillBarVisible = false;
         if (pointer.Button == kLeftButton)
             PressLeft(editor, pointer);
         else

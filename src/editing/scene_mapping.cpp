@@ -54,9 +54,9 @@ PointF ScreenToLayer(const SceneMapping& mapping, const graphics::RectF& layer, 
 PointF ClampToScene(const Editor& editor, float x, float y) {
     const document::View& view = editor.View;
     return {ClampAxis(x, view.SceneWidth, editor.Document.PageWidth,
-                      document::ScrollRatio(view.Hs1), view.Zoom),
+                      document::ScrollRatio(view.HorizontalScroll), view.Zoom),
             ClampAxis(y, view.SceneHeight, editor.Document.PageHeight,
-                      document::ScrollRatio(view.Vs1), view.Zoom)};
+                      document::ScrollRatio(view.VerticalScroll), view.Zoom)};
 }
 
 double Distance(PointF a, PointF b) {

@@ -162,7 +162,7 @@ void DeleteIcon(Editor& editor, bool redraw) {
     ShowSelectedLayer(editor);
     // The button deliberately keeps the last layer; the menu removes it.
     if (document.LayerCount() == 1)
-        editor.Controls.ToolBarvs4[layer_buttons::Remove].Enabled = false;
+        editor.Controls.LayerBar[layer_buttons::Remove].Enabled = false;
     if (redraw) {
         Compose(editor);
         editor.Host.LayerPanelChanged();
@@ -175,7 +175,7 @@ void CombineIcon(Editor& editor) {
 
 void DeleteCommand(Editor& editor) {
     RunCommand(editor, [&] {
-        if (editor.Filters.SelectionOK())
+        if (editor.Selection.Exists())
             DeleteSelection(editor);
         else
             DeleteIcon(editor, true);

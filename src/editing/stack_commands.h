@@ -29,7 +29,7 @@ void CombineIcon(Editor& editor);
 // The Edit menu's Delete: the selection if there is one, else the selected layer.
 void DeleteCommand(Editor& editor);
 
-// Buttons 2, 3 and 6 of ToolBarvs4; each first ends the selection. Hide Layer is no undo step.
+// Buttons 2, 3 and 6 of LayerBar; each first ends the selection. Hide Layer is no undo step.
 void RemoveLayerCommand(Editor& editor);
 void HideLayerCommand(Editor& editor);
 void MergeDownCommand(Editor& editor);

@@ -50,7 +50,7 @@ UnderlayLayers OpenUnderlay(Editor& editor) {
 }
 
 void ShowStyle(Editor& editor) {
-    editor.Controls.CtlScroll21.Value =
+    editor.Controls.Opacity.Value =
         graphics::RoundToEven(editor.Document.Selected().Opacity * 100.0);
     Compose(editor);
     editor.Host.LayerPanelChanged();

@@ -38,16 +38,17 @@ constexpr FixedTip kFixedTips[] = {
 
 TipChoice MoveTips(const Editor& editor, bool showLayerTips, int pick) {
     TipChoice choice;
-    choice.CtlTips1 = Tip{
+    choice.FirstBalloon = Tip{
         pick == 1 ? "Click right-click to rotate, flip or adjust the order the selected icon."
                   : "Using the mouse Drag & Drop or direction key to move the selected icon. Click "
                     "\"Style\" menu to ornament your icon.",
         TipPlace::LayerMiddle};
-    choice.Tips1Visible = editor.Document.LayerCount() > 0;
+    choice.FirstVisible = editor.Document.LayerCount() > 0;
     if (showLayerTips) {
-        choice.CtlTips2 = Tip{"You aslo can click the \"Add\" button to import a new icon image.",
-                              TipPlace::AddLayerButton};
-        choice.Tips2Visible = true;
+        choice.SecondBalloon =
+            Tip{"You aslo can click the \"Add\" button to import a new icon image.",
+                TipPlace::AddLayerButton};
+        choice.SecondVisible = true;
     }
     return choice;
 }
@@ -104,12 +105,12 @@ std::string OptionsText(Tool tool) {
 TipChoice ToolTips(const Editor& editor) {
     const Tool tool = editor.CurrentTool;
     TipChoice choice;
-    choice.Tips1Visible = editor.Document.LayerCount() > 0;
-    choice.Tips2Visible = tool != Tool::PencilEraser && tool != Tool::SelectRectangle;
+    choice.FirstVisible = editor.Document.LayerCount() > 0;
+    choice.SecondVisible = tool != Tool::PencilEraser && tool != Tool::SelectRectangle;
     if (const std::string text = DrawingText(tool); !text.empty())
-        choice.CtlTips1 = Tip{text, TipPlace::LayerMiddle};
+        choice.FirstBalloon = Tip{text, TipPlace::LayerMiddle};
     if (const std::string text = OptionsText(tool); !text.empty())
-        choice.CtlTips2 =
+        choice.SecondBalloon =
             Tip{text, tool == Tool::BrushEraser ? TipPlace::BrushOptions : TipPlace::ColorWells};
     return choice;
 }

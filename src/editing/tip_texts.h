@@ -10,7 +10,7 @@ namespace orbelle::editing {
 
 // The thing that a balloon points at.
 enum class TipPlace {
-    NewAndOpenButtons,  // of ToolBarvs1
+    NewAndOpenButtons,  // of MainBar
     ImportButton,
     UndoButtons,
     LayerMiddle,  // of the selected layer, on the scene
@@ -30,10 +30,10 @@ struct Tip {
 // Both balloons after a tip was asked for. A balloon without a value stays as it is; one whose tip
 // is hidden closes.
 struct TipChoice {
-    std::optional<Tip> CtlTips1;
-    bool Tips1Visible = false;
-    std::optional<Tip> CtlTips2;
-    std::optional<bool> Tips2Visible;
+    std::optional<Tip> FirstBalloon;
+    bool FirstVisible = false;
+    std::optional<Tip> SecondBalloon;
+    std::optional<bool> SecondVisible;
 };
 
 // The tip of that number for the editor's state. `pick`, 1 or 2, chooses between two texts where

@@ -58,12 +58,12 @@ Tool SelectionTool(int button) {
 }
 
 void BeginSelection(Editor& editor) {
-    if (!editor.Filters.SelectionOK())
-        editor.Filters.CreateCrop();
+    if (!editor.Selection.Exists())
+        editor.Selection.Start();
 }
 
 void ShowSelectionFrame(Editor& editor) {
-    OverlayShape& frame = editor.Overlays.SelectedShape;
+    OverlayShape& frame = editor.Overlays.SelectionFrame;
     frame.IsOval = editor.CurrentTool == Tool::SelectEllipse;
     frame.Visible = editor.CurrentTool != Tool::SelectPolygon && editor.Document.LayerCount() >= 1;
     frame.Rect = {};
@@ -85,11 +85,11 @@ void ShowPopups(Editor& editor, int button) {
     Controls& controls = editor.Controls;
     const bool again = button == editor.LastToolButton;
     const bool hasFill = button >= tool_buttons::Line && button <= tool_buttons::FilledRectangle;
-    controls.ToolBarvs3Visible = hasFill && TogglePopup(controls.ToolBarvs3Visible, again);
-    controls.ToolBarvs5Visible =
-        button == tool_buttons::Selection && TogglePopup(controls.ToolBarvs5Visible, again);
-    controls.ToolBarvs6Visible =
-        button == tool_buttons::Eraser && TogglePopup(controls.ToolBarvs6Visible, again);
+    controls.FillBarVisible = hasFill && TogglePopup(controls.FillBarVisible, again);
+    controls.SelectionBarVisible =
+        button == tool_buttons::Selection && TogglePopup(controls.SelectionBarVisible, again);
+    controls.EraserBarVisible =
+        button == tool_buttons::Eraser && TogglePopup(controls.EraserBarVisible, again);
 }
 
 // What lies between two tools: a drag, and a polygon that was not closed.
@@ -99,7 +99,7 @@ void LeaveTool(Editor& editor) {
 }
 
 void ShowToolChanged(Editor& editor) {
-    editor.Overlays.Shape2.IsOval = editor.CurrentTool == Tool::BrushEraser;
+    editor.Overlays.PointerMark.IsOval = editor.CurrentTool == Tool::BrushEraser;
     if (editor.Document.LayerCount() > 0)
         DrawScene(editor);
     editor.Host.ControlsChanged();
@@ -119,17 +119,17 @@ void ApplyChoice(Editor& editor, const ToolChoice& choice) {
             BeginSelection(editor);
             break;
         case Selection::End:
-            editor.Filters.ClearCrop();
+            editor.Selection.Clear();
             break;
     }
     if (choice.Button == tool_buttons::Move) {
-        editor.Overlays.SelectedShape.Visible = false;
-        editor.Overlays.Shape2.Visible = false;
+        editor.Overlays.SelectionFrame.Visible = false;
+        editor.Overlays.PointerMark.Visible = false;
     } else if (choice.Button == tool_buttons::Selection) {
-        editor.CurrentTool = SelectionTool(PressedButton(controls.ToolBarvs5));
+        editor.CurrentTool = SelectionTool(PressedButton(controls.SelectionBar));
         ShowSelectionFrame(editor);
     } else if (choice.Button == tool_buttons::Eraser) {
-        UseEraser(editor, PressedButton(controls.ToolBarvs6));
+        UseEraser(editor, PressedButton(controls.EraserBar));
         controls.ColorOpacity.Value = 0;
         if (editor.CurrentTool == Tool::BrushEraser)
             editor.TipCounter = kTipsExpired;
@@ -142,11 +142,10 @@ void ClickToolButton(Editor& editor, int button) {
     const auto* choice = std::find_if(std::begin(kChoices), std::end(kChoices),
                                       [=](const ToolChoice& c) { return c.Button == button; });
     Controls& controls = editor.Controls;
-    if (choice == std::end(kChoices) ||
-        !controls.ToolBarvs2[static_cast<std::size_t>(button)].Enabled)
+    if (choice == std::end(kChoices) || !controls.ToolBox[static_cast<std::size_t>(button)].Enabled)
         return;
     LeaveTool(editor);
-    PressOnly(controls.ToolBarvs2, button);
+    PressOnly(controls.ToolBox, button);
     ApplyChoice(editor, *choice);
     if (choice->Chosen == Tool::Move)
         editor.Host.ShowTips(tips::MoveTool);
@@ -162,16 +161,16 @@ void ClickToolButton(Editor& editor, int button) {
 }
 
 void ChooseFill(Editor& editor, FillKind kind) {
-    PressOnly(editor.Controls.ToolBarvs3, static_cast<int>(kind) + 1);
-    editor.Controls.ToolBarvs3Visible = false;
+    PressOnly(editor.Controls.FillBar, static_cast<int>(kind) + 1);
+    editor.Controls.FillBarVisible = false;
     editor.FillKind = kind;
     editor.Host.ControlsChanged();
 }
 
 void ChooseSelection(Editor& editor, int button) {
     LeaveTool(editor);
-    PressOnly(editor.Controls.ToolBarvs5, button);
-    editor.Controls.ToolBarvs5Visible = false;
+    PressOnly(editor.Controls.SelectionBar, button);
+    editor.Controls.SelectionBarVisible = false;
     editor.CurrentTool = SelectionTool(button);
     ShowSelectionFrame(editor);
     BeginSelection(editor);
@@ -180,8 +179,8 @@ void ChooseSelection(Editor& editor, int button) {
 
 void ChooseEraser(Editor& editor, int button) {
     LeaveTool(editor);
-    PressOnly(editor.Controls.ToolBarvs6, button);
-    editor.Controls.ToolBarvs6Visible = false;
+    PressOnly(editor.Controls.EraserBar, button);
+    editor.Controls.EraserBarVisible = false;
     UseEraser(editor, button);
     editor.Host.ShowTips(tips::OtherTool);
     ShowToolChanged(editor);
@@ -213,14 +212,14 @@ void ChangeLineWidth(Editor& editor, int value) {
 }
 
 void ChangeBrushSize(Editor& editor, int value) {
-    editor.Controls.CtlScroll23.Value = value;
-    editor.Controls.BrushSize = std::to_string(value);
+    editor.Controls.BrushSize.Value = value;
+    editor.Controls.BrushSizeText = std::to_string(value);
     editor.Host.ControlsChanged();
 }
 
 void ChangeBrushOpacity(Editor& editor, int value) {
-    editor.Controls.CtlScroll22.Value = value;
-    editor.Controls.BrushOpacity = std::to_string(value) + "%";
+    editor.Controls.BrushOpacity.Value = value;
+    editor.Controls.BrushOpacityText = std::to_string(value) + "%";
     editor.Host.ControlsChanged();
 }
 

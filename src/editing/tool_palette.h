@@ -5,11 +5,11 @@
 
 namespace orbelle::editing {
 
-// A click on a button of ToolBarvs2 (see tool_buttons): the tool, and which options it has. Every
+// A click on a button of ToolBox (see tool_buttons): the tool, and which options it has. Every
 // tool but Move and the selections ends the selection.
 void ClickToolButton(Editor& editor, int button);
 
-// Buttons of the pop-ups ToolBarvs3, ToolBarvs5 and ToolBarvs6; the pop-up closes.
+// Buttons of the pop-ups FillBar, SelectionBar and EraserBar; the pop-up closes.
 void ChooseFill(Editor& editor, FillKind kind);
 void ChooseSelection(Editor& editor, int button);
 void ChooseEraser(Editor& editor, int button);

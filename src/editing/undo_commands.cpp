@@ -8,11 +8,11 @@ namespace orbelle::editing {
 namespace {
 
 Button& UndoButton(Editor& editor) {
-    return editor.Controls.ToolBarvs1[main_buttons::Undo];
+    return editor.Controls.MainBar[main_buttons::Undo];
 }
 
 Button& RedoButton(Editor& editor) {
-    return editor.Controls.ToolBarvs1[main_buttons::Redo];
+    return editor.Controls.MainBar[main_buttons::Redo];
 }
 
 // The adjustment sliders as they stand belong to the state that Redo returns to.
@@ -20,10 +20,10 @@ void KeepSliderPositions(Editor& editor) {
     if (!editor.Document.HasSelection())
         return;
     document::IconLayer& layer = editor.Document.Selected();
-    layer.Brightness = editor.Controls.BrightnessScroll.Value;
-    layer.Contrast = editor.Controls.ContrastScroll.Value;
-    layer.Hue = editor.Controls.HUEscroll.Value;
-    layer.Saturation = editor.Controls.SaturationScroll.Value;
+    layer.Brightness = editor.Controls.Brightness.Value;
+    layer.Contrast = editor.Controls.Contrast.Value;
+    layer.Hue = editor.Controls.Hue.Value;
+    layer.Saturation = editor.Controls.Saturation.Value;
 }
 
 void ShowRestoredStack(Editor& editor) {
@@ -35,15 +35,15 @@ void ShowRestoredStack(Editor& editor) {
         ShowLayerSliders(editor);
     }
     EnableLayerSliders(editor);
-    controls.ToolBarvs1[main_buttons::Save].Enabled = document.LayerCount() >= 1;
+    controls.MainBar[main_buttons::Save].Enabled = document.LayerCount() >= 1;
     UndoButton(editor).Enabled = editor.History.UndoIndex() >= 1;
     RedoButton(editor).Enabled = editor.History.RedoCount() >= 1;
     controls.m_Undo.Enabled = UndoButton(editor).Enabled;
     controls.m_Redo.Enabled = RedoButton(editor).Enabled;
-    controls.ToolBarvs4[layer_buttons::Remove].Enabled = selected;
-    controls.ToolBarvs4[layer_buttons::Hide] = {selected, selected && document.Selected().Visible};
-    controls.ToolBarvs4[layer_buttons::SetOrder].Enabled = document.SelectedLayer >= 2;
-    controls.ToolBarvs4[layer_buttons::MergeDown].Enabled = document.SelectedLayer >= 1;
+    controls.LayerBar[layer_buttons::Remove].Enabled = selected;
+    controls.LayerBar[layer_buttons::Hide] = {selected, selected && document.Selected().Visible};
+    controls.LayerBar[layer_buttons::SetOrder].Enabled = document.SelectedLayer >= 2;
+    controls.LayerBar[layer_buttons::MergeDown].Enabled = document.SelectedLayer >= 1;
     Compose(editor);
     editor.Host.LayerPanelChanged();
 }

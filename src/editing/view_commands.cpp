@@ -14,7 +14,7 @@ using document::ScrollBar;
 namespace {
 
 Button& MainButton(Editor& editor, int number) {
-    return editor.Controls.ToolBarvs1[static_cast<std::size_t>(number)];
+    return editor.Controls.MainBar[static_cast<std::size_t>(number)];
 }
 
 void Centre(ScrollBar& bar) {
@@ -34,8 +34,8 @@ void FitBar(ScrollBar& bar, double page, int scene, bool mayHide) {
 
 void FitBars(Editor& editor, bool mayHide) {
     document::View& view = editor.View;
-    FitBar(view.Hs1, editor.Document.PageWidth * view.Zoom, view.SceneWidth, mayHide);
-    FitBar(view.Vs1, editor.Document.PageHeight * view.Zoom, view.SceneHeight, mayHide);
+    FitBar(view.HorizontalScroll, editor.Document.PageWidth * view.Zoom, view.SceneWidth, mayHide);
+    FitBar(view.VerticalScroll, editor.Document.PageHeight * view.Zoom, view.SceneHeight, mayHide);
 }
 
 void EndZoom(Editor& editor, bool redraw) {
@@ -68,8 +68,8 @@ void ZoomAt(Editor& editor, float x, float y, void (*zoomStep)(Editor&)) {
     const double pageX = (x - document::PageOffsetX(document, view)) / view.Zoom;
     const double pageY = (y - document::PageOffsetY(document, view)) / view.Zoom;
     zoomStep(editor);
-    ScrollTo(view.Hs1, pageX, x, document.PageWidth, view.SceneWidth, view.Zoom);
-    ScrollTo(view.Vs1, pageY, y, document.PageHeight, view.SceneHeight, view.Zoom);
+    ScrollTo(view.HorizontalScroll, pageX, x, document.PageWidth, view.SceneWidth, view.Zoom);
+    ScrollTo(view.VerticalScroll, pageY, y, document.PageHeight, view.SceneHeight, view.Zoom);
     DrawScene(editor);
 }
 
@@ -85,13 +85,13 @@ double FitZoom(const Editor& editor) {
 
 void EnterOriginalSize(Editor& editor) {
     document::View& view = editor.View;
-    editor.SavedZoom = {view.Zoom, view.Hs1, view.Vs1};
+    editor.SavedZoom = {view.Zoom, view.HorizontalScroll, view.VerticalScroll};
     editor.ZoomStep = view.Zoom < 1 ? -0.3 : 3;
     view.Zoom = 1;
-    view.Hs1.Visible = view.SceneWidth < editor.Document.PageWidth;
-    view.Vs1.Visible = view.SceneHeight < editor.Document.PageHeight;
-    Centre(view.Hs1);
-    Centre(view.Vs1);
+    view.HorizontalScroll.Visible = view.SceneWidth < editor.Document.PageWidth;
+    view.VerticalScroll.Visible = view.SceneHeight < editor.Document.PageHeight;
+    Centre(view.HorizontalScroll);
+    Centre(view.VerticalScroll);
     DrawScene(editor);
 }
 
@@ -103,8 +103,8 @@ void LeaveOriginalSize(Editor& editor) {
     }
     if (editor.SavedZoom.Zoom == 1)
         return;
-    view.Hs1 = editor.SavedZoom.Hs1;
-    view.Vs1 = editor.SavedZoom.Vs1;
+    view.HorizontalScroll = editor.SavedZoom.HorizontalScroll;
+    view.VerticalScroll = editor.SavedZoom.VerticalScroll;
     editor.ZoomStep = editor.SavedZoom.Zoom < 1 ? 0.3 : -3;
     view.Zoom = editor.SavedZoom.Zoom;
     DrawScene(editor);
@@ -121,9 +121,9 @@ void Compose(Editor& editor) {
 void DrawScene(Editor& editor) {
     // While a polygon is open its outline is shown in place of the selection.
     const bool polygonOpen = !editor.PolygonPoints.empty();
-    filters::ClsFilters nothingSelected;
-    document::DrawScene(editor.Scene, editor.Canvas.new_Img, editor.Document, editor.View,
-                        polygonOpen ? nothingSelected : editor.Filters);
+    document::Selection nothingSelected;
+    document::DrawScene(editor.Scene, editor.Canvas, editor.Document, editor.View,
+                        polygonOpen ? nothingSelected : editor.Selection);
     if (polygonOpen)
         DrawOpenPolygon(editor);
     editor.Host.SceneChanged();
@@ -136,11 +136,11 @@ void ResizeScene(Editor& editor, int width, int height) {
 }
 
 void ScrollHorizontally(Editor& editor, int value) {
-    Scroll(editor, editor.View.Hs1, value);
+    Scroll(editor, editor.View.HorizontalScroll, value);
 }
 
 void ScrollVertically(Editor& editor, int value) {
-    Scroll(editor, editor.View.Vs1, value);
+    Scroll(editor, editor.View.VerticalScroll, value);
 }
 
 void ZoomIn(Editor& editor) {

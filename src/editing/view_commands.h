@@ -19,7 +19,7 @@ void ResizeScene(Editor& editor, int width, int height);
 void ScrollHorizontally(Editor& editor, int value);
 void ScrollVertically(Editor& editor, int value);
 
-// Buttons 9, 10 and 11 of ToolBarvs1; each only while its button is enabled and a document exists.
+// Buttons 9, 10 and 11 of MainBar; each only while its button is enabled and a document exists.
 // Zoom In: 0.2 more below 1, else 2 more, up to MaxZoom, which is set without a redraw. Zoom Out:
 // 2 less from 2 on and at 0 or below, else 0.2 less, down to 0.2.
 void ZoomIn(Editor& editor);

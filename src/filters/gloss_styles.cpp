@@ -81,8 +81,8 @@ std::optional<StylePicture> OrigamiStyle(const Bitmap& image, Fold fold, Argb co
         left, 0);
 }
 
-Plate iOSStyle(Argb color, int width, int height, float x, float y) {
-    Plate plate{Bitmap(width, height), UpdateiOSstylePath(width, height, x, y)};
+Plate IosStyle(Argb color, int width, int height, float x, float y) {
+    Plate plate{Bitmap(width, height), IosPlatePath(width, height, x, y)};
     DrawingContext context(plate.Image);
     context.SetPixelOffsetMode(PixelOffsetMode::HighQuality);
     context.FillPath(SolidBrush{color}, plate.Path);

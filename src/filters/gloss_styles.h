@@ -36,6 +36,6 @@ struct Plate {
 
 // A rounded plate of width x height pixels in a colour, its outline from (x, y) on. No picture for
 // a size that no bitmap has.
-Plate iOSStyle(graphics::Argb color, int width, int height, float x, float y);
+Plate IosStyle(graphics::Argb color, int width, int height, float x, float y);
 
 }  // namespace orbelle::filters

@@ -10,7 +10,7 @@ namespace orbelle::filters {
 
 using namespace graphics;
 
-RadialLight i3Dstyle(Bitmap& image, int level) {
+RadialLight ThreeDStyle(Bitmap& image, int level) {
     Region body;
     CreateRegion(image, body, kSolidAlpha);
     const RectF bounds = body.Bounds();

@@ -21,6 +21,6 @@ inline constexpr int kStrongLight = 5;
 // the top left corner of the body (the pixels of kSolidAlpha and above, as CreateRegion finds
 // them), falling to nothing at the radius, the body's larger side; rounded, ties to even. Alpha
 // stays; transparent pixels change too. A picture without a body stays as it is and gives zeros.
-RadialLight i3Dstyle(graphics::Bitmap& image, int level);
+RadialLight ThreeDStyle(graphics::Bitmap& image, int level);
 
 }  // namespace orbelle::filters

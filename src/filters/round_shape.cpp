@@ -27,7 +27,7 @@ graphics::Path RoundShape(float x, float y, float width, float height, int radiu
     return path;
 }
 
-graphics::Path UpdateiOSstylePath(int width, int height, float x, float y) {
+graphics::Path IosPlatePath(int width, int height, float x, float y) {
     return RoundShape(x, y, static_cast<float>(width), static_cast<float>(height),
                       std::min(width, height) / 6);
 }

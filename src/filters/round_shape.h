@@ -11,6 +11,6 @@ namespace orbelle::filters {
 graphics::Path RoundShape(float x, float y, float width, float height, int radius);
 
 // The plate under a picture: the radius is a sixth of the smaller side, remainder dropped.
-graphics::Path UpdateiOSstylePath(int width, int height, float x, float y);
+graphics::Path IosPlatePath(int width, int height, float x, float y);
 
 }  // namespace orbelle::filters

@@ -7,10 +7,10 @@
 #include <system_error>
 
 #include "formats/gif_palette.h"
+#include "graphics/codecs/image_files.h"
 #include "graphics/drawing_context.h"
 #include "graphics/errors.h"
 #include "graphics/file_io.h"
-#include "graphics/image_files.h"
 
 namespace orbelle::formats {
 namespace {

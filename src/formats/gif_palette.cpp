@@ -4,7 +4,7 @@
 #include <array>
 
 #include "formats/octree.h"
-#include "graphics/image_files.h"
+#include "graphics/codecs/image_files.h"
 
 namespace orbelle::formats {
 namespace {

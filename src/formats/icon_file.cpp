@@ -4,9 +4,9 @@
 #include <string>
 
 #include "formats/little_endian.h"
+#include "graphics/codecs/image_files.h"
 #include "graphics/errors.h"
 #include "graphics/file_io.h"
-#include "graphics/image_files.h"
 
 namespace orbelle::formats {
 namespace {
@@ -99,8 +99,8 @@ Bytes EncodeIcon(std::span<const Bitmap> pictures, IconFormat format) {
     return icon;
 }
 
-void png2ico(std::span<const std::filesystem::path> pictures, const std::filesystem::path& output,
-             IconFormat format) {
+void CombinePngs(std::span<const std::filesystem::path> pictures,
+                 const std::filesystem::path& output, IconFormat format) {
     if (pictures.size() > kMaxCombinedPictures)
         throw std::invalid_argument("more than seven pictures for one icon");
     std::vector<Bitmap> loaded;

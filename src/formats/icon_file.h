@@ -24,7 +24,7 @@ inline constexpr int kMaxCombinedPictures = 7;
 
 // Puts up to seven picture files into one icon file, in the order given; empty names are passed
 // over. With no name at all nothing is written. Throws graphics::FileError.
-void png2ico(std::span<const std::filesystem::path> pictures, const std::filesystem::path& output,
-             IconFormat format = IconFormat::Bmp);
+void CombinePngs(std::span<const std::filesystem::path> pictures,
+                 const std::filesystem::path& output, IconFormat format = IconFormat::Bmp);
 
 }  // namespace orbelle::formats

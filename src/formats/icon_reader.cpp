@@ -4,10 +4,10 @@
 #include <cstring>
 
 #include "formats/little_endian.h"
+#include "graphics/codecs/image_codecs.h"
+#include "graphics/codecs/image_files.h"
 #include "graphics/errors.h"
 #include "graphics/file_io.h"
-#include "graphics/image_codecs.h"
-#include "graphics/image_files.h"
 #include "graphics/rotate_flip.h"
 
 namespace orbelle::formats {

@@ -8,9 +8,9 @@
 #include "filters/create_region.h"
 #include "formats/little_endian.h"
 #include "formats/parallel.h"
+#include "graphics/codecs/image_files.h"
 #include "graphics/errors.h"
 #include "graphics/file_io.h"
-#include "graphics/image_files.h"
 
 namespace orbelle::formats {
 namespace {

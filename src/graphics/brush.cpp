@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-#include "graphics/gradient_mix.h"
+#include "graphics/detail/gradient_mix.h"
 
 namespace orbelle::graphics {
 namespace {

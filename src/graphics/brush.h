@@ -5,9 +5,9 @@
 #include <variant>
 
 #include "graphics/color.h"
+#include "graphics/detail/path_gradient.h"
 #include "graphics/enums.h"
 #include "graphics/geometry.h"
-#include "graphics/path_gradient.h"
 
 namespace orbelle::graphics {
 

@@ -6,8 +6,8 @@
 #include <algorithm>
 #include <cmath>
 
-#include "graphics/brush_rows.h"
-#include "graphics/scan_conversion.h"
+#include "graphics/detail/brush_rows.h"
+#include "graphics/detail/scan_conversion.h"
 
 namespace orbelle::graphics {
 namespace {

@@ -1,5 +1,5 @@
+#include "graphics/detail/image_drawing.h"
 #include "graphics/drawing_context.h"
-#include "graphics/image_drawing.h"
 
 namespace orbelle::graphics {
 

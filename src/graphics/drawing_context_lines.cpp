@@ -1,9 +1,9 @@
 #include <algorithm>
 
-#include "graphics/brush_rows.h"
+#include "graphics/detail/brush_rows.h"
+#include "graphics/detail/pixel_lines.h"
+#include "graphics/detail/stroke.h"
 #include "graphics/drawing_context.h"
-#include "graphics/pixel_lines.h"
-#include "graphics/stroke.h"
 
 namespace orbelle::graphics {
 namespace {

@@ -6,8 +6,8 @@
 #include <variant>
 
 #include "graphics/bitmap.h"
-#include "graphics/pixel_set.h"
-#include "graphics/scan_conversion.h"
+#include "graphics/detail/pixel_set.h"
+#include "graphics/detail/scan_conversion.h"
 
 namespace orbelle::graphics {
 namespace {

@@ -2,17 +2,17 @@
 
 #include <QAccessibleWidget>
 
-#include "widgets/ctl_captions.h"
-#include "widgets/ctl_tips.h"
+#include "widgets/balloon.h"
+#include "widgets/caption_text.h"
 
 namespace orbelle::widgets {
 
 namespace {
 
 QAccessibleInterface* MakeAccessible(const QString&, QObject* object) {
-    if (auto* tips = qobject_cast<CtlTips*>(object))
+    if (auto* tips = qobject_cast<Balloon*>(object))
         return new QAccessibleWidget(tips, QAccessible::AlertMessage);
-    if (auto* captions = qobject_cast<CtlCaptions*>(object))
+    if (auto* captions = qobject_cast<CaptionText*>(object))
         return new QAccessibleWidget(captions, QAccessible::StaticText);
     return nullptr;
 }

@@ -37,11 +37,11 @@ TEST_F(DrawingWindowTest, EveryToolDrawsWhereThePointerIs) {
     Press({"x"});
     Draw({10, 50}, {30, 50});
 
-    Click(Button("ToolBarvs2", 12));
-    Click(PopupButton("ToolBarvs6", 12, 1));
+    Click(Button("ToolBox", 12));
+    Click(PopupButton("EraserBar", 12, 1));
     Click(page + QPoint(150, 150));
-    Click(Button("ToolBarvs2", 12));
-    Click(PopupButton("ToolBarvs6", 12, 2));
+    Click(Button("ToolBox", 12));
+    Click(PopupButton("EraserBar", 12, 2));
     Click(page + QPoint(30, 150));
 
     const QImage drawn = ExportPng();
@@ -88,8 +88,8 @@ TEST_F(DrawingWindowTest, EveryToolDrawsWhereThePointerIs) {
 
 TEST_F(DrawingWindowTest, AGradientIsChosenFromThePopup) {
     ASSERT_TRUE(StartWithPicture());
-    Click(Button("ToolBarvs2", 9));
-    Click(PopupButton("ToolBarvs3", 9, 2));
+    Click(Button("ToolBox", 9));
+    Click(PopupButton("FillBar", 9, 2));
     Draw({10, 10}, {110, 60});
 
     const QImage drawn = ExportPng();
@@ -126,9 +126,9 @@ TEST_F(DrawingWindowTest, SelectionsOfEachKindAreDeletedAndComeBack) {
     EXPECT_FALSE(isHole(rectangle, 49, 75) || isHole(rectangle, 100, 75));
 
     Press({"ctrl+z"});
-    Click(Button("ToolBarvs2", 2));
+    Click(Button("ToolBox", 2));
     EXPECT_EQ(Count(), kWholePicture);
-    Click(PopupButton("ToolBarvs5", 2, 2));
+    Click(PopupButton("SelectionBar", 2, 2));
     Draw({50, 50}, {99, 99});
     Press({"alt+e", "d"});
     const QImage ellipse = ExportPng();
@@ -137,8 +137,8 @@ TEST_F(DrawingWindowTest, SelectionsOfEachKindAreDeletedAndComeBack) {
     EXPECT_FALSE(isHole(ellipse, 50, 50));
 
     Press({"ctrl+z"});
-    Click(Button("ToolBarvs2", 2));
-    Click(PopupButton("ToolBarvs5", 2, 3));
+    Click(Button("ToolBox", 2));
+    Click(PopupButton("SelectionBar", 2, 3));
     for (const QPoint& corner : {QPoint(20, 20), QPoint(120, 20), QPoint(20, 120)})
         Click(page + corner);
     Click(page + QPoint(20, 120), 3);

@@ -7,7 +7,7 @@
 #include <algorithm>
 #include <set>
 
-#include "app/mform.h"
+#include "app/main_window.h"
 #include "editing/document_commands.h"
 #include "editing/layer_commands.h"
 #include "editing/style_commands.h"
@@ -58,7 +58,7 @@ protected:
         return names;
     }
 
-    mForm form;
+    MainWindow form;
 };
 
 TEST_F(MainMenuTest, CaptionsStandInTheirOrder) {

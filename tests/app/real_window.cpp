@@ -7,10 +7,10 @@
 #include <algorithm>
 #include <filesystem>
 
-#include "app/mform.h"
+#include "app/main_window.h"
 #include "app/scene_view.h"
 #include "app/settings.h"
-#include "widgets/tool_bar.h"
+#include "widgets/button_bar.h"
 
 namespace orbelle::app {
 namespace {
@@ -249,13 +249,13 @@ QRect RealWindowTest::Bounds(QRgb color) {
 }
 
 // A window of this process that is laid out like the program's tells where its controls are.
-mForm& RealWindowTest::Twin() {
+MainWindow& RealWindowTest::Twin() {
     if (!twin_) {
         Settings settings;
         const auto remembered = SettingsFile();
         for (const QString& key : remembered->allKeys())
             settings.setValue(key, remembered->value(key));
-        twin_ = std::make_unique<mForm>();
+        twin_ = std::make_unique<MainWindow>();
         twin_->RestoreSettings();
         twin_->resize(kDefaultMainSize);
         twin_->show();
@@ -274,13 +274,13 @@ QPoint RealWindowTest::Control(const QString& name) {
 }
 
 QPoint RealWindowTest::Button(const QString& bar, int button) {
-    const auto& toolBar = *Twin().findChild<widgets::ToolBarvs*>(bar);
+    const auto& toolBar = *Twin().findChild<widgets::ButtonBar*>(bar);
     return Control(bar) - toolBar.rect().center() + toolBar.ButtonRect(button).center();
 }
 
 QPoint RealWindowTest::PopupButton(const QString& popup, int opener, int button) {
-    const auto& column = *Twin().findChild<widgets::ToolBarvs*>("ToolBarvs2");
-    auto& bar = *Twin().findChild<widgets::ToolBarvs*>(popup);
+    const auto& column = *Twin().findChild<widgets::ButtonBar*>("ToolBox");
+    auto& bar = *Twin().findChild<widgets::ButtonBar*>(popup);
     bar.resize(bar.sizeHint());
     bar.show();
     const QPoint place(column.width() + 1, column.ButtonRect(opener).top());

@@ -16,7 +16,7 @@
 
 namespace orbelle::app {
 
-class mForm;
+class MainWindow;
 
 inline constexpr int kPictureSide = 200;
 inline constexpr QRgb kPictureColor = 0xFF3A1C5E;
@@ -97,10 +97,10 @@ protected:
     QPoint page;  // where the picture's first pixel is
 
 private:
-    mForm& Twin();
+    MainWindow& Twin();
     QRect SceneRect();
 
-    std::unique_ptr<mForm> twin_;
+    std::unique_ptr<MainWindow> twin_;
     int exports_ = 0;
 };
 

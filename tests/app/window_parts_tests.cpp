@@ -6,7 +6,7 @@
 
 #include "app/bottom_panel.h"
 #include "app/color_well.h"
-#include "app/mform.h"
+#include "app/main_window.h"
 #include "app/right_panel.h"
 #include "app/scene_view.h"
 #include "app/settings.h"
@@ -14,15 +14,15 @@
 #include "editing/layer_commands.h"
 #include "editing/tips.h"
 #include "waiting.h"
-#include "widgets/ctl_layers.h"
-#include "widgets/ctl_scroll.h"
-#include "widgets/ctl_scroll2.h"
+#include "widgets/layer_list.h"
+#include "widgets/number_slider.h"
+#include "widgets/track_slider.h"
 
 namespace orbelle::app {
 namespace {
 
 using orbelle::testing::WaitUntil;
-using widgets::ToolBarvs;
+using widgets::ButtonBar;
 
 class WindowPartsTest : public ::testing::Test {
 protected:
@@ -57,7 +57,7 @@ protected:
     }
 
     void ClickBar(const char* name, int button) {
-        auto& bar = Part<ToolBarvs>(name);
+        auto& bar = Part<ButtonBar>(name);
         const QPointF at = bar.ButtonRect(button).center();
         Mouse(bar, QEvent::MouseMove, at);
         Mouse(bar, QEvent::MouseButtonPress, at);
@@ -79,40 +79,40 @@ protected:
         Mouse(scene, QEvent::MouseButtonRelease, OnPage(to.x(), to.y()));
     }
 
-    mForm form;
+    MainWindow form;
 };
 
 TEST_F(WindowPartsTest, ToolButtonsChooseAndLatchOneTool) {
-    auto& tools = Part<ToolBarvs>("ToolBarvs2");
-    ClickBar("ToolBarvs2", 5);
-    EXPECT_FALSE(tools.GetButtonPressState(5));  // there is no document yet
+    auto& tools = Part<ButtonBar>("ToolBox");
+    ClickBar("ToolBox", 5);
+    EXPECT_FALSE(tools.IsPressed(5));  // there is no document yet
     NewPage(32, 32);
-    ClickBar("ToolBarvs2", 8);
+    ClickBar("ToolBox", 8);
     EXPECT_EQ(form.Editor().CurrentTool, editing::Tool::Rectangle);
-    EXPECT_TRUE(tools.GetButtonPressState(8));
-    EXPECT_FALSE(tools.GetButtonPressState(1));
-    auto& fills = Part<ToolBarvs>("ToolBarvs3");
+    EXPECT_TRUE(tools.IsPressed(8));
+    EXPECT_FALSE(tools.IsPressed(1));
+    auto& fills = Part<ButtonBar>("FillBar");
     EXPECT_TRUE(fills.isVisible());
     EXPECT_EQ(fills.mapTo(form.centralWidget(), QPoint()).x(),
               tools.mapTo(form.centralWidget(), QPoint()).x() + tools.width() + 1);
-    ClickBar("ToolBarvs3", 2);
+    ClickBar("FillBar", 2);
     EXPECT_EQ(form.Editor().FillKind, editing::FillKind::HorizontalGradient);
     EXPECT_FALSE(fills.isVisible());
-    ClickBar("ToolBarvs2", 8);
+    ClickBar("ToolBox", 8);
     EXPECT_TRUE(fills.isVisible());
-    EXPECT_TRUE(tools.GetButtonPressState(8));
-    ClickBar("ToolBarvs2", 8);
+    EXPECT_TRUE(tools.IsPressed(8));
+    ClickBar("ToolBox", 8);
     EXPECT_FALSE(fills.isVisible());
 }
 
 TEST_F(WindowPartsTest, TheMouseDrawsOnTheScene) {
     NewPage(32, 32);
     form.Run([](editing::Editor& editor) { editor.Colors[0] = 0xFF00A020; });
-    ClickBar("ToolBarvs2", 9);
+    ClickBar("ToolBox", 9);
     DragOnPage({5, 5}, {8, 9});
-    EXPECT_EQ(form.Editor().Canvas.new_Img.GetPixel(4, 4), 0xFF00A020);
-    EXPECT_EQ(form.Editor().Canvas.new_Img.GetPixel(8, 9), 0xFF00A020);
-    EXPECT_EQ(form.Editor().Canvas.new_Img.GetPixel(9, 9), 0u);
+    EXPECT_EQ(form.Editor().Canvas.GetPixel(4, 4), 0xFF00A020);
+    EXPECT_EQ(form.Editor().Canvas.GetPixel(8, 9), 0xFF00A020);
+    EXPECT_EQ(form.Editor().Canvas.GetPixel(9, 9), 0u);
     EXPECT_EQ(form.Editor().History.UndoIndex(), 1);
     EXPECT_EQ(Part<QLabel>("PointerPosition").text(), "8, 9");
     EXPECT_EQ(Part<QLabel>("PointerColor").text(), "#FF00A020");
@@ -121,7 +121,7 @@ TEST_F(WindowPartsTest, TheMouseDrawsOnTheScene) {
 TEST_F(WindowPartsTest, TheLayerListFollowsAndSelects) {
     NewPage(32, 32);
     form.Run(editing::AddLayerCommand);
-    auto& list = Part<widgets::CtlLayers>("LayerPanel");
+    auto& list = Part<widgets::LayerList>("LayerPanel");
     ASSERT_TRUE(WaitUntil([&] { return list.Count() == 2; }));
     EXPECT_EQ(list.SelectedIndex(), 1);
     Mouse(*list.viewport(), QEvent::MouseButtonPress, {20, 60});
@@ -129,14 +129,14 @@ TEST_F(WindowPartsTest, TheLayerListFollowsAndSelects) {
 }
 
 TEST_F(WindowPartsTest, SlidersMirrorTheEditor) {
-    EXPECT_FALSE(Part<widgets::CtlScroll>("CtlScroll1").isEnabled());
+    EXPECT_FALSE(Part<widgets::NumberSlider>("PageWidth").isEnabled());
     NewPage(48, 32);
-    EXPECT_EQ(Part<widgets::CtlScroll>("CtlScroll1").ColorValue(), 48);
-    EXPECT_EQ(Part<widgets::CtlScroll>("CtlScroll2").ColorValue(), 32);
-    ClickBar("ToolBarvs2", 5);
-    EXPECT_TRUE(Part<widgets::CtlScroll>("LineWidth").isEnabled());
-    ClickBar("ToolBarvs2", 4);
-    EXPECT_FALSE(Part<widgets::CtlScroll>("LineWidth").isEnabled());
+    EXPECT_EQ(Part<widgets::NumberSlider>("PageWidth").ColorValue(), 48);
+    EXPECT_EQ(Part<widgets::NumberSlider>("PageHeight").ColorValue(), 32);
+    ClickBar("ToolBox", 5);
+    EXPECT_TRUE(Part<widgets::NumberSlider>("LineWidth").isEnabled());
+    ClickBar("ToolBox", 4);
+    EXPECT_FALSE(Part<widgets::NumberSlider>("LineWidth").isEnabled());
 }
 
 TEST_F(WindowPartsTest, ColourWellsTakeTurns) {
@@ -144,19 +144,19 @@ TEST_F(WindowPartsTest, ColourWellsTakeTurns) {
     form.ControlsChanged();
     Mouse(Part<ColorWell>("ForeColorOLE1"), QEvent::MouseButtonPress, {10, 10});
     EXPECT_EQ(form.Editor().ActiveColor, 1);
-    EXPECT_EQ(Part<widgets::CtlScroll2>("ColorOpacity").value(), 50);
+    EXPECT_EQ(Part<widgets::TrackSlider>("ColorOpacity").value(), 50);
 }
 
 TEST_F(WindowPartsTest, TipsShowOnlyWhenTheyAreOnAndCloseAtAPress) {
     NewPage(64, 64);
-    auto& balloon = Part<widgets::CtlTips>("CtlTips1");
+    auto& balloon = Part<widgets::Balloon>("FirstBalloon");
     form.ShowTips(editing::tips::Adjusted, false);
     EXPECT_FALSE(balloon.isVisible());
     form.SetTipsEnabled(true);
     form.ShowTips(editing::tips::Adjusted, false);
     EXPECT_TRUE(balloon.isVisible());
     EXPECT_EQ(balloon.pos().x(), 230);
-    EXPECT_GT(balloon.pos().y(), Part<ToolBarvs>("ToolBarvs1").geometry().bottom());
+    EXPECT_GT(balloon.pos().y(), Part<ButtonBar>("MainBar").geometry().bottom());
 
     auto& scene = *form.findChild<SceneView*>();
     Mouse(scene, QEvent::MouseButtonPress, {5, 5});
@@ -168,10 +168,10 @@ TEST_F(WindowPartsTest, TheBrushPanelSlidesIn) {
     Part<BottomPanel>("BottomTips").SetOpen(true);
     auto& panel = Part<QWidget>("BrushPanel");
     EXPECT_FALSE(panel.isVisible());
-    ClickBar("ToolBarvs2", 12);
-    ClickBar("ToolBarvs6", 1);
+    ClickBar("ToolBox", 12);
+    ClickBar("EraserBar", 1);
     EXPECT_TRUE(WaitUntil([&] { return panel.isVisible() && panel.y() == 0; }));
-    ClickBar("ToolBarvs2", 4);
+    ClickBar("ToolBox", 4);
     EXPECT_TRUE(WaitUntil([&] { return !panel.isVisible(); }));
 }
 
@@ -190,12 +190,12 @@ TEST_F(WindowPartsTest, SettingsComeBack) {
     form.RestoreSettings();
     EXPECT_EQ(form.Editor().Colors[0], 0xFF004080);
     EXPECT_EQ(form.Editor().Colors[1], 0xFF070000);  // what is missing is 0
-    EXPECT_EQ(form.Editor().Controls.CtlScroll23.Value, 33);
-    EXPECT_EQ(form.Editor().Controls.BrushOpacity, "1%");
+    EXPECT_EQ(form.Editor().Controls.BrushSize.Value, 33);
+    EXPECT_EQ(form.Editor().Controls.BrushOpacityText, "1%");
     EXPECT_TRUE(form.TipsEnabled());
-    EXPECT_FALSE(Part<widgets::CtlTitle>("CtlTitle4").isClosed());
-    EXPECT_TRUE(Part<widgets::CtlTitle>("CtlTitle2").isClosed());
-    EXPECT_FALSE(Part<widgets::CtlTitle>("CtlTitle6").isClosed());
+    EXPECT_FALSE(Part<widgets::PanelHeader>("CtlTitle4").IsClosed());
+    EXPECT_TRUE(Part<widgets::PanelHeader>("CtlTitle2").IsClosed());
+    EXPECT_FALSE(Part<widgets::PanelHeader>("CtlTitle6").IsClosed());
     form.SetTipsEnabled(false);
     form.StoreSettings();
     const Settings settings;

@@ -9,8 +9,8 @@
 #include <string>
 #include <vector>
 
+#include "graphics/codecs/image_files.h"
 #include "graphics/file_io.h"
-#include "graphics/image_files.h"
 #include "support/pictures.h"
 #include "support/temporary_folder.h"
 

@@ -20,9 +20,9 @@ constexpr auto kNearest = InterpolationMode::NearestNeighbor;
 
 Bitmap Composed(Document& document, InterpolationMode interpolation = kNearest) {
     Compositor compositor;
-    graphics::DIBSave canvas;
+    graphics::Bitmap canvas;
     compositor.Compose(document, interpolation, canvas);
-    return canvas.new_Img;
+    return canvas;
 }
 
 void AddLayer(Document& document, const Bitmap& image) {
@@ -147,11 +147,11 @@ TEST(Compositor, WhatItRemembersNeverShows) {
         RandomEdits edits(seed);
         Document document = PageOf(24, 20);
         Compositor compositor;
-        graphics::DIBSave canvas;
+        graphics::Bitmap canvas;
         for (int step = 0; step < 150; ++step) {
             edits.Edit(document);
             compositor.Compose(document, interpolation, canvas);
-            ASSERT_TRUE(SamePixels(canvas.new_Img, Composed(document, interpolation)))
+            ASSERT_TRUE(SamePixels(canvas, Composed(document, interpolation)))
                 << "seed " << seed << ", step " << step;
         }
     }
@@ -180,9 +180,9 @@ TEST(Compositor, RepaintsTheBoxAroundTheDotsThatAToolSet) {
         if (test.Repainted.IsEmpty())
             layer.ImageWidth = layer.Rect.Width = 6;
         Compositor compositor;
-        graphics::DIBSave canvas;
+        graphics::Bitmap canvas;
         compositor.Compose(document, kNearest, canvas);
-        canvas.new_Img = FilledPicture(16, 12, kSpoilt);
+        canvas = FilledPicture(16, 12, kSpoilt);
 
         Bitmap drawn = FilledPicture(10, 10, kLayer);
         for (const auto& [x, y] : test.Dots)
@@ -196,7 +196,7 @@ TEST(Compositor, RepaintsTheBoxAroundTheDotsThatAToolSet) {
         for (int y = box.Y; y < box.Y + box.Height; ++y)
             for (int x = box.X; x < box.X + box.Width; ++x)
                 expected.SetPixel(x, y, *whole.GetPixel(x, y));
-        EXPECT_TRUE(SamePixels(canvas.new_Img, expected)) << box.X << ", " << box.Width;
+        EXPECT_TRUE(SamePixels(canvas, expected)) << box.X << ", " << box.Width;
     }
 }
 

@@ -19,7 +19,7 @@ struct Shown {
     View view;
     Bitmap canvas;
     Bitmap scene;
-    filters::ClsFilters selection;
+    document::Selection selection;
 
     Shown(int width, int height, double zoom) : canvas(width, height) {
         document.PageWidth = width;
@@ -51,7 +51,7 @@ TEST(View, ALargePageMovesLeftAsTheBarMovesRight) {
     view.SceneWidth = 100;
     view.SceneHeight = 60;
     view.Zoom = 1;
-    view.Hs1.Value = 2;
+    view.HorizontalScroll.Value = 2;
     EXPECT_DOUBLE_EQ(PageOffsetX(document, view), -40);
     EXPECT_DOUBLE_EQ(PageOffsetY(document, view), 20);
 }
@@ -115,13 +115,12 @@ TEST(DrawScene, ZoomedPixelsAreSquaresAndTheBackgroundLiesHalfAPixelOff) {
 TEST(DrawScene, TheSelectionStaysBright) {
     Shown shown(40, 20, 1);
     shown.canvas = FilledPicture(40, 20, 0xFFFFFFFF);
-    shown.selection.CreateCrop();
-    shown.selection.SetCropDatas(20, 10, 10, 5, filters::CropShape::Rectangle);
+    shown.selection.Start();
+    shown.selection.AddFrame(20, 10, 10, 5, document::FrameShape::Rectangle);
     EXPECT_EQ(shown.At(30, 20), 0xFF9B9B9B);
     EXPECT_EQ(shown.At(40, 25), 0xFFFFFFFF);
     EXPECT_EQ(shown.At(49, 29), 0xFFFFFFFF);
     EXPECT_EQ(shown.At(50, 29), 0xFF9B9B9B);
-    EXPECT_TRUE(shown.selection.isInCropRregion(40, 25));
 }
 
 TEST(DrawScene, StaysInsideTheSceneAtEveryZoom) {
@@ -129,7 +128,7 @@ TEST(DrawScene, StaysInsideTheSceneAtEveryZoom) {
     for (const double zoom : {-2.0, 0.0, 0.2, 20.0}) {
         shown.view.Zoom = zoom;
         for (const int value : {0, 3, 10}) {
-            shown.view.Hs1.Value = shown.view.Vs1.Value = value;
+            shown.view.HorizontalScroll.Value = shown.view.VerticalScroll.Value = value;
             DrawScene(shown.scene, shown.canvas, shown.document, shown.view, shown.selection);
         }
     }

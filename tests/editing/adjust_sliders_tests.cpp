@@ -3,7 +3,7 @@
 #include "editing/layer_commands.h"
 #include "editing/undo_commands.h"
 #include "editing_fixture.h"
-#include "filters/colour_adjustments.h"
+#include "filters/color_adjustments.h"
 
 namespace orbelle::editing {
 namespace {
@@ -33,7 +33,7 @@ protected:
 TEST_F(AdjustSliders, StepsOfOneDragStartFromThePressAndDragsAddUp) {
     const Bitmap original = Layer(0).Image;
     Bitmap once = original;
-    filters::HUEColor(once, 140);  // 40 x 3.5
+    filters::HueColor(once, 140);  // 40 x 3.5
     Drag(Adjustment::Hue, {10, 90, 40});
     EXPECT_TRUE(testing::SamePixels(Layer(0).Image, once));
     EXPECT_EQ(Layer(0).Hue, 40);
@@ -41,7 +41,7 @@ TEST_F(AdjustSliders, StepsOfOneDragStartFromThePressAndDragsAddUp) {
     EXPECT_EQ(editor.History.UndoIndex(), 1);
 
     Bitmap twice = once;
-    filters::HUEColor(twice, 210);
+    filters::HueColor(twice, 210);
     Drag(Adjustment::Hue, {60});
     EXPECT_TRUE(testing::SamePixels(Layer(0).Image, twice));
     EXPECT_TRUE(editor.AdjustSnapshot.IsEmpty());
@@ -67,8 +67,8 @@ TEST_F(AdjustSliders, PositionsBecomeArgumentsAsTheFiltersWantThem) {
     };
     using namespace filters;
     // 3.5 and 10.5 are ties: to 4 and to 10.
-    expect(Adjustment::Hue, 1, [](Bitmap& image) { HUEColor(image, 4); });
-    expect(Adjustment::Hue, 3, [](Bitmap& image) { HUEColor(image, 10); });
+    expect(Adjustment::Hue, 1, [](Bitmap& image) { HueColor(image, 4); });
+    expect(Adjustment::Hue, 3, [](Bitmap& image) { HueColor(image, 10); });
     expect(Adjustment::Saturation, 0, [](Bitmap& image) { SaturationColor(image, -100); });
     expect(Adjustment::Saturation, 39, [](Bitmap& image) { SaturationColor(image, -2); });
     expect(Adjustment::Saturation, 41, [](Bitmap& image) { SaturationColor(image, 2); });
@@ -91,9 +91,9 @@ TEST_F(AdjustSliders, BrightnessAndContrastAreAppliedTogether) {
 TEST_F(AdjustSliders, EachLayerRemembersItsSliders) {
     Drag(Adjustment::Contrast, {80});
     AddLayerCommand(editor);
-    EXPECT_EQ(editor.Controls.ContrastScroll.Value, 50);
+    EXPECT_EQ(editor.Controls.Contrast.Value, 50);
     SelectLayer(editor, 0);
-    EXPECT_EQ(editor.Controls.ContrastScroll.Value, 80);
+    EXPECT_EQ(editor.Controls.Contrast.Value, 80);
 }
 
 TEST_F(AdjustSliders, NothingHappensWithoutASelectedLayerOrAPress) {
@@ -121,7 +121,7 @@ TEST_F(AdjustSliders, ScalingKeepsTheRatioAndIsDrawnAtTheRelease) {
     EXPECT_EQ(Layer(0).Image.GetPixel(0, 0), 0xC0336699);
     EXPECT_EQ(Layer(0).Image.GetPixel(19, 15), 0xC0336699);
     EXPECT_EQ(Layer(0).Region.Bounds(), (RectF{-1, 0, 20, 16}));
-    EXPECT_EQ(editor.Controls.ScaleScroll.Value, 50);
+    EXPECT_EQ(editor.Controls.Scale.Value, 50);
     EXPECT_EQ(editor.Controls.ScaleValue, "0");
     Undo(editor);
     EXPECT_EQ(Layer(0).Rect, (RectF{0, 0, 10, 8}));

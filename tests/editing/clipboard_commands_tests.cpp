@@ -47,8 +47,8 @@ protected:
 
     // Page pixels from (left, top) to before (right, bottom).
     void Select(int left, int top, int right, int bottom) {
-        editor.Filters.CreateCrop();
-        editor.Filters.SetCropDatas(right, bottom, left, top, filters::CropShape::Rectangle);
+        editor.Selection.Start();
+        editor.Selection.AddFrame(right, bottom, left, top, document::FrameShape::Rectangle);
     }
 
     // Of the layer, without the pixels of the page's square (2, 0) to (4, 2).
@@ -76,7 +76,7 @@ TEST_F(ClipboardCommands, CopyTakesTheSelectedPixelsWithTheirPlace) {
     EXPECT_EQ(copy.Region.Bounds(), (RectF{2 - 1, 1, 2, 1}));
     EXPECT_EQ(Pixels(host.Clipboard), selectedPixels);
     EXPECT_EQ(host.ClipboardMark, "Orbelle");
-    EXPECT_TRUE(editor.Filters.SelectionOK());
+    EXPECT_TRUE(editor.Selection.Exists());
     EXPECT_EQ(Layer(1).Image.GetPixel(1, 0), PixelAt(1, 0));
     EXPECT_EQ(editor.History.UndoIndex(), 0);
     EXPECT_EQ(host.Busy, 0);
@@ -90,7 +90,7 @@ TEST_F(ClipboardCommands, CutTakesTheSelectedPixelsOut) {
     ASSERT_EQ(editor.Document.LayerCount(), 2);
     ExpectCut(Layer(1).Image);
     EXPECT_EQ(Layer(1).Rect, (RectF{1, 1, 4, 3}));
-    EXPECT_FALSE(editor.Filters.SelectionOK());
+    EXPECT_FALSE(editor.Selection.Exists());
     EXPECT_EQ(editor.History.UndoIndex(), 1);
     Undo(editor);
     EXPECT_EQ(Layer(1).Image.GetPixel(1, 0), PixelAt(1, 0));
@@ -100,7 +100,7 @@ TEST_F(ClipboardCommands, DeleteTakesTheSelectionFirstAndThenTheLayer) {
     Select(2, 0, 4, 2);
     DeleteCommand(editor);
     ExpectCut(Layer(1).Image);
-    EXPECT_EQ(*editor.Canvas.new_Img.GetPixel(2, 1), 0u);
+    EXPECT_EQ(*editor.Canvas.GetPixel(2, 1), 0u);
     EXPECT_TRUE(host.Clipboard.IsEmpty());
     DeleteCommand(editor);
     EXPECT_EQ(editor.Document.LayerCount(), 1);
@@ -121,8 +121,8 @@ TEST_F(ClipboardCommands, CutWithoutASelectionRemovesTheLayerAndPasteBringsItBac
     EXPECT_TRUE(Layer(1).Image.SharesPixelsWith(picture));
     EXPECT_EQ(Layer(1).Rect, (RectF{1, 1, 4, 3}));
     EXPECT_EQ(Layer(1).Region.Bounds(), (RectF{0, 1, 4, 3}));
-    EXPECT_EQ(editor.Controls.CtlScroll21.Value, 50);
-    EXPECT_EQ(editor.Controls.HUEscroll.Value, 12);
+    EXPECT_EQ(editor.Controls.Opacity.Value, 50);
+    EXPECT_EQ(editor.Controls.Hue.Value, 12);
     Undo(editor);
     EXPECT_EQ(editor.Document.LayerCount(), 1);
 }
@@ -184,7 +184,7 @@ TEST_F(ClipboardCommands, PasteGoesAboveTheSelectedLayerOrOnTop) {
     Select(0, 0, 1, 1);
     PasteFromClipboard(editor);
     EXPECT_EQ(editor.Document.SelectedLayer, 1);
-    EXPECT_FALSE(editor.Filters.SelectionOK());
+    EXPECT_FALSE(editor.Selection.Exists());
     ASSERT_EQ(editor.Document.LayerCount(), 3);
     EXPECT_EQ(Layer(0).ImageWidth, 8);
     EXPECT_EQ(Layer(1).ImageWidth, 4);
@@ -193,8 +193,8 @@ TEST_F(ClipboardCommands, PasteGoesAboveTheSelectedLayerOrOnTop) {
     editor.Document.SelectedLayer = document::kNoLayer;
     PasteFromClipboard(editor);
     EXPECT_EQ(editor.Document.SelectedLayer, 3);
-    EXPECT_TRUE(editor.Controls.CtlScroll21.Enabled);
-    EXPECT_TRUE(editor.Controls.ToolBarvs4[layer_buttons::MergeDown].Enabled);
+    EXPECT_TRUE(editor.Controls.Opacity.Enabled);
+    EXPECT_TRUE(editor.Controls.LayerBar[layer_buttons::MergeDown].Enabled);
 }
 
 TEST_F(ClipboardCommands, AnotherProgramsPictureArrivesOpaqueAtThePagesCorner) {
@@ -211,7 +211,7 @@ TEST_F(ClipboardCommands, AnotherProgramsPictureArrivesOpaqueAtThePagesCorner) {
     EXPECT_EQ(layer.Opacity, 1);
     EXPECT_EQ(layer.Hue, 0);
     EXPECT_EQ(layer.Region.Bounds(), layer.Rect);
-    EXPECT_EQ(editor.Controls.CtlScroll21.Value, 100);
+    EXPECT_EQ(editor.Controls.Opacity.Value, 100);
 }
 
 TEST_F(ClipboardCommands, TheMarkWithoutACopyOfOursIsAnotherPrograms) {
@@ -247,10 +247,10 @@ TEST_F(ClipboardCommands, FloatingMovesTheSelectedPixelsToALayerInTwoUndoSteps) 
     EXPECT_EQ(floated.Hue, 0);
     EXPECT_EQ(floated.Region.Bounds(), Layer(1).Region.Bounds());
     ExpectCut(Layer(1).Image);
-    EXPECT_EQ(editor.Canvas.new_Img.GetPixel(2, 1), 0x80000001u);
-    EXPECT_FALSE(editor.Filters.SelectionOK());
-    EXPECT_EQ(editor.Controls.CtlScroll21.Value, 50);
-    EXPECT_TRUE(editor.Controls.ToolBarvs4[layer_buttons::MergeDown].Enabled);
+    EXPECT_EQ(editor.Canvas.GetPixel(2, 1), 0x80000001u);
+    EXPECT_FALSE(editor.Selection.Exists());
+    EXPECT_EQ(editor.Controls.Opacity.Value, 50);
+    EXPECT_TRUE(editor.Controls.LayerBar[layer_buttons::MergeDown].Enabled);
 
     EXPECT_EQ(editor.History.UndoIndex(), 2);
     for (int step = 0; step < 2; ++step) {
@@ -300,7 +300,7 @@ TEST_F(ClipboardCommands, AFullHistoryChangesNeitherLayersNorClipboard) {
     CutToClipboard(editor);
     EXPECT_EQ(host.Messages.size(), 1u);
     EXPECT_TRUE(host.Clipboard.IsEmpty());
-    EXPECT_TRUE(editor.Filters.SelectionOK());
+    EXPECT_TRUE(editor.Selection.Exists());
     EXPECT_EQ(Layer(1).Image.GetPixel(1, 0), PixelAt(1, 0));
 }
 

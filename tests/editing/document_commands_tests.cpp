@@ -30,12 +30,12 @@ TEST_F(DocumentCommands, NewMakesAnUnmodifiedPageWithOneSelectedEmptyLayer) {
     EXPECT_EQ(editor.History.UndoIndex(), 0);
     EXPECT_FALSE(editor.Controls.m_Undo.Enabled);
     EXPECT_EQ(editor.Document.PageBackground, 0xFF112233);
-    EXPECT_EQ(editor.Canvas.new_Img.Width(), 64);
+    EXPECT_EQ(editor.Canvas.Width(), 64);
     EXPECT_EQ(host.Animations, 1);
     EXPECT_EQ(host.SavePrompts, 0);
-    EXPECT_TRUE(editor.Controls.CtlScroll21.Enabled);
-    EXPECT_EQ(editor.Controls.CtlScroll21.Value, 100);
-    EXPECT_EQ(editor.Controls.CtlScroll2.Value, 48);
+    EXPECT_TRUE(editor.Controls.Opacity.Enabled);
+    EXPECT_EQ(editor.Controls.Opacity.Value, 100);
+    EXPECT_EQ(editor.Controls.PageHeight.Value, 48);
 }
 
 TEST_F(DocumentCommands, NewRefusesPagesOutside1To512) {
@@ -58,7 +58,7 @@ TEST_F(DocumentCommands, TheFirstImportMakesThePageOfAnySize) {
     EXPECT_EQ(editor.Document.LayerCount(), 1);
     EXPECT_EQ(editor.Document.SelectedLayer, 0);
     EXPECT_EQ(editor.History.UndoIndex(), 0);
-    EXPECT_EQ(editor.Canvas.new_Img.GetPixel(599, 399), 0xFF204060);
+    EXPECT_EQ(editor.Canvas.GetPixel(599, 399), 0xFF204060);
     EXPECT_THAT(host.Filters, ElementsAre("All Supported Formats|*.ico;*.png;*.gif;*.jpg;*.jpeg;"
                                           "*.bmp|ICO Files (*.ICO)|*.ico|PNG Files (*.PNG)|*.png"
                                           "|GIF Files (*.GIF)|*.gif|JPEG Files (*.JPG;*.JPEG)"
@@ -169,7 +169,7 @@ TEST_F(DocumentCommands, SaveAndOpenBringTheSameLayersBack) {
     PressOpacity(editor);
     ChangeOpacity(editor, 33);
     ReleaseOpacity(editor);
-    const graphics::Bitmap page = editor.Canvas.new_Img;
+    const graphics::Bitmap page = editor.Canvas;
     host.File = folder / "saved.volf";
     EXPECT_TRUE(Save(editor));
     EXPECT_FALSE(editor.Document.Modified);
@@ -181,8 +181,8 @@ TEST_F(DocumentCommands, SaveAndOpenBringTheSameLayersBack) {
     EXPECT_EQ(editor.Document.LayerCount(), 2);
     EXPECT_EQ(editor.Document.SelectedLayer, 1);
     EXPECT_EQ(Layer(1).Opacity, 0.33F);
-    EXPECT_EQ(editor.Controls.CtlScroll21.Value, 33);
-    EXPECT_TRUE(testing::SamePixels(editor.Canvas.new_Img, page));
+    EXPECT_EQ(editor.Controls.Opacity.Value, 33);
+    EXPECT_TRUE(testing::SamePixels(editor.Canvas, page));
     EXPECT_EQ(editor.History.UndoIndex(), 0);
     EXPECT_FALSE(editor.Controls.m_Undo.Enabled);
     EXPECT_EQ(editor.Title, "saved.volf - Varnel Orbelle");

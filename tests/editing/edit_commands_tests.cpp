@@ -36,10 +36,10 @@ TEST_F(EditCommands, CrystalAddsAGlossLayerAboveInTwoUndoSteps) {
     EXPECT_EQ(gloss.Region.Bounds().Y, 5 + 1);
     EXPECT_EQ(gloss.Image.GetPixel(40, 1), 0xC6FFFFFF);
     EXPECT_EQ(editor.History.UndoIndex(), 3);
-    EXPECT_EQ(editor.Controls.CtlScroll21.Value, 100);
+    EXPECT_EQ(editor.Controls.Opacity.Value, 100);
     EXPECT_THAT(host.Tips, ElementsAre(9));
     // 0x20 and 198 of white: (255 x 198 + 0x20 x 57) / 255.
-    EXPECT_EQ(editor.Canvas.new_Img.GetPixel(4 + 40, 5 + 1), 0xFFCDD4DB);
+    EXPECT_EQ(editor.Canvas.GetPixel(4 + 40, 5 + 1), 0xFFCDD4DB);
 
     Undo(editor);
     EXPECT_EQ(editor.Document.LayerCount(), 2);
@@ -79,22 +79,22 @@ TEST_F(EditCommands, AnOpacityDragIsOneUndoStep) {
         ChangeOpacity(editor, value);
     ReleaseOpacity(editor);
     EXPECT_EQ(Layer(0).Opacity, 0.5F);
-    EXPECT_EQ(editor.Canvas.new_Img.GetPixel(0, 0), 0x80FFFFFF);
+    EXPECT_EQ(editor.Canvas.GetPixel(0, 0), 0x80FFFFFF);
     EXPECT_EQ(editor.History.UndoIndex(), 1);
     Undo(editor);
     EXPECT_EQ(Layer(0).Opacity, 1);
-    EXPECT_EQ(editor.Controls.CtlScroll21.Value, 100);
+    EXPECT_EQ(editor.Controls.Opacity.Value, 100);
 }
 
 TEST_F(EditCommands, UndoKeepsSliderPositionsForRedo) {
     OpenFile(Picture("a.png", 4, 4));
     AddLayerCommand(editor);
-    editor.Controls.HUEscroll.Value = 70;
+    editor.Controls.Hue.Value = 70;
     Undo(editor);
-    EXPECT_EQ(editor.Controls.HUEscroll.Value, 0);
+    EXPECT_EQ(editor.Controls.Hue.Value, 0);
     Redo(editor);
     EXPECT_EQ(Layer(1).Hue, 70);
-    EXPECT_EQ(editor.Controls.HUEscroll.Value, 70);
+    EXPECT_EQ(editor.Controls.Hue.Value, 70);
     EXPECT_EQ(editor.Controls.HueValue, "70");
 }
 
@@ -105,13 +105,13 @@ TEST_F(EditCommands, SelectingARowShowsThatLayersSliders) {
     Layer(0).Contrast = 80;
     Layer(0).ScaleValue = -7;
     SelectLayer(editor, 0);
-    EXPECT_EQ(editor.Controls.CtlScroll21.Value, 40);
-    EXPECT_EQ(editor.Controls.ContrastScroll.Value, 80);
+    EXPECT_EQ(editor.Controls.Opacity.Value, 40);
+    EXPECT_EQ(editor.Controls.Contrast.Value, 80);
     EXPECT_EQ(editor.Controls.ContrastValue, "0");  // until the slider itself is moved
-    EXPECT_EQ(editor.Controls.ScaleScroll.Value, 43);
+    EXPECT_EQ(editor.Controls.Scale.Value, 43);
     EXPECT_EQ(editor.Controls.ScaleValue, "-7");
-    EXPECT_TRUE(editor.Controls.ToolBarvs4[layer_buttons::SetOrder].Enabled);
-    EXPECT_FALSE(editor.Controls.ToolBarvs4[layer_buttons::MergeDown].Enabled);
+    EXPECT_TRUE(editor.Controls.LayerBar[layer_buttons::SetOrder].Enabled);
+    EXPECT_FALSE(editor.Controls.LayerBar[layer_buttons::MergeDown].Enabled);
 }
 
 TEST_F(EditCommands, PageSizeAndBackgroundAreNoUndoSteps) {
@@ -121,7 +121,7 @@ TEST_F(EditCommands, PageSizeAndBackgroundAreNoUndoSteps) {
     SetPageBackground(editor, 0xFF102030);
     EXPECT_EQ(editor.Document.PageWidth, 512);
     EXPECT_EQ(editor.Document.PageHeight, 1);
-    EXPECT_EQ(editor.Canvas.new_Img.Width(), 512);
+    EXPECT_EQ(editor.Canvas.Width(), 512);
     EXPECT_EQ(Layer(0).Rect, (RectF{0, 0, 20, 20}));
     EXPECT_EQ(editor.Document.PageBackground, 0xFF102030);
     EXPECT_EQ(editor.History.UndoIndex(), 0);
@@ -152,8 +152,8 @@ TEST_F(EditCommands, ExportWritesWhateverTheAnswerToTheOverwriteQuestion) {
     host.ConfirmAnswer = false;
     Export(editor, png);
     EXPECT_THAT(host.Questions, ElementsAre("Warning: Image already exists, overwrite it?"));
-    EXPECT_TRUE(testing::SamePixels(graphics::LoadImageFromFile(folder / "out.png"),
-                                    editor.Canvas.new_Img));
+    EXPECT_TRUE(
+        testing::SamePixels(graphics::LoadImageFromFile(folder / "out.png"), editor.Canvas));
     EXPECT_FALSE(editor.Document.Modified);
 
     host.File = folder / "none/out.png";

@@ -14,8 +14,8 @@ protected:
 
     void UseBrush(int size, int opacity) {
         editor.CurrentTool = Tool::BrushEraser;
-        editor.Controls.CtlScroll23.Value = size;
-        editor.Controls.CtlScroll22.Value = opacity;
+        editor.Controls.BrushSize.Value = size;
+        editor.Controls.BrushOpacity.Value = opacity;
     }
 };
 
@@ -29,7 +29,7 @@ TEST_F(Erasers, ThePencilClearsOnePixelPerEvent) {
             EXPECT_EQ(Alpha(x, y), erased ? 0 : 255) << x << ", " << y;
         }
     EXPECT_EQ(Layer(0).Image.GetPixel(3, 4), kBlue & 0xFFFFFFU);
-    EXPECT_EQ(editor.Canvas.new_Img.GetPixel(3, 4), 0U);
+    EXPECT_EQ(editor.Canvas.GetPixel(3, 4), 0U);
     EXPECT_EQ(editor.History.UndoIndex(), 1);
     Undo(editor);
     EXPECT_EQ(Alpha(3, 4), 255);

@@ -3,7 +3,7 @@
 namespace orbelle::editing {
 namespace {
 
-using filters::CropShape;
+using document::FrameShape;
 using graphics::RectF;
 
 class MoveTool : public GestureTest {
@@ -32,7 +32,7 @@ TEST_F(MoveTool, PicksTheTopmostVisibleLayerByItsRegion) {
         PressAt(c.X, c.Y);
         EXPECT_EQ(editor.Document.SelectedLayer, c.Expected);
         EXPECT_EQ(editor.DragActive, c.Expected >= 0);
-        EXPECT_EQ(editor.Controls.CtlScroll21.Enabled, c.Expected >= 0);
+        EXPECT_EQ(editor.Controls.Opacity.Enabled, c.Expected >= 0);
         ReleaseAt(c.X, c.Y);
     }
     EXPECT_EQ(editor.History.UndoIndex(), 0);
@@ -53,12 +53,12 @@ TEST_F(MoveTool, APickShowsTheLayersControls) {
     Layer(0).Opacity = 0.254F;
     Layer(0).ScaleValue = -20;
     Layer(0).Hue = 33;
-    auto& buttons = editor.Controls.ToolBarvs4;
+    auto& buttons = editor.Controls.LayerBar;
     Click(20, 20);
-    EXPECT_EQ(editor.Controls.CtlScroll21.Value, 25);
-    EXPECT_EQ(editor.Controls.ScaleScroll.Value, 30);
+    EXPECT_EQ(editor.Controls.Opacity.Value, 25);
+    EXPECT_EQ(editor.Controls.Scale.Value, 30);
     EXPECT_EQ(editor.Controls.ScaleValue, "-20");
-    EXPECT_EQ(editor.Controls.HUEscroll.Value, 33);
+    EXPECT_EQ(editor.Controls.Hue.Value, 33);
     EXPECT_TRUE(buttons[layer_buttons::Remove].Enabled);
     EXPECT_TRUE(buttons[layer_buttons::Hide].Enabled);
     EXPECT_TRUE(buttons[layer_buttons::Hide].Pressed);
@@ -104,8 +104,8 @@ TEST_F(MoveTool, ADragIsOneUndoStepAndMovesTheRegionAtTheRelease) {
     PutOnlyLayer(testing::FilledPicture(4, 3, kBlue), 10, 5);
     DragWithoutRelease({{11, 6}, {14, 8}, {16, 9}});
     EXPECT_EQ(Layer(0).Region.Bounds(), (RectF{9, 5, 4, 3}));
-    EXPECT_EQ(editor.Canvas.new_Img.GetPixel(15, 8), kBlue);
-    EXPECT_EQ(editor.Canvas.new_Img.GetPixel(10, 5), 0U);
+    EXPECT_EQ(editor.Canvas.GetPixel(15, 8), kBlue);
+    EXPECT_EQ(editor.Canvas.GetPixel(10, 5), 0U);
     ReleaseAt(16, 9);
     EXPECT_EQ(Layer(0).Rect, (RectF{15, 8, 4, 3}));
     EXPECT_EQ(Layer(0).Region.Bounds(), (RectF{14, 8, 4, 3}));
@@ -129,18 +129,18 @@ TEST_F(MoveTool, ADragBackToItsStartIsNoUndoStep) {
 TEST_F(MoveTool, APressFloatsTheSelectionIntoALayerOfItsOwn) {
     OpenPage(20, 10);
     PutOnlyLayer(testing::FilledPicture(20, 10, kBlue), 0, 0).Opacity = 0.5F;
-    editor.Filters.SetCropDatas(8, 6, 3, 2, CropShape::Rectangle);
+    editor.Selection.AddFrame(8, 6, 3, 2, FrameShape::Rectangle);
     PressAt(5, 4);
     ASSERT_EQ(editor.Document.LayerCount(), 2);
     EXPECT_EQ(editor.Document.SelectedLayer, 1);
     EXPECT_EQ(editor.History.UndoIndex(), 2);
-    EXPECT_FALSE(editor.Filters.SelectionOK());
+    EXPECT_FALSE(editor.Selection.Exists());
     EXPECT_EQ(Drawn(0), "0-1: 0-19; 2-5: 0-2 8-19; 6-9: 0-19");
     EXPECT_EQ(Drawn(1), "0-3: 0-4");
     EXPECT_EQ(Layer(1).Rect, (RectF{3, 2, 5, 4}));
     EXPECT_EQ(Layer(1).Opacity, 0.5F);
-    EXPECT_EQ(editor.Controls.CtlScroll21.Value, 50);
-    EXPECT_TRUE(editor.Controls.ToolBarvs4[layer_buttons::MergeDown].Enabled);
+    EXPECT_EQ(editor.Controls.Opacity.Value, 50);
+    EXPECT_TRUE(editor.Controls.LayerBar[layer_buttons::MergeDown].Enabled);
 
     MoveTo(7, 5);
     ReleaseAt(7, 5);
@@ -157,7 +157,7 @@ TEST_F(MoveTool, APressFloatsTheSelectionIntoALayerOfItsOwn) {
 TEST_F(MoveTool, AFloatedSelectionIsTakenFromWhereTheLayerLies) {
     OpenPage(20, 10);
     PutOnlyLayer(testing::FilledPicture(10, 6, kBlue), 2, 1);
-    editor.Filters.SetCropDatas(8, 5, 0, 3, CropShape::Rectangle);
+    editor.Selection.AddFrame(8, 5, 0, 3, FrameShape::Rectangle);
     PressAt(19, 9);  // beside both layers, which are left where they are
     ASSERT_EQ(editor.Document.LayerCount(), 2);
     EXPECT_EQ(editor.Document.SelectedLayer, -1);

@@ -200,10 +200,10 @@ protected:
     void CheckPage() {
         Compose(editor);
         document::Compositor fresh;
-        graphics::DIBSave canvas;
+        graphics::Bitmap canvas;
         document::Document document = editor.Document;
         fresh.Compose(document, graphics::InterpolationMode::NearestNeighbor, canvas);
-        ASSERT_TRUE(SamePixels(editor.Canvas.new_Img, canvas.new_Img));
+        ASSERT_TRUE(SamePixels(editor.Canvas, canvas));
     }
 
     std::mt19937 random_{GetParam()};

@@ -21,9 +21,9 @@ TEST_F(SceneInput, APressWithoutLayersOnlyClosesTheFillPopup) {
     for (int tool = 0; tool <= 12; ++tool) {
         SCOPED_TRACE(tool);
         editor.CurrentTool = static_cast<Tool>(tool);
-        editor.Controls.ToolBarvs3Visible = true;
+        editor.Controls.FillBarVisible = true;
         Press(OnScene(90, 70));
-        EXPECT_FALSE(editor.Controls.ToolBarvs3Visible);
+        EXPECT_FALSE(editor.Controls.FillBarVisible);
         EXPECT_FALSE(editor.DragActive);
         EXPECT_EQ(editor.TipCounter, 7);
         EXPECT_EQ(editor.MouseDownX, 90);
@@ -65,7 +65,7 @@ TEST_F(SceneInput, StepsOfEachTool) {
         EXPECT_EQ(editor.DragActive, c.Drags);
         EXPECT_EQ(editor.TipCounter, 500);
         EXPECT_EQ(editor.History.UndoIndex(), c.StepsAtPress);
-        EXPECT_TRUE(editor.Controls.CtlScroll21.Enabled);
+        EXPECT_TRUE(editor.Controls.Opacity.Enabled);
         MoveTo(9, 8);
         ReleaseAt(9, 8);
         EXPECT_FALSE(editor.DragActive);
@@ -73,13 +73,13 @@ TEST_F(SceneInput, StepsOfEachTool) {
         EXPECT_EQ(host.HiddenTips, c.HidesTips ? 1 : 0);
 
         const int steps = editor.History.UndoIndex();
-        editor.Filters.ClearCrop();
+        editor.Selection.Clear();
         editor.Document.SelectedLayer = document::kNoLayer;
         PressAt(20, 20);
         EXPECT_EQ(editor.DragActive, c.DragsWithoutLayer);
         EXPECT_EQ(editor.TipCounter, 500);
         EXPECT_EQ(editor.History.UndoIndex(), steps);
-        EXPECT_EQ(editor.Controls.ScaleScroll.Enabled, c.Chosen == Tool::Move);
+        EXPECT_EQ(editor.Controls.Scale.Enabled, c.Chosen == Tool::Move);
         ReleaseAt(20, 20);
     }
 }
@@ -152,15 +152,15 @@ TEST_F(SceneInput, TheMarkerSnapsToThePagePixelOrShowsTheBrush) {
         SCOPED_TRACE(::testing::Message() << c.Zoom << " " << c.BrushSize);
         SetZoom(c.Zoom);
         editor.CurrentTool = c.Chosen;
-        editor.Controls.CtlScroll23.Value = c.BrushSize;
+        editor.Controls.BrushSize.Value = c.BrushSize;
         MoveScene(editor, OnScene(c.At.X, c.At.Y));
-        EXPECT_TRUE(editor.Overlays.Shape2.Visible);
-        EXPECT_EQ(editor.Overlays.Shape2.IsOval, c.Chosen == Tool::BrushEraser);
-        EXPECT_EQ(editor.Overlays.Shape2.Rect, c.Expected);
+        EXPECT_TRUE(editor.Overlays.PointerMark.Visible);
+        EXPECT_EQ(editor.Overlays.PointerMark.IsOval, c.Chosen == Tool::BrushEraser);
+        EXPECT_EQ(editor.Overlays.PointerMark.Rect, c.Expected);
     }
     editor.CurrentTool = Tool::Move;
     MoveScene(editor, OnScene(1, 1));
-    EXPECT_EQ(editor.Overlays.Shape2.Rect, (RectF{25, 20, 30, 30}));
+    EXPECT_EQ(editor.Overlays.PointerMark.Rect, (RectF{25, 20, 30, 30}));
 }
 
 TEST_F(SceneInput, AReleaseWithoutADragComposes) {
@@ -168,7 +168,7 @@ TEST_F(SceneInput, AReleaseWithoutADragComposes) {
     editor.CurrentTool = Tool::BrushEraser;
     Layer(0).Image = testing::FilledPicture(40, 30, kBlue);
     ReleaseAt(1, 1);
-    EXPECT_EQ(editor.Canvas.new_Img.GetPixel(3, 3), kBlue);
+    EXPECT_EQ(editor.Canvas.GetPixel(3, 3), kBlue);
     EXPECT_EQ(host.HiddenTips, 0);
     editor.Document.SelectedLayer = document::kNoLayer;
     ReleaseAt(1, 1);
@@ -211,7 +211,7 @@ TEST_F(SceneInput, OtherKeysAndKeysWithoutASelectedLayer) {
     PutLayer(testing::FilledPicture(4, 4, kBlue), 0, 0);
     KeyDownScene(editor, key_codes::Delete);
     EXPECT_EQ(editor.Document.LayerCount(), 1);
-    EXPECT_EQ(editor.Canvas.new_Img.GetPixel(2, 2), 0U);
+    EXPECT_EQ(editor.Canvas.GetPixel(2, 2), 0U);
     EXPECT_THAT(host.Tips, ElementsAre(15));
 }
 

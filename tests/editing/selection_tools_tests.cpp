@@ -3,7 +3,7 @@
 namespace orbelle::editing {
 namespace {
 
-using filters::CropShape;
+using document::FrameShape;
 using graphics::PointF;
 using graphics::RectF;
 using ::testing::ElementsAre;
@@ -18,8 +18,8 @@ protected:
         editor.CurrentTool = Tool::SelectRectangle;
     }
 
-    std::string Selected() { return PixelRuns(editor.Filters.CropRegion.Rects()); }
-    bool IsSelection() { return editor.Filters.SelectionOK(); }
+    std::string Selected() { return PixelRuns(editor.Selection.Region().Rects()); }
+    bool IsSelection() { return editor.Selection.Exists(); }
 
     // A white page under a black of alpha 100.
     bool IsDimmed(int x, int y) {
@@ -49,15 +49,15 @@ TEST_F(SelectionTools, FramesOfDragsInAllDirections) {
     for (const auto& c : cases) {
         SCOPED_TRACE(c.Expected);
         DragWithoutRelease({c.From, c.To});
-        EXPECT_TRUE(editor.Overlays.SelectedShape.Visible);
-        EXPECT_FALSE(editor.Overlays.SelectedShape.IsOval);
-        EXPECT_EQ(editor.Overlays.SelectedShape.Rect, c.Frame);
+        EXPECT_TRUE(editor.Overlays.SelectionFrame.Visible);
+        EXPECT_FALSE(editor.Overlays.SelectionFrame.IsOval);
+        EXPECT_EQ(editor.Overlays.SelectionFrame.Rect, c.Frame);
         EXPECT_FALSE(IsSelection());
         ReleaseAt(c.To.X, c.To.Y);
         EXPECT_EQ(Selected(), c.Expected);
         EXPECT_TRUE(IsSelection());
-        EXPECT_FALSE(editor.Overlays.SelectedShape.Visible);
-        EXPECT_EQ(editor.Overlays.SelectedShape.Rect, RectF{});
+        EXPECT_FALSE(editor.Overlays.SelectionFrame.Visible);
+        EXPECT_EQ(editor.Overlays.SelectionFrame.Rect, RectF{});
     }
     EXPECT_EQ(editor.History.UndoIndex(), 0);
 }
@@ -65,14 +65,14 @@ TEST_F(SelectionTools, FramesOfDragsInAllDirections) {
 TEST_F(SelectionTools, FramesEndWithThePage) {
     Drag({{5, 4}, {70, 60}});
     EXPECT_EQ(Selected(), "4-29: 5-39");
-    EXPECT_EQ(editor.Filters.GetRegionRect(), (graphics::RectI{5, 4, 35, 26}));
+    EXPECT_EQ(editor.Selection.Bounds(), (graphics::RectI{5, 4, 35, 26}));
 }
 
 TEST_F(SelectionTools, FramesSnapToPagePixelsAtAnyZoom) {
     SetZoom(4);  // the page lies at (20, 15)
     Press(OnScene(20 + 6, 15 + 5));
     MoveScene(editor, OnScene(20 + 13, 15 + 10));
-    EXPECT_EQ(editor.Overlays.SelectedShape.Rect, (RectF{24, 19, 12, 8}));
+    EXPECT_EQ(editor.Overlays.SelectionFrame.Rect, (RectF{24, 19, 12, 8}));
     ReleaseScene(editor, OnScene(20 + 13, 15 + 10));
     EXPECT_EQ(Selected(), "1-2: 1-3");
 }
@@ -110,10 +110,10 @@ TEST_F(SelectionTools, ShiftUnitesAndAClickClears) {
 
 TEST_F(SelectionTools, EllipsesFillTheFrame) {
     editor.CurrentTool = Tool::SelectEllipse;
-    editor.Controls.ToolBarvs5Visible = true;
+    editor.Controls.SelectionBarVisible = true;
     DragWithoutRelease({{1, 1}, {10, 8}});
-    EXPECT_FALSE(editor.Controls.ToolBarvs5Visible);
-    EXPECT_TRUE(editor.Overlays.SelectedShape.IsOval);
+    EXPECT_FALSE(editor.Controls.SelectionBarVisible);
+    EXPECT_TRUE(editor.Overlays.SelectionFrame.IsOval);
     ReleaseAt(10, 8);
     EXPECT_EQ(Selected(), "2: 3-9; 3-4: 2-10; 5: 1-10; 6-7: 2-10; 8: 3-9");
 }
@@ -136,22 +136,22 @@ TEST_F(SelectionTools, AllOfThePageButTheSelectionIsDimmed) {
 // The triangle's rows run from 5 + (y - 5) x 10 / 7 to the column before 15.
 TEST_F(SelectionTools, APolygonIsClickedAndClosedByTheOtherButton) {
     editor.CurrentTool = Tool::SelectPolygon;
-    editor.Overlays.SelectedShape.Visible = true;
+    editor.Overlays.SelectionFrame.Visible = true;
     MoveTo(3, 3);
-    EXPECT_FALSE(editor.Overlays.Line2.Visible);
+    EXPECT_FALSE(editor.Overlays.RubberBand.Visible);
     Click(5, 5);
-    EXPECT_FALSE(editor.Overlays.SelectedShape.Visible);
+    EXPECT_FALSE(editor.Overlays.SelectionFrame.Visible);
     MoveTo(9, 7);
-    EXPECT_TRUE(editor.Overlays.Line2.Visible);
-    EXPECT_EQ(editor.Overlays.Line2.Start, (PointF{85, 65}));
-    EXPECT_EQ(editor.Overlays.Line2.End, (PointF{89.5F, 67.5F}));
+    EXPECT_TRUE(editor.Overlays.RubberBand.Visible);
+    EXPECT_EQ(editor.Overlays.RubberBand.Start, (PointF{85, 65}));
+    EXPECT_EQ(editor.Overlays.RubberBand.End, (PointF{89.5F, 67.5F}));
     Click(15, 5);
     Click(15, 12);
     EXPECT_THAT(editor.PolygonPoints, ElementsAre(PointF{5, 5}, PointF{15, 5}, PointF{15, 12}));
     EXPECT_FALSE(IsSelection());
     Press(OnPage(30, 20, kRightButton));
     EXPECT_EQ(Selected(), "5: 5-14; 6: 7-14; 7: 8-14; 8: 10-14; 9: 11-14; 10: 13-14; 11: 14");
-    EXPECT_FALSE(editor.Overlays.Line2.Visible);
+    EXPECT_FALSE(editor.Overlays.RubberBand.Visible);
     EXPECT_THAT(editor.PolygonPoints, IsEmpty());
     EXPECT_THAT(host.LayerMenus, IsEmpty());
     EXPECT_FALSE(IsDimmed(12, 7));
@@ -171,7 +171,7 @@ TEST_F(SelectionTools, APolygonDragAddsPointsToTheLeftAndUpOnly) {
 }
 
 TEST_F(SelectionTools, AnOpenPolygonShowsItsOutlineInPlaceOfTheMask) {
-    editor.Filters.SetCropDatas(4, 4, 0, 0, CropShape::Rectangle);
+    editor.Selection.AddFrame(4, 4, 0, 0, FrameShape::Rectangle);
     editor.CurrentTool = Tool::SelectPolygon;
     for (const PointF& point : {PointF{5, 5}, {15, 5}, {15, 12}})
         Click(point.X, point.Y, kShift);
@@ -187,8 +187,8 @@ TEST_F(SelectionTools, AnOpenPolygonShowsItsOutlineInPlaceOfTheMask) {
 TEST_F(SelectionTools, PolygonsBeginAnewOrUnite) {
     editor.CurrentTool = Tool::SelectPolygon;
     for (const bool unite : {true, false}) {
-        editor.Filters.CreateCrop();
-        editor.Filters.SetCropDatas(4, 4, 0, 0, CropShape::Rectangle);
+        editor.Selection.Start();
+        editor.Selection.AddFrame(4, 4, 0, 0, FrameShape::Rectangle);
         for (const PointF& point : {PointF{5, 5}, {8, 5}, {8, 8}, {5, 8}})
             Click(point.X, point.Y, unite ? kShift : Held{});
         Press(OnPage(1, 1, kRightButton));
@@ -198,10 +198,9 @@ TEST_F(SelectionTools, PolygonsBeginAnewOrUnite) {
 
 TEST_F(SelectionTools, APolygonOfOneClickSelectsNothingAndNoPolygonChangesNothing) {
     editor.CurrentTool = Tool::SelectPolygon;
-    editor.Filters.SetCropDatas(4, 4, 0, 0, CropShape::Rectangle);
+    editor.Selection.AddFrame(4, 4, 0, 0, FrameShape::Rectangle);
     Press(OnPage(1, 1, kRightButton));
     EXPECT_EQ(Selected(), "0-3: 0-3");
-    EXPECT_EQ(editor.Filters.CropCount, 1);
     Click(5, 5);
     Press(OnPage(1, 1, kRightButton));
     EXPECT_TRUE(IsSelection());

@@ -39,7 +39,7 @@ protected:
     }
 
     Button& LayerButton(int number) {
-        return editor.Controls.ToolBarvs4[static_cast<std::size_t>(number)];
+        return editor.Controls.LayerBar[static_cast<std::size_t>(number)];
     }
 
     void FillHistory(int count) {
@@ -145,8 +145,8 @@ TEST_F(StackCommands, DeleteSelectsTheLayerBelowAndShowsItsSliders) {
         DeleteCommand(editor);
         EXPECT_EQ(Order(), result);
         EXPECT_EQ(editor.Document.SelectedLayer, place);
-        EXPECT_EQ(editor.Controls.CtlScroll21.Value, opacity);
-        EXPECT_EQ(editor.Controls.HUEscroll.Value, 33);
+        EXPECT_EQ(editor.Controls.Opacity.Value, opacity);
+        EXPECT_EQ(editor.Controls.Hue.Value, 33);
         EXPECT_EQ(editor.History.UndoIndex(), 1);
         EXPECT_TRUE(LayerButton(layer_buttons::Remove).Enabled);
         // The sliders are written into the layer that they were shown for.
@@ -167,9 +167,9 @@ TEST_F(StackCommands, TheButtonKeepsTheLastLayerAndTheMenuRemovesIt) {
     DeleteCommand(editor);
     EXPECT_EQ(editor.Document.LayerCount(), 0);
     EXPECT_FALSE(editor.Document.HasSelection());
-    EXPECT_EQ(*editor.Canvas.new_Img.GetPixel(0, 0), 0u);
-    EXPECT_FALSE(editor.Controls.CtlScroll21.Enabled);
-    EXPECT_FALSE(editor.Controls.HUEscroll.Enabled);
+    EXPECT_EQ(*editor.Canvas.GetPixel(0, 0), 0u);
+    EXPECT_FALSE(editor.Controls.Opacity.Enabled);
+    EXPECT_FALSE(editor.Controls.Hue.Enabled);
     EXPECT_TRUE(LayerButton(layer_buttons::Add).Enabled);
     for (const int button : {layer_buttons::Remove, layer_buttons::Hide, layer_buttons::SetOrder,
                              layer_buttons::MergeDown})
@@ -177,7 +177,7 @@ TEST_F(StackCommands, TheButtonKeepsTheLastLayerAndTheMenuRemovesIt) {
 
     Undo(editor);
     EXPECT_EQ(editor.Document.SelectedLayer, 0);
-    EXPECT_TRUE(editor.Controls.CtlScroll21.Enabled);
+    EXPECT_TRUE(editor.Controls.Opacity.Enabled);
     EXPECT_TRUE(LayerButton(layer_buttons::Hide).Enabled);
     EXPECT_TRUE(LayerButton(layer_buttons::Hide).Pressed);
 }
@@ -190,12 +190,12 @@ TEST_F(StackCommands, HideLayerIsNoUndoStep) {
     EXPECT_FALSE(LayerButton(layer_buttons::Hide).Pressed);
     EXPECT_FALSE(LayerButton(layer_buttons::SetOrder).Enabled);
     EXPECT_FALSE(LayerButton(layer_buttons::MergeDown).Enabled);
-    EXPECT_EQ(*editor.Canvas.new_Img.GetPixel(1, 0), 0u);
+    EXPECT_EQ(*editor.Canvas.GetPixel(1, 0), 0u);
     HideLayerCommand(editor);
     EXPECT_TRUE(Layer(1).Visible);
     EXPECT_TRUE(LayerButton(layer_buttons::Hide).Pressed);
     EXPECT_TRUE(LayerButton(layer_buttons::MergeDown).Enabled);
-    EXPECT_NE(*editor.Canvas.new_Img.GetPixel(1, 0), 0u);
+    EXPECT_NE(*editor.Canvas.GetPixel(1, 0), 0u);
     EXPECT_EQ(editor.History.UndoIndex(), 0);
     EXPECT_FALSE(editor.Document.Modified);
 }
@@ -234,8 +234,8 @@ TEST_F(StackCommands, MergeBlendsBothLayersInTheBoxOfBoth) {
                                  b, b, 0}));
     EXPECT_EQ(merged.Region.Bounds(), (RectF{0, -1, 3, 4}));
     EXPECT_FALSE(merged.Region.IsVisiblePoint(0, 0));
-    EXPECT_EQ(editor.Controls.CtlScroll21.Value, 100);
-    EXPECT_EQ(editor.Controls.HUEscroll.Value, 0);
+    EXPECT_EQ(editor.Controls.Opacity.Value, 100);
+    EXPECT_EQ(editor.Controls.Hue.Value, 0);
 
     EXPECT_EQ(editor.History.UndoIndex(), 2);
     for (int step = 0; step < 2; ++step) {
@@ -297,11 +297,11 @@ TEST_F(StackCommands, TheToolbarEndsTheSelectionAndShowsThatInAnyCase) {
     const Bitmap plain = editor.Scene;
     for (void (*command)(Editor&) : {RemoveLayerCommand, HideLayerCommand, MergeDownCommand}) {
         editor.Document.SelectedLayer = document::kNoLayer;
-        editor.Filters.SetCropDatas(2, 2, 0, 0, filters::CropShape::Rectangle);
+        editor.Selection.AddFrame(2, 2, 0, 0, document::FrameShape::Rectangle);
         DrawScene(editor);
         ASSERT_FALSE(testing::SamePixels(editor.Scene, plain));
         command(editor);
-        EXPECT_FALSE(editor.Filters.SelectionOK());
+        EXPECT_FALSE(editor.Selection.Exists());
         EXPECT_TRUE(testing::SamePixels(editor.Scene, plain));
     }
 }

@@ -3,7 +3,7 @@
 #include "editing/menu_state.h"
 #include "editing/undo_commands.h"
 #include "editing_fixture.h"
-#include "filters/colour_adjustments.h"
+#include "filters/color_adjustments.h"
 #include "filters/light_and_shadow.h"
 #include "filters/radial_light.h"
 #include "filters/state_looks.h"
@@ -68,7 +68,7 @@ TEST_F(StyleCommands, EachMakesItsLayersStepsAndTips) {
         EXPECT_EQ(editor.Document.LayerCount(), 2 + c.NewLayers);
         EXPECT_EQ(editor.Document.SelectedLayer, c.Selected);
         EXPECT_EQ(editor.History.UndoIndex() - steps, c.UndoSteps);
-        EXPECT_EQ(editor.Controls.CtlScroll21.Value, c.Opacity);
+        EXPECT_EQ(editor.Controls.Opacity.Value, c.Opacity);
         EXPECT_THAT(host.Tips, ElementsAreArray(c.Tips));
         EXPECT_THAT(host.Messages, ElementsAre());
         EXPECT_EQ(host.Busy, 0);
@@ -140,7 +140,7 @@ TEST_F(StyleCommands, IosPutsAPlateUnderThePictureThatCutsIt) {
     EXPECT_EQ(Layer(1).ImageWidth, 40);
     EXPECT_FALSE(Layer(2).ClipNextLayer);
     EXPECT_EQ(Layer(2).Image.GetPixel(0, 0), 0xFF3366CC);
-    const Bitmap& page = editor.Canvas.new_Img;
+    const Bitmap& page = editor.Canvas;
     EXPECT_EQ(page.GetPixel(0, 0), 0U);
     EXPECT_EQ(page.GetPixel(10, 5), 0xFF3366CC);
     EXPECT_EQ(page.GetPixel(10, 20), 0xFF00FF00);
@@ -148,7 +148,7 @@ TEST_F(StyleCommands, IosPutsAPlateUnderThePictureThatCutsIt) {
 
 TEST_F(StyleCommands, VistaAlsoChangesThePictureBelow) {
     Bitmap expected = Layer(1).Image;
-    filters::i3Dstyle(expected, 5);
+    filters::ThreeDStyle(expected, 5);
     filters::SaturationColor(expected, 25);
     Vista(editor);
     EXPECT_TRUE(testing::SamePixels(Layer(1).Image, expected));

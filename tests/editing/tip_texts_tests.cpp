@@ -38,49 +38,49 @@ TEST_F(TipTexts, FixedTipsTouchOnlyTheFirstBalloon) {
     for (const auto& [tip, text, place] : cases) {
         SCOPED_TRACE(tip);
         const TipChoice choice = ChooseTips(editor, tip, true, 1);
-        ASSERT_TRUE(choice.CtlTips1);
-        EXPECT_EQ(choice.CtlTips1->Text, text);
-        EXPECT_EQ(choice.CtlTips1->Place, place);
-        EXPECT_TRUE(choice.Tips1Visible);
-        EXPECT_FALSE(choice.Tips2Visible);
+        ASSERT_TRUE(choice.FirstBalloon);
+        EXPECT_EQ(choice.FirstBalloon->Text, text);
+        EXPECT_EQ(choice.FirstBalloon->Place, place);
+        EXPECT_TRUE(choice.FirstVisible);
+        EXPECT_FALSE(choice.SecondVisible);
     }
     for (const int silent : {5, 6, 13}) {
         const TipChoice choice = ChooseTips(editor, silent, false, 1);
-        EXPECT_FALSE(choice.CtlTips1);
-        EXPECT_FALSE(choice.Tips1Visible);
+        EXPECT_FALSE(choice.FirstBalloon);
+        EXPECT_FALSE(choice.FirstVisible);
     }
 }
 
 TEST_F(TipTexts, TheMoveToolPicksOneOfTwoAndNeedsALayer) {
-    EXPECT_FALSE(ChooseTips(editor, tips::MoveTool, false, 1).Tips1Visible);
+    EXPECT_FALSE(ChooseTips(editor, tips::MoveTool, false, 1).FirstVisible);
     NewPage(8, 8);
     const TipChoice first = ChooseTips(editor, tips::MoveTool, false, 1);
-    EXPECT_TRUE(first.Tips1Visible);
-    EXPECT_THAT(first.CtlTips1->Text, StartsWith("Click right-click"));
-    EXPECT_FALSE(first.CtlTips2);
+    EXPECT_TRUE(first.FirstVisible);
+    EXPECT_THAT(first.FirstBalloon->Text, StartsWith("Click right-click"));
+    EXPECT_FALSE(first.SecondBalloon);
     const TipChoice second = ChooseTips(editor, tips::MoveTool, true, 2);
-    EXPECT_THAT(second.CtlTips1->Text, HasSubstr("direction key"));
-    ASSERT_TRUE(second.CtlTips2);
-    EXPECT_EQ(second.CtlTips2->Place, TipPlace::AddLayerButton);
-    EXPECT_EQ(second.Tips2Visible, true);
+    EXPECT_THAT(second.FirstBalloon->Text, HasSubstr("direction key"));
+    ASSERT_TRUE(second.SecondBalloon);
+    EXPECT_EQ(second.SecondBalloon->Place, TipPlace::AddLayerButton);
+    EXPECT_EQ(second.SecondVisible, true);
 }
 
 TEST_F(TipTexts, ToolsHaveTwoBalloons) {
-    EXPECT_FALSE(After(Tool::Line).Tips1Visible);
+    EXPECT_FALSE(After(Tool::Line).FirstVisible);
     NewPage(8, 8);
-    EXPECT_THAT(After(Tool::FilledEllipse).CtlTips1->Text, HasSubstr("draw a circle."));
-    EXPECT_EQ(After(Tool::Rectangle).CtlTips2->Text,
+    EXPECT_THAT(After(Tool::FilledEllipse).FirstBalloon->Text, HasSubstr("draw a circle."));
+    EXPECT_EQ(After(Tool::Rectangle).SecondBalloon->Text,
               "Set the rectangle color, width and opacity. Double-click to set background "
               "color/foreground color.");
-    EXPECT_EQ(After(Tool::Pencil).CtlTips2->Place, TipPlace::ColorWells);
-    EXPECT_EQ(After(Tool::BrushEraser).CtlTips2->Place, TipPlace::BrushOptions);
+    EXPECT_EQ(After(Tool::Pencil).SecondBalloon->Place, TipPlace::ColorWells);
+    EXPECT_EQ(After(Tool::BrushEraser).SecondBalloon->Place, TipPlace::BrushOptions);
     for (const Tool tool : {Tool::PencilEraser, Tool::SelectRectangle})
-        EXPECT_EQ(After(tool).Tips2Visible, false);
+        EXPECT_EQ(After(tool).SecondVisible, false);
     // The texts stay as they were.
     for (const Tool tool : {Tool::SelectEllipse, Tool::SelectPolygon, Tool::ColorPick}) {
-        EXPECT_FALSE(After(tool).CtlTips1);
-        EXPECT_FALSE(After(tool).CtlTips2);
-        EXPECT_EQ(After(tool).Tips2Visible, true);
+        EXPECT_FALSE(After(tool).FirstBalloon);
+        EXPECT_FALSE(After(tool).SecondBalloon);
+        EXPECT_EQ(After(tool).SecondVisible, true);
     }
 }
 
@@ -91,11 +91,11 @@ TEST_F(TipTexts, TheWheelZoomsAtThePointer) {
     ZoomInAt(editor, 95, 5);
     EXPECT_EQ(editor.View.Zoom, 3);
     // 95 lies at page pixel 95, so (95 - 285) / -200 = 0.95 of the way, in tenths.
-    EXPECT_EQ(editor.View.Hs1.Value, 190);
-    EXPECT_EQ(editor.View.Vs1.Value, 10);
+    EXPECT_EQ(editor.View.HorizontalScroll.Value, 190);
+    EXPECT_EQ(editor.View.VerticalScroll.Value, 10);
     ZoomOutAt(editor, 95, 5);
     EXPECT_EQ(editor.View.Zoom, 1);
-    EXPECT_FALSE(editor.View.Hs1.Visible);
+    EXPECT_FALSE(editor.View.HorizontalScroll.Visible);
 }
 
 }  // namespace

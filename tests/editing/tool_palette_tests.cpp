@@ -7,7 +7,7 @@
 namespace orbelle::editing {
 namespace {
 
-using filters::CropShape;
+using document::FrameShape;
 using graphics::Argb;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
@@ -16,7 +16,7 @@ class ToolPalette : public GestureTest {
 protected:
     ToolPalette() { OpenPage(40, 30); }
 
-    void SelectSomething() { editor.Filters.SetCropDatas(4, 4, 0, 0, CropShape::Rectangle); }
+    void SelectSomething() { editor.Selection.AddFrame(4, 4, 0, 0, FrameShape::Rectangle); }
 
     template <std::size_t kCount>
     static std::vector<int> Pressed(const std::array<Button, kCount>& buttons) {
@@ -57,9 +57,9 @@ TEST_F(ToolPalette, WhatEachButtonChooses) {
         EXPECT_EQ(editor.CurrentTool, c.Chosen);
         EXPECT_EQ(editor.Controls.LineWidth.Enabled, c.HasLineWidth);
         EXPECT_EQ(editor.Controls.ColorOpacity.Enabled, c.HasColorOpacity);
-        EXPECT_EQ(editor.Filters.SelectionOK(), c.KeepsSelection);
+        EXPECT_EQ(editor.Selection.Exists(), c.KeepsSelection);
         EXPECT_EQ(host.Tips, c.Tips);
-        EXPECT_THAT(Pressed(editor.Controls.ToolBarvs2), ElementsAre(c.Button));
+        EXPECT_THAT(Pressed(editor.Controls.ToolBox), ElementsAre(c.Button));
     }
     ClickToolButton(editor, 3);  // a gap between buttons
     EXPECT_EQ(editor.CurrentTool, Tool::PencilEraser);
@@ -78,21 +78,21 @@ TEST_F(ToolPalette, PopupsOpenWithTheirButtonAndCloseWithTheSecondClick) {
     for (const auto& c : clicks) {
         SCOPED_TRACE(&c - clicks);
         ClickToolButton(editor, c.Button);
-        EXPECT_EQ(controls.ToolBarvs3Visible, c.Fill);
-        EXPECT_EQ(controls.ToolBarvs5Visible, c.Selection);
-        EXPECT_EQ(controls.ToolBarvs6Visible, c.Eraser);
+        EXPECT_EQ(controls.FillBarVisible, c.Fill);
+        EXPECT_EQ(controls.SelectionBarVisible, c.Selection);
+        EXPECT_EQ(controls.EraserBarVisible, c.Eraser);
     }
     ClickToolButton(editor, 5);
     PressAt(1, 1);
-    EXPECT_FALSE(controls.ToolBarvs3Visible);
+    EXPECT_FALSE(controls.FillBarVisible);
 }
 
 TEST_F(ToolPalette, FillAndSelectionKindsAreRemembered) {
     ClickToolButton(editor, 5);
     ChooseFill(editor, FillKind::VerticalGradient);
     EXPECT_EQ(editor.FillKind, FillKind::VerticalGradient);
-    EXPECT_THAT(Pressed(editor.Controls.ToolBarvs3), ElementsAre(3));
-    EXPECT_FALSE(editor.Controls.ToolBarvs3Visible);
+    EXPECT_THAT(Pressed(editor.Controls.FillBar), ElementsAre(3));
+    EXPECT_FALSE(editor.Controls.FillBarVisible);
 
     const struct {
         int Button;
@@ -104,22 +104,22 @@ TEST_F(ToolPalette, FillAndSelectionKindsAreRemembered) {
     for (const auto& c : cases) {
         SCOPED_TRACE(c.Button);
         ClickToolButton(editor, 2);
-        editor.Filters.CropRegion = {};
+        editor.Selection.Region = {};
         ChooseSelection(editor, c.Button);
-        EXPECT_FALSE(editor.Controls.ToolBarvs5Visible);
-        EXPECT_FALSE(editor.Filters.CropRegion.IsNull());  // begun, without a shape
-        EXPECT_FALSE(editor.Filters.SelectionOK());
+        EXPECT_FALSE(editor.Controls.SelectionBarVisible);
+        EXPECT_FALSE(editor.Selection.Region().IsNull());  // begun, without a shape
+        EXPECT_FALSE(editor.Selection.Exists());
         ClickToolButton(editor, 1);
-        EXPECT_FALSE(editor.Overlays.SelectedShape.Visible);
+        EXPECT_FALSE(editor.Overlays.SelectionFrame.Visible);
         ClickToolButton(editor, 2);
         EXPECT_EQ(editor.CurrentTool, c.Chosen);
-        EXPECT_THAT(Pressed(editor.Controls.ToolBarvs5), ElementsAre(c.Button));
-        EXPECT_EQ(editor.Overlays.SelectedShape.Visible, c.Frame);
-        EXPECT_EQ(editor.Overlays.SelectedShape.IsOval, c.Oval);
+        EXPECT_THAT(Pressed(editor.Controls.SelectionBar), ElementsAre(c.Button));
+        EXPECT_EQ(editor.Overlays.SelectionFrame.Visible, c.Frame);
+        EXPECT_EQ(editor.Overlays.SelectionFrame.IsOval, c.Oval);
     }
     SelectSomething();
     ChooseSelection(editor, 2);
-    EXPECT_TRUE(editor.Filters.SelectionOK());
+    EXPECT_TRUE(editor.Selection.Exists());
 }
 
 TEST_F(ToolPalette, TheBrushHasAPanelThatSlidesWithTheEraserButton) {
@@ -135,15 +135,15 @@ TEST_F(ToolPalette, TheBrushHasAPanelThatSlidesWithTheEraserButton) {
     ChooseEraser(editor, 1);
     EXPECT_EQ(editor.CurrentTool, Tool::BrushEraser);
     EXPECT_TRUE(editor.Controls.BrushPanelOpen);
-    EXPECT_TRUE(editor.Overlays.Shape2.IsOval);
-    EXPECT_FALSE(editor.Controls.ToolBarvs6Visible);
-    EXPECT_THAT(Pressed(editor.Controls.ToolBarvs6), ElementsAre(1));
+    EXPECT_TRUE(editor.Overlays.PointerMark.IsOval);
+    EXPECT_FALSE(editor.Controls.EraserBarVisible);
+    EXPECT_THAT(Pressed(editor.Controls.EraserBar), ElementsAre(1));
     EXPECT_THAT(host.Tips, ElementsAre(4));
     EXPECT_EQ(host.BrushPanelSlides, 2);
 
     ClickToolButton(editor, 4);
     EXPECT_FALSE(editor.Controls.BrushPanelOpen);
-    EXPECT_FALSE(editor.Overlays.Shape2.IsOval);
+    EXPECT_FALSE(editor.Overlays.PointerMark.IsOval);
     EXPECT_EQ(host.BrushPanelSlides, 3);
     EXPECT_EQ(editor.Controls.ColorOpacity.Value, 50);
     ClickToolButton(editor, 1);
@@ -153,14 +153,14 @@ TEST_F(ToolPalette, TheBrushHasAPanelThatSlidesWithTheEraserButton) {
     ClickToolButton(editor, 12);
     EXPECT_EQ(editor.CurrentTool, Tool::BrushEraser);
     EXPECT_TRUE(editor.Controls.BrushPanelOpen);
-    EXPECT_TRUE(editor.Overlays.Shape2.IsOval);
+    EXPECT_TRUE(editor.Overlays.PointerMark.IsOval);
     EXPECT_EQ(editor.TipCounter, 500);
     EXPECT_EQ(editor.Controls.ColorOpacity.Value, 50);
     EXPECT_EQ(host.BrushPanelSlides, 4);
     ChooseEraser(editor, 2);
     EXPECT_EQ(editor.CurrentTool, Tool::PencilEraser);
     EXPECT_FALSE(editor.Controls.BrushPanelOpen);
-    EXPECT_FALSE(editor.Overlays.Shape2.IsOval);
+    EXPECT_FALSE(editor.Overlays.PointerMark.IsOval);
     EXPECT_EQ(host.BrushPanelSlides, 5);
 }
 
@@ -186,7 +186,7 @@ TEST_F(ToolPalette, MenuEntriesLeaveTheToolColumnAlone) {
         EXPECT_EQ(checked, 1);
         EXPECT_EQ(controls.LineWidth.Enabled, c.HasLineWidth);
         EXPECT_EQ(controls.ColorOpacity.Enabled, c.HasColorOpacity);
-        EXPECT_THAT(Pressed(controls.ToolBarvs2), ElementsAre(1));
+        EXPECT_THAT(Pressed(controls.ToolBox), ElementsAre(1));
     }
 }
 

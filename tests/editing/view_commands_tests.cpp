@@ -25,7 +25,7 @@ protected:
     }
 
     const Button& MainButton(int number) {
-        return editor.Controls.ToolBarvs1[static_cast<std::size_t>(number)];
+        return editor.Controls.MainBar[static_cast<std::size_t>(number)];
     }
 };
 
@@ -62,12 +62,12 @@ TEST_F(ViewCommands, ZoomOutStopsAtOneFifth) {
 TEST_F(ViewCommands, BarsAppearForWhatDoesNotFitAndGoWhenZoomingOut) {
     Page(400, 100);
     ZoomIn(editor);  // 1200 x 300
-    EXPECT_TRUE(editor.View.Hs1.Visible);
-    EXPECT_EQ(editor.View.Hs1.Max, 176);
-    EXPECT_EQ(editor.View.Hs1.Value, 88);
-    EXPECT_FALSE(editor.View.Vs1.Visible);
+    EXPECT_TRUE(editor.View.HorizontalScroll.Visible);
+    EXPECT_EQ(editor.View.HorizontalScroll.Max, 176);
+    EXPECT_EQ(editor.View.HorizontalScroll.Value, 88);
+    EXPECT_FALSE(editor.View.VerticalScroll.Visible);
     ZoomOut(editor);
-    EXPECT_FALSE(editor.View.Hs1.Visible);
+    EXPECT_FALSE(editor.View.HorizontalScroll.Visible);
     EXPECT_EQ(editor.View.Zoom, 1);
 }
 

@@ -74,8 +74,8 @@ TEST(OrigamiStyle, LeavesTheLeftOrTheUpperHalfOfTheBody) {
         OrigamiStyle(FilledPicture(1, 1, 0xFF000000), Fold::Horizontal, 0, 0)->Image.IsEmpty());
 }
 
-TEST(iOSStyle, IsARoundedPlateInTheColour) {
-    const Plate plate = iOSStyle(0x80FF0000, 24, 48, 0, 0);
+TEST(IosStyle, IsARoundedPlateInTheColour) {
+    const Plate plate = IosStyle(0x80FF0000, 24, 48, 0, 0);
     EXPECT_EQ(testing::AlphaRow(plate.Image, 0)[1], 0);
     EXPECT_EQ(plate.Image.GetPixel(2, 0), 0x80FF0000);
     EXPECT_EQ(plate.Image.GetPixel(0, 24), 0x80FF0000);

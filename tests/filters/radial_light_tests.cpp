@@ -26,11 +26,11 @@ protected:
 };
 
 TEST_F(RadialLightTest, TellsWhereItWasPut) {
-    EXPECT_EQ(i3Dstyle(Picture, kStrongLight), (RadialLight{1, 3, 10}));
+    EXPECT_EQ(ThreeDStyle(Picture, kStrongLight), (RadialLight{1, 3, 10}));
 }
 
 TEST_F(RadialLightTest, FadesWithTheDistanceAndRoundsTiesToEven) {
-    i3Dstyle(Picture, kStrongLight);
+    ThreeDStyle(Picture, kStrongLight);
     EXPECT_EQ(Picture.GetPixel(4, 6), MakeARGB(255, 125, 126, 255));
     EXPECT_EQ(Picture.GetPixel(5, 6), MakeARGB(255, 122, 124, 255));   // 1 away: 22.5 more
     EXPECT_EQ(Picture.GetPixel(7, 10), MakeARGB(255, 112, 114, 255));  // 5 away: 12.5 more
@@ -39,7 +39,7 @@ TEST_F(RadialLightTest, FadesWithTheDistanceAndRoundsTiesToEven) {
 
 TEST_F(RadialLightTest, EndsAtTheSquareAroundItsCornerAndLightsWhatIsOutsideTheBody) {
     const Bitmap before = Picture;
-    i3Dstyle(Picture, kGentleLight);
+    ThreeDStyle(Picture, kGentleLight);
     // 7 away: 4.5 more; 4 away: 9 more.
     EXPECT_EQ(Picture.GetPixel(11, 6), MakeARGB(255, 104, 106, 254));
     EXPECT_EQ(Picture.GetPixel(4, 13), MakeARGB(149, 104, 106, 254));
@@ -53,7 +53,7 @@ TEST_F(RadialLightTest, EndsAtTheSquareAroundItsCornerAndLightsWhatIsOutsideTheB
 TEST(RadialLight, WithoutABodyThereIsNoLight) {
     for (const Bitmap& before : {FilledPicture(9, 9, 0x95646464), Bitmap()}) {
         Bitmap after = before;
-        EXPECT_EQ(i3Dstyle(after, kStrongLight), RadialLight{});
+        EXPECT_EQ(ThreeDStyle(after, kStrongLight), RadialLight{});
         EXPECT_TRUE(SamePixels(after, before));
     }
 }
@@ -61,7 +61,7 @@ TEST(RadialLight, WithoutABodyThereIsNoLight) {
 TEST(RadialLight, LeavesAPictureOnePixelWideAlone) {
     const Bitmap before = FilledPicture(1, 9, 0xFF646464);
     Bitmap after = before;
-    EXPECT_EQ(i3Dstyle(after, kStrongLight), (RadialLight{-1, 0, 9}));
+    EXPECT_EQ(ThreeDStyle(after, kStrongLight), (RadialLight{-1, 0, 9}));
     EXPECT_TRUE(SamePixels(after, before));
 }
 

@@ -25,7 +25,7 @@ TEST(RoundShape, APlateOf24HasRadius4) {
     graphics::Bitmap picture(24, 24);
     graphics::DrawingContext context(picture);
     context.SetPixelOffsetMode(graphics::PixelOffsetMode::HighQuality);
-    context.FillPath(graphics::SolidBrush{0xFF000000}, UpdateiOSstylePath(24, 24, 0, 0));
+    context.FillPath(graphics::SolidBrush{0xFF000000}, IosPlatePath(24, 24, 0, 0));
     const std::map<int, std::pair<int, int>> spans = {{0, {2, 21}},  {1, {1, 22}},  {2, {0, 23}},
                                                       {21, {0, 23}}, {22, {1, 22}}, {23, {2, 21}}};
     for (const auto& [row, span] : spans)

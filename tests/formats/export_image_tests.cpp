@@ -4,9 +4,9 @@
 
 #include <cstdlib>
 
+#include "graphics/codecs/image_files.h"
 #include "graphics/errors.h"
 #include "graphics/file_io.h"
-#include "graphics/image_files.h"
 #include "support/pictures.h"
 #include "support/temporary_folder.h"
 

@@ -2,9 +2,9 @@
 
 #include <gmock/gmock.h>
 
+#include "graphics/codecs/image_files.h"
 #include "graphics/errors.h"
 #include "graphics/file_io.h"
-#include "graphics/image_files.h"
 #include "support/temporary_folder.h"
 
 namespace orbelle::formats {
@@ -107,15 +107,15 @@ TEST_F(PngToIco, PassesOverEmptyNames) {
     const Bitmap pictures[] = {Bitmap(3, 2), Bitmap(256, 256)};
     const std::filesystem::path names[] = {
         "", WritePicture("1.png", pictures[0]), "", WritePicture("2.png", pictures[1]), "", "", ""};
-    png2ico(names, output_);
+    CombinePngs(names, output_);
     EXPECT_EQ(graphics::ReadFile(output_), EncodeIcon(pictures, IconFormat::Bmp));
-    png2ico(names, output_, IconFormat::Png);
+    CombinePngs(names, output_, IconFormat::Png);
     EXPECT_EQ(graphics::ReadFile(output_), EncodeIcon(pictures, IconFormat::Png));
 
     const std::filesystem::path none = folder_ / "none.ico";
-    png2ico(std::vector<std::filesystem::path>(7), none);
+    CombinePngs(std::vector<std::filesystem::path>(7), none);
     EXPECT_FALSE(std::filesystem::exists(none));
-    EXPECT_THROW(png2ico(std::vector<std::filesystem::path>(8), none), std::invalid_argument);
+    EXPECT_THROW(CombinePngs(std::vector<std::filesystem::path>(8), none), std::invalid_argument);
 }
 
 TEST_F(PngToIco, NamesTheFileAtFaultAndWritesNothing) {
@@ -126,7 +126,7 @@ TEST_F(PngToIco, NamesTheFileAtFaultAndWritesNothing) {
     for (const auto& bad : {large, text, folder_ / "missing.png"}) {
         const std::filesystem::path names[] = {good, bad};
         try {
-            png2ico(names, output_);
+            CombinePngs(names, output_);
             ADD_FAILURE() << bad << " was taken";
         } catch (const graphics::FileError& error) {
             EXPECT_THAT(error.what(), HasSubstr(bad.string()));

@@ -6,9 +6,9 @@
 #include <cstring>
 #include <tuple>
 
+#include "graphics/codecs/image_files.h"
 #include "graphics/errors.h"
 #include "graphics/file_io.h"
-#include "graphics/image_files.h"
 #include "support/temporary_folder.h"
 
 namespace orbelle::formats {

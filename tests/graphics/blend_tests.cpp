@@ -1,4 +1,4 @@
-#include "graphics/blend.h"
+#include "graphics/detail/blend.h"
 
 #include <gtest/gtest.h>
 #include <hwy/targets.h>

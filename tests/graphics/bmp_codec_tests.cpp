@@ -1,7 +1,7 @@
 #include <gmock/gmock.h>
 
+#include "graphics/codecs/image_files.h"
 #include "graphics/decoding.h"
-#include "graphics/image_files.h"
 
 namespace orbelle::graphics {
 namespace {

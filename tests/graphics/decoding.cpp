@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "graphics/image_files.h"
+#include "graphics/codecs/image_files.h"
 
 namespace orbelle::graphics {
 

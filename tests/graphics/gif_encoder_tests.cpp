@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <stdexcept>
 
+#include "graphics/codecs/image_files.h"
 #include "graphics/decoding.h"
-#include "graphics/image_files.h"
 
 namespace orbelle::graphics {
 namespace {

@@ -6,8 +6,8 @@
 #include <random>
 #include <vector>
 
+#include "graphics/detail/recoloring.h"
 #include "graphics/geometry.h"
-#include "graphics/recoloring.h"
 
 namespace orbelle::graphics {
 namespace {

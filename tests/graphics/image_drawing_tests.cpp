@@ -1,4 +1,4 @@
-#include "graphics/image_drawing.h"
+#include "graphics/detail/image_drawing.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -8,8 +8,8 @@
 #include <string>
 #include <vector>
 
-#include "graphics/blend.h"
-#include "graphics/recoloring.h"
+#include "graphics/detail/blend.h"
+#include "graphics/detail/recoloring.h"
 
 namespace orbelle::graphics {
 namespace {

@@ -1,4 +1,4 @@
-#include "graphics/image_files.h"
+#include "graphics/codecs/image_files.h"
 
 #include <gmock/gmock.h>
 

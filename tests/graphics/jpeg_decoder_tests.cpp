@@ -6,8 +6,8 @@
 // Needs the two above.
 #include <jpeglib.h>
 
+#include "graphics/codecs/image_files.h"
 #include "graphics/decoding.h"
-#include "graphics/image_files.h"
 
 namespace orbelle::graphics {
 namespace {

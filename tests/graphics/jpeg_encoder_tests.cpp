@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cstdlib>
 
-#include "graphics/image_files.h"
+#include "graphics/codecs/image_files.h"
 
 namespace orbelle::graphics {
 namespace {

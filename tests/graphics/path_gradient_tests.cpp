@@ -1,4 +1,4 @@
-#include "graphics/path_gradient.h"
+#include "graphics/detail/path_gradient.h"
 
 #include <gmock/gmock.h>
 

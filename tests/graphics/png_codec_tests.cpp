@@ -4,8 +4,8 @@
 #include <algorithm>
 #include <random>
 
+#include "graphics/codecs/image_files.h"
 #include "graphics/decoding.h"
-#include "graphics/image_files.h"
 
 namespace orbelle::graphics {
 namespace {

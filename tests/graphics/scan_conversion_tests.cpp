@@ -1,4 +1,4 @@
-#include "graphics/scan_conversion.h"
+#include "graphics/detail/scan_conversion.h"
 
 #include <gtest/gtest.h>
 

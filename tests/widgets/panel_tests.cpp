@@ -5,37 +5,37 @@
 #include <QImage>
 
 #include "support/hands.h"
-#include "widgets/ctl_captions.h"
-#include "widgets/ctl_image_store.h"
-#include "widgets/ctl_tips.h"
-#include "widgets/ctl_title.h"
+#include "widgets/balloon.h"
+#include "widgets/caption_text.h"
+#include "widgets/image_store.h"
+#include "widgets/panel_header.h"
 
 namespace orbelle::widgets {
 namespace {
 
 using namespace orbelle::testing;
 
-TEST(CtlTitleTest, TurnsAtAClickAndAtSpaceAndReturn) {
-    CtlTitle title("Icon Opacity");
+TEST(PanelHeaderTest, TurnsAtAClickAndAtSpaceAndReturn) {
+    PanelHeader title("Icon Opacity");
     title.resize(200, 24);
     QList<bool> told;
-    QObject::connect(&title, &CtlTitle::Clicked, [&](bool closed) { told << closed; });
-    EXPECT_FALSE(title.isClosed());
+    QObject::connect(&title, &PanelHeader::Clicked, [&](bool closed) { told << closed; });
+    EXPECT_FALSE(title.IsClosed());
     Click(title, {20, 12});
-    EXPECT_TRUE(title.isClosed());
+    EXPECT_TRUE(title.IsClosed());
     Click(title, {190, 12});
-    EXPECT_FALSE(title.isClosed());
+    EXPECT_FALSE(title.IsClosed());
     Strike(title, Qt::Key_Space, " ");
     Strike(title, Qt::Key_Return, "\r");
     Strike(title, Qt::Key_A, "a");
     EXPECT_EQ(told, QList<bool>({true, false, true, false}));
     title.SetClosed(true);
-    EXPECT_TRUE(title.isClosed());
+    EXPECT_TRUE(title.IsClosed());
     EXPECT_EQ(told.size(), 4) << "told of what its owner did";
 }
 
-TEST(CtlTitleTest, ShowsWhetherItIsClosed) {
-    CtlTitle title("Layer");
+TEST(PanelHeaderTest, ShowsWhetherItIsClosed) {
+    PanelHeader title("Layer");
     title.resize(200, 24);
     const QImage open = title.grab().toImage();
     title.SetClosed(true);
@@ -47,8 +47,8 @@ TEST(CtlTitleTest, ShowsWhetherItIsClosed) {
     EXPECT_EQ(open.pixelColor(0, 23), QColor(220, 220, 220));
 }
 
-TEST(CtlTitleTest, IsACheckableButtonToAssistiveTools) {
-    CtlTitle title("Icon Filter");
+TEST(PanelHeaderTest, IsACheckableButtonToAssistiveTools) {
+    PanelHeader title("Icon Filter");
     QAccessibleInterface* button = QAccessible::queryAccessibleInterface(&title);
     ASSERT_TRUE(button);
     EXPECT_EQ(button->text(QAccessible::Name), "Icon Filter");
@@ -58,8 +58,8 @@ TEST(CtlTitleTest, IsACheckableButtonToAssistiveTools) {
     EXPECT_FALSE(button->state().checked);
 }
 
-TEST(CtlTipsTest, HeightFollowsTheTextInAFixedWidth) {
-    CtlTips tips;
+TEST(BalloonTest, HeightFollowsTheTextInAFixedWidth) {
+    Balloon tips;
     tips.SetTipString("One line.");
     const int one = tips.height();
     tips.SetTipString("Two\nlines.");
@@ -72,8 +72,8 @@ TEST(CtlTipsTest, HeightFollowsTheTextInAFixedWidth) {
     EXPECT_EQ(tips.height(), one);
 }
 
-TEST(CtlTipsTest, PointsUpOrDownAtThe35thPixel) {
-    CtlTips tips;
+TEST(BalloonTest, PointsUpOrDownAtThe35thPixel) {
+    Balloon tips;
     tips.SetTipString("Here.");
     const auto isInked = [&](int y) {
         const QImage picture = tips.grab().toImage();
@@ -87,10 +87,10 @@ TEST(CtlTipsTest, PointsUpOrDownAtThe35thPixel) {
     EXPECT_FALSE(isInked(3));
 }
 
-TEST(CtlTipsTest, ComesUpAboveItsSiblingsAndTellsOfAClick) {
+TEST(BalloonTest, ComesUpAboveItsSiblingsAndTellsOfAClick) {
     QWidget window;
     window.resize(300, 200);
-    CtlTips tips(&window);
+    Balloon tips(&window);
     tips.SetTipString("Click here.");
     QWidget later(&window);
     later.resize(300, 200);
@@ -101,7 +101,7 @@ TEST(CtlTipsTest, ComesUpAboveItsSiblingsAndTellsOfAClick) {
     EXPECT_EQ(window.childAt(50, 20), &tips);
 
     int clicks = 0;
-    QObject::connect(&tips, &CtlTips::Clicked, [&] { ++clicks; });
+    QObject::connect(&tips, &Balloon::Clicked, [&] { ++clicks; });
     Click(tips, {50, 20});
     EXPECT_EQ(clicks, 1);
     EXPECT_TRUE(tips.isVisible());
@@ -110,10 +110,10 @@ TEST(CtlTipsTest, ComesUpAboveItsSiblingsAndTellsOfAClick) {
     EXPECT_EQ(clicks, 1);
 }
 
-TEST(CtlTipsTest, AndCaptionsSpeakTheirTexts) {
-    CtlTips tips;
+TEST(BalloonTest, AndCaptionsSpeakTheirTexts) {
+    Balloon tips;
     tips.SetTipString("Click here.");
-    CtlCaptions captions("A block of text.");
+    CaptionText captions("A block of text.");
     const std::tuple<QWidget*, QAccessible::Role, const char*> cases[] = {
         {&tips, QAccessible::AlertMessage, "Click here."},
         {&captions, QAccessible::StaticText, "A block of text."}};
@@ -125,8 +125,8 @@ TEST(CtlTipsTest, AndCaptionsSpeakTheirTexts) {
     }
 }
 
-TEST(CtlCaptionsTest, WrapsByWordsAndMakesRoomForItsPicture) {
-    CtlCaptions captions("A text block, wrapped by words, with an optional picture at its left.");
+TEST(CaptionTextTest, WrapsByWordsAndMakesRoomForItsPicture) {
+    CaptionText captions("A text block, wrapped by words, with an optional picture at its left.");
     EXPECT_GT(captions.heightForWidth(80), captions.heightForWidth(400));
     const int plain = captions.heightForWidth(120);
     captions.SetPicture("orbelle");
@@ -136,12 +136,12 @@ TEST(CtlCaptionsTest, WrapsByWordsAndMakesRoomForItsPicture) {
     EXPECT_EQ(captions.Caption(), "Short.");
 }
 
-TEST(CtlImageStoreTest, WithoutAPictureDrawsNothing) {
+TEST(ImageStoreTest, WithoutAPictureDrawsNothing) {
     QImage picture(40, 40, QImage::Format_ARGB32_Premultiplied);
     picture.fill(Qt::red);
     const QImage before = picture;
     QPainter painter(&picture);
-    CtlImageStore("no such drawing").Drawing(painter, picture.rect(), 1);
+    ImageStore("no such drawing").Drawing(painter, picture.rect(), 1);
     EXPECT_EQ(painter.opacity(), 1);
     painter.end();
     EXPECT_EQ(picture, before);

@@ -8,10 +8,10 @@
 
 #include "app/benchmark.h"
 #include "app/chrome.h"
-#include "app/frm_welcome.h"
-#include "app/mform.h"
+#include "app/main_window.h"
 #include "app/screenshot.h"
 #include "app/single_instance.h"
+#include "app/welcome_window.h"
 
 int main(int argc, char** argv) {
     QApplication application(argc, argv);
@@ -54,17 +54,17 @@ int main(int argc, char** argv) {
         return 0;
 
     orbelle::app::SingleInstance instance;
-    orbelle::app::FrmWelcome welcome;
+    orbelle::app::WelcomeWindow welcome;
     welcome.RunStart();
     // The window is put together while the welcome stands.
-    std::unique_ptr<orbelle::app::mForm> form;
+    std::unique_ptr<orbelle::app::MainWindow> form;
     QTimer::singleShot(0, [&] {
-        form = std::make_unique<orbelle::app::mForm>();
+        form = std::make_unique<orbelle::app::MainWindow>();
         form->RestoreSettings();
         QObject::connect(&instance, &orbelle::app::SingleInstance::Received, form.get(),
-                         &orbelle::app::mForm::TakeHandOver);
+                         &orbelle::app::MainWindow::TakeHandOver);
     });
-    QObject::connect(&welcome, &orbelle::app::FrmWelcome::Finished, [&] {
+    QObject::connect(&welcome, &orbelle::app::WelcomeWindow::Finished, [&] {
         form->show();
         // Once the window has its size: the document is placed by it.
         QTimer::singleShot(0, form.get(), [&] {

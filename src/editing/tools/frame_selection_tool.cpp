@@ -1,12 +1,12 @@
 // Selects by a rectangle or an ellipse dragged over the page.
 #include <algorithm>
 
+#include "document/selection.h"
 #include "editing/scene_mapping.h"
 #include "editing/tools/object_keys.h"
 #include "editing/tools/selection_start.h"
 #include "editing/tools/tool_handlers.h"
 #include "editing/view_commands.h"
-#include "filters/selection_region.h"
 
 namespace orbelle::editing {
 
@@ -27,12 +27,12 @@ Frame FrameTo(const Editor& editor, float x, float y) {
 }
 
 void Press(Editor& editor, const Pointer& pointer) {
-    editor.Controls.ToolBarvs5Visible = false;
-    editor.Overlays.SelectedShape = {true, editor.CurrentTool == Tool::SelectEllipse, {}};
+    editor.Controls.SelectionBarVisible = false;
+    editor.Overlays.SelectionFrame = {true, editor.CurrentTool == Tool::SelectEllipse, {}};
     MoveStartOntoPage(editor, pointer);
     editor.DragActive = true;
     if (!pointer.IsShiftAlone())
-        editor.Filters.CreateCrop();
+        editor.Selection.Start();
 }
 
 void Move(Editor& editor, Pointer& pointer) {
@@ -41,9 +41,9 @@ void Move(Editor& editor, Pointer& pointer) {
     pointer.Y = onPage.Y;
     const Frame frame = FrameTo(editor, pointer.X, pointer.Y);
     const graphics::RectF box =
-        filters::NormalizeRect(frame.End.X, frame.End.Y, frame.Start.X, frame.Start.Y);
+        document::NormalizeRect(frame.End.X, frame.End.Y, frame.Start.X, frame.Start.Y);
     const SceneMapping mapping = MappingOf(editor);
-    editor.Overlays.SelectedShape.Rect = {
+    editor.Overlays.SelectionFrame.Rect = {
         static_cast<float>(mapping.PageOffsetX + box.X * mapping.Zoom),
         static_cast<float>(mapping.PageOffsetY + box.Y * mapping.Zoom),
         static_cast<float>(box.Width * mapping.Zoom),
@@ -55,21 +55,21 @@ void Select(Editor& editor, const Pointer& pointer) {
     const PointF onPage = ClampToScene(editor, pointer.X, pointer.Y);
     const Frame frame = FrameTo(editor, onPage.X, onPage.Y);
     using graphics::RoundToEven;
-    editor.Filters.SetCropDatas(std::min(RoundToEven(frame.End.X), editor.Document.PageWidth),
-                                std::min(RoundToEven(frame.End.Y), editor.Document.PageHeight),
-                                RoundToEven(frame.Start.X), RoundToEven(frame.Start.Y),
-                                editor.CurrentTool == Tool::SelectEllipse
-                                    ? filters::CropShape::Ellipse
-                                    : filters::CropShape::Rectangle);
+    editor.Selection.AddFrame(std::min(RoundToEven(frame.End.X), editor.Document.PageWidth),
+                              std::min(RoundToEven(frame.End.Y), editor.Document.PageHeight),
+                              RoundToEven(frame.Start.X), RoundToEven(frame.Start.Y),
+                              editor.CurrentTool == Tool::SelectEllipse
+                                  ? document::FrameShape::Ellipse
+                                  : document::FrameShape::Rectangle);
 }
 
 AfterRelease Release(Editor& editor, const Pointer& pointer) {
-    OverlayShape& shape = editor.Overlays.SelectedShape;
+    OverlayShape& shape = editor.Overlays.SelectionFrame;
     const bool moved =
         editor.LastMouseX != editor.MouseDownX || editor.LastMouseY != editor.MouseDownY;
     // A plain click ends the selection, with Shift too.
     if (!moved)
-        editor.Filters.ClearCrop();
+        editor.Selection.Clear();
     else if (shape.Rect.Width > 0 && shape.Rect.Height > 0)
         Select(editor, pointer);
     shape = {};
@@ -78,7 +78,7 @@ AfterRelease Release(Editor& editor, const Pointer& pointer) {
 }
 
 void Abandon(Editor& editor) {
-    editor.Overlays.SelectedShape = {};
+    editor.Overlays.SelectionFrame = {};
 }
 
 }  // namespace

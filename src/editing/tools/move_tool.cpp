@@ -38,7 +38,7 @@ void Pick(Editor& editor, graphics::PointF page) {
 }
 
 void Press(Editor& editor, const Pointer& pointer) {
-    if (editor.Filters.SelectionOK())
+    if (editor.Selection.Exists())
         FloatSelection(editor);
     if (editor.Document.HasSelection())
         StartDrag(editor);

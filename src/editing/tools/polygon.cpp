@@ -20,14 +20,14 @@ PointF OnScene(const SceneMapping& mapping, PointF page) {
 void StretchRubberBand(Editor& editor, const Pointer& pointer) {
     if (editor.PolygonPoints.empty())
         return;
-    editor.Overlays.Line2 = {
+    editor.Overlays.RubberBand = {
         true, OnScene(MappingOf(editor), editor.PolygonPoints.back()), {pointer.X, pointer.Y}};
 }
 
 void ClosePolygon(Editor& editor) {
     if (!editor.PolygonPoints.empty()) {
         editor.PolygonPoints.push_back(editor.PolygonPoints.front());
-        editor.Filters.AddPolygonToCrop(editor.PolygonPoints);
+        editor.Selection.AddPolygon(editor.PolygonPoints);
     }
     DropPolygon(editor);
     DrawScene(editor);
@@ -35,7 +35,7 @@ void ClosePolygon(Editor& editor) {
 
 void DropPolygon(Editor& editor) {
     editor.PolygonPoints.clear();
-    editor.Overlays.Line2.Visible = false;
+    editor.Overlays.RubberBand.Visible = false;
 }
 
 void DrawOpenPolygon(Editor& editor) {

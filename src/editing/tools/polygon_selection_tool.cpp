@@ -13,12 +13,12 @@ using graphics::PointF;
 namespace {
 
 void Press(Editor& editor, const Pointer& pointer) {
-    editor.Controls.ToolBarvs5Visible = false;
-    editor.Overlays.SelectedShape.Visible = false;
+    editor.Controls.SelectionBarVisible = false;
+    editor.Overlays.SelectionFrame.Visible = false;
     MoveStartOntoPage(editor, pointer);
     editor.DragActive = true;
-    if (editor.Filters.SelectionOK() && !pointer.IsShiftAlone())
-        editor.Filters.CreateCrop();
+    if (editor.Selection.Exists() && !pointer.IsShiftAlone())
+        editor.Selection.Start();
     // The point comes in as with a move.
     MoveScene(editor, pointer);
 }
@@ -35,7 +35,7 @@ void Move(Editor& editor, Pointer& pointer) {
         editor.PolygonPoints.push_back(start);
     } else {
         const PointF end = ScreenToPage(mapping, pointer.X, pointer.Y);
-        const graphics::RectF box = filters::NormalizeRect(end.X, end.Y, start.X, start.Y);
+        const graphics::RectF box = document::NormalizeRect(end.X, end.Y, start.X, start.Y);
         editor.PolygonPoints.push_back({box.X, box.Y});
     }
     DrawScene(editor);

@@ -1,0 +1,123 @@
+#include "app/gif_optimizer_dialog.h"
+
+#include <QDialogButtonBox>
+#include <QGridLayout>
+#include <QLabel>
+#include <algorithm>
+
+#include "app/gif_preview.h"
+#include "app/settings.h"
+#include "widgets/number_slider.h"
+
+namespace orbelle::app {
+namespace {
+
+constexpr int kBox = 256;  // pixels a side of both previews
+constexpr int kSliderEnd = 150;
+constexpr int kTypedEnd = 200;  // what can be typed goes beyond the slider's track
+constexpr int kUsualValue = 130;
+constexpr char kSetting[] = "Optimize";
+constexpr char kHint[] =
+    "You can input a new transparent value if you not satisfactory current transparent result.";
+
+// A white box with the checkerboard, and on it what `draw` paints.
+template <typename Draw>
+QPixmap PaintPreview(const Draw& draw) {
+    graphics::Bitmap box(kBox, kBox);
+    graphics::DrawingContext context(box);
+    context.SetInterpolationMode(graphics::InterpolationMode::LowQuality);
+    context.SetPixelOffsetMode(graphics::PixelOffsetMode::HighQuality);
+    context.Clear(graphics::MakeARGB(255, 255, 255, 255));
+    DrawPreviewChecker(context, kBox, kBox);
+    draw(context);
+    return QPixmap::fromImage(QImage(reinterpret_cast<const uchar*>(box.Pixels()), kBox, kBox,
+                                     kBox * 4, QImage::Format_RGB32)
+                                  .copy());
+}
+
+QLabel* AddPreview(QGridLayout& layout, int column, const char* caption) {
+    auto* box = new QLabel;
+    box->setFixedSize(kBox + 2, kBox + 2);
+    box->setStyleSheet("border: 1px solid rgba(0, 0, 0, 50)");
+    box->setAccessibleName(caption);
+    layout.addWidget(new QLabel(caption), 0, column);
+    layout.addWidget(box, 1, column);
+    return box;
+}
+
+}  // namespace
+
+GifOptimizerDialog::GifOptimizerDialog(const graphics::Bitmap& surface, QWidget* parent)
+    : QDialog(parent), surface_(surface) {
+    setWindowTitle("GIF Transparency Optimizer");
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(20, 20, 20, 16);
+    layout->setSpacing(16);
+    layout->setSizeConstraint(QLayout::SetFixedSize);
+
+    auto* head = new QLabel("GIF Optimizer...");
+    QFont font = head->font();
+    font.setPointSize(12);
+    head->setFont(font);
+    head->setStyleSheet("color: rgb(55, 101, 144)");
+    layout->addWidget(head);
+
+    auto* previews = new QGridLayout;
+    previews->setHorizontalSpacing(20);
+    previews->setVerticalSpacing(6);
+    previews->setRowStretch(1, 1);
+    layout->addLayout(previews);
+    QLabel* original = AddPreview(*previews, 0, "Original");
+    result_ = AddPreview(*previews, 1, "Transparency  GIF");
+    result_->setObjectName("Result");
+    original->setPixmap(PaintPreview([&](graphics::DrawingContext& context) {
+        context.DrawImageRect(surface_, PreviewRect(surface_, kBox, kBox));
+    }));
+
+    auto* row = new QHBoxLayout;
+    row->setSpacing(12);
+    layout->addLayout(row);
+    auto* label = new QLabel("&Transparency Adjustment:");
+    Threshold = new widgets::NumberSlider;
+    Threshold->setObjectName("PageWidth");
+    Threshold->setAccessibleName("Transparency Adjustment");
+    Threshold->SetRange(0, kSliderEnd);
+    label->setBuddy(Threshold);
+    row->addWidget(label);
+    row->addWidget(Threshold);
+    row->addStretch();
+
+    auto* hint = new QLabel(kHint);
+    hint->setWordWrap(true);
+    hint->setFixedWidth(2 * kBox + 20);
+    layout->addWidget(hint);
+
+    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
+    layout->addWidget(buttons);
+    connect(buttons, &QDialogButtonBox::accepted, this, &GifOptimizerDialog::accept);
+    connect(buttons, &QDialogButtonBox::rejected, this, &GifOptimizerDialog::reject);
+    connect(Threshold, &widgets::NumberSlider::Changed, this, &GifOptimizerDialog::ShowResult);
+
+    // A stored 0 is taken for none.
+    const int stored = Settings().value(kSetting).toInt();
+    Threshold->SetColorValue(stored == 0 ? kUsualValue : stored);
+    ShowResult();
+    Threshold->setFocus();
+}
+
+int GifOptimizerDialog::OptimizeValue() const {
+    return std::clamp(Threshold->ColorValue(), 0, kTypedEnd);
+}
+
+void GifOptimizerDialog::done(int result) {
+    Settings().setValue(kSetting, OptimizeValue());
+    QDialog::done(result);
+}
+
+void GifOptimizerDialog::ShowResult() {
+    result_->setPixmap(PaintPreview([&](graphics::DrawingContext& context) {
+        DrawGifPreview(context, surface_, kBox, kBox, static_cast<std::uint8_t>(OptimizeValue()));
+    }));
+}
+
+}  // namespace orbelle::app

@@ -1,0 +1,145 @@
+// What the main window is made of, and how the scene is connected.
+#include "app/main_window.h"
+
+#include <QAction>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QVBoxLayout>
+
+#include "app/bottom_panel.h"
+#include "app/close_tips_tab.h"
+#include "app/right_panel.h"
+#include "app/scene_view.h"
+#include "app/shortcuts.h"
+#include "editing/scene_input.h"
+#include "editing/tips.h"
+#include "editing/view_commands.h"
+
+namespace orbelle::app {
+namespace {
+
+constexpr int kRightPanelWidth = 248;
+constexpr int kWheelStep = 120;  // of a wheel's notch
+
+}  // namespace
+
+void MainWindow::AddPanels() {
+    auto* central = new QWidget;
+    central->setObjectName("central");
+    auto* rows = new QVBoxLayout(central);
+    rows->setContentsMargins(0, 0, 0, 0);
+    rows->setSpacing(0);
+    rows->addWidget(bars_->MainBar);
+    auto* middle = new QHBoxLayout;
+    middle->setSpacing(0);
+    rows->addLayout(middle, 1);
+    middle->addWidget(bars_->ToolBox, 0, Qt::AlignTop);
+    middle->addWidget(MakeScene(), 1);
+    rightPanel_ = new RightPanel(*this, *bars_->LayerBar);
+    auto* scroller = new QScrollArea;
+    scroller->setObjectName("RightScroller");
+    scroller->setWidget(rightPanel_);
+    scroller->setWidgetResizable(true);
+    scroller->setFrameShape(QFrame::NoFrame);
+    scroller->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    scroller->setFixedWidth(kRightPanelWidth);
+    scroller->setFocusPolicy(Qt::NoFocus);
+    middle->addWidget(scroller);
+    bottomPanel_ = new BottomPanel(*this);
+    rows->addWidget(bottomPanel_);
+    setCentralWidget(central);
+
+    for (widgets::ButtonBar* popup : {bars_->FillBar, bars_->SelectionBar, bars_->EraserBar})
+        popup->setParent(central);
+    closeTips_ = new CloseTipsTab(*bottomPanel_);
+    tips_ = std::make_unique<TipBalloons>(
+        editor_, *central,
+        [this](editing::TipPlace place, QSize size) { return TipPlacement(place, size); });
+    connect(tips_.get(), &TipBalloons::BalloonClicked, closeTips_, &CloseTipsTab::SlideUp);
+    welcome_ = std::make_unique<WelcomeSequence>(*scene_);
+    connect(welcome_.get(), &WelcomeSequence::Read, this,
+            [this] { ShowTips(editing::tips::Welcome, false); });
+}
+
+QWidget* MainWindow::MakeScene() {
+    auto* frame = new QWidget;
+    auto* layout = new QGridLayout(frame);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    scene_ = new SceneView(editor_);
+    horizontalScroll_ = new QScrollBar(Qt::Horizontal);
+    verticalScroll_ = new QScrollBar(Qt::Vertical);
+    horizontalScroll_->setAccessibleName("Horizontal position");
+    verticalScroll_->setAccessibleName("Vertical position");
+    layout->addWidget(scene_, 0, 0);
+    layout->addWidget(verticalScroll_, 0, 1);
+    layout->addWidget(horizontalScroll_, 1, 0);
+    layout->setRowStretch(0, 1);
+    layout->setColumnStretch(0, 1);
+    return frame;
+}
+
+void MainWindow::ConnectScene() {
+    scene_->setFocus();
+    connect(scene_, &SceneView::Resized, this, [this](int width, int height) {
+        RunGuarded([=](editing::Editor& editor) { ResizeScene(editor, width, height); });
+    });
+    connect(scene_, &SceneView::ZoomInWanted, this, [this](const QPointF& at) {
+        Run([at](editing::Editor& editor) {
+            ZoomInAt(editor, static_cast<float>(at.x()), static_cast<float>(at.y()));
+        });
+    });
+    connect(scene_, &SceneView::ZoomOutWanted, this, [this](const QPointF& at) {
+        Run([at](editing::Editor& editor) {
+            ZoomOutAt(editor, static_cast<float>(at.x()), static_cast<float>(at.y()));
+        });
+    });
+    connect(scene_, &SceneView::Scrolled, this, [this](const QPoint& delta) {
+        horizontalScroll_->setValue(horizontalScroll_->value() -
+                                    delta.x() * horizontalScroll_->singleStep() / kWheelStep);
+        verticalScroll_->setValue(verticalScroll_->value() -
+                                  delta.y() * verticalScroll_->singleStep() / kWheelStep);
+    });
+    connect(scene_, &SceneView::PointerPressed, this, [this](const editing::Pointer& pointer) {
+        Run([&](editing::Editor& editor) { PressScene(editor, pointer); });
+    });
+    connect(scene_, &SceneView::PointerMoved, this, [this](const editing::Pointer& pointer) {
+        RunGuarded([&](editing::Editor& editor) { MoveScene(editor, pointer); });
+        pointerStatus_->ShowPointer(editor_, pointer.X, pointer.Y);
+    });
+    connect(scene_, &SceneView::PointerReleased, this, [this](const editing::Pointer& pointer) {
+        RunGuarded([&](editing::Editor& editor) { ReleaseScene(editor, pointer); });
+    });
+    connect(scene_, &SceneView::PointerLeft, this, [this] {
+        pointerStatus_->ClearPointer();
+        editor_.Overlays.PointerMark.Visible = false;
+        OverlaysChanged();
+    });
+    connect(scene_, &SceneView::KeyPressed, this, [this](int key) {
+        Run([key](editing::Editor& editor) { KeyDownScene(editor, key); });
+    });
+    // Queued: the program that the files come from waits until the drop has been taken.
+    connect(scene_, &SceneView::FilesDropped, this, &MainWindow::ImportFiles, Qt::QueuedConnection);
+    connect(scene_, &SceneView::PictureDropped, this, &MainWindow::ImportDroppedPicture,
+            Qt::QueuedConnection);
+    connect(horizontalScroll_, &QScrollBar::valueChanged, this, [this](int value) {
+        Run([=](editing::Editor& editor) { ScrollHorizontally(editor, value); });
+    });
+    connect(verticalScroll_, &QScrollBar::valueChanged, this, [this](int value) {
+        Run([=](editing::Editor& editor) { ScrollVertically(editor, value); });
+    });
+}
+
+void MainWindow::AddShortcuts() {
+    for (const Shortcut& shortcut : WindowShortcuts()) {
+        auto* action = new QAction(shortcut.Caption, this);
+        action->setShortcuts(shortcut.Keys);
+        connect(action, &QAction::triggered, this,
+                [this, command = shortcut.Command] { Run(command); });
+        addAction(action);
+    }
+}
+
+}  // namespace orbelle::app

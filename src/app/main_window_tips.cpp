@@ -1,0 +1,90 @@
+// Tips on the main window: when, and beside what.
+#include "app/main_window.h"
+
+#include "app/bottom_panel.h"
+#include "app/right_panel.h"
+#include "app/scene_view.h"
+#include "editing/scene_input.h"
+
+namespace orbelle::app {
+
+void MainWindow::SetTipsEnabled(bool enabled) {
+    tips_->TipsEnabled = enabled;
+    menu_->ShowTipsState(enabled);
+}
+
+void MainWindow::ShowTips(int tip, bool showLayerTips) {
+    tips_->ShowTips(tip, showLayerTips);
+}
+
+void MainWindow::HideTips() {
+    tips_->HideFirst();
+}
+
+void MainWindow::CloseTips() {
+    if (tips_->FirstBalloon().isHidden())
+        return;
+    tips_->FirstBalloon().hide();
+    editor_.TipCounter = editing::kTipsExpired;
+}
+
+// Only where what a tip points at can be seen.
+std::optional<QPoint> MainWindow::TipPlacement(editing::TipPlace place, QSize balloon) const {
+    using editing::TipPlace;
+    const QWidget* central = centralWidget();
+    const auto at = [central](const QWidget& widget) {
+        return widget.mapTo(central, QPoint(0, 0));
+    };
+    const int belowBar = bars_->MainBar->geometry().bottom() + 4;
+    const bool layers = rightPanel_->IsLayerListVisible();
+    const QPoint scene = at(*scene_);
+    const QPoint page(graphics::RoundToEven(document::PageOffsetX(editor_.Document, editor_.View)),
+                      graphics::RoundToEven(document::PageOffsetY(editor_.Document, editor_.View)));
+    switch (place) {
+        case TipPlace::NewAndOpenButtons:
+            return QPoint(8, belowBar);
+        case TipPlace::ImportButton:
+            return QPoint(120, belowBar);
+        case TipPlace::UndoButtons:
+            return QPoint(230, belowBar);
+        case TipPlace::LayerMiddle: {
+            if (!editor_.Document.HasSelection())
+                return lastLayerMiddle_;
+            const graphics::RectF& rect = editor_.Document.Selected().Rect;
+            const double zoom = editor_.View.Zoom;
+            const auto middle = [zoom](float start, float length) {
+                return (start + graphics::RoundToEven(length) / 2) * zoom;
+            };
+            lastLayerMiddle_ = QPoint(
+                graphics::RoundToEven(scene.x() + page.x() + middle(rect.X, rect.Width) - 35),
+                graphics::RoundToEven(scene.y() + page.y() + middle(rect.Y, rect.Height)));
+            return lastLayerMiddle_;
+        }
+        case TipPlace::PageCorner:
+            return scene + page;
+        case TipPlace::OpacitySlider: {
+            const QWidget& slider = rightPanel_->OpacitySlider();
+            if (!layers || !slider.isVisible())
+                return std::nullopt;
+            return at(slider) + QPoint(0, slider.height());
+        }
+        case TipPlace::ToolColumn:
+            if (!layers)
+                return std::nullopt;
+            return at(*bars_->ToolBox) + QPoint(-10, 248);
+        case TipPlace::AddLayerButton:
+            if (!layers)
+                return std::nullopt;
+            return at(*bars_->LayerBar) + QPoint(-15, 10 - balloon.height());
+        case TipPlace::ColorWells:
+        case TipPlace::BrushOptions: {
+            const int lower = place == TipPlace::ColorWells ? 40 : 30;
+            return QPoint(at(bottomPanel_->FirstColorWell()).x() - 25,
+                          at(*bottomPanel_).y() - balloon.height() +
+                              bottomPanel_->CtlTitle4().height() + lower);
+        }
+    }
+    return std::nullopt;
+}
+
+}  // namespace orbelle::app

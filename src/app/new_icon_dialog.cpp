@@ -1,0 +1,80 @@
+#include "app/new_icon_dialog.h"
+
+#include <QDialogButtonBox>
+#include <QGridLayout>
+#include <QLabel>
+#include <QVBoxLayout>
+
+#include "app/message_boxes.h"
+#include "app/settings.h"
+#include "document/document.h"
+#include "editing/document_commands.h"
+#include "widgets/number_slider.h"
+
+namespace orbelle::app {
+namespace {
+
+constexpr char kWidthSetting[] = "Width";
+constexpr char kHeightSetting[] = "Height";
+constexpr int kSideWidth = 140;
+
+}  // namespace
+
+NewIconDialog::NewIconDialog(QWidget* parent) : QDialog(parent) {
+    setWindowTitle("New Icon...");
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(20, 20, 20, 16);
+    layout->setSpacing(20);
+    layout->setSizeConstraint(QLayout::SetFixedSize);
+
+    auto* rows = new QGridLayout;
+    rows->setHorizontalSpacing(12);
+    rows->setVerticalSpacing(12);
+    layout->addLayout(rows);
+    PageWidth = AddSide(*rows, "PageWidth", "&Width:", kWidthSetting);
+    PageHeight = AddSide(*rows, "PageHeight", "&Height:", kHeightSetting);
+
+    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
+    layout->addWidget(buttons);
+    connect(buttons, &QDialogButtonBox::accepted, this, &NewIconDialog::accept);
+    connect(buttons, &QDialogButtonBox::rejected, this, &NewIconDialog::reject);
+
+    PageWidth->setFocus();
+}
+
+editing::PageSize NewIconDialog::Size() const {
+    return {PageWidth->ColorValue(), PageHeight->ColorValue()};
+}
+
+void NewIconDialog::accept() {
+    const auto allowed = [](int side) { return side >= 1 && side <= document::kMaxPageSide; };
+    const editing::PageSize size = Size();
+    if (!allowed(size.Width) || !allowed(size.Height)) {
+        ShowPlainMessage(this, editing::kPageSizeMessage);
+        return;
+    }
+    Settings settings;
+    settings.setValue(kWidthSetting, size.Width);
+    settings.setValue(kHeightSetting, size.Height);
+    QDialog::accept();
+}
+
+widgets::NumberSlider* NewIconDialog::AddSide(QGridLayout& rows, const char* name,
+                                              const QString& caption, const char* setting) {
+    auto* label = new QLabel(caption);
+    auto* side = new widgets::NumberSlider;
+    label->setBuddy(side);
+    side->setObjectName(name);
+    side->setAccessibleName(QString(caption).remove('&'));
+    side->SetRange(1, document::kMaxPageSide);
+    side->SetColorValue(Settings().value(setting).toInt());
+    side->setMinimumWidth(kSideWidth);
+
+    const int row = rows.rowCount();
+    rows.addWidget(label, row, 0);
+    rows.addWidget(side, row, 1);
+    rows.addWidget(new QLabel("px"), row, 2);
+    return side;
+}
+
+}  // namespace orbelle::app

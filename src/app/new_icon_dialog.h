@@ -1,0 +1,35 @@
+// The dialog "New Icon...": the size of a new page.
+#pragma once
+
+#include <QDialog>
+
+#include "editing/editor_host.h"
+
+class QGridLayout;
+
+namespace orbelle::widgets {
+class NumberSlider;
+}
+
+namespace orbelle::app {
+
+// Starts with the size chosen last, 0 x 0 on a first run. OK with a side outside 1 to 512 shows a
+// message and leaves the dialog open; otherwise it stores the size.
+class NewIconDialog : public QDialog {
+    Q_OBJECT
+
+public:
+    explicit NewIconDialog(QWidget* parent = nullptr);
+
+    editing::PageSize Size() const;  // page pixels
+    void accept() override;
+
+private:
+    widgets::NumberSlider* AddSide(QGridLayout& rows, const char* name, const QString& caption,
+                                   const char* setting);
+
+    widgets::NumberSlider* PageWidth;   // width
+    widgets::NumberSlider* PageHeight;  // height
+};
+
+}  // namespace orbelle::app

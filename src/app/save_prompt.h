@@ -1,0 +1,24 @@
+// The save prompt.
+#pragma once
+
+#include <QDialog>
+
+#include "editing/editor_host.h"
+
+namespace orbelle::app {
+
+// Asks whether a changed document is to be saved before it is given up. Closing the dialog or
+// Escape counts as Cancel.
+class SavePrompt : public QDialog {
+    Q_OBJECT
+
+public:
+    explicit SavePrompt(QWidget* parent = nullptr);
+
+    editing::SavePromptAnswer Value() const { return value_; }
+
+private:
+    editing::SavePromptAnswer value_ = editing::SavePromptAnswer::Cancel;
+};
+
+}  // namespace orbelle::app

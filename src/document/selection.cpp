@@ -1,0 +1,130 @@
+#include "document/selection.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace orbelle::document {
+
+using graphics::Bitmap;
+using graphics::CombineMode;
+using graphics::DrawingContext;
+using graphics::Path;
+using graphics::PointF;
+using graphics::RectF;
+using graphics::RectI;
+using graphics::RoundToEven;
+
+namespace {
+
+constexpr graphics::Argb kShade = graphics::MakeARGB(100, 0, 0, 0);
+
+// The picture on a blank canvas of the given size, clipped to the canvas combined with `selection`.
+Bitmap DrawnWithin(const graphics::Region& selection, CombineMode mode, int width, int height,
+                   const Bitmap& image, const RectF& dest) {
+    Bitmap canvas(width, height);
+    graphics::Region clip =
+        graphics::Region::FromRect({0, 0, static_cast<float>(width), static_cast<float>(height)});
+    clip.Combine(selection, mode);
+    DrawingContext context(canvas);
+    context.SetPixelOffsetMode(graphics::PixelOffsetMode::HighQuality);
+    context.SetClipRegion(clip, CombineMode::Replace);
+    context.DrawImageRect(image, dest);
+    return canvas;
+}
+
+}  // namespace
+
+RectF NormalizeRect(float x2, float y2, float x1, float y1) {
+    x2 = std::max(x2, 0.0F);
+    x1 = std::max(x1, 0.0F);
+    return {std::min(x1, x2), std::min(y1, y2), std::abs(x2 - x1), std::abs(y2 - y1)};
+}
+
+void Selection::Start() {
+    shapeCount_ = 0;
+    region_ = graphics::Region::Infinite();
+}
+
+void Selection::Clear() {
+    if (shapeCount_ > 0) {
+        shapeCount_ = 0;
+        region_ = {};
+    }
+}
+
+RectI Selection::Bounds() const {
+    const RectF bounds = region_.Bounds();
+    return {RoundToEven(bounds.X), RoundToEven(bounds.Y), RoundToEven(bounds.Width),
+            RoundToEven(bounds.Height)};
+}
+
+void Selection::AddFrame(int x, int y, int startX, int startY, FrameShape shape) {
+    const RectF box = NormalizeRect(static_cast<float>(x), static_cast<float>(y),
+                                    static_cast<float>(startX), static_cast<float>(startY));
+    Path path(graphics::FillMode::Alternate);
+    if (shape == FrameShape::Rectangle)
+        path.AddRectangle(box);
+    else if (shape == FrameShape::Ellipse)
+        path.AddEllipse(box);
+    AddShape(path);
+}
+
+void Selection::AddPolygon(std::span<const PointF> points) {
+    Path path(graphics::FillMode::Alternate);
+    path.AddPolygon(points);
+    AddShape(path);
+}
+
+void Selection::AddShape(const Path& path) {
+    const graphics::Region shape = graphics::Region::FromPath(path);
+    if (shapeCount_ != 0)
+        region_.Combine(shape, CombineMode::Union);
+    else
+        region_ = shape;
+    ++shapeCount_;
+}
+
+void Selection::DrawShade(DrawingContext& scene, const RectF& page, PointF offset,
+                          double scale) const {
+    if (shapeCount_ == 0)
+        return;
+    graphics::Matrix toScene;
+    toScene.Translate(page.X + offset.X, page.Y + offset.Y, graphics::MatrixOrder::Append);
+    toScene.Scale(scale, scale, graphics::MatrixOrder::Prepend);
+    graphics::Region onScene = region_;
+    onScene.Transform(toScene);
+
+    graphics::Region shade = graphics::Region::FromRect(page);
+    shade.Combine(onScene, CombineMode::Xor);
+    scene.FillRegion(graphics::SolidBrush{kShade}, shade);
+}
+
+TakenOut Selection::TakeOut(Bitmap& image, int imageWidth, int imageHeight, int pageWidth,
+                            int pageHeight, PointF place, bool cut, bool copy) const {
+    const auto width = static_cast<float>(imageWidth), height = static_cast<float>(imageHeight);
+    TakenOut result;
+    if (copy) {
+        const Bitmap selected = DrawnWithin(region_, CombineMode::Intersect, pageWidth, pageHeight,
+                                            image, {place.X, place.Y, width, height});
+        RectI& area = result.Area;
+        area = Bounds();
+        // Deliberately without a look at the left and top: a selection that crosses the right or
+        // bottom edge of the page is refused.
+        area.Width = std::min(area.Width, pageWidth);
+        area.Height = std::min(area.Height, pageHeight);
+        result.Image = selected.CloneArea(area.X, area.Y, area.Width, area.Height);
+    }
+    if (cut) {
+        graphics::Region selection = region_;
+        selection.Translate(-place.X, -place.Y);
+        const RectF natural{0, 0, static_cast<float>(image.Width()),
+                            static_cast<float>(image.Height())};
+        const Bitmap rest =
+            DrawnWithin(selection, CombineMode::Exclude, imageWidth, imageHeight, image, natural);
+        if (!rest.IsEmpty())
+            image = rest;
+    }
+    return result;
+}
+
+}  // namespace orbelle::document

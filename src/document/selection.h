@@ -1,0 +1,68 @@
+// The selection of the document: a region built up from shapes, and cutting pictures along it.
+#pragma once
+
+#include <span>
+
+#include "graphics/bitmap.h"
+#include "graphics/drawing_context.h"
+#include "graphics/geometry.h"
+#include "graphics/region.h"
+
+namespace orbelle::document {
+
+// The box between the press point (x1, y1) and the pointer (x2, y2) of a drag in any direction.
+// Horizontal coordinates below 0 count as 0; vertical ones deliberately don't.
+graphics::RectF NormalizeRect(float x2, float y2, float x1, float y1);
+
+enum class FrameShape { Rectangle = 0, Ellipse = 1 };
+
+// What TakeOut has copied.
+struct TakenOut {
+    graphics::Bitmap Image;  // empty: nothing was copied, or Area reaches beyond the page
+    graphics::RectI Area;    // page pixels
+};
+
+// The selection is kept in page pixels. One that was never begun or has ended holds no region.
+class Selection {
+public:
+    // Begins a selection that has no shape yet: its region is the whole plane.
+    void Start();
+    // Ends the selection when it has a shape.
+    void Clear();
+    // Whether anything was selected; shapes without a pixel count too.
+    bool Exists() const { return shapeCount_ >= 1; }
+
+    // What is selected, page pixels. The whole plane before the first shape; null: none was begun.
+    const graphics::Region& Region() const { return region_; }
+
+    // The bounds of the selection, page pixels, each number rounded to nearest, ties to even.
+    graphics::RectI Bounds() const;
+    // Each adds one shape to the selection, the first one in place of the whole plane. Page pixels.
+    // The corners of a drag: (startX, startY) is where it began. An unknown shape adds no pixels.
+    void AddFrame(int x, int y, int startX, int startY, FrameShape shape);
+    // Fewer than three points add no pixels.
+    void AddPolygon(std::span<const graphics::PointF> points);
+
+    // Darkens the page except for the selection, and what is selected off the page. `page` is the
+    // visible page in scene pixels; the selection lies `offset` from its corner, `scale` scene
+    // pixels a page pixel. Nothing happens without a selection.
+    void DrawShade(graphics::DrawingContext& scene, const graphics::RectF& page,
+                   graphics::PointF offset, double scale) const;
+
+    // Of a picture drawn imageWidth x imageHeight large at `place` on the page (page pixels).
+    // `copy` gives the selected pixels as a picture of the selection's bounds. It is refused, and
+    // the result's Image empty, when these begin off the page or end beyond it; Area is told
+    // anyway, its size limited to the page's. `cut`, done after, leaves in `image`, now imageWidth
+    // x imageHeight large, only what is not selected; nothing changes for a size no bitmap can
+    // have.
+    TakenOut TakeOut(graphics::Bitmap& image, int imageWidth, int imageHeight, int pageWidth,
+                     int pageHeight, graphics::PointF place, bool cut, bool copy) const;
+
+private:
+    void AddShape(const graphics::Path& path);
+
+    graphics::Region region_;
+    int shapeCount_ = 0;
+};
+
+}  // namespace orbelle::document

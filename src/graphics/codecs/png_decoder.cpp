@@ -1,0 +1,116 @@
+#include <png.h>
+
+#include <algorithm>
+#include <bit>
+#include <csetjmp>
+#include <cstdio>
+#include <cstring>
+#include <new>
+
+#include "graphics/codecs/image_codecs.h"
+#include "graphics/codecs/image_files.h"
+
+// libpng leaves its calls by longjmp when something fails. Functions with a setjmp therefore hold
+// no object that would have to be destroyed; they answer false, and their callers throw.
+
+namespace orbelle::graphics {
+namespace {
+
+// Deflate turns no byte into more than about this many.
+constexpr std::int64_t kMaxDeflateRatio = 1032;
+
+static_assert(std::endian::native == std::endian::little, "libpng reads blue first");
+
+struct Failure {
+    char Message[128] = "";
+};
+
+[[noreturn]] void OnError(png_structp png, png_const_charp message) {
+    auto* failure = static_cast<Failure*>(png_get_error_ptr(png));
+    std::snprintf(failure->Message, sizeof failure->Message, "%s", message);
+    png_longjmp(png, 1);
+}
+
+void OnWarning(png_structp, png_const_charp) {}
+
+class PngReader {
+public:
+    explicit PngReader(std::span<const std::uint8_t> bytes) : left_(bytes) {
+        png_ = png_create_read_struct(PNG_LIBPNG_VER_STRING, &failure_, OnError, OnWarning);
+        info_ = png_ ? png_create_info_struct(png_) : nullptr;
+        if (!info_) {
+            png_destroy_read_struct(&png_, nullptr, nullptr);
+            throw std::bad_alloc();
+        }
+        png_set_read_fn(png_, this, Read);
+    }
+    PngReader(const PngReader&) = delete;
+    PngReader& operator=(const PngReader&) = delete;
+    ~PngReader() { png_destroy_read_struct(&png_, &info_, nullptr); }
+
+    bool ReadHeader() {
+        if (setjmp(png_jmpbuf(png_)))
+            return false;
+        // Of the optional chunks only transparency matters; skipping the others bounds memory.
+        // Sizes are ours to judge.
+        png_set_keep_unknown_chunks(png_, PNG_HANDLE_CHUNK_NEVER, nullptr, -1);
+        png_set_user_limits(png_, PNG_UINT_31_MAX, PNG_UINT_31_MAX);
+        png_read_info(png_, info_);
+        return true;
+    }
+
+    std::int64_t Width() const { return png_get_image_width(png_, info_); }
+    std::int64_t Height() const { return png_get_image_height(png_, info_); }
+    std::int64_t BytesInFile() const { return Height() * png_get_rowbytes(png_, info_); }
+
+    // Fills Width() x Height() pixels.
+    bool ReadPixels(Argb* pixels) {
+        if (setjmp(png_jmpbuf(png_)))
+            return false;
+        png_set_expand(png_);
+        png_set_strip_16(png_);
+        png_set_gray_to_rgb(png_);
+        png_set_bgr(png_);
+        png_set_add_alpha(png_, 255, PNG_FILLER_AFTER);
+        const int passes = png_set_interlace_handling(png_);
+        png_read_update_info(png_, info_);
+        for (int pass = 0; pass < passes; ++pass) {
+            for (std::int64_t y = 0; y < Height(); ++y)
+                png_read_row(png_, reinterpret_cast<png_bytep>(pixels + y * Width()), nullptr);
+        }
+        return true;
+    }
+
+    const char* Problem() const { return failure_.Message; }
+
+private:
+    static void Read(png_structp png, png_bytep data, std::size_t count) {
+        auto* self = static_cast<PngReader*>(png_get_io_ptr(png));
+        if (count > self->left_.size())
+            png_error(png, "the data ends too early");
+        std::memcpy(data, self->left_.data(), count);
+        self->left_ = self->left_.subspan(count);
+    }
+
+    std::span<const std::uint8_t> left_;
+    Failure failure_;
+    png_structp png_ = nullptr;
+    png_infop info_ = nullptr;
+};
+
+}  // namespace
+
+Bitmap DecodePng(std::span<const std::uint8_t> bytes) {
+    PngReader reader(bytes);
+    if (!reader.ReadHeader())
+        ThrowDamaged("PNG", reader.Problem());
+    CheckDeclaredSize(reader.Width(), reader.Height());
+    if (reader.BytesInFile() / kMaxDeflateRatio > static_cast<std::int64_t>(bytes.size()))
+        ThrowDamaged("PNG", "too little data for its size");
+    Bitmap image(static_cast<int>(reader.Width()), static_cast<int>(reader.Height()));
+    if (!reader.ReadPixels(image.MutablePixels()))
+        ThrowDamaged("PNG", reader.Problem());
+    return image;
+}
+
+}  // namespace orbelle::graphics

@@ -1,0 +1,123 @@
+// A toolbar that is painted by itself: skins in nine parts, icons, captions, latching buttons.
+#pragma once
+
+#include <QPixmap>
+#include <QStringList>
+#include <QTimer>
+#include <QWidget>
+#include <vector>
+
+#include "widgets/accessible_parts.h"
+#include "widgets/bar_button.h"
+#include "widgets/button_bar_layout.h"
+
+namespace orbelle::widgets {
+
+enum class ButtonBarStyle { Normal = 0, Vista = 1, Win10 = 2 };
+
+// How a toolbar is made; all sizes in logical pixels.
+struct ButtonBarSetup {
+    Qt::Orientation Direction = Qt::Horizontal;
+    ButtonBarStyle Styles = ButtonBarStyle::Normal;
+    int IconSize = 16;
+    QStringList Images;   // names of drawings, "1" for a separator's place
+    QStringList Buttons;  // eight fields with commas: "1,Y,,,Move tool,1,-1,0"
+};
+
+class ButtonBar : public QWidget, public AccessibleParts {
+    Q_OBJECT
+
+public:
+    explicit ButtonBar(const ButtonBarSetup& setup, QWidget* parent = nullptr);
+
+    int ButtonCounts() const;
+    // Buttons are numbered from 1. Another number reads as false and changes nothing.
+    bool IsPressed(int index) const;
+    void SetButtonPressState(int index, bool isPress);
+    bool GetButtonEnable(int index) const;
+    void SetButtonEnable(int index, bool isEnable);
+    void SetButtonCaptions(int index, const QString& caption);
+    void SetButtonToolTip(int index, const QString& tip);
+    void AddButtonMenu(int index, const ButtonMenu& menu);
+    const std::vector<BarButton>& Buttons() const;
+
+    // The button that the mouse or the keyboard came to last, 0 before the first.
+    int ButtonIndex() const;
+    // Where that button begins, from the top of the bar.
+    int refTopValue() const;
+    // The place of a button; empty for a separator and an unknown number.
+    QRect ButtonRect(int index) const;
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+    QAccessible::Role WholeRole() const override { return QAccessible::ToolBar; }
+    int PartCount() const override;
+    QString PartName(int part) const override;
+    QString PartValue(int) const override { return {}; }
+    QRect PartPlace(int part) const override;
+    QAccessible::Role PartRole(int part) const override;
+    QAccessible::State PartState(int part) const override;
+    int FocusedPart() const override;
+    void PressPart(int part) override;
+
+signals:
+    // A press of a mouse button on an enabled button, or Space or Return with the keyboard.
+    void MouseClick(int index);
+
+protected:
+    bool event(QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void leaveEvent(QEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
+
+private:
+    // Buttons count from 0 in here.
+    int IndexOf(int number) const;  // -1: there is no button of that number
+    bool IsHorizontal() const { return direction_ == Qt::Horizontal; }
+    bool CanPress(int index) const;
+    int Thickness() const;  // that its buttons ask for
+    void LayOut();
+    void MoveHover(const QPoint& point);
+    void PollHover();
+    void EndHover();
+    void Press(int index);
+    void FocusButton(int index);
+    int NextEnabled(int from, int step) const;
+    int PartOf(int index) const;
+    int ButtonOfPart(int part) const;
+
+    void LoadIcons(qreal ratio);
+    void PaintSeparator(QPainter& painter, int line) const;
+    void PaintButton(QPainter& painter, int index) const;
+    void PaintFace(QPainter& painter, const QRect& place, bool down) const;
+    void PaintFocus(QPainter& painter, const QRect& place) const;
+
+    Qt::Orientation direction_;
+    ButtonBarStyle style_;
+    int iconSize_;
+    QStringList images_;
+    std::vector<BarButton> buttons_;
+    ButtonBarLayout layout_;
+    QPixmap skinNormal_;
+    QPixmap skinDown_;
+    std::vector<QPixmap> icons_;
+    qreal iconsRatio_ = 0;  // that the icons were drawn for; 0: not yet
+
+    QTimer poll_;
+    int hoverIndex_ = -1;
+    int buttonIndex_ = -1;
+    int focusIndex_ = -1;
+    bool showFocus_ = false;
+    bool showDown_ = false;
+};
+
+}  // namespace orbelle::widgets

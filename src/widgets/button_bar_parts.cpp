@@ -1,0 +1,63 @@
+// What the toolbar tells assistive tools: its parts are the buttons without the separators.
+#include "widgets/button_bar.h"
+
+namespace orbelle::widgets {
+
+int ButtonBar::PartOf(int index) const {
+    if (index < 0 || buttons_[index].IsSeparator())
+        return -1;
+    int part = 0;
+    for (int i = 0; i < index; ++i)
+        part += buttons_[i].IsSeparator() ? 0 : 1;
+    return part;
+}
+
+int ButtonBar::ButtonOfPart(int part) const {
+    for (int i = 0; i < ButtonCounts(); ++i)
+        if (PartOf(i) == part)
+            return i;
+    return -1;
+}
+
+int ButtonBar::PartCount() const {
+    int count = 0;
+    for (const BarButton& button : buttons_)
+        count += button.IsSeparator() ? 0 : 1;
+    return count;
+}
+
+QString ButtonBar::PartName(int part) const {
+    const BarButton& button = buttons_[ButtonOfPart(part)];
+    return button.ToolTip.isEmpty() ? button.Caption : button.ToolTip;
+}
+
+QRect ButtonBar::PartPlace(int part) const {
+    return layout_.Places[ButtonOfPart(part)];
+}
+
+QAccessible::Role ButtonBar::PartRole(int part) const {
+    return buttons_[ButtonOfPart(part)].HasMenu() ? QAccessible::ButtonMenu : QAccessible::Button;
+}
+
+QAccessible::State ButtonBar::PartState(int part) const {
+    const BarButton& button = buttons_[ButtonOfPart(part)];
+    QAccessible::State state;
+    state.disabled = !button.Enabled || !isEnabled();
+    state.checkable = button.ButtonType == 1;
+    state.checked = state.checkable && button.IsPressed;
+    state.pressed = button.IsPressed;
+    state.hasPopup = button.HasMenu();
+    return state;
+}
+
+int ButtonBar::FocusedPart() const {
+    return PartOf(focusIndex_);
+}
+
+void ButtonBar::PressPart(int part) {
+    const int index = ButtonOfPart(part);
+    if (CanPress(index) && isEnabled())
+        Press(index);
+}
+
+}  // namespace orbelle::widgets

@@ -1,0 +1,253 @@
+#include "widgets/layer_list.h"
+
+#include <QMouseEvent>
+#include <QPainter>
+#include <QScrollBar>
+#include <algorithm>
+#include <cmath>
+
+namespace orbelle::widgets {
+namespace {
+
+constexpr int kRowHeight = 40;
+constexpr int kThumbnailSize = kRowHeight - 8;
+constexpr int kCheckerCell = 5;
+constexpr int kTextMargin = 8;
+
+constexpr QColor kSelectedRow(205, 236, 254);
+constexpr QColor kHiddenRow(230, 230, 230);
+constexpr QColor kRowLine(150, 150, 150);
+constexpr QColor kChecker(0, 0, 0, 30);
+constexpr QColor kTextColor(64, 64, 64);
+constexpr QColor kFocusColor(58, 150, 255);
+
+void DrawRowChecker(QPainter& painter, const QRect& square) {
+    for (int y = 0; y < square.height(); y += kCheckerCell)
+        for (int x = y % (2 * kCheckerCell); x < square.width(); x += 2 * kCheckerCell)
+            painter.fillRect(square.x() + x, square.y() + y, kCheckerCell, kCheckerCell, kChecker);
+}
+
+QFont TextFont(int points) {
+    QFont font("Verdana", points);
+    font.setStyleHint(QFont::SansSerif);
+    return font;
+}
+
+}  // namespace
+
+QRect FitRect(const QSize& picture, int box) {
+    if (picture.isEmpty())
+        return {};
+    QSize size = picture;
+    if (size.width() > box || size.height() > box) {
+        const double scale =
+            std::min(double(box) / picture.width(), double(box) / picture.height());
+        const auto scaled = [scale](int side) {
+            return std::max(static_cast<int>(std::nearbyint(side * scale)), 1);
+        };
+        size = {scaled(picture.width()), scaled(picture.height())};
+    }
+    return {QPoint((box - size.width()) / 2, (box - size.height()) / 2), size};
+}
+
+LayerList::LayerList(QWidget* parent) : QAbstractScrollArea(parent) {
+    ShowPartsToAssistiveTools();
+    setFrameShape(QFrame::NoFrame);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setFocusPolicy(Qt::StrongFocus);
+    verticalScrollBar()->setSingleStep(kRowHeight);
+    FitScrollBar();
+}
+
+int LayerList::SelectedIndex() const {
+    return selectedIndex_;
+}
+
+void LayerList::SetSelectedIndex(int index) {
+    selectedIndex_ = std::max(index, -1);
+    viewport()->update();
+}
+
+void LayerList::Clean() {
+    items_.clear();
+}
+
+void LayerList::LoadImage(const QImage& image, int width, int height, const QString& opacityText,
+                          bool visible) {
+    items_.push_back({image, QSize(width, height), opacityText, visible, {}});
+}
+
+void LayerList::UpdateImage(const QImage& image, int width, int height, int index,
+                            const QString& opacityText, bool visible) {
+    if (index < 0 || index >= Count())
+        return;
+    items_[index] = {image, QSize(width, height), opacityText, visible, {}};
+}
+
+void LayerList::DrawLayers() {
+    FitScrollBar();
+    viewport()->update();
+}
+
+int LayerList::Count() const {
+    return static_cast<int>(items_.size());
+}
+
+void LayerList::FitScrollBar() {
+    const int height = viewport()->height();
+    verticalScrollBar()->setRange(0, std::max(kRowHeight * Count() + 2 - height, 0));
+    verticalScrollBar()->setPageStep(height);
+}
+
+QRect LayerList::RowPlace(int row) const {
+    return {0, row * kRowHeight - verticalScrollBar()->value(), viewport()->width(), kRowHeight};
+}
+
+void LayerList::paintEvent(QPaintEvent* event) {
+    QPainter painter(viewport());
+    painter.fillRect(viewport()->rect(), Qt::white);
+    for (int row = 0; row < Count(); ++row)
+        if (RowPlace(row).intersects(event->rect()))
+            PaintRow(painter, row);
+    if (hasFocus()) {
+        painter.setPen(kFocusColor);
+        painter.setBrush(Qt::NoBrush);
+        const int row = FocusedPart();
+        const QRect place = row < 0 ? viewport()->rect() : RowPlace(row);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.drawRect(QRectF(place).adjusted(0.5, 0.5, -0.5, -0.5));
+    }
+}
+
+void LayerList::PaintRow(QPainter& painter, int row) {
+    const int layer = LayerOfRow(row);
+    Item& item = items_[layer];
+    const QRect place = RowPlace(row);
+    if (layer == selectedIndex_)
+        painter.fillRect(place, kSelectedRow);
+    else if (!item.Visible)
+        painter.fillRect(place, kHiddenRow);
+
+    const QRect box(place.topLeft(), QSize(kRowHeight, kRowHeight));
+    DrawRowChecker(painter, box);
+    PaintThumbnail(painter, box, item);
+    PaintText(painter, place.adjusted(kRowHeight + kTextMargin, 0, -4, 0), PartName(row),
+              item.OpacityText);
+    painter.fillRect(place.x(), place.bottom(), place.width(), 1, kRowLine);
+}
+
+void LayerList::PaintThumbnail(QPainter& painter, const QRect& box, Item& item) const {
+    const int margin = (kRowHeight - kThumbnailSize) / 2;
+    const QRect place =
+        FitRect(item.Size, kThumbnailSize).translated(box.topLeft() + QPoint(margin, margin));
+    if (place.isEmpty() || item.Image.isNull())
+        return;
+    const QSize pixels = (QSizeF(place.size()) * devicePixelRatioF()).toSize();
+    const bool shrinks =
+        item.Image.width() > pixels.width() || item.Image.height() > pixels.height();
+    if (shrinks && item.Thumbnail.size() != pixels)
+        item.Thumbnail = item.Image.scaled(pixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    // Without smoothing: a small picture that the screen enlarges keeps its hard squares.
+    painter.drawImage(place, shrinks ? item.Thumbnail : item.Image);
+}
+
+void LayerList::PaintText(QPainter& painter, const QRect& row, const QString& name,
+                          const QString& opacity) const {
+    const auto draw = [&](const QRect& line, int points, const QString& text) {
+        const QFont font = TextFont(points);
+        painter.setFont(font);
+        painter.drawText(line, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
+                         QFontMetrics(font).elidedText(text, Qt::ElideRight, line.width()));
+    };
+    painter.setPen(kTextColor);
+    draw(row.adjusted(0, 2, 0, -kRowHeight / 2), 9, name);
+    draw(row.adjusted(0, kRowHeight / 2, 0, -2), 8, opacity);
+}
+
+void LayerList::resizeEvent(QResizeEvent*) {
+    FitScrollBar();
+}
+
+void LayerList::mousePressEvent(QMouseEvent* event) {
+    for (int row = 0; row < Count(); ++row)
+        if (RowPlace(row).contains(event->pos()))
+            SetSelectedIndex(LayerOfRow(row));
+    AnnounceFocus(*this, FocusedPart());
+    emit Clicked(event->button(), event->modifiers(), event->pos());
+}
+
+void LayerList::mouseDoubleClickEvent(QMouseEvent* event) {
+    mousePressEvent(event);
+}
+
+void LayerList::SelectRow(int row) {
+    row = std::clamp(row, 0, Count() - 1);
+    if (LayerOfRow(row) == selectedIndex_)
+        return;
+    SetSelectedIndex(LayerOfRow(row));
+    const QRect place = RowPlace(row);
+    QScrollBar& bar = *verticalScrollBar();
+    if (place.top() < 0)
+        bar.setValue(bar.value() + place.top());
+    else if (place.bottom() >= viewport()->height())
+        bar.setValue(bar.value() + place.bottom() + 1 - viewport()->height());
+    AnnounceFocus(*this, row);
+    emit Clicked(Qt::LeftButton, Qt::NoModifier, RowPlace(row).center());
+}
+
+void LayerList::keyPressEvent(QKeyEvent* event) {
+    const int row = FocusedPart();
+    const bool isMove = event->key() == Qt::Key_Up || event->key() == Qt::Key_Down ||
+                        event->key() == Qt::Key_Home || event->key() == Qt::Key_End;
+    if (!isMove || Count() == 0)
+        return QAbstractScrollArea::keyPressEvent(event);
+    switch (event->key()) {
+        case Qt::Key_Up:
+            return SelectRow(row - 1);
+        case Qt::Key_Down:
+            return SelectRow(row + 1);
+        case Qt::Key_Home:
+            return SelectRow(0);
+        default:
+            return SelectRow(Count() - 1);
+    }
+}
+
+void LayerList::focusInEvent(QFocusEvent*) {
+    AnnounceFocus(*this, FocusedPart());
+    viewport()->update();
+}
+
+void LayerList::focusOutEvent(QFocusEvent*) {
+    viewport()->update();
+}
+
+QString LayerList::PartName(int part) const {
+    return QString("Icon %1").arg(Count() - part);
+}
+
+QString LayerList::PartValue(int part) const {
+    return items_[LayerOfRow(part)].OpacityText;
+}
+
+QRect LayerList::PartPlace(int part) const {
+    return RowPlace(part);
+}
+
+QAccessible::State LayerList::PartState(int part) const {
+    QAccessible::State state;
+    state.selectable = true;
+    state.selected = LayerOfRow(part) == selectedIndex_;
+    state.offscreen = !RowPlace(part).intersects(viewport()->rect());
+    return state;
+}
+
+int LayerList::FocusedPart() const {
+    return selectedIndex_ >= 0 && selectedIndex_ < Count() ? Count() - selectedIndex_ - 1 : -1;
+}
+
+void LayerList::PressPart(int part) {
+    SelectRow(part);
+}
+
+}  // namespace orbelle::widgets

@@ -1,0 +1,335 @@
+#include "widgets/number_slider.h"
+
+#include <QAccessibleWidget>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QPainterPath>
+#include <algorithm>
+#include <climits>
+#include <cmath>
+#include <optional>
+
+#include "widgets/chrome.h"
+
+namespace orbelle::widgets {
+
+namespace {
+
+constexpr QSize kSize(92, 24);
+constexpr int kButtonWidth = 18;
+constexpr int kRepeatDelay = 400;    // milliseconds
+constexpr int kRepeatInterval = 60;  // milliseconds
+
+// Nothing when the text is no number, or one beyond the whole numbers that we count with.
+std::optional<int> NumberIn(const QString& text) {
+    bool isNumber = false;
+    const double number = std::nearbyint(text.trimmed().toDouble(&isNumber));
+    if (!isNumber || !(number >= INT_MIN && number <= INT_MAX))
+        return std::nullopt;
+    return static_cast<int>(number);
+}
+
+void DrawTriangle(QPainter& painter, const QPointF& middle, double height) {
+    QPainterPath triangle;
+    triangle.moveTo(middle.x() - 3.5, middle.y() - height / 2);
+    triangle.lineTo(middle.x() + 3.5, middle.y() - height / 2);
+    triangle.lineTo(middle.x(), middle.y() + height / 2);
+    painter.drawPath(triangle);
+}
+
+}  // namespace
+
+// A spin box to assistive tools; the typing field lies within it.
+class NumberSlider::Accessible : public QAccessibleWidget, public QAccessibleValueInterface {
+public:
+    explicit Accessible(NumberSlider* scroll)
+        : QAccessibleWidget(scroll, QAccessible::SpinBox), scroll_(scroll) {}
+
+    static QAccessibleInterface* Make(const QString&, QObject* object) {
+        auto* scroll = qobject_cast<NumberSlider*>(object);
+        return scroll ? new Accessible(scroll) : nullptr;
+    }
+
+    void* interface_cast(QAccessible::InterfaceType type) override {
+        if (type == QAccessible::ValueInterface)
+            return static_cast<QAccessibleValueInterface*>(this);
+        return QAccessibleWidget::interface_cast(type);
+    }
+    QString text(QAccessible::Text kind) const override {
+        return kind == QAccessible::Value ? QString::number(scroll_->value_)
+                                          : QAccessibleWidget::text(kind);
+    }
+    QVariant currentValue() const override { return scroll_->value_; }
+    QVariant minimumValue() const override { return scroll_->minValue_; }
+    QVariant maximumValue() const override { return scroll_->scale_.MaxValue; }
+    QVariant minimumStepSize() const override { return 1; }
+    void setCurrentValue(const QVariant& value) override {
+        scroll_->CommitText();
+        emit scroll_->Pressed();
+        scroll_->ChangeTo(std::clamp(value.toInt(), scroll_->minValue_, scroll_->scale_.MaxValue));
+        emit scroll_->Released();
+    }
+
+private:
+    NumberSlider* scroll_;
+};
+
+NumberSlider::NumberSlider(QWidget* parent)
+    : QWidget(parent), field_(new QLineEdit(this)), track_(new SliderTrack(this)) {
+    QAccessible::installFactory(Accessible::Make);
+    setFocusProxy(field_);
+    setFocusPolicy(Qt::StrongFocus);
+    setFont(ChromeFont(8.25));
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    field_->installEventFilter(this);
+    field_->setFrame(false);
+    field_->setAlignment(Qt::AlignCenter);
+    field_->setAttribute(Qt::WA_MacShowFocusRect, false);
+    QPalette colors = field_->palette();
+    colors.setColor(QPalette::Base, Qt::transparent);
+    colors.setColor(QPalette::Text, kTextColor);
+    colors.setColor(QPalette::Disabled, QPalette::Text, kEdgeColor);
+    colors.setColor(QPalette::Highlight, kAccentColor);
+    field_->setPalette(colors);
+    SetRange(0, 100);
+    Store(0);
+
+    connect(field_, &QLineEdit::textEdited, this, &NumberSlider::TakeText);
+    connect(field_, &QLineEdit::editingFinished, this, &NumberSlider::CommitText);
+    connect(track_, &SliderTrack::Pressed, this, [this] {
+        CommitText();
+        emit Pressed();
+    });
+    connect(track_, &SliderTrack::Dragged, this, [this](double x) {
+        const SliderScale::Drag drag = scale_.DragTo(x);
+        ChangeTo(drag.Value);
+        // Unless the owner has answered with a value of its own.
+        if (value_ == drag.Value)
+            track_->SetPlace(drag.Place);
+    });
+    connect(track_, &SliderTrack::Released, this, &NumberSlider::Released);
+    connect(track_, &SliderTrack::Stepped, this, [this](int direction) {
+        StartSpin(direction);
+        EndSpin();
+    });
+}
+
+NumberSlider::~NumberSlider() {
+    // They outlive this part of the object, and end their gestures when they close.
+    field_->disconnect(this);
+    track_->disconnect(this);
+}
+
+int NumberSlider::MinValue() const {
+    return minValue_;
+}
+
+int NumberSlider::MaxValue() const {
+    return scale_.MaxValue;
+}
+
+void NumberSlider::SetRange(int minValue, int maxValue) {
+    minValue_ = minValue;
+    scale_.MaxValue = std::max(minValue, maxValue);
+    track_->SetPlace(scale_.PlaceFromValue(value_));
+}
+
+int NumberSlider::ScrollStyle() const {
+    return scale_.Style;
+}
+
+void NumberSlider::SetScrollStyle(int style) {
+    scale_.Style = style;
+    track_->SetPlace(scale_.PlaceFromValue(value_));
+}
+
+int NumberSlider::ColorValue() const {
+    return value_;
+}
+
+void NumberSlider::SetColorValue(int value) {
+    // An owner that answers a change with the same value must not disturb the typing of it.
+    if (value == value_ && typing_)
+        return;
+    Store(value);
+}
+
+void NumberSlider::Store(int value) {
+    value_ = value;
+    field_->setText(QString::number(value));
+    if (field_->hasFocus())
+        field_->selectAll();
+    track_->SetPlace(scale_.PlaceFromValue(value));
+    QAccessibleValueChangeEvent event(this, value);
+    QAccessible::updateAccessibility(&event);
+}
+
+void NumberSlider::ChangeTo(int value) {
+    const bool changes = value != value_;
+    Store(value);
+    if (changes)
+        emit Changed(value);
+}
+
+void NumberSlider::TakeText(const QString& text) {
+    const std::optional<int> number = NumberIn(text);
+    if (!number || *number == value_)
+        return;
+    if (!typing_) {
+        typing_ = true;
+        emit Pressed();
+    }
+    value_ = *number;
+    track_->SetPlace(scale_.PlaceFromValue(value_));
+    emit Changed(value_);
+}
+
+void NumberSlider::CommitText() {
+    field_->setText(QString::number(value_));
+    if (typing_) {
+        typing_ = false;
+        emit Released();
+    }
+}
+
+void NumberSlider::StartSpin(int direction) {
+    CommitText();
+    spinning_ = direction;
+    emit Pressed();
+    Spin(direction);
+    update();
+}
+
+void NumberSlider::EndSpin() {
+    if (spinning_ == 0)
+        return;
+    spinning_ = 0;
+    repeat_.stop();
+    emit Released();
+    update();
+}
+
+void NumberSlider::Spin(int direction) {
+    // In wide numbers: a typed value may be the last whole number there is.
+    const long long next = std::clamp<long long>(static_cast<long long>(value_) + direction,
+                                                 minValue_, scale_.MaxValue);
+    ChangeTo(static_cast<int>(next));
+}
+
+QSize NumberSlider::sizeHint() const {
+    return kSize;
+}
+
+QSize NumberSlider::minimumSizeHint() const {
+    return {2 * kButtonWidth + 30, kSize.height()};
+}
+
+QRect NumberSlider::SpinRect(int direction) const {
+    const int half = height() / 2;
+    const int left = width() - 2 * kButtonWidth;
+    return direction > 0 ? QRect(left, 0, kButtonWidth, half)
+                         : QRect(left, half, kButtonWidth, height() - half);
+}
+
+QRect NumberSlider::OpenRect() const {
+    return {width() - kButtonWidth, 0, kButtonWidth, height()};
+}
+
+void NumberSlider::resizeEvent(QResizeEvent* event) {
+    field_->setGeometry(2, 2, width() - 2 * kButtonWidth - 3, height() - 4);
+    QWidget::resizeEvent(event);
+}
+
+bool NumberSlider::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut) {
+        // The field has the focus in our place, so it has to go by our name.
+        field_->setAccessibleName(accessibleName());
+        update();
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+void NumberSlider::hideEvent(QHideEvent* event) {
+    EndSpin();
+    QWidget::hideEvent(event);
+}
+
+void NumberSlider::changeEvent(QEvent* event) {
+    if (event->type() == QEvent::EnabledChange && !isEnabled()) {
+        EndSpin();
+        track_->hide();
+        update();
+    }
+    QWidget::changeEvent(event);
+}
+
+void NumberSlider::mousePressEvent(QMouseEvent* event) {
+    if (event->button() != Qt::LeftButton)
+        return;
+    const QPoint place = event->position().toPoint();
+    if (OpenRect().contains(place)) {
+        track_->OpenAt(*this);
+        return;
+    }
+    for (const int direction : {1, -1})
+        if (SpinRect(direction).contains(place)) {
+            StartSpin(direction);
+            repeat_.start(kRepeatDelay, this);
+        }
+}
+
+void NumberSlider::mouseReleaseEvent(QMouseEvent* event) {
+    if (event->button() == Qt::LeftButton)
+        EndSpin();
+}
+
+void NumberSlider::timerEvent(QTimerEvent* event) {
+    if (event->timerId() != repeat_.timerId())
+        return QWidget::timerEvent(event);
+    Spin(spinning_);
+    repeat_.start(kRepeatInterval, this);
+}
+
+// What the field has no use for comes here.
+void NumberSlider::keyPressEvent(QKeyEvent* event) {
+    const bool isUp = event->key() == Qt::Key_Up;
+    if (!isUp && event->key() != Qt::Key_Down)
+        return QWidget::keyPressEvent(event);
+    if (!isUp && (event->modifiers() & Qt::AltModifier)) {
+        track_->OpenAt(*this);
+        return;
+    }
+    StartSpin(isUp ? 1 : -1);
+    EndSpin();
+}
+
+void NumberSlider::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setBrush(isEnabled() ? QColor(Qt::white) : kChromeColor);
+    painter.setPen(QPen(field_->hasFocus() ? kAccentColor : kEdgeColor, 1));
+    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), 3, 3);
+
+    painter.fillRect(SpinRect(1).left(), 4, 1, height() - 8, kHairlineColor);
+    painter.fillRect(OpenRect().left(), 4, 1, height() - 8, kHairlineColor);
+
+    painter.setPen(Qt::NoPen);
+    for (const int direction : {1, -1}) {
+        const QPointF middle =
+            QRectF(SpinRect(direction)).center() + QPointF(0.5, direction * -0.5);
+        const bool canSpin = direction > 0 ? value_ < scale_.MaxValue : value_ > minValue_;
+        painter.setBrush(!isEnabled() || !canSpin ? kHairlineColor
+                         : spinning_ == direction ? kAccentColor
+                                                  : kTextColor);
+        DrawTriangle(painter, middle, direction > 0 ? -4 : 4);
+    }
+    painter.setPen(QPen(isEnabled() ? kTextColor : kHairlineColor, 1.5));
+    painter.setBrush(Qt::NoBrush);
+    const QPointF middle = QRectF(OpenRect()).center() + QPointF(0.5, 0);
+    const QPointF chevron[] = {middle + QPointF(-4, -2), middle + QPointF(0, 2),
+                               middle + QPointF(4, -2)};
+    painter.drawPolyline(chevron, 3);
+}
+
+}  // namespace orbelle::widgets

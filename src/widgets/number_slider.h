@@ -1,0 +1,75 @@
+// The numeric slider: a value that can be typed, two spin arrows and a track that opens below.
+#pragma once
+
+#include <QBasicTimer>
+#include <QLineEdit>
+#include <QWidget>
+
+#include "widgets/slider_scale.h"
+#include "widgets/slider_track.h"
+
+namespace orbelle::widgets {
+
+class NumberSlider : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit NumberSlider(QWidget* parent = nullptr);
+    ~NumberSlider() override;
+
+    int MinValue() const;
+    int MaxValue() const;
+    void SetRange(int minValue, int maxValue);
+    // Which values the track reaches: 0 to MaxValue, 1 to 255, 2 to 180, 3 to 100.
+    int ScrollStyle() const;
+    void SetScrollStyle(int style);
+    int ColorValue() const;
+    // Does not raise Changed. Values beyond the range are taken, as typed ones are.
+    void SetColorValue(int value);
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+signals:
+    // The user typed, spun or dragged the value.
+    void Changed(int value);
+    // One gesture lies between these two: a drag on the track, a press of a spin arrow, a text
+    // until it is committed with Return or by leaving the field.
+    void Pressed();
+    void Released();
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void timerEvent(QTimerEvent* event) override;
+
+private:
+    class Accessible;
+
+    QRect SpinRect(int direction) const;
+    QRect OpenRect() const;
+    void TakeText(const QString& text);
+    void CommitText();
+    void StartSpin(int direction);
+    void EndSpin();
+    void Spin(int direction);
+    void ChangeTo(int value);
+    void Store(int value);
+
+    SliderScale scale_;
+    int minValue_ = 0;
+    int value_ = 0;
+    int spinning_ = 0;  // the arrow that is held: +1 or -1, 0 none
+    bool typing_ = false;
+    QBasicTimer repeat_;
+    QLineEdit* field_;
+    SliderTrack* track_;
+};
+
+}  // namespace orbelle::widgets

@@ -1,0 +1,75 @@
+#include "widgets/panel_header.h"
+
+#include <QKeyEvent>
+#include <QPainter>
+
+#include "widgets/chrome.h"
+
+namespace orbelle::widgets {
+
+namespace {
+
+constexpr int kHeight = 24;
+constexpr int kMargin = 8;
+constexpr int kChevronRoom = 24;
+
+}  // namespace
+
+PanelHeader::PanelHeader(const QString& title, QWidget* parent) : QAbstractButton(parent) {
+    setText(title);
+    setCheckable(true);
+    setChecked(true);
+    setFont(ChromeFont(8.25));
+    setFixedHeight(kHeight);
+    setAttribute(Qt::WA_Hover);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    // A click leaves the keyboard with the picture that is being edited.
+    setFocusPolicy(Qt::TabFocus);
+    connect(this, &QAbstractButton::clicked, this, [this] { emit Clicked(IsClosed()); });
+}
+
+bool PanelHeader::IsClosed() const {
+    return !isChecked();
+}
+
+void PanelHeader::SetClosed(bool closed) {
+    setChecked(!closed);
+}
+
+QSize PanelHeader::sizeHint() const {
+    return {kMargin + fontMetrics().horizontalAdvance(text()) + kChevronRoom, kHeight};
+}
+
+void PanelHeader::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+        click();
+    else
+        QAbstractButton::keyPressEvent(event);
+}
+
+void PanelHeader::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.fillRect(rect(), kChromeColor);
+    painter.fillRect(0, height() - 1, width(), 1, kHairlineColor);
+    painter.setPen(isEnabled() ? kTextColor : kEdgeColor);
+    const QRect room = rect().adjusted(kMargin, 0, -kChevronRoom, -1);
+    painter.drawText(room, Qt::AlignVCenter | Qt::AlignLeft,
+                     fontMetrics().elidedText(text(), Qt::ElideRight, room.width()));
+
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(underMouse() ? kAccentColor : painter.pen().color(), 1.5));
+    painter.save();
+    painter.translate(width() - kChevronRoom / 2, (height() - 1) / 2.0);
+    if (IsClosed())
+        painter.rotate(-90);
+    const QPointF chevron[] = {{-4, -2}, {0, 2}, {4, -2}};
+    painter.drawPolyline(chevron, 3);
+    painter.restore();
+
+    if (hasFocus()) {
+        painter.setPen(QPen(kAccentColor, 1));
+        painter.drawRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5));
+    }
+}
+
+}  // namespace orbelle::widgets

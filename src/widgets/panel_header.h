@@ -1,0 +1,29 @@
+// The header of a panel that folds.
+#pragma once
+
+#include <QAbstractButton>
+
+namespace orbelle::widgets {
+
+// Open at first. To assistive tools it is a button that is checked while its panel is open.
+class PanelHeader : public QAbstractButton {
+    Q_OBJECT
+
+public:
+    explicit PanelHeader(const QString& title, QWidget* parent = nullptr);
+
+    bool IsClosed() const;
+    void SetClosed(bool closed);  // does not raise Clicked
+
+    QSize sizeHint() const override;
+
+signals:
+    // The header was clicked, or Space or Return pressed on it, and has turned.
+    void Clicked(bool IsClosed);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+};
+
+}  // namespace orbelle::widgets

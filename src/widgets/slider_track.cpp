@@ -1,0 +1,121 @@
+#include "widgets/slider_track.h"
+
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QScreen>
+
+#include "widgets/chrome.h"
+#include "widgets/slider_scale.h"
+
+namespace orbelle::widgets {
+
+namespace {
+
+constexpr int kThumbSize = 16;
+constexpr int kMargin = 8;
+constexpr int kGrooveHeight = 4;
+constexpr QSize kPopupSize(kMargin + kTrackTravel + kThumbSize + kMargin,
+                           kMargin + kThumbSize + kMargin);
+
+}  // namespace
+
+SliderTrack::SliderTrack(QWidget* parent) : QWidget(parent, Qt::Popup) {
+    // A press beside the open track only closes it: not also what lies below, which may be the
+    // button that would open it again.
+    setAttribute(Qt::WA_NoMouseReplay);
+    setFixedSize(kPopupSize);
+}
+
+void SliderTrack::SetPlace(double place) {
+    place_ = place;
+    update();
+}
+
+void SliderTrack::OpenAt(const QWidget& control) {
+    const QRect room = control.screen()->availableGeometry();
+    QPoint corner = control.mapToGlobal(QPoint(control.width() - width(), control.height()));
+    if (corner.y() + height() > room.bottom())
+        corner.ry() -= control.height() + height();
+    corner.rx() = qMax(corner.x(), room.left());
+    move(corner);
+    show();
+}
+
+QRectF SliderTrack::ThumbRect() const {
+    return {kMargin + place_, kMargin, kThumbSize, kThumbSize};
+}
+
+void SliderTrack::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.fillRect(rect(), kEdgeColor);
+    painter.fillRect(rect().adjusted(1, 1, -1, -1), kChromeColor);
+
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    const QRectF thumb = ThumbRect();
+    QRectF groove(kMargin, (height() - kGrooveHeight) / 2, width() - 2 * kMargin, kGrooveHeight);
+    painter.setBrush(kHairlineColor);
+    painter.drawRoundedRect(groove, kGrooveHeight / 2, kGrooveHeight / 2);
+    groove.setRight(thumb.center().x());
+    painter.setBrush(kAccentColor);
+    painter.drawRoundedRect(groove, kGrooveHeight / 2, kGrooveHeight / 2);
+
+    painter.setBrush(Qt::white);
+    painter.setPen(QPen(dragging_ ? kAccentColor : kEdgeColor, 1));
+    painter.drawEllipse(thumb.adjusted(0.5, 0.5, -0.5, -0.5));
+}
+
+void SliderTrack::mousePressEvent(QMouseEvent* event) {
+    if (event->button() == Qt::LeftButton && ThumbRect().contains(event->position())) {
+        EndDrag();
+        dragging_ = true;
+        update();
+        emit Pressed();
+        return;
+    }
+    // The base closes the pop-up on a press beside it.
+    QWidget::mousePressEvent(event);
+}
+
+void SliderTrack::mouseMoveEvent(QMouseEvent* event) {
+    if (!(event->buttons() & Qt::LeftButton))
+        EndDrag();
+    if (dragging_)
+        emit Dragged(event->position().x() - kMargin);
+}
+
+void SliderTrack::mouseReleaseEvent(QMouseEvent* event) {
+    if (event->button() == Qt::LeftButton)
+        EndDrag();
+}
+
+void SliderTrack::EndDrag() {
+    if (!dragging_)
+        return;
+    dragging_ = false;
+    update();
+    emit Released();
+}
+
+void SliderTrack::keyPressEvent(QKeyEvent* event) {
+    switch (event->key()) {
+        case Qt::Key_Left:
+        case Qt::Key_Down:
+            emit Stepped(-1);
+            break;
+        case Qt::Key_Right:
+        case Qt::Key_Up:
+            emit Stepped(1);
+            break;
+        default:
+            QWidget::keyPressEvent(event);
+    }
+}
+
+void SliderTrack::hideEvent(QHideEvent* event) {
+    EndDrag();
+    QWidget::hideEvent(event);
+}
+
+}  // namespace orbelle::widgets

@@ -1,0 +1,210 @@
+#include "widgets/track_slider.h"
+
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QWheelEvent>
+#include <algorithm>
+#include <climits>
+#include <cmath>
+
+#include "widgets/chrome.h"
+
+namespace orbelle::widgets {
+
+namespace {
+
+constexpr int kHeight = 20;
+constexpr int kGrooveHeight = 4;
+constexpr QSize kThumbSize(10, 16);
+// How far a drag keeps the thumb away from the end of the track.
+constexpr int kDragStop = 5;
+constexpr int kWheelNotch = 120;
+
+}  // namespace
+
+TrackSlider::TrackSlider(QWidget* parent) : QSlider(Qt::Horizontal, parent) {
+    setFixedHeight(kHeight);
+    setMouseTracking(true);
+    setFocusPolicy(Qt::StrongFocus);
+}
+
+QSize TrackSlider::sizeHint() const {
+    return {120, kHeight};
+}
+
+void TrackSlider::SetValue(int value) {
+    setValue(value);
+    // Also an unchanged value takes the thumb from where a drag has left it.
+    if (!dragging_)
+        PlaceThumb();
+}
+
+int TrackSlider::TrackWidth() const {
+    return qMax(width() - kThumbSize.width(), 0);
+}
+
+QRect TrackSlider::ThumbRect() const {
+    return {QPoint(thumbLeft_, (height() - kThumbSize.height()) / 2), kThumbSize};
+}
+
+void TrackSlider::PlaceThumb() {
+    const double left = maximum() > 0 ? double(TrackWidth()) * value() / maximum() : 0;
+    thumbLeft_ = qBound(0, static_cast<int>(std::nearbyint(left)), TrackWidth());
+    update();
+}
+
+// `direction` tells on which side of its beginning the drag is: only the end on that side stops it.
+void TrackSlider::DragThumb(int left, int direction) {
+    const int before = value();
+    int next = 0;
+    if (direction > 0 && left > TrackWidth() - kDragStop) {
+        left = TrackWidth() - kDragStop;
+        next = maximum();
+    } else if (direction < 0 && left < 0) {
+        left = 0;
+    } else if (TrackWidth() > 0) {
+        next = static_cast<int>(std::nearbyint(double(left) * maximum() / TrackWidth()));
+    }
+    setValue(next);
+    thumbLeft_ = qMax(left, 0);
+    update();
+    if (value() != before)
+        emit Changed(value());
+}
+
+void TrackSlider::mousePressEvent(QMouseEvent* event) {
+    if (event->button() != Qt::LeftButton) {
+        event->ignore();
+        return;
+    }
+    EndDrag();
+    const QPoint place = event->position().toPoint();
+    dragging_ = true;
+    emit Pressed();
+    if (!ThumbRect().contains(place))
+        DragThumb(place.x() - kThumbSize.width() / 2, place.x() < thumbLeft_ ? -1 : 1);
+    downX_ = place.x();
+    downLeft_ = thumbLeft_;
+    isOverThumb_ = true;
+    update();
+}
+
+void TrackSlider::mouseMoveEvent(QMouseEvent* event) {
+    const QPoint place = event->position().toPoint();
+    // A message box that comes up in a drag takes the release for itself.
+    if (!(event->buttons() & Qt::LeftButton))
+        EndDrag();
+    if (dragging_) {
+        const int moved = place.x() - downX_;
+        DragThumb(downLeft_ + moved, moved);
+    } else if (ThumbRect().contains(place) != isOverThumb_) {
+        isOverThumb_ = !isOverThumb_;
+        update();
+    }
+}
+
+void TrackSlider::mouseReleaseEvent(QMouseEvent* event) {
+    if (event->button() == Qt::LeftButton)
+        EndDrag();
+}
+
+void TrackSlider::EndDrag() {
+    if (!dragging_)
+        return;
+    dragging_ = false;
+    isOverThumb_ = false;
+    update();
+    emit Released();
+}
+
+void TrackSlider::Step(int step) {
+    const int before = value();
+    if (dragging_)
+        return;
+    const int next = static_cast<int>(
+        std::clamp(before + static_cast<long long>(step), 0LL + minimum(), 0LL + maximum()));
+    if (next == before)
+        return;
+    emit Pressed();
+    SetValue(next);
+    emit Changed(next);
+    emit Released();
+}
+
+void TrackSlider::keyPressEvent(QKeyEvent* event) {
+    switch (event->key()) {
+        case Qt::Key_Left:
+        case Qt::Key_Down:
+            return Step(-singleStep());
+        case Qt::Key_Right:
+        case Qt::Key_Up:
+            return Step(singleStep());
+        case Qt::Key_PageDown:
+            return Step(-pageStep());
+        case Qt::Key_PageUp:
+            return Step(pageStep());
+        case Qt::Key_Home:
+            return Step(-INT_MAX);
+        case Qt::Key_End:
+            return Step(INT_MAX);
+        default:
+            event->ignore();
+    }
+}
+
+void TrackSlider::wheelEvent(QWheelEvent* event) {
+    // Fine wheels send parts of a notch.
+    wheelRest_ += event->angleDelta().y();
+    for (; wheelRest_ >= kWheelNotch; wheelRest_ -= kWheelNotch)
+        Step(singleStep());
+    for (; wheelRest_ <= -kWheelNotch; wheelRest_ += kWheelNotch)
+        Step(-singleStep());
+    event->accept();
+}
+
+void TrackSlider::resizeEvent(QResizeEvent* event) {
+    QSlider::resizeEvent(event);
+    PlaceThumb();
+}
+
+void TrackSlider::changeEvent(QEvent* event) {
+    if (event->type() == QEvent::EnabledChange && !isEnabled())
+        EndDrag();
+    QSlider::changeEvent(event);
+}
+
+void TrackSlider::leaveEvent(QEvent* event) {
+    if (!dragging_) {
+        isOverThumb_ = false;
+        update();
+    }
+    QSlider::leaveEvent(event);
+}
+
+void TrackSlider::sliderChange(SliderChange change) {
+    QSlider::sliderChange(change);
+    PlaceThumb();
+}
+
+void TrackSlider::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    const QRect thumb = ThumbRect();
+    const int inset = kThumbSize.width() / 2;
+    QRectF groove(inset, (height() - kGrooveHeight) / 2, TrackWidth(), kGrooveHeight);
+    painter.setBrush(kHairlineColor);
+    painter.drawRoundedRect(groove, kGrooveHeight / 2, kGrooveHeight / 2);
+    if (isEnabled()) {
+        groove.setRight(thumb.left() + inset);
+        painter.setBrush(kAccentColor);
+        painter.drawRoundedRect(groove, kGrooveHeight / 2, kGrooveHeight / 2);
+    }
+    const bool isLit = isEnabled() && (dragging_ || isOverThumb_ || hasFocus());
+    painter.setBrush(isEnabled() ? QColor(Qt::white) : kChromeColor);
+    painter.setPen(QPen(isLit ? kAccentColor : isEnabled() ? kEdgeColor : kHairlineColor, 1));
+    painter.drawRoundedRect(QRectF(thumb).adjusted(0.5, 0.5, -0.5, -0.5), 3, 3);
+}
+
+}  // namespace orbelle::widgets

@@ -1,0 +1,70 @@
+#include "app/icon_strip.h"
+
+#include <gtest/gtest.h>
+
+namespace orbelle::app {
+namespace {
+
+using graphics::PointF;
+using graphics::RectF;
+using graphics::RectI;
+
+constexpr int kHeight = 200;
+
+IconImageStrip StripOf(std::vector<std::pair<int, int>> sizes) {
+    std::vector<formats::IconEntryImage> images;
+    for (const auto& [width, height] : sizes)
+        images.push_back({width, height, 32, graphics::Bitmap(width, height)});
+    return IconImageStrip(std::move(images));
+}
+
+TEST(BestFit, ShrinksToTheSideThatBindsAndKeepsFractions) {
+    const struct {
+        float Width, Height;
+        RectF Place;
+    } cases[] = {
+        {256, 256, {0, 30, 100, 100}}, {48, 48, {26, 56, 48, 48}},    {100, 160, {0, 0, 100, 160}},
+        {47, 45, {26, 57, 47, 45}},    {200, 25, {0, 74, 100, 12.5}}, {16, 320, {46, 0, 8, 160}},
+        {25, 320, {44, 0, 12.5, 160}},
+    };
+    for (const auto& [width, height, place] : cases)
+        EXPECT_EQ(BestFit(width, height, 100, 160), place) << width << " x " << height;
+}
+
+TEST(IconStrip, CellsStandInARowWithPicturesAndCaptions) {
+    const IconImageStrip strip = StripOf({{48, 48}, {256, 256}, {200, 25}, {99, 100}});
+    EXPECT_EQ(strip.Width(), 400);
+    EXPECT_EQ(strip.Cell(2, kHeight), (RectI{200, 0, 100, kHeight}));
+    EXPECT_EQ(strip.Thumbnail(0, kHeight), (RectI{26, 66, 48, 48}));
+    EXPECT_EQ(strip.Thumbnail(1, kHeight), (RectI{100, 40, 100, 100}));
+    EXPECT_EQ(strip.Thumbnail(2, kHeight), (RectI{200, 84, 100, 12}));
+    EXPECT_EQ(strip.Caption(3), "99x100");
+    EXPECT_EQ(strip.CaptionPlace(0, kHeight), (PointF{25, 180}));
+    EXPECT_EQ(strip.CaptionPlace(1, kHeight), (PointF{118, 180}));
+    EXPECT_EQ(strip.CaptionPlace(3, kHeight), (PointF{325, 180}));
+}
+
+TEST(IconStrip, APressSelectsTheCellUnderIt) {
+    IconImageStrip strip = StripOf({{1, 1}, {2, 2}, {3, 3}});
+    EXPECT_EQ(strip.GetImage().Width(), 1);
+    const struct {
+        int X, Y, Selected;
+    } presses[] = {{99, 0, 0},  {100, 0, 1},   {299, 199, 2},  {300, 10, -1}, {0, 0, 0},
+                   {-1, 0, -1}, {199, 100, 1}, {150, 200, -1}, {150, -1, -1}};
+    for (const auto& [x, y, selected] : presses) {
+        strip.Press(x, y, kHeight);
+        EXPECT_EQ(strip.SelectedIndex, selected) << x << ", " << y;
+        EXPECT_EQ(strip.GetImage().Width(), selected + 1);
+    }
+}
+
+TEST(IconStrip, WithoutImagesNothingIsSelected) {
+    IconImageStrip strip = StripOf({});
+    EXPECT_EQ(strip.Width(), 0);
+    EXPECT_EQ(strip.SelectedIndex, -1);
+    strip.Press(0, 0, kHeight);
+    EXPECT_TRUE(strip.GetImage().IsEmpty());
+}
+
+}  // namespace
+}  // namespace orbelle::app

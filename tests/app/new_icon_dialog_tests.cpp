@@ -1,0 +1,62 @@
+#include "app/new_icon_dialog.h"
+
+#include <gtest/gtest.h>
+
+#include <QMessageBox>
+
+#include "app/settings.h"
+#include "waiting.h"
+#include "widgets/number_slider.h"
+
+namespace orbelle::app {
+namespace {
+
+using orbelle::testing::AnswerDialog;
+
+class NewIconDialogTest : public ::testing::Test {
+protected:
+    NewIconDialogTest() { Settings().clear(); }
+
+    static void Enter(const NewIconDialog& page, int width, int height) {
+        page.findChild<widgets::NumberSlider*>("PageWidth")->SetColorValue(width);
+        page.findChild<widgets::NumberSlider*>("PageHeight")->SetColorValue(height);
+    }
+};
+
+TEST_F(NewIconDialogTest, StaysOpenOutside1To512) {
+    const editing::PageSize wrong[] = {{513, 16}, {16, 513}, {0, 16}, {16, 0}};
+    for (const auto& [width, height] : wrong) {
+        NewIconDialog page;
+        page.open();
+        Enter(page, width, height);
+        QString text;
+        AnswerDialog<QMessageBox>([&](QMessageBox& box) {
+            text = box.text();
+            box.accept();
+        });
+        page.accept();
+        EXPECT_EQ(text, "Please input a integer from 1 to 512.") << width << " x " << height;
+        EXPECT_TRUE(page.isVisible());
+        EXPECT_FALSE(Settings().contains("Width"));
+    }
+}
+
+TEST_F(NewIconDialogTest, RemembersTheSizeChosenWithOk) {
+    NewIconDialog first;
+    EXPECT_EQ(first.Size().Width, 0);
+    EXPECT_EQ(first.Size().Height, 0);
+    Enter(first, 1, 512);
+    first.accept();
+    EXPECT_EQ(first.result(), QDialog::Accepted);
+
+    NewIconDialog cancelled;
+    Enter(cancelled, 64, 64);
+    cancelled.reject();
+
+    NewIconDialog next;
+    EXPECT_EQ(next.Size().Width, 1);
+    EXPECT_EQ(next.Size().Height, 512);
+}
+
+}  // namespace
+}  // namespace orbelle::app

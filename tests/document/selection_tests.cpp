@@ -1,0 +1,203 @@
+#include "document/selection.h"
+
+#include <gmock/gmock.h>
+
+#include <cmath>
+#include <limits>
+
+#include "support/pictures.h"
+#include "support/pixel_runs.h"
+
+namespace orbelle::document {
+namespace {
+
+using graphics::Bitmap;
+using graphics::PointF;
+using graphics::RectF;
+using graphics::RectI;
+using testing::FilledPicture;
+using testing::SamePixels;
+
+constexpr int kMaxInt = std::numeric_limits<int>::max();
+constexpr int kMinInt = std::numeric_limits<int>::min();
+
+Selection RectangleSelection(const RectI& rect) {
+    Selection selection;
+    selection.AddFrame(rect.X + rect.Width, rect.Y + rect.Height, rect.X, rect.Y,
+                       FrameShape::Rectangle);
+    return selection;
+}
+
+// Every pixel different, soft ones too, none of alpha 0.
+Bitmap Colourful(int width, int height) {
+    Bitmap picture(width, height);
+    for (int i = 0; i < width * height; ++i)
+        picture.SetPixel(i % width, i / width,
+                         0x01000000U + static_cast<unsigned>(i) * 0x02030507U);
+    return picture;
+}
+
+TEST(Selection, ADragInAnyDirectionIsTheSameBox) {
+    const struct {
+        int X, Y, StartX, StartY;
+        RectI Box;
+    } cases[] = {
+        {7, 9, 2, 3, {2, 3, 5, 6}},    {2, 3, 7, 9, {2, 3, 5, 6}},    {2, 9, 7, 3, {2, 3, 5, 6}},
+        {7, 3, 2, 9, {2, 3, 5, 6}},    {4, 9, -5, 3, {0, 3, 4, 6}},   {-5, 9, 4, 3, {0, 3, 4, 6}},
+        {7, 9, 2, -6, {2, -6, 5, 15}}, {7, -6, 2, 9, {2, -6, 5, 15}},
+    };
+    for (const auto& drag : cases) {
+        for (const FrameShape shape : {FrameShape::Rectangle, FrameShape::Ellipse}) {
+            Selection selection;
+            selection.AddFrame(drag.X, drag.Y, drag.StartX, drag.StartY, shape);
+            EXPECT_EQ(selection.Bounds(), drag.Box)
+                << drag.X << ", " << drag.Y << " from " << drag.StartX << ", " << drag.StartY;
+        }
+    }
+}
+
+TEST(Selection, BeginsInfiniteTakesShapesAndEnds) {
+    const RectI plane{-4194304, -4194304, 8388608, 8388608};
+    Selection selection;
+    EXPECT_FALSE(selection.Exists());
+    selection.Start();
+    EXPECT_FALSE(selection.Exists());
+    EXPECT_EQ(selection.Bounds(), plane);
+    selection.Clear();
+    EXPECT_EQ(selection.Bounds(), plane) << "there is nothing to end yet";
+
+    selection.AddFrame(5, 4, 1, 1, FrameShape::Rectangle);
+    EXPECT_EQ(selection.Bounds(), (RectI{1, 1, 4, 3}));
+    selection.AddPolygon(std::vector<PointF>{{8, 2}, {12, 2}, {12, 6}, {8, 6}});
+    selection.AddFrame(6, 6, 3, 2, FrameShape::Rectangle);
+    EXPECT_EQ(PixelRuns(selection.Region().Rects()), "1: 1-4; 2-3: 1-5 8-11; 4-5: 3-5 8-11");
+
+    selection.Clear();
+    EXPECT_FALSE(selection.Exists());
+    EXPECT_TRUE(selection.Region().IsNull());
+    selection.AddFrame(3, 3, 1, 1, FrameShape::Ellipse);
+    EXPECT_EQ(selection.Bounds(), (RectI{1, 1, 2, 2})) << "nothing of the last one is left";
+}
+
+TEST(Selection, ShapesWithoutPixelsCountToo) {
+    Selection selection;
+    selection.AddFrame(3, 3, 3, 3, FrameShape::Rectangle);
+    EXPECT_TRUE(selection.Exists());
+    selection.AddFrame(9, 9, 3, 3, static_cast<FrameShape>(2));
+    selection.AddPolygon(std::vector<PointF>{{1, 1}, {5, 5}});
+    selection.AddPolygon(std::vector<PointF>{{1, 1}, {5, std::nanf("")}, {1, 5}});
+    EXPECT_TRUE(selection.Region().IsEmpty());
+    selection.AddFrame(6, 6, 4, 4, FrameShape::Rectangle);
+    EXPECT_EQ(PixelRuns(selection.Region().Rects()), "4-5: 4-5");
+}
+
+TEST(Selection, BoundsAreRoundedWithTiesToEven) {
+    Selection selection;
+    selection.AddPolygon(std::vector<PointF>{{0.5f, 1.5f}, {3, 1.5f}, {3, 5}, {0.5f, 5}});
+    EXPECT_EQ(selection.Bounds(), (RectI{0, 2, 2, 4}));
+}
+
+TEST(DrawShade, DarkensThePageButNotTheSelection) {
+    Bitmap scene = FilledPicture(20, 16, 0xFFFFFFFF);
+    graphics::DrawingContext context(scene);
+    Selection selection;
+    selection.DrawShade(context, {2, 3, 12, 8}, {1, 0}, 2);
+    EXPECT_TRUE(SamePixels(scene, FilledPicture(20, 16, 0xFFFFFFFF))) << "no selection";
+
+    // Page pixels (1, 1) to (3, 2): from (2 + 1 + 2, 3 + 2) in the scene, 4 x 2 large.
+    selection = RectangleSelection({1, 1, 2, 1});
+    selection.DrawShade(context, {2, 3, 12, 8}, {1, 0}, 2);
+    for (int y = 0; y < 16; ++y) {
+        for (int x = 0; x < 20; ++x) {
+            const bool page = x >= 2 && x < 14 && y >= 3 && y < 11;
+            const bool selected = x >= 5 && x < 9 && y >= 5 && y < 7;
+            EXPECT_EQ(scene.GetPixel(x, y), page && !selected ? 0xFF9B9B9BU : 0xFFFFFFFFU)
+                << x << ", " << y;
+        }
+    }
+}
+
+TEST(DrawShade, DarkensWhatIsSelectedOffThePage) {
+    Bitmap scene(16, 16);
+    graphics::DrawingContext context(scene);
+    RectangleSelection({2, 1, 4, 2}).DrawShade(context, {2, 2, 4, 4}, {0, 0}, 1);
+    EXPECT_EQ(PixelRuns(scene), "2: 2-5; 3-4: 2-3 6-7; 5: 2-5");
+    EXPECT_EQ(scene.GetPixel(2, 2), 0x64000000U);
+    EXPECT_EQ(scene.GetPixel(7, 3), 0x64000000U);
+}
+
+TEST(TakeOut, CopiesAndCutsTheSelectedPixels) {
+    // The picture covers (-1, 2) to (4, 6) of the page; the selection reaches over its top.
+    const Bitmap picture = Colourful(5, 4);
+    const Selection selection = RectangleSelection({1, 1, 2, 3});
+    Bitmap image = picture;
+    const TakenOut copy = selection.TakeOut(image, 5, 4, 8, 8, {-1, 2}, true, true);
+    EXPECT_EQ(copy.Area, (RectI{1, 1, 2, 3}));
+    ASSERT_EQ(copy.Image.Width(), 2);
+    ASSERT_EQ(copy.Image.Height(), 3);
+    for (int y = 0; y < 3; ++y)
+        for (int x = 0; x < 2; ++x)
+            EXPECT_EQ(copy.Image.GetPixel(x, y), y == 0 ? 0U : picture.GetPixel(x + 2, y - 1));
+    for (int y = 0; y < 4; ++y) {
+        for (int x = 0; x < 5; ++x) {
+            const bool selected = x >= 2 && x < 4 && y < 2;
+            EXPECT_EQ(image.GetPixel(x, y), selected ? 0U : picture.GetPixel(x, y));
+        }
+    }
+    EXPECT_EQ(selection.Bounds(), (RectI{1, 1, 2, 3})) << "the selection stays on the page";
+
+    Bitmap copied = picture, cut = picture;
+    EXPECT_TRUE(
+        SamePixels(selection.TakeOut(copied, 5, 4, 8, 8, {-1, 2}, false, true).Image, copy.Image));
+    EXPECT_TRUE(SamePixels(copied, picture));
+    EXPECT_TRUE(selection.TakeOut(cut, 5, 4, 8, 8, {-1, 2}, true, false).Image.IsEmpty());
+    EXPECT_TRUE(SamePixels(cut, image));
+}
+
+TEST(TakeOut, TheCopyAndTheHoleOfAnEllipseAreTheSamePixels) {
+    Selection selection;
+    selection.AddFrame(5, 5, 1, 1, FrameShape::Ellipse);
+    Bitmap image = FilledPicture(8, 8, 0xFF336699);
+    const TakenOut copy = selection.TakeOut(image, 8, 8, 8, 8, {0, 0}, true, true);
+    // The pixels 2: 2-4; 3: 1-4; 4: 2-4.
+    EXPECT_EQ(PixelRuns(copy.Image), "1: 1-3; 2: 0-3; 3: 1-3");
+    EXPECT_EQ(PixelRuns(image), "0-1: 0-7; 2: 0-1 5-7; 3: 0 5-7; 4: 0-1 5-7; 5-7: 0-7");
+}
+
+TEST(TakeOut, RefusesAnAreaThatLeavesThePage) {
+    const struct {
+        RectI Selection;
+        RectI Area;
+        bool Copied;
+    } cases[] = {
+        {{5, 5, 3, 3}, {5, 5, 3, 3}, true},    {{0, 0, 30, 30}, {0, 0, 8, 8}, true},
+        {{5, 2, 30, 3}, {5, 2, 8, 3}, false},  {{2, 6, 3, 3}, {2, 6, 3, 3}, false},
+        {{2, -1, 3, 3}, {2, -1, 3, 3}, false}, {{2, 2, 0, 3}, {0, 0, 0, 0}, false},
+    };
+    for (const auto& test : cases) {
+        Bitmap image = FilledPicture(8, 8, 0xFF336699);
+        const TakenOut copy =
+            RectangleSelection(test.Selection).TakeOut(image, 8, 8, 8, 8, {0, 0}, false, true);
+        EXPECT_EQ(copy.Area, test.Area);
+        EXPECT_EQ(copy.Image.IsEmpty(), !test.Copied);
+    }
+}
+
+TEST(TakeOut, HostileSizesChangeNothing) {
+    Selection selection;
+    selection.AddFrame(kMaxInt, kMaxInt, kMinInt, kMinInt, FrameShape::Ellipse);
+    selection.AddFrame(6, 6, 2, 2, FrameShape::Rectangle);
+    const Bitmap picture = Colourful(4, 4);
+    for (const int size : {0, -1, kMinInt, kMaxInt}) {
+        Bitmap image = picture;
+        const TakenOut copy = selection.TakeOut(image, size, size, size, size, {0, 0}, true, true);
+        EXPECT_TRUE(copy.Image.IsEmpty());
+        EXPECT_TRUE(SamePixels(image, picture));
+    }
+    Bitmap image = picture;
+    selection.TakeOut(image, 4, 4, 8, 8, {std::nanf(""), 1e38f}, true, true);
+    EXPECT_EQ(image.Width(), 4);
+}
+
+}  // namespace
+}  // namespace orbelle::document

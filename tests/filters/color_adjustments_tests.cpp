@@ -1,0 +1,237 @@
+#include "filters/color_adjustments.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+#include "support/pictures.h"
+
+namespace orbelle::filters {
+namespace {
+
+using graphics::Argb;
+using graphics::Bitmap;
+
+template <class Change>
+Argb Changed(Argb color, Change change) {
+    Bitmap picture = testing::FilledPicture(1, 1, color);
+    change(picture);
+    return *picture.GetPixel(0, 0);
+}
+
+Argb Hued(Argb color, float hue) {
+    return Changed(color, [&](Bitmap& picture) { HueColor(picture, hue); });
+}
+
+Argb Saturated(Argb color, int level) {
+    return Changed(color, [&](Bitmap& picture) { SaturationColor(picture, level); });
+}
+
+Argb Brightened(Argb color, double contrast, double brightness) {
+    return Changed(color, [&](Bitmap& p) { BrightnessColor(p, contrast, brightness); });
+}
+
+// Every value of red with every sum of green and blue, shared out in many ways; all alphas.
+Bitmap EveryRedAndSum() {
+    Bitmap picture(511, 256);
+    for (int red = 0; red < 256; ++red) {
+        for (int rest = 0; rest < 511; ++rest) {
+            const int least = std::max(rest - 255, 0);
+            const int green = least + (rest * 37 + red * 11) % (rest - 2 * least + 1);
+            picture.SetPixel(rest, red,
+                             graphics::MakeARGB((rest * 7 + red) & 0xFF, red, green, rest - green));
+        }
+    }
+    return picture;
+}
+
+template <class Rule>
+Bitmap PixelByPixel(Bitmap picture, Rule rule) {
+    for (int y = 0; y < picture.Height(); ++y) {
+        Argb* row = picture.MutableRow(y);
+        std::transform(row, row + picture.Width(), row, rule);
+    }
+    return picture;
+}
+
+TEST(ColorAdjustments, AMixDividesBy256ButKeepsItsEndsWhole) {
+    EXPECT_EQ(ShadeColors(255, 255, 128), 254);
+    EXPECT_EQ(ShadeColors(255, 7, 0), 255);
+    EXPECT_EQ(ShadeColors(7, 255, 255), 255);
+    EXPECT_EQ(ShadeColors(255, 0, -128), 381);
+    EXPECT_EQ(ShadeColors(67, 201, -128), 0);    // -67 / 256
+    EXPECT_EQ(ShadeColors(0, 255, -128), -127);  // -127.5
+}
+
+TEST(ColorAdjustments, HueExchangesAndMixesInSevenSectors) {
+    constexpr Argb kColor = 0x80C86428;  // red 200, green 100, blue 40
+    const struct {
+        float Hue;
+        Argb Expected;
+    } cases[] = {
+        {0, kColor},       {25, 0x80C84528},  // 0.5 rounds to sector 0; t 128
+        {50, 0x80C82828},                     // t 0
+        {60, 0x80C82847},                     // t 51
+        {75, 0x80C728C8},   // 1.5 rounds to sector 2; t -128, red mixed with itself
+        {100, 0x80C828C8},  //
+        {145, 0x8028D7C8},  // t -25.6 rounded down
+        {210, 0x802828A7},  //
+        {225, 0x80282877},  // 4.5 rounds to sector 4; t 128
+        {267, 0x805DC828},  // t 17 x 5.11 = 86.87, with 5.12 it would be 87
+        {275, 0x80C8F928},  // 5.5 rounds to sector 6; t -128
+        {325, 0x80C89528},  // t 127.75 rounded down
+        {350, kColor},      // sector 6; t 255
+        {400, kColor},     {-1, kColor},     {std::numeric_limits<float>::quiet_NaN(), kColor},
+    };
+    for (const auto& [hue, expected] : cases)
+        EXPECT_EQ(Hued(kColor, hue), expected) << hue;
+}
+
+TEST(ColorAdjustments, AMixedHueThatFitsNoByteIsNotStored) {
+    EXPECT_EQ(Hued(0x12FF0007, 275), Argb{0x12FFFF07});  // 381
+    EXPECT_EQ(Hued(0x000AC807, 275), Argb{0x000A0A07});  // -85
+    EXPECT_EQ(Hued(0xFF42C807, 275), Argb{0xFF424207});  // -322 / 256 is -1
+    EXPECT_EQ(Hued(0xFF43C907, 275), Argb{0xFF430007});  // -67 / 256 is 0
+}
+
+// The sectors' statements one after the other, as they are told.
+Argb HuedStepByStep(Argb color, int s, int t) {
+    int r = graphics::RedOf(color), g = graphics::GreenOf(color), b = graphics::BlueOf(color);
+    const auto storeMix = [t](int& channel, int first, int second) {
+        const int mixed = t == 0     ? first
+                          : t == 255 ? second
+                                     : ((255 - t) * first + t * second) / 256;
+        if (mixed >= 0 && mixed <= 255)
+            channel = mixed;
+    };
+    const int oldRed = r, oldGreen = g;
+    switch (s) {
+        case 0:
+            storeMix(g, g, b);
+            break;
+        case 1:
+            g = b;
+            storeMix(b, b, r);
+            break;
+        case 2:
+            g = b;
+            b = r;
+            storeMix(r, b, r);
+            break;
+        case 3:
+            g = r;
+            r = b;
+            b = oldRed;
+            storeMix(g, b, r);
+            break;
+        case 4:
+            r = b;
+            g = b;
+            b = oldRed;
+            storeMix(b, b, r);
+            break;
+        case 5:
+            g = r;
+            r = b;
+            storeMix(r, r, g);
+            break;
+        default:
+            g = r;
+            storeMix(g, g, oldGreen);
+    }
+    return graphics::MakeARGB(graphics::AlphaOf(color), r, g, b);
+}
+
+TEST(ColorAdjustments, EverySliderHueFollowsItsStatements) {
+    const Bitmap picture = EveryRedAndSum();
+    for (int position = 0; position <= 100; ++position) {
+        const double hue = std::nearbyint(position * 3.5);
+        const int s = std::min(static_cast<int>(std::nearbyint(hue / 50)), 6);
+        const int t = static_cast<int>(std::floor((hue - 50 * s) * (s < 5 ? 5.12 : 5.11)));
+        Bitmap hued = picture;
+        HueColor(hued, static_cast<float>(hue));
+        EXPECT_TRUE(testing::SamePixels(
+            hued, PixelByPixel(picture, [&](Argb c) { return HuedStepByStep(c, s, t); })))
+            << hue;
+    }
+}
+
+TEST(ColorAdjustments, SaturationPullsToTheAverageAndPushesAway) {
+    const struct {
+        Argb Color;
+        int Level;
+        Argb Expected;
+    } cases[] = {
+        {0x001F140A, -100, 0x00141414},  // 61 / 3 is 20
+        {0x80C86428, 0, 0x80C86428},
+        {0x80C86428, -25, 0x80B2673A},  // 113: 200 - 21.75, 100 + 3.25, 40 + 18.25
+        {0x80C86428, 150, 0x80FF5000},  // beyond both ends, and 80.5
+        {0xFF1F140A, 50, 0xFF241405},   // 36.5 to the even 36
+        {0xFF211409, 50, 0xFF281404},   // 39.5 to the even 40, 3.5 to 4
+        {0xFF1D4243, 110, 0xFF014F51},  // 29 + 1.1 x -25: in doubles a little below 1.5
+        {0x80C86428, std::numeric_limits<int>::max(), 0x80FF0000},
+        {0x80C86428, std::numeric_limits<int>::min(), 0x8000FFFF},
+    };
+    for (const auto& [color, level, expected] : cases)
+        EXPECT_EQ(Saturated(color, level), expected) << std::hex << color << ' ' << level;
+}
+
+TEST(ColorAdjustments, SaturationIsThatOfDoublesAtEverySliderPosition) {
+    const Bitmap picture = EveryRedAndSum();
+    for (int position = 0; position <= 100; ++position) {
+        const int level = static_cast<int>(
+            std::nearbyint(position < 40 ? (position - 40) * 2.5 : position * 2.5 - 100));
+        const double k = level / 100.0;
+        const auto rule = [k](Argb color) {
+            const int r = graphics::RedOf(color), g = graphics::GreenOf(color);
+            const int b = graphics::BlueOf(color);
+            const int grey = (r + g + b) / 3;
+            const auto pushed = [&](int c) {
+                return static_cast<unsigned>(
+                    std::clamp(std::nearbyint(c + k * (c - grey)), 0.0, 255.0));
+            };
+            return graphics::MakeARGB(graphics::AlphaOf(color), pushed(r), pushed(g), pushed(b));
+        };
+        Bitmap saturated = picture;
+        SaturationColor(saturated, level);
+        EXPECT_TRUE(testing::SamePixels(saturated, PixelByPixel(picture, rule))) << level;
+    }
+}
+
+TEST(ColorAdjustments, BrightnessStretchesAroundTheMiddleAndThenMoves) {
+    const struct {
+        Argb Color;
+        double Contrast, Brightness;
+        Argb Expected;
+    } cases[] = {
+        {0x80C86428, 1, 0, 0x80C86428},    {0x00FF0080, 0.2, 0, 0x00996680},  // 153.4, 102.4, 128
+        {0xFF818380, 1.5, 0, 0xFF828480},   // 129.5 to 130, 132.5 to 132
+        {0x40050600, 1, 250, 0x40FFFFFA},   // 255, 256 limited, 250
+        {0x40FAF9FB, 1, -250, 0x40000001},  // 0, -1 limited, 1
+        {0xFF659A80, 5, 10, 0xFF03FF8A},    // 3, 268 limited, 138
+    };
+    for (const auto& [color, contrast, brightness, expected] : cases)
+        EXPECT_EQ(Brightened(color, contrast, brightness), expected)
+            << std::hex << color << ' ' << contrast << ' ' << brightness;
+}
+
+TEST(ColorAdjustments, TheNegativeComplementsColoursOnly) {
+    EXPECT_EQ(Changed(0x00FF8001, Negative), Argb{0x00007FFE});
+    Bitmap opaque(1, 1, graphics::PixelFormat::Rgb24);
+    Negative(opaque);
+    EXPECT_EQ(opaque.GetPixel(0, 0), Argb{0xFFFFFFFF});
+}
+
+TEST(ColorAdjustments, AnEmptyPictureStaysEmpty) {
+    Bitmap empty;
+    HueColor(empty, 100);
+    SaturationColor(empty, 25);
+    BrightnessColor(empty, 2, 10);
+    Negative(empty);
+    EXPECT_TRUE(empty.IsEmpty());
+}
+
+}  // namespace
+}  // namespace orbelle::filters

@@ -1,0 +1,234 @@
+#include "widgets/number_slider.h"
+
+#include <gtest/gtest.h>
+
+#include <QAccessible>
+#include <QDeadlineTimer>
+#include <QPushButton>
+#include <climits>
+#include <memory>
+
+#include "support/hands.h"
+
+namespace orbelle::widgets {
+namespace {
+
+using namespace orbelle::testing;
+
+class NumberSliderTest : public ::testing::Test {
+protected:
+    NumberSliderTest() {
+        scroll_.resize(92, 24);
+        scroll_.SetScrollStyle(1);
+        scroll_.SetRange(5, 255);
+        scroll_.SetColorValue(51);
+        scroll_.show();
+    }
+
+    void Enter(const QString& text) {
+        field_.selectAll();
+        for (const QChar letter : text)
+            Strike(field_, Qt::Key_unknown, letter);
+    }
+
+    // On the pop-up's own pixels: the thumb of the value 51 begins 13 pixels into the track.
+    QPointF OnThumb() const { return track_.ThumbRect().center(); }
+
+    NumberSlider scroll_;
+    QLineEdit& field_ = *scroll_.findChild<QLineEdit*>();
+    SliderTrack& track_ = *scroll_.findChild<SliderTrack*>();
+    Gestures gestures_{scroll_};
+    const QPointF up_{65, 6}, down_{65, 18}, open_{83, 12};
+};
+
+TEST_F(NumberSliderTest, AnOwnersValueIsSilentAndMayLieBeyondTheRange) {
+    scroll_.SetColorValue(300);
+    EXPECT_EQ(scroll_.ColorValue(), 300);
+    EXPECT_EQ(field_.text(), "300");
+    EXPECT_EQ(track_.Place(), 100);
+    scroll_.SetRange(0, 10);
+    EXPECT_EQ(scroll_.ColorValue(), 300);
+    EXPECT_EQ(gestures_.Told(), "");
+}
+
+TEST_F(NumberSliderTest, OneTypedTextIsOneGesture) {
+    Enter("102");
+    EXPECT_EQ(gestures_.Told(), "pressed 1 10 102");
+    EXPECT_NEAR(track_.Place(), 33, 1e-9);
+    Strike(field_, Qt::Key_Return, "\r");
+    EXPECT_EQ(gestures_.Told(), "released");
+    Strike(field_, Qt::Key_Return, "\r");
+    EXPECT_EQ(gestures_.Told(), "");
+    Enter("300");
+    scroll_.hide();
+    EXPECT_EQ(scroll_.ColorValue(), 300) << "typed values may lie beyond the range";
+}
+
+TEST_F(NumberSliderTest, TypedTextsThatAreNoNumberChangeNothing) {
+    for (const char* text : {"", "x", "- ", "nan", "inf", "99999999999", "-2147483649", "0x10"}) {
+        field_.selectAll();
+        field_.del();
+        field_.insert(text);
+        emit field_.textEdited(field_.text());
+        EXPECT_EQ(gestures_.Told(), "") << text;
+        Strike(field_, Qt::Key_Return, "\r");
+        EXPECT_EQ(field_.text(), "51") << text;
+        EXPECT_EQ(gestures_.Told(), "") << text;
+    }
+    const std::pair<const char*, int> numbers[] = {
+        {" 60 ", 60}, {"-3", -3}, {"2.5", 2}, {"3.5", 4}, {"2147483647", INT_MAX}};
+    for (const auto& [text, number] : numbers) {
+        field_.setText(text);
+        emit field_.textEdited(text);
+        EXPECT_EQ(scroll_.ColorValue(), number) << text;
+    }
+}
+
+TEST_F(NumberSliderTest, AnOwnerThatAnswersATypedValueDoesNotDisturbTheTyping) {
+    QObject::connect(&scroll_, &NumberSlider::Changed, &scroll_,
+                     [this](int value) { scroll_.SetColorValue(std::min(value, 200)); });
+    Enter("12");
+    EXPECT_EQ(scroll_.ColorValue(), 12);
+    Enter("250");
+    EXPECT_EQ(scroll_.ColorValue(), 200);
+    EXPECT_EQ(field_.text(), "200");
+}
+
+TEST_F(NumberSliderTest, ArrowsStepWithinTheRange) {
+    const struct {
+        int from;
+        int step;
+        const char* told;
+    } cases[] = {
+        {51, 1, "pressed 52 released"},       {51, -1, "pressed 50 released"},
+        {255, 1, "pressed released"},         {5, -1, "pressed released"},
+        {300, 1, "pressed 255 released"},     {0, -1, "pressed 5 released"},
+        {INT_MAX, 1, "pressed 255 released"},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(::testing::Message() << c.from << " step " << c.step);
+        scroll_.SetColorValue(c.from);
+        Click(scroll_, c.step > 0 ? up_ : down_);
+        EXPECT_EQ(gestures_.Told(), c.told);
+        scroll_.SetColorValue(c.from);
+        Strike(field_, c.step > 0 ? Qt::Key_Up : Qt::Key_Down);
+        EXPECT_EQ(gestures_.Told(), c.told);
+    }
+}
+
+TEST_F(NumberSliderTest, AnArrowEndsTheTypingFirst) {
+    Enter("9");
+    Strike(field_, Qt::Key_Up);
+    EXPECT_EQ(gestures_.Told(), "pressed 9 released pressed 10 released");
+    EXPECT_EQ(field_.text(), "10");
+}
+
+TEST_F(NumberSliderTest, AHeldArrowRepeatsWithinOneGesture) {
+    Press(scroll_, up_);
+    const QDeadlineTimer deadline(10000);
+    while (scroll_.ColorValue() < 54 && !deadline.hasExpired())
+        QApplication::processEvents(QEventLoop::WaitForMoreEvents, 100);
+    Release(scroll_, up_);
+    const std::string told = gestures_.Told();
+    EXPECT_TRUE(told.starts_with("pressed 52 53 54")) << told;
+    EXPECT_TRUE(told.ends_with(" released")) << told;
+}
+
+TEST_F(NumberSliderTest, DisablingEndsAHeldArrow) {
+    Press(scroll_, up_);
+    scroll_.setEnabled(false);
+    EXPECT_EQ(gestures_.Told(), "pressed 52 released");
+}
+
+TEST_F(NumberSliderTest, TheTrackOpensAndOnlyItsThumbIsDragged) {
+    EXPECT_FALSE(track_.isVisible());
+    Click(scroll_, open_);
+    ASSERT_TRUE(track_.isVisible());
+    const QPointF beside = OnThumb() + QPointF(30, 0);
+    Press(track_, beside);
+    DragTo(track_, beside + QPointF(10, 0));
+    Release(track_, beside);
+    EXPECT_EQ(gestures_.Told(), "");
+
+    const double trackStart = track_.ThumbRect().left() - 13;
+    const auto at = [&](double x) { return QPointF(trackStart + x, OnThumb().y()); };
+    Press(track_, OnThumb());
+    DragTo(track_, at(40));
+    EXPECT_NEAR(track_.Place(), 33, 1e-9);
+    DragTo(track_, at(140));
+    EXPECT_EQ(track_.Place(), 100);
+    DragTo(track_, at(200));
+    DragTo(track_, at(-20));
+    EXPECT_EQ(track_.Place(), 0);
+    Release(track_, at(-20));
+    EXPECT_EQ(gestures_.Told(), "pressed 102 255 0 released");
+    DragTo(track_, at(40));
+    EXPECT_EQ(gestures_.Told(), "");
+}
+
+TEST_F(NumberSliderTest, TheThumbFollowsAnOwnerThatLimitsADrag) {
+    QObject::connect(&scroll_, &NumberSlider::Changed, &scroll_,
+                     [this](int value) { scroll_.SetColorValue(std::min(value, 204)); });
+    Click(scroll_, open_);
+    Press(track_, OnThumb());
+    DragTo(track_, {200, OnThumb().y()});
+    EXPECT_EQ(scroll_.ColorValue(), 204);
+    EXPECT_NEAR(track_.Place(), 73, 1e-9);
+}
+
+TEST_F(NumberSliderTest, ClosingTheTrackEndsItsDrag) {
+    Click(scroll_, open_);
+    Press(track_, OnThumb());
+    track_.hide();
+    EXPECT_EQ(gestures_.Told(), "pressed released");
+}
+
+TEST_F(NumberSliderTest, TellsNothingMoreWhenItIsDestroyedInADrag) {
+    auto scroll = std::make_unique<NumberSlider>();
+    auto& track = *scroll->findChild<SliderTrack*>();
+    Gestures gestures(*scroll);
+    scroll->show();
+    Click(*scroll, {scroll->width() - 9.0, 12});
+    Press(track, track.ThumbRect().center());
+    scroll.reset();
+    EXPECT_EQ(gestures.Told(), "pressed");
+}
+
+TEST_F(NumberSliderTest, IsOneStopOfTheTabKey) {
+    QWidget window;
+    auto* first = new NumberSlider(&window);
+    auto* second = new QPushButton(&window);
+    second->setFocusPolicy(Qt::StrongFocus);
+    window.show();
+    window.activateWindow();
+    QApplication::processEvents();
+    first->setFocus();
+    ASSERT_EQ(QApplication::focusWidget(), first->findChild<QLineEdit*>());
+    Strike(*QApplication::focusWidget(), Qt::Key_Tab, "\t");
+    EXPECT_EQ(QApplication::focusWidget(), second);
+    Strike(*second, Qt::Key_Tab, "\t");
+    EXPECT_EQ(QApplication::focusWidget(), first->findChild<QLineEdit*>());
+}
+
+TEST_F(NumberSliderTest, IsASpinBoxToAssistiveTools) {
+    scroll_.setAccessibleName("Line width");
+    QAccessibleInterface* spin = QAccessible::queryAccessibleInterface(&scroll_);
+    ASSERT_TRUE(spin);
+    EXPECT_EQ(spin->role(), QAccessible::SpinBox);
+    EXPECT_EQ(spin->text(QAccessible::Name), "Line width");
+    EXPECT_EQ(spin->text(QAccessible::Value), "51");
+    QAccessibleValueInterface* value = spin->valueInterface();
+    ASSERT_TRUE(value);
+    EXPECT_EQ(value->minimumValue().toInt(), 5);
+    EXPECT_EQ(value->maximumValue().toInt(), 255);
+    value->setCurrentValue(1000);
+    EXPECT_EQ(value->currentValue().toInt(), 255);
+    EXPECT_EQ(gestures_.Told(), "pressed 255 released");
+    scroll_.activateWindow();
+    QApplication::processEvents();
+    scroll_.setFocus();
+    EXPECT_EQ(field_.accessibleName(), "Line width");
+}
+
+}  // namespace
+}  // namespace orbelle::widgets
