@@ -26,7 +26,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     Document document;
     try {
         orbelle::formats::DecodeDocument({data, size}, document);
-    } catch (const std::runtime_error&) {
+    } catch (const orbelle::Error&) {
         // The whole layers before the damage are in the document.
     }
     Compose(document);

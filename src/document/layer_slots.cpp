@@ -1,16 +1,15 @@
 #include "document/layer_slots.h"
 
-#include <stdexcept>
 #include <string>
 
 #include "filters/create_region.h"
+#include "graphics/errors.h"
 
 namespace orbelle::document {
 
 IconLayer& OpenLayerSlot(Document& document, SlotCopySize size) {
     if (document.LayerCount() >= kMaxLayers)
-        throw std::length_error("A document holds at most " + std::to_string(kMaxLayers) +
-                                " layers.");
+        throw Error("A document holds at most " + std::to_string(kMaxLayers) + " layers.");
     if (!document.HasSelection()) {
         document.SelectedLayer = document.LayerCount();
         return document.Layers.emplace_back();

@@ -1,17 +1,17 @@
 // Undo and redo by snapshots of the whole stack.
 #pragma once
 
-#include <stdexcept>
 #include <vector>
 
 #include "document/document.h"
+#include "graphics/errors.h"
 
 namespace orbelle::document {
 
 // The history holds no more; what() is fit to be shown to the user.
-class HistoryLimit : public std::length_error {
+class HistoryLimit : public Error {
 public:
-    using std::length_error::length_error;
+    using Error::Error;
 };
 
 // A linear history. Page size and background are not part of it. A snapshot shares all pixels with

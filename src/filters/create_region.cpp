@@ -26,4 +26,10 @@ void CreateRegion(const graphics::Bitmap& image, graphics::Region& region, int l
         region = graphics::Region::FromPixelRects(std::move(runs));
 }
 
+void RebuildRegion(graphics::Region& region, const graphics::Bitmap& image,
+                   graphics::PointF place) {
+    CreateRegion(image, region, kVisibleAlpha);
+    region.Translate(place.X, place.Y);
+}
+
 }  // namespace orbelle::filters

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "graphics/bitmap.h"
+#include "graphics/geometry.h"
 #include "graphics/region.h"
 
 namespace orbelle::filters {
@@ -14,5 +15,9 @@ inline constexpr int kSolidAlpha = 150;
 // rectangle a horizontal run. Every rectangle deliberately lies one pixel to the left of the pixels
 // it stands for. A picture without such a pixel leaves `region` as it was. Linear in the pixels.
 void CreateRegion(const graphics::Bitmap& image, graphics::Region& region, int level);
+
+// The region of a picture's visible pixels, moved to where the picture lies. A picture without such
+// a pixel deliberately moves the region as it was.
+void RebuildRegion(graphics::Region& region, const graphics::Bitmap& image, graphics::PointF place);
 
 }  // namespace orbelle::filters

@@ -5,9 +5,10 @@
 #include <cstdint>
 #include <cstring>
 #include <span>
-#include <stdexcept>
 #include <type_traits>
 #include <vector>
+
+#include "graphics/errors.h"
 
 namespace orbelle::formats {
 
@@ -21,7 +22,7 @@ void Append(std::vector<std::uint8_t>& bytes, std::type_identity_t<Number> value
     std::memcpy(bytes.data() + end, &value, sizeof value);
 }
 
-// Goes through bytes that someone else keeps. Throws std::runtime_error, without moving on, when
+// Goes through bytes that someone else keeps. Throws Error, without moving on, when
 // fewer are left than asked for.
 class ByteReader {
 public:
@@ -29,7 +30,7 @@ public:
 
     std::span<const std::uint8_t> Take(std::size_t count) {
         if (count > left_.size())
-            throw std::runtime_error("the file is cut short");
+            throw Error("the file is cut short");
         const auto taken = left_.first(count);
         left_ = left_.subspan(count);
         return taken;

@@ -9,7 +9,6 @@
 #include "formats/little_endian.h"
 #include "formats/parallel.h"
 #include "graphics/codecs/image_files.h"
-#include "graphics/errors.h"
 #include "graphics/file_io.h"
 
 namespace orbelle::formats {
@@ -109,7 +108,7 @@ RectF LayerReader::ReadRect() {
         *number = file_.Read<float>();
         // Written so that not-a-number fails.
         if (!(std::abs(*number) <= kMaxCoordinate))
-            throw std::runtime_error("its rectangle lies too far out");
+            throw Error("its rectangle lies too far out");
     }
     return rect;
 }
@@ -117,19 +116,19 @@ RectF LayerReader::ReadRect() {
 float LayerReader::ReadOpacity() {
     const auto opacity = file_.Read<float>();
     if (std::isnan(opacity))
-        throw std::runtime_error("its opacity is not a number");
+        throw Error("its opacity is not a number");
     return std::clamp(opacity, 0.0f, 1.0f);
 }
 
 Bitmap LayerReader::ReadPicture(int width, int height) {
     const auto lastByte = file_.Read<std::int32_t>();
     if (lastByte < 0)
-        throw std::runtime_error("the file is cut short");
+        throw Error("the file is cut short");
     const auto bytes = file_.Take(static_cast<std::size_t>(lastByte) + 1);
     if (width == 0 || height == 0)
         return {};
     if (!graphics::IsBitmapSizeAllowed(width, height))
-        throw std::runtime_error("its picture is too large: " + SizeText(width, height));
+        throw Error("its picture is too large: " + SizeText(width, height));
     TakeMemory(std::int64_t{width} * height);
     Bitmap picture;
     try {
@@ -158,15 +157,14 @@ std::int64_t CountRuns(const Bitmap& image) {
 graphics::Region LayerReader::BuildRegion(const IconLayer& layer) {
     TakeMemory(CountRuns(layer.Image) * kPixelsPerRun);
     graphics::Region region;
-    filters::CreateRegion(layer.Image, region, filters::kVisibleAlpha);
-    region.Translate(layer.Rect.X, layer.Rect.Y);
+    filters::RebuildRegion(region, layer.Image, {layer.Rect.X, layer.Rect.Y});
     return region;
 }
 
 void LayerReader::TakeMemory(std::int64_t pixels) {
     pixelsLeft_ -= pixels;
     if (pixelsLeft_ < 0)
-        throw std::runtime_error("the pictures up to here need too much memory");
+        throw Error("the pictures up to here need too much memory");
 }
 
 bool StartsWithMagic(std::span<const std::uint8_t> bytes) {
@@ -175,7 +173,7 @@ bool StartsWithMagic(std::span<const std::uint8_t> bytes) {
 
 }  // namespace
 
-InvalidFile::InvalidFile() : std::runtime_error("Invalid File") {}
+InvalidFile::InvalidFile() : Error("Invalid File") {}
 
 std::vector<std::uint8_t> EncodeDocument(const Document& document) {
     // The pictures take nearly all of the time.
@@ -207,7 +205,7 @@ void DecodeDocument(std::span<const std::uint8_t> bytes, Document& document) {
     const auto count = file.Read<std::int32_t>();
     // A side below 1 is taken for 1 when the page is composed.
     if (!graphics::IsBitmapSizeAllowed(std::max(pageWidth, 1), std::max(pageHeight, 1)))
-        throw std::runtime_error("the page is too large: " + SizeText(pageWidth, pageHeight));
+        throw Error("the page is too large: " + SizeText(pageWidth, pageHeight));
 
     document.PageWidth = pageWidth;
     document.PageHeight = pageHeight;
@@ -218,12 +216,12 @@ void DecodeDocument(std::span<const std::uint8_t> bytes, Document& document) {
     for (int i = 0; i < std::min(count, document::kMaxLayers); ++i) {
         try {
             document.Layers.push_back(layers.Read());
-        } catch (const std::runtime_error& error) {
-            throw std::runtime_error("layer " + std::to_string(i) + ": " + error.what());
+        } catch (const Error& error) {
+            throw Error("layer " + std::to_string(i) + ": " + error.what());
         }
     }
     if (count > document::kMaxLayers)
-        throw std::runtime_error("more than " + std::to_string(document::kMaxLayers) + " layers");
+        throw Error("more than " + std::to_string(document::kMaxLayers) + " layers");
 }
 
 void SaveDocument(const std::filesystem::path& path, const Document& document) {
@@ -236,7 +234,7 @@ void LoadDocument(const std::filesystem::path& path, Document& document) {
         DecodeDocument(bytes, document);
     } catch (const InvalidFile&) {
         throw;
-    } catch (const std::runtime_error& error) {
+    } catch (const Error& error) {
         throw graphics::FileError(path, error.what());
     }
 }

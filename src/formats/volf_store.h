@@ -4,15 +4,15 @@
 #include <cstdint>
 #include <filesystem>
 #include <span>
-#include <stdexcept>
 #include <vector>
 
 #include "document/document.h"
+#include "graphics/errors.h"
 
 namespace orbelle::formats {
 
 // The file does not begin like a document. what() is the product's text "Invalid File".
-class InvalidFile : public std::runtime_error {
+class InvalidFile : public Error {
 public:
     InvalidFile();
 };
@@ -24,7 +24,7 @@ std::vector<std::uint8_t> EncodeDocument(const document::Document& document);
 // Adjustment sliders come back neutral, each layer's Region is built from its picture and moved to
 // its place; a picture that can't be decoded comes back transparent.
 // Throws InvalidFile with nothing changed when the bytes do not begin like a document, and
-// std::runtime_error when they are cut short or hold what memory or the limits cannot hold: with
+// Error when they are cut short or hold what memory or the limits cannot hold: with
 // nothing changed when that shows in the header, else with all whole layers before it in place.
 void DecodeDocument(std::span<const std::uint8_t> bytes, document::Document& document);
 

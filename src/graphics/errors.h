@@ -1,17 +1,34 @@
-// The failures of reading and writing files.
+// Failures that are told to the user.
 #pragma once
 
 #include <filesystem>
 #include <stdexcept>
 #include <string>
 
-namespace orbelle::graphics {
+namespace orbelle {
 
-// what() is "PATH: what is wrong", fit to be shown to the user.
-class FileError : public std::runtime_error {
+// Something could not be done; what() says what is wrong, in words fit to be shown to the user.
+// Running out of memory is not among these: it stays std::bad_alloc, and whoever catches both has
+// words for it.
+class Error : public std::runtime_error {
 public:
-    FileError(const std::filesystem::path& path, const std::string& problem)
-        : std::runtime_error(path.string() + ": " + problem) {}
+    using std::runtime_error::runtime_error;
 };
 
-}  // namespace orbelle::graphics
+namespace graphics {
+
+// Of reading and writing files. what() is "PATH: what is wrong".
+class FileError : public Error {
+public:
+    FileError(const std::filesystem::path& path, const std::string& problem)
+        : Error(path.string() + ": " + problem) {}
+};
+
+// A picture that can't be decoded or encoded.
+class ImageError : public Error {
+public:
+    using Error::Error;
+};
+
+}  // namespace graphics
+}  // namespace orbelle

@@ -48,5 +48,13 @@ TEST(CreateRegion, APictureWithoutAVisiblePixelLeavesTheRegionAsItWas) {
     EXPECT_THAT(region.Rects(), ElementsAre(RectI{-1, 0, 1, 1}));
 }
 
+TEST(CreateRegion, RebuiltStandsAtItsPlaceAndMovesOnWithoutAPicture) {
+    Region region;
+    RebuildRegion(region, PictureOf({"#"}), {10, 20});
+    EXPECT_THAT(region.Rects(), ElementsAre(RectI{9, 20, 1, 1}));
+    RebuildRegion(region, graphics::Bitmap(4, 4), {1, 2});
+    EXPECT_THAT(region.Rects(), ElementsAre(RectI{10, 22, 1, 1}));
+}
+
 }  // namespace
 }  // namespace orbelle::filters

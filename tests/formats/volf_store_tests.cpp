@@ -71,7 +71,7 @@ Document TwoLayers() {
 std::string ProblemOf(const Bytes& bytes, Document& document) {
     try {
         DecodeDocument(bytes, document);
-    } catch (const std::runtime_error& error) {
+    } catch (const Error& error) {
         return error.what();
     }
     return "none";

@@ -5,7 +5,6 @@
 #include <string_view>
 
 #include "graphics/codecs/image_codecs.h"
-#include "graphics/errors.h"
 #include "graphics/file_io.h"
 
 namespace orbelle::graphics {

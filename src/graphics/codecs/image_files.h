@@ -4,19 +4,13 @@
 #include <cstdint>
 #include <filesystem>
 #include <span>
-#include <stdexcept>
 #include <vector>
 
 #include "graphics/bitmap.h"
+#include "graphics/errors.h"
 #include "graphics/indexed_bitmap.h"
 
 namespace orbelle::graphics {
-
-// A picture that can't be decoded; what() says what is wrong with it.
-class ImageError : public std::runtime_error {
-public:
-    using std::runtime_error::runtime_error;
-};
 
 // The picture in the file, told by its first bytes, not by its name. Straight alpha; gamma and
 // resolution are ignored. Of an animation the first frame. Throws FileError.
