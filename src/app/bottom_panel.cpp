@@ -199,8 +199,8 @@ void BottomPanel::ShowStates(const Editor& editor) {
     const editing::Controls& controls = editor.Controls;
     const auto mirror = [](widgets::NumberSlider& shown, const editing::Slider& slider) {
         shown.setEnabled(slider.Enabled);
-        if (shown.ColorValue() != slider.Value)
-            shown.SetColorValue(slider.Value);
+        if (shown.Value() != slider.Value)
+            shown.SetValue(slider.Value);
     };
     mirror(*pageWidth_, controls.PageWidth);
     mirror(*pageHeight_, controls.PageHeight);

@@ -18,67 +18,68 @@ using widgets::ButtonBar;
 using widgets::ButtonBarSetup;
 using widgets::ButtonBarStyle;
 
+// In the order of the editor's numbers.
 const ButtonBarSetup kMainBar = {
-    Qt::Horizontal,
-    ButtonBarStyle::Win10,
-    32,
-    {"main/new", "main/open", "main/import", "main/save", "1", "main/undo", "main/redo", "1",
-     "main/zoom-in", "main/zoom-out", "main/original-size", "1", "main/website"},
-    {"1,Y,New,,New,0,-1,0", "2,Y,,,Open,0,-1,0", "3,Y,,,Import,0,0,0", "4,Y,,,Save,0,0,0",
-     "5,1,,,,0,-1,0", "6,Y,,,Undo,0,0,0", "7,Y,,,Redo,0,0,0", "8,1,,,,0,-1,0",
-     "9,Y,,,Zoom In,0,0,0", "10,Y,,,Zoom Out,0,0,0", "11,Y,Original Size,,Original Size,1,0,1",
-     "12,1,,,,0,-1,0", "13,Y,Website,,Website,0,-1,0"},
-};
+    .Style = ButtonBarStyle::Win10,
+    .IconSize = 32,
+    .Buttons = {{.Caption = "New", .ToolTip = "New", .Artwork = "main/new"},
+                {.ToolTip = "Open", .Artwork = "main/open"},
+                {.ToolTip = "Import", .Artwork = "main/import"},
+                {.ToolTip = "Save", .Artwork = "main/save"},
+                {.IsSeparator = true},
+                {.ToolTip = "Undo", .Artwork = "main/undo"},
+                {.ToolTip = "Redo", .Artwork = "main/redo"},
+                {.IsSeparator = true},
+                {.ToolTip = "Zoom In", .Artwork = "main/zoom-in"},
+                {.ToolTip = "Zoom Out", .Artwork = "main/zoom-out"},
+                {.Caption = "Original Size",
+                 .ToolTip = "Original Size",
+                 .Artwork = "main/original-size",
+                 .Latches = true,
+                 .HasArrow = true},
+                {.IsSeparator = true},
+                {.Caption = "Website", .ToolTip = "Website", .Artwork = "main/website"}}};
 
 // The texts of 6 to 9 and the pictures are deliberately crossed: the pictures are right.
-const ButtonBarSetup kToolColumn = {
-    Qt::Vertical,
-    ButtonBarStyle::Win10,
-    16,
-    {"tools/move", "tools/select-rectangle", "1", "tools/pencil", "tools/line", "tools/ellipse",
-     "tools/filled-ellipse", "tools/rectangle", "tools/filled-rectangle", "1", "tools/pick",
-     "tools/eraser"},
-    {"1,Y,,,Move tool,1,-1,0", "2,Y,,,Selection tool,1,-1,0", "3,1,,,,1,-1,0",
-     "4,Y,,,Pencil tool,1,-1,0", "5,Y,,,Line tool,1,-1,0", "6,Y,,,Rectangle tool,1,-1,0",
-     "7,Y,,,Filled Rectangle tool,1,-1,0", "8,Y,,,Ellipse tool,1,-1,0",
-     "9,Y,,,Filled Ellipse tool,1,-1,0", "10,1,,,,1,-1,0", "11,Y,,1,Color Pick tool,1,-1,0",
-     "12,Y,,1,Erase tool,1,-1,0"},
-};
+const ButtonBarSetup kToolBox = {
+    .Direction = Qt::Vertical,
+    .Style = ButtonBarStyle::Win10,
+    .Buttons = {
+        {.ToolTip = "Move tool", .Artwork = "tools/move", .Latches = true},
+        {.ToolTip = "Selection tool", .Artwork = "tools/select-rectangle", .Latches = true},
+        {.IsSeparator = true},
+        {.ToolTip = "Pencil tool", .Artwork = "tools/pencil", .Latches = true},
+        {.ToolTip = "Line tool", .Artwork = "tools/line", .Latches = true},
+        {.ToolTip = "Rectangle tool", .Artwork = "tools/ellipse", .Latches = true},
+        {.ToolTip = "Filled Rectangle tool", .Artwork = "tools/filled-ellipse", .Latches = true},
+        {.ToolTip = "Ellipse tool", .Artwork = "tools/rectangle", .Latches = true},
+        {.ToolTip = "Filled Ellipse tool", .Artwork = "tools/filled-rectangle", .Latches = true},
+        {.IsSeparator = true},
+        {.ToolTip = "Color Pick tool", .Artwork = "tools/pick", .Latches = true},
+        {.ToolTip = "Erase tool", .Artwork = "tools/eraser", .Latches = true}}};
 
-const ButtonBarSetup kFillKinds = {
-    Qt::Horizontal,
-    ButtonBarStyle::Normal,
-    16,
-    {"tools/fill-solid", "tools/fill-horizontal", "tools/fill-vertical", "tools/fill-radial"},
-    {"1,Y,,,Solid,0,-1,0", "2,Y,,,Horizontal Gradient,0,-1,0", "3,Y,,,Vertical Gradient,0,-1,0",
-     "4,Y,,,Radial Gradient,0,-1,0"},
-};
+const ButtonBarSetup kFillBar = {
+    .Buttons = {{.ToolTip = "Solid", .Artwork = "tools/fill-solid"},
+                {.ToolTip = "Horizontal Gradient", .Artwork = "tools/fill-horizontal"},
+                {.ToolTip = "Vertical Gradient", .Artwork = "tools/fill-vertical"},
+                {.ToolTip = "Radial Gradient", .Artwork = "tools/fill-radial"}}};
 
 const ButtonBarSetup kLayerBar = {
-    Qt::Horizontal,
-    ButtonBarStyle::Normal,
-    16,
-    {"layers/add", "layers/remove", "layers/eye", "1", "layers/order", "layers/merge"},
-    {"1,Y,,,Import Icon...,0,-1,0", "2,Y,,,Remove Layer,0,-1,0", "3,Y,,,Hide Layer,0,-1,0",
-     "4,1,,,,0,0,0", "5,Y,,,Set Order,0,0,0", "6,Y,Merge Down,,,0,0,0"},
-};
+    .Buttons = {{.ToolTip = "Import Icon...", .Artwork = "layers/add"},
+                {.ToolTip = "Remove Layer", .Artwork = "layers/remove"},
+                {.ToolTip = "Hide Layer", .Artwork = "layers/eye"},
+                {.IsSeparator = true},
+                {.ToolTip = "Set Order", .Artwork = "layers/order"},
+                {.Caption = "Merge Down", .Artwork = "layers/merge"}}};
 
-const ButtonBarSetup kSelectionKinds = {
-    Qt::Horizontal,
-    ButtonBarStyle::Normal,
-    16,
-    {"tools/select-rectangle", "tools/select-ellipse", "tools/select-polygon"},
-    {"1,Y,,,Rectangle Selection,0,-1,0", "2,Y,,,Ellipse Selection,0,-1,0",
-     "3,Y,,,Polygon Selection,0,-1,0"},
-};
+const ButtonBarSetup kSelectionBar = {
+    .Buttons = {{.ToolTip = "Rectangle Selection", .Artwork = "tools/select-rectangle"},
+                {.ToolTip = "Ellipse Selection", .Artwork = "tools/select-ellipse"},
+                {.ToolTip = "Polygon Selection", .Artwork = "tools/select-polygon"}}};
 
-const ButtonBarSetup kErasers = {
-    Qt::Horizontal,
-    ButtonBarStyle::Normal,
-    16,
-    {"tools/brush-eraser", "tools/pencil-eraser"},
-    {"1,Y,,,Brush Eraser,0,-1,0", "2,Y,,,Pencil Eraser,0,-1,0"},
-};
+const ButtonBarSetup kEraserBar = {
+    .Buttons = {{.ToolTip = "Brush Eraser", .Artwork = "tools/brush-eraser"},
+                {.ToolTip = "Pencil Eraser", .Artwork = "tools/pencil-eraser"}}};
 
 ButtonBar* MakeBar(const ButtonBarSetup& setup, const char* name, const char* accessibleName) {
     auto* bar = new ButtonBar(setup);
@@ -90,8 +91,8 @@ ButtonBar* MakeBar(const ButtonBarSetup& setup, const char* name, const char* ac
 template <std::size_t kCount>
 void Mirror(ButtonBar& bar, const std::array<editing::Button, kCount>& buttons) {
     for (std::size_t i = 1; i < kCount; ++i) {
-        bar.SetButtonEnable(static_cast<int>(i), buttons[i].Enabled);
-        bar.SetButtonPressState(static_cast<int>(i), buttons[i].Pressed);
+        bar.SetButtonEnabled(static_cast<int>(i), buttons[i].Enabled);
+        bar.SetPressed(static_cast<int>(i), buttons[i].Pressed);
     }
 }
 
@@ -145,14 +146,14 @@ void ClickLayers(MainWindow& form, int button) {
 
 ButtonBars::ButtonBars(MainWindow& form)
     : MainBar(MakeBar(kMainBar, "MainBar", "Main tool bar")),
-      ToolBox(MakeBar(kToolColumn, "ToolBox", "Tools")),
-      FillBar(MakeBar(kFillKinds, "FillBar", "Fill kinds")),
+      ToolBox(MakeBar(kToolBox, "ToolBox", "Tools")),
+      FillBar(MakeBar(kFillBar, "FillBar", "Fill kinds")),
       LayerBar(MakeBar(kLayerBar, "LayerBar", "Layer commands")),
-      SelectionBar(MakeBar(kSelectionKinds, "SelectionBar", "Selection kinds")),
-      EraserBar(MakeBar(kErasers, "EraserBar", "Erasers")) {
+      SelectionBar(MakeBar(kSelectionBar, "SelectionBar", "Selection kinds")),
+      EraserBar(MakeBar(kEraserBar, "EraserBar", "Erasers")) {
     const auto connect = [&form](ButtonBar* bar, std::function<void(int)> click) {
         // A latching button has turned itself; what it shows is the editor's to say.
-        QObject::connect(bar, &ButtonBar::MouseClick, &form, [&form, click](int button) {
+        QObject::connect(bar, &ButtonBar::Clicked, &form, [&form, click](int button) {
             click(button);
             form.ControlsChanged();
             form.FocusScene();
@@ -203,8 +204,7 @@ void ButtonBars::ShowStates(const editing::Controls& controls) {
     Mirror(*LayerBar, controls.LayerBar);
     Mirror(*SelectionBar, controls.SelectionBar);
     Mirror(*EraserBar, controls.EraserBar);
-    const int button = ToolBox->ButtonIndex();
-    ShowPopup(*FillBar, controls.FillBarVisible, button);
+    ShowPopup(*FillBar, controls.FillBarVisible, ToolBox->LastButton());
     ShowPopup(*SelectionBar, controls.SelectionBarVisible, editing::tool_buttons::Selection);
     ShowPopup(*EraserBar, controls.EraserBarVisible, editing::tool_buttons::Eraser);
 }

@@ -100,13 +100,13 @@ GifOptimizerDialog::GifOptimizerDialog(const graphics::Bitmap& surface, QWidget*
 
     // A stored 0 is taken for none.
     const int stored = Settings().value(kSetting).toInt();
-    Threshold->SetColorValue(stored == 0 ? kUsualValue : stored);
+    Threshold->SetValue(stored == 0 ? kUsualValue : stored);
     ShowResult();
     Threshold->setFocus();
 }
 
 int GifOptimizerDialog::OptimizeValue() const {
-    return std::clamp(Threshold->ColorValue(), 0, kTypedEnd);
+    return std::clamp(Threshold->Value(), 0, kTypedEnd);
 }
 
 void GifOptimizerDialog::done(int result) {

@@ -43,7 +43,7 @@ NewIconDialog::NewIconDialog(QWidget* parent) : QDialog(parent) {
 }
 
 editing::PageSize NewIconDialog::Size() const {
-    return {PageWidth->ColorValue(), PageHeight->ColorValue()};
+    return {PageWidth->Value(), PageHeight->Value()};
 }
 
 void NewIconDialog::accept() {
@@ -67,7 +67,7 @@ widgets::NumberSlider* NewIconDialog::AddSide(QGridLayout& rows, const char* nam
     side->setObjectName(name);
     side->setAccessibleName(QString(caption).remove('&'));
     side->SetRange(1, document::kMaxPageSide);
-    side->SetColorValue(Settings().value(setting).toInt());
+    side->SetValue(Settings().value(setting).toInt());
     side->setMinimumWidth(kSideWidth);
 
     const int row = rows.rowCount();

@@ -18,8 +18,8 @@ protected:
     NewIconDialogTest() { Settings().clear(); }
 
     static void Enter(const NewIconDialog& page, int width, int height) {
-        page.findChild<widgets::NumberSlider*>("PageWidth")->SetColorValue(width);
-        page.findChild<widgets::NumberSlider*>("PageHeight")->SetColorValue(height);
+        page.findChild<widgets::NumberSlider*>("PageWidth")->SetValue(width);
+        page.findChild<widgets::NumberSlider*>("PageHeight")->SetValue(height);
     }
 };
 
