@@ -7,11 +7,10 @@
 namespace orbelle::app {
 
 graphics::RectF PreviewRect(const graphics::Bitmap& image, int boxWidth, int boxHeight) {
-    const int width = std::min(boxWidth, image.Width());
-    const int height = std::min(boxHeight, image.Height());
-    return {static_cast<float>((boxWidth - width) / 2),
-            static_cast<float>((boxHeight - height) / 2), static_cast<float>(width),
-            static_cast<float>(height)};
+    const graphics::SizeF box{static_cast<float>(boxWidth), static_cast<float>(boxHeight)};
+    return CenterInBox({std::min(box.Width, static_cast<float>(image.Width())),
+                        std::min(box.Height, static_cast<float>(image.Height()))},
+                       box);
 }
 
 void DrawPreviewChecker(graphics::DrawingContext& context, int boxWidth, int boxHeight) {

@@ -1,6 +1,7 @@
 #include "formats/export_image.h"
 
 #include <algorithm>
+#include <cmath>
 #include <cstdlib>
 #include <stdexcept>
 #include <string>
@@ -76,33 +77,15 @@ std::vector<int> IconSizesFor(int pageWidth, int pageHeight) {
     return {largest, std::end(kIconSides)};
 }
 
-graphics::RectF FitIntoBox(float sourceWidth, float sourceHeight, float boxWidth, float boxHeight) {
-    int width, height;
-    const float rx = boxWidth / sourceWidth;
-    const float ry = boxHeight / sourceHeight;
-    if (sourceWidth <= boxWidth && sourceHeight <= boxHeight) {
-        width = graphics::RoundToEven(sourceWidth);
-        height = graphics::RoundToEven(sourceHeight);
-    } else if (rx < ry) {
-        width = graphics::RoundToEven(boxWidth);
-        height = graphics::RoundToEven(rx * sourceHeight);
-    } else {
-        height = graphics::RoundToEven(boxHeight);
-        width = graphics::RoundToEven(ry * sourceWidth);
-    }
-    const int x = graphics::RoundToEven(boxWidth - static_cast<float>(width)) / 2;
-    const int y = graphics::RoundToEven(boxHeight - static_cast<float>(height)) / 2;
-    return {static_cast<float>(x), static_cast<float>(y), static_cast<float>(width),
-            static_cast<float>(height)};
-}
-
 Bitmap DrawIconPicture(const Bitmap& page, int size) {
     Bitmap square(size, size);
     graphics::DrawingContext context(square);
     context.SetInterpolationMode(graphics::InterpolationMode::HighQuality);
-    const auto side = static_cast<float>(size);
-    context.DrawImageRect(page, FitIntoBox(static_cast<float>(page.Width()),
-                                           static_cast<float>(page.Height()), side, side));
+    const graphics::SizeF box{static_cast<float>(size), static_cast<float>(size)};
+    const graphics::SizeF fitted =
+        FitIntoBox({static_cast<float>(page.Width()), static_cast<float>(page.Height())}, box);
+    const graphics::SizeF whole{std::nearbyint(fitted.Width), std::nearbyint(fitted.Height)};
+    context.DrawImageRect(page, CenterInBox(whole, box));
     return square;
 }
 

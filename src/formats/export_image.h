@@ -40,11 +40,8 @@ struct ExportSettings {
 // side reaches and all below it, largest first; none below 16.
 std::vector<int> IconSizesFor(int pageWidth, int pageHeight);
 
-// Where a page of sourceWidth x sourceHeight goes in a box: never enlarged, else the side that
-// binds fills the box; centred, halves dropped.
-graphics::RectF FitIntoBox(float sourceWidth, float sourceHeight, float boxWidth, float boxHeight);
-
-// The page in a transparent size x size square, scaled with high quality.
+// The page in the middle of a transparent size x size square: never enlarged, else scaled with high
+// quality until its larger side fills the square.
 graphics::Bitmap DrawIconPicture(const graphics::Bitmap& page, int size);
 
 // The page over its background as a GIF is made from it: a background whose alpha is 0 counts as

@@ -6,17 +6,19 @@
 #include <string_view>
 
 #include "filters/create_region.h"
-#include "formats/little_endian.h"
 #include "formats/parallel.h"
 #include "graphics/codecs/image_files.h"
 #include "graphics/file_io.h"
+#include "graphics/little_endian.h"
 
 namespace orbelle::formats {
 namespace {
 
 using document::Document;
 using document::IconLayer;
+using graphics::Append;
 using graphics::Bitmap;
+using graphics::ByteReader;
 using graphics::RectF;
 
 constexpr std::string_view kMagic = "volf ";

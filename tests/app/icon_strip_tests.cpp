@@ -6,7 +6,6 @@ namespace orbelle::app {
 namespace {
 
 using graphics::PointF;
-using graphics::RectF;
 using graphics::RectI;
 
 constexpr int kHeight = 200;
@@ -16,19 +15,6 @@ IconImageStrip StripOf(std::vector<std::pair<int, int>> sizes) {
     for (const auto& [width, height] : sizes)
         images.push_back({width, height, 32, graphics::Bitmap(width, height)});
     return IconImageStrip(std::move(images));
-}
-
-TEST(BestFit, ShrinksToTheSideThatBindsAndKeepsFractions) {
-    const struct {
-        float Width, Height;
-        RectF Place;
-    } cases[] = {
-        {256, 256, {0, 30, 100, 100}}, {48, 48, {26, 56, 48, 48}},    {100, 160, {0, 0, 100, 160}},
-        {47, 45, {26, 57, 47, 45}},    {200, 25, {0, 74, 100, 12.5}}, {16, 320, {46, 0, 8, 160}},
-        {25, 320, {44, 0, 12.5, 160}},
-    };
-    for (const auto& [width, height, place] : cases)
-        EXPECT_EQ(BestFit(width, height, 100, 160), place) << width << " x " << height;
 }
 
 TEST(IconStrip, CellsStandInARowWithPicturesAndCaptions) {

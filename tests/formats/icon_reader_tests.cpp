@@ -3,16 +3,17 @@
 #include <gmock/gmock.h>
 
 #include "formats/icon_file.h"
-#include "formats/little_endian.h"
 #include "graphics/codecs/image_files.h"
 #include "graphics/errors.h"
 #include "graphics/file_io.h"
+#include "graphics/little_endian.h"
 #include "support/pictures.h"
 #include "support/temporary_folder.h"
 
 namespace orbelle::formats {
 namespace {
 
+using graphics::Append;
 using graphics::Bitmap;
 using graphics::ImageError;
 using ::testing::ElementsAre;

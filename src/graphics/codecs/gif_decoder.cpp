@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cstring>
+#include <new>
 #include <utility>
 #include <vector>
 
@@ -13,6 +14,8 @@ namespace orbelle::graphics {
 namespace {
 
 [[noreturn]] void ThrowGifError(int code) {
+    if (code == D_GIF_ERR_NOT_ENOUGH_MEM)
+        throw std::bad_alloc();
     const char* text = GifErrorString(code);
     ThrowDamaged("GIF", text ? text : "unknown error");
 }
