@@ -14,10 +14,10 @@
 #include "app/scene_view.h"
 #include "app/settings.h"
 #include "document/layer_slots.h"
+#include "editing/buttons.h"
 #include "editing/document_commands.h"
 #include "editing/layer_commands.h"
 #include "editing/tool_palette.h"
-#include "editing/view_commands.h"
 #include "widgets/track_slider.h"
 
 namespace {
@@ -38,13 +38,12 @@ graphics::Bitmap Gradient(unsigned shade) {
 }
 
 void FillDocument(editing::Editor& editor) {
-    ResetDocument(editor, kPageSide, kPageSide, false);
-    for (int i = 0; i < kLayers; ++i)
-        MakeImageLayer(editor.Document, editor.Document.Layers.emplace_back(),
+    OpenPicture(editor, Gradient(0));
+    for (int i = 1; i < kLayers; ++i)
+        MakeImageLayer(editor.Page(), editor.Page().Layers.emplace_back(),
                        Gradient(static_cast<unsigned>(i * 20)));
-    editor.DocumentExists = true;
     SelectLayer(editor, 0);
-    Compose(editor);
+    editor.Changed.Pixels = true;
 }
 
 void Send(QWidget& widget, QEvent::Type type, const QPointF& at) {
@@ -91,13 +90,13 @@ int main(int argc, char** argv) {
     };
 
     window.Run([](editing::Editor& editor) {
-        for (std::size_t i = 1; i < editor.Document.Layers.size(); ++i)
-            editor.Document.Layers[i].Region = graphics::Region::Empty();
+        for (std::size_t i = 1; i < editor.Page().Layers.size(); ++i)
+            editor.Page().Layers[i].Region = graphics::Region::Empty();
     });
     Measure("drag a layer", *scene, middle, circle);
     window.Run([](editing::Editor& editor) {
         SelectLayer(editor, 0);
-        editor.Colors = {0xFF3060C0, 0xFFF0D020};
+        editor.Tools.Colors = {0xFF3060C0, 0xFFF0D020};
         ClickToolButton(editor, editing::tool_buttons::FilledEllipse);
         ChooseFill(editor, editing::FillKind::RadialGradient);
     });

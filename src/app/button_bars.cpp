@@ -2,11 +2,10 @@
 
 #include <QGraphicsDropShadowEffect>
 
+#include "app/ask_commands.h"
 #include "app/links.h"
-#include "app/main_window.h"
-#include "editing/document_commands.h"
-#include "editing/layer_commands.h"
-#include "editing/stack_commands.h"
+#include "editing/buttons.h"
+#include "editing/layer_bar.h"
 #include "editing/tool_palette.h"
 #include "editing/undo_commands.h"
 #include "editing/view_commands.h"
@@ -89,34 +88,41 @@ ButtonBar* MakeBar(const ButtonBarSetup& setup, const char* name, const char* ac
 }
 
 template <std::size_t kCount>
-void Mirror(ButtonBar& bar, const std::array<editing::Button, kCount>& buttons) {
+void Mirror(ButtonBar& bar, const std::array<editing::ButtonState, kCount>& buttons) {
     for (std::size_t i = 1; i < kCount; ++i) {
         bar.SetButtonEnabled(static_cast<int>(i), buttons[i].Enabled);
         bar.SetPressed(static_cast<int>(i), buttons[i].Pressed);
     }
 }
 
-void ClickMain(MainWindow& form, int button) {
+void ClickMain(const WindowContext& context, int button) {
     using namespace editing;
+    CommandRunner& commands = context.Commands;
     switch (button) {
         case main_buttons::New:
-            return form.Run(New);
+            return AskNew(context);
         case main_buttons::Open:
-            return form.Run(Open);
+            return AskOpen(context);
         case main_buttons::Import:
-            return form.Run(Import);
+            return AskImport(context);
         case main_buttons::Save:
-            return form.Run(Save);
+            AskSave(context);
+            return;
         case main_buttons::Undo:
-            return form.Run(Undo);
+            commands.Run(Undo);
+            return;
         case main_buttons::Redo:
-            return form.Run(Redo);
+            commands.Run(Redo);
+            return;
         case main_buttons::ZoomIn:
-            return form.Run(ZoomIn);
+            commands.Run(ZoomIn);
+            return;
         case main_buttons::ZoomOut:
-            return form.Run(ZoomOut);
+            commands.Run(ZoomOut);
+            return;
         case main_buttons::OriginalSize:
-            return form.Run(OriginalSize);
+            commands.Run(OriginalSize);
+            return;
         case main_buttons::Website:
             return OpenLink(kWebsite);
         default:
@@ -124,19 +130,24 @@ void ClickMain(MainWindow& form, int button) {
     }
 }
 
-void ClickLayers(MainWindow& form, int button) {
+void ClickLayers(const WindowContext& context, int button) {
     using namespace editing;
+    CommandRunner& commands = context.Commands;
     switch (button) {
         case layer_buttons::Add:
-            return form.Run(AddLayerCommand);
+            commands.Run(PressAddLayer);
+            return;
         case layer_buttons::Remove:
-            return form.Run(RemoveLayerCommand);
+            commands.Run(PressRemoveLayer);
+            return;
         case layer_buttons::Hide:
-            return form.Run(HideLayerCommand);
+            commands.Run(PressHideLayer);
+            return;
         case layer_buttons::SetOrder:
-            return form.ShowOrderMenu();
+            return context.Window.ShowOrderMenu();
         case layer_buttons::MergeDown:
-            return form.Run(MergeDownCommand);
+            commands.Run(PressMergeDown);
+            return;
         default:
             return;
     }
@@ -144,38 +155,44 @@ void ClickLayers(MainWindow& form, int button) {
 
 }  // namespace
 
-ButtonBars::ButtonBars(MainWindow& form)
+ButtonBars::ButtonBars(const WindowContext& context)
     : MainBar(MakeBar(kMainBar, "MainBar", "Main tool bar")),
       ToolBox(MakeBar(kToolBox, "ToolBox", "Tools")),
       FillBar(MakeBar(kFillBar, "FillBar", "Fill kinds")),
       LayerBar(MakeBar(kLayerBar, "LayerBar", "Layer commands")),
       SelectionBar(MakeBar(kSelectionBar, "SelectionBar", "Selection kinds")),
       EraserBar(MakeBar(kEraserBar, "EraserBar", "Erasers")) {
-    const auto connect = [&form](ButtonBar* bar, std::function<void(int)> click) {
+    const auto connect = [context](ButtonBar* bar, std::function<void(int)> click) {
         // A latching button has turned itself; what it shows is the editor's to say.
-        QObject::connect(bar, &ButtonBar::Clicked, &form, [&form, click](int button) {
+        QObject::connect(bar, &ButtonBar::Clicked, bar, [context, click](int button) {
             click(button);
-            form.ControlsChanged();
-            form.FocusScene();
+            context.Window.ShowControls();
+            context.Window.FocusScene();
         });
     };
-    connect(MainBar, [&form](int button) {
-        form.CloseTips();
-        ClickMain(form, button);
+    const auto run = [context](void (*command)(editing::Editor&, int), int button) {
+        context.Commands.Run([=](editing::Editor& editor) { command(editor, button); });
+    };
+    connect(MainBar, [context](int button) {
+        context.Window.CloseTips();
+        ClickMain(context, button);
     });
-    connect(ToolBox, [&form](int button) {
-        form.Run([button](editing::Editor& editor) { ClickToolButton(editor, button); });
+    connect(ToolBox, [run](int button) { run(editing::ClickToolButton, button); });
+    connect(FillBar, [run](int button) {
+        run([](editing::Editor& editor,
+               int pressed) { ChooseFill(editor, static_cast<editing::FillKind>(pressed - 1)); },
+            button);
     });
-    connect(FillBar, [&form](int button) {
-        const auto kind = static_cast<editing::FillKind>(button - 1);
-        form.Run([kind](editing::Editor& editor) { ChooseFill(editor, kind); });
+    connect(LayerBar, [context](int button) { ClickLayers(context, button); });
+    connect(SelectionBar, [run](int button) {
+        run([](editing::Editor& editor,
+               int pressed) { ChooseSelection(editor, editing::SelectionToolOf(pressed)); },
+            button);
     });
-    connect(LayerBar, [&form](int button) { ClickLayers(form, button); });
-    connect(SelectionBar, [&form](int button) {
-        form.Run([button](editing::Editor& editor) { ChooseSelection(editor, button); });
-    });
-    connect(EraserBar, [&form](int button) {
-        form.Run([button](editing::Editor& editor) { ChooseEraser(editor, button); });
+    connect(EraserBar, [run](int button) {
+        run([](editing::Editor& editor,
+               int pressed) { ChooseEraser(editor, editing::EraserToolOf(pressed)); },
+            button);
     });
     for (ButtonBar* popup : {FillBar, SelectionBar, EraserBar}) {
         auto* shadow = new QGraphicsDropShadowEffect(popup);
@@ -197,16 +214,20 @@ void ButtonBars::ShowPopup(ButtonBar& popup, bool visible, int button) {
     popup.setVisible(visible);
 }
 
-void ButtonBars::ShowStates(const editing::Controls& controls) {
-    Mirror(*MainBar, controls.MainBar);
-    Mirror(*ToolBox, controls.ToolBox);
-    Mirror(*FillBar, controls.FillBar);
-    Mirror(*LayerBar, controls.LayerBar);
-    Mirror(*SelectionBar, controls.SelectionBar);
-    Mirror(*EraserBar, controls.EraserBar);
-    ShowPopup(*FillBar, controls.FillBarVisible, ToolBox->LastButton());
-    ShowPopup(*SelectionBar, controls.SelectionBarVisible, editing::tool_buttons::Selection);
-    ShowPopup(*EraserBar, controls.EraserBarVisible, editing::tool_buttons::Eraser);
+void ButtonBars::ShowStates(const editing::Editor& editor) {
+    const editing::ControlStates& states = editor.States;
+    Mirror(*MainBar, states.MainBar);
+    Mirror(*ToolBox, states.ToolBox);
+    Mirror(*FillBar, states.FillBar);
+    Mirror(*LayerBar, states.LayerBar);
+    Mirror(*SelectionBar, states.SelectionBar);
+    Mirror(*EraserBar, states.EraserBar);
+    const auto show = [&](ButtonBar& popup, editing::Popup which) {
+        ShowPopup(popup, editor.Tools.OpenPopup == which, editing::ButtonOf(editor.Tools.InUse));
+    };
+    show(*FillBar, editing::Popup::FillBar);
+    show(*SelectionBar, editing::Popup::SelectionBar);
+    show(*EraserBar, editing::Popup::EraserBar);
 }
 
 }  // namespace orbelle::app

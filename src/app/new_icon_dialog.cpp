@@ -42,13 +42,13 @@ NewIconDialog::NewIconDialog(QWidget* parent) : QDialog(parent) {
     PageWidth->setFocus();
 }
 
-editing::PageSize NewIconDialog::Size() const {
+PageSize NewIconDialog::Size() const {
     return {PageWidth->Value(), PageHeight->Value()};
 }
 
 void NewIconDialog::accept() {
     const auto allowed = [](int side) { return side >= 1 && side <= document::kMaxPageSide; };
-    const editing::PageSize size = Size();
+    const PageSize size = Size();
     if (!allowed(size.Width) || !allowed(size.Height)) {
         ShowPlainMessage(this, editing::kPageSizeMessage);
         return;

@@ -3,7 +3,7 @@
 
 #include <QDialog>
 
-#include "editing/editor_host.h"
+#include "app/user_questions.h"
 
 class QGridLayout;
 
@@ -21,7 +21,7 @@ class NewIconDialog : public QDialog {
 public:
     explicit NewIconDialog(QWidget* parent = nullptr);
 
-    editing::PageSize Size() const;  // page pixels
+    PageSize Size() const;  // page pixels
     void accept() override;
 
 private:

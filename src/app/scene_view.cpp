@@ -10,7 +10,6 @@
 #include <cmath>
 
 #include "document/scene_painter.h"
-#include "editing/tools/object_keys.h"
 #include "widgets/artwork.h"
 #include "widgets/image_store.h"
 
@@ -110,7 +109,7 @@ void SceneView::ShowCursor() {
     static const QCursor pick = ToolCursor("cursors/pick", kPickSpot);
     static const QCursor erase = ToolCursor("cursors/erase", kEraseSpot);
     const QCursor* cursor = &line;
-    switch (editor_.CurrentTool) {
+    switch (editor_.Tools.InUse) {
         case Tool::Move:
             cursor = &move;
             break;
@@ -151,18 +150,18 @@ void SceneView::leaveEvent(QEvent*) {
 }
 
 void SceneView::keyPressEvent(QKeyEvent* event) {
-    namespace key_codes = editing::key_codes;
+    using editing::SceneKey;
     switch (event->key()) {
         case Qt::Key_Left:
-            return emit KeyPressed(key_codes::Left);
+            return emit KeyPressed(SceneKey::Left);
         case Qt::Key_Up:
-            return emit KeyPressed(key_codes::Up);
+            return emit KeyPressed(SceneKey::Up);
         case Qt::Key_Right:
-            return emit KeyPressed(key_codes::Right);
+            return emit KeyPressed(SceneKey::Right);
         case Qt::Key_Down:
-            return emit KeyPressed(key_codes::Down);
+            return emit KeyPressed(SceneKey::Down);
         case Qt::Key_Delete:
-            return emit KeyPressed(key_codes::Delete);
+            return emit KeyPressed(SceneKey::Delete);
         default:
             QWidget::keyPressEvent(event);
     }
@@ -182,7 +181,7 @@ void SceneView::paintEvent(QPaintEvent*) {
                        scene.Height(), scene.Width() * qsizetype{4}, QImage::Format_RGB32);
     painter.drawImage(0, 0, image);
 
-    const auto frame = document::ObjectFrame(editor_.Document, editor_.View);
+    const auto frame = document::ObjectFrame(editor_.Page(), editor_.View);
     if (frame && !editor_.Selection.Exists()) {
         painter.setPen(QPen(kFrameColor, 1, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
         painter.drawRect(

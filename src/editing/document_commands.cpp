@@ -138,10 +138,7 @@ void AddPictureLayer(Editor& editor, const graphics::Bitmap& picture) {
 graphics::Bitmap ReadPicture(const fs::path& path, int iconImage) {
     if (!IsIconName(path))
         return graphics::LoadImageFromFile(path);
-    const std::vector<formats::IconEntryImage> offered =
-        formats::OfferedEntries(formats::ReadIconFile(path));
-    if (offered.empty())
-        throw graphics::FileError(path, "the icon has no image of more than 8 bits a pixel");
+    const std::vector<formats::IconEntryImage> offered = ReadIconImages(path);
     if (iconImage < 0 || iconImage >= static_cast<int>(offered.size()))
         throw Error("there is no image " + std::to_string(iconImage) + "; the icon offers " +
                     std::to_string(offered.size()));
@@ -156,6 +153,14 @@ bool IsDocumentName(const fs::path& path) {
 
 bool IsIconName(const fs::path& path) {
     return FileExtension(path) == "ico";
+}
+
+std::vector<formats::IconEntryImage> ReadIconImages(const fs::path& path) {
+    std::vector<formats::IconEntryImage> offered =
+        formats::OfferedEntries(formats::ReadIconFile(path));
+    if (offered.empty())
+        throw graphics::FileError(path, "the icon has no image of more than 8 bits a pixel");
+    return offered;
 }
 
 void NewDocument(Editor& editor, int pageWidth, int pageHeight) {
