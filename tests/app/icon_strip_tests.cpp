@@ -46,7 +46,6 @@ TEST(IconStrip, CellsStandInARowWithPicturesAndCaptions) {
 
 TEST(IconStrip, APressSelectsTheCellUnderIt) {
     IconImageStrip strip = StripOf({{1, 1}, {2, 2}, {3, 3}});
-    EXPECT_EQ(strip.GetImage().Width(), 1);
     const struct {
         int X, Y, Selected;
     } presses[] = {{99, 0, 0},  {100, 0, 1},   {299, 199, 2},  {300, 10, -1}, {0, 0, 0},
@@ -54,7 +53,6 @@ TEST(IconStrip, APressSelectsTheCellUnderIt) {
     for (const auto& [x, y, selected] : presses) {
         strip.Press(x, y, kHeight);
         EXPECT_EQ(strip.SelectedIndex, selected) << x << ", " << y;
-        EXPECT_EQ(strip.GetImage().Width(), selected + 1);
     }
 }
 
@@ -63,7 +61,6 @@ TEST(IconStrip, WithoutImagesNothingIsSelected) {
     EXPECT_EQ(strip.Width(), 0);
     EXPECT_EQ(strip.SelectedIndex, -1);
     strip.Press(0, 0, kHeight);
-    EXPECT_TRUE(strip.GetImage().IsEmpty());
 }
 
 }  // namespace
