@@ -16,12 +16,12 @@ public:
     // Enabled and pressed states, and which pop-ups are open.
     void ShowStates(const editing::Controls& controls);
 
-    widgets::ButtonBar* const MainBar;       // main
-    widgets::ButtonBar* const ToolBox;       // tools
-    widgets::ButtonBar* const FillBar;       // fill kinds
-    widgets::ButtonBar* const LayerBar;      // layers
-    widgets::ButtonBar* const SelectionBar;  // selection kinds
-    widgets::ButtonBar* const EraserBar;     // erasers
+    widgets::ButtonBar* const MainBar;
+    widgets::ButtonBar* const ToolBox;
+    widgets::ButtonBar* const FillBar;
+    widgets::ButtonBar* const LayerBar;
+    widgets::ButtonBar* const SelectionBar;
+    widgets::ButtonBar* const EraserBar;
 
 private:
     void ShowPopup(widgets::ButtonBar& popup, bool visible, int button);

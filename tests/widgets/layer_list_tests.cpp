@@ -89,7 +89,7 @@ TEST_F(LayerListTest, ScrollsRowsThatDoNotFit) {
     EXPECT_EQ(bar.value(), 0);
 }
 
-TEST_F(LayerListTest, ColoursRowsByTheirState) {
+TEST_F(LayerListTest, ColoursRowsByTheirStateAndFramesTheFocus) {
     list.SetRows({Row(false), Row(), Row(false)});
     list.SetSelectedIndex(2);
     // Right of the texts.
@@ -97,6 +97,12 @@ TEST_F(LayerListTest, ColoursRowsByTheirState) {
         {20, {205, 236, 254}}, {39, {150, 150, 150}}, {60, Qt::white}, {100, {230, 230, 230}}};
     for (const auto& [y, color] : rows)
         EXPECT_EQ(Shown().pixelColor(150, y), color) << y;
+    list.SetSelectedIndex(1);
+    list.activateWindow();
+    QApplication::processEvents();
+    list.setFocus(Qt::TabFocusReason);
+    for (const auto& [y, framed] : {std::pair(20, false), {60, true}, {100, false}})
+        EXPECT_EQ(Shown().pixelColor(0, y + 5) == QColor(58, 150, 255), framed) << y;
 }
 
 TEST_F(LayerListTest, DrawsCheckerAndThumbnail) {
