@@ -6,6 +6,7 @@
 #include <algorithm>
 
 #include "editing/tool_palette.h"
+#include "widgets/chrome.h"
 #include "widgets/track_slider.h"
 
 namespace orbelle::app {
@@ -16,10 +17,7 @@ constexpr int kSlideStep = 10;         // pixels a tick
 constexpr int kSlideMilliseconds = 8;  // a tick
 constexpr int kBlinkMilliseconds = 250;
 constexpr int kBlinkTicks = 6;
-constexpr QColor kBackground(245, 246, 247);
-constexpr QColor kEdge(220, 220, 220);
 constexpr int kEdgeGap = 8;
-constexpr QColor kFrame(58, 150, 255);
 
 }  // namespace
 
@@ -106,12 +104,12 @@ void BrushPanel::StepBlink() {
 
 void BrushPanel::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    painter.fillRect(rect(), kBackground);
-    painter.fillRect(QRect(0, kEdgeGap, 1, height() - 2 * kEdgeGap), kEdge);
+    painter.fillRect(rect(), widgets::kChromeColor);
+    painter.fillRect(QRect(0, kEdgeGap, 1, height() - 2 * kEdgeGap), widgets::kHairlineColor);
     if (!frame_)
         return;
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(kFrame, 1));
+    painter.setPen(QPen(widgets::kAccentColor, 1));
     painter.drawRoundedRect(QRectF(rect()).adjusted(3.5, 3.5, -3.5, -3.5), 3, 3);
 }
 

@@ -16,7 +16,7 @@ public:
 
     widgets::ButtonBar* const MainBar;
     widgets::ButtonBar* const ToolBox;
-    widgets::ButtonBar* const FillBar;  // a pop-up, as the next but one and the last
+    widgets::ButtonBar* const FillBar;
     widgets::ButtonBar* const LayerBar;
     widgets::ButtonBar* const SelectionBar;
     widgets::ButtonBar* const EraserBar;

@@ -31,19 +31,19 @@ NewIconDialog::NewIconDialog(QWidget* parent) : QDialog(parent) {
     rows->setHorizontalSpacing(12);
     rows->setVerticalSpacing(12);
     layout->addLayout(rows);
-    PageWidth = AddSide(*rows, "PageWidth", "&Width:", kWidthSetting);
-    PageHeight = AddSide(*rows, "PageHeight", "&Height:", kHeightSetting);
+    pageWidth_ = AddSide(*rows, "PageWidth", "&Width:", kWidthSetting);
+    pageHeight_ = AddSide(*rows, "PageHeight", "&Height:", kHeightSetting);
 
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
     layout->addWidget(buttons);
     connect(buttons, &QDialogButtonBox::accepted, this, &NewIconDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &NewIconDialog::reject);
 
-    PageWidth->setFocus();
+    pageWidth_->setFocus();
 }
 
 PageSize NewIconDialog::Size() const {
-    return {PageWidth->Value(), PageHeight->Value()};
+    return {pageWidth_->Value(), pageHeight_->Value()};
 }
 
 void NewIconDialog::accept() {

@@ -28,8 +28,8 @@ private:
     widgets::NumberSlider* AddSide(QGridLayout& rows, const char* name, const QString& caption,
                                    const char* setting);
 
-    widgets::NumberSlider* PageWidth;   // width
-    widgets::NumberSlider* PageHeight;  // height
+    widgets::NumberSlider* pageWidth_;
+    widgets::NumberSlider* pageHeight_;
 };
 
 }  // namespace orbelle::app

@@ -151,13 +151,14 @@ void RightPanel::ShowStates(const Sliders& sliders) {
 }
 
 void RightPanel::ShowLayers(const Editor& editor) {
-    layers_->Clean();
+    std::vector<widgets::LayerRow> rows;
     for (const document::IconLayer& layer : editor.Page().Layers)
-        layers_->LoadImage(SharedImage(layer.Image), static_cast<int>(layer.Rect.Width),
-                           static_cast<int>(layer.Rect.Height), OpacityText(layer.Opacity),
-                           layer.Visible);
+        rows.push_back(
+            {SharedImage(layer.Image),
+             QSize(static_cast<int>(layer.Rect.Width), static_cast<int>(layer.Rect.Height)),
+             OpacityText(layer.Opacity), layer.Visible});
+    layers_->SetRows(std::move(rows));
     layers_->SetSelectedIndex(editor.Page().SelectedLayer);
-    layers_->DrawLayers();
 }
 
 }  // namespace orbelle::app

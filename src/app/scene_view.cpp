@@ -11,7 +11,6 @@
 
 #include "document/scene_painter.h"
 #include "widgets/artwork.h"
-#include "widgets/image_store.h"
 
 namespace orbelle::app {
 namespace {
@@ -198,8 +197,10 @@ void SceneView::DrawWelcome(QPainter& painter) const {
     const int left = (width() - 280) / 2, top = (height() - 80) / 2;
     // The picture is there or it is not; only the texts fade.
     const double picture = std::round(std::round(welcome_ * 10.0 / kWelcomeStrongest) / 10);
-    static const widgets::ImageStore board("board");
-    board.Drawing(painter, QRect(left - 60, top - 30, 40, 40), picture);
+    painter.setOpacity(picture);
+    painter.drawPixmap(left - 60, top - 30,
+                       widgets::Artwork("board", {40, 40}, devicePixelRatioF()));
+    painter.setOpacity(1);
     QFont font("Verdana");
     font.setPointSizeF(11);
     font.setBold(true);

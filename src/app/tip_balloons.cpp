@@ -16,7 +16,7 @@ TipBalloons::TipBalloons(const editing::Editor& editor, QWidget& central, Placem
       tips2_(new widgets::Balloon(&central)) {
     tips1_->setObjectName("FirstBalloon");
     tips2_->setObjectName("SecondBalloon");
-    tips2_->SetDirection(1);
+    tips2_->SetPointsDown(true);
     for (widgets::Balloon* balloon : {tips1_, tips2_}) {
         balloon->hide();
         connect(balloon, &widgets::Balloon::Clicked, this, [this, balloon] {
@@ -31,7 +31,7 @@ TipBalloons::TipBalloons(const editing::Editor& editor, QWidget& central, Placem
 bool TipBalloons::Put(widgets::Balloon& balloon, const std::optional<editing::Tip>& tip) {
     if (!tip)
         return true;
-    balloon.SetTipString(QString::fromStdString(tip->Text));
+    balloon.SetText(QString::fromStdString(tip->Text));
     const std::optional<QPoint> place = placement_(tip->Place, balloon.size());
     if (!place)
         return false;

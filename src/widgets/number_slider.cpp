@@ -305,10 +305,7 @@ void NumberSlider::paintEvent(QPaintEvent*) {
     }
     painter.setPen(QPen(isEnabled() ? kTextColor : kHairlineColor, 1.5));
     painter.setBrush(Qt::NoBrush);
-    const QPointF middle = QRectF(OpenRect()).center() + QPointF(0.5, 0);
-    const QPointF chevron[] = {middle + QPointF(-4, -2), middle + QPointF(0, 2),
-                               middle + QPointF(4, -2)};
-    painter.drawPolyline(chevron, 3);
+    DrawChevron(painter, QRectF(OpenRect()).center() + QPointF(0.5, 0));
 }
 
 }  // namespace orbelle::widgets
