@@ -3,6 +3,7 @@
 #include <QMenuBar>
 #include <functional>
 
+#include "app/export_formats.h"
 #include "app/links.h"
 #include "app/main_window.h"
 #include "editing/clipboard_commands.h"
@@ -12,7 +13,6 @@
 #include "editing/style_commands.h"
 #include "editing/tool_palette.h"
 #include "editing/undo_commands.h"
-#include "formats/export_image.h"
 
 namespace orbelle::app {
 namespace {
@@ -41,13 +41,15 @@ std::vector<Entry> ExportEntries() {
     static constexpr const char* kNames[] = {"m_ExportFormat0", "m_ExportFormat1",
                                              "m_ExportFormat2", "m_ExportFormat3",
                                              "m_ExportFormat4"};
-    static_assert(std::size(kNames) == std::size(formats::kExportFormats));
+    static_assert(std::size(kNames) == std::size(kExportEntries));
     std::vector<Entry> entries;
-    for (const formats::ExportFormat& format : formats::kExportFormats) {
+    for (const ExportEntry& format : kExportEntries) {
         entries.push_back({kNames[entries.size()],
                            QString("&") + format.Caption,
                            {},
-                           Edit([&format](editing::Editor& editor) { Export(editor, format); })});
+                           Edit([&format](editing::Editor& editor) {
+                               Export(editor, format.Format, format.Filter);
+                           })});
     }
     return entries;
 }

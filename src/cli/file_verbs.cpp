@@ -1,7 +1,4 @@
 // The File menu, the settings of exports, and putting an icon together from files.
-#include <algorithm>
-#include <cctype>
-
 #include "cli/verb_table.h"
 #include "editing/document_commands.h"
 #include "editing/export_commands.h"
@@ -19,24 +16,6 @@ constexpr formats::IconFormat kIconFormats[] = {
 
 // Far more than an icon is good for, and what memory holds.
 constexpr std::size_t kMaxIconSizes = 256;
-
-constexpr int kMaxGifThreshold = 200;
-
-// The entry of the Export submenu with the path's extension among its patterns; null: none.
-const formats::ExportFormat* FindExportFormat(const fs::path& path) {
-    std::string extension = path.extension().string();
-    std::ranges::transform(extension, extension.begin(),
-                           [](unsigned char c) { return std::tolower(c); });
-    if (extension.empty())
-        return nullptr;
-    for (const formats::ExportFormat& format : formats::kExportFormats) {
-        const std::string_view filter = format.Filter;
-        const std::string patterns = std::string(filter.substr(filter.find('|') + 1)) + ";";
-        if (patterns.find("*" + extension + ";") != std::string::npos)
-            return &format;
-    }
-    return nullptr;
-}
 
 void RequireEntry(const Workspace& workspace, const editing::MenuEntry& entry) {
     RequireDocument(workspace);
@@ -77,14 +56,14 @@ void Save(Workspace& workspace, const fs::path& path) {
 
 Action ReadExport(Words& words) {
     const fs::path path = words.Path("PATH");
-    const formats::ExportFormat* format = FindExportFormat(path);
+    const auto format = formats::FindExportFormat(path);
     if (!format)
         throw UsageError("PATH must end in .ico, .png, .gif, .jpg, .jpeg or .bmp");
     return [=](Workspace& workspace) {
         editing::OpenFileMenu(workspace.Editor);
         RequireEntry(workspace, workspace.Editor.Controls.m_Export);
         workspace.Host.File = path;
-        editing::Export(workspace.Editor, *format);
+        editing::Export(workspace.Editor, *format, "");
     };
 }
 
@@ -112,7 +91,7 @@ Action ReadIconFormat(Words& words) {
 }
 
 Action ReadGifThreshold(Words& words) {
-    return [threshold = words.Integer("T", 0, kMaxGifThreshold)](Workspace& workspace) {
+    return [threshold = words.Integer("T", 0, formats::kMaxGifThreshold)](Workspace& workspace) {
         workspace.Host.GifThreshold = threshold;
     };
 }

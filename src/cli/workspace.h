@@ -20,10 +20,10 @@ public:
 // Stands in for the user: gives the answers that the verb at hand has laid ready.
 class CliHost : public editing::EditorHost {
 public:
-    editing::PageSize Size;      // for the New dialog
-    std::filesystem::path File;  // for every file dialog
-    int GifThreshold = 130;      // for the GIF optimiser
-    int IconEntry = 0;           // for the next icon file
+    editing::PageSize Size;                          // for the New dialog
+    std::filesystem::path File;                      // for every file dialog
+    int GifThreshold = formats::kUsualGifThreshold;  // for the GIF optimiser
+    int IconEntry = 0;                               // for the next icon file
 
     // The first problem that a command has told, and none from then on.
     std::string TakeProblem();

@@ -12,8 +12,6 @@ using graphics::RoundToEven;
 
 namespace {
 
-constexpr int kSmoothLevel = 80;
-
 // 0 to 350 for the slider's 0 to 100.
 float HueOf(int slider) {
     return static_cast<float>(RoundToEven(slider * 3.5));
@@ -47,9 +45,7 @@ void Run(Bitmap& work, PixelFilter filter, const Controls& controls, int x, int 
         case PixelFilter::Saturation:
             return filters::SaturationColor(work, SaturationOf(controls.Saturation.Value));
         case PixelFilter::PencilEraser:
-            return filters::EraseColor(work, x, y, 0);
-        case PixelFilter::Smooth:
-            return filters::Smooth(work, kSmoothLevel);
+            return filters::EraseColor(work, x, y);
         case PixelFilter::Sharpen:
             return filters::Sharpen(work, filters::kSharpenLevel);
         case PixelFilter::BrushEraser:

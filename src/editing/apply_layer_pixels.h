@@ -10,9 +10,8 @@ enum class PixelFilter {
     BrightnessContrast = 1,  // by Brightness and Contrast, both at once
     Saturation = 2,          // by Saturation
     PencilEraser = 3,        // at (x, y)
-    Smooth = 4,              // no command asks for it
-    Sharpen = 5,
-    BrushEraser = 6,  // at (x, y), by BrushSize (size) and BrushOpacity (opacity)
+    Sharpen = 4,
+    BrushEraser = 5,  // at (x, y), by BrushSize (size) and BrushOpacity (opacity)
 };
 
 // Filters a copy of `source`, cut to the layer's ImageWidth x ImageHeight, and makes it the

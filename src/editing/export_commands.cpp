@@ -6,8 +6,8 @@
 
 namespace orbelle::editing {
 
-void Export(Editor& editor, const formats::ExportFormat& format) {
-    const std::filesystem::path path = editor.Host.ShowFileDialog(format.Filter, false);
+void Export(Editor& editor, formats::ExportFormat format, const std::string& filter) {
+    const std::filesystem::path path = editor.Host.ShowFileDialog(filter, false);
     if (path.empty())
         return;
     std::error_code ignored;
@@ -17,7 +17,7 @@ void Export(Editor& editor, const formats::ExportFormat& format) {
     }
     const graphics::Argb background = editor.Document.PageBackground;
     formats::ExportSettings settings = editor.ExportSettings;
-    if (format.FileType == formats::FileTypes::Gif && graphics::AlphaOf(background) == 0) {
+    if (format == formats::ExportFormat::Gif && graphics::AlphaOf(background) == 0) {
         const std::optional<int> threshold =
             editor.Host.AskGifThreshold(formats::DrawGifSurface(editor.Canvas, background));
         if (!threshold)
@@ -26,7 +26,7 @@ void Export(Editor& editor, const formats::ExportFormat& format) {
     }
     RunCommand(editor, [&] {
         try {
-            formats::ExportImage(path, format.FileType, editor.Canvas, background, settings);
+            formats::ExportImage(path, format, editor.Canvas, background, settings);
         } catch (const std::exception& failure) {
             editor.Host.ShowStatus(failure.what());
         }

@@ -26,19 +26,6 @@ TEST(GifPreview, PicturesAreCentredAndEachAxisIsLimitedOnItsOwn) {
         EXPECT_EQ(PreviewRect(Bitmap(width, height), boxWidth, boxHeight), place);
 }
 
-TEST(GifPreview, TheCheckerHasWholeSquaresOnly) {
-    Bitmap box(19, 12);
-    graphics::DrawingContext context(box);
-    context.SetPixelOffsetMode(graphics::PixelOffsetMode::HighQuality);
-    DrawPreviewChecker(context, 19, 12);
-    const std::vector<std::string> upper(5, ".....#####.........");
-    const std::vector<std::string> lower(5, "#####.....#####....");
-    std::vector<std::string> rows(upper);
-    rows.insert(rows.end(), lower.begin(), lower.end());
-    rows.resize(12, std::string(19, '.'));
-    EXPECT_TRUE(SamePixels(box, testing::PictureOf(rows, 0x14000000)));
-}
-
 TEST(GifPreview, DemoShowsTheGifOverTheBackdrop) {
     Bitmap surface(2, 2);
     surface.SetPixel(0, 0, 0x64FF0000);
