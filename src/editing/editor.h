@@ -58,6 +58,7 @@ struct EditorState {
     editing::Overlays Overlays;
     formats::ExportSettings ExportSettings;
     graphics::PointF LastPointer;  // the last move on the scene, scene pixels
+    editing::Drag Drag;
 
     // The page that is being edited.
     document::Page& Page() { return Document.Current(); }
@@ -72,7 +73,6 @@ struct Editor : EditorState {
     editing::Clipboard& Clipboard;
 
     document::UndoHistory History;
-    editing::Drag Drag;
     Changes Changed;  // by the command that runs
 
     // Kept by Run.
