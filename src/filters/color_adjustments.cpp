@@ -18,7 +18,7 @@ std::span<Argb> PixelsOf(graphics::Bitmap& image) {
     return {image.MutablePixels(), static_cast<std::size_t>(image.Width()) * image.Height()};
 }
 
-// The ends take one colour whole; between them the two deliberately make up 255 of 256.
+// The ends take one colour whole; between them the two make up 255 of 256 (docs/oddities.md).
 MixWeights WeightsOf(int t) {
     if (t == 0)
         return {256, 0};
