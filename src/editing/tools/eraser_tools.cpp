@@ -14,7 +14,7 @@ constexpr double kBrushSpacing = 20;
 using Eraser = void (*)(const Editor&, graphics::Bitmap&, int x, int y);
 
 void ErasePixel(const Editor&, graphics::Bitmap& image, int x, int y) {
-    filters::EraseColor(image, x, y, 0);
+    filters::EraseColor(image, x, y);
 }
 
 void EraseSpot(const Editor& editor, graphics::Bitmap& image, int x, int y) {
