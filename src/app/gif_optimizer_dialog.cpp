@@ -7,6 +7,7 @@
 
 #include "app/gif_preview.h"
 #include "app/settings.h"
+#include "app/shared_image.h"
 #include "formats/gif_palette.h"
 #include "graphics/checkerboard.h"
 #include "widgets/number_slider.h"
@@ -32,9 +33,7 @@ QPixmap PaintPreview(const Draw& draw) {
     context.Clear(kWhite);
     DrawCheckerboard(box, {0, 0, kWholeCells, kWholeCells}, kWhite, kChecker);
     draw(context);
-    return QPixmap::fromImage(QImage(reinterpret_cast<const uchar*>(box.Pixels()), kBox, kBox,
-                                     kBox * 4, QImage::Format_RGB32)
-                                  .copy());
+    return QPixmap::fromImage(SharedImage(box));
 }
 
 QLabel* AddPreview(QGridLayout& layout, int column, const char* caption) {
@@ -80,13 +79,13 @@ GifOptimizerDialog::GifOptimizerDialog(const graphics::Bitmap& surface, QWidget*
     row->setSpacing(12);
     layout->addLayout(row);
     auto* label = new QLabel("&Transparency Adjustment:");
-    Threshold = new widgets::NumberSlider;
-    Threshold->setObjectName("PageWidth");
-    Threshold->setAccessibleName("Transparency Adjustment");
-    Threshold->SetRange(0, kSliderEnd);
-    label->setBuddy(Threshold);
+    threshold_ = new widgets::NumberSlider;
+    threshold_->setObjectName("Threshold");
+    threshold_->setAccessibleName("Transparency Adjustment");
+    threshold_->SetRange(0, kSliderEnd);
+    label->setBuddy(threshold_);
     row->addWidget(label);
-    row->addWidget(Threshold);
+    row->addWidget(threshold_);
     row->addStretch();
 
     auto* hint = new QLabel(kHint);
@@ -98,17 +97,17 @@ GifOptimizerDialog::GifOptimizerDialog(const graphics::Bitmap& surface, QWidget*
     layout->addWidget(buttons);
     connect(buttons, &QDialogButtonBox::accepted, this, &GifOptimizerDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &GifOptimizerDialog::reject);
-    connect(Threshold, &widgets::NumberSlider::Changed, this, &GifOptimizerDialog::ShowResult);
+    connect(threshold_, &widgets::NumberSlider::Changed, this, &GifOptimizerDialog::ShowResult);
 
     // A stored 0 is taken for none.
     const int stored = Settings().value(kSetting).toInt();
-    Threshold->SetColorValue(stored == 0 ? formats::kUsualGifThreshold : stored);
+    threshold_->SetValue(stored == 0 ? formats::kUsualGifThreshold : stored);
     ShowResult();
-    Threshold->setFocus();
+    threshold_->setFocus();
 }
 
 int GifOptimizerDialog::OptimizeValue() const {
-    return std::clamp(Threshold->ColorValue(), 0, formats::kMaxGifThreshold);
+    return std::clamp(threshold_->Value(), 0, formats::kMaxGifThreshold);
 }
 
 void GifOptimizerDialog::done(int result) {

@@ -48,9 +48,4 @@ void IconImageStrip::Press(int x, int y, int stripHeight) {
     SelectedIndex = inStrip ? x / kCellWidth : -1;
 }
 
-graphics::Bitmap IconImageStrip::GetImage() const {
-    return SelectedIndex < 0 ? graphics::Bitmap()
-                             : Images[static_cast<std::size_t>(SelectedIndex)].Image;
-}
-
 }  // namespace orbelle::app

@@ -31,9 +31,6 @@ struct IconImageStrip {
 
     // Selects the image whose cell holds the point; none when no cell does.
     void Press(int x, int y, int stripHeight);
-
-    // The selected image; empty when none is.
-    graphics::Bitmap GetImage() const;
 };
 
 }  // namespace orbelle::app

@@ -10,9 +10,7 @@
 #include <cmath>
 
 #include "document/scene_painter.h"
-#include "editing/tools/object_keys.h"
 #include "widgets/artwork.h"
-#include "widgets/image_store.h"
 
 namespace orbelle::app {
 namespace {
@@ -110,7 +108,7 @@ void SceneView::ShowCursor() {
     static const QCursor pick = ToolCursor("cursors/pick", kPickSpot);
     static const QCursor erase = ToolCursor("cursors/erase", kEraseSpot);
     const QCursor* cursor = &line;
-    switch (editor_.CurrentTool) {
+    switch (editor_.Tools.InUse) {
         case Tool::Move:
             cursor = &move;
             break;
@@ -151,18 +149,18 @@ void SceneView::leaveEvent(QEvent*) {
 }
 
 void SceneView::keyPressEvent(QKeyEvent* event) {
-    namespace key_codes = editing::key_codes;
+    using editing::SceneKey;
     switch (event->key()) {
         case Qt::Key_Left:
-            return emit KeyPressed(key_codes::Left);
+            return emit KeyPressed(SceneKey::Left);
         case Qt::Key_Up:
-            return emit KeyPressed(key_codes::Up);
+            return emit KeyPressed(SceneKey::Up);
         case Qt::Key_Right:
-            return emit KeyPressed(key_codes::Right);
+            return emit KeyPressed(SceneKey::Right);
         case Qt::Key_Down:
-            return emit KeyPressed(key_codes::Down);
+            return emit KeyPressed(SceneKey::Down);
         case Qt::Key_Delete:
-            return emit KeyPressed(key_codes::Delete);
+            return emit KeyPressed(SceneKey::Delete);
         default:
             QWidget::keyPressEvent(event);
     }
@@ -182,7 +180,7 @@ void SceneView::paintEvent(QPaintEvent*) {
                        scene.Height(), scene.Width() * qsizetype{4}, QImage::Format_RGB32);
     painter.drawImage(0, 0, image);
 
-    const auto frame = document::ObjectFrame(editor_.Document, editor_.View);
+    const auto frame = document::ObjectFrame(editor_.Page(), editor_.View);
     if (frame && !editor_.Selection.Exists()) {
         painter.setPen(QPen(kFrameColor, 1, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
         painter.drawRect(
@@ -199,8 +197,10 @@ void SceneView::DrawWelcome(QPainter& painter) const {
     const int left = (width() - 280) / 2, top = (height() - 80) / 2;
     // The picture is there or it is not; only the texts fade.
     const double picture = std::round(std::round(welcome_ * 10.0 / kWelcomeStrongest) / 10);
-    static const widgets::ImageStore board("board");
-    board.Drawing(painter, QRect(left - 60, top - 30, 40, 40), picture);
+    painter.setOpacity(picture);
+    painter.drawPixmap(left - 60, top - 30,
+                       widgets::Artwork("board", {40, 40}, devicePixelRatioF()));
+    painter.setOpacity(1);
     QFont font("Verdana");
     font.setPointSizeF(11);
     font.setBold(true);

@@ -8,7 +8,7 @@
 class QPainter;
 
 #include "editing/editor.h"
-#include "editing/tools/tool_handlers.h"
+#include "editing/scene_input.h"
 
 namespace orbelle::app {
 
@@ -36,7 +36,7 @@ signals:
     void PointerMoved(const editing::Pointer& pointer);
     void PointerReleased(const editing::Pointer& pointer);
     void PointerLeft();
-    void KeyPressed(int keyCode);                 // see editing/tools/object_keys.h
+    void KeyPressed(editing::SceneKey key);
     void FilesDropped(const QStringList& files);  // local files, in the order given
     void PictureDropped(const QImage& picture);
 

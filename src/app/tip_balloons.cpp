@@ -9,14 +9,14 @@ constexpr int kOldest = 300;  // ticks
 
 }  // namespace
 
-TipBalloons::TipBalloons(editing::Editor& editor, QWidget& central, Placement placement)
+TipBalloons::TipBalloons(const editing::Editor& editor, QWidget& central, Placement placement)
     : editor_(editor),
       placement_(std::move(placement)),
       tips1_(new widgets::Balloon(&central)),
       tips2_(new widgets::Balloon(&central)) {
     tips1_->setObjectName("FirstBalloon");
     tips2_->setObjectName("SecondBalloon");
-    tips2_->SetDirection(1);
+    tips2_->SetPointsDown(true);
     for (widgets::Balloon* balloon : {tips1_, tips2_}) {
         balloon->hide();
         connect(balloon, &widgets::Balloon::Clicked, this, [this, balloon] {
@@ -24,14 +24,14 @@ TipBalloons::TipBalloons(editing::Editor& editor, QWidget& central, Placement pl
             emit BalloonClicked();
         });
     }
-    timer2_.setInterval(kTickMilliseconds);
-    connect(&timer2_, &QTimer::timeout, this, &TipBalloons::Grow);
+    aging_.setInterval(kTickMilliseconds);
+    connect(&aging_, &QTimer::timeout, this, &TipBalloons::Grow);
 }
 
 bool TipBalloons::Put(widgets::Balloon& balloon, const std::optional<editing::Tip>& tip) {
     if (!tip)
         return true;
-    balloon.SetTipString(QString::fromStdString(tip->Text));
+    balloon.SetText(QString::fromStdString(tip->Text));
     const std::optional<QPoint> place = placement_(tip->Place, balloon.size());
     if (!place)
         return false;
@@ -42,12 +42,13 @@ bool TipBalloons::Put(widgets::Balloon& balloon, const std::optional<editing::Ti
     return true;
 }
 
-void TipBalloons::ShowTips(int tip, bool showLayerTips) {
-    editor_.TipCounter = 0;
+void TipBalloons::Show(const editing::TipRequest& request) {
+    age_ = 0;
     if (!TipsEnabled)
         return;
     const int pick = std::uniform_int_distribution<int>(1, 2)(random_);
-    const editing::TipChoice choice = ChooseTips(editor_, tip, showLayerTips, pick);
+    const editing::TipChoice choice =
+        ChooseTips(editor_, request.Number, request.AboutLayers, pick);
     const bool seen1 = Put(*tips1_, choice.FirstBalloon);
     tips1_->setVisible(choice.FirstVisible && seen1);
     const bool seen2 = Put(*tips2_, choice.SecondBalloon);
@@ -55,14 +56,18 @@ void TipBalloons::ShowTips(int tip, bool showLayerTips) {
         tips2_->setVisible(*choice.SecondVisible && seen2);
     for (widgets::Balloon* balloon : {tips1_, tips2_})
         balloon->raise();
-    timer2_.start();
+    aging_.start();
 }
 
 void TipBalloons::HideFirst() {
     if (tips1_->isHidden())
         return;
     tips1_->hide();
-    timer2_.stop();
+    aging_.stop();
+}
+
+void TipBalloons::Expire() {
+    age_ = kOldest;
 }
 
 void TipBalloons::HideAll() {
@@ -71,15 +76,15 @@ void TipBalloons::HideAll() {
 }
 
 void TipBalloons::Stop() {
-    timer2_.stop();
+    aging_.stop();
 }
 
 void TipBalloons::Grow() {
-    if (++editor_.TipCounter <= kOldest)
+    if (++age_ <= kOldest)
         return;
-    editor_.TipCounter = 0;
+    age_ = 0;
     HideAll();
-    timer2_.stop();
+    aging_.stop();
 }
 
 }  // namespace orbelle::app

@@ -48,18 +48,19 @@ Json Layer(const document::IconLayer& layer) {
 
 std::string DescribeDocument(const editing::Editor& editor) {
     const document::Document& document = editor.Document;
+    const document::Page& page = editor.Page();
     Json layers = Json::array();
-    for (const document::IconLayer& layer : document.Layers)
+    for (const document::IconLayer& layer : page.Layers)
         layers.push_back(Layer(layer));
     const Json selection =
         editor.Selection.Exists() ? Rect(editor.Selection.Region().Bounds()) : Json();
     const Json json = {{"page",
-                        {{"width", document.PageWidth},
-                         {"height", document.PageHeight},
-                         {"background", Color(document.PageBackground)}}},
-                       {"path", document.DocumentPath.string()},
+                        {{"width", page.Width},
+                         {"height", page.Height},
+                         {"background", Color(document.Background)}}},
+                       {"path", document.Path.string()},
                        {"modified", document.Modified},
-                       {"selected", document.SelectedLayer},
+                       {"selected", page.SelectedLayer},
                        {"undo", editor.History.UndoIndex()},
                        {"redo", editor.History.RedoCount()},
                        {"selection", selection},

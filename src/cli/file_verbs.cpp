@@ -1,14 +1,17 @@
 // The File menu, the settings of exports, and putting an icon together from files.
+#include <utility>
+
 #include "cli/verb_table.h"
 #include "editing/document_commands.h"
 #include "editing/export_commands.h"
-#include "editing/menu_state.h"
 #include "formats/icon_file.h"
 
 namespace orbelle::cli {
 namespace {
 
 namespace fs = std::filesystem;
+
+using editing::Editor;
 
 constexpr std::string_view kIconFormatNames[] = {"bmp", "png256", "png"};
 constexpr formats::IconFormat kIconFormats[] = {
@@ -17,9 +20,9 @@ constexpr formats::IconFormat kIconFormats[] = {
 // Far more than an icon is good for, and what memory holds.
 constexpr std::size_t kMaxIconSizes = 256;
 
-void RequireEntry(const Workspace& workspace, const editing::MenuEntry& entry) {
+void RequireLayers(const Workspace& workspace, editing::CommandId command) {
     RequireDocument(workspace);
-    if (!entry.Enabled)
+    if (!workspace.Editor.States.IsEnabled(command))
         throw Failure("the document has no layer");
 }
 
@@ -27,31 +30,32 @@ Action ReadNew(Words& words) {
     const int width = words.Integer("W");
     const int height = words.Integer("H");
     return [=](Workspace& workspace) {
-        workspace.Host.Size = {width, height};
-        editing::New(workspace.Editor);
+        workspace.Run([=](Editor& editor) { NewDocument(editor, width, height); });
     };
 }
 
+// Which image of the file is wanted; the next icon file begins with the first again.
+int TakeIconImage(Workspace& workspace, const fs::path& path) {
+    return editing::IsIconName(path) ? std::exchange(workspace.IconImage, 0) : 0;
+}
+
 void Open(Workspace& workspace, const fs::path& path) {
-    workspace.Host.File = path;
-    editing::Open(workspace.Editor);
+    const int image = TakeIconImage(workspace, path);
+    workspace.Run([&](Editor& editor) { OpenFile(editor, path, image); });
 }
 
 void Import(Workspace& workspace, const fs::path& path) {
-    workspace.Host.File = path;
-    editing::Import(workspace.Editor);
+    const int image = TakeIconImage(workspace, path);
+    workspace.Run([&](Editor& editor) { ImportFile(editor, path, image); });
 }
 
 Action ReadIconEntry(Words& words) {
-    return
-        [entry = words.Integer("K", 0)](Workspace& workspace) { workspace.Host.IconEntry = entry; };
+    return [image = words.Integer("K", 0)](Workspace& workspace) { workspace.IconImage = image; };
 }
 
 void Save(Workspace& workspace, const fs::path& path) {
-    editing::OpenFileMenu(workspace.Editor);
-    RequireEntry(workspace, workspace.Editor.Controls.menu_SaveAs);
-    workspace.Host.File = path;
-    editing::SaveAs(workspace.Editor);
+    RequireLayers(workspace, editing::CommandId::SaveAs);
+    workspace.Run([&](Editor& editor) { SaveTo(editor, path); });
 }
 
 Action ReadExport(Words& words) {
@@ -60,10 +64,8 @@ Action ReadExport(Words& words) {
     if (!format)
         throw UsageError("PATH must end in .ico, .png, .gif, .jpg, .jpeg or .bmp");
     return [=](Workspace& workspace) {
-        editing::OpenFileMenu(workspace.Editor);
-        RequireEntry(workspace, workspace.Editor.Controls.m_Export);
-        workspace.Host.File = path;
-        editing::Export(workspace.Editor, *format, "");
+        RequireLayers(workspace, editing::CommandId::Export);
+        workspace.Run([&](Editor& editor) { ExportTo(editor, path, *format); });
     };
 }
 
@@ -92,7 +94,7 @@ Action ReadIconFormat(Words& words) {
 
 Action ReadGifThreshold(Words& words) {
     return [threshold = words.Integer("T", 0, formats::kMaxGifThreshold)](Workspace& workspace) {
-        workspace.Host.GifThreshold = threshold;
+        workspace.Editor.ExportSettings.GifThreshold = threshold;
     };
 }
 

@@ -1,84 +1,79 @@
 // Layers, their styles, undo and redo.
 #include "cli/verb_table.h"
 #include "editing/adjust_sliders.h"
+#include "editing/layer_bar.h"
 #include "editing/layer_commands.h"
-#include "editing/menu_state.h"
 #include "editing/style_commands.h"
 #include "editing/undo_commands.h"
 
 namespace orbelle::cli {
 namespace {
 
-namespace main_buttons = editing::main_buttons;
-namespace layer_buttons = editing::layer_buttons;
-
-using editing::Controls;
+using editing::CommandId;
 using editing::Editor;
+using editing::Sliders;
 
 struct Style {
     std::string_view Name;
-    editing::MenuEntry Controls::*Entry;
+    CommandId Command;
     void (*Run)(Editor&);
 };
 
 // By the names of the command line, in the order of the Style menu.
 constexpr Style kStyles[] = {
-    {"disabled", &Controls::m_Disabled, editing::DisabledState},
-    {"hot", &Controls::m_Hot, editing::HotState},
-    {"fresh", &Controls::m_freshstyle, editing::Fresh},
-    {"ios", &Controls::m_iosstyle, editing::iOS},
-    {"origami-vertical", &Controls::m_origamistyle,
+    {"disabled", CommandId::DisabledState, editing::DisabledState},
+    {"hot", CommandId::HotState, editing::HotState},
+    {"fresh", CommandId::Fresh, editing::Fresh},
+    {"ios", CommandId::Ios, editing::Ios},
+    {"origami-vertical", CommandId::Origami,
      [](Editor& editor) { Origami(editor, filters::Fold::Vertical); }},
-    {"origami-horizontal", &Controls::m_origamistyle,
+    {"origami-horizontal", CommandId::Origami,
      [](Editor& editor) { Origami(editor, filters::Fold::Horizontal); }},
-    {"mac", &Controls::m_Macstyle, editing::Mac},
-    {"vista", &Controls::m_Vistastyle, editing::Vista},
-    {"crystal", &Controls::m_Crystal, editing::Crystal},
-    {"blur", &Controls::m_Blur, editing::Blur},
-    {"sharpen", &Controls::m_Sharpen, editing::Sharpen},
-    {"irradiation", &Controls::m_Irradiation, editing::Irradiation},
-    {"shade", &Controls::m_Shade, editing::Shade},
-    {"reflection", &Controls::m_Reflection, editing::Reflection},
-    {"shadow", &Controls::m_Shadow, editing::DropShadow},
+    {"mac", CommandId::Mac, editing::Mac},
+    {"vista", CommandId::Vista, editing::Vista},
+    {"crystal", CommandId::Crystal, editing::Crystal},
+    {"blur", CommandId::Blur, editing::Blur},
+    {"sharpen", CommandId::Sharpen, editing::Sharpen},
+    {"irradiation", CommandId::Irradiation, editing::Irradiation},
+    {"shade", CommandId::Shade, editing::Shade},
+    {"reflection", CommandId::Reflection, editing::Reflection},
+    {"shadow", CommandId::DropShadow, editing::DropShadow},
 };
 
 Action ReadSelect(Words& words) {
     return [layer = words.Integer("N", 0)](Workspace& workspace) {
         RequireLayer(workspace, layer);
-        editing::SelectLayer(workspace.Editor, layer);
+        workspace.Run([=](Editor& editor) { SelectLayer(editor, layer); });
     };
 }
 
 void AddLayer(Workspace& workspace) {
-    if (!workspace.Editor.Controls.LayerBar[layer_buttons::Add].Enabled)
-        throw Failure("there is no document");
-    editing::AddLayerCommand(workspace.Editor);
+    RequireDocument(workspace);
+    workspace.Run(editing::PressAddLayer);
 }
 
 // A slider, and the three parts of a drag.
 struct SliderDrag {
-    editing::Slider Controls::*Slider;
+    editing::Slider Sliders::*Slider;
     void (*Press)(Editor&);
     void (*Change)(Editor&, int value);
     void (*Release)(Editor&);
 };
 
 Action ReadDrag(Words& words, const SliderDrag& drag) {
-    return [values = words.Integers("V", 0, 100), drag](Workspace& workspace) {
-        Editor& editor = workspace.Editor;
-        if (!(editor.Controls.*drag.Slider).Enabled) {
+    const editing::Slider range = Sliders().*drag.Slider;
+    return
+        [values = words.Integers("V", range.Minimum, range.Maximum), drag](Workspace& workspace) {
             RequireSelectedLayer(workspace);
-            throw Failure("the slider is disabled");
-        }
-        drag.Press(editor);
-        for (const int value : values)
-            drag.Change(editor, value);
-        drag.Release(editor);
-    };
+            workspace.Run(drag.Press);
+            for (const int value : values)
+                workspace.RunDuringDrag([&](Editor& editor) { drag.Change(editor, value); });
+            workspace.RunDuringDrag(drag.Release);
+        };
 }
 
 template <editing::Adjustment kAdjustment>
-Action ReadAdjustment(Words& words, editing::Slider Controls::*slider) {
+Action ReadAdjustment(Words& words, editing::Slider Sliders::*slider) {
     return ReadDrag(
         words, {slider, editing::PressAdjustment,
                 [](Editor& editor, int value) { ChangeAdjustment(editor, kAdjustment, value); },
@@ -86,53 +81,51 @@ Action ReadAdjustment(Words& words, editing::Slider Controls::*slider) {
 }
 
 Action ReadOpacity(Words& words) {
-    return ReadDrag(words, {&Controls::Opacity, editing::PressOpacity, editing::ChangeOpacity,
+    return ReadDrag(words, {&Sliders::Opacity, editing::PressOpacity, editing::ChangeOpacity,
                             editing::ReleaseOpacity});
 }
 
 Action ReadScale(Words& words) {
-    return ReadDrag(words, {&Controls::Scale, editing::PressScale, editing::ChangeScale,
-                            editing::ReleaseScale});
+    return ReadDrag(
+        words, {&Sliders::Scale, editing::PressScale, editing::ChangeScale, editing::ReleaseScale});
 }
 
 Action ReadHue(Words& words) {
-    return ReadAdjustment<editing::Adjustment::Hue>(words, &Controls::Hue);
+    return ReadAdjustment<editing::Adjustment::Hue>(words, &Sliders::Hue);
 }
 
 Action ReadSaturation(Words& words) {
-    return ReadAdjustment<editing::Adjustment::Saturation>(words, &Controls::Saturation);
+    return ReadAdjustment<editing::Adjustment::Saturation>(words, &Sliders::Saturation);
 }
 
 Action ReadBrightness(Words& words) {
-    return ReadAdjustment<editing::Adjustment::Brightness>(words, &Controls::Brightness);
+    return ReadAdjustment<editing::Adjustment::Brightness>(words, &Sliders::Brightness);
 }
 
 Action ReadContrast(Words& words) {
-    return ReadAdjustment<editing::Adjustment::Contrast>(words, &Controls::Contrast);
+    return ReadAdjustment<editing::Adjustment::Contrast>(words, &Sliders::Contrast);
 }
 
 Action ReadStyle(Words& words) {
     return [&style = words.Entry("NAME", kStyles)](Workspace& workspace) {
-        Editor& editor = workspace.Editor;
-        editing::OpenStyleMenu(editor);
-        if (!(editor.Controls.*style.Entry).Enabled) {
+        if (!workspace.Editor.States.IsEnabled(style.Command)) {
             RequireSelectedLayer(workspace);
             throw Failure("the selected layer is hidden");
         }
-        style.Run(editor);
+        workspace.Run(style.Run);
     };
 }
 
 void Undo(Workspace& workspace) {
-    if (!workspace.Editor.Controls.MainBar[main_buttons::Undo].Enabled)
+    if (!workspace.Editor.States.IsEnabled(CommandId::Undo))
         throw Failure("there is nothing to undo");
-    editing::Undo(workspace.Editor);
+    workspace.Run(editing::Undo);
 }
 
 void Redo(Workspace& workspace) {
-    if (!workspace.Editor.Controls.MainBar[main_buttons::Redo].Enabled)
+    if (!workspace.Editor.States.IsEnabled(CommandId::Redo))
         throw Failure("there is nothing to redo");
-    editing::Redo(workspace.Editor);
+    workspace.Run(editing::Redo);
 }
 
 constexpr Verb kVerbs[] = {

@@ -11,11 +11,11 @@ Action ReadPage(Words& words) {
     const int width = words.Integer("W");
     const int height = words.Integer("H");
     return [=](Workspace& workspace) {
-        const editing::Controls& controls = workspace.Editor.Controls;
-        if (!controls.PageWidth.Enabled || !controls.PageHeight.Enabled)
-            throw Failure("there is no document");
-        editing::ChangePageWidth(workspace.Editor, width);
-        editing::ChangePageHeight(workspace.Editor, height);
+        RequireDocument(workspace);
+        workspace.Run([=](editing::Editor& editor) {
+            ChangePageWidth(editor, width);
+            ChangePageHeight(editor, height);
+        });
     };
 }
 
@@ -27,7 +27,7 @@ Action ReadBackground(Words& words) {
         color = words.Color("COLOUR");
     return [=](Workspace& workspace) {
         RequireDocument(workspace);
-        editing::SetPageBackground(workspace.Editor, color);
+        workspace.Run([=](editing::Editor& editor) { SetPageBackground(editor, color); });
     };
 }
 

@@ -2,7 +2,6 @@
 #include "cli/verb_table.h"
 #include "document/view.h"
 #include "editing/scene_input.h"
-#include "editing/tools/object_keys.h"
 
 namespace orbelle::cli {
 namespace {
@@ -12,9 +11,9 @@ constexpr int kRightButton = 2;
 constexpr int kShift = 1;
 
 constexpr std::string_view kKeys[] = {"left", "right", "up", "down", "delete"};
-constexpr int kKeyCodes[] = {
-    editing::key_codes::Left, editing::key_codes::Right,  editing::key_codes::Up,
-    editing::key_codes::Down, editing::key_codes::Delete,
+constexpr editing::SceneKey kSceneKeys[] = {
+    editing::SceneKey::Left, editing::SceneKey::Right,  editing::SceneKey::Up,
+    editing::SceneKey::Down, editing::SceneKey::Delete,
 };
 
 struct PagePixel {
@@ -33,8 +32,8 @@ editing::Pointer At(const editing::Editor& editor, PagePixel pixel, int button, 
     const auto scene = [&view](double pageOffset, int place) {
         return static_cast<float>(pageOffset + (place + 0.5) * view.Zoom);
     };
-    return {button, shift, scene(document::PageOffsetX(editor.Document, view), pixel.X),
-            scene(document::PageOffsetY(editor.Document, view), pixel.Y)};
+    return {button, shift, scene(document::PageOffsetX(editor.Page(), view), pixel.X),
+            scene(document::PageOffsetY(editor.Page(), view), pixel.Y)};
 }
 
 // The pointer goes to the first pixel, is pressed there, passes the others and is released on the
@@ -42,13 +41,16 @@ editing::Pointer At(const editing::Editor& editor, PagePixel pixel, int button, 
 void Gesture(Workspace& workspace, std::span<const PagePixel> pixels, int button, int shift) {
     RequireDocument(workspace);
     const WindowView view(workspace);
-    editing::Editor& editor = workspace.Editor;
-    const auto at = [&](PagePixel pixel) { return At(editor, pixel, button, shift); };
-    MoveScene(editor, at(pixels.front()));
-    PressScene(editor, at(pixels.front()));
+    const auto at = [&](PagePixel pixel) { return At(workspace.Editor, pixel, button, shift); };
+    const auto moveTo = [&](PagePixel pixel) {
+        workspace.RunDuringDrag([&](editing::Editor& editor) { MoveScene(editor, at(pixel)); });
+    };
+    moveTo(pixels.front());
+    workspace.Run([&](editing::Editor& editor) { PressScene(editor, at(pixels.front())); });
     for (const PagePixel& pixel : pixels.subspan(1))
-        MoveScene(editor, at(pixel));
-    ReleaseScene(editor, at(pixels.back()));
+        moveTo(pixel);
+    workspace.RunDuringDrag(
+        [&](editing::Editor& editor) { ReleaseScene(editor, at(pixels.back())); });
 }
 
 template <int kShiftState>
@@ -68,10 +70,10 @@ Action ReadClick(Words& words) {
 }
 
 Action ReadKey(Words& words) {
-    return [key = kKeyCodes[words.Choice("KEY", kKeys)]](Workspace& workspace) {
+    return [key = kSceneKeys[words.Choice("KEY", kKeys)]](Workspace& workspace) {
         RequireDocument(workspace);
         const WindowView view(workspace);
-        KeyDownScene(workspace.Editor, key);
+        workspace.Run([=](editing::Editor& editor) { KeyDownScene(editor, key); });
     };
 }
 

@@ -3,7 +3,6 @@
 
 #include "cli/document_json.h"
 #include "cli/verb_table.h"
-#include "editing/view_commands.h"
 #include "graphics/codecs/image_files.h"
 #include "graphics/file_io.h"
 
@@ -74,7 +73,7 @@ void WritePage(Workspace& workspace, const std::filesystem::path& path) {
 void WriteScene(Workspace& workspace, const std::filesystem::path& path) {
     RequireDocument(workspace);
     const WindowView view(workspace);
-    editing::DrawScene(workspace.Editor);
+    workspace.RunDuringDrag([](editing::Editor& editor) { editor.Changed.Scene = true; });
     WritePng(workspace.Editor.Scene, path);
 }
 

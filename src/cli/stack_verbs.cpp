@@ -1,85 +1,77 @@
 // The Edit menu on the layer stack and the clipboard, and Hide Layer.
 #include "cli/verb_table.h"
 #include "editing/clipboard_commands.h"
-#include "editing/menu_state.h"
+#include "editing/layer_bar.h"
 #include "editing/stack_commands.h"
 
 namespace orbelle::cli {
 namespace {
 
-using editing::Controls;
+using editing::CommandId;
 using editing::Editor;
 using editing::FlipRotate;
 using editing::LayerOrder;
 
-using Entry = editing::MenuEntry Controls::*;
-
-bool IsEnabled(Workspace& workspace, Entry entry) {
-    editing::OpenEditMenu(workspace.Editor);
-    return (workspace.Editor.Controls.*entry).Enabled;
+bool IsEnabled(const Workspace& workspace, CommandId command) {
+    return workspace.Editor.States.IsEnabled(command);
 }
 
 void RequireVisibleLayer(const Workspace& workspace) {
     RequireSelectedLayer(workspace);
-    if (!workspace.Editor.Document.Selected().Visible)
+    if (!workspace.Editor.Page().Selected().Visible)
         throw Failure("the selected layer is hidden");
 }
 
-// For the entries that wait for a visible layer that clips no other. Only those of the order may be
-// disabled besides.
-void RequireEntry(Workspace& workspace, Entry entry) {
-    if (IsEnabled(workspace, entry))
+// For the commands that wait for a visible layer that clips no other. Only those of the order may
+// be disabled besides.
+void RequireEnabled(const Workspace& workspace, CommandId command) {
+    if (IsEnabled(workspace, command))
         return;
     RequireVisibleLayer(workspace);
-    throw Failure(workspace.Editor.Document.Selected().ClipNextLayer
+    throw Failure(workspace.Editor.Page().Selected().ClipNextLayer
                       ? "the selected layer clips the one above it"
                       : "the selected layer is there already");
 }
 
-template <Entry kEntry, void (*kCommand)(Editor&)>
-void RunEntry(Workspace& workspace) {
-    RequireEntry(workspace, kEntry);
-    kCommand(workspace.Editor);
+template <CommandId kId, void (*kCommand)(Editor&)>
+void RunEnabled(Workspace& workspace) {
+    RequireEnabled(workspace, kId);
+    workspace.Run(kCommand);
 }
 
 void ToggleVisible(Workspace& workspace) {
-    if (!workspace.Editor.Controls.LayerBar[editing::layer_buttons::Hide].Enabled) {
-        RequireDocument(workspace);
-        throw Failure("no layer is selected");
-    }
-    editing::HideLayerCommand(workspace.Editor);
+    RequireSelectedLayer(workspace);
+    workspace.Run(editing::PressHideLayer);
 }
 
 void Merge(Workspace& workspace) {
-    if (!IsEnabled(workspace, &Controls::menu_Merge)) {
+    if (!IsEnabled(workspace, CommandId::MergeDown)) {
         RequireVisibleLayer(workspace);
-        throw Failure(workspace.Editor.Document.SelectedLayer == 0
-                          ? "there is no layer below the selected one"
-                          : "the layer below the selected one is hidden");
+        throw Failure("there is no layer below the selected one");
     }
-    editing::CombineIcon(workspace.Editor);
+    workspace.Run(editing::MergeDown);
 }
 
 void Paste(Workspace& workspace) {
-    if (!IsEnabled(workspace, &Controls::m_Paste)) {
+    if (!IsEnabled(workspace, CommandId::Paste)) {
         RequireDocument(workspace);
         throw Failure("the clipboard holds no picture");
     }
-    editing::PasteFromClipboard(workspace.Editor);
+    workspace.Run(editing::PasteFromClipboard);
 }
 
 Action ReadOrder(Words& words) {
     static constexpr struct {
         std::string_view Name;
-        Entry State;
+        CommandId Command;
         LayerOrder Order;
-    } kOrders[] = {{"front", &Controls::m_ToFront, LayerOrder::ToFront},
-                   {"back", &Controls::m_ToBack, LayerOrder::ToBack},
-                   {"forward", &Controls::m_FowardOne, LayerOrder::FowardOne},
-                   {"backward", &Controls::m_BackOne, LayerOrder::BackOne}};
+    } kOrders[] = {{"front", CommandId::ToFront, LayerOrder::ToFront},
+                   {"back", CommandId::ToBack, LayerOrder::ToBack},
+                   {"forward", CommandId::ForwardOne, LayerOrder::ForwardOne},
+                   {"backward", CommandId::BackOne, LayerOrder::BackOne}};
     return [&order = words.Entry("ORDER", kOrders)](Workspace& workspace) {
-        RequireEntry(workspace, order.State);
-        editing::SetLayerOrder(workspace.Editor, order.Order);
+        RequireEnabled(workspace, order.Command);
+        workspace.Run([&](Editor& editor) { SetLayerOrder(editor, order.Order); });
     };
 }
 
@@ -91,29 +83,30 @@ void FlipRotateSelected(Editor& editor) {
 Action ReadFlip(Words& words) {
     static constexpr std::string_view kNames[] = {"horizontal", "vertical"};
     return words.Choice("DIRECTION", kNames) == 0
-               ? RunEntry<&Controls::menu_FlipH, FlipRotateSelected<FlipRotate::FlipH>>
-               : RunEntry<&Controls::menu_FlipV, FlipRotateSelected<FlipRotate::FlipV>>;
+               ? RunEnabled<CommandId::FlipHorizontal,
+                            FlipRotateSelected<FlipRotate::FlipHorizontal>>
+               : RunEnabled<CommandId::FlipVertical, FlipRotateSelected<FlipRotate::FlipVertical>>;
 }
 
 Action ReadRotate(Words& words) {
     static constexpr std::string_view kNames[] = {"cw", "cww"};
     return words.Choice("DIRECTION", kNames) == 0
-               ? RunEntry<&Controls::m_90CW, FlipRotateSelected<FlipRotate::Rotate90CW>>
-               : RunEntry<&Controls::m_90CWW, FlipRotateSelected<FlipRotate::Rotate90CWW>>;
+               ? RunEnabled<CommandId::Rotate90Cw, FlipRotateSelected<FlipRotate::Rotate90Cw>>
+               : RunEnabled<CommandId::Rotate90Cww, FlipRotateSelected<FlipRotate::Rotate90Cww>>;
 }
 
 constexpr Verb kVerbs[] = {
     {"delete", "", "the selection if there is one, else the selected layer",
-     ReadNothing<RunEntry<&Controls::m_Del, editing::DeleteCommand>>},
+     ReadNothing<RunEnabled<CommandId::Delete, editing::DeleteSelected>>},
     {"toggle-visible", "", "hide or show the selected layer", ReadNothing<ToggleVisible>},
     {"merge", "", "the selected layer and the one below it become one", ReadNothing<Merge>},
     {"order", "front|back|forward|backward", "move the selected layer in the stack", ReadOrder},
     {"flip", "horizontal|vertical", "mirror the selected layer's picture", ReadFlip},
     {"rotate", "cw|cww", "turn the selected layer's picture; cww mirrors it too", ReadRotate},
     {"cut", "", "the selection or the selected layer to the clipboard, and delete it",
-     ReadNothing<RunEntry<&Controls::m_Cut, editing::CutToClipboard>>},
+     ReadNothing<RunEnabled<CommandId::Cut, editing::CutToClipboard>>},
     {"copy", "", "the selection or the selected layer to the clipboard",
-     ReadNothing<RunEntry<&Controls::m_Copy, editing::CopyToClipboard>>},
+     ReadNothing<RunEnabled<CommandId::Copy, editing::CopyToClipboard>>},
     {"paste", "", "what was cut or copied as a new layer", ReadNothing<Paste>},
 };
 

@@ -1,100 +1,102 @@
 // The tools, what they draw with, and the colours in use.
 #include "cli/verb_table.h"
+#include "editing/buttons.h"
 #include "editing/color_wells.h"
 #include "editing/tool_palette.h"
 
 namespace orbelle::cli {
 namespace {
 
-namespace tool_buttons = editing::tool_buttons;
-namespace selection_buttons = editing::selection_buttons;
-namespace eraser_buttons = editing::eraser_buttons;
-
 using editing::Editor;
-
-constexpr int kMaxLineWidth = 255;
-constexpr int kMaxBrush = 100;
+using editing::Sliders;
+using editing::Tool;
 
 constexpr std::string_view kWells[] = {"foreground", "background"};
 constexpr std::string_view kFills[] = {"solid", "horizontal", "vertical", "radial"};
 
-// A button of the tool column, and one of the pop-up that it opens.
 struct ToolName {
     std::string_view Name;
-    int Button;
-    void (*Choose)(Editor&, int button) = nullptr;
-    int PopupButton = 0;
+    Tool Chosen;
 };
 
 constexpr ToolName kTools[] = {
-    {"move", tool_buttons::Move},
-    {"pencil", tool_buttons::Pencil},
-    {"line", tool_buttons::Line},
-    {"rectangle", tool_buttons::Rectangle},
-    {"ellipse", tool_buttons::Ellipse},
-    {"filled-rectangle", tool_buttons::FilledRectangle},
-    {"filled-ellipse", tool_buttons::FilledEllipse},
-    {"pick", tool_buttons::ColorPick},
-    {"pencil-eraser", tool_buttons::Eraser, editing::ChooseEraser, eraser_buttons::Pencil},
-    {"brush-eraser", tool_buttons::Eraser, editing::ChooseEraser, eraser_buttons::Brush},
-    {"select-rectangle", tool_buttons::Selection, editing::ChooseSelection,
-     selection_buttons::Rectangle},
-    {"select-ellipse", tool_buttons::Selection, editing::ChooseSelection,
-     selection_buttons::Ellipse},
-    {"select-polygon", tool_buttons::Selection, editing::ChooseSelection,
-     selection_buttons::Polygon},
+    {"move", Tool::Move},
+    {"pencil", Tool::Pencil},
+    {"line", Tool::Line},
+    {"rectangle", Tool::Rectangle},
+    {"ellipse", Tool::Ellipse},
+    {"filled-rectangle", Tool::FilledRectangle},
+    {"filled-ellipse", Tool::FilledEllipse},
+    {"pick", Tool::ColorPick},
+    {"pencil-eraser", Tool::PencilEraser},
+    {"brush-eraser", Tool::BrushEraser},
+    {"select-rectangle", Tool::SelectRectangle},
+    {"select-ellipse", Tool::SelectEllipse},
+    {"select-polygon", Tool::SelectPolygon},
 };
 
 template <int kWell>
 Action ReadWellColor(Words& words) {
     return [color = words.Color("COLOUR")](Workspace& workspace) {
-        editing::SetWellColor(workspace.Editor, kWell, color);
+        workspace.Run([=](Editor& editor) { SetWellColor(editor, kWell, color); });
     };
 }
 
 Action ReadActive(Words& words) {
     return [well = static_cast<int>(words.Choice("WELL", kWells))](Workspace& workspace) {
-        editing::UseColorWell(workspace.Editor, well);
+        workspace.Run([=](Editor& editor) { UseColorWell(editor, well); });
     };
 }
 
-Action ReadSwap(Words&) {
-    return [](Workspace& workspace) { editing::ExchangeColor(workspace.Editor); };
+void Swap(Workspace& workspace) {
+    workspace.Run(editing::ExchangeColor);
 }
 
 Action ReadFill(Words& words) {
     const auto kind = static_cast<editing::FillKind>(words.Choice("KIND", kFills));
-    return [kind](Workspace& workspace) { editing::ChooseFill(workspace.Editor, kind); };
+    return [=](Workspace& workspace) {
+        workspace.Run([=](Editor& editor) { ChooseFill(editor, kind); });
+    };
+}
+
+// A number within the range of a slider.
+Action ReadSlider(Words& words, editing::Slider Sliders::*slider,
+                  void (*change)(Editor&, int value)) {
+    const editing::Slider range = Sliders().*slider;
+    return [=, value = words.Integer("N", range.Minimum, range.Maximum)](Workspace& workspace) {
+        if (!(workspace.Editor.Sliders.*slider).Enabled)
+            throw Failure("the tool in use has no line width");
+        workspace.Run([=](Editor& editor) { change(editor, value); });
+    };
 }
 
 Action ReadLineWidth(Words& words) {
-    return [width = words.Integer("N", 1, kMaxLineWidth)](Workspace& workspace) {
-        if (!workspace.Editor.Controls.LineWidth.Enabled)
-            throw Failure("the tool in use has no line width");
-        editing::ChangeLineWidth(workspace.Editor, width);
-    };
+    return ReadSlider(words, &Sliders::LineWidth, editing::ChangeLineWidth);
 }
 
 Action ReadBrushSize(Words& words) {
-    return [size = words.Integer("N", 1, kMaxBrush)](Workspace& workspace) {
-        editing::ChangeBrushSize(workspace.Editor, size);
-    };
+    return ReadSlider(words, &Sliders::BrushSize, editing::ChangeBrushSize);
 }
 
 Action ReadBrushOpacity(Words& words) {
-    return [opacity = words.Integer("N", 1, kMaxBrush)](Workspace& workspace) {
-        editing::ChangeBrushOpacity(workspace.Editor, opacity);
-    };
+    return ReadSlider(words, &Sliders::BrushOpacity, editing::ChangeBrushOpacity);
+}
+
+// A click in the tool box, and one in the pop-up that it opens.
+void ChooseTool(Editor& editor, Tool tool) {
+    ClickToolButton(editor, editing::ButtonOf(tool));
+    if (editing::IsSelectionTool(tool))
+        ChooseSelection(editor, tool);
+    else if (editing::IsEraser(tool))
+        ChooseEraser(editor, tool);
 }
 
 Action ReadTool(Words& words) {
-    return [&tool = words.Entry("NAME", kTools)](Workspace& workspace) {
-        Editor& editor = workspace.Editor;
-        if (!editor.Controls.ToolBox[static_cast<std::size_t>(tool.Button)].Enabled)
+    return [tool = words.Entry("NAME", kTools).Chosen](Workspace& workspace) {
+        if (tool != Tool::Move &&
+            !workspace.Editor.States.IsEnabled(editing::CommandId::ChooseTool))
             throw Failure("there is no document");
-        editing::ClickToolButton(editor, tool.Button);
-        if (tool.Choose)
-            tool.Choose(editor, tool.PopupButton);
+        workspace.Run([=](Editor& editor) { ChooseTool(editor, tool); });
     };
 }
 
@@ -102,7 +104,7 @@ constexpr Verb kVerbs[] = {
     {"foreground", "COLOUR", "the foreground colour: #RRGGBB or #AARRGGBB", ReadWellColor<0>},
     {"background-colour", "COLOUR", "the background colour", ReadWellColor<1>},
     {"active", "foreground|background", "the colour in use", ReadActive},
-    {"swap", "", "exchange the two colours", ReadSwap},
+    {"swap", "", "exchange the two colours", ReadNothing<Swap>},
     {"fill", "KIND", "solid horizontal vertical radial", ReadFill},
     {"line-width", "N", "the width of lines and outlines (1 to 255)", ReadLineWidth},
     {"brush-size", "N", "the size of the brush eraser (1 to 100)", ReadBrushSize},

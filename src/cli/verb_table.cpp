@@ -73,7 +73,6 @@ void RunCalls(std::span<const Call> calls, Workspace& workspace) {
         std::string problem;
         try {
             call.Run(workspace);
-            problem = workspace.Host.TakeProblem();
         } catch (const std::bad_alloc&) {
             problem = "there is not enough memory";
         } catch (const std::exception& error) {

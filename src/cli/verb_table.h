@@ -13,7 +13,7 @@
 
 namespace orbelle::cli {
 
-// What a verb does once its arguments are known. Throws on failure or leaves word with the host.
+// What a verb does once its arguments are known. Throws on failure.
 using Action = std::function<void(Workspace&)>;
 
 struct Verb {

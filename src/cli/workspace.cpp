@@ -1,43 +1,36 @@
 #include "cli/workspace.h"
 
-#include <utility>
-
 namespace orbelle::cli {
 
-std::string CliHost::TakeProblem() {
-    return std::exchange(problem_, {});
+namespace {
+
+void CheckOutcome(const editing::Outcome& outcome, CliHost& host) {
+    const std::string message = host.TakeMessage();
+    if (outcome.Failed())
+        throw Failure(outcome.Problem());
+    if (!message.empty())
+        throw Failure(message);
 }
 
-void CliHost::ShowMessage(const std::string& text) {
-    if (problem_.empty())
-        problem_ = text;
-}
+}  // namespace
 
-void CliHost::ShowStatus(const std::string& text) {
-    ShowMessage(text);
-}
-
-std::optional<int> CliHost::ChooseIconEntry(const std::vector<formats::IconEntryImage>& offered) {
-    const int entry = std::exchange(IconEntry, 0);
-    // The editor knows better why there is nothing to choose from.
-    if (offered.empty())
-        return -1;
-    if (entry < static_cast<int>(offered.size()))
-        return entry;
-    ShowMessage("there is no image " + std::to_string(entry) + "; the icon offers " +
-                std::to_string(offered.size()));
-    return std::nullopt;
-}
-
-void CliHost::SetClipboard(const graphics::Bitmap& picture, const std::string& text) {
-    clipboardPicture_ = picture;
-    clipboardText_ = text;
+void CliHost::Put(const graphics::Bitmap& picture, const std::string& text) {
+    picture_ = picture;
+    text_ = text;
 }
 
 Workspace::Workspace(std::ostream& output) : Output(output) {
     // Every command paints the scene, which nobody sees until a verb asks for it.
     Editor.View.SceneWidth = 1;
     Editor.View.SceneHeight = 1;
+}
+
+void Workspace::Run(const editing::Command& command) {
+    CheckOutcome(editing::Run(Editor, command), Host);
+}
+
+void Workspace::RunDuringDrag(const editing::Command& step) {
+    CheckOutcome(editing::RunDuringDrag(Editor, step), Host);
 }
 
 WindowView::WindowView(Workspace& workspace)
@@ -55,17 +48,17 @@ void RequireDocument(const Workspace& workspace) {
 
 void RequireSelectedLayer(const Workspace& workspace) {
     RequireDocument(workspace);
-    if (!workspace.Editor.Document.HasSelection())
+    if (!workspace.Editor.Page().HasSelection())
         throw Failure("no layer is selected");
 }
 
 const document::IconLayer& RequireLayer(const Workspace& workspace, int index) {
     RequireDocument(workspace);
-    const document::Document& document = workspace.Editor.Document;
-    if (index < 0 || index >= document.LayerCount())
+    const document::Page& page = workspace.Editor.Page();
+    if (index < 0 || index >= page.LayerCount())
         throw Failure("there is no layer " + std::to_string(index) + "; the document has " +
-                      std::to_string(document.LayerCount()));
-    return document.Layers[static_cast<std::size_t>(index)];
+                      std::to_string(page.LayerCount()));
+    return page.Layers[static_cast<std::size_t>(index)];
 }
 
 }  // namespace orbelle::cli

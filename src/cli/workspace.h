@@ -1,61 +1,52 @@
 // What the verbs of one run work on.
 #pragma once
 
-#include <filesystem>
 #include <ostream>
-#include <stdexcept>
 #include <string>
+#include <utility>
 
 #include "editing/editor.h"
-#include "editing/editor_host.h"
+#include "editing/run.h"
+#include "graphics/errors.h"
 
 namespace orbelle::cli {
 
 // A verb that could not do its work; what() says why.
-class Failure : public std::runtime_error {
+class Failure : public Error {
 public:
-    using std::runtime_error::runtime_error;
+    using Error::Error;
 };
 
-// Stands in for the user: gives the answers that the verb at hand has laid ready.
-class CliHost : public editing::EditorHost {
+// The clipboard is the run's own; nobody watches the editor.
+class CliHost : public editing::EditorObserver, public editing::Clipboard {
 public:
-    editing::PageSize Size;                          // for the New dialog
-    std::filesystem::path File;                      // for every file dialog
-    int GifThreshold = formats::kUsualGifThreshold;  // for the GIF optimiser
-    int IconEntry = 0;                               // for the next icon file
+    // What the command just run has to tell although it went well; empty: nothing.
+    std::string TakeMessage() { return std::exchange(message_, {}); }
 
-    // The first problem that a command has told, and none from then on.
-    std::string TakeProblem();
-
-    void ShowMessage(const std::string& text) override;
-    void ShowStatus(const std::string& text) override;
-    editing::SavePromptAnswer AskSave() override { return editing::SavePromptAnswer::No; }
-    std::optional<editing::PageSize> AskPageSize() override { return Size; }
-    std::filesystem::path ShowFileDialog(const std::string&, bool) override { return File; }
-    std::optional<int> AskGifThreshold(const graphics::Bitmap&) override { return GifThreshold; }
-    // No such image: nothing is imported, and that is the problem.
-    std::optional<int> ChooseIconEntry(
-        const std::vector<formats::IconEntryImage>& offered) override;
-    std::optional<graphics::Argb> AskColor(graphics::Argb) override { return std::nullopt; }
-    void SetClipboard(const graphics::Bitmap& picture, const std::string& text) override;
-    bool ClipboardHasPicture() override { return !clipboardPicture_.IsEmpty(); }
-    graphics::Bitmap ClipboardPicture() override { return clipboardPicture_; }
-    std::string ClipboardText() override { return clipboardText_; }
-    bool Confirm(const std::string&, const std::string&) override { return true; }
+    void Changed(const editing::Changes& changes) override { message_ = changes.Message; }
+    void Put(const graphics::Bitmap& picture, const std::string& text) override;
+    bool HasPicture() override { return !picture_.IsEmpty(); }
+    graphics::Bitmap Picture() override { return picture_; }
+    std::string Text() override { return text_; }
 
 private:
-    std::string problem_;
-    graphics::Bitmap clipboardPicture_;
-    std::string clipboardText_;
+    std::string message_;
+    graphics::Bitmap picture_;
+    std::string text_;
 };
 
 struct Workspace {
     explicit Workspace(std::ostream& output);
 
+    // Runs a command on the editor. Throws Failure with what it has to tell.
+    void Run(const editing::Command& command);
+    // The same for a step of a drag.
+    void RunDuringDrag(const editing::Command& step);
+
     CliHost Host;
-    editing::Editor Editor{Host};
+    editing::Editor Editor{Host, Host};
     double Zoom = 1;       // of the view, scene pixels per page pixel
+    int IconImage = 0;     // which one the next open or import of an icon file takes
     std::ostream& Output;  // for what verbs print
 };
 

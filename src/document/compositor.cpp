@@ -65,15 +65,15 @@ RectI Compositor::ChangedArea(const Drawn& before, const Drawn& after, const Rec
     return Intersect(changed, page);
 }
 
-std::vector<Compositor::Drawn> Compositor::ListLayers(Document& document) {
+std::vector<Compositor::Drawn> Compositor::ListLayers(Page& page) {
     std::vector<Drawn> drawn;
     std::vector<RectF> plates;
-    for (std::size_t i = 0; i < document.Layers.size(); ++i) {
-        const IconLayer& layer = document.Layers[i];
+    for (std::size_t i = 0; i < page.Layers.size(); ++i) {
+        const IconLayer& layer = page.Layers[i];
         if (!layer.Visible)
             continue;
-        if (i > 0 && document.Layers[i - 1].ClipNextLayer) {
-            IconLayer& plate = document.Layers[i - 1];
+        if (i > 0 && page.Layers[i - 1].ClipNextLayer) {
+            IconLayer& plate = page.Layers[i - 1];
             const int width = graphics::RoundToEven(plate.Rect.Width);
             const int height = graphics::RoundToEven(plate.Rect.Height);
             plate.Path = filters::IosPlatePath(width, height, plate.Rect.X, plate.Rect.Y);
@@ -161,24 +161,25 @@ void Compositor::Update(Bitmap& page, const std::vector<Drawn>& layers) {
     Draw(page, layers, start, layers.size(), damage);
 }
 
-void Compositor::Compose(Document& document, graphics::InterpolationMode interpolation,
+void Compositor::Compose(Page& page, graphics::InterpolationMode interpolation,
                          graphics::Bitmap& canvas) {
-    document.PageWidth = std::max(document.PageWidth, 1);
-    document.PageHeight = std::max(document.PageHeight, 1);
-    std::vector<Drawn> layers = ListLayers(document);
+    page.Width = std::max(page.Width, 1);
+    page.Height = std::max(page.Height, 1);
+    std::vector<Drawn> layers = ListLayers(page);
 
-    const bool sameSize =
-        canvas.Width() == document.PageWidth && canvas.Height() == document.PageHeight;
-    if (!sameSize || interpolation != interpolation_) {
-        canvas = Bitmap(document.PageWidth, document.PageHeight);
+    const bool sameSize = canvas.Width() == page.Width && canvas.Height() == page.Height;
+    if (!sameSize || interpolation != interpolation_ || !isComplete_) {
+        canvas = Bitmap(page.Width, page.Height);
         drawn_.clear();
         below_.clear();
         belowPicture_ = {};
         lastPrefix_ = 0;
     }
     interpolation_ = interpolation;
+    isComplete_ = false;
     Update(canvas, layers);
     drawn_ = std::move(layers);
+    isComplete_ = true;
 }
 
 }  // namespace orbelle::document

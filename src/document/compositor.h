@@ -3,7 +3,7 @@
 
 #include <vector>
 
-#include "document/document.h"
+#include "document/page.h"
 #include "graphics/bitmap.h"
 #include "graphics/enums.h"
 
@@ -15,12 +15,11 @@ namespace orbelle::document {
 class Compositor {
 public:
     // Draws the visible layers, bottom first, source-over with their opacity, into `canvas`, which
-    // has the page's size afterwards; a page side below 1 is first set to 1 in the document. A
+    // has the page's size afterwards; a page side below 1 is first set to 1. A
     // visible layer whose lower neighbour has ClipNextLayer is cut to that one's plate (whose Path
-    // is rebuilt in the document), and so are all layers above it. The canvas must not be drawn on
+    // is rebuilt in the page), and so are all layers above it. The canvas must not be drawn on
     // by others between two calls.
-    void Compose(Document& document, graphics::InterpolationMode interpolation,
-                 graphics::Bitmap& canvas);
+    void Compose(Page& page, graphics::InterpolationMode interpolation, graphics::Bitmap& canvas);
 
 private:
     // What one visible layer puts on the page; two equal ones put the same pixels there.
@@ -39,13 +38,14 @@ private:
     static graphics::RectI ChangedArea(const Drawn& before, const Drawn& after,
                                        const graphics::RectI& page);
 
-    static std::vector<Drawn> ListLayers(Document& document);
+    static std::vector<Drawn> ListLayers(Page& page);
     void Draw(graphics::Bitmap& page, const std::vector<Drawn>& layers, std::size_t first,
               std::size_t last, const graphics::RectI& area) const;
     void Update(graphics::Bitmap& page, const std::vector<Drawn>& layers);
 
     std::vector<Drawn> drawn_;
     graphics::InterpolationMode interpolation_ = graphics::InterpolationMode::Default;
+    bool isComplete_ = false;  // the last Compose came to its end
 
     // The layers below the one that changes again and again, flattened.
     std::size_t lastPrefix_ = 0;

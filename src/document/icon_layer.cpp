@@ -17,11 +17,18 @@ graphics::RectI DrawnArea(const graphics::RectF& rect) {
     return {Truncate(rect.X), Truncate(rect.Y), Truncate(rect.Width), Truncate(rect.Height)};
 }
 
+void PlaceAt(IconLayer& layer, const graphics::RectI& area) {
+    layer.Rect = {static_cast<float>(area.X), static_cast<float>(area.Y),
+                  static_cast<float>(area.Width), static_cast<float>(area.Height)};
+    layer.ImageWidth = area.Width;
+    layer.ImageHeight = area.Height;
+}
+
 void ResetLayerAdjust(IconLayer& layer) {
-    layer.Hue = 0;
-    layer.Contrast = 50;
-    layer.Brightness = 50;
-    layer.Saturation = 40;
+    layer.Hue = kNeutralHue;
+    layer.Contrast = kNeutralContrast;
+    layer.Brightness = kNeutralBrightness;
+    layer.Saturation = kNeutralSaturation;
 }
 
 }  // namespace orbelle::document

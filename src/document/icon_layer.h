@@ -8,6 +8,12 @@
 
 namespace orbelle::document {
 
+// The places of the adjustment sliders, 0 to 100, at which they change nothing.
+inline constexpr int kNeutralHue = 0;
+inline constexpr int kNeutralSaturation = 40;
+inline constexpr int kNeutralBrightness = 50;
+inline constexpr int kNeutralContrast = 50;
+
 // A plain record. Copying it is cheap: pictures, regions and paths share their contents until one
 // of the copies is written.
 struct IconLayer {
@@ -21,10 +27,10 @@ struct IconLayer {
     int ImageHeight = 0;
 
     // Last positions of the adjustment sliders, 0 to 100; the pixels do not depend on them.
-    int Hue = 0;
-    int Contrast = 50;
-    int Brightness = 50;
-    int Saturation = 40;  // 40 is neutral, unlike the others
+    int Hue = kNeutralHue;
+    int Contrast = kNeutralContrast;
+    int Brightness = kNeutralBrightness;
+    int Saturation = kNeutralSaturation;
 
     bool Visible = true;
     graphics::Path Path;         // outline of a plate; null until a style makes one
@@ -34,6 +40,9 @@ struct IconLayer {
 // Where a picture with this place is drawn: every number cut toward zero, as far as 1e9 either way;
 // not-a-number gives 0. A document may hold any number.
 graphics::RectI DrawnArea(const graphics::RectF& rect);
+
+// Rect, ImageWidth and ImageHeight take a place on the page, page pixels.
+void PlaceAt(IconLayer& layer, const graphics::RectI& area);
 
 // Puts the four adjustment fields at their neutral places.
 void ResetLayerAdjust(IconLayer& layer);

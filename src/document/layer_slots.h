@@ -1,7 +1,7 @@
 // Where a new layer goes in the stack, and how one is made from a picture.
 #pragma once
 
-#include "document/document.h"
+#include "document/page.h"
 
 namespace orbelle::document {
 
@@ -12,16 +12,16 @@ enum class SlotCopySize { Image, Rect };
 // Opens a slot directly above the selected layer, or on top when none is selected, and selects it.
 // Until the caller fills it, the slot holds a copy of the layer below it (a blank record on top of
 // an unselected stack). Throws Error when the stack holds kMaxLayers already.
-IconLayer& OpenLayerSlot(Document& document, SlotCopySize size);
+IconLayer& OpenLayerSlot(Page& page, SlotCopySize size);
 
 // Fills the layer with the picture at its own size in the middle of the page; the offsets truncate,
 // so a picture larger than the page gets a negative place. An empty picture makes a layer of 0 by
 // 0. A picture without a visible pixel leaves the Region that the slot held, moved to the new
 // place.
-void MakeImageLayer(const Document& document, IconLayer& layer, const graphics::Bitmap& image);
+void MakeImageLayer(const Page& page, IconLayer& layer, const graphics::Bitmap& image);
 
 // Fills the layer as a new transparent one: Rect, ImageWidth and ImageHeight follow width and
 // height, the picture is always of the page's size. The Region stays as it was.
-void MakeEmptyLayer(const Document& document, IconLayer& layer, float width, float height);
+void MakeEmptyLayer(const Page& page, IconLayer& layer, float width, float height);
 
 }  // namespace orbelle::document

@@ -52,8 +52,8 @@ void DrawPageBackground(Bitmap& scene, Argb background, const RectF& page, float
 
 }  // namespace
 
-void DrawScene(Bitmap& scene, const Bitmap& canvas, const Document& document, const View& view,
-               document::Selection& selection) {
+void DrawScene(Bitmap& scene, const Bitmap& canvas, Argb background, const View& view,
+               const Selection& selection) {
     if (!view.ViewActive)
         return;
     if (scene.Width() != view.SceneWidth || scene.Height() != view.SceneHeight)
@@ -68,8 +68,8 @@ void DrawScene(Bitmap& scene, const Bitmap& canvas, const Document& document, co
 
     // The background deliberately lies half a page pixel to the lower right of the picture.
     const auto halfZoom = static_cast<float>(RoundToEven(view.Zoom / 2));
-    DrawPageBackground(scene, document.PageBackground,
-                       {left + halfZoom, top + halfZoom, pageWidth, pageHeight}, halfZoom);
+    DrawPageBackground(scene, background, {left + halfZoom, top + halfZoom, pageWidth, pageHeight},
+                       halfZoom);
     context.DrawRectangle({SolidBrush{kPageFrame}, 1}, {left, top, pageWidth + 1, pageHeight + 1});
 
     context.SetPixelOffsetMode(PixelOffsetMode::HighQuality);
@@ -83,14 +83,14 @@ RectI PageOnScene(const Bitmap& canvas, const View& view) {
     return {static_cast<int>(page.Left), static_cast<int>(page.Top), page.Width, page.Height};
 }
 
-std::optional<RectI> ObjectFrame(const Document& document, const View& view) {
+std::optional<RectI> ObjectFrame(const Page& page, const View& view) {
     constexpr int kMargin = 2;
-    if (!document.HasSelection() || !document.Selected().Visible)
+    if (!page.HasSelection() || !page.Selected().Visible)
         return std::nullopt;
-    const RectF& rect = document.Selected().Rect;
+    const RectF& rect = page.Selected().Rect;
     return RectI{
-        RoundToEven(PageOffsetX(document, view) + rect.X * view.Zoom) - kMargin,
-        RoundToEven(PageOffsetY(document, view) + rect.Y * view.Zoom) - kMargin,
+        RoundToEven(PageOffsetX(page, view) + rect.X * view.Zoom) - kMargin,
+        RoundToEven(PageOffsetY(page, view) + rect.Y * view.Zoom) - kMargin,
         RoundToEven(rect.Width * view.Zoom) + 2 * kMargin,
         RoundToEven(rect.Height * view.Zoom) + 2 * kMargin,
     };

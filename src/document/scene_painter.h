@@ -3,7 +3,7 @@
 
 #include <optional>
 
-#include "document/document.h"
+#include "document/page.h"
 #include "document/selection.h"
 #include "document/view.h"
 #include "graphics/bitmap.h"
@@ -14,17 +14,17 @@ namespace orbelle::document {
 // The scene around the page.
 inline constexpr graphics::Argb kSceneColor = graphics::MakeARGB(255, 110, 110, 110);
 
-// Paints `canvas` (the composed page) on `scene`, whose size is the view's: background or
-// checkerboard, page shadow, page frame, picture, and the page dimmed outside the selection.
-// Nothing happens while the view is not active.
-void DrawScene(graphics::Bitmap& scene, const graphics::Bitmap& canvas, const Document& document,
-               const View& view, document::Selection& selection);
+// Paints `canvas` (the composed page) on `scene`, whose size is the view's: `background` or,
+// where that is 0, a checkerboard, page shadow, page frame, picture, and the page dimmed outside
+// the selection. Nothing happens while the view is not active.
+void DrawScene(graphics::Bitmap& scene, const graphics::Bitmap& canvas, graphics::Argb background,
+               const View& view, const Selection& selection);
 
 // Where the composed page lies on the scene, scene pixels; its corner truncated to whole ones.
 graphics::RectI PageOnScene(const graphics::Bitmap& canvas, const View& view);
 
 // Where the outline around the selected layer stands, in scene pixels: two pixels outside the layer
 // on every side. None when no visible layer is selected.
-std::optional<graphics::RectI> ObjectFrame(const Document& document, const View& view);
+std::optional<graphics::RectI> ObjectFrame(const Page& page, const View& view);
 
 }  // namespace orbelle::document

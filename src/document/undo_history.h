@@ -1,4 +1,4 @@
-// Undo and redo by snapshots of the whole stack.
+// Undo and redo by snapshots of the whole document.
 #pragma once
 
 #include <vector>
@@ -8,7 +8,7 @@
 
 namespace orbelle::document {
 
-// The history holds no more; what() is fit to be shown to the user.
+// The history holds no more.
 class HistoryLimit : public Error {
 public:
     using Error::Error;
@@ -21,41 +21,52 @@ public:
     static constexpr int kMaxSnapshots = 5001;
     static constexpr int kMaxSnapshotLayers = 101;
 
-    int UndoIndex() const { return undoIndex_; }  // steps that can be undone
-    int RedoCount() const { return redoCount_; }  // steps that can be redone
-    int UndoCount() const { return undoCount_; }  // snapshots, those ahead of the cursor included
+    int UndoIndex() const { return place_.UndoIndex; }  // steps that can be undone
+    int RedoCount() const { return place_.RedoCount; }  // steps that can be redone
+    // Snapshots, those ahead of the cursor included.
+    int UndoCount() const { return place_.UndoCount; }
 
-    // Throws HistoryLimit when PushSnapshot would refuse this document, so often in a row.
-    void CheckRoom(const Document& document, int snapshots = 1) const;
+    // Throws HistoryLimit when PushSnapshot would refuse this document.
+    void CheckRoom(const Document& document) const;
 
     // Forgets everything ahead of the cursor.
     void TruncateRedo();
 
-    // Stores the stack as it is before an edit and marks the document as changed. Throws
+    // Stores the pages as they are before an edit and marks the document as changed. Throws
     // HistoryLimit, with nothing changed, beyond kMaxSnapshots or kMaxSnapshotLayers.
     void PushSnapshot(Document& document);
 
-    // Keeps the present stack for Redo and brings back the one before. False: nothing to undo.
-    // The stack kept here is not bounded by kMaxSnapshotLayers: a step can always be taken back.
+    // Keeps the present pages for Redo and brings back those before. False: nothing to undo. The
+    // pages kept here are not bounded by kMaxSnapshotLayers: a step can always be taken back.
     bool Undo(Document& document);
 
-    // Brings back the stack that the last Undo left. False: nothing to redo.
+    // Brings back the pages that the last Undo left. False: nothing to redo.
     bool Redo(Document& document);
 
     void ClearHistory();
 
+    // For a command that fails halfway: `Place` is where the history stood before it, RollBack goes
+    // back there, steps ahead of the cursor included. Settle, once a command has ended well, lets
+    // go of what RollBack would need. ClearHistory can't be rolled back.
+    struct Place {
+        int UndoIndex = 0;
+        int RedoCount = 0;
+        int UndoCount = 0;
+    };
+    Place Here() const { return place_; }
+    void RollBack(const Place& place);
+    void Settle() { dropped_.clear(); }
+
 private:
     struct Snapshot {
-        std::vector<IconLayer> Layers;
-        int SelectedLayer = kNoLayer;
+        Page Master;
     };
 
-    void Restore(Document& document) const;
+    void Restore(Document& document, Snapshot& snapshot) const;
 
     std::vector<Snapshot> slots_;
-    int undoIndex_ = 0;
-    int redoCount_ = 0;
-    int undoCount_ = 0;
+    std::vector<Snapshot> dropped_;  // by TruncateRedo, since the last Settle
+    Place place_;
 };
 
 }  // namespace orbelle::document

@@ -14,12 +14,12 @@ double ScrollRatio(const ScrollBar& bar) {
     return bar.Max == 0 ? 0 : RoundToTenth(static_cast<double>(bar.Value) / bar.Max);
 }
 
-double PageOffsetX(const Document& document, const View& view) {
-    return ScrollRatio(view.HorizontalScroll) * (view.SceneWidth - document.PageWidth * view.Zoom);
+double PageOffsetX(const Page& page, const View& view) {
+    return ScrollRatio(view.HorizontalScroll) * (view.SceneWidth - page.Width * view.Zoom);
 }
 
-double PageOffsetY(const Document& document, const View& view) {
-    return ScrollRatio(view.VerticalScroll) * (view.SceneHeight - document.PageHeight * view.Zoom);
+double PageOffsetY(const Page& page, const View& view) {
+    return ScrollRatio(view.VerticalScroll) * (view.SceneHeight - page.Height * view.Zoom);
 }
 
 }  // namespace orbelle::document

@@ -1,7 +1,7 @@
 // How the page lies on the scene: zoom and scroll position.
 #pragma once
 
-#include "document/document.h"
+#include "document/page.h"
 
 namespace orbelle::document {
 
@@ -30,7 +30,7 @@ double ScrollRatio(const ScrollBar& bar);
 
 // Where the page's top left corner lies, in scene pixels:
 // ScrollRatio x (scene size - page size x Zoom).
-double PageOffsetX(const Document& document, const View& view);
-double PageOffsetY(const Document& document, const View& view);
+double PageOffsetX(const Page& page, const View& view);
+double PageOffsetY(const Page& page, const View& view);
 
 }  // namespace orbelle::document

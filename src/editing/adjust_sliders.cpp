@@ -1,99 +1,126 @@
 #include "editing/adjust_sliders.h"
 
-#include <algorithm>
-
-#include "editing/apply_layer_pixels.h"
-#include "editing/command_frame.h"
+#include "editing/layer_pixels.h"
 #include "editing/tips.h"
-#include "editing/undo_commands.h"
-#include "editing/view_commands.h"
+#include "editing/undo_step.h"
+#include "filters/color_adjustments.h"
 
 namespace orbelle::editing {
 
 using document::IconLayer;
+using graphics::RoundToEven;
 
 namespace {
 
-// What an adjustment is made of.
+// 0 to 350 for the slider's 0 to 100.
+float HueOf(int slider) {
+    return static_cast<float>(RoundToEven(slider * 3.5));
+}
+
+// -100 at 0, 0 at 40, 150 at 100.
+int SaturationOf(int slider) {
+    return slider < document::kNeutralSaturation ? RoundToEven((slider - 40) * 2.5)
+                                                 : RoundToEven(slider * 2.5 - 100);
+}
+
+// 0.2 at 0, 1 at 50, 5 at 100.
+double ContrastOf(int slider) {
+    const double c = slider * 2;
+    if (c == 100)
+        return 1;
+    return c > 100 ? (c - 100) / 25 + 1 : 1 / (5 - c / 25);
+}
+
+// -250 to 250.
+double BrightnessOf(int slider) {
+    return slider * 5.0 - 250;
+}
+
+// What an adjustment is made of. Brightness and contrast always work together.
 struct AdjustmentParts {
-    Slider Controls::*Position;
-    std::string Controls::*Label;
-    int Rest;  // the label shows the position less this
-    PixelFilter Filter;
+    Slider Sliders::*Position;
     int IconLayer::*Field;
+    void (*Filter)(graphics::Bitmap&, const Sliders&);
 };
+
+void FilterBrightnessContrast(graphics::Bitmap& image, const Sliders& sliders) {
+    filters::BrightnessColor(image, ContrastOf(sliders.Contrast.Value),
+                             BrightnessOf(sliders.Brightness.Value));
+}
 
 AdjustmentParts PartsOf(Adjustment adjustment) {
     switch (adjustment) {
         case Adjustment::Hue:
-            return {&Controls::Hue, &Controls::HueValue, 0, PixelFilter::Hue, &IconLayer::Hue};
+            return {&Sliders::Hue, &IconLayer::Hue,
+                    [](graphics::Bitmap& image, const Sliders& sliders) {
+                        filters::HueColor(image, HueOf(sliders.Hue.Value));
+                    }};
         case Adjustment::Saturation:
-            return {&Controls::Saturation, &Controls::SaturationValue, 40, PixelFilter::Saturation,
-                    &IconLayer::Saturation};
+            return {&Sliders::Saturation, &IconLayer::Saturation,
+                    [](graphics::Bitmap& image, const Sliders& sliders) {
+                        filters::SaturationColor(image, SaturationOf(sliders.Saturation.Value));
+                    }};
         case Adjustment::Brightness:
-            return {&Controls::Brightness, &Controls::BrightnessValue, 50,
-                    PixelFilter::BrightnessContrast, &IconLayer::Brightness};
+            return {&Sliders::Brightness, &IconLayer::Brightness, FilterBrightnessContrast};
         case Adjustment::Contrast:
             break;
     }
-    return {&Controls::Contrast, &Controls::ContrastValue, 50, PixelFilter::BrightnessContrast,
-            &IconLayer::Contrast};
+    return {&Sliders::Contrast, &IconLayer::Contrast, FilterBrightnessContrast};
 }
 
 void EndDrag(Editor& editor) {
-    editor.Host.LayerPanelChanged();
-    editor.Host.ShowTips(tips::Adjusted);
-    editor.Host.ControlsChanged();
+    editor.Drag = {};
+    editor.Changed.Stack = true;
+    editor.Changed.Tip = {tips::Adjusted};
 }
 
 }  // namespace
 
 void PressOpacity(Editor& editor) {
-    if (editor.Document.HasSelection())
-        RunCommand(editor, [&] { BeginUndoStep(editor); });
+    if (!editor.Page().HasSelection())
+        return;
+    BeginUndoStep(editor);
+    editor.Drag = OpacityDrag{};
 }
 
 void ChangeOpacity(Editor& editor, int value) {
-    if (!editor.Document.HasSelection())
+    if (!std::holds_alternative<OpacityDrag>(editor.Drag))
         return;
-    editor.Controls.Opacity.Value = std::clamp(value, 0, 100);
-    editor.Document.Selected().Opacity = static_cast<float>(editor.Controls.Opacity.Value / 100.0);
-    Compose(editor);
+    Slider& slider = editor.Sliders.Opacity;
+    slider.Value = slider.Clamped(value);
+    editor.Page().Selected().Opacity = static_cast<float>(slider.Value / 100.0);
+    editor.Changed.Pixels = true;
 }
 
 void ReleaseOpacity(Editor& editor) {
-    if (!editor.Document.HasSelection())
-        return;
-    Compose(editor);
-    EndDrag(editor);
+    if (std::holds_alternative<OpacityDrag>(editor.Drag))
+        EndDrag(editor);
 }
 
 void PressAdjustment(Editor& editor) {
-    if (!editor.Document.HasSelection())
+    if (!editor.Page().HasSelection())
         return;
-    RunCommand(editor, [&] {
-        BeginUndoStep(editor);
-        editor.AdjustSnapshot = editor.Document.Selected().Image;
-    });
+    BeginUndoStep(editor);
+    editor.Drag = AdjustmentDrag{editor.Page().Selected().Image};
 }
 
 void ChangeAdjustment(Editor& editor, Adjustment adjustment, int value) {
-    if (!editor.Document.HasSelection())
+    const auto* drag = std::get_if<AdjustmentDrag>(&editor.Drag);
+    if (!drag)
         return;
     const AdjustmentParts parts = PartsOf(adjustment);
-    const int position = std::clamp(value, 0, 100);
-    (editor.Controls.*parts.Position).Value = position;
-    editor.Controls.*parts.Label = std::to_string(position - parts.Rest);
-    ApplyLayerPixels(editor, parts.Filter, editor.AdjustSnapshot);
+    Slider& slider = editor.Sliders.*parts.Position;
+    slider.Value = slider.Clamped(value);
+    slider.Label = slider.Value - slider.Neutral;
+    FilterLayerPixels(editor, drag->Before,
+                      [&](graphics::Bitmap& image) { parts.Filter(image, editor.Sliders); });
 }
 
 void ReleaseAdjustment(Editor& editor, Adjustment adjustment) {
-    if (!editor.Document.HasSelection())
+    if (!std::holds_alternative<AdjustmentDrag>(editor.Drag))
         return;
     const AdjustmentParts parts = PartsOf(adjustment);
-    editor.Document.Selected().*parts.Field = (editor.Controls.*parts.Position).Value;
-    editor.AdjustSnapshot = {};
-    DrawScene(editor);
+    editor.Page().Selected().*parts.Field = (editor.Sliders.*parts.Position).Value;
     EndDrag(editor);
 }
 

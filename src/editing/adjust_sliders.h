@@ -1,6 +1,7 @@
 // The sliders of the layer panels. A drag is a press, any number of changes and a release, and one
-// undo step, taken at the press. Values are slider positions, 0 to 100; others are brought to the
-// nearer end. Each does nothing without a selected layer.
+// undo step, taken at the press. Values are slider positions; others are brought to the nearer end.
+// Nothing happens without a selected layer, nor between a drag that was given up and the next
+// press.
 #pragma once
 
 #include "editing/editor.h"

@@ -3,12 +3,10 @@
 #include <optional>
 
 #include "document/layer_slots.h"
-#include "editing/command_frame.h"
-#include "editing/layer_commands.h"
+#include "editing/selection_commands.h"
+#include "editing/slider_positions.h"
 #include "editing/stack_commands.h"
-#include "editing/undo_commands.h"
-#include "editing/view_commands.h"
-#include "filters/create_region.h"
+#include "editing/undo_step.h"
 #include "graphics/drawing_context.h"
 
 namespace orbelle::editing {
@@ -20,41 +18,9 @@ using graphics::RectI;
 
 namespace {
 
-enum class Crop { Copy, Cut, CopyAndCut };
-
-// `image` is the layer's own, or a copy that is to be cut.
-document::TakenOut CropLayer(const Editor& editor, const IconLayer& layer, Bitmap& image,
-                             Crop crop) {
-    return editor.Selection.TakeOut(image, layer.ImageWidth, layer.ImageHeight,
-                                    editor.Document.PageWidth, editor.Document.PageHeight,
-                                    {layer.Rect.X, layer.Rect.Y}, crop != Crop::Copy,
-                                    crop != Crop::Cut);
-}
-
-void PlaceAt(IconLayer& layer, const RectI& area) {
-    layer.Rect = {static_cast<float>(area.X), static_cast<float>(area.Y),
-                  static_cast<float>(area.Width), static_cast<float>(area.Height)};
-    layer.ImageWidth = area.Width;
-    layer.ImageHeight = area.Height;
-}
-
-IconLayer CopyOfSelectedPixels(const Editor& editor) {
-    const IconLayer& source = editor.Document.Selected();
-    Bitmap image = source.Image;
-    const document::TakenOut cropped = CropLayer(editor, source, image, Crop::Copy);
-    IconLayer copy;
-    copy.Image = cropped.Image;
-    PlaceAt(copy, cropped.Area);
-    copy.BaseRect = copy.Rect;
-    copy.Opacity = source.Opacity;
-    filters::CreateRegion(copy.Image, copy.Region, filters::kVisibleAlpha);
-    copy.Region.Translate(copy.Rect.X, copy.Rect.Y);
-    return copy;
-}
-
 // The layer as large as it is on the page; a page's size of it is shown to other programs.
-Bitmap PictureOf(const document::Document& document, const IconLayer& layer) {
-    Bitmap picture(document.PageWidth, document.PageHeight);
+Bitmap PictureOf(const document::Page& page, const IconLayer& layer) {
+    Bitmap picture(page.Width, page.Height);
     graphics::DrawingContext context(picture);
     context.SetInterpolationMode(graphics::InterpolationMode::HighQuality);
     context.SetPixelOffsetMode(graphics::PixelOffsetMode::HighQuality);
@@ -65,11 +31,11 @@ Bitmap PictureOf(const document::Document& document, const IconLayer& layer) {
 
 void Copy(Editor& editor) {
     const bool isSelection = editor.Selection.Exists();
-    IconLayer copy = isSelection ? CopyOfSelectedPixels(editor) : editor.Document.Selected();
-    const Bitmap picture = isSelection ? copy.Image : PictureOf(editor.Document, copy);
-    editor.Host.SetClipboard(CopyBitmap(picture, graphics::RoundToEven(copy.Rect.Width),
-                                        graphics::RoundToEven(copy.Rect.Height)),
-                             kClipboardMark);
+    IconLayer copy = isSelection ? CopyOfSelectedPixels(editor) : editor.Page().Selected();
+    const Bitmap picture = isSelection ? copy.Image : PictureOf(editor.Page(), copy);
+    editor.Clipboard.Put(CopyBitmap(picture, graphics::RoundToEven(copy.Rect.Width),
+                                    graphics::RoundToEven(copy.Rect.Height)),
+                         kClipboardMark);
     editor.ClipboardLayer = std::move(copy);
 }
 
@@ -100,18 +66,18 @@ IconLayer ForeignLayer(const Bitmap& picture) {
     graphics::DrawingContext context(layer.Image);
     context.Clear(graphics::MakeARGB(255, 255, 255, 255));
     context.DrawImage(picture, 0, 0);
-    PlaceAt(layer, {0, 0, picture.Width(), picture.Height()});
+    document::PlaceAt(layer, {0, 0, picture.Width(), picture.Height()});
     layer.BaseRect = layer.Rect;
     layer.Region = graphics::Region::FromRect(layer.Rect);
     return layer;
 }
 
 std::optional<IconLayer> ClipboardContent(Editor& editor) {
-    if (!editor.Host.ClipboardHasPicture())
+    if (!editor.Clipboard.HasPicture())
         return std::nullopt;
-    if (editor.ClipboardLayer && editor.Host.ClipboardText() == kClipboardMark)
+    if (editor.ClipboardLayer && editor.Clipboard.Text() == kClipboardMark)
         return OwnLayer(*editor.ClipboardLayer);
-    const Bitmap picture = editor.Host.ClipboardPicture();
+    const Bitmap picture = editor.Clipboard.Picture();
     if (picture.IsEmpty())
         return std::nullopt;
     return ForeignLayer(picture);
@@ -120,85 +86,37 @@ std::optional<IconLayer> ClipboardContent(Editor& editor) {
 }  // namespace
 
 void CopyToClipboard(Editor& editor) {
-    if (!editor.Document.HasSelection())
-        return;
-    RunCommand(editor, [&] { Copy(editor); });
+    if (editor.Page().HasSelection())
+        Copy(editor);
 }
 
 void CutToClipboard(Editor& editor) {
-    if (!editor.Document.HasSelection())
+    if (!editor.Page().HasSelection())
         return;
-    RunCommand(editor, [&] {
-        editor.History.CheckRoom(editor.Document);
-        Copy(editor);
-        if (editor.Selection.Exists())
-            DeleteSelection(editor);
-        else
-            DeleteIcon(editor, true);
-    });
+    // A cut that the history refuses leaves the clipboard alone.
+    editor.History.CheckRoom(editor.Document);
+    Copy(editor);
+    DeleteSelected(editor);
+}
+
+void DeleteSelected(Editor& editor) {
+    if (editor.Selection.Exists())
+        DeleteSelection(editor);
+    else
+        DeleteLayer(editor);
 }
 
 void PasteFromClipboard(Editor& editor) {
     if (!editor.DocumentExists)
         return;
-    RunCommand(editor, [&] {
-        std::optional<IconLayer> content = ClipboardContent(editor);
-        if (!content)
-            return;
-        BeginUndoStep(editor);
-        OpenLayerSlot(editor.Document, document::SlotCopySize::Image) = std::move(*content);
-        editor.Selection.Clear();
-        ShowSelectedLayer(editor);
-        Compose(editor);
-        editor.Host.LayerPanelChanged();
-    });
-}
-
-void EndSelection(Editor& editor) {
-    if (!editor.Selection.Exists())
+    std::optional<IconLayer> content = ClipboardContent(editor);
+    if (!content)
         return;
-    editor.Selection.Clear();
-    DrawScene(editor);
-}
-
-void DeleteSelection(Editor& editor) {
-    if (!editor.Document.HasSelection())
-        return;
-    IconLayer& layer = editor.Document.Selected();
-    Bitmap rest = layer.Image;
-    CropLayer(editor, layer, rest, Crop::Cut);
     BeginUndoStep(editor);
-    layer.Image = rest;
-    layer.Rect.Width = static_cast<float>(layer.ImageWidth);
-    layer.Rect.Height = static_cast<float>(layer.ImageHeight);
-    editor.Selection.Clear();
-    Compose(editor);
-    editor.Host.LayerPanelChanged();
-}
-
-void FloatSelection(Editor& editor) {
-    constexpr int kUndoSteps = 2;
-    document::Document& document = editor.Document;
-    editor.History.CheckRoom(document, kUndoSteps);
-    const IconLayer& source =
-        document.HasSelection() ? document.Selected() : document.Layers.back();
-    Bitmap rest = source.Image;
-    const document::TakenOut floated = CropLayer(editor, source, rest, Crop::CopyAndCut);
-
-    BeginUndoStep(editor);
-    AddEmptyLayer(editor, 0, 0);
-    IconLayer& layer = document.Selected();
-    IconLayer& below = document.Layers[static_cast<std::size_t>(document.SelectedLayer) - 1];
-    below.Image = rest;
-    // What lies partly off the page is deliberately lost: the layer stays blank.
-    if (!floated.Image.IsEmpty())
-        layer.Image = floated.Image;
-    PlaceAt(layer, floated.Area);
-    layer.Opacity = below.Opacity;
+    OpenLayerSlot(editor.Page(), document::SlotCopySize::Image) = std::move(*content);
     editor.Selection.Clear();
     ShowSelectedLayer(editor);
-    Compose(editor);
-    editor.Host.LayerPanelChanged();
+    NoteStack(editor.Changed);
 }
 
 }  // namespace orbelle::editing

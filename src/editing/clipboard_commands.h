@@ -1,4 +1,4 @@
-// Cut, copy and paste, and what becomes of a selection. Each does nothing without a selected layer
+// Cut, copy, paste and delete. Each does nothing without a selected layer
 // unless said otherwise.
 #pragma once
 
@@ -20,16 +20,7 @@ void CutToClipboard(Editor& editor);
 // Nothing is added when the clipboard holds no picture.
 void PasteFromClipboard(Editor& editor);
 
-// Ends the selection, if there is one, and paints the scene without it.
-void EndSelection(Editor& editor);
-
-// Cuts the selected pixels out of the layer and ends the selection. Throws document::HistoryLimit
-// with nothing changed.
-void DeleteSelection(Editor& editor);
-
-// Cuts the selected pixels into a new layer above the selected one, or on top and out of the top
-// layer when none is selected; the selection ends. Deliberately two undo steps. Needs a selection
-// and a layer. Throws document::HistoryLimit with nothing changed.
-void FloatSelection(Editor& editor);
+// The Edit menu's Delete: the selection if there is one, else the selected layer.
+void DeleteSelected(Editor& editor);
 
 }  // namespace orbelle::editing

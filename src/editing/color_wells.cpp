@@ -12,51 +12,45 @@ namespace {
 constexpr double kAlphaPerPercent = 2.55;
 
 Argb& WellColor(Editor& editor, int well) {
-    return editor.Colors[static_cast<std::size_t>(well)];
+    return editor.Tools.Colors[static_cast<std::size_t>(well)];
 }
 
 unsigned AlphaOfOpacity(const Editor& editor) {
     return static_cast<unsigned>(
-        graphics::RoundToEven(editor.Controls.ColorOpacity.Value * kAlphaPerPercent));
+        graphics::RoundToEven(editor.Sliders.ColorOpacity.Value * kAlphaPerPercent));
 }
 
 }  // namespace
 
 void ShowColorOpacity(Editor& editor) {
-    const unsigned alpha = graphics::AlphaOf(WellColor(editor, editor.ActiveColor));
-    editor.Controls.ColorOpacity.Value = graphics::RoundToEven(alpha / kAlphaPerPercent);
+    const unsigned alpha = graphics::AlphaOf(WellColor(editor, editor.Tools.ActiveColor));
+    editor.Sliders.ColorOpacity.Value = graphics::RoundToEven(alpha / kAlphaPerPercent);
 }
 
 void UseColorWell(Editor& editor, int well) {
-    editor.ActiveColor = well;
+    editor.Tools.ActiveColor = well;
     ShowColorOpacity(editor);
-    editor.Host.ControlsChanged();
 }
 
-void AskWellColor(Editor& editor, int well) {
-    Argb& color = WellColor(editor, well);
-    if (const std::optional<Argb> chosen = editor.Host.AskColor(color))
-        color = graphics::SetAlphaByte(*chosen, AlphaOfOpacity(editor));
+void ChooseWellColor(Editor& editor, int well, Argb color) {
+    WellColor(editor, well) = graphics::SetAlphaByte(color, AlphaOfOpacity(editor));
     UseColorWell(editor, well);
 }
 
 void SetWellColor(Editor& editor, int well, Argb color) {
     WellColor(editor, well) = color;
     ShowColorOpacity(editor);
-    editor.Host.ControlsChanged();
 }
 
 void ChangeColorOpacity(Editor& editor, int value) {
-    editor.Controls.ColorOpacity.Value = value;
-    Argb& color = WellColor(editor, editor.ActiveColor);
+    editor.Sliders.ColorOpacity.Value = value;
+    Argb& color = WellColor(editor, editor.Tools.ActiveColor);
     color = graphics::SetAlphaByte(color, AlphaOfOpacity(editor));
-    editor.Host.ControlsChanged();
 }
 
 void ExchangeColor(Editor& editor) {
-    std::swap(editor.Colors[0], editor.Colors[1]);
+    std::swap(editor.Tools.Colors[0], editor.Tools.Colors[1]);
     ShowColorOpacity(editor);
-    editor.Host.ControlsChanged();
 }
 
 void PickColor(Editor& editor, float x, float y) {
@@ -73,7 +67,7 @@ void PickColor(Editor& editor, float x, float y) {
     page.X -= column;
     page.Y -= row;
     context.DrawImageRectRectI(canvas, page, {0, 0, canvas.Width(), canvas.Height()});
-    SetWellColor(editor, editor.ActiveColor, *pixel.GetPixel(0, 0));
+    SetWellColor(editor, editor.Tools.ActiveColor, *pixel.GetPixel(0, 0));
 }
 
 }  // namespace orbelle::editing

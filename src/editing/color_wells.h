@@ -8,14 +8,13 @@ namespace orbelle::editing {
 // A click: the well is in use.
 void UseColorWell(Editor& editor, int well);
 
-// A double click: the colour dialog, then the well is in use either way. The opacity slider gives
-// the new colour's alpha.
-void AskWellColor(Editor& editor, int well);
+// A colour from the colour dialog: the opacity slider gives its alpha, and the well is in use.
+void ChooseWellColor(Editor& editor, int well, graphics::Argb color);
 
 // Puts a colour with its alpha into a well.
 void SetWellColor(Editor& editor, int well, graphics::Argb color);
 
-// ColorOpacity, 0 to 100: 2.55 of alpha for each, ties to even, for the colour in use.
+// The colour opacity slider: 2.55 of alpha for each step, ties to even, for the colour in use.
 void ChangeColorOpacity(Editor& editor, int value);
 
 // The wells change colours; the same well stays in use.
@@ -25,7 +24,7 @@ void ExchangeColor(Editor& editor);
 // point; transparent beside the page. Nothing happens outside the scene.
 void PickColor(Editor& editor, float x, float y);
 
-// ColorOpacity shows the alpha of the colour in use.
+// The colour opacity slider shows the alpha of the colour in use.
 void ShowColorOpacity(Editor& editor);
 
 }  // namespace orbelle::editing

@@ -1,44 +1,44 @@
-// The File menu: New, Open, Import, Save, Save As.
+// The File menu but for its exports. Paths are given; asking the user for them, and whether a
+// changed document may be given up, is the business of the program around the editor.
 #pragma once
 
 #include <filesystem>
-#include <string_view>
+#include <vector>
 
 #include "editing/editor.h"
+#include "formats/icon_reader.h"
 
 namespace orbelle::editing {
 
-// After the save prompt: a page of the size that the host asks the user for, with one empty layer.
-// A size outside 1 to kMaxPageSide shows kPageSizeMessage and changes nothing.
-void New(Editor& editor);
-
-// After the save prompt and the file dialog: a document, or a picture that becomes the page.
-void Open(Editor& editor);
-
-// A picture as a new layer above the selected one; with no document yet it makes the page.
-void Import(Editor& editor);
-
-// Import of a file that is known: one dropped on the window. A document takes the place of the
-// present one, after the save prompt.
-void ImportFile(Editor& editor, const std::filesystem::path& path);
-
-// False: not saved, because the user cancelled or writing failed (then the document stays marked as
-// changed). Asks for a path when the document has none.
-bool Save(Editor& editor);
-// Always asks. Cancelling deliberately leaves the document without a path.
-bool SaveAs(Editor& editor);
-
-// Opens what a command line or another copy of the program hands over, after the save prompt: the
-// first and last characters, meant to be quotation marks, are cut unseen.
-void ShellOpenFile(Editor& editor, std::string_view command);
-
-// Before a changed document is given up: by New, Open, a hand-over, or closing the window. False:
-// the user wants to go back. After "Yes" all goes on even if saving was cancelled or failed.
-bool RunSavePrompt(Editor& editor);
-
-// The state before anything is done with a page of this size; with an empty layer if said.
-void ResetDocument(Editor& editor, int pageWidth, int pageHeight, bool addFirstLayer);
-
 inline constexpr char kPageSizeMessage[] = "Please input a integer from 1 to 512.";
+
+// A page of that size, page pixels, with one empty layer. A side outside 1 to kMaxPageSide throws
+// Error with kPageSizeMessage.
+void NewDocument(Editor& editor, int pageWidth, int pageHeight);
+
+// A document, or a picture that becomes the page, takes the place of the present document; the name
+// tells which. Of an icon file it is the image `iconImage`, its place among those offered. Throws
+// Error when there is no such file or image. A damaged document opens with the layers before the
+// damage and leaves word in Changes::Message.
+void OpenFile(Editor& editor, const std::filesystem::path& path, int iconImage = 0);
+
+// A picture as a new layer above the selected one; with no document yet it makes the page. A
+// document is opened.
+void ImportFile(Editor& editor, const std::filesystem::path& path, int iconImage = 0);
+
+// The same with a picture that has been read already.
+void OpenPicture(Editor& editor, const graphics::Bitmap& picture);
+void ImportPicture(Editor& editor, const graphics::Bitmap& picture);
+
+// The images of an icon file, in the order in which they are offered. Throws Error when there are
+// none.
+std::vector<formats::IconEntryImage> ReadIconImages(const std::filesystem::path& path);
+
+// Writes the document there; its path and the title follow. Throws Error when that fails.
+void SaveTo(Editor& editor, const std::filesystem::path& path);
+
+// What the name of a file says that it holds: a document, or several pictures to choose from.
+bool IsDocumentName(const std::filesystem::path& path);
+bool IsIconName(const std::filesystem::path& path);
 
 }  // namespace orbelle::editing

@@ -1,12 +1,51 @@
-// What becomes of a drag on the scene when something else comes between.
+// What exists only between the press and the release of a drag: one record a kind of tool.
 #pragma once
 
-#include "editing/editor.h"
+#include <variant>
+#include <vector>
+
+#include "document/icon_layer.h"
+#include "graphics/bitmap.h"
+#include "graphics/geometry.h"
 
 namespace orbelle::editing {
 
-// Takes back what the drag in progress has done since its last undo step. Commands run only
-// between drags, so each calls this first.
-void AbandonDrag(Editor& editor);
+// On the scene; `Press` in scene pixels.
+struct MoveDrag {
+    graphics::PointF Press;
+    graphics::RectF Before;  // the layer's Rect
+};
+
+struct StrokeDrag {
+    graphics::PointF Press;
+    graphics::Bitmap Before;                 // the layer's picture
+    std::vector<graphics::PointF> Freehand;  // the pencil's points, layer pixels
+};
+
+struct EraserDrag {
+    graphics::PointF Last;  // where the eraser was set down last, scene pixels
+};
+
+struct FrameSelectionDrag {
+    graphics::PointF Press;  // brought onto the page
+};
+
+struct PolygonSelectionDrag {
+    graphics::PointF Press;  // brought onto the page
+};
+
+// On a slider of the selected layer.
+struct OpacityDrag {};
+
+struct AdjustmentDrag {
+    graphics::Bitmap Before;  // every step works on this
+};
+
+struct ScaleDrag {
+    graphics::RectF Before;
+};
+
+using Drag = std::variant<std::monostate, MoveDrag, StrokeDrag, EraserDrag, FrameSelectionDrag,
+                          PolygonSelectionDrag, OpacityDrag, AdjustmentDrag, ScaleDrag>;
 
 }  // namespace orbelle::editing

@@ -1,7 +1,7 @@
-// The whole state of the editor. The commands in this folder are plain routines that work on it.
+// The whole state of the editor. The commands in this folder are plain routines that work on it;
+// Run (run.h) carries them out.
 #pragma once
 
-#include <array>
 #include <optional>
 #include <string>
 #include <vector>
@@ -11,9 +11,12 @@
 #include "document/selection.h"
 #include "document/undo_history.h"
 #include "document/view.h"
-#include "editing/controls.h"
+#include "editing/changes.h"
+#include "editing/control_states.h"
+#include "editing/drag.h"
 #include "editing/editor_host.h"
 #include "editing/overlays.h"
+#include "editing/sliders.h"
 #include "editing/tool.h"
 #include "formats/export_image.h"
 #include "graphics/bitmap.h"
@@ -22,70 +25,61 @@ namespace orbelle::editing {
 
 inline constexpr char kProductName[] = "Varnel Orbelle";
 
-// The view that Original Size goes back to.
-struct SavedView {
-    double Zoom = 1;
-    document::ScrollBar HorizontalScroll;
-    document::ScrollBar VerticalScroll;
+// What the zoom commands and the zoom animation remember; the zoom itself stands in the view.
+struct ZoomState {
+    double Maximum = 20;
+    bool IsOriginalSize = false;  // the button Original Size is pressed
+    // The view that Original Size goes back to.
+    double SavedZoom = 1;
+    document::ScrollBar SavedHorizontal;
+    document::ScrollBar SavedVertical;
+    bool PageSizeChanged = false;  // the page was resized since the last fit to the window
+
+    bool IsAnimated = false;  // TickZoomAnimation is to be run until this is false
 };
 
-struct Editor {
-    explicit Editor(EditorHost& host) : Host(host) {}
-
-    EditorHost& Host;
-
+// What a command that fails leaves as it was; the undo history, too. A copy costs a pointer a
+// layer.
+struct EditorState {
     document::Document Document;
-    document::UndoHistory History;
-    editing::Controls Controls;
-    formats::ExportSettings ExportSettings;
+    // Set while a document exists; cleared while one is being opened.
+    bool DocumentExists = false;
     std::string Title = kProductName;
 
-    graphics::Bitmap Canvas;  // the composed page, without its background
-    graphics::Bitmap Scene;   // what the window shows, of the view's size
-    document::Compositor Compositor;
-
-    document::View View;
-    SavedView SavedZoom;
-    int MaxZoom = 20;
-    bool ZoomBusy = false;   // a zoom command runs: scroll bars redraw nothing
-    double ZoomStep = -0.2;  // what the zoom animation subtracts a tick
-    double ZoomTarget = 1;   // where it stops
-
     document::Selection Selection;
-
-    Tool CurrentTool = Tool::Move;
-    editing::FillKind FillKind = editing::FillKind::Solid;
-    std::array<graphics::Argb, 2> Colors{};  // foreground, background
-    int ActiveColor = 0;                     // the one in use
-    int LastToolButton = 1;                  // of ToolBox
-
-    // The pointer on the scene, scene pixels.
-    bool DragActive = false;  // a left press has begun what the next release ends
-    float MouseDownX = 0;     // the last press; a brush and a selection frame move them
-    float MouseDownY = 0;
-    float LastMouseX = 0;  // the last move
-    float LastMouseY = 0;
-    editing::Overlays Overlays;
-    int TipCounter = 0;  // age of the open tips in ticks
-
-    // Between press and release: where the layer was, page pixels, and how it looked.
-    float LayerStartX = 0;
-    float LayerStartY = 0;
-    graphics::Bitmap StrokeBackup;
-    std::vector<graphics::PointF> PencilPoints;  // layer pixels
-
     std::vector<graphics::PointF> PolygonPoints;  // of an open polygon, page pixels
-
     // What the last Copy took; it counts while the clipboard carries the product's mark.
     std::optional<document::IconLayer> ClipboardLayer;
 
-    // Between the press and the release of a slider: the picture or place that its steps start
-    // from.
-    graphics::Bitmap AdjustSnapshot;
-    graphics::RectF ScaleStartRect;
+    document::View View;
+    ZoomState Zoom;
+    ToolSettings Tools;
+    editing::Sliders Sliders;
+    editing::Overlays Overlays;
+    formats::ExportSettings ExportSettings;
+    graphics::PointF LastPointer;  // the last move on the scene, scene pixels
+    editing::Drag Drag;
 
-    // Set while a document exists; cleared while one is being opened.
-    bool DocumentExists = false;
+    // The page that is being edited.
+    document::Page& Page() { return Document.Current(); }
+    const document::Page& Page() const { return Document.Current(); }
+};
+
+struct Editor : EditorState {
+    // Both outlive the editor.
+    Editor(EditorObserver& observer, editing::Clipboard& clipboard);
+
+    EditorObserver& Observer;
+    editing::Clipboard& Clipboard;
+
+    document::UndoHistory History;
+    Changes Changed;  // by the command that runs
+
+    // Kept by Run.
+    ControlStates States;
+    graphics::Bitmap Canvas;  // the composed page, without its background
+    graphics::Bitmap Scene;   // what the window shows, of the view's size
+    document::Compositor Compositor;
 };
 
 }  // namespace orbelle::editing

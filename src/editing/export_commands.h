@@ -1,12 +1,14 @@
 // The Export submenu.
 #pragma once
 
+#include <filesystem>
+
 #include "editing/editor.h"
 
 namespace orbelle::editing {
 
-// Asks for a file, with that filter in the dialog, and writes the composed page to it; the document
-// is not changed. A failure is told in the status line.
-void Export(Editor& editor, formats::ExportFormat format, const std::string& filter);
+// Writes the composed page as a file of another kind, by Editor::ExportSettings; their GIF
+// threshold counts for pages without a background. Throws Error when nothing could be written.
+void ExportTo(Editor& editor, const std::filesystem::path& path, formats::ExportFormat format);
 
 }  // namespace orbelle::editing

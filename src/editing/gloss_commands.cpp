@@ -1,6 +1,4 @@
 // Crystal, Vista, Fresh, Origami and iOS.
-#include "editing/command_frame.h"
-#include "editing/layer_commands.h"
 #include "editing/style_commands.h"
 #include "editing/style_frames.h"
 #include "editing/tips.h"
@@ -24,82 +22,70 @@ void PutGlossOver(const OverlayLayers& layers) {
 }  // namespace
 
 void Crystal(Editor& editor) {
-    if (!editor.Document.HasSelection())
+    if (!editor.Page().HasSelection())
         return;
-    RunCommand(editor, [&] {
-        PutGlossOver(OpenOverlay(editor));
-        ShowStyle(editor);
-        editor.Host.ShowTips(tips::Crystal);
-    });
+    PutGlossOver(OpenOverlay(editor));
+    ShowStyle(editor);
+    editor.Changed.Tip = {tips::Crystal};
 }
 
 void Vista(Editor& editor) {
     constexpr int kSaturation = 25;
-    if (!editor.Document.HasSelection())
+    if (!editor.Page().HasSelection())
         return;
-    RunCommand(editor, [&] {
-        const OverlayLayers layers = OpenOverlay(editor, OverlayUndo::OneStep);
-        PutGlossOver(layers);
-        filters::ThreeDStyle(layers.Source.Image, filters::kStrongLight);
-        filters::SaturationColor(layers.Source.Image, kSaturation);
-        ShowStyle(editor);
-        editor.Host.ShowTips(tips::Vista);
-    });
+    const OverlayLayers layers = OpenOverlay(editor, OverlayUndo::OneStep);
+    PutGlossOver(layers);
+    filters::ThreeDStyle(layers.Source.Image, filters::kStrongLight);
+    filters::SaturationColor(layers.Source.Image, kSaturation);
+    ShowStyle(editor);
+    editor.Changed.Tip = {tips::Vista};
 }
 
 void Fresh(Editor& editor) {
-    if (!editor.Document.HasSelection())
+    if (!editor.Page().HasSelection())
         return;
-    RunCommand(editor, [&] {
-        const OverlayLayers layers = OpenOverlay(editor);
-        PlaceStylePicture(layers.New,
-                          filters::FreshStyle(layers.Source.Image, editor.Document.PageWidth,
-                                              editor.Document.PageHeight));
-        filters::AntialiasEdge(layers.New.Image);
-        FinishOverlay(layers);
-        ShowStyle(editor);
-        editor.Host.ShowTips(tips::Vista);
-    });
+    const OverlayLayers layers = OpenOverlay(editor);
+    PlaceStylePicture(layers.New, filters::FreshStyle(layers.Source.Image, editor.Page().Width,
+                                                      editor.Page().Height));
+    filters::AntialiasEdge(layers.New.Image);
+    FinishOverlay(layers);
+    ShowStyle(editor);
+    editor.Changed.Tip = {tips::Vista};
 }
 
 void Origami(Editor& editor, filters::Fold fold) {
-    if (!editor.Document.HasSelection())
+    if (!editor.Page().HasSelection())
         return;
-    RunCommand(editor, [&] {
-        const OverlayLayers layers = OpenOverlay(editor);
-        const graphics::Argb foreground = editor.Colors[0];
-        PlaceStylePicture(layers.New,
-                          filters::OrigamiStyle(layers.Source.Image, fold,
-                                                graphics::SetAlphaByte(foreground, kFoldAlpha),
-                                                graphics::SetAlphaByte(foreground, 0)));
-        FinishOverlay(layers);
-        ShowStyle(editor);
-        editor.Host.ShowTips(tips::Crystal);
-    });
+    const OverlayLayers layers = OpenOverlay(editor);
+    const graphics::Argb foreground = editor.Tools.Colors[0];
+    PlaceStylePicture(layers.New,
+                      filters::OrigamiStyle(layers.Source.Image, fold,
+                                            graphics::SetAlphaByte(foreground, kFoldAlpha),
+                                            graphics::SetAlphaByte(foreground, 0)));
+    FinishOverlay(layers);
+    ShowStyle(editor);
+    editor.Changed.Tip = {tips::Crystal};
 }
 
-void iOS(Editor& editor) {
-    if (!editor.Document.HasSelection())
+void Ios(Editor& editor) {
+    if (!editor.Page().HasSelection())
         return;
-    RunCommand(editor, [&] {
-        document::IconLayer& plate = OpenUnderlay(editor).New;
-        const int width = editor.Document.PageWidth;
-        const int height = editor.Document.PageHeight;
-        plate.Rect = {0, 0, static_cast<float>(width), static_cast<float>(height)};
-        plate.ImageWidth = width;
-        plate.ImageHeight = height;
-        plate.Opacity = 1;
-        filters::Plate drawn = filters::IosStyle(editor.Colors[0], width, height, 0, 0);
-        plate.Image = drawn.Image;
-        plate.Path = drawn.Path;
-        plate.ClipNextLayer = true;
-        filters::AntialiasEdge(plate.Image);
-        filters::CreateRegion(plate.Image, plate.Region, filters::kVisibleAlpha);
-        editor.Selection.Clear();
-        UpdateLayerButtons(editor);
-        ShowStyle(editor);
-        editor.Host.ShowTips(tips::iOS);
-    });
+    document::IconLayer& plate = OpenUnderlay(editor).New;
+    const int width = editor.Page().Width;
+    const int height = editor.Page().Height;
+    plate.Rect = {0, 0, static_cast<float>(width), static_cast<float>(height)};
+    plate.ImageWidth = width;
+    plate.ImageHeight = height;
+    plate.Opacity = 1;
+    filters::Plate drawn = filters::IosStyle(editor.Tools.Colors[0], width, height, 0, 0);
+    plate.Image = drawn.Image;
+    plate.Path = drawn.Path;
+    plate.ClipNextLayer = true;
+    filters::AntialiasEdge(plate.Image);
+    filters::RebuildRegion(plate.Region, plate.Image, {});
+    editor.Selection.Clear();
+    ShowStyle(editor);
+    editor.Changed.Tip = {tips::Ios};
 }
 
 }  // namespace orbelle::editing

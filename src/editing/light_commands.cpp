@@ -1,5 +1,4 @@
 // Reflection, Shade and Drop Shadow.
-#include "editing/command_frame.h"
 #include "editing/style_commands.h"
 #include "editing/style_frames.h"
 #include "editing/tips.h"
@@ -27,61 +26,53 @@ void FillRect(IconLayer& layer, float x, float y) {
 }  // namespace
 
 void Reflection(Editor& editor) {
-    if (!editor.Document.HasSelection())
+    if (!editor.Page().HasSelection())
         return;
-    RunCommand(editor, [&] {
-        const auto [layer, source] = OpenOverlay(editor);
-        filters::ReflectionPicture picture = filters::Reflection(source.Image);
-        graphics::ImageRotateFlip(picture.Image, graphics::RotateFlipType::RotateNoneFlipY);
-        if (!picture.Image.IsEmpty())
-            layer.Image = picture.Image;
-        filters::CreateRegion(layer.Image, layer.Region, filters::kVisibleAlpha);
-        const float below = source.Rect.Height + source.Rect.Y;
-        // Deliberately lower than the picture, which takes the margin into account.
-        layer.Region.Translate(source.Rect.X, below);
-        layer.Opacity = kReflectionOpacity;
-        FillRect(layer, source.Rect.X, below - 2 * static_cast<float>(picture.Margin) + 1);
-        ShowStyle(editor);
-        editor.Host.ShowTips(tips::Reflection);
-    });
+    const auto [layer, source] = OpenOverlay(editor);
+    filters::ReflectionPicture picture = filters::Reflection(source.Image);
+    graphics::ImageRotateFlip(picture.Image, graphics::RotateFlipType::RotateNoneFlipY);
+    if (!picture.Image.IsEmpty())
+        layer.Image = picture.Image;
+    const float below = source.Rect.Height + source.Rect.Y;
+    // Deliberately lower than the picture, which takes the margin into account.
+    filters::RebuildRegion(layer.Region, layer.Image, {source.Rect.X, below});
+    layer.Opacity = kReflectionOpacity;
+    FillRect(layer, source.Rect.X, below - 2 * static_cast<float>(picture.Margin) + 1);
+    ShowStyle(editor);
+    editor.Changed.Tip = {tips::Reflection};
 }
 
 void Shade(Editor& editor) {
-    if (!editor.Document.HasSelection())
+    if (!editor.Page().HasSelection())
         return;
-    RunCommand(editor, [&] {
-        const auto [layer, source] = OpenOverlay(editor);
-        // The region deliberately stays what making room left: that of the source.
-        if (!source.Image.IsEmpty())
-            layer.Image = filters::GradientBlack(source.Image);
-        layer.Opacity = kShadeOpacity;
-        FillRect(layer, source.Rect.X, source.Rect.Y);
-        ShowStyle(editor);
-        editor.Host.ShowTips(tips::Shade);
-    });
+    const auto [layer, source] = OpenOverlay(editor);
+    // The region deliberately stays what making room left: that of the source.
+    if (!source.Image.IsEmpty())
+        layer.Image = filters::GradientBlack(source.Image);
+    layer.Opacity = kShadeOpacity;
+    FillRect(layer, source.Rect.X, source.Rect.Y);
+    ShowStyle(editor);
+    editor.Changed.Tip = {tips::Shade};
 }
 
 void DropShadow(Editor& editor) {
     constexpr int kRadius = 1;
-    if (!editor.Document.HasSelection())
+    if (!editor.Page().HasSelection())
         return;
-    RunCommand(editor, [&] {
-        IconLayer& shadow = OpenUnderlay(editor).New;
-        const graphics::Bitmap picture = filters::Shadow(shadow.Image, kRadius);
-        if (!picture.IsEmpty())
-            shadow.Image = picture;
-        shadow.Rect.X += 1;
-        shadow.Rect.Y += 1;
-        filters::CreateRegion(shadow.Image, shadow.Region, filters::kVisibleAlpha);
-        shadow.Region.Translate(shadow.Rect.X, shadow.Rect.Y);
-        // BaseRect deliberately stays the source's.
-        shadow.Rect.Width += 2 * kRadius;
-        shadow.Rect.Height += 2 * kRadius;
-        shadow.ImageWidth = graphics::RoundToEven(shadow.Rect.Width);
-        shadow.ImageHeight = graphics::RoundToEven(shadow.Rect.Height);
-        shadow.Opacity = kShadowOpacity;
-        ShowStyle(editor);
-    });
+    IconLayer& shadow = OpenUnderlay(editor).New;
+    const graphics::Bitmap picture = filters::Shadow(shadow.Image, kRadius);
+    if (!picture.IsEmpty())
+        shadow.Image = picture;
+    shadow.Rect.X += 1;
+    shadow.Rect.Y += 1;
+    filters::RebuildRegion(shadow.Region, shadow.Image, {shadow.Rect.X, shadow.Rect.Y});
+    // BaseRect deliberately stays the source's.
+    shadow.Rect.Width += 2 * kRadius;
+    shadow.Rect.Height += 2 * kRadius;
+    shadow.ImageWidth = graphics::RoundToEven(shadow.Rect.Width);
+    shadow.ImageHeight = graphics::RoundToEven(shadow.Rect.Height);
+    shadow.Opacity = kShadowOpacity;
+    ShowStyle(editor);
 }
 
 }  // namespace orbelle::editing

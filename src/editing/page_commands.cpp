@@ -1,43 +1,28 @@
 #include "editing/page_commands.h"
 
-#include <algorithm>
-
-#include "editing/view_commands.h"
-
 namespace orbelle::editing {
 namespace {
 
 void ChangePageSide(Editor& editor, Slider& slider, int& side, int value) {
-    if (editor.Controls.PageSliderLock)
-        return;
-    editor.Controls.PageSizeChanged = true;
-    slider.Value = std::clamp(value, 1, document::kMaxPageSide);
+    editor.Zoom.PageSizeChanged = true;
+    slider.Value = slider.Clamped(value);
     side = slider.Value;
-    Compose(editor);
-    editor.Host.ControlsChanged();
+    editor.Changed.Pixels = true;
 }
 
 }  // namespace
 
 void ChangePageWidth(Editor& editor, int value) {
-    ChangePageSide(editor, editor.Controls.PageWidth, editor.Document.PageWidth, value);
+    ChangePageSide(editor, editor.Sliders.PageWidth, editor.Page().Width, value);
 }
 
 void ChangePageHeight(Editor& editor, int value) {
-    ChangePageSide(editor, editor.Controls.PageHeight, editor.Document.PageHeight, value);
+    ChangePageSide(editor, editor.Sliders.PageHeight, editor.Page().Height, value);
 }
 
 void SetPageBackground(Editor& editor, graphics::Argb color) {
-    editor.Document.PageBackground = color;
-    Compose(editor);
-    editor.Host.LayerPanelChanged();
-}
-
-void AskPageBackground(Editor& editor) {
-    if (!editor.DocumentExists)
-        return;
-    if (const auto color = editor.Host.AskColor(editor.Document.PageBackground))
-        SetPageBackground(editor, graphics::SetAlphaByte(*color, 255));
+    editor.Document.Background = color;
+    NoteStack(editor.Changed);
 }
 
 }  // namespace orbelle::editing

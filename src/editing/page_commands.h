@@ -5,15 +5,11 @@
 
 namespace orbelle::editing {
 
-// The page-size sliders; the value is limited to 1 to document::kMaxPageSide. Layers keep their
-// place.
+// The page-size sliders; the value is brought into the slider's range. Layers keep their place.
 void ChangePageWidth(Editor& editor, int value);
 void ChangePageHeight(Editor& editor, int value);
 
 // 0: transparent.
 void SetPageBackground(Editor& editor, graphics::Argb color);
-
-// A click on the page's colour well: the colour dialog, then the chosen colour, opaque.
-void AskPageBackground(Editor& editor);
 
 }  // namespace orbelle::editing

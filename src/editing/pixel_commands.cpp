@@ -1,10 +1,8 @@
 // Styles that change pictures in place: Mac, Irradiation, Blur, Sharpen and the two states.
-#include "editing/apply_layer_pixels.h"
-#include "editing/command_frame.h"
+#include "editing/layer_pixels.h"
 #include "editing/style_commands.h"
 #include "editing/tips.h"
-#include "editing/undo_commands.h"
-#include "editing/view_commands.h"
+#include "editing/undo_step.h"
 #include "filters/blur_sharpen.h"
 #include "filters/color_adjustments.h"
 #include "filters/radial_light.h"
@@ -19,28 +17,25 @@ namespace {
 // One undo step, then the change, then the scene and the panel anew.
 template <typename Change>
 void ChangeInPlace(Editor& editor, Change change) {
-    RunCommand(editor, [&] {
-        BeginUndoStep(editor);
-        change();
-        Compose(editor);
-        editor.Host.LayerPanelChanged();
-    });
+    BeginUndoStep(editor);
+    change();
+    NoteStack(editor.Changed);
 }
 
 template <typename Change>
 void ChangeSelected(Editor& editor, Change change) {
-    if (editor.Document.HasSelection())
-        ChangeInPlace(editor, [&] { change(editor.Document.Selected().Image); });
+    if (editor.Page().HasSelection())
+        ChangeInPlace(editor, [&] { change(editor.Page().Selected().Image); });
 }
 
 template <typename Change>
 void ChangeAll(Editor& editor, Change change) {
-    if (editor.Document.LayerCount() < 1)
+    if (editor.Page().LayerCount() < 1)
         return;
     ChangeInPlace(editor, [&] {
-        for (document::IconLayer& layer : editor.Document.Layers)
+        for (document::IconLayer& layer : editor.Page().Layers)
             change(layer);
-        editor.Host.ShowTips(tips::Adjusted);
+        editor.Changed.Tip = {tips::Adjusted};
     });
 }
 
@@ -51,14 +46,14 @@ void Mac(Editor& editor) {
         filters::SaturationColor(image, -25);
         filters::Soften(image, filters::kBlurLevel);
         filters::ThreeDStyle(image, filters::kGentleLight);
-        editor.Host.ShowTips(tips::Adjusted);
+        editor.Changed.Tip = {tips::Adjusted};
     });
 }
 
 void Irradiation(Editor& editor) {
     ChangeSelected(editor, [&](Bitmap& image) {
         filters::ThreeDStyle(image, filters::kStrongLight);
-        editor.Host.ShowTips(tips::Adjusted);
+        editor.Changed.Tip = {tips::Adjusted};
     });
 }
 
@@ -67,13 +62,12 @@ void Blur(Editor& editor) {
 }
 
 void Sharpen(Editor& editor) {
-    if (!editor.Document.HasSelection())
+    if (!editor.Page().HasSelection())
         return;
-    RunCommand(editor, [&] {
-        BeginUndoStep(editor);
-        ApplyLayerPixels(editor, PixelFilter::Sharpen, editor.Document.Selected().Image);
-        editor.Host.LayerPanelChanged();
-    });
+    BeginUndoStep(editor);
+    FilterLayerPixels(editor, editor.Page().Selected().Image,
+                      [](Bitmap& image) { filters::Sharpen(image, filters::kSharpenLevel); });
+    editor.Changed.Stack = true;
 }
 
 void DisabledState(Editor& editor) {

@@ -1,11 +1,7 @@
 // The scale slider.
-#include <algorithm>
-
 #include "editing/adjust_sliders.h"
-#include "editing/command_frame.h"
 #include "editing/tips.h"
-#include "editing/undo_commands.h"
-#include "editing/view_commands.h"
+#include "editing/undo_step.h"
 #include "filters/create_region.h"
 #include "graphics/drawing_context.h"
 
@@ -15,8 +11,6 @@ using graphics::Bitmap;
 using graphics::RectF;
 
 namespace {
-
-constexpr int kRest = 50;
 
 // The shorter side follows the longer one by the ratio of the present Rect, which deliberately
 // drifts a little over a long drag.
@@ -49,42 +43,39 @@ void Resample(document::IconLayer& layer) {
 }  // namespace
 
 void PressScale(Editor& editor) {
-    if (!editor.Document.HasSelection())
+    if (!editor.Page().HasSelection())
         return;
-    RunCommand(editor, [&] {
-        BeginUndoStep(editor);
-        editor.ScaleStartRect = editor.Document.Selected().Rect;
-    });
+    BeginUndoStep(editor);
+    editor.Drag = ScaleDrag{editor.Page().Selected().Rect};
 }
 
 void ChangeScale(Editor& editor, int value) {
-    if (!editor.Document.HasSelection())
+    const auto* drag = std::get_if<ScaleDrag>(&editor.Drag);
+    if (!drag)
         return;
-    editor.Controls.Scale.Value = std::clamp(value, 0, 100);
-    const int step = editor.Controls.Scale.Value - kRest;
-    editor.Controls.ScaleValue = std::to_string(step);
-    ScaleRect(editor.Document.Selected().Rect, editor.ScaleStartRect, step);
-    Compose(editor);
+    Slider& slider = editor.Sliders.Scale;
+    slider.Value = slider.Clamped(value);
+    slider.Label = slider.Value - slider.Neutral;
+    ScaleRect(editor.Page().Selected().Rect, drag->Before, slider.Label);
+    editor.Changed.Pixels = true;
 }
 
 void ReleaseScale(Editor& editor) {
-    if (!editor.Document.HasSelection())
+    if (!std::holds_alternative<ScaleDrag>(editor.Drag))
         return;
-    RunCommand(editor, [&] {
-        document::IconLayer& layer = editor.Document.Selected();
-        Resample(layer);
-        layer.ImageWidth = graphics::RoundToEven(layer.Rect.Width);
-        layer.ImageHeight = graphics::RoundToEven(layer.Rect.Height);
-        layer.ScaleValue = 0;
-        layer.BaseRect = layer.Rect;
-        editor.Controls.Scale.Value = kRest;
-        editor.Controls.ScaleValue = "0";
-        filters::CreateRegion(layer.Image, layer.Region, filters::kVisibleAlpha);
-        layer.Region.Translate(layer.Rect.X, layer.Rect.Y);
-        Compose(editor);
-        editor.Host.LayerPanelChanged();
-        editor.Host.ShowTips(tips::Adjusted);
-    });
+    document::IconLayer& layer = editor.Page().Selected();
+    Resample(layer);
+    layer.ImageWidth = graphics::RoundToEven(layer.Rect.Width);
+    layer.ImageHeight = graphics::RoundToEven(layer.Rect.Height);
+    layer.ScaleValue = 0;
+    layer.BaseRect = layer.Rect;
+    Slider& slider = editor.Sliders.Scale;
+    slider.Value = slider.Neutral;
+    slider.Label = 0;
+    filters::RebuildRegion(layer.Region, layer.Image, {layer.Rect.X, layer.Rect.Y});
+    editor.Drag = {};
+    NoteStack(editor.Changed);
+    editor.Changed.Tip = {tips::Adjusted};
 }
 
 }  // namespace orbelle::editing

@@ -1,57 +1,30 @@
 #include "editing/scene_input.h"
 
-#include "editing/command_frame.h"
-#include "editing/drag.h"
-#include "editing/layer_commands.h"
+#include "editing/clipboard_commands.h"
 #include "editing/scene_mapping.h"
 #include "editing/tips.h"
 #include "editing/tools/polygon.h"
-#include "editing/view_commands.h"
+#include "editing/undo_step.h"
 
 namespace orbelle::editing {
 namespace {
 
 constexpr int kLeftButton = 1;
 
-// An event that fails gives up the drag that it belongs to.
-template <typename Handler>
-void HandleInput(Editor& editor, Handler&& handler) {
-    const std::string failure = Guarded([&] { handler(); });
-    if (!failure.empty()) {
-        AbandonDrag(editor);
-        editor.Host.ShowMessage(failure);
-    }
-}
-
 // A page without extent on the scene has no pixel under the pointer.
 bool CanMap(const Editor& editor) {
     return editor.View.Zoom != 0;
 }
 
-void PressLeft(Editor& editor, const Pointer& pointer) {
-    if (editor.Document.LayerCount() == 0 || !CanMap(editor))
-        return;
-    // A release can get lost, as when a menu opens in between.
-    AbandonDrag(editor);
-    HandlersOf(editor.CurrentTool).Press(editor, pointer);
-    EnableLayerSliders(editor);
-    editor.TipCounter = kTipsExpired;
-}
-
-void PressOther(Editor& editor, const Pointer& pointer) {
-    if (editor.CurrentTool == Tool::SelectPolygon) {
-        ClosePolygon(editor);
-        return;
-    }
-    editor.Host.ShowLayerMenu(pointer.X, pointer.Y);
-    editor.TipCounter = kTipsExpired;
+bool IsDragging(const Editor& editor) {
+    return !std::holds_alternative<std::monostate>(editor.Drag);
 }
 
 void ShowMarker(Editor& editor, const Pointer& pointer) {
     const SceneMapping mapping = MappingOf(editor);
     const graphics::PointF page = ScreenToPage(mapping, pointer.X, pointer.Y);
-    const bool isBrush = editor.CurrentTool == Tool::BrushEraser;
-    const double size = isBrush ? editor.Controls.BrushSize.Value * mapping.Zoom : mapping.Zoom;
+    const bool isBrush = editor.Tools.InUse == Tool::BrushEraser;
+    const double size = isBrush ? editor.Sliders.BrushSize.Value * mapping.Zoom : mapping.Zoom;
     const double reach = isBrush ? graphics::RoundToEven(size) / 2 : 0;
     editor.Overlays.PointerMark = {
         true,
@@ -62,80 +35,99 @@ void ShowMarker(Editor& editor, const Pointer& pointer) {
     };
 }
 
-}  // namespace
-
-void AbandonDrag(Editor& editor) {
-    if (!editor.DragActive)
-        return;
-    editor.DragActive = false;
-    HandlersOf(editor.CurrentTool).Abandon(editor);
-    editor.Host.OverlaysChanged();
+void FollowPointer(Editor& editor, const Pointer& pointer) {
+    editor.LastPointer = {pointer.X, pointer.Y};
+    Pointer position = pointer;
+    if (IsDragging(editor))
+        HandlersOf(editor.Tools.InUse).Move(editor, position);
+    else if (editor.Tools.InUse == Tool::SelectPolygon)
+        StretchRubberBand(editor, position);
+    if (editor.Tools.InUse != Tool::Move)
+        ShowMarker(editor, position);
 }
 
+void PressLeft(Editor& editor, const Pointer& pointer) {
+    if (editor.Page().LayerCount() == 0 || !CanMap(editor))
+        return;
+    HandlersOf(editor.Tools.InUse).Press(editor, pointer);
+    // A polygon's point comes in as with a move.
+    if (editor.Tools.InUse == Tool::SelectPolygon)
+        FollowPointer(editor, pointer);
+    editor.Changed.ExpireTips = true;
+}
+
+void PressOther(Editor& editor, const Pointer& pointer) {
+    if (editor.Tools.InUse == Tool::SelectPolygon)
+        return ClosePolygon(editor);
+    editor.Changed.LayerMenu = {pointer.X, pointer.Y};
+    editor.Changed.ExpireTips = true;
+}
+
+void Nudge(Editor& editor, float dx, float dy) {
+    BeginUndoStep(editor);
+    document::IconLayer& layer = editor.Page().Selected();
+    layer.Rect.X += dx;
+    layer.Rect.Y += dy;
+    layer.Region.Translate(dx, dy);
+    editor.Changed.Pixels = true;
+}
+
+}  // namespace
+
 void PressScene(Editor& editor, const Pointer& pointer) {
-    HandleInput(editor, [&] {
-        editor.MouseDownX = pointer.X;
-        editor.MouseDownY = pointer.Y;
-        editor.Controls.FillBarVisible = false;
-        if (pointer.Button == kLeftButton)
-            PressLeft(editor, pointer);
-        else
-            PressOther(editor, pointer);
-    });
-    editor.Host.ControlsChanged();
-    editor.Host.OverlaysChanged();
+    if (editor.Tools.OpenPopup == Popup::FillBar)
+        editor.Tools.OpenPopup = Popup::None;
+    if (pointer.Button == kLeftButton)
+        PressLeft(editor, pointer);
+    else
+        PressOther(editor, pointer);
 }
 
 void MoveScene(Editor& editor, const Pointer& pointer) {
-    const bool stayed = pointer.X == editor.LastMouseX && pointer.Y == editor.LastMouseY;
-    if ((stayed && editor.CurrentTool != Tool::SelectPolygon) || !CanMap(editor))
-        return;
-    HandleInput(editor, [&] {
-        editor.LastMouseX = pointer.X;
-        editor.LastMouseY = pointer.Y;
-        Pointer position = pointer;
-        if (editor.DragActive)
-            HandlersOf(editor.CurrentTool).Move(editor, position);
-        else if (editor.CurrentTool == Tool::SelectPolygon)
-            StretchRubberBand(editor, position);
-        if (editor.CurrentTool != Tool::Move)
-            ShowMarker(editor, position);
-    });
-    editor.Host.OverlaysChanged();
+    const bool stayed = graphics::PointF{pointer.X, pointer.Y} == editor.LastPointer;
+    if ((!stayed || editor.Tools.InUse == Tool::SelectPolygon) && CanMap(editor))
+        FollowPointer(editor, pointer);
 }
 
 void ReleaseScene(Editor& editor, const Pointer& pointer) {
-    HandleInput(editor, [&] {
-        AfterRelease after = AfterRelease::Compose;
-        if (editor.DragActive)
-            after = HandlersOf(editor.CurrentTool).Release(editor, pointer);
-        if (after == AfterRelease::Compose)
-            Compose(editor);
-        if (after == AfterRelease::HideTips || !editor.Document.HasSelection())
-            editor.Host.HideTips();
-        editor.DragActive = false;
-    });
-    editor.Host.ControlsChanged();
-    editor.Host.OverlaysChanged();
+    AfterRelease after = AfterRelease::Compose;
+    if (IsDragging(editor))
+        after = HandlersOf(editor.Tools.InUse).Release(editor, pointer);
+    if (after == AfterRelease::Compose)
+        editor.Changed.Pixels = true;
+    if (after == AfterRelease::HideTips || !editor.Page().HasSelection())
+        editor.Changed.HideTips = true;
+    editor.Drag = {};
 }
 
-void KeyDownScene(Editor& editor, int keyCode) {
-    if (!editor.Document.HasSelection()) {
-        editor.Host.ShowTips(tips::NothingToMove);
+void LeaveScene(Editor& editor) {
+    editor.Overlays.PointerMark.Visible = false;
+}
+
+void KeyDownScene(Editor& editor, SceneKey key) {
+    if (!editor.Page().HasSelection()) {
+        editor.Changed.Tip = {tips::NothingToMove};
         return;
     }
-    HandleInput(editor, [&] {
-        AbandonDrag(editor);
-        HandlersOf(editor.CurrentTool).Key(editor, keyCode);
-    });
-    editor.Host.ControlsChanged();
+    switch (key) {
+        case SceneKey::Left:
+            return Nudge(editor, -1, 0);
+        case SceneKey::Up:
+            return Nudge(editor, 0, -1);
+        case SceneKey::Right:
+            return Nudge(editor, 1, 0);
+        case SceneKey::Down:
+            return Nudge(editor, 0, 1);
+        case SceneKey::Delete:
+            if (editor.States.IsEnabled(CommandId::Delete))
+                DeleteSelected(editor);
+            return;
+    }
 }
 
 void CancelInput(Editor& editor) {
-    AbandonDrag(editor);
     DropPolygon(editor);
-    DrawScene(editor);
-    editor.Host.OverlaysChanged();
+    editor.Changed.Scene = true;
 }
 
 }  // namespace orbelle::editing

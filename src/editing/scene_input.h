@@ -7,18 +7,21 @@
 
 namespace orbelle::editing {
 
-// None of these shows a message but when memory or the history is full; the drag is then given up.
 void PressScene(Editor& editor, const Pointer& pointer);
+// These two belong to a drag.
 void MoveScene(Editor& editor, const Pointer& pointer);
-// Any button ends a drag.
-void ReleaseScene(Editor& editor, const Pointer& pointer);
-// `keyCode` as in tools/object_keys.h.
-void KeyDownScene(Editor& editor, int keyCode);
+void ReleaseScene(Editor& editor, const Pointer& pointer);  // any button ends a drag
 
-// Gives up a drag in progress and an open polygon.
+// The pointer is no longer over the scene.
+void LeaveScene(Editor& editor);
+
+enum class SceneKey { Left, Up, Right, Down, Delete };
+
+// An arrow moves the selected layer by one page pixel, an undo step for each press; Delete does
+// what the Edit menu's entry does, and nothing where that is disabled.
+void KeyDownScene(Editor& editor, SceneKey key);
+
+// Gives up an open polygon, as running any command gives up a drag.
 void CancelInput(Editor& editor);
-
-// The age that a press gives to open tips: they close at their next tick.
-inline constexpr int kTipsExpired = 500;
 
 }  // namespace orbelle::editing

@@ -27,17 +27,17 @@ float ClampAxis(float value, int scene, int page, double ratio, double zoom) {
 SceneMapping MappingAtPress(const Editor& editor) {
     return {
         static_cast<double>(
-            graphics::RoundToEven(document::PageOffsetX(editor.Document, editor.View))),
+            graphics::RoundToEven(document::PageOffsetX(editor.Page(), editor.View))),
         static_cast<double>(
-            graphics::RoundToEven(document::PageOffsetY(editor.Document, editor.View))),
+            graphics::RoundToEven(document::PageOffsetY(editor.Page(), editor.View))),
         editor.View.Zoom,
     };
 }
 
 SceneMapping MappingOf(const Editor& editor) {
     return {
-        static_cast<float>(document::PageOffsetX(editor.Document, editor.View)),
-        static_cast<float>(document::PageOffsetY(editor.Document, editor.View)),
+        static_cast<float>(document::PageOffsetX(editor.Page(), editor.View)),
+        static_cast<float>(document::PageOffsetY(editor.Page(), editor.View)),
         editor.View.Zoom,
     };
 }
@@ -53,9 +53,9 @@ PointF ScreenToLayer(const SceneMapping& mapping, const graphics::RectF& layer, 
 
 PointF ClampToScene(const Editor& editor, float x, float y) {
     const document::View& view = editor.View;
-    return {ClampAxis(x, view.SceneWidth, editor.Document.PageWidth,
+    return {ClampAxis(x, view.SceneWidth, editor.Page().Width,
                       document::ScrollRatio(view.HorizontalScroll), view.Zoom),
-            ClampAxis(y, view.SceneHeight, editor.Document.PageHeight,
+            ClampAxis(y, view.SceneHeight, editor.Page().Height,
                       document::ScrollRatio(view.VerticalScroll), view.Zoom)};
 }
 

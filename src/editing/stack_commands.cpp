@@ -1,15 +1,12 @@
 #include "editing/stack_commands.h"
 
 #include <algorithm>
-#include <stdexcept>
 
-#include "editing/clipboard_commands.h"
-#include "editing/command_frame.h"
-#include "editing/layer_commands.h"
-#include "editing/undo_commands.h"
-#include "editing/view_commands.h"
+#include "editing/slider_positions.h"
+#include "editing/undo_step.h"
 #include "filters/create_region.h"
 #include "graphics/drawing_context.h"
+#include "graphics/errors.h"
 #include "graphics/rotate_flip.h"
 
 namespace orbelle::editing {
@@ -22,14 +19,13 @@ namespace {
 
 void ShowStack(Editor& editor) {
     ShowSelectedLayer(editor);
-    Compose(editor);
-    editor.Host.LayerPanelChanged();
+    NoteStack(editor.Changed);
 }
 
-void MoveLayer(document::Document& document, LayerOrder order) {
-    const auto first = document.Layers.begin();
-    const int from = document.SelectedLayer;
-    const int top = document.LayerCount() - 1;
+void MoveLayer(document::Page& page, LayerOrder order) {
+    const auto first = page.Layers.begin();
+    const int from = page.SelectedLayer;
+    const int top = page.LayerCount() - 1;
     int to = from;
     switch (order) {
         case LayerOrder::ToFront:
@@ -41,7 +37,7 @@ void MoveLayer(document::Document& document, LayerOrder order) {
         case LayerOrder::BackOne:
             to = std::max(from - 1, 0);
             break;
-        case LayerOrder::FowardOne:
+        case LayerOrder::ForwardOne:
             to = std::min(from + 1, top);
             break;
     }
@@ -49,18 +45,18 @@ void MoveLayer(document::Document& document, LayerOrder order) {
         std::rotate(first + from, first + from + 1, first + to + 1);
     else
         std::rotate(first + to, first + from, first + from + 1);
-    document.SelectedLayer = to;
+    page.SelectedLayer = to;
 }
 
 graphics::RotateFlipType TypeOf(FlipRotate mode) {
     switch (mode) {
-        case FlipRotate::FlipH:
+        case FlipRotate::FlipHorizontal:
             return graphics::RotateFlipType::RotateNoneFlipX;
-        case FlipRotate::FlipV:
+        case FlipRotate::FlipVertical:
             return graphics::RotateFlipType::RotateNoneFlipY;
-        case FlipRotate::Rotate90CWW:
+        case FlipRotate::Rotate90Cww:
             return graphics::RotateFlipType::Rotate90FlipX;
-        case FlipRotate::Rotate90CW:
+        case FlipRotate::Rotate90Cw:
             break;
     }
     return graphics::RotateFlipType::Rotate90FlipNone;
@@ -75,7 +71,7 @@ void DrawLayer(graphics::DrawingContext& context, const IconLayer& layer, const 
 }
 
 // Both layers as they look on the page, the boxes of both as a whole, also where they leave it.
-// Throws std::length_error for boxes too far apart for one picture.
+// Throws Error for boxes too far apart for one picture.
 IconLayer Merged(const IconLayer& upper, const IconLayer& lower) {
     graphics::Region boxes = graphics::Region::FromRect(upper.Rect);
     boxes.CombineRect(lower.Rect, graphics::CombineMode::Union);
@@ -88,7 +84,7 @@ IconLayer Merged(const IconLayer& upper, const IconLayer& lower) {
     merged.ImageHeight = graphics::RoundToEven(bounds.Height);
     merged.Image = Bitmap(merged.ImageWidth, merged.ImageHeight);
     if (merged.Image.IsEmpty() && !boxes.IsEmpty())
-        throw std::length_error("The two layers are too far apart to become one picture.");
+        throw Error("The two layers are too far apart to become one picture.");
     graphics::DrawingContext context(merged.Image);
     context.SetInterpolationMode(graphics::InterpolationMode::NearestNeighbor);
     context.SetPixelOffsetMode(graphics::PixelOffsetMode::HighQuality);
@@ -107,106 +103,47 @@ IconLayer Merged(const IconLayer& upper, const IconLayer& lower) {
     return merged;
 }
 
-void MergeDown(Editor& editor) {
-    constexpr int kUndoSteps = 2;
-    const document::Document& document = editor.Document;
-    if (document.SelectedLayer < 1)
-        return;
-    editor.History.CheckRoom(document, kUndoSteps);
-    const IconLayer merged = Merged(
-        document.Selected(), document.Layers[static_cast<std::size_t>(document.SelectedLayer) - 1]);
-    BeginUndoStep(editor);
-    DeleteIcon(editor, false);
-    editor.Document.Selected() = merged;
-    ShowStack(editor);
-}
-
 }  // namespace
 
 void SetLayerOrder(Editor& editor, LayerOrder order) {
-    if (!editor.Document.HasSelection() || editor.Document.LayerCount() == 1)
+    if (!editor.Page().HasSelection() || editor.Page().LayerCount() == 1)
         return;
-    RunCommand(editor, [&] {
-        BeginUndoStep(editor);
-        MoveLayer(editor.Document, order);
-        ShowStack(editor);
-    });
+    BeginUndoStep(editor);
+    MoveLayer(editor.Page(), order);
+    ShowStack(editor);
 }
 
 void FlipRotateLayer(Editor& editor, FlipRotate mode) {
-    if (!editor.Document.HasSelection())
-        return;
-    RunCommand(editor, [&] {
-        IconLayer& layer = editor.Document.Selected();
-        Bitmap image = layer.Image;
-        ImageRotateFlip(image, TypeOf(mode));
-        graphics::Region region = layer.Region;
-        filters::CreateRegion(image, region, filters::kVisibleAlpha);
-        region.Translate(layer.Rect.X, layer.Rect.Y);
-        BeginUndoStep(editor);
-        layer.Image = image;
-        layer.Region = region;
-        Compose(editor);
-        editor.Host.LayerPanelChanged();
-    });
-}
-
-void DeleteIcon(Editor& editor, bool redraw) {
-    document::Document& document = editor.Document;
-    if (!document.HasSelection())
+    if (!editor.Page().HasSelection())
         return;
     BeginUndoStep(editor);
-    document.Layers.erase(document.Layers.begin() + document.SelectedLayer);
-    document.SelectedLayer =
-        document.Layers.empty() ? document::kNoLayer : std::max(document.SelectedLayer - 1, 0);
-    ShowSelectedLayer(editor);
-    // The button deliberately keeps the last layer; the menu removes it.
-    if (document.LayerCount() == 1)
-        editor.Controls.LayerBar[layer_buttons::Remove].Enabled = false;
-    if (redraw) {
-        Compose(editor);
-        editor.Host.LayerPanelChanged();
-    }
+    IconLayer& layer = editor.Page().Selected();
+    ImageRotateFlip(layer.Image, TypeOf(mode));
+    filters::RebuildRegion(layer.Region, layer.Image, {layer.Rect.X, layer.Rect.Y});
+    NoteStack(editor.Changed);
 }
 
-void CombineIcon(Editor& editor) {
-    RunCommand(editor, [&] { MergeDown(editor); });
+void DeleteLayer(Editor& editor) {
+    document::Page& page = editor.Page();
+    if (!page.HasSelection())
+        return;
+    BeginUndoStep(editor);
+    page.Layers.erase(page.Layers.begin() + page.SelectedLayer);
+    page.SelectedLayer =
+        page.Layers.empty() ? document::kNoLayer : std::max(page.SelectedLayer - 1, 0);
+    ShowStack(editor);
 }
 
-void DeleteCommand(Editor& editor) {
-    RunCommand(editor, [&] {
-        if (editor.Selection.Exists())
-            DeleteSelection(editor);
-        else
-            DeleteIcon(editor, true);
-    });
-}
-
-void RemoveLayerCommand(Editor& editor) {
-    RunCommand(editor, [&] {
-        EndSelection(editor);
-        DeleteIcon(editor, true);
-    });
-}
-
-void HideLayerCommand(Editor& editor) {
-    RunCommand(editor, [&] {
-        EndSelection(editor);
-        if (!editor.Document.HasSelection())
-            return;
-        IconLayer& layer = editor.Document.Selected();
-        layer.Visible = !layer.Visible;
-        UpdateLayerButtons(editor);
-        Compose(editor);
-        editor.Host.LayerPanelChanged();
-    });
-}
-
-void MergeDownCommand(Editor& editor) {
-    RunCommand(editor, [&] {
-        EndSelection(editor);
-        MergeDown(editor);
-    });
+void MergeDown(Editor& editor) {
+    document::Page& page = editor.Page();
+    if (page.SelectedLayer < 1)
+        return;
+    const IconLayer merged =
+        Merged(page.Selected(), page.Layers[static_cast<std::size_t>(page.SelectedLayer) - 1]);
+    BeginUndoStep(editor);
+    DeleteLayer(editor);
+    page.Selected() = merged;
+    ShowStack(editor);
 }
 
 }  // namespace orbelle::editing

@@ -16,7 +16,7 @@ void Reflection(Editor& editor);
 void Shade(Editor& editor);
 
 // On a layer of their own below the selected one, which is selected then.
-void iOS(Editor& editor);
+void Ios(Editor& editor);
 void DropShadow(Editor& editor);
 
 // In the pictures of the layers themselves.

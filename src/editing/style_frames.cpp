@@ -1,8 +1,8 @@
 #include "editing/style_frames.h"
 
 #include "editing/layer_commands.h"
-#include "editing/undo_commands.h"
-#include "editing/view_commands.h"
+#include "editing/slider_positions.h"
+#include "editing/undo_step.h"
 #include "filters/create_region.h"
 
 namespace orbelle::editing {
@@ -12,11 +12,11 @@ using document::IconLayer;
 OverlayLayers OpenOverlay(Editor& editor, OverlayUndo undo) {
     if (undo == OverlayUndo::TwoSteps)
         BeginUndoStep(editor);
-    const IconLayer& selected = editor.Document.Selected();
+    const IconLayer& selected = editor.Page().Selected();
     AddEmptyLayer(editor, static_cast<float>(selected.ImageWidth),
                   static_cast<float>(selected.ImageHeight));
-    const auto above = static_cast<std::size_t>(editor.Document.SelectedLayer);
-    return {editor.Document.Layers[above], editor.Document.Layers[above - 1]};
+    const auto above = static_cast<std::size_t>(editor.Page().SelectedLayer);
+    return {editor.Page().Layers[above], editor.Page().Layers[above - 1]};
 }
 
 void PlaceStylePicture(IconLayer& layer, const std::optional<filters::StylePicture>& style) {
@@ -33,8 +33,7 @@ void FinishOverlay(const OverlayLayers& layers) {
     IconLayer& layer = layers.New;
     layer.Rect.X += layers.Source.Rect.X;
     layer.Rect.Y += layers.Source.Rect.Y;
-    filters::CreateRegion(layer.Image, layer.Region, filters::kVisibleAlpha);
-    layer.Region.Translate(layer.Rect.X, layer.Rect.Y);
+    filters::RebuildRegion(layer.Region, layer.Image, {layer.Rect.X, layer.Rect.Y});
     layer.Opacity = 1;
     layer.Rect.Width = static_cast<float>(layer.ImageWidth);
     layer.Rect.Height = static_cast<float>(layer.ImageHeight);
@@ -45,15 +44,13 @@ void FinishOverlay(const OverlayLayers& layers) {
 UnderlayLayers OpenUnderlay(Editor& editor) {
     const OverlayLayers room = OpenOverlay(editor, OverlayUndo::OneStep);
     room.New = room.Source;
-    --editor.Document.SelectedLayer;
+    --editor.Page().SelectedLayer;
     return {room.Source, room.New};
 }
 
 void ShowStyle(Editor& editor) {
-    editor.Controls.Opacity.Value =
-        graphics::RoundToEven(editor.Document.Selected().Opacity * 100.0);
-    Compose(editor);
-    editor.Host.LayerPanelChanged();
+    ShowLayerOpacity(editor);
+    NoteStack(editor.Changed);
 }
 
 }  // namespace orbelle::editing

@@ -28,7 +28,7 @@ constexpr FixedTip kFixedTips[] = {
     {tips::Crystal, "Here you can change the opacity of the Crystal.", TipPlace::OpacitySlider},
     {tips::Shade, "Here you can change the opacity of the Shade.", TipPlace::OpacitySlider},
     {tips::Vista, "Here you can change the opacity of the Vista style.", TipPlace::OpacitySlider},
-    {tips::iOS,
+    {tips::Ios,
      "Click here, you could try to draw a rectangle, or click File/Import to import a picture. it "
      "will look more perfect.",
      TipPlace::ToolColumn},
@@ -43,7 +43,7 @@ TipChoice MoveTips(const Editor& editor, bool showLayerTips, int pick) {
                   : "Using the mouse Drag & Drop or direction key to move the selected icon. Click "
                     "\"Style\" menu to ornament your icon.",
         TipPlace::LayerMiddle};
-    choice.FirstVisible = editor.Document.LayerCount() > 0;
+    choice.FirstVisible = editor.Page().LayerCount() > 0;
     if (showLayerTips) {
         choice.SecondBalloon =
             Tip{"You aslo can click the \"Add\" button to import a new icon image.",
@@ -103,9 +103,9 @@ std::string OptionsText(Tool tool) {
 }
 
 TipChoice ToolTips(const Editor& editor) {
-    const Tool tool = editor.CurrentTool;
+    const Tool tool = editor.Tools.InUse;
     TipChoice choice;
-    choice.FirstVisible = editor.Document.LayerCount() > 0;
+    choice.FirstVisible = editor.Page().LayerCount() > 0;
     choice.SecondVisible = tool != Tool::PencilEraser && tool != Tool::SelectRectangle;
     if (const std::string text = DrawingText(tool); !text.empty())
         choice.FirstBalloon = Tip{text, TipPlace::LayerMiddle};

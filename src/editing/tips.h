@@ -13,7 +13,7 @@ inline constexpr int Reflection = 8;
 inline constexpr int Crystal = 9;  // and origami
 inline constexpr int Shade = 10;
 inline constexpr int Vista = 11;  // and fresh
-inline constexpr int iOS = 14;
+inline constexpr int Ios = 14;
 inline constexpr int NothingToMove = 15;
 
 }  // namespace orbelle::editing::tips

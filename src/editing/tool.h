@@ -1,6 +1,10 @@
 // The tools and what they draw with, by the numbers that the product gives them.
 #pragma once
 
+#include <array>
+
+#include "graphics/color.h"
+
 namespace orbelle::editing {
 
 enum class Tool {
@@ -19,11 +23,35 @@ enum class Tool {
     BrushEraser = 12,
 };
 
+constexpr bool IsSelectionTool(Tool tool) {
+    return tool >= Tool::SelectRectangle && tool <= Tool::SelectPolygon;
+}
+
+constexpr bool IsEraser(Tool tool) {
+    return tool == Tool::PencilEraser || tool == Tool::BrushEraser;
+}
+
 enum class FillKind {
     Solid = 0,
     HorizontalGradient = 1,
     VerticalGradient = 2,
     RadialGradient = 3,
+};
+
+// The pop-ups of the tool box.
+enum class Popup { None, FillBar, SelectionBar, EraserBar };
+
+// What the tools work with besides the sliders.
+struct ToolSettings {
+    Tool InUse = Tool::Move;
+    Tool SelectionKind = Tool::SelectRectangle;  // that the Selection button stands for
+    Tool EraserKind = Tool::PencilEraser;        // that the Erase button stands for
+    editing::FillKind FillKind = editing::FillKind::Solid;
+    std::array<graphics::Argb, 2> Colors{};  // foreground, background
+    int ActiveColor = 0;                     // the one in use
+    Popup OpenPopup = Popup::None;
+
+    bool operator==(const ToolSettings&) const = default;
 };
 
 }  // namespace orbelle::editing

@@ -1,226 +1,134 @@
 #include "editing/tool_palette.h"
 
-#include <algorithm>
-#include <string>
-
+#include "editing/buttons.h"
 #include "editing/color_wells.h"
-#include "editing/drag.h"
-#include "editing/scene_input.h"
 #include "editing/tips.h"
-#include "editing/tools/polygon.h"
-#include "editing/view_commands.h"
 
 namespace orbelle::editing {
 namespace {
 
-enum class Selection { Keep, Begin, End };
-
-struct ToolChoice {
-    int Button;
-    Tool Chosen;  // for buttons 2 and 12 the pop-up's choice counts
-    bool HasLineWidth;
-    bool HasColorOpacity;
-    Selection Selected;
-};
-
-constexpr ToolChoice kChoices[] = {
-    {tool_buttons::Move, Tool::Move, false, false, Selection::Keep},
-    {tool_buttons::Selection, Tool::SelectRectangle, false, false, Selection::Begin},
-    {tool_buttons::Pencil, Tool::Pencil, false, true, Selection::End},
-    {tool_buttons::Line, Tool::Line, true, true, Selection::End},
-    {tool_buttons::Ellipse, Tool::Ellipse, true, true, Selection::End},
-    {tool_buttons::FilledEllipse, Tool::FilledEllipse, false, true, Selection::End},
-    {tool_buttons::Rectangle, Tool::Rectangle, true, true, Selection::End},
-    {tool_buttons::FilledRectangle, Tool::FilledRectangle, false, true, Selection::End},
-    {tool_buttons::ColorPick, Tool::ColorPick, false, true, Selection::End},
-    {tool_buttons::Eraser, Tool::PencilEraser, false, false, Selection::End},
-};
-
-template <std::size_t kCount>
-void PressOnly(std::array<Button, kCount>& buttons, int pressed) {
-    for (Button& button : buttons)
-        button.Pressed = false;
-    buttons[static_cast<std::size_t>(pressed)].Pressed = true;
-}
-
-template <std::size_t kCount>
-int PressedButton(const std::array<Button, kCount>& buttons) {
-    int pressed = 1;
-    for (std::size_t i = 1; i < kCount; ++i) {
-        if (buttons[i].Pressed)
-            pressed = static_cast<int>(i);
+// The tool that a button of the tool box chooses now.
+Tool ToolOfButton(const ToolSettings& tools, int button) {
+    switch (button) {
+        case tool_buttons::Selection:
+            return tools.SelectionKind;
+        case tool_buttons::Eraser:
+            return tools.EraserKind;
+        default:
+            break;
     }
-    return pressed;
+    for (const Tool tool : {Tool::Pencil, Tool::Line, Tool::Rectangle, Tool::Ellipse,
+                            Tool::FilledRectangle, Tool::FilledEllipse, Tool::ColorPick}) {
+        if (ButtonOf(tool) == button)
+            return tool;
+    }
+    return Tool::Move;
 }
 
-Tool SelectionTool(int button) {
-    return static_cast<Tool>(static_cast<int>(Tool::SelectRectangle) + button - 1);
-}
-
-void BeginSelection(Editor& editor) {
-    if (!editor.Selection.Exists())
-        editor.Selection.Start();
+Popup PopupOf(Tool tool) {
+    if (IsSelectionTool(tool))
+        return Popup::SelectionBar;
+    if (IsEraser(tool))
+        return Popup::EraserBar;
+    const bool isShape = tool >= Tool::Line && tool <= Tool::FilledEllipse;
+    return isShape ? Popup::FillBar : Popup::None;
 }
 
 void ShowSelectionFrame(Editor& editor) {
     OverlayShape& frame = editor.Overlays.SelectionFrame;
-    frame.IsOval = editor.CurrentTool == Tool::SelectEllipse;
-    frame.Visible = editor.CurrentTool != Tool::SelectPolygon && editor.Document.LayerCount() >= 1;
+    frame.IsOval = editor.Tools.InUse == Tool::SelectEllipse;
+    frame.Visible = editor.Tools.InUse != Tool::SelectPolygon && editor.Page().LayerCount() >= 1;
     frame.Rect = {};
 }
 
-// The brush has a panel of its own, the pencil eraser none.
-void UseEraser(Editor& editor, int button) {
-    const bool isBrush = button == eraser_buttons::Brush;
-    editor.CurrentTool = isBrush ? Tool::BrushEraser : Tool::PencilEraser;
-    editor.Controls.BrushPanelOpen = isBrush;
+// A polygon that was not closed lies between two tools.
+void UseTool(Editor& editor, Tool tool) {
+    editor.PolygonPoints.clear();
+    editor.Overlays.RubberBand.Visible = false;
+    editor.Tools.InUse = tool;
+    editor.Overlays.PointerMark.IsOval = tool == Tool::BrushEraser;
+    editor.Changed.Scene |= editor.Page().LayerCount() > 0;
 }
 
-// A pop-up opens with its button and closes with the next click on it.
-bool TogglePopup(bool visible, bool clickedAgain) {
-    return !clickedAgain || !visible;
+void UseSelectionTool(Editor& editor) {
+    if (!editor.Selection.Exists())
+        editor.Selection.Start();
+    ShowSelectionFrame(editor);
 }
 
-void ShowPopups(Editor& editor, int button) {
-    Controls& controls = editor.Controls;
-    const bool again = button == editor.LastToolButton;
-    const bool hasFill = button >= tool_buttons::Line && button <= tool_buttons::FilledRectangle;
-    controls.FillBarVisible = hasFill && TogglePopup(controls.FillBarVisible, again);
-    controls.SelectionBarVisible =
-        button == tool_buttons::Selection && TogglePopup(controls.SelectionBarVisible, again);
-    controls.EraserBarVisible =
-        button == tool_buttons::Eraser && TogglePopup(controls.EraserBarVisible, again);
-}
-
-// What lies between two tools: a drag, and a polygon that was not closed.
-void LeaveTool(Editor& editor) {
-    AbandonDrag(editor);
-    DropPolygon(editor);
-}
-
-void ShowToolChanged(Editor& editor) {
-    editor.Overlays.PointerMark.IsOval = editor.CurrentTool == Tool::BrushEraser;
-    if (editor.Document.LayerCount() > 0)
-        DrawScene(editor);
-    editor.Host.ControlsChanged();
-    editor.Host.OverlaysChanged();
-}
-
-void ApplyChoice(Editor& editor, const ToolChoice& choice) {
-    Controls& controls = editor.Controls;
-    controls.LineWidth.Enabled = choice.HasLineWidth;
-    controls.ColorOpacity.Enabled = choice.HasColorOpacity;
-    controls.BrushPanelOpen = false;
-    editor.CurrentTool = choice.Chosen;
-    switch (choice.Selected) {
-        case Selection::Keep:
-            break;
-        case Selection::Begin:
-            BeginSelection(editor);
-            break;
-        case Selection::End:
-            editor.Selection.Clear();
-            break;
-    }
-    if (choice.Button == tool_buttons::Move) {
+void ChooseTool(Editor& editor, Tool tool) {
+    UseTool(editor, tool);
+    if (tool == Tool::Move) {
         editor.Overlays.SelectionFrame.Visible = false;
         editor.Overlays.PointerMark.Visible = false;
-    } else if (choice.Button == tool_buttons::Selection) {
-        editor.CurrentTool = SelectionTool(PressedButton(controls.SelectionBar));
-        ShowSelectionFrame(editor);
-    } else if (choice.Button == tool_buttons::Eraser) {
-        UseEraser(editor, PressedButton(controls.EraserBar));
-        controls.ColorOpacity.Value = 0;
-        if (editor.CurrentTool == Tool::BrushEraser)
-            editor.TipCounter = kTipsExpired;
+    } else if (IsSelectionTool(tool)) {
+        UseSelectionTool(editor);
+    } else {
+        editor.Selection.Clear();
     }
+    if (IsEraser(tool))
+        editor.Sliders.ColorOpacity.Value = 0;
+    if (tool != Tool::PencilEraser)
+        ShowColorOpacity(editor);
+    if (tool == Tool::Move)
+        editor.Changed.Tip = {tips::MoveTool};
+    else if (tool != Tool::ColorPick)
+        editor.Changed.Tip = {tips::OtherTool};
 }
 
 }  // namespace
 
 void ClickToolButton(Editor& editor, int button) {
-    const auto* choice = std::find_if(std::begin(kChoices), std::end(kChoices),
-                                      [=](const ToolChoice& c) { return c.Button == button; });
-    Controls& controls = editor.Controls;
-    if (choice == std::end(kChoices) || !controls.ToolBox[static_cast<std::size_t>(button)].Enabled)
+    const int inUse = ButtonOf(editor.Tools.InUse);
+    ChooseToolByKey(editor, button);
+    if (ButtonOf(editor.Tools.InUse) != button)
         return;
-    LeaveTool(editor);
-    PressOnly(controls.ToolBox, button);
-    ApplyChoice(editor, *choice);
-    if (choice->Chosen == Tool::Move)
-        editor.Host.ShowTips(tips::MoveTool);
-    else if (choice->Chosen != Tool::ColorPick)
-        editor.Host.ShowTips(tips::OtherTool);
-    ShowPopups(editor, button);
-    if (editor.CurrentTool != Tool::PencilEraser)
-        ShowColorOpacity(editor);
-    ShowToolChanged(editor);
-    if (editor.LastToolButton == tool_buttons::Eraser || button == tool_buttons::Eraser)
-        editor.Host.SlideBrushPanel();
-    editor.LastToolButton = button;
+    // A pop-up opens with its button and closes with the next click on it.
+    const Popup popup = PopupOf(editor.Tools.InUse);
+    const bool closes = button == inUse && editor.Tools.OpenPopup == popup;
+    editor.Tools.OpenPopup = closes ? Popup::None : popup;
+}
+
+void ChooseToolByKey(Editor& editor, int button) {
+    if (!editor.States.ToolBox[static_cast<std::size_t>(button)].Enabled)
+        return;
+    ChooseTool(editor, ToolOfButton(editor.Tools, button));
+    editor.Tools.OpenPopup = Popup::None;
 }
 
 void ChooseFill(Editor& editor, FillKind kind) {
-    PressOnly(editor.Controls.FillBar, static_cast<int>(kind) + 1);
-    editor.Controls.FillBarVisible = false;
-    editor.FillKind = kind;
-    editor.Host.ControlsChanged();
+    editor.Tools.FillKind = kind;
+    editor.Tools.OpenPopup = Popup::None;
 }
 
-void ChooseSelection(Editor& editor, int button) {
-    LeaveTool(editor);
-    PressOnly(editor.Controls.SelectionBar, button);
-    editor.Controls.SelectionBarVisible = false;
-    editor.CurrentTool = SelectionTool(button);
-    ShowSelectionFrame(editor);
-    BeginSelection(editor);
-    ShowToolChanged(editor);
+void ChooseSelection(Editor& editor, Tool tool) {
+    editor.Tools.SelectionKind = tool;
+    editor.Tools.OpenPopup = Popup::None;
+    UseTool(editor, tool);
+    UseSelectionTool(editor);
 }
 
-void ChooseEraser(Editor& editor, int button) {
-    LeaveTool(editor);
-    PressOnly(editor.Controls.EraserBar, button);
-    editor.Controls.EraserBarVisible = false;
-    UseEraser(editor, button);
-    editor.Host.ShowTips(tips::OtherTool);
-    ShowToolChanged(editor);
-    editor.Host.SlideBrushPanel();
+void ChooseEraser(Editor& editor, Tool tool) {
+    editor.Tools.EraserKind = tool;
+    editor.Tools.OpenPopup = Popup::None;
+    UseTool(editor, tool);
+    editor.Changed.Tip = {tips::OtherTool};
 }
 
 void ChooseToolEntry(Editor& editor, Tool tool) {
-    LeaveTool(editor);
-    Controls& controls = editor.Controls;
-    const struct {
-        MenuEntry& Entry;
-        Tool Chosen;
-    } entries[] = {{controls.m_Selection, Tool::Move},
-                   {controls.m_Pencil, Tool::Pencil},
-                   {controls.m_Line, Tool::Line},
-                   {controls.m_Ellipse, Tool::Ellipse},
-                   {controls.m_Rectangle, Tool::Rectangle}};
-    for (const auto& entry : entries)
-        entry.Entry.Checked = entry.Chosen == tool;
-    controls.LineWidth.Enabled = tool != Tool::Move && tool != Tool::Pencil;
-    controls.ColorOpacity.Enabled = tool != Tool::Move;
-    editor.CurrentTool = tool;
-    ShowToolChanged(editor);
+    UseTool(editor, tool);
 }
 
 void ChangeLineWidth(Editor& editor, int value) {
-    editor.Controls.LineWidth.Value = value;
-    editor.Host.ControlsChanged();
+    editor.Sliders.LineWidth.Value = editor.Sliders.LineWidth.Clamped(value);
 }
 
 void ChangeBrushSize(Editor& editor, int value) {
-    editor.Controls.BrushSize.Value = value;
-    editor.Controls.BrushSizeText = std::to_string(value);
-    editor.Host.ControlsChanged();
+    editor.Sliders.BrushSize.Value = editor.Sliders.BrushSize.Clamped(value);
 }
 
 void ChangeBrushOpacity(Editor& editor, int value) {
-    editor.Controls.BrushOpacity.Value = value;
-    editor.Controls.BrushOpacityText = std::to_string(value) + "%";
-    editor.Host.ControlsChanged();
+    editor.Sliders.BrushOpacity.Value = editor.Sliders.BrushOpacity.Clamped(value);
 }
 
 }  // namespace orbelle::editing

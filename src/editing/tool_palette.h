@@ -1,26 +1,28 @@
-// What the buttons of the tool column, its pop-ups and the brush panel do.
+// What the buttons of the tool box, its pop-ups and the brush panel do.
 #pragma once
 
 #include "editing/editor.h"
 
 namespace orbelle::editing {
 
-// A click on a button of ToolBox (see tool_buttons): the tool, and which options it has. Every
-// tool but Move and the selections ends the selection.
+// A click on a button of the tool box (buttons.h): the tool, and its pop-up. Every tool but Move
+// and the selections ends the selection. Nothing happens while the button is disabled.
 void ClickToolButton(Editor& editor, int button);
 
-// Buttons of the pop-ups FillBar, SelectionBar and EraserBar; the pop-up closes.
-void ChooseFill(Editor& editor, FillKind kind);
-void ChooseSelection(Editor& editor, int button);
-void ChooseEraser(Editor& editor, int button);
+// The same by a key: the pop-up is the mouse's and stays closed.
+void ChooseToolByKey(Editor& editor, int button);
 
-// The entries of the Tool menu, which leave the tool column as it is. `tool`: Move, Pencil, Line,
-// Ellipse or Rectangle.
+// Buttons of the pop-ups; the pop-up closes.
+void ChooseFill(Editor& editor, FillKind kind);
+void ChooseSelection(Editor& editor, Tool tool);  // one of the three selections
+void ChooseEraser(Editor& editor, Tool tool);     // one of the two erasers
+
+// The entries of the Tool menu: Move, Pencil, Line, Ellipse or Rectangle. The selection stays.
 void ChooseToolEntry(Editor& editor, Tool tool);
 
-// Sliders of the tools' options.
-void ChangeLineWidth(Editor& editor, int value);     // 1 to 255 pixels
-void ChangeBrushSize(Editor& editor, int value);     // 1 to 100
-void ChangeBrushOpacity(Editor& editor, int value);  // 1 to 100
+// Sliders of the tools' options; the value is brought into the slider's range.
+void ChangeLineWidth(Editor& editor, int value);
+void ChangeBrushSize(Editor& editor, int value);
+void ChangeBrushOpacity(Editor& editor, int value);
 
 }  // namespace orbelle::editing

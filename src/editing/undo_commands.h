@@ -1,15 +1,11 @@
-// Undo and redo, and the step that every edit begins with.
+// Undo and redo.
 #pragma once
 
 #include "editing/editor.h"
 
 namespace orbelle::editing {
 
-// What every editing command does before it touches the stack: TruncateRedo, then PushSnapshot.
-// Throws document::HistoryLimit, with nothing changed, when the history is full.
-void BeginUndoStep(Editor& editor);
-
-// Each only while its button is enabled.
+// Each does nothing when there is nothing to take back or to do again.
 void Undo(Editor& editor);
 void Redo(Editor& editor);
 

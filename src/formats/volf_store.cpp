@@ -179,20 +179,20 @@ InvalidFile::InvalidFile() : Error("Invalid File") {}
 
 std::vector<std::uint8_t> EncodeDocument(const Document& document) {
     // The pictures take nearly all of the time.
-    std::vector<std::vector<std::uint8_t>> pngs(document.Layers.size());
+    std::vector<std::vector<std::uint8_t>> pngs(document.Master.Layers.size());
     ForEachInParallel(pngs.size(), [&](std::size_t i) {
-        const IconLayer& layer = document.Layers[i];
+        const IconLayer& layer = document.Master.Layers[i];
         pngs[i] = EncodePng(CopyBitmap(layer.Image, layer.ImageWidth, layer.ImageHeight));
     });
     std::vector<std::uint8_t> file(kMagic.begin(), kMagic.end());
     Append<std::uint16_t>(file, kFormatNumber);
     file.insert(file.end(), kTag.begin(), kTag.end());
-    Append<std::int32_t>(file, document.PageWidth);
-    Append<std::int32_t>(file, document.PageHeight);
-    Append<graphics::Argb>(file, document.PageBackground);
-    Append<std::int32_t>(file, document.LayerCount());
+    Append<std::int32_t>(file, document.Master.Width);
+    Append<std::int32_t>(file, document.Master.Height);
+    Append<graphics::Argb>(file, document.Background);
+    Append<std::int32_t>(file, document.Master.LayerCount());
     for (std::size_t i = 0; i < pngs.size(); ++i)
-        AppendLayer(file, document.Layers[i], pngs[i]);
+        AppendLayer(file, document.Master.Layers[i], pngs[i]);
     return file;
 }
 
@@ -209,15 +209,15 @@ void DecodeDocument(std::span<const std::uint8_t> bytes, Document& document) {
     if (!graphics::IsBitmapSizeAllowed(std::max(pageWidth, 1), std::max(pageHeight, 1)))
         throw Error("the page is too large: " + SizeText(pageWidth, pageHeight));
 
-    document.PageWidth = pageWidth;
-    document.PageHeight = pageHeight;
-    document.PageBackground = background;
-    document.SelectedLayer = document::kNoLayer;
-    document.Layers.clear();
+    document.Master.Width = pageWidth;
+    document.Master.Height = pageHeight;
+    document.Background = background;
+    document.Master.SelectedLayer = document::kNoLayer;
+    document.Master.Layers.clear();
     LayerReader layers(file);
     for (int i = 0; i < std::min(count, document::kMaxLayers); ++i) {
         try {
-            document.Layers.push_back(layers.Read());
+            document.Master.Layers.push_back(layers.Read());
         } catch (const Error& error) {
             throw Error("layer " + std::to_string(i) + ": " + error.what());
         }

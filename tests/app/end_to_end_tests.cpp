@@ -26,13 +26,22 @@ TEST_F(RealWindowTest, OpensAPictureStylesItUndoesAndCloses) {
     EXPECT_TRUE(QFile::exists(Path("home/OrbelleWork.conf")));
 }
 
-TEST_F(RealProgramTest, AScreenshotAt200PercentHasHardSquares) {
-    environment.insert("QT_QPA_PLATFORM", "offscreen");
-    environment.insert("QT_SCALE_FACTOR", "2");
-    StartProgram({"--screenshot", Path("work/shot.png"), WritePicture()});
-    ASSERT_TRUE(program.waitForFinished(60000));
-    ASSERT_EQ(program.exitCode(), 0);
+class ScreenshotTest : public RealProgramTest {
+protected:
+    // The program's exit status.
+    int TakeScreenshot(const QStringList& arguments) {
+        environment.insert("QT_QPA_PLATFORM", "offscreen");
+        QProcess process;
+        process.setProcessEnvironment(environment);
+        process.start(ORBELLE_SCREENSHOT_PROGRAM, arguments);
+        EXPECT_TRUE(process.waitForFinished(60000));
+        return process.exitCode();
+    }
+};
 
+TEST_F(ScreenshotTest, At200PercentHasHardSquares) {
+    environment.insert("QT_SCALE_FACTOR", "2");
+    ASSERT_EQ(TakeScreenshot({Path("work/shot.png"), WritePicture()}), 0);
     const QImage shot(Path("work/shot.png"));
     ASSERT_EQ(shot.size(), QSize(2200, 1520));
     constexpr int kSceneEnd = 1600;  // the layer list shows the picture, too
@@ -52,12 +61,10 @@ TEST_F(RealProgramTest, AScreenshotAt200PercentHasHardSquares) {
     EXPECT_FALSE(QFile::exists(Path("home/OrbelleWork.conf")));
 }
 
-TEST_F(RealProgramTest, AScreenshotOfABrokenFileFails) {
-    environment.insert("QT_QPA_PLATFORM", "offscreen");
-    StartProgram({"--screenshot", Path("work/shot.png"), Path("work/none.png")});
-    ASSERT_TRUE(program.waitForFinished(60000));
-    EXPECT_EQ(program.exitCode(), 1);
+TEST_F(ScreenshotTest, OfABrokenFileFails) {
+    EXPECT_EQ(TakeScreenshot({Path("work/shot.png"), Path("work/none.png")}), 1);
     EXPECT_FALSE(QFile::exists(Path("work/shot.png")));
+    EXPECT_EQ(TakeScreenshot({}), 2);
 }
 
 }  // namespace

@@ -30,27 +30,5 @@ TEST(IconStrip, CellsStandInARowWithPicturesAndCaptions) {
     EXPECT_EQ(strip.CaptionPlace(3, kHeight), (PointF{325, 180}));
 }
 
-TEST(IconStrip, APressSelectsTheCellUnderIt) {
-    IconImageStrip strip = StripOf({{1, 1}, {2, 2}, {3, 3}});
-    EXPECT_EQ(strip.GetImage().Width(), 1);
-    const struct {
-        int X, Y, Selected;
-    } presses[] = {{99, 0, 0},  {100, 0, 1},   {299, 199, 2},  {300, 10, -1}, {0, 0, 0},
-                   {-1, 0, -1}, {199, 100, 1}, {150, 200, -1}, {150, -1, -1}};
-    for (const auto& [x, y, selected] : presses) {
-        strip.Press(x, y, kHeight);
-        EXPECT_EQ(strip.SelectedIndex, selected) << x << ", " << y;
-        EXPECT_EQ(strip.GetImage().Width(), selected + 1);
-    }
-}
-
-TEST(IconStrip, WithoutImagesNothingIsSelected) {
-    IconImageStrip strip = StripOf({});
-    EXPECT_EQ(strip.Width(), 0);
-    EXPECT_EQ(strip.SelectedIndex, -1);
-    strip.Press(0, 0, kHeight);
-    EXPECT_TRUE(strip.GetImage().IsEmpty());
-}
-
 }  // namespace
 }  // namespace orbelle::app

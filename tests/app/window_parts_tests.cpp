@@ -131,8 +131,8 @@ TEST_F(WindowPartsTest, TheLayerListFollowsAndSelects) {
 TEST_F(WindowPartsTest, SlidersMirrorTheEditor) {
     EXPECT_FALSE(Part<widgets::NumberSlider>("PageWidth").isEnabled());
     NewPage(48, 32);
-    EXPECT_EQ(Part<widgets::NumberSlider>("PageWidth").ColorValue(), 48);
-    EXPECT_EQ(Part<widgets::NumberSlider>("PageHeight").ColorValue(), 32);
+    EXPECT_EQ(Part<widgets::NumberSlider>("PageWidth").Value(), 48);
+    EXPECT_EQ(Part<widgets::NumberSlider>("PageHeight").Value(), 32);
     ClickBar("ToolBox", 5);
     EXPECT_TRUE(Part<widgets::NumberSlider>("LineWidth").isEnabled());
     ClickBar("ToolBox", 4);

@@ -6,10 +6,8 @@
 #include <QTimer>
 #include <memory>
 
-#include "app/benchmark.h"
 #include "app/chrome.h"
 #include "app/main_window.h"
-#include "app/screenshot.h"
 #include "app/single_instance.h"
 #include "app/welcome_window.h"
 
@@ -28,12 +26,6 @@ int main(int argc, char** argv) {
     parser.setApplicationDescription("Varnel Orbelle, an icon editor.");
     parser.addHelpOption();
     parser.addVersionOption();
-    const QCommandLineOption screenshot(
-        "screenshot", "Write what the window shows to PICTURE, a PNG, and exit.", "PICTURE");
-    parser.addOption(screenshot);
-    const QCommandLineOption benchmark("benchmark",
-                                       "Print how long the window takes to follow a hand.");
-    parser.addOption(benchmark);
     parser.addPositionalArgument("FILE", "The document or picture to open.", "[FILE]");
     parser.process(application);
     const QStringList files = parser.positionalArguments();
@@ -42,10 +34,6 @@ int main(int argc, char** argv) {
         return 1;
     }
     const QString file = files.value(0);
-    if (parser.isSet(benchmark))
-        return orbelle::app::RunBenchmark();
-    if (parser.isSet(screenshot))
-        return orbelle::app::TakeScreenshot(parser.value(screenshot), file);
 
     // The text that a shell passes on: the path between quotation marks, or nothing.
     const QString commandLine =

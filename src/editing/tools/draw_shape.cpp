@@ -58,12 +58,12 @@ std::optional<Brush> RadialBrush(const ShapeBox& box, Tool tool, Argb centre, Ar
 // The gradients begin at the press and run from the foreground to the background colour, whichever
 // is in use.
 std::optional<Brush> MakeBrush(const Editor& editor, const ShapeBox& box) {
-    const Argb foreground = editor.Colors[0], background = editor.Colors[1];
+    const Argb foreground = editor.Tools.Colors[0], background = editor.Tools.Colors[1];
     const auto linear = [&](RectF rect, LinearGradientMode mode) {
         return CreateLineBrushFromRect(rect, foreground, background, mode);
     };
     const PointF anchor = box.Anchor;
-    switch (editor.CurrentTool == Tool::Pencil ? FillKind::Solid : editor.FillKind) {
+    switch (editor.Tools.InUse == Tool::Pencil ? FillKind::Solid : editor.Tools.FillKind) {
         case FillKind::Solid:
             break;
         case FillKind::HorizontalGradient:
@@ -73,20 +73,20 @@ std::optional<Brush> MakeBrush(const Editor& editor, const ShapeBox& box) {
             return linear({anchor.X, anchor.Y, box.Width, box.Height - 2},
                           LinearGradientMode::Vertical);
         case FillKind::RadialGradient:
-            return RadialBrush(box, editor.CurrentTool, foreground, background);
+            return RadialBrush(box, editor.Tools.InUse, foreground, background);
     }
-    return SolidBrush{editor.ActiveColor == 0 ? foreground : background};
+    return SolidBrush{editor.Tools.ActiveColor == 0 ? foreground : background};
 }
 
 }  // namespace
 
-void DrawShape(const Editor& editor, Bitmap& image, const Pointer& pointer,
+void DrawShape(const Editor& editor, const StrokeDrag& drag, Bitmap& image, const Pointer& pointer,
                SmoothingMode smoothing) {
-    const Tool tool = editor.CurrentTool;
+    const Tool tool = editor.Tools.InUse;
     const SceneMapping mapping = MappingOf(editor);
-    const RectF& layer = editor.Document.Selected().Rect;
+    const RectF& layer = editor.Page().Selected().Rect;
     const ShapeBox box =
-        BoxBetween(ScreenToLayer(mapping, layer, editor.MouseDownX, editor.MouseDownY),
+        BoxBetween(ScreenToLayer(mapping, layer, drag.Press.X, drag.Press.Y),
                    ScreenToLayer(mapping, layer, pointer.X, pointer.Y), pointer.IsShiftAlone());
     const std::optional<Brush> brush = MakeBrush(editor, box);
     if (!brush)
@@ -95,13 +95,13 @@ void DrawShape(const Editor& editor, Bitmap& image, const Pointer& pointer,
     DrawingContext context(image);
     context.SetSmoothingMode(smoothing);  // rectangles stay hard-edged all the same
     const float penWidth =
-        tool == Tool::Pencil ? 1 : static_cast<float>(editor.Controls.LineWidth.Value);
+        tool == Tool::Pencil ? 1 : static_cast<float>(editor.Sliders.LineWidth.Value);
     const Pen pen{*brush, penWidth};
     const RectF whole{box.Left, box.Top, box.Width, box.Height};
     const RectF outline{box.Left, box.Top, box.Width - 1, box.Height - 1};
     switch (tool) {
         case Tool::Pencil:
-            return context.DrawLines(pen, editor.PencilPoints);
+            return context.DrawLines(pen, drag.Freehand);
         case Tool::Line:
             return context.DrawLine(pen, box.Start, box.End);
         case Tool::Rectangle:

@@ -1,58 +1,64 @@
 // The pencil eraser clears single pixels, the brush eraser softens round spots.
-#include "editing/apply_layer_pixels.h"
+#include "editing/layer_pixels.h"
 #include "editing/scene_mapping.h"
-#include "editing/tools/object_keys.h"
 #include "editing/tools/tool_handlers.h"
-#include "editing/undo_commands.h"
+#include "editing/undo_step.h"
+#include "filters/erasers.h"
 
 namespace orbelle::editing {
 namespace {
 
 constexpr double kBrushSpacing = 20;  // scene pixels, whatever the zoom
 
-void Erase(Editor& editor, PixelFilter eraser, const SceneMapping& mapping,
-           const Pointer& pointer) {
-    const document::IconLayer& layer = editor.Document.Selected();
-    const graphics::PointF pixel = ScreenToLayer(mapping, layer.Rect, pointer.X, pointer.Y);
-    ApplyLayerPixels(editor, eraser, layer.Image, pixel.X, pixel.Y);
+using Eraser = void (*)(const Editor&, graphics::Bitmap&, int x, int y);
+
+void ErasePixel(const Editor&, graphics::Bitmap& image, int x, int y) {
+    filters::EraseColor(image, x, y);
 }
 
-template <PixelFilter kEraser>
+void EraseSpot(const Editor& editor, graphics::Bitmap& image, int x, int y) {
+    filters::EraseTool(image, x, y, editor.Sliders.BrushSize.Value,
+                       editor.Sliders.BrushOpacity.Value / 2);
+}
+
+void Erase(Editor& editor, Eraser eraser, const SceneMapping& mapping, const Pointer& pointer) {
+    const document::IconLayer& layer = editor.Page().Selected();
+    const graphics::PointF pixel = ScreenToLayer(mapping, layer.Rect, pointer.X, pointer.Y);
+    FilterLayerPixels(editor, layer.Image, [&](graphics::Bitmap& image) {
+        eraser(editor, image, graphics::RoundToEven(pixel.X), graphics::RoundToEven(pixel.Y));
+    });
+}
+
+template <Eraser kEraser>
 void Press(Editor& editor, const Pointer& pointer) {
-    if (!editor.Document.HasSelection())
+    if (!editor.Page().HasSelection())
         return;
     BeginUndoStep(editor);
-    editor.DragActive = true;
+    editor.Drag = EraserDrag{{pointer.X, pointer.Y}};
     Erase(editor, kEraser, MappingAtPress(editor), pointer);
 }
 
 void MovePencil(Editor& editor, Pointer& pointer) {
-    Erase(editor, PixelFilter::PencilEraser, MappingOf(editor), pointer);
+    Erase(editor, ErasePixel, MappingOf(editor), pointer);
 }
 
 void MoveBrush(Editor& editor, Pointer& pointer) {
-    const graphics::PointF last{editor.MouseDownX, editor.MouseDownY};
-    if (Distance(last, {pointer.X, pointer.Y}) <= kBrushSpacing)
+    auto& drag = std::get<EraserDrag>(editor.Drag);
+    if (Distance(drag.Last, {pointer.X, pointer.Y}) <= kBrushSpacing)
         return;
-    Erase(editor, PixelFilter::BrushEraser, MappingOf(editor), pointer);
-    editor.MouseDownX = pointer.X;
-    editor.MouseDownY = pointer.Y;
+    Erase(editor, EraseSpot, MappingOf(editor), pointer);
+    drag.Last = {pointer.X, pointer.Y};
 }
 
 // The layer's region deliberately stays as it was.
 AfterRelease Release(Editor& editor, const Pointer&) {
-    editor.Host.LayerPanelChanged();
+    editor.Changed.Stack = true;
     return AfterRelease::HideTips;
 }
 
-// What was erased is an undo step already.
-void Abandon(Editor&) {}
-
 }  // namespace
 
-const ToolHandlers kPencilEraserTool = {Press<PixelFilter::PencilEraser>, MovePencil, Release,
-                                        Abandon, HandleObjectKey};
-const ToolHandlers kBrushEraserTool = {Press<PixelFilter::BrushEraser>, MoveBrush, Release, Abandon,
-                                       HandleObjectKey};
+const ToolHandlers kPencilEraserTool = {Press<ErasePixel>, MovePencil, Release};
+const ToolHandlers kBrushEraserTool = {Press<EraseSpot>, MoveBrush, Release};
 
 }  // namespace orbelle::editing

@@ -1,12 +1,9 @@
 // Selects by a rectangle or an ellipse dragged over the page.
 #include <algorithm>
 
-#include "document/selection.h"
 #include "editing/scene_mapping.h"
-#include "editing/tools/object_keys.h"
 #include "editing/tools/selection_start.h"
 #include "editing/tools/tool_handlers.h"
-#include "editing/view_commands.h"
 
 namespace orbelle::editing {
 
@@ -21,16 +18,17 @@ struct Frame {
 
 Frame FrameTo(const Editor& editor, float x, float y) {
     const SceneMapping mapping = MappingOf(editor);
-    const PointF start = ScreenToPage(mapping, editor.MouseDownX, editor.MouseDownY);
+    const PointF press = std::get<FrameSelectionDrag>(editor.Drag).Press;
+    const PointF start = ScreenToPage(mapping, press.X, press.Y);
     const PointF end = ScreenToPage(mapping, x, y);
     return {start, {end.X + 1, end.Y + 1}};
 }
 
 void Press(Editor& editor, const Pointer& pointer) {
-    editor.Controls.SelectionBarVisible = false;
-    editor.Overlays.SelectionFrame = {true, editor.CurrentTool == Tool::SelectEllipse, {}};
-    MoveStartOntoPage(editor, pointer);
-    editor.DragActive = true;
+    if (editor.Tools.OpenPopup == Popup::SelectionBar)
+        editor.Tools.OpenPopup = Popup::None;
+    editor.Overlays.SelectionFrame = {true, editor.Tools.InUse == Tool::SelectEllipse, {}};
+    editor.Drag = FrameSelectionDrag{StartOnPage(editor, pointer)};
     if (!pointer.IsShiftAlone())
         editor.Selection.Start();
 }
@@ -55,34 +53,28 @@ void Select(Editor& editor, const Pointer& pointer) {
     const PointF onPage = ClampToScene(editor, pointer.X, pointer.Y);
     const Frame frame = FrameTo(editor, onPage.X, onPage.Y);
     using graphics::RoundToEven;
-    editor.Selection.AddFrame(std::min(RoundToEven(frame.End.X), editor.Document.PageWidth),
-                              std::min(RoundToEven(frame.End.Y), editor.Document.PageHeight),
+    editor.Selection.AddFrame(std::min(RoundToEven(frame.End.X), editor.Page().Width),
+                              std::min(RoundToEven(frame.End.Y), editor.Page().Height),
                               RoundToEven(frame.Start.X), RoundToEven(frame.Start.Y),
-                              editor.CurrentTool == Tool::SelectEllipse
+                              editor.Tools.InUse == Tool::SelectEllipse
                                   ? document::FrameShape::Ellipse
                                   : document::FrameShape::Rectangle);
 }
 
 AfterRelease Release(Editor& editor, const Pointer& pointer) {
     OverlayShape& shape = editor.Overlays.SelectionFrame;
-    const bool moved =
-        editor.LastMouseX != editor.MouseDownX || editor.LastMouseY != editor.MouseDownY;
     // A plain click ends the selection, with Shift too.
-    if (!moved)
+    if (editor.LastPointer == std::get<FrameSelectionDrag>(editor.Drag).Press)
         editor.Selection.Clear();
     else if (shape.Rect.Width > 0 && shape.Rect.Height > 0)
         Select(editor, pointer);
     shape = {};
-    DrawScene(editor);
+    editor.Changed.Scene = true;
     return AfterRelease::HideTips;
-}
-
-void Abandon(Editor& editor) {
-    editor.Overlays.SelectionFrame = {};
 }
 
 }  // namespace
 
-const ToolHandlers kFrameSelectionTool = {Press, Move, Release, Abandon, HandleObjectKey};
+const ToolHandlers kFrameSelectionTool = {Press, Move, Release};
 
 }  // namespace orbelle::editing

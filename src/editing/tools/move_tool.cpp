@@ -1,92 +1,77 @@
 // Picks the layer under the pointer and drags it.
-#include "editing/clipboard_commands.h"
-#include "editing/layer_commands.h"
 #include "editing/scene_mapping.h"
-#include "editing/tools/object_keys.h"
+#include "editing/selection_commands.h"
+#include "editing/slider_positions.h"
 #include "editing/tools/tool_handlers.h"
-#include "editing/undo_commands.h"
-#include "editing/view_commands.h"
+#include "editing/undo_step.h"
 #include "filters/create_region.h"
 
 namespace orbelle::editing {
 namespace {
 
-void StartDrag(Editor& editor) {
-    editor.DragActive = true;
-    editor.LayerStartX = editor.Document.Selected().Rect.X;
-    editor.LayerStartY = editor.Document.Selected().Rect.Y;
+void StartDrag(Editor& editor, const Pointer& pointer) {
+    editor.Drag = MoveDrag{{pointer.X, pointer.Y}, editor.Page().Selected().Rect};
 }
 
 // The topmost visible layer with a pixel there. Deliberately, with no visible layer at all the
 // selection stays.
-void Pick(Editor& editor, graphics::PointF page) {
-    document::Document& document = editor.Document;
-    for (int i = document.LayerCount() - 1; i >= 0; --i) {
-        const document::IconLayer& layer = document.Layers[static_cast<std::size_t>(i)];
+void Pick(Editor& editor, const Pointer& pointer) {
+    const graphics::PointF pixel = ScreenToPage(MappingAtPress(editor), pointer.X, pointer.Y);
+    document::Page& page = editor.Page();
+    for (int i = page.LayerCount() - 1; i >= 0; --i) {
+        const document::IconLayer& layer = page.Layers[static_cast<std::size_t>(i)];
         if (!layer.Visible)
             continue;
-        if (layer.Region.IsVisiblePoint(page.X, page.Y)) {
-            document.SelectedLayer = i;
-            StartDrag(editor);
-            ShowLayerSliders(editor);
-            ShowLayerAdjust(editor, i);
+        if (layer.Region.IsVisiblePoint(pixel.X, pixel.Y)) {
+            page.SelectedLayer = i;
+            StartDrag(editor, pointer);
+            ShowSelectedLayer(editor);
             return;
         }
-        document.SelectedLayer = document::kNoLayer;
-        editor.DragActive = false;
+        page.SelectedLayer = document::kNoLayer;
+        editor.Drag = {};
     }
 }
 
 void Press(Editor& editor, const Pointer& pointer) {
     if (editor.Selection.Exists())
         FloatSelection(editor);
-    if (editor.Document.HasSelection())
-        StartDrag(editor);
-    Pick(editor, ScreenToPage(MappingAtPress(editor), pointer.X, pointer.Y));
-    UpdateLayerButtons(editor);
-    editor.Host.LayerPanelChanged();
+    if (editor.Page().HasSelection())
+        StartDrag(editor, pointer);
+    Pick(editor, pointer);
+    editor.Changed.Stack = true;
 }
 
 void Move(Editor& editor, Pointer& pointer) {
-    graphics::RectF& rect = editor.Document.Selected().Rect;
+    const auto& drag = std::get<MoveDrag>(editor.Drag);
+    graphics::RectF& rect = editor.Page().Selected().Rect;
     const auto moved = [&editor](float start, float now, float down) {
         return static_cast<float>(
             graphics::RoundToEven(start + (double{now} - down) / editor.View.Zoom));
     };
-    rect.X = moved(editor.LayerStartX, pointer.X, editor.MouseDownX);
-    rect.Y = moved(editor.LayerStartY, pointer.Y, editor.MouseDownY);
-    Compose(editor);
-}
-
-void PutBack(Editor& editor) {
-    graphics::RectF& rect = editor.Document.Selected().Rect;
-    rect.X = editor.LayerStartX;
-    rect.Y = editor.LayerStartY;
+    rect.X = moved(drag.Before.X, pointer.X, drag.Press.X);
+    rect.Y = moved(drag.Before.Y, pointer.Y, drag.Press.Y);
+    editor.Changed.Pixels = true;
 }
 
 AfterRelease Release(Editor& editor, const Pointer& pointer) {
-    if (pointer.X == editor.MouseDownX && pointer.Y == editor.MouseDownY)
+    const auto& [press, before] = std::get<MoveDrag>(editor.Drag);
+    if (graphics::PointF{pointer.X, pointer.Y} == press)
         return AfterRelease::Compose;
     // The step to undo holds the place before the drag.
-    const graphics::RectF moved = editor.Document.Selected().Rect;
-    PutBack(editor);
+    const graphics::RectF moved = editor.Page().Selected().Rect;
+    editor.Page().Selected().Rect = before;
     BeginUndoStep(editor);
-    document::IconLayer& layer = editor.Document.Selected();
+    document::IconLayer& layer = editor.Page().Selected();
     layer.Rect = moved;
     // A picture without a visible pixel keeps its region, which then deliberately moves twice.
-    layer.Region.Translate(moved.X - editor.LayerStartX, moved.Y - editor.LayerStartY);
-    filters::CreateRegion(layer.Image, layer.Region, filters::kVisibleAlpha);
-    layer.Region.Translate(moved.X, moved.Y);
+    layer.Region.Translate(moved.X - before.X, moved.Y - before.Y);
+    filters::RebuildRegion(layer.Region, layer.Image, {moved.X, moved.Y});
     return AfterRelease::HideTips;
-}
-
-void Abandon(Editor& editor) {
-    PutBack(editor);
-    Compose(editor);
 }
 
 }  // namespace
 
-const ToolHandlers kMoveTool = {Press, Move, Release, Abandon, HandleObjectKey};
+const ToolHandlers kMoveTool = {Press, Move, Release};
 
 }  // namespace orbelle::editing

@@ -1,6 +1,5 @@
 // Draws freehand, one pixel wide. The line through all points is drawn anew at each move.
 #include "editing/scene_mapping.h"
-#include "editing/tools/object_keys.h"
 #include "editing/tools/stroke.h"
 
 namespace orbelle::editing {
@@ -11,8 +10,8 @@ constexpr double kClickLength = 0.449;
 
 graphics::PointF AddPoint(Editor& editor, const Pointer& pointer) {
     const graphics::PointF pixel =
-        ScreenToLayer(MappingOf(editor), editor.Document.Selected().Rect, pointer.X, pointer.Y);
-    editor.PencilPoints.push_back(pixel);
+        ScreenToLayer(MappingOf(editor), editor.Page().Selected().Rect, pointer.X, pointer.Y);
+    std::get<StrokeDrag>(editor.Drag).Freehand.push_back(pixel);
     return pixel;
 }
 
@@ -23,14 +22,15 @@ void Move(Editor& editor, Pointer& pointer) {
 
 AfterRelease Release(Editor& editor, const Pointer& pointer) {
     const graphics::PointF pixel = AddPoint(editor, pointer);
-    if (editor.PencilPoints.size() == 1)
-        editor.PencilPoints.push_back({static_cast<float>(pixel.X + kClickLength),
-                                       static_cast<float>(pixel.Y + kClickLength)});
+    auto& points = std::get<StrokeDrag>(editor.Drag).Freehand;
+    if (points.size() == 1)
+        points.push_back({static_cast<float>(pixel.X + kClickLength),
+                          static_cast<float>(pixel.Y + kClickLength)});
     return CommitStroke(editor, pointer);
 }
 
 }  // namespace
 
-const ToolHandlers kPencilTool = {BeginStroke, Move, Release, AbandonStroke, HandleObjectKey};
+const ToolHandlers kPencilTool = {BeginStroke, Move, Release};
 
 }  // namespace orbelle::editing

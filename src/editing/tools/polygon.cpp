@@ -1,7 +1,6 @@
 #include "editing/tools/polygon.h"
 
 #include "editing/scene_mapping.h"
-#include "editing/view_commands.h"
 #include "graphics/drawing_context.h"
 
 namespace orbelle::editing {
@@ -30,7 +29,7 @@ void ClosePolygon(Editor& editor) {
         editor.Selection.AddPolygon(editor.PolygonPoints);
     }
     DropPolygon(editor);
-    DrawScene(editor);
+    editor.Changed.Scene = true;
 }
 
 void DropPolygon(Editor& editor) {

@@ -1,10 +1,7 @@
 // Selects by a polygon: a point for each press, closed by the other button.
-#include "editing/scene_input.h"
 #include "editing/scene_mapping.h"
-#include "editing/tools/object_keys.h"
 #include "editing/tools/selection_start.h"
 #include "editing/tools/tool_handlers.h"
-#include "editing/view_commands.h"
 
 namespace orbelle::editing {
 
@@ -13,14 +10,12 @@ using graphics::PointF;
 namespace {
 
 void Press(Editor& editor, const Pointer& pointer) {
-    editor.Controls.SelectionBarVisible = false;
+    if (editor.Tools.OpenPopup == Popup::SelectionBar)
+        editor.Tools.OpenPopup = Popup::None;
     editor.Overlays.SelectionFrame.Visible = false;
-    MoveStartOntoPage(editor, pointer);
-    editor.DragActive = true;
+    editor.Drag = PolygonSelectionDrag{StartOnPage(editor, pointer)};
     if (editor.Selection.Exists() && !pointer.IsShiftAlone())
         editor.Selection.Start();
-    // The point comes in as with a move.
-    MoveScene(editor, pointer);
 }
 
 // A drag goes on adding points. Each is deliberately the upper left corner of the box between press
@@ -30,7 +25,8 @@ void Move(Editor& editor, Pointer& pointer) {
     pointer.X = onPage.X;
     pointer.Y = onPage.Y;
     const SceneMapping mapping = MappingOf(editor);
-    const PointF start = ScreenToPage(mapping, editor.MouseDownX, editor.MouseDownY);
+    const PointF press = std::get<PolygonSelectionDrag>(editor.Drag).Press;
+    const PointF start = ScreenToPage(mapping, press.X, press.Y);
     if (editor.PolygonPoints.empty()) {
         editor.PolygonPoints.push_back(start);
     } else {
@@ -38,18 +34,16 @@ void Move(Editor& editor, Pointer& pointer) {
         const graphics::RectF box = document::NormalizeRect(end.X, end.Y, start.X, start.Y);
         editor.PolygonPoints.push_back({box.X, box.Y});
     }
-    DrawScene(editor);
+    editor.Changed.Scene = true;
 }
 
+// The points survive between presses.
 AfterRelease Release(Editor&, const Pointer&) {
     return AfterRelease::HideTips;
 }
 
-// The points survive between presses.
-void Abandon(Editor&) {}
-
 }  // namespace
 
-const ToolHandlers kPolygonSelectionTool = {Press, Move, Release, Abandon, HandleObjectKey};
+const ToolHandlers kPolygonSelectionTool = {Press, Move, Release};
 
 }  // namespace orbelle::editing

@@ -5,7 +5,7 @@
 
 namespace orbelle::editing {
 
-// Sets MouseDownX, MouseDownY to the press, brought onto the page as it lies on the scene.
-void MoveStartOntoPage(Editor& editor, const Pointer& pointer);
+// The place of a press, brought onto the page as it lies on the scene, scene pixels.
+graphics::PointF StartOnPage(const Editor& editor, const Pointer& pointer);
 
 }  // namespace orbelle::editing

@@ -14,9 +14,7 @@ void PreviewStroke(Editor& editor, Pointer& pointer);
 
 // The undo step, the final stroke (smooth but for the pencil and rectangles) and the layer's new
 // region, which deliberately stands at the page's corner instead of the layer's place until the
-// next move of the layer. Throws document::HistoryLimit with the picture as it was at the press.
+// next move of the layer.
 AfterRelease CommitStroke(Editor& editor, const Pointer& pointer);
-
-void AbandonStroke(Editor& editor);
 
 }  // namespace orbelle::editing

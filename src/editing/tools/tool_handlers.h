@@ -19,16 +19,12 @@ struct Pointer {
 enum class AfterRelease { Compose, HideTips };
 
 struct ToolHandlers {
-    // A left press. There is at least one layer; DragActive, when set by this, begins a drag.
+    // A left press. There is at least one layer. Begins a drag by setting Editor::Drag.
     void (*Press)(Editor&, const Pointer&);
-    // A move of a drag. The tool may bring the position onto the page.
+    // A move of that drag. The tool may bring the position onto the page.
     void (*Move)(Editor&, Pointer&);
-    // The release that ends a drag, with any button.
+    // The release that ends it, with any button.
     AfterRelease (*Release)(Editor&, const Pointer&);
-    // The drag is given up: what it did and no undo step keeps is taken back.
-    void (*Abandon)(Editor&);
-    // A key, by its code, with a layer selected.
-    void (*Key)(Editor&, int keyCode);
 };
 
 extern const ToolHandlers kMoveTool;

@@ -1,0 +1,85 @@
+// Which commands, buttons and sliders are enabled and which are pressed: worked out from the state
+// of the editor after every command, in this one place.
+#pragma once
+
+#include <array>
+#include <cstddef>
+
+namespace orbelle::editing {
+
+struct Editor;
+
+// What a menu entry, a button or a shortcut stands for and can be disabled. All of a command's
+// entries, buttons and shortcuts have the one state.
+enum class CommandId {
+    Save,
+    SaveAs,
+    Export,
+    Undo,
+    Redo,
+    Cut,
+    Copy,
+    Paste,
+    Delete,
+    MergeDown,
+    FlipHorizontal,
+    FlipVertical,
+    Rotate90Cw,
+    Rotate90Cww,
+    BackOne,
+    ForwardOne,
+    ToBack,
+    ToFront,
+    SetOrder,
+    AddLayer,
+    RemoveLayer,
+    HideLayer,
+    DisabledState,
+    HotState,
+    Fresh,
+    Ios,
+    Origami,
+    Mac,
+    Vista,
+    Crystal,
+    Blur,
+    Sharpen,
+    Irradiation,
+    Shade,
+    Reflection,
+    DropShadow,
+    ChooseTool,
+    ZoomIn,
+    ZoomOut,
+    OriginalSize,
+    PageBackground,
+    Count,
+};
+
+struct ButtonState {
+    bool Enabled = false;
+    bool Pressed = false;
+    bool operator==(const ButtonState&) const = default;
+};
+
+// By button number (buttons.h); index 0 and those of separators are unused.
+struct ControlStates {
+    std::array<bool, static_cast<std::size_t>(CommandId::Count)> Commands{};
+
+    std::array<ButtonState, 14> MainBar;
+    std::array<ButtonState, 13> ToolBox;
+    std::array<ButtonState, 5> FillBar;
+    std::array<ButtonState, 7> LayerBar;
+    std::array<ButtonState, 4> SelectionBar;
+    std::array<ButtonState, 3> EraserBar;
+
+    bool IsEnabled(CommandId command) const { return Commands[static_cast<std::size_t>(command)]; }
+    bool operator==(const ControlStates&) const = default;
+};
+
+ControlStates StatesOf(const Editor& editor, bool clipboardHasPicture);
+
+// The same for the sliders: sets Slider::Enabled.
+void EnableSliders(Editor& editor);
+
+}  // namespace orbelle::editing

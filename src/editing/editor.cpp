@@ -1,0 +1,12 @@
+#include "editing/editor.h"
+
+namespace orbelle::editing {
+
+// The clipboard is asked from the first command on.
+Editor::Editor(EditorObserver& observer, editing::Clipboard& clipboard)
+    : Observer(observer), Clipboard(clipboard) {
+    EnableSliders(*this);
+    States = StatesOf(*this, false);
+}
+
+}  // namespace orbelle::editing

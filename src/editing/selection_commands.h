@@ -1,0 +1,24 @@
+// What becomes of a selection.
+#pragma once
+
+#include "editing/editor.h"
+
+namespace orbelle::editing {
+
+// Ends the selection, if there is one.
+void EndSelection(Editor& editor);
+
+// The selected pixels as a layer of their own that is in no stack. Needs a selection and a selected
+// layer.
+document::IconLayer CopyOfSelectedPixels(const Editor& editor);
+
+// An undo step: cuts the selected pixels out of the selected layer and ends the selection. Nothing
+// happens without a selected layer.
+void DeleteSelection(Editor& editor);
+
+// Cuts the selected pixels into a new layer above the selected one, or on top and out of the top
+// layer when none is selected; the selection ends. Deliberately two undo steps. Needs a selection
+// and a layer.
+void FloatSelection(Editor& editor);
+
+}  // namespace orbelle::editing

@@ -1,0 +1,21 @@
+// The sliders of the layer panels take the places of a layer.
+#pragma once
+
+#include "editing/editor.h"
+
+namespace orbelle::editing {
+
+// Sets the adjustment sliders; all labels but the hue's deliberately read 0 whatever they hold.
+void SetAdjustSliders(Editor& editor, int hue, int brightness, int saturation, int contrast);
+void SetAdjustSlidersNeutral(Editor& editor);
+
+// Opacity and scale from the selected layer.
+void ShowLayerSliders(Editor& editor);
+
+// All six from the selected layer; with none selected they keep their places.
+void ShowSelectedLayer(Editor& editor);
+
+// Opacity alone: what a style shows of its layer.
+void ShowLayerOpacity(Editor& editor);
+
+}  // namespace orbelle::editing
