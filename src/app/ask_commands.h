@@ -27,7 +27,7 @@ void ImportKnownFile(const WindowContext& context, const std::filesystem::path& 
 bool AskSave(const WindowContext& context);
 bool AskSaveAs(const WindowContext& context);
 
-void AskExport(const WindowContext& context, const ExportEntry& format);
+void AskExport(const WindowContext& context, const ExportEntry& entry);
 
 // Before a changed document is given up: by New, Open, a hand-over, or closing the window. False:
 // the user wants to go back, or wanted to save and that did not happen.

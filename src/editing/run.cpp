@@ -1,7 +1,6 @@
 #include "editing/run.h"
 
 #include <new>
-#include <optional>
 #include <utility>
 
 #include "document/scene_painter.h"
@@ -66,17 +65,15 @@ void NoteControls(Editor& editor, const EditorState& before) {
     editor.States = states;
 }
 
-Outcome Execute(Editor& editor, const Command& command) {
-    std::optional<EditorState> before;
+Outcome Execute(Editor& editor, const Command& command, const EditorState& before) {
     const document::UndoHistory::Place place = editor.History.Here();
     const Outcome outcome = Attempt([&] {
-        before = editor;
         command(editor);
         Show(editor);
     });
     bool shown = true;
-    if (outcome.Failed() && before) {
-        static_cast<EditorState&>(editor) = *before;
+    if (outcome.Failed()) {
+        static_cast<EditorState&>(editor) = before;
         editor.History.RollBack(place);
         editor.Changed = {};
         editor.Changed.Pixels = editor.Changed.Stack = editor.Changed.Controls = true;
@@ -84,11 +81,21 @@ Outcome Execute(Editor& editor, const Command& command) {
         shown = !Attempt([&] { Show(editor); }).Failed();
     }
     editor.History.Settle();
-    NoteControls(editor, before ? *before : editor);
+    NoteControls(editor, before);
     editor.Observer.Changed(std::exchange(editor.Changed, {}));
     // Where memory does not suffice even for that, the next command paints it.
     editor.Changed.Pixels = !shown;
     return outcome;
+}
+
+Outcome Execute(Editor& editor, const Command& command) {
+    try {
+        const EditorState before = editor;
+        return Execute(editor, command, before);
+    } catch (const std::bad_alloc&) {
+        // There is no memory for the copy: nothing has begun.
+        return Outcome(std::current_exception());
+    }
 }
 
 }  // namespace
