@@ -14,7 +14,7 @@ namespace orbelle::app {
 void AskNew(const WindowContext& context);
 void AskOpen(const WindowContext& context);
 // What a command line or another copy of the program hands over: the first and last characters,
-// meant to be quotation marks, are cut unseen.
+// meant to be quotation marks, are cut unseen (docs/oddities.md, "Quotation marks").
 void OpenHandedOver(const WindowContext& context, std::string_view command);
 
 void AskImport(const WindowContext& context);

@@ -66,7 +66,8 @@ void DrawScene(Bitmap& scene, const Bitmap& canvas, Argb background, const View&
     const auto pageWidth = static_cast<float>(width);
     const auto pageHeight = static_cast<float>(height);
 
-    // The background deliberately lies half a page pixel to the lower right of the picture.
+    // The background lies half a page pixel to the lower right of the picture
+    // (docs/oddities.md, "Half a pixel").
     const auto halfZoom = static_cast<float>(RoundToEven(view.Zoom / 2));
     DrawPageBackground(scene, background, {left + halfZoom, top + halfZoom, pageWidth, pageHeight},
                        halfZoom);

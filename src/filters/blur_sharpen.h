@@ -1,9 +1,9 @@
 // Blur and sharpen: filters that look at the eight neighbours of a pixel.
 //
-// All of them work in place in one pass, row by row from the top left, and deliberately read what
-// they have already rewritten: that feedback to the right and downward is part of their strength.
-// An empty bitmap stays empty. `level` is a strength from 0 to 100, what lies beyond is taken as
-// the nearer end.
+// All of them work in place in one pass, row by row from the top left, and read what they have
+// already rewritten: that feedback to the right and downward is part of their strength
+// (docs/oddities.md, "Blur runs on"). An empty bitmap stays empty. `level` is a strength from 0 to
+// 100, what lies beyond is taken as the nearer end.
 #pragma once
 
 #include "graphics/bitmap.h"

@@ -19,7 +19,7 @@ std::span<Argb> PixelsOf(graphics::Bitmap& image) {
 }
 
 // Of the first colour and of the second, which is mixed in by t of 255 (-255 to 255). The ends take
-// one colour whole; between them the two deliberately make up 255 of 256.
+// one colour whole; between them the two make up 255 of 256 (docs/oddities.md, "255 of 256").
 MixWeights WeightsOf(int t) {
     if (t == 0)
         return {256, 0};

@@ -7,7 +7,8 @@
 namespace orbelle::filters {
 
 // Turns the hue by `hue` of 350, limited to 0..350; 0 leaves the picture as it is. No true
-// rotation: each seventh of the range exchanges the channels and mixes two of them.
+// rotation: each seventh of the range exchanges the channels and mixes two of them
+// (docs/oddities.md, "Hue in sevenths").
 void HueColor(graphics::Bitmap& image, float hue);
 
 // Hundredths: -100 pulls every colour to its average grey, 0 leaves it, above pushes it away.

@@ -87,7 +87,7 @@ private:
         }
     }
 
-    // Five terms by six: deliberately darker than their mean.
+    // Five terms by six: darker than their mean (docs/oddities.md, "Five sixths").
     Argb Darkened(const Argb* pixel) const {
         unsigned red = 0, green = 0, blue = 0;
         for (const Argb color : {pixel[0], pixel[1], pixel[-1], pixel[stride_], pixel[-stride_]}) {

@@ -120,7 +120,7 @@ void ExportImage(const fs::path& path, ExportFormat format, const Bitmap& page, 
             return ExportIcon(path, page, settings);
         case ExportFormat::Gif:
             // Only a background of exactly 0 makes a transparent entry; alpha 0 with other bits
-            // does not.
+            // does not (docs/oddities.md, "GIF backgrounds").
             return graphics::WriteFile(
                 path, EncodeGifPicture(DrawGifSurface(page, pageBackground), pageBackground == 0,
                                        static_cast<std::uint8_t>(settings.GifThreshold)));

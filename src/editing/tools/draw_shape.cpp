@@ -13,7 +13,8 @@ using namespace graphics;
 namespace {
 
 // All in layer pixels. The shape lies one pixel to the upper left of the points it is dragged
-// between and is one pixel larger than their distance and the pixel under the pointer ask for.
+// between and is one pixel larger than their distance and the pixel under the pointer ask for
+// (docs/oddities.md, "Shapes to the upper left").
 struct ShapeBox {
     PointF Start;
     PointF End;
