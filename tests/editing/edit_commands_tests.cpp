@@ -146,17 +146,18 @@ TEST_F(EditCommands, AFullHistoryRefusesTheNextChangeWithAMessage) {
 
 TEST_F(EditCommands, ExportWritesWhateverTheAnswerToTheOverwriteQuestion) {
     OpenFile(Picture("a.png", 4, 4));
+    const formats::ExportFormat& png = formats::kExportFormats[1];
     graphics::WriteFile(folder / "out.png", std::vector<std::uint8_t>(1));
     host.File = folder / "out.png";
     host.ConfirmAnswer = false;
-    Export(editor, formats::ExportFormat::Png, "");
+    Export(editor, png);
     EXPECT_THAT(host.Questions, ElementsAre("Warning: Image already exists, overwrite it?"));
     EXPECT_TRUE(
         testing::SamePixels(graphics::LoadImageFromFile(folder / "out.png"), editor.Canvas));
     EXPECT_FALSE(editor.Document.Modified);
 
     host.File = folder / "none/out.png";
-    Export(editor, formats::ExportFormat::Png, "");
+    Export(editor, png);
     EXPECT_THAT(host.Messages, IsEmpty());
     ASSERT_EQ(host.Statuses.size(), 1U);
     EXPECT_THAT(host.Statuses[0], HasSubstr("none/out.png"));
