@@ -48,6 +48,38 @@ QString Number(int number) {
     return QString::number(number);
 }
 
+// Its picture is a file.
+class Display {
+public:
+    Display() {
+        server_.start(
+            "Xvfb", {"-displayfd", "1", "-screen", "0",
+                     QString("%1x%2x24").arg(kDisplay.width()).arg(kDisplay.height()), "-nolisten",
+                     "tcp", "-noreset", "-fbdir", QString::fromStdString(folder_.Path().string())});
+        if (server_.waitForStarted() &&
+            WaitUntil([&] { return server_.waitForReadyRead(100) || server_.canReadLine(); }))
+            name_ = ":" + server_.readLine().trimmed();
+    }
+    ~Display() {
+        server_.kill();
+        server_.waitForFinished();
+    }
+    Display(const Display&) = delete;
+    Display& operator=(const Display&) = delete;
+
+    const QString& Name() const { return name_; }  // empty: it did not start
+    QString PictureFile() const {
+        return QString::fromStdString((folder_ / "Xvfb_screen0").string());
+    }
+
+private:
+    orbelle::testing::TemporaryFolder folder_;
+    QProcess server_;
+    QString name_;
+};
+
+std::unique_ptr<Display> display;
+
 }  // namespace
 
 RealProgramTest::RealProgramTest() {
@@ -101,24 +133,22 @@ bool RealProgramTest::EndsWell(QProcess& process) {
 }
 
 RealWindowTest::RealWindowTest() = default;
+RealWindowTest::~RealWindowTest() = default;
 
-RealWindowTest::~RealWindowTest() {
-    display.kill();
-    display.waitForFinished();
+void RealWindowTest::SetUpTestSuite() {
+    display = std::make_unique<Display>();
+}
+
+void RealWindowTest::TearDownTestSuite() {
+    display.reset();
 }
 
 void RealWindowTest::SetUp() {
     for (const char* tool : {"Xvfb", "xdotool"})
         if (QStandardPaths::findExecutable(tool).isEmpty())
             GTEST_SKIP() << tool << " is not installed";
-    std::filesystem::create_directory(folder / "screen");
-    // The display's picture becomes a file.
-    display.start("Xvfb", {"-displayfd", "1", "-screen", "0",
-                           QString("%1x%2x24").arg(kDisplay.width()).arg(kDisplay.height()),
-                           "-nolisten", "tcp", "-noreset", "-fbdir", Path("screen")});
-    ASSERT_TRUE(display.waitForStarted());
-    ASSERT_TRUE(WaitUntil([&] { return display.waitForReadyRead(100) || display.canReadLine(); }));
-    environment.insert("DISPLAY", ":" + display.readLine().trimmed());
+    ASSERT_FALSE(display->Name().isEmpty());
+    environment.insert("DISPLAY", display->Name());
     environment.insert("QT_QPA_PLATFORM", "xcb");
     // The display draws the pointer into its picture.
     MoveTo({0, 0});
@@ -213,8 +243,8 @@ void RealWindowTest::WaitUntilIdle() {
     });
 }
 
-QImage RealWindowTest::Screen() const {
-    QFile file(Path("screen/Xvfb_screen0"));
+QImage RealWindowTest::Screen() {
+    QFile file(display->PictureFile());
     // The file ends with the pixels.
     if (!file.open(QIODevice::ReadOnly) || file.size() < kDisplayBytes ||
         !file.seek(file.size() - kDisplayBytes))
@@ -222,7 +252,7 @@ QImage RealWindowTest::Screen() const {
     const QByteArray bytes = file.readAll();
     return QImage(reinterpret_cast<const uchar*>(bytes.constData()), kDisplay.width(),
                   kDisplay.height(), QImage::Format_RGB32)
-        .convertToFormat(QImage::Format_ARGB32);
+        .copy();
 }
 
 QRect RealWindowTest::SceneRect() {
@@ -231,7 +261,7 @@ QRect RealWindowTest::SceneRect() {
 }
 
 QImage RealWindowTest::Scene() {
-    return Screen().copy(SceneRect());
+    return Screen().copy(SceneRect()).convertToFormat(QImage::Format_ARGB32);
 }
 
 int RealWindowTest::Count(QRgb color) {
