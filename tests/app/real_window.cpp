@@ -48,7 +48,7 @@ QString Number(int number) {
     return QString::number(number);
 }
 
-// Its picture is a file.
+// What it shows is a file that ends with the pixels.
 class Display {
 public:
     Display() {
@@ -56,9 +56,13 @@ public:
             "Xvfb", {"-displayfd", "1", "-screen", "0",
                      QString("%1x%2x24").arg(kDisplay.width()).arg(kDisplay.height()), "-nolisten",
                      "tcp", "-noreset", "-fbdir", QString::fromStdString(folder_.Path().string())});
-        if (server_.waitForStarted() &&
-            WaitUntil([&] { return server_.waitForReadyRead(100) || server_.canReadLine(); }))
-            name_ = ":" + server_.readLine().trimmed();
+        if (!server_.waitForStarted() ||
+            !WaitUntil([&] { return server_.waitForReadyRead(100) || server_.canReadLine(); }))
+            return;
+        name_ = ":" + server_.readLine().trimmed();
+        file_.setFileName(QString::fromStdString((folder_ / "Xvfb_screen0").string()));
+        if (file_.open(QIODevice::ReadOnly))
+            pixels_ = file_.map(file_.size() - kDisplayBytes, kDisplayBytes);
     }
     ~Display() {
         server_.kill();
@@ -67,15 +71,19 @@ public:
     Display(const Display&) = delete;
     Display& operator=(const Display&) = delete;
 
-    const QString& Name() const { return name_; }  // empty: it did not start
-    QString PictureFile() const {
-        return QString::fromStdString((folder_ / "Xvfb_screen0").string());
+    bool Works() const { return pixels_; }
+    const QString& Name() const { return name_; }
+    // As it is now; to be copied.
+    QImage Picture() const {
+        return {pixels_, kDisplay.width(), kDisplay.height(), QImage::Format_RGB32};
     }
 
 private:
     orbelle::testing::TemporaryFolder folder_;
     QProcess server_;
     QString name_;
+    QFile file_;
+    const uchar* pixels_ = nullptr;
 };
 
 std::unique_ptr<Display> display;
@@ -147,7 +155,7 @@ void RealWindowTest::SetUp() {
     for (const char* tool : {"Xvfb", "xdotool"})
         if (QStandardPaths::findExecutable(tool).isEmpty())
             GTEST_SKIP() << tool << " is not installed";
-    ASSERT_FALSE(display->Name().isEmpty());
+    ASSERT_TRUE(display->Works());
     environment.insert("DISPLAY", display->Name());
     environment.insert("QT_QPA_PLATFORM", "xcb");
     // The display draws the pointer into its picture.
@@ -243,25 +251,13 @@ void RealWindowTest::WaitUntilIdle() {
     });
 }
 
-QImage RealWindowTest::Screen() {
-    QFile file(display->PictureFile());
-    // The file ends with the pixels.
-    if (!file.open(QIODevice::ReadOnly) || file.size() < kDisplayBytes ||
-        !file.seek(file.size() - kDisplayBytes))
-        return {};
-    const QByteArray bytes = file.readAll();
-    return QImage(reinterpret_cast<const uchar*>(bytes.constData()), kDisplay.width(),
-                  kDisplay.height(), QImage::Format_RGB32)
-        .copy();
-}
-
 QRect RealWindowTest::SceneRect() {
     const QWidget& scene = *Twin().findChild<SceneView*>();
     return QRect(kWindowPlace + scene.mapTo(&Twin(), QPoint(0, 0)), scene.size());
 }
 
 QImage RealWindowTest::Scene() {
-    return Screen().copy(SceneRect()).convertToFormat(QImage::Format_ARGB32);
+    return display->Picture().copy(SceneRect()).convertToFormat(QImage::Format_ARGB32);
 }
 
 int RealWindowTest::Count(QRgb color) {

@@ -71,9 +71,7 @@ protected:
     // Until the program has taken all input and sleeps.
     void WaitUntilIdle();
 
-    // The display as it is now; null: it cannot be read.
-    static QImage Screen();
-    // The part of it where the page is.
+    // The part of the display where the page is, as it is now.
     QImage Scene();
     // Pixels of the scene in a colour: how many, and the rectangle that holds them.
     int Count(QRgb color = kPictureColor);
