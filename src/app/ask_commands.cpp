@@ -25,7 +25,7 @@ constexpr char kSaveFilter[] = "Varnel Orbelle File(*.VOLF)|*.volf";
 // The picture of an icon file that the user chooses. No value: cancelled, or told why not.
 std::optional<graphics::Bitmap> AskIconImage(const WindowContext& context, const fs::path& path) {
     std::vector<formats::IconEntryImage> offered;
-    if (!context.Commands.Run([&](Editor&) { offered = editing::ReadIconImages(path); }))
+    if (!context.Commands.RunBusy([&](Editor&) { offered = editing::ReadIconImages(path); }))
         return std::nullopt;
     const std::optional<int> chosen = context.User.ChooseIconImage(offered);
     if (!chosen || *chosen < 0 || *chosen >= static_cast<int>(offered.size()))
@@ -39,7 +39,7 @@ using TakePicture = void (*)(Editor&, const graphics::Bitmap&);
 void Take(const WindowContext& context, const fs::path& path, TakeFile takeFile,
           TakePicture takePicture) {
     if (!editing::IsIconName(path)) {
-        context.Commands.Run([&](Editor& editor) { takeFile(editor, path, 0); });
+        context.Commands.RunBusy([&](Editor& editor) { takeFile(editor, path, 0); });
     } else if (const auto picture = AskIconImage(context, path)) {
         context.Commands.Run([&](Editor& editor) { takePicture(editor, *picture); });
     }
@@ -56,7 +56,7 @@ bool MayOverwrite(const WindowContext& context, const fs::path& path) {
 }
 
 bool Write(const WindowContext& context, const fs::path& path) {
-    return context.Commands.Run([&](Editor& editor) { SaveTo(editor, path); });
+    return context.Commands.RunBusy([&](Editor& editor) { SaveTo(editor, path); });
 }
 
 }  // namespace

@@ -30,7 +30,6 @@ public:
     widgets::PanelHeader& Header() const { return *title_; }
     void SetOpen(bool open);
     QWidget& FirstColorWell() const;
-    BrushPanel& Brush() const { return *brush_; }
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;

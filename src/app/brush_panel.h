@@ -26,7 +26,6 @@ public:
     void Slide(bool open);
     // After the parent has a new size.
     void Place();
-    bool IsSliding() const { return slide_.isActive(); }
 
 protected:
     void paintEvent(QPaintEvent* event) override;

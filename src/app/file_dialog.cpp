@@ -18,6 +18,10 @@ QStringList NameFilters(const std::string& filter) {
     return filters;
 }
 
+std::string EncodedName(const QString& name) {
+    return QFile::encodeName(name).toStdString();
+}
+
 std::filesystem::path AskForFile(QWidget* parent, const std::string& filter, bool isOpen) {
     static constexpr char kLastFolder[] = "LastFolder";
     Settings settings;
@@ -32,7 +36,7 @@ std::filesystem::path AskForFile(QWidget* parent, const std::string& filter, boo
         return {};
     const QString file = dialog.selectedFiles().constFirst();
     settings.setValue(kLastFolder, QFileInfo(file).absolutePath());
-    return QFile::encodeName(file).toStdString();
+    return EncodedName(file);
 }
 
 }  // namespace orbelle::app

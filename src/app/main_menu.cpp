@@ -40,6 +40,12 @@ Action Edit(editing::Command command) {
     };
 }
 
+Action Style(editing::Command command) {
+    return [command = std::move(command)](const WindowContext& context) {
+        context.Commands.RunBusy(command);
+    };
+}
+
 std::vector<Entry> ExportEntries() {
     static constexpr const char* kNames[] = {"ExportIco", "ExportPng", "ExportGif", "ExportJpeg",
                                              "ExportBmp"};
@@ -154,10 +160,10 @@ std::vector<Entry> EditEntries() {
 std::vector<Entry> StyleEntries() {
     const auto entry = [](const char* name, const char* caption, void (*command)(editing::Editor&),
                           CommandId state) {
-        return Entry{name, caption, {}, Edit(command), state};
+        return Entry{name, caption, {}, Style(command), state};
     };
     const auto fold = [](const char* name, const char* caption, filters::Fold direction) {
-        return Entry{name, caption, {}, Edit([direction](editing::Editor& editor) {
+        return Entry{name, caption, {}, Style([direction](editing::Editor& editor) {
                          Origami(editor, direction);
                      })};
     };

@@ -3,7 +3,6 @@
 #include <QClipboard>
 #include <QCloseEvent>
 #include <QDir>
-#include <QFile>
 #include <QGuiApplication>
 #include <QMenu>
 #include <QStatusBar>
@@ -12,6 +11,7 @@
 #include "app/ask_commands.h"
 #include "app/bottom_panel.h"
 #include "app/close_tips_tab.h"
+#include "app/file_dialog.h"
 #include "app/right_panel.h"
 #include "app/scene_view.h"
 #include "app/system_clipboard.h"
@@ -57,16 +57,21 @@ MainWindow::MainWindow() {
     layersTimer_.start(0);
 }
 
+bool MainWindow::Run(const editing::Command& command) {
+    statusBar()->clearMessage();
+    return Tell(editing::Run(editor_, command));
+}
+
+bool MainWindow::RunBusy(const editing::Command& command) {
+    return Tell(Try(command));
+}
+
 editing::Outcome MainWindow::Try(const editing::Command& command) {
     statusBar()->clearMessage();
     QGuiApplication::setOverrideCursor(Qt::WaitCursor);
     editing::Outcome outcome = editing::Run(editor_, command);
     QGuiApplication::restoreOverrideCursor();
     return outcome;
-}
-
-bool MainWindow::Run(const editing::Command& command) {
-    return Tell(Try(command));
 }
 
 bool MainWindow::RunDuringDrag(const editing::Command& step) {
@@ -81,7 +86,7 @@ bool MainWindow::Tell(const editing::Outcome& outcome) {
 }
 
 void MainWindow::ShellOpen(const QString& commandLine) {
-    OpenHandedOver(context_, QFile::encodeName(commandLine).toStdString());
+    OpenHandedOver(context_, EncodedName(commandLine));
 }
 
 void MainWindow::TakeHandOver(const QString& commandLine) {
@@ -97,9 +102,8 @@ void MainWindow::OpenPath(const QString& path) {
 }
 
 void MainWindow::ImportFiles(const QStringList& files) {
-    for (const QString& file : files) {
-        ImportKnownFile(context_, QFile::encodeName(file).toStdString());
-    }
+    for (const QString& file : files)
+        ImportKnownFile(context_, EncodedName(file));
 }
 
 void MainWindow::ImportDroppedPicture(const QImage& picture) {
@@ -128,7 +132,7 @@ void MainWindow::ShowAbout() {
 void MainWindow::Paste() {
     const QStringList files = SystemClipboardFiles();
     if (files.isEmpty())
-        Run(editing::PasteFromClipboard);
+        RunBusy(editing::PasteFromClipboard);
     else
         ImportFiles(files);
 }

@@ -52,8 +52,9 @@ public:
 
     bool IsZoomAnimationRunning() const { return zoomAnimation_.isActive(); }
 
-    editing::Outcome Try(const editing::Command& command) override;
     bool Run(const editing::Command& command) override;
+    bool RunBusy(const editing::Command& command) override;
+    editing::Outcome Try(const editing::Command& command) override;
     bool RunDuringDrag(const editing::Command& step) override;
     const editing::Editor& Editor() const override { return editor_; }
 

@@ -117,10 +117,10 @@ std::optional<int> MainWindow::AskGifThreshold(const graphics::Bitmap& surface) 
 
 std::optional<int> MainWindow::ChooseIconImage(
     const std::vector<formats::IconEntryImage>& offered) {
-    IconImagesDialog form(offered, this);
-    if (form.exec() != QDialog::Accepted)
+    IconImagesDialog dialog(offered, this);
+    if (dialog.exec() != QDialog::Accepted)
         return std::nullopt;
-    return form.SelectedIndex();
+    return dialog.SelectedIndex();
 }
 
 std::optional<graphics::Argb> MainWindow::AskColor(graphics::Argb initial) {

@@ -9,14 +9,13 @@
 #include <algorithm>
 #include <cmath>
 
+#include "app/shared_image.h"
 #include "document/scene_painter.h"
 #include "widgets/artwork.h"
+#include "widgets/chrome.h"
 
 namespace orbelle::app {
 namespace {
-
-constexpr QColor kFrameColor(58, 150, 255);
-constexpr int kWelcomeStrongest = 250;
 
 // Hot spots of the pointers, as their drawings have them.
 constexpr QPoint kMoveSpot(16, 16), kLineSpot(16, 16), kPickSpot(2, 29), kEraseSpot(10, 27);
@@ -176,13 +175,11 @@ void SceneView::paintEvent(QPaintEvent*) {
         return;
     }
     // The painter scales without smoothing, so at 200 % a scene pixel is a hard 2 x 2 square.
-    const QImage image(reinterpret_cast<const uchar*>(scene.Pixels()), scene.Width(),
-                       scene.Height(), scene.Width() * qsizetype{4}, QImage::Format_RGB32);
-    painter.drawImage(0, 0, image);
+    painter.drawImage(0, 0, SharedImage(scene, QImage::Format_RGB32));
 
     const auto frame = document::ObjectFrame(editor_.Page(), editor_.View);
     if (frame && !editor_.Selection.Exists()) {
-        painter.setPen(QPen(kFrameColor, 1, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+        painter.setPen(QPen(widgets::kAccentColor, 1, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
         painter.drawRect(
             QRectF(frame->X + 0.5, frame->Y + 0.5, frame->Width - 1, frame->Height - 1));
     }
@@ -201,16 +198,13 @@ void SceneView::DrawWelcome(QPainter& painter) const {
     painter.drawPixmap(left - 60, top - 30,
                        widgets::Artwork("board", {40, 40}, devicePixelRatioF()));
     painter.setOpacity(1);
-    QFont font("Verdana");
-    font.setPointSizeF(11);
-    font.setBold(true);
-    painter.setFont(font);
+    QFont head = widgets::ChromeFont(11);
+    head.setBold(true);
+    painter.setFont(head);
     painter.setPen(QColor(255, 255, 255, welcome_));
     painter.drawText(QRect(left, top - 30, 350, 28), Qt::AlignLeft | Qt::AlignTop,
                      "Welcome to Use Orbelle!");
-    font.setPointSizeF(10);
-    font.setBold(false);
-    painter.setFont(font);
+    painter.setFont(widgets::ChromeFont(10));
     painter.setPen(QColor(200, 200, 200, welcome_));
     painter.drawText(
         QRect(left, top, 350, 200), Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap,

@@ -12,12 +12,12 @@ constexpr int kOldest = 300;  // ticks
 TipBalloons::TipBalloons(const editing::Editor& editor, QWidget& central, Placement placement)
     : editor_(editor),
       placement_(std::move(placement)),
-      tips1_(new widgets::Balloon(&central)),
-      tips2_(new widgets::Balloon(&central)) {
-    tips1_->setObjectName("FirstBalloon");
-    tips2_->setObjectName("SecondBalloon");
-    tips2_->SetPointsDown(true);
-    for (widgets::Balloon* balloon : {tips1_, tips2_}) {
+      first_(new widgets::Balloon(&central)),
+      second_(new widgets::Balloon(&central)) {
+    first_->setObjectName("FirstBalloon");
+    second_->setObjectName("SecondBalloon");
+    second_->SetPointsDown(true);
+    for (widgets::Balloon* balloon : {first_, second_}) {
         balloon->hide();
         connect(balloon, &widgets::Balloon::Clicked, this, [this, balloon] {
             balloon->hide();
@@ -49,30 +49,25 @@ void TipBalloons::Show(const editing::TipRequest& request) {
     const int pick = std::uniform_int_distribution<int>(1, 2)(random_);
     const editing::TipChoice choice =
         ChooseTips(editor_, request.Number, request.AboutLayers, pick);
-    const bool seen1 = Put(*tips1_, choice.FirstBalloon);
-    tips1_->setVisible(choice.FirstVisible && seen1);
-    const bool seen2 = Put(*tips2_, choice.SecondBalloon);
+    const bool seesFirst = Put(*first_, choice.FirstBalloon);
+    first_->setVisible(choice.FirstVisible && seesFirst);
+    const bool seesSecond = Put(*second_, choice.SecondBalloon);
     if (choice.SecondVisible)
-        tips2_->setVisible(*choice.SecondVisible && seen2);
-    for (widgets::Balloon* balloon : {tips1_, tips2_})
+        second_->setVisible(*choice.SecondVisible && seesSecond);
+    for (widgets::Balloon* balloon : {first_, second_})
         balloon->raise();
     aging_.start();
 }
 
 void TipBalloons::HideFirst() {
-    if (tips1_->isHidden())
+    if (first_->isHidden())
         return;
-    tips1_->hide();
+    first_->hide();
     aging_.stop();
 }
 
 void TipBalloons::Expire() {
     age_ = kOldest;
-}
-
-void TipBalloons::HideAll() {
-    tips1_->hide();
-    tips2_->hide();
 }
 
 void TipBalloons::Stop() {
@@ -83,7 +78,8 @@ void TipBalloons::Grow() {
     if (++age_ <= kOldest)
         return;
     age_ = 0;
-    HideAll();
+    first_->hide();
+    second_->hide();
     aging_.stop();
 }
 

@@ -30,11 +30,9 @@ public:
     void Show(const editing::TipRequest& request);
     void HideFirst();  // and lets the balloons grow no older
     void Expire();     // the next tick closes them
-    void HideAll();
     void Stop();
 
-    widgets::Balloon& FirstBalloon() const { return *tips1_; }
-    widgets::Balloon& SecondBalloon() const { return *tips2_; }
+    widgets::Balloon& FirstBalloon() const { return *first_; }
 
 signals:
     void BalloonClicked();
@@ -45,8 +43,8 @@ private:
 
     const editing::Editor& editor_;
     Placement placement_;
-    widgets::Balloon* tips1_;
-    widgets::Balloon* tips2_;
+    widgets::Balloon* first_;
+    widgets::Balloon* second_;
     QTimer aging_;
     int age_ = 0;  // of the open tips, in ticks
     std::minstd_rand random_;

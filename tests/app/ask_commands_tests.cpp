@@ -53,6 +53,7 @@ public:
             ShowMessage(outcome.Problem());
         return !outcome.Failed();
     }
+    bool RunBusy(const editing::Command& command) override { return Run(command); }
     bool RunDuringDrag(const editing::Command& step) override { return Run(step); }
     const editing::Editor& Editor() const override { return State; }
 

@@ -162,12 +162,17 @@ TEST_F(MainWindowTest, TellsAFailureAndWhatACommandHasToSay) {
             EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr) << "the pointer is the usual one";
             box.accept();
         });
-        window.Run(command);
+        window.RunBusy(command);
         return text;
     };
     EXPECT_EQ(told([](editing::Editor&) { throw std::runtime_error("<b>broken</b>"); }),
               "<b>broken</b>");
     EXPECT_EQ(told([](editing::Editor& editor) { editor.Changed.Message = "damaged"; }), "damaged");
+
+    const auto isBusy = [] { return QGuiApplication::overrideCursor() != nullptr; };
+    window.Run([&](editing::Editor&) { EXPECT_FALSE(isBusy()) << "it would flicker"; });
+    window.RunBusy([&](editing::Editor&) { EXPECT_TRUE(isBusy()); });
+    EXPECT_FALSE(isBusy());
 
     window.ShowStatus("Cannot write it.");
     EXPECT_EQ(window.statusBar()->currentMessage(), "Cannot write it.");

@@ -45,21 +45,21 @@ int main(int argc, char** argv) {
     orbelle::app::WelcomeWindow welcome;
     welcome.RunStart();
     // The window is put together while the welcome stands.
-    std::unique_ptr<orbelle::app::MainWindow> form;
+    std::unique_ptr<orbelle::app::MainWindow> window;
     QTimer::singleShot(0, [&] {
-        form = std::make_unique<orbelle::app::MainWindow>();
-        form->RestoreSettings();
-        QObject::connect(&instance, &orbelle::app::SingleInstance::Received, form.get(),
+        window = std::make_unique<orbelle::app::MainWindow>();
+        window->RestoreSettings();
+        QObject::connect(&instance, &orbelle::app::SingleInstance::Received, window.get(),
                          &orbelle::app::MainWindow::TakeHandOver);
     });
     QObject::connect(&welcome, &orbelle::app::WelcomeWindow::Finished, [&] {
-        form->show();
+        window->show();
         // Once the window has its size: the document is placed by it.
-        QTimer::singleShot(0, form.get(), [&] {
+        QTimer::singleShot(0, window.get(), [&] {
             if (commandLine.isEmpty())
-                form->StartWelcome();
+                window->StartWelcome();
             else
-                form->ShellOpen(commandLine);
+                window->ShellOpen(commandLine);
         });
     });
     return QApplication::exec();

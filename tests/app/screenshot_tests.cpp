@@ -1,30 +1,10 @@
-// The program from its start to its end, driven by the keyboard.
-#include <QDir>
+// The pictures that orbelle-screenshot takes.
 #include <QFile>
 
 #include "real_window.h"
 
 namespace orbelle::app {
 namespace {
-
-using orbelle::testing::WaitUntil;
-
-TEST_F(RealWindowTest, OpensAPictureStylesItUndoesAndCloses) {
-    ASSERT_TRUE(StartWithPicture());
-
-    Press({"alt+s"});
-    // The open menu hides nothing of the picture, so its gloss is what takes pixels away.
-    Press({"c"});
-    ASSERT_TRUE(WaitUntil([&] { return Count() < kWholePicture * 9 / 10; }));
-    Press({"ctrl+z"});
-    Press({"ctrl+z"});
-    ASSERT_TRUE(WaitUntil([&] { return Count() == kWholePicture; })) << Count();
-
-    EXPECT_TRUE(QuitWithoutSaving());
-    EXPECT_EQ(QDir(Path("work")).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
-              QStringList("tile.png"));
-    EXPECT_TRUE(QFile::exists(Path("home/OrbelleWork.conf")));
-}
 
 class ScreenshotTest : public RealProgramTest {
 protected:
