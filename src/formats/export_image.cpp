@@ -4,6 +4,7 @@
 #include <cctype>
 #include <cmath>
 #include <cstdlib>
+#include <exception>
 #include <string>
 #include <string_view>
 #include <system_error>
@@ -40,20 +41,14 @@ Bitmap DrawOnPaper(Argb pageBackground, const Bitmap& page) {
                     graphics::PixelFormat::Rgb24);
 }
 
-// Nobody needs these pictures, so a folder that can't be written is no failure.
 void LeaveInSizesFolder(const std::vector<Bitmap>& pictures) {
     const fs::path folder = SizesFolder();
     if (folder.empty())
         return;
-    std::error_code ignored;
-    fs::create_directories(folder, ignored);
+    fs::create_directories(folder);
     for (const Bitmap& picture : pictures) {
         const std::string name = "temp" + std::to_string(picture.Width()) + ".png";
-        try {
-            graphics::WriteFile(folder / name, graphics::EncodePng(picture));
-        } catch (const graphics::FileError&) {
-            return;
-        }
+        graphics::WriteFile(folder / name, graphics::EncodePng(picture));
     }
 }
 
@@ -66,7 +61,11 @@ void ExportIcon(const fs::path& path, const Bitmap& page, const ExportSettings& 
     for (int size : sizes)
         pictures.push_back(DrawIconPicture(page, size));
     graphics::WriteFile(path, EncodeIcon(pictures, settings.IconPictures));
-    LeaveInSizesFolder(pictures);
+    try {
+        LeaveInSizesFolder(pictures);
+    } catch (const std::exception&) {
+        // Nobody needs these pictures, and the icon is written.
+    }
 }
 
 constexpr std::pair<std::string_view, ExportFormat> kExtensions[] = {
