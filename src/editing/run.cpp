@@ -110,7 +110,7 @@ Outcome Execute(Editor& editor, const Command& command) {
 
     // What the observer is told of is found by comparing, so that no command can forget it.
     EnableSliders(editor);
-    const ControlStates states = StatesOf(editor, editor.Clipboard.HasPicture());
+    const ControlStates states = StatesOf(editor, editor.History, editor.Clipboard.HasPicture());
     editor.Changed.Controls |= states != editor.States || ShownControls(editor) != controls;
     editor.Changed.Overlays |= editor.Overlays != overlays;
     editor.Changed.Pixels |= unpainted;
