@@ -163,12 +163,12 @@ TEST_F(ControlStatesTest, TheBarsPressWhatIsInUse) {
         int Button;
         bool LineWidth, ColorOpacity;
     } tools[] = {
-        {Tool::Move, 1, false, false},           {Tool::SelectRectangle, 2, false, false},
-        {Tool::SelectEllipse, 2, false, false},  {Tool::SelectPolygon, 2, false, false},
-        {Tool::Pencil, 4, false, true},          {Tool::Line, 5, true, true},
-        {Tool::Ellipse, 6, true, true},          {Tool::FilledEllipse, 7, false, true},
-        {Tool::Rectangle, 8, true, true},        {Tool::FilledRectangle, 9, false, true},
-        {Tool::ColorPick, 11, false, true},      {Tool::PencilEraser, 12, false, false},
+        {Tool::Move, 1, false, false},          {Tool::SelectRectangle, 2, false, false},
+        {Tool::SelectEllipse, 2, false, false}, {Tool::SelectPolygon, 2, false, false},
+        {Tool::Pencil, 4, false, true},         {Tool::Line, 5, true, true},
+        {Tool::Ellipse, 6, true, true},         {Tool::FilledEllipse, 7, false, true},
+        {Tool::Rectangle, 8, true, true},       {Tool::FilledRectangle, 9, false, true},
+        {Tool::ColorPick, 11, false, true},     {Tool::PencilEraser, 12, false, false},
         {Tool::BrushEraser, 12, false, false},
     };
     for (const auto& row : tools) {

@@ -21,18 +21,17 @@ std::ostream& operator<<(std::ostream& text, const graphics::RectF& rect) {
 
 std::size_t HashOf(const graphics::Bitmap& picture) {
     const auto pixels = static_cast<std::size_t>(picture.Width() * picture.Height());
-    return std::hash<std::string_view>()({reinterpret_cast<const char*>(picture.Pixels()),
-                                          pixels * sizeof(graphics::Argb)});
+    return std::hash<std::string_view>()(
+        {reinterpret_cast<const char*>(picture.Pixels()), pixels * sizeof(graphics::Argb)});
 }
 
 void AddText(std::ostream& text, const document::IconLayer& layer) {
     text << layer.Rect << layer.BaseRect << layer.ImageWidth << 'x' << layer.ImageHeight << " op "
          << layer.Opacity << " scale " << layer.ScaleValue << " visible " << layer.Visible
          << " clip " << layer.ClipNextLayer << " sliders " << layer.Hue << ' ' << layer.Saturation
-         << ' ' << layer.Brightness << ' ' << layer.Contrast << " region "
-         << layer.Region.IsNull() << ' ' << layer.Region.Bounds() << "pixels "
-         << layer.Image.Width() << 'x' << layer.Image.Height() << ' ' << HashOf(layer.Image)
-         << '\n';
+         << ' ' << layer.Brightness << ' ' << layer.Contrast << " region " << layer.Region.IsNull()
+         << ' ' << layer.Region.Bounds() << "pixels " << layer.Image.Width() << 'x'
+         << layer.Image.Height() << ' ' << HashOf(layer.Image) << '\n';
 }
 
 }  // namespace
@@ -71,11 +70,14 @@ std::vector<NamedCommand> LayerCommands() {
         {"delete", DeleteSelected},
         {"delete selection", DeleteSelection},
         {"opacity",
-         drag(PressOpacity, [](Editor& e) { ChangeOpacity(e, 30); }, ReleaseOpacity),
+         drag(
+             PressOpacity, [](Editor& e) { ChangeOpacity(e, 30); }, ReleaseOpacity),
          tips::Adjusted},
         {"hue", adjustment(Adjustment::Hue), tips::Adjusted},
         {"contrast", adjustment(Adjustment::Contrast), tips::Adjusted},
-        {"scale", drag(PressScale, [](Editor& e) { ChangeScale(e, 60); }, ReleaseScale),
+        {"scale",
+         drag(
+             PressScale, [](Editor& e) { ChangeScale(e, 60); }, ReleaseScale),
          tips::Adjusted},
         {"crystal", Crystal, tips::Crystal},
         {"vista", Vista, tips::Vista},
@@ -121,8 +123,8 @@ std::string StateText(const Editor& editor) {
     bar(editor.View.HorizontalScroll);
     bar(editor.View.VerticalScroll);
     text << "\ntool " << static_cast<int>(editor.Tools.InUse) << " popup "
-         << static_cast<int>(editor.Tools.OpenPopup) << " colours " << editor.Tools.Colors[0]
-         << ' ' << editor.Tools.Colors[1] << "\nsliders";
+         << static_cast<int>(editor.Tools.OpenPopup) << " colours " << editor.Tools.Colors[0] << ' '
+         << editor.Tools.Colors[1] << "\nsliders";
     const Sliders& sliders = editor.Sliders;
     for (const Slider* slider :
          {&sliders.Opacity, &sliders.Hue, &sliders.Saturation, &sliders.Brightness,

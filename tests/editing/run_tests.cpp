@@ -30,8 +30,8 @@ protected:
         Do(PressAddLayer);
         Do(Undo);
         editor.History.ClearHistory();
-        for (const FlipRotate mode : {FlipRotate::FlipHorizontal, FlipRotate::Rotate90Cw,
-                                      FlipRotate::FlipVertical})
+        for (const FlipRotate mode :
+             {FlipRotate::FlipHorizontal, FlipRotate::Rotate90Cw, FlipRotate::FlipVertical})
             Do(FlipRotateLayer, mode);
         Do(Undo);
     }
@@ -81,8 +81,7 @@ protected:
                  CopyToClipboard(e);
                  PasteFromClipboard(e);
              }},
-            {"import",
-             [](Editor& e) { ImportPicture(e, testing::FilledPicture(9, 9, kBlue)); }},
+            {"import", [](Editor& e) { ImportPicture(e, testing::FilledPicture(9, 9, kBlue)); }},
             {"select", [](Editor& e) { SelectLayer(e, 0); }},
             {"page", [](Editor& e) { ChangePageWidth(e, 9); }},
             {"background", [](Editor& e) { SetPageBackground(e, kBlue); }},
@@ -146,7 +145,8 @@ TEST_F(RunTest, WhatIsToldIsWhatChanged) {
     recorder.Copied = testing::FilledPicture(1, 1, kBlue);  // another program's
     Do([](Editor&) {});
     EXPECT_EQ(told(), "controls ");
-    EXPECT_FALSE(editing::Run(editor, [](Editor& e) { e.Changed.Message = "half of it"; }).Failed());
+    EXPECT_FALSE(
+        editing::Run(editor, [](Editor& e) { e.Changed.Message = "half of it"; }).Failed());
     EXPECT_EQ(recorder.Last.Message, "half of it");
     Do([](Editor&) {});
     EXPECT_EQ(recorder.Last.Message, "");
@@ -169,7 +169,8 @@ TEST_F(RunTest, FailuresHaveWordsForTheUser) {
     const Outcome memory = editing::Run(editor, [](Editor&) { throw std::bad_alloc(); });
     EXPECT_TRUE(memory.Failed());
     EXPECT_EQ(memory.Problem(), "There is not enough memory.");
-    EXPECT_EQ(editing::Run(editor, [](Editor& e) { NewDocument(e, 0, 5); }).Problem(), kPageSizeMessage);
+    EXPECT_EQ(editing::Run(editor, [](Editor& e) { NewDocument(e, 0, 5); }).Problem(),
+              kPageSizeMessage);
 }
 
 TEST_F(RunTest, AFailureLeavesEverythingAsItWas) {

@@ -226,9 +226,13 @@ TEST_F(SceneInput, AllOfThePageButTheSelectionIsDimmed) {
     editor.Document.Background = 0xFFFFFFFF;
     Use(Tool::SelectRectangle);
     Drag({{5, 4}, {9, 8}});
-    for (const auto& [x, y, dimmed] :
-         {std::tuple{5, 4, false}, {9, 8, false}, {4, 4, true}, {5, 3, true}, {10, 8, true},
-          {9, 9, true}, {39, 29, true}})
+    for (const auto& [x, y, dimmed] : {std::tuple{5, 4, false},
+                                       {9, 8, false},
+                                       {4, 4, true},
+                                       {5, 3, true},
+                                       {10, 8, true},
+                                       {9, 9, true},
+                                       {39, 29, true}})
         EXPECT_EQ(IsDimmed(x, y), dimmed) << x << ", " << y;
     for (void (*button)(Editor&) : {PressRemoveLayer, PressHideLayer, PressMergeDown}) {
         editor.Selection.AddFrame(2, 2, 0, 0, FrameShape::Rectangle);
@@ -275,9 +279,8 @@ TEST_F(SceneInput, AnOpenPolygonHasARubberBandAndAnOutline) {
 TEST_F(SceneInput, APolygonDragAddsPointsToTheLeftAndUpOnly) {
     Use(Tool::SelectPolygon);
     Drag({{20, 20}, {25, 25}, {10, 12}, {10, 12}, {30, 15}});
-    EXPECT_THAT(editor.PolygonPoints,
-                ElementsAre(PointF{20, 20}, PointF{20, 20}, PointF{10, 12}, PointF{10, 12},
-                            PointF{20, 15}));
+    EXPECT_THAT(editor.PolygonPoints, ElementsAre(PointF{20, 20}, PointF{20, 20}, PointF{10, 12},
+                                                  PointF{10, 12}, PointF{20, 15}));
     Drag({{60, 20}, {-9, 22}});  // brought onto the page
     EXPECT_EQ(editor.PolygonPoints[5], (PointF{40, 20}));
     EXPECT_EQ(editor.PolygonPoints[6], (PointF{0, 20}));
