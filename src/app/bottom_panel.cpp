@@ -8,9 +8,9 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "app/ask_commands.h"
 #include "app/brush_panel.h"
 #include "app/color_well.h"
-#include "app/main_window.h"
 #include "editing/color_wells.h"
 #include "editing/page_commands.h"
 #include "editing/tool_palette.h"
@@ -24,7 +24,6 @@ namespace {
 
 using editing::Editor;
 
-constexpr int kMaxLineWidth = 255;
 constexpr int kSliderWidth = 120;
 constexpr int kGroupGap = 28;
 constexpr int kWidePen = 2;  // around the well in use
@@ -70,13 +69,13 @@ QToolButton* PictureButton(const char* artwork, const char* tip) {
 
 }  // namespace
 
-BottomPanel::BottomPanel(MainWindow& form) : form_(form) {
+BottomPanel::BottomPanel(const WindowContext& context) : context_(context) {
     setObjectName("BottomTips");
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
     title_ = new widgets::PanelHeader("Properties");
-    title_->setObjectName("CtlTitle4");
+    title_->setObjectName("Properties");
     column->addWidget(title_);
 
     content_ = new QWidget;
@@ -87,7 +86,7 @@ BottomPanel::BottomPanel(MainWindow& form) : form_(form) {
         groups->addWidget(group);
     groups->addStretch(1);
     column->addWidget(content_);
-    brush_ = new BrushPanel(form, content_);
+    brush_ = new BrushPanel(context.Commands, content_);
     content_->installEventFilter(this);
     connect(title_, &widgets::PanelHeader::Clicked, content_,
             [this](bool IsClosed) { content_->setVisible(!IsClosed); });
@@ -101,7 +100,7 @@ QWidget* BottomPanel::AddPageSize() {
         slider->setToolTip(caption);
         slider->SetRange(1, document::kMaxPageSide);
         connect(slider, &widgets::NumberSlider::Changed, this, [this, change](int value) {
-            form_.Run([=](Editor& editor) { change(editor, value); });
+            context_.Commands.Run([=](Editor& editor) { change(editor, value); });
         });
         return slider;
     };
@@ -114,12 +113,11 @@ QWidget* BottomPanel::AddBackground() {
     backgroundSwatch_ = new ColorWell("Page background");
     backgroundSwatch_->setObjectName("BackgroundSwatch");
     backgroundSwatch_->setToolTip("Page background");
-    connect(backgroundSwatch_, &ColorWell::Clicked, this,
-            [this] { form_.Run(editing::AskPageBackground); });
+    connect(backgroundSwatch_, &ColorWell::Clicked, this, [this] { AskPageBackground(context_); });
     QToolButton* none = PictureButton("tools/no-colour", "No page background");
     none->setObjectName("NoBackground");
     connect(none, &QToolButton::pressed, this, [this] {
-        form_.Run([](Editor& editor) {
+        context_.Commands.Run([](Editor& editor) {
             if (editor.DocumentExists)
                 SetPageBackground(editor, 0);
         });
@@ -133,15 +131,16 @@ QWidget* BottomPanel::AddColors() {
         auto* well = new ColorWell(names[i]);
         well->setObjectName(QString("ForeColorOLE%1").arg(i));
         well->setToolTip(QString("%1: click to use it, double-click to change it").arg(names[i]));
-        connect(well, &ColorWell::Clicked, this,
-                [this, i] { form_.Run([i](Editor& editor) { UseColorWell(editor, i); }); });
-        connect(well, &ColorWell::DoubleClicked, this,
-                [this, i] { form_.Run([i](Editor& editor) { AskWellColor(editor, i); }); });
+        connect(well, &ColorWell::Clicked, this, [this, i] {
+            context_.Commands.Run([i](Editor& editor) { UseColorWell(editor, i); });
+        });
+        connect(well, &ColorWell::DoubleClicked, this, [this, i] { AskWellColor(context_, i); });
         wells_[static_cast<std::size_t>(i)] = well;
     }
     QToolButton* exchange = PictureButton("tools/swap", "Exchange the colours");
     exchange->setObjectName("ExchangeColor");
-    connect(exchange, &QToolButton::clicked, this, [this] { form_.Run(editing::ExchangeColor); });
+    connect(exchange, &QToolButton::clicked, this,
+            [this] { context_.Commands.Run(editing::ExchangeColor); });
     return Group("Colours", Row({wells_[0], exchange, wells_[1]}));
 }
 
@@ -149,21 +148,21 @@ QWidget* BottomPanel::AddOptions() {
     colorOpacity_ = new widgets::TrackSlider;
     colorOpacity_->setObjectName("ColorOpacity");
     colorOpacity_->setAccessibleName("Colour opacity");
-    colorOpacity_->setRange(0, 100);
+    const editing::Slider opacity = editing::Sliders().ColorOpacity;
+    colorOpacity_->setRange(opacity.Minimum, opacity.Maximum);
     colorOpacity_->setFixedWidth(kSliderWidth);
     connect(colorOpacity_, &widgets::TrackSlider::Changed, this, [this](int value) {
-        form_.Run([value](Editor& editor) { ChangeColorOpacity(editor, value); });
+        context_.Commands.Run([value](Editor& editor) { ChangeColorOpacity(editor, value); });
     });
     opacityValue_ = new QLabel;
     opacityValue_->setFixedWidth(40);
     lineWidth_ = new widgets::NumberSlider;
     lineWidth_->setObjectName("LineWidth");
     lineWidth_->setAccessibleName("Line width");
-    lineWidth_->SetRange(1, kMaxLineWidth);
+    const editing::Slider range = editing::Sliders().LineWidth;
+    lineWidth_->SetRange(range.Minimum, range.Maximum);
     connect(lineWidth_, &widgets::NumberSlider::Changed, this, [this](int value) {
-        form_.Run([value](Editor& editor) {
-            ChangeLineWidth(editor, std::clamp(value, 1, kMaxLineWidth));
-        });
+        context_.Commands.Run([value](Editor& editor) { ChangeLineWidth(editor, value); });
     });
     auto* both = new QWidget;
     auto* row = new QHBoxLayout(both);
@@ -183,12 +182,6 @@ QWidget& BottomPanel::FirstColorWell() const {
     return *wells_[0];
 }
 
-void BottomPanel::SlideBrush(bool open) {
-    if (open)
-        SetOpen(true);
-    brush_->Slide(open);
-}
-
 bool BottomPanel::eventFilter(QObject* watched, QEvent* event) {
     if (watched == content_ && event->type() == QEvent::Resize)
         brush_->Place();
@@ -196,24 +189,32 @@ bool BottomPanel::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void BottomPanel::ShowStates(const Editor& editor) {
-    const editing::Controls& controls = editor.Controls;
     const auto mirror = [](widgets::NumberSlider& shown, const editing::Slider& slider) {
         shown.setEnabled(slider.Enabled);
-        if (shown.ColorValue() != slider.Value)
-            shown.SetColorValue(slider.Value);
+        if (shown.Value() != slider.Value)
+            shown.SetValue(slider.Value);
     };
-    mirror(*pageWidth_, controls.PageWidth);
-    mirror(*pageHeight_, controls.PageHeight);
-    mirror(*lineWidth_, controls.LineWidth);
-    backgroundSwatch_->Show(editor.Document.PageBackground, 1);
-    backgroundSwatch_->setEnabled(editor.DocumentExists);
+    const editing::Sliders& sliders = editor.Sliders;
+    mirror(*pageWidth_, sliders.PageWidth);
+    mirror(*pageHeight_, sliders.PageHeight);
+    mirror(*lineWidth_, sliders.LineWidth);
+    backgroundSwatch_->Show(editor.Document.Background, 1);
+    backgroundSwatch_->setEnabled(editor.States.IsEnabled(editing::CommandId::PageBackground));
     for (int i = 0; i < 2; ++i)
-        wells_[static_cast<std::size_t>(i)]->Show(editor.Colors[static_cast<std::size_t>(i)],
-                                                  i == editor.ActiveColor ? kWidePen : 1);
-    colorOpacity_->setEnabled(controls.ColorOpacity.Enabled);
-    colorOpacity_->SetValue(controls.ColorOpacity.Value);
-    opacityValue_->setText(QString::number(controls.ColorOpacity.Value) + "%");
-    brush_->ShowStates(controls);
+        wells_[static_cast<std::size_t>(i)]->Show(editor.Tools.Colors[static_cast<std::size_t>(i)],
+                                                  i == editor.Tools.ActiveColor ? kWidePen : 1);
+    colorOpacity_->setEnabled(sliders.ColorOpacity.Enabled);
+    colorOpacity_->SetValue(sliders.ColorOpacity.Value);
+    opacityValue_->setText(QString::number(sliders.ColorOpacity.Value) + "%");
+    brush_->ShowStates(sliders);
+
+    const bool brush = editor.Tools.InUse == editing::Tool::BrushEraser;
+    if (brush == brushIsIn_)
+        return;
+    brushIsIn_ = brush;
+    if (brush)
+        SetOpen(true);
+    brush_->Slide(brush);
 }
 
 }  // namespace orbelle::app

@@ -4,7 +4,7 @@
 #include <QWidget>
 #include <array>
 
-#include "editing/editor.h"
+#include "app/window_actions.h"
 
 class QLabel;
 
@@ -18,21 +18,18 @@ namespace orbelle::app {
 
 class BrushPanel;
 class ColorWell;
-class MainWindow;
 
 class BottomPanel : public QWidget {
     Q_OBJECT
 
 public:
-    explicit BottomPanel(MainWindow& form);
+    explicit BottomPanel(const WindowContext& context);
 
     void ShowStates(const editing::Editor& editor);
-    void SlideBrush(bool open);
 
-    widgets::PanelHeader& CtlTitle4() const { return *title_; }
+    widgets::PanelHeader& Header() const { return *title_; }
     void SetOpen(bool open);
     QWidget& FirstColorWell() const;
-    BrushPanel& Brush() const { return *brush_; }
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -43,7 +40,7 @@ private:
     QWidget* AddColors();
     QWidget* AddOptions();
 
-    MainWindow& form_;
+    WindowContext context_;
     widgets::PanelHeader* title_ = nullptr;
     QWidget* content_ = nullptr;
     widgets::NumberSlider* pageWidth_ = nullptr;
@@ -54,6 +51,7 @@ private:
     QLabel* opacityValue_ = nullptr;
     widgets::NumberSlider* lineWidth_ = nullptr;
     BrushPanel* brush_ = nullptr;
+    bool brushIsIn_ = false;
 };
 
 }  // namespace orbelle::app

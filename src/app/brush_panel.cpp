@@ -5,8 +5,8 @@
 #include <QPainter>
 #include <algorithm>
 
-#include "app/main_window.h"
 #include "editing/tool_palette.h"
+#include "widgets/chrome.h"
 #include "widgets/track_slider.h"
 
 namespace orbelle::app {
@@ -17,24 +17,22 @@ constexpr int kSlideStep = 10;         // pixels a tick
 constexpr int kSlideMilliseconds = 8;  // a tick
 constexpr int kBlinkMilliseconds = 250;
 constexpr int kBlinkTicks = 6;
-constexpr int kMaxBrush = 100;
-constexpr QColor kBackground(245, 246, 247);
-constexpr QColor kEdge(220, 220, 220);
 constexpr int kEdgeGap = 8;
-constexpr QColor kFrame(58, 150, 255);
 
 }  // namespace
 
-BrushPanel::BrushPanel(MainWindow& form, QWidget* parent) : QWidget(parent) {
+BrushPanel::BrushPanel(CommandRunner& commands, QWidget* parent) : QWidget(parent) {
     setObjectName("BrushPanel");
     auto* rows = new QGridLayout(this);
     rows->setContentsMargins(12, 8, 12, 8);
     rows->setHorizontalSpacing(8);
     rows->setVerticalSpacing(6);
     const auto addRow = [&](int row, const char* caption, const char* name, QLabel*& value,
+                            editing::Slider editing::Sliders::*state,
                             void (*change)(editing::Editor&, int)) {
+        const editing::Slider range = editing::Sliders().*state;
         auto* slider = new widgets::TrackSlider;
-        slider->setRange(1, kMaxBrush);
+        slider->setRange(range.Minimum, range.Maximum);
         slider->setObjectName(name);
         slider->setAccessibleName(caption);
         value = new QLabel;
@@ -43,14 +41,15 @@ BrushPanel::BrushPanel(MainWindow& form, QWidget* parent) : QWidget(parent) {
         rows->addWidget(new QLabel(caption), row, 0);
         rows->addWidget(slider, row, 1);
         rows->addWidget(value, row, 2);
-        connect(slider, &widgets::TrackSlider::Changed, this, [&form, change](int to) {
-            form.Run([=](editing::Editor& editor) { change(editor, to); });
+        connect(slider, &widgets::TrackSlider::Changed, this, [&commands, change](int to) {
+            commands.Run([=](editing::Editor& editor) { change(editor, to); });
         });
         return slider;
     };
-    size_ = addRow(0, "Brush size", "CtlScroll23", sizeValue_, editing::ChangeBrushSize);
-    opacity_ =
-        addRow(1, "Brush opacity", "CtlScroll22", opacityValue_, editing::ChangeBrushOpacity);
+    size_ = addRow(0, "Brush size", "BrushSize", sizeValue_, &editing::Sliders::BrushSize,
+                   editing::ChangeBrushSize);
+    opacity_ = addRow(1, "Brush opacity", "BrushOpacity", opacityValue_,
+                      &editing::Sliders::BrushOpacity, editing::ChangeBrushOpacity);
     slide_.setInterval(kSlideMilliseconds);
     blink_.setInterval(kBlinkMilliseconds);
     connect(&slide_, &QTimer::timeout, this, &BrushPanel::StepSlide);
@@ -58,11 +57,11 @@ BrushPanel::BrushPanel(MainWindow& form, QWidget* parent) : QWidget(parent) {
     hide();
 }
 
-void BrushPanel::ShowStates(const editing::Controls& controls) {
-    size_->SetValue(controls.BrushSize.Value);
-    opacity_->SetValue(controls.BrushOpacity.Value);
-    sizeValue_->setText(QString::fromStdString(controls.BrushSizeText));
-    opacityValue_->setText(QString::fromStdString(controls.BrushOpacityText));
+void BrushPanel::ShowStates(const editing::Sliders& sliders) {
+    size_->SetValue(sliders.BrushSize.Value);
+    opacity_->SetValue(sliders.BrushOpacity.Value);
+    sizeValue_->setText(QString::number(sliders.BrushSize.Value));
+    opacityValue_->setText(QString::number(sliders.BrushOpacity.Value) + "%");
 }
 
 void BrushPanel::Place() {
@@ -105,12 +104,12 @@ void BrushPanel::StepBlink() {
 
 void BrushPanel::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    painter.fillRect(rect(), kBackground);
-    painter.fillRect(QRect(0, kEdgeGap, 1, height() - 2 * kEdgeGap), kEdge);
+    painter.fillRect(rect(), widgets::kChromeColor);
+    painter.fillRect(QRect(0, kEdgeGap, 1, height() - 2 * kEdgeGap), widgets::kHairlineColor);
     if (!frame_)
         return;
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(kFrame, 1));
+    painter.setPen(QPen(widgets::kAccentColor, 1));
     painter.drawRoundedRect(QRectF(rect()).adjusted(3.5, 3.5, -3.5, -3.5), 3, 3);
 }
 

@@ -4,7 +4,7 @@
 #include <QTimer>
 #include <QWidget>
 
-#include "editing/controls.h"
+#include "app/command_runner.h"
 
 class QLabel;
 
@@ -14,21 +14,18 @@ class TrackSlider;
 
 namespace orbelle::app {
 
-class MainWindow;
-
 // Stands in its parent from top to bottom when it is in, below it when it is out.
 class BrushPanel : public QWidget {
     Q_OBJECT
 
 public:
-    explicit BrushPanel(MainWindow& form, QWidget* parent);
+    explicit BrushPanel(CommandRunner& commands, QWidget* parent);
 
-    void ShowStates(const editing::Controls& controls);
+    void ShowStates(const editing::Sliders& sliders);
     // In or out, step by step; once in, a frame around the options blinks.
     void Slide(bool open);
     // After the parent has a new size.
     void Place();
-    bool IsSliding() const { return slide_.isActive(); }
 
 protected:
     void paintEvent(QPaintEvent* event) override;

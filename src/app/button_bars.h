@@ -1,27 +1,25 @@
 // The six toolbars of the main window, and what their buttons run.
 #pragma once
 
-#include "editing/controls.h"
+#include "app/window_actions.h"
 #include "widgets/button_bar.h"
 
 namespace orbelle::app {
 
-class MainWindow;
-
 // The bars belong to the window; the three pop-ups lie on its central widget.
 class ButtonBars {
 public:
-    explicit ButtonBars(MainWindow& form);
+    explicit ButtonBars(const WindowContext& context);
 
     // Enabled and pressed states, and which pop-ups are open.
-    void ShowStates(const editing::Controls& controls);
+    void ShowStates(const editing::Editor& editor);
 
-    widgets::ButtonBar* const MainBar;       // main
-    widgets::ButtonBar* const ToolBox;       // tools
-    widgets::ButtonBar* const FillBar;       // fill kinds
-    widgets::ButtonBar* const LayerBar;      // layers
-    widgets::ButtonBar* const SelectionBar;  // selection kinds
-    widgets::ButtonBar* const EraserBar;     // erasers
+    widgets::ButtonBar* const MainBar;
+    widgets::ButtonBar* const ToolBox;
+    widgets::ButtonBar* const FillBar;
+    widgets::ButtonBar* const LayerBar;
+    widgets::ButtonBar* const SelectionBar;
+    widgets::ButtonBar* const EraserBar;
 
 private:
     void ShowPopup(widgets::ButtonBar& popup, bool visible, int button);

@@ -5,14 +5,14 @@
 #include <QPainter>
 #include <QToolButton>
 
+#include "widgets/chrome.h"
+
 namespace orbelle::app {
 namespace {
 
 constexpr int kTickMilliseconds = 30;
 constexpr char kText[] =
     "You can choose Help/Tips to close the tips if you already know how to use the Orbelle.";
-constexpr QColor kBackground(255, 253, 240);
-constexpr QColor kBorder(200, 190, 150);
 
 }  // namespace
 
@@ -22,9 +22,7 @@ CloseTipsTab::CloseTipsTab(QWidget& panel) : QWidget(panel.parentWidget()), pane
     row->setContentsMargins(12, 4, 4, 4);
     row->setSpacing(12);
     auto* text = new QLabel(kText);
-    QFont font("Verdana");
-    font.setPointSizeF(8);
-    text->setFont(font);
+    text->setFont(widgets::ChromeFont(8));
     text->setStyleSheet("color: black");
     row->addWidget(text);
     auto* close = new QToolButton;
@@ -35,11 +33,11 @@ CloseTipsTab::CloseTipsTab(QWidget& panel) : QWidget(panel.parentWidget()), pane
     row->addWidget(close);
     connect(close, &QToolButton::clicked, this, [this] {
         closed_ = true;
-        timer3_.stop();
+        slide_.stop();
         hide();
     });
-    timer3_.setInterval(kTickMilliseconds);
-    connect(&timer3_, &QTimer::timeout, this, &CloseTipsTab::Step);
+    slide_.setInterval(kTickMilliseconds);
+    connect(&slide_, &QTimer::timeout, this, &CloseTipsTab::Step);
     hide();
 }
 
@@ -50,25 +48,25 @@ void CloseTipsTab::SlideUp() {
     move(panel_.x() + (panel_.width() - width()) / 2, panel_.y());
     stackUnder(&panel_);
     show();
-    timer3_.start();
+    slide_.start();
 }
 
 void CloseTipsTab::Place() {
-    if (isVisible() && !timer3_.isActive())
+    if (isVisible() && !slide_.isActive())
         move(panel_.x() + (panel_.width() - width()) / 2, panel_.y() - height());
 }
 
 void CloseTipsTab::Step() {
     move(x(), y() - 1);
     if (y() <= panel_.y() - height())
-        timer3_.stop();
+        slide_.stop();
 }
 
 void CloseTipsTab::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(kBorder, 1));
-    painter.setBrush(kBackground);
+    painter.setPen(QPen(widgets::kTipEdgeColor, 1));
+    painter.setBrush(widgets::kTipColor);
     painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, 5), 5, 5);
 }
 

@@ -24,7 +24,7 @@ private:
     void Step();
 
     QWidget& panel_;
-    QTimer timer3_;
+    QTimer slide_;
     bool closed_ = false;
 };
 

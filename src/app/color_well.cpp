@@ -4,13 +4,13 @@
 #include <QMouseEvent>
 #include <QPainter>
 
+#include "widgets/chrome.h"
+
 namespace orbelle::app {
 namespace {
 
-constexpr int kCell = 5;
-constexpr QColor kChecker(230, 230, 230);
+constexpr QColor kCheckerColor(230, 230, 230);
 constexpr QColor kOutline(70, 70, 70);
-constexpr QColor kFocus(58, 150, 255);
 constexpr int kMargin = 3;
 
 }  // namespace
@@ -31,15 +31,13 @@ void ColorWell::Show(graphics::Argb color, int penWidth) {
 void ColorWell::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.fillRect(rect(), Qt::white);
-    for (int y = 0; y < height(); y += kCell)
-        for (int x = y / kCell % 2 * kCell; x < width(); x += 2 * kCell)
-            painter.fillRect(QRect(x, y, kCell, kCell), kChecker);
+    widgets::DrawChecker(painter, rect(), kCheckerColor);
     if (graphics::AlphaOf(color_) != 0)
         painter.fillRect(rect().adjusted(kMargin, kMargin, -kMargin, -kMargin),
                          QColor::fromRgba(color_));
     const double half = penWidth_ / 2.0;
-    painter.setPen(QPen(hasFocus() ? kFocus : kOutline, penWidth_, Qt::SolidLine, Qt::SquareCap,
-                        Qt::MiterJoin));
+    painter.setPen(QPen(hasFocus() ? widgets::kAccentColor : kOutline, penWidth_, Qt::SolidLine,
+                        Qt::SquareCap, Qt::MiterJoin));
     painter.drawRect(QRectF(rect()).adjusted(half, half, -half, -half));
 }
 

@@ -18,10 +18,14 @@ QStringList NameFilters(const std::string& filter) {
     return filters;
 }
 
+std::string EncodedName(const QString& name) {
+    return QFile::encodeName(name).toStdString();
+}
+
 std::filesystem::path AskForFile(QWidget* parent, const std::string& filter, bool isOpen) {
     static constexpr char kLastFolder[] = "LastFolder";
     Settings settings;
-    // One title for all uses, deliberately also for saving.
+    // One title for all uses, also for saving (docs/oddities.md, "Open File...").
     QFileDialog dialog(parent, "Open File...", settings.value(kLastFolder).toString());
     dialog.setAcceptMode(isOpen ? QFileDialog::AcceptOpen : QFileDialog::AcceptSave);
     dialog.setFileMode(isOpen ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
@@ -32,7 +36,7 @@ std::filesystem::path AskForFile(QWidget* parent, const std::string& filter, boo
         return {};
     const QString file = dialog.selectedFiles().constFirst();
     settings.setValue(kLastFolder, QFileInfo(file).absolutePath());
-    return QFile::encodeName(file).toStdString();
+    return EncodedName(file);
 }
 
 }  // namespace orbelle::app

@@ -30,7 +30,7 @@ private:
 
     graphics::Bitmap surface_;
     QLabel* result_ = nullptr;
-    widgets::NumberSlider* Threshold = nullptr;
+    widgets::NumberSlider* threshold_ = nullptr;
 };
 
 }  // namespace orbelle::app

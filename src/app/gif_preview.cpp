@@ -7,23 +7,10 @@
 namespace orbelle::app {
 
 graphics::RectF PreviewRect(const graphics::Bitmap& image, int boxWidth, int boxHeight) {
-    const int width = std::min(boxWidth, image.Width());
-    const int height = std::min(boxHeight, image.Height());
-    return {static_cast<float>((boxWidth - width) / 2),
-            static_cast<float>((boxHeight - height) / 2), static_cast<float>(width),
-            static_cast<float>(height)};
-}
-
-void DrawPreviewChecker(graphics::DrawingContext& context, int boxWidth, int boxHeight) {
-    constexpr int kCell = 5;
-    const graphics::SolidBrush brush{graphics::MakeARGB(20, 0, 0, 0)};
-    int start = kCell;
-    for (int y = 0; y <= boxHeight - kCell; y += kCell) {
-        for (int x = start; x <= boxWidth - kCell; x += 2 * kCell)
-            context.FillRectangle(brush,
-                                  {static_cast<float>(x), static_cast<float>(y), kCell, kCell});
-        start = kCell - start;
-    }
+    const graphics::SizeF box{static_cast<float>(boxWidth), static_cast<float>(boxHeight)};
+    return CenterInBox({std::min(box.Width, static_cast<float>(image.Width())),
+                        std::min(box.Height, static_cast<float>(image.Height()))},
+                       box);
 }
 
 void DrawGifPreview(graphics::DrawingContext& context, const graphics::Bitmap& surface,

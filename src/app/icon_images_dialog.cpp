@@ -9,6 +9,9 @@
 #include <QStyleOptionFocusRect>
 #include <QVBoxLayout>
 
+#include "app/shared_image.h"
+#include "widgets/chrome.h"
+
 namespace orbelle::app {
 namespace {
 
@@ -57,9 +60,7 @@ void IconStripView::TellSelection() {
 void IconStripView::paintEvent(QPaintEvent* event) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
-    QFont font("Verdana");
-    font.setPointSize(8);
-    painter.setFont(font);
+    painter.setFont(widgets::ChromeFont(8));
     for (int i = 0; i < static_cast<int>(strip_.Images.size()); ++i)
         if (RectOf(strip_.Cell(i, height())).intersects(event->rect()))
             PaintCell(painter, i);
@@ -71,12 +72,9 @@ void IconStripView::PaintCell(QPainter& painter, int index) const {
     plate.setWidth(IconImageStrip::kCellPlateWidth);
     painter.fillRect(plate, selected ? kSelectedPlateColor : kPlateColor);
 
-    const graphics::Bitmap& bitmap = strip_.Images[static_cast<std::size_t>(index)].Image;
-    const QImage image(reinterpret_cast<const uchar*>(bitmap.Pixels()), bitmap.Width(),
-                       bitmap.Height(), bitmap.Width() * qsizetype{4}, QImage::Format_ARGB32);
     const QRect place = RectOf(strip_.Thumbnail(index, height()));
     if (!place.isEmpty())
-        painter.drawImage(place, image);
+        painter.drawImage(place, SharedImage(strip_.Images[static_cast<std::size_t>(index)].Image));
 
     const graphics::PointF caption = strip_.CaptionPlace(index, height());
     painter.setPen(kCaptionColor);

@@ -16,20 +16,6 @@ constexpr int kWideCaptionFrom = 100;
 
 }  // namespace
 
-graphics::RectF BestFit(float sourceWidth, float sourceHeight, float boxWidth, float boxHeight) {
-    float width = sourceWidth;
-    float height = sourceHeight;
-    if (sourceWidth > boxWidth || sourceHeight > boxHeight) {
-        const float rx = boxWidth / sourceWidth;
-        const float ry = boxHeight / sourceHeight;
-        width = rx < ry ? boxWidth : ry * sourceWidth;
-        height = rx < ry ? rx * sourceHeight : boxHeight;
-    }
-    const int x = RoundToEven(boxWidth - width) / 2;
-    const int y = RoundToEven(boxHeight - height) / 2;
-    return {static_cast<float>(x), static_cast<float>(y), width, height};
-}
-
 IconImageStrip::IconImageStrip(std::vector<formats::IconEntryImage> images)
     : Images(std::move(images)), SelectedIndex(Images.empty() ? -1 : 0) {}
 
@@ -39,9 +25,9 @@ graphics::RectI IconImageStrip::Cell(int index, int stripHeight) const {
 
 graphics::RectI IconImageStrip::Thumbnail(int index, int stripHeight) const {
     const formats::IconEntryImage& image = Images[static_cast<std::size_t>(index)];
-    const graphics::RectF fit =
-        BestFit(static_cast<float>(image.Width), static_cast<float>(image.Height), kCellWidth,
-                static_cast<float>(stripHeight - kThumbnailMargins));
+    const graphics::SizeF box{kCellWidth, static_cast<float>(stripHeight - kThumbnailMargins)};
+    const graphics::RectF fit = CenterInBox(
+        FitIntoBox({static_cast<float>(image.Width), static_cast<float>(image.Height)}, box), box);
     return {RoundToEven(fit.X + static_cast<float>(Cell(index, stripHeight).X)),
             RoundToEven(fit.Y + kThumbnailTop), RoundToEven(fit.Width), RoundToEven(fit.Height)};
 }
@@ -60,11 +46,6 @@ graphics::PointF IconImageStrip::CaptionPlace(int index, int stripHeight) const 
 void IconImageStrip::Press(int x, int y, int stripHeight) {
     const bool inStrip = x >= 0 && x < Width() && y >= 0 && y < stripHeight;
     SelectedIndex = inStrip ? x / kCellWidth : -1;
-}
-
-graphics::Bitmap IconImageStrip::GetImage() const {
-    return SelectedIndex < 0 ? graphics::Bitmap()
-                             : Images[static_cast<std::size_t>(SelectedIndex)].Image;
 }
 
 }  // namespace orbelle::app

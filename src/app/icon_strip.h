@@ -9,10 +9,6 @@
 
 namespace orbelle::app {
 
-// Where a picture goes in a box: never enlarged, else the side that binds fills the box; centred,
-// halves dropped. Unlike FitIntoBox the size keeps its fractions.
-graphics::RectF BestFit(float sourceWidth, float sourceHeight, float boxWidth, float boxHeight);
-
 // One cell per image from the left, as high as the strip. All places are strip pixels.
 struct IconImageStrip {
     static constexpr int kCellWidth = 100;
@@ -35,9 +31,6 @@ struct IconImageStrip {
 
     // Selects the image whose cell holds the point; none when no cell does.
     void Press(int x, int y, int stripHeight);
-
-    // The selected image; empty when none is.
-    graphics::Bitmap GetImage() const;
 };
 
 }  // namespace orbelle::app

@@ -1,91 +1,104 @@
 #include "app/main_menu.h"
 
+#include <QMainWindow>
 #include <QMenuBar>
 #include <functional>
+#include <optional>
 
+#include "app/ask_commands.h"
+#include "app/export_formats.h"
 #include "app/links.h"
-#include "app/main_window.h"
 #include "editing/clipboard_commands.h"
-#include "editing/document_commands.h"
-#include "editing/export_commands.h"
 #include "editing/stack_commands.h"
 #include "editing/style_commands.h"
 #include "editing/tool_palette.h"
 #include "editing/undo_commands.h"
-#include "formats/export_image.h"
 
 namespace orbelle::app {
 namespace {
 
-using editing::Controls;
+using editing::CommandId;
 
-constexpr char kTipsName[] = "m_Tips";
+constexpr char kTipsName[] = "Tips";
 
-using Command = std::function<void(MainWindow&)>;
+using Action = std::function<void(const WindowContext&)>;
 
 struct Entry {
     const char* Name = nullptr;
     QString Caption;  // '&' marks the mnemonic; empty: a separator
     QList<QKeySequence> Shortcuts = {};
-    Command Run = {};
-    editing::MenuEntry Controls::*State = nullptr;  // none: always enabled
-    std::vector<Entry> Entries = {};                // of a submenu
-    bool Checks = false;                            // it carries a check mark
+    Action Run = {};
+    std::optional<CommandId> Command = {};   // whose state it shows; none: always enabled
+    std::vector<Entry> Entries = {};         // of a submenu
+    bool Checks = false;                     // it carries a check mark
+    std::optional<editing::Tool> Tool = {};  // while which is in use
 };
 
-Command Edit(MainWindow::EditorCommand command) {
-    return [command = std::move(command)](MainWindow& form) { form.Run(command); };
+Action Edit(editing::Command command) {
+    return [command = std::move(command)](const WindowContext& context) {
+        context.Commands.Run(command);
+    };
+}
+
+Action Style(editing::Command command) {
+    return [command = std::move(command)](const WindowContext& context) {
+        context.Commands.RunBusy(command);
+    };
 }
 
 std::vector<Entry> ExportEntries() {
-    static constexpr const char* kNames[] = {"m_ExportFormat0", "m_ExportFormat1",
-                                             "m_ExportFormat2", "m_ExportFormat3",
-                                             "m_ExportFormat4"};
-    static_assert(std::size(kNames) == std::size(formats::kExportFormats));
+    static constexpr const char* kNames[] = {"ExportIco", "ExportPng", "ExportGif", "ExportJpeg",
+                                             "ExportBmp"};
+    static_assert(std::size(kNames) == std::size(kExportEntries));
     std::vector<Entry> entries;
-    for (const formats::ExportFormat& format : formats::kExportFormats) {
-        entries.push_back({kNames[entries.size()],
-                           QString("&") + format.Caption,
-                           {},
-                           Edit([&format](editing::Editor& editor) { Export(editor, format); })});
+    for (const ExportEntry& format : kExportEntries) {
+        entries.push_back(
+            {kNames[entries.size()],
+             QString("&") + format.Caption,
+             {},
+             [&format](const WindowContext& context) { AskExport(context, format); }});
     }
     return entries;
 }
 
 std::vector<Entry> FileEntries() {
     return {
-        {"m_New", "&New", {Qt::CTRL | Qt::Key_N}, Edit(editing::New)},
-        {"m_Open", "&Open", {Qt::CTRL | Qt::Key_O}, Edit(editing::Open)},
+        {"New", "&New", {Qt::CTRL | Qt::Key_N}, AskNew},
+        {"Open", "&Open", {Qt::CTRL | Qt::Key_O}, AskOpen},
         {},
-        {"m_Save", "&Save", {Qt::CTRL | Qt::Key_S}, Edit(editing::Save), &Controls::m_Save},
-        {"menu_SaveAs",
+        {"Save",
+         "&Save",
+         {Qt::CTRL | Qt::Key_S},
+         [](const WindowContext& context) { AskSave(context); },
+         CommandId::Save},
+        {"SaveAs",
          "Save &As...",
          {Qt::CTRL | Qt::SHIFT | Qt::Key_S},
-         Edit(editing::SaveAs),
-         &Controls::menu_SaveAs},
+         [](const WindowContext& context) { AskSaveAs(context); },
+         CommandId::SaveAs},
         {},
-        {"m_Import",
-         "&Import...",
-         {Qt::CTRL | Qt::Key_I},
-         Edit(editing::Import),
-         &Controls::m_Import},
-        {"m_Export", "&Export...", {}, {}, &Controls::m_Export, ExportEntries()},
+        {"Import", "&Import...", {Qt::CTRL | Qt::Key_I}, AskImport},
+        {"Export", "&Export...", {}, {}, CommandId::Export, ExportEntries()},
         {},
-        {"m_Exit", "E&xit", {Qt::CTRL | Qt::Key_Q}, [](MainWindow& form) { form.close(); }},
+        {"Exit",
+         "E&xit",
+         {Qt::CTRL | Qt::Key_Q},
+         [](const WindowContext& context) { context.Window.CloseWindow(); }},
     };
 }
 
 std::vector<Entry> ImageEntries() {
     return {
-        {"m_Opcaity", "&Opacity..."},
-        {"menu_Grey", "&Grey"},
+        {"ImageOpacity", "&Opacity..."},
+        {"Grey", "&Grey"},
         {},
-        {"menu_BgColor",
+        {"BackgroundColor",
          "&Background Color",
          {},
          {},
-         nullptr,
-         {{"m_SetBG", "&Set Background Color"}, {"m_TransBG", "&Transparency Background Color"}}},
+         {},
+         {{"SetBackgroundColor", "&Set Background Color"},
+          {"TransparencyBackgroundColor", "&Transparency Background Color"}}},
     };
 }
 
@@ -93,7 +106,7 @@ std::vector<Entry> EditEntries() {
     using editing::FlipRotate;
     using editing::LayerOrder;
     using Shortcuts = QList<QKeySequence>;
-    using State = editing::MenuEntry Controls::*;
+    using State = CommandId;
     const auto entry = [](const char* name, const char* caption, const Shortcuts& shortcuts,
                           void (*command)(editing::Editor&), State state) {
         return Entry{name, caption, shortcuts, Edit(command), state};
@@ -112,116 +125,118 @@ std::vector<Entry> EditEntries() {
                      state};
     };
     return {
-        entry("m_Undo", "&Undo", {Qt::CTRL | Qt::Key_Z}, editing::Undo, &Controls::m_Undo),
-        entry("m_Redo", "&Redo", {Qt::CTRL | Qt::Key_Y, Qt::CTRL | Qt::SHIFT | Qt::Key_Z},
-              editing::Redo, &Controls::m_Redo),
+        entry("Undo", "&Undo", {Qt::CTRL | Qt::Key_Z}, editing::Undo, CommandId::Undo),
+        entry("Redo", "&Redo", {Qt::CTRL | Qt::Key_Y, Qt::CTRL | Qt::SHIFT | Qt::Key_Z},
+              editing::Redo, CommandId::Redo),
         {},
-        entry("m_Cut", "Cu&t", {Qt::CTRL | Qt::Key_X}, editing::CutToClipboard, &Controls::m_Cut),
-        entry("m_Copy", "&Copy", {Qt::CTRL | Qt::Key_C}, editing::CopyToClipboard,
-              &Controls::m_Copy),
-        {"m_Paste",
+        entry("Cut", "Cu&t", {Qt::CTRL | Qt::Key_X}, editing::CutToClipboard, CommandId::Cut),
+        entry("Copy", "&Copy", {Qt::CTRL | Qt::Key_C}, editing::CopyToClipboard, CommandId::Copy),
+        {"Paste",
          "&Paste",
          {Qt::CTRL | Qt::Key_V},
-         [](MainWindow& form) { form.Paste(); },
-         &Controls::m_Paste},
-        entry("m_Del", "&Delete", {}, editing::DeleteCommand, &Controls::m_Del),
+         [](const WindowContext& context) { context.Window.Paste(); },
+         CommandId::Paste},
+        entry("Delete", "&Delete", {}, editing::DeleteSelected, CommandId::Delete),
         {},
-        entry("menu_Merge", "&Merge Down", {}, editing::CombineIcon, &Controls::menu_Merge),
+        entry("MergeDown", "&Merge Down", {}, editing::MergeDown, CommandId::MergeDown),
         {},
-        turn("menu_FlipH", "Flip &Horizontal", FlipRotate::FlipH, &Controls::menu_FlipH),
-        turn("menu_FlipV", "Flip &Veritcal", FlipRotate::FlipV, &Controls::menu_FlipV),
-        turn("m_90CW", "Rotate &90 CW", FlipRotate::Rotate90CW, &Controls::m_90CW),
-        turn("m_90CWW", "Rotate 90 CW&W", FlipRotate::Rotate90CWW, &Controls::m_90CWW),
+        turn("FlipHorizontal", "Flip &Horizontal", FlipRotate::FlipHorizontal,
+             CommandId::FlipHorizontal),
+        turn("FlipVertical", "Flip &Veritcal", FlipRotate::FlipVertical, CommandId::FlipVertical),
+        turn("Rotate90Cw", "Rotate &90 CW", FlipRotate::Rotate90Cw, CommandId::Rotate90Cw),
+        turn("Rotate90Cww", "Rotate 90 CW&W", FlipRotate::Rotate90Cww, CommandId::Rotate90Cww),
         {},
-        move("m_BackOne", "&Back One", {Qt::CTRL | Qt::Key_BracketLeft}, LayerOrder::BackOne,
-             &Controls::m_BackOne),
-        move("m_FowardOne", "&Foward One", {Qt::CTRL | Qt::Key_BracketRight}, LayerOrder::FowardOne,
-             &Controls::m_FowardOne),
-        move("m_ToBack", "To Bac&k", {Qt::CTRL | Qt::SHIFT | Qt::Key_BracketLeft},
-             LayerOrder::ToBack, &Controls::m_ToBack),
-        move("m_ToFront", "To Fro&nt", {Qt::CTRL | Qt::SHIFT | Qt::Key_BracketRight},
-             LayerOrder::ToFront, &Controls::m_ToFront),
+        move("BackOne", "&Back One", {Qt::CTRL | Qt::Key_BracketLeft}, LayerOrder::BackOne,
+             CommandId::BackOne),
+        move("ForwardOne", "&Foward One", {Qt::CTRL | Qt::Key_BracketRight}, LayerOrder::ForwardOne,
+             CommandId::ForwardOne),
+        move("ToBack", "To Bac&k", {Qt::CTRL | Qt::SHIFT | Qt::Key_BracketLeft}, LayerOrder::ToBack,
+             CommandId::ToBack),
+        move("ToFront", "To Fro&nt", {Qt::CTRL | Qt::SHIFT | Qt::Key_BracketRight},
+             LayerOrder::ToFront, CommandId::ToFront),
     };
 }
 
 std::vector<Entry> StyleEntries() {
     const auto entry = [](const char* name, const char* caption, void (*command)(editing::Editor&),
-                          editing::MenuEntry Controls::*state) {
-        return Entry{name, caption, {}, Edit(command), state};
+                          CommandId state) {
+        return Entry{name, caption, {}, Style(command), state};
     };
     const auto fold = [](const char* name, const char* caption, filters::Fold direction) {
-        return Entry{name, caption, {}, Edit([direction](editing::Editor& editor) {
+        return Entry{name, caption, {}, Style([direction](editing::Editor& editor) {
                          Origami(editor, direction);
                      })};
     };
     return {
-        entry("m_Disabled", "&Disabled State", editing::DisabledState, &Controls::m_Disabled),
-        entry("m_Hot", "&Hot State", editing::HotState, &Controls::m_Hot),
+        entry("DisabledState", "&Disabled State", editing::DisabledState, CommandId::DisabledState),
+        entry("HotState", "&Hot State", editing::HotState, CommandId::HotState),
         {},
-        entry("m_freshstyle", "Varnel &Fresh Style", editing::Fresh, &Controls::m_freshstyle),
-        entry("m_iosstyle", "&IOS Style", editing::iOS, &Controls::m_iosstyle),
-        {"m_origamistyle",
+        entry("Fresh", "Varnel &Fresh Style", editing::Fresh, CommandId::Fresh),
+        entry("Ios", "&IOS Style", editing::Ios, CommandId::Ios),
+        {"Origami",
          "&Origami style",
          {},
          {},
-         &Controls::m_origamistyle,
-         {fold("m_origamistylelevel0", "&Vertical", filters::Fold::Vertical),
-          fold("m_origamistylelevel1", "&Horizontal", filters::Fold::Horizontal)}},
-        entry("m_Macstyle", "&Mac Style", editing::Mac, &Controls::m_Macstyle),
-        entry("m_Vistastyle", "&Vista Style", editing::Vista, &Controls::m_Vistastyle),
-        entry("m_Crystal", "&Crystal Style", editing::Crystal, &Controls::m_Crystal),
+         CommandId::Origami,
+         {fold("OrigamiVertical", "&Vertical", filters::Fold::Vertical),
+          fold("OrigamiHorizontal", "&Horizontal", filters::Fold::Horizontal)}},
+        entry("Mac", "&Mac Style", editing::Mac, CommandId::Mac),
+        entry("Vista", "&Vista Style", editing::Vista, CommandId::Vista),
+        entry("Crystal", "&Crystal Style", editing::Crystal, CommandId::Crystal),
         {},
-        entry("m_Blur", "&Blur", editing::Blur, &Controls::m_Blur),
-        entry("m_Sharpen", "Shar&pen", editing::Sharpen, &Controls::m_Sharpen),
+        entry("Blur", "&Blur", editing::Blur, CommandId::Blur),
+        entry("Sharpen", "Shar&pen", editing::Sharpen, CommandId::Sharpen),
         {},
-        entry("m_Irradiation", "I&rradiation", editing::Irradiation, &Controls::m_Irradiation),
-        entry("m_Shade", "&Shade", editing::Shade, &Controls::m_Shade),
-        entry("m_Reflection", "Ref&lection", editing::Reflection, &Controls::m_Reflection),
-        entry("m_Shadow", "Drop Shado&w", editing::DropShadow, &Controls::m_Shadow),
+        entry("Irradiation", "I&rradiation", editing::Irradiation, CommandId::Irradiation),
+        entry("Shade", "&Shade", editing::Shade, CommandId::Shade),
+        entry("Reflection", "Ref&lection", editing::Reflection, CommandId::Reflection),
+        entry("DropShadow", "Drop Shado&w", editing::DropShadow, CommandId::DropShadow),
     };
 }
 
 std::vector<Entry> ToolEntries() {
-    const auto entry = [](const char* name, const char* caption, editing::Tool tool,
-                          editing::MenuEntry Controls::*state) {
+    const auto entry = [](const char* name, const char* caption, editing::Tool tool) {
         return Entry{
             .Name = name,
             .Caption = caption,
             .Run = Edit([tool](editing::Editor& editor) { ChooseToolEntry(editor, tool); }),
-            .State = state,
-            .Checks = true};
+            .Checks = true,
+            .Tool = tool};
     };
     return {
-        entry("m_Selection", "&Selecetion", editing::Tool::Move, &Controls::m_Selection),
-        entry("m_Pencil", "&Pencil", editing::Tool::Pencil, &Controls::m_Pencil),
-        entry("m_Line", "&Line", editing::Tool::Line, &Controls::m_Line),
-        entry("m_Ellipse", "&Ellipse", editing::Tool::Ellipse, &Controls::m_Ellipse),
-        entry("m_Rectangle", "&Rectangle", editing::Tool::Rectangle, &Controls::m_Rectangle),
+        entry("SelectionTool", "&Selecetion", editing::Tool::Move),
+        entry("PencilTool", "&Pencil", editing::Tool::Pencil),
+        entry("LineTool", "&Line", editing::Tool::Line),
+        entry("EllipseTool", "&Ellipse", editing::Tool::Ellipse),
+        entry("RectangleTool", "&Rectangle", editing::Tool::Rectangle),
     };
 }
 
 std::vector<Entry> HelpEntries() {
     const auto link = [](const char* name, const char* caption, const QString& address) {
-        return Entry{
-            .Name = name, .Caption = caption, .Run = [address](MainWindow&) { OpenLink(address); }};
+        return Entry{.Name = name, .Caption = caption, .Run = [address](const WindowContext&) {
+                         OpenLink(address);
+                     }};
     };
     return {
         {.Name = kTipsName,
          .Caption = "&Tips",
-         .Run = [](MainWindow& form) { form.SetTipsEnabled(!form.TipsEnabled()); },
+         .Run = [](const WindowContext& context) { context.Window.ToggleTips(); },
          .Checks = true},
-        {.Name = "m_Samples",
+        {.Name = "Samples",
          .Caption = "&Samples",
          .Run =
-             [](MainWindow& form) {
+             [](const WindowContext& context) {
                  if (!OpenSamples())
-                     form.ShowStatus("The folder of samples is not there.");
+                     context.User.ShowStatus("The folder of samples is not there.");
              }},
-        link("m_DownloadSample", "&Free Download Sample Icons...", kSampleIcons),
-        link("m_GetIcons", "&Download Over 20,000 Professional Icons...", kMoreIcons),
+        link("DownloadSampleIcons", "&Free Download Sample Icons...", kSampleIcons),
+        link("DownloadIcons", "&Download Over 20,000 Professional Icons...", kMoreIcons),
         {},
-        link("m_Web", "Varnel &Website", kWebsite),
-        {.Name = "m_About", .Caption = "&About", .Run = [](MainWindow& form) { form.ShowAbout(); }},
+        link("WebsiteEntry", "Varnel &Website", kWebsite),
+        {.Name = "About",
+         .Caption = "&About",
+         .Run = [](const WindowContext& context) { context.Window.ShowAbout(); }},
     };
 }
 
@@ -231,7 +246,7 @@ bool HasCommand(const Entry& entry) {
 
 }  // namespace
 
-MainMenu::MainMenu(MainWindow& form) {
+MainMenu::MainMenu(QMainWindow& window, const WindowContext& context) {
     const std::function<void(QMenu&, const std::vector<Entry>&)> fill =
         [&](QMenu& menu, const std::vector<Entry>& entries) {
             for (const Entry& entry : entries) {
@@ -252,44 +267,46 @@ MainMenu::MainMenu(MainWindow& form) {
                 action->setEnabled(HasCommand(entry));
                 action->setCheckable(entry.Checks);
                 if (entry.Run)
-                    QObject::connect(action, &QAction::triggered, &form,
-                                     [run = entry.Run, &form] { run(form); });
-                if (entry.State)
-                    states_.push_back({action, entry.State});
+                    QObject::connect(action, &QAction::triggered, &window,
+                                     [run = entry.Run, context] { run(context); });
+                if (entry.Command)
+                    states_.push_back({action, *entry.Command});
+                if (entry.Tool)
+                    toolMarks_.push_back({action, *entry.Tool});
             }
         };
     const Entry menus[] = {
-        {"menu_File", "&File", {}, {}, nullptr, FileEntries()},
-        {"menu_Image", "&Image", {}, {}, nullptr, ImageEntries()},
-        {"menu_Edit", "&Edit", {}, {}, nullptr, EditEntries()},
-        {"menu_Style", "&Style", {}, {}, nullptr, StyleEntries()},
-        {"menu_Tools", "&Tool", {}, {}, nullptr, ToolEntries()},
-        {"menu_Help", "&Help", {}, {}, nullptr, HelpEntries()},
+        {.Name = "FileMenu", .Caption = "&File", .Entries = FileEntries()},
+        {.Name = "ImageMenu", .Caption = "&Image", .Entries = ImageEntries()},
+        {.Name = "EditMenu", .Caption = "&Edit", .Entries = EditEntries()},
+        {.Name = "StyleMenu", .Caption = "&Style", .Entries = StyleEntries()},
+        {.Name = "ToolMenu", .Caption = "&Tool", .Entries = ToolEntries()},
+        {.Name = "HelpMenu", .Caption = "&Help", .Entries = HelpEntries()},
     };
     for (const Entry& entry : menus) {
-        QMenu* menu = form.menuBar()->addMenu(entry.Caption);
+        QMenu* menu = window.menuBar()->addMenu(entry.Caption);
         menu->setObjectName(entry.Name);
         fill(*menu, entry.Entries);
-        QObject::connect(menu, &QMenu::aboutToShow, &form, [&form] { form.ControlsChanged(); });
+        // A check mark that was clicked has turned itself.
+        QObject::connect(menu, &QMenu::aboutToShow, &window,
+                         [context] { context.Window.ShowControls(); });
     }
-    tips_ = form.findChild<QAction*>(kTipsName);
-    orderMenu_ = new QMenu("Right_Layer", &form);
-    orderMenu_->setObjectName("menu_Rightmenu");
-    for (const char* name : {"m_BackOne", "m_FowardOne", "m_ToBack", "m_ToFront"})
-        orderMenu_->addAction(form.findChild<QAction*>(name));
+    tips_ = window.findChild<QAction*>(kTipsName);
+    orderMenu_ = new QMenu("Right_Layer", &window);
+    orderMenu_->setObjectName("OrderMenu");
+    for (const char* name : {"BackOne", "ForwardOne", "ToBack", "ToFront"})
+        orderMenu_->addAction(window.findChild<QAction*>(name));
 }
 
 void MainMenu::ShowTipsState(bool enabled) {
     tips_->setChecked(enabled);
 }
 
-void MainMenu::ShowStates(const editing::Controls& controls) {
-    for (const State& state : states_) {
-        const editing::MenuEntry& entry = controls.*state.Entry;
-        state.Action->setEnabled(entry.Enabled);
-        if (state.Action->isCheckable())
-            state.Action->setChecked(entry.Checked);
-    }
+void MainMenu::ShowStates(const editing::Editor& editor) {
+    for (const State& state : states_)
+        state.Action->setEnabled(editor.States.IsEnabled(state.Command));
+    for (const ToolMark& mark : toolMarks_)
+        mark.Action->setChecked(mark.Tool == editor.Tools.InUse);
 }
 
 }  // namespace orbelle::app

@@ -3,23 +3,22 @@
 
 #include <vector>
 
-#include "editing/controls.h"
+#include "app/window_actions.h"
 
 class QAction;
+class QMainWindow;
 class QMenu;
 
 namespace orbelle::app {
-
-class MainWindow;
 
 // Every entry carries its name as object name. Entries without a command are disabled, and so are
 // submenus without an entry that has one.
 class MainMenu {
 public:
     // Fills the window's menu bar.
-    explicit MainMenu(MainWindow& form);
+    MainMenu(QMainWindow& window, const WindowContext& context);
 
-    void ShowStates(const editing::Controls& controls);
+    void ShowStates(const editing::Editor& editor);
     // The check mark of Help/Tips.
     void ShowTipsState(bool enabled);
 
@@ -29,9 +28,14 @@ public:
 private:
     struct State {
         QAction* Action;
-        editing::MenuEntry editing::Controls::*Entry;
+        editing::CommandId Command;
+    };
+    struct ToolMark {
+        QAction* Action;
+        editing::Tool Tool;
     };
     std::vector<State> states_;
+    std::vector<ToolMark> toolMarks_;
     QAction* tips_ = nullptr;
     QMenu* orderMenu_ = nullptr;
 };

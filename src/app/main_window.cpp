@@ -3,20 +3,21 @@
 #include <QClipboard>
 #include <QCloseEvent>
 #include <QDir>
-#include <QFile>
 #include <QGuiApplication>
 #include <QMenu>
 #include <QStatusBar>
 #include <QTemporaryFile>
 
+#include "app/ask_commands.h"
+#include "app/bottom_panel.h"
 #include "app/close_tips_tab.h"
+#include "app/file_dialog.h"
 #include "app/right_panel.h"
 #include "app/scene_view.h"
 #include "app/system_clipboard.h"
 #include "app/welcome_window.h"
+#include "editing/buttons.h"
 #include "editing/clipboard_commands.h"
-#include "editing/command_frame.h"
-#include "editing/document_commands.h"
 #include "editing/view_commands.h"
 
 namespace orbelle::app {
@@ -28,52 +29,64 @@ constexpr int kZoomTickMilliseconds = 1;
 
 MainWindow::MainWindow() {
     setObjectName("MainWindow");
-    menu_ = std::make_unique<MainMenu>(*this);
-    bars_ = std::make_unique<ButtonBars>(*this);
+    menu_ = std::make_unique<MainMenu>(*this, context_);
+    bars_ = std::make_unique<ButtonBars>(context_);
     pointerStatus_ = std::make_unique<PointerStatus>(*statusBar());
     AddPanels();
     ConnectScene();
     AddShortcuts();
 
-    zoomTimer_.setInterval(kZoomTickMilliseconds);
-    connect(&zoomTimer_, &QTimer::timeout, this, [this] {
-        bool done = true;
-        RunGuarded([&](editing::Editor& editor) { done = TickZoomAnimation(editor); });
-        if (done)
-            zoomTimer_.stop();
+    zoomAnimation_.setInterval(kZoomTickMilliseconds);
+    connect(&zoomAnimation_, &QTimer::timeout, this, [this] {
+        RunDuringDrag(editing::TickZoomAnimation);
+        if (!editor_.Zoom.IsAnimated)
+            zoomAnimation_.stop();
     });
     layersTimer_.setSingleShot(true);
     connect(&layersTimer_, &QTimer::timeout, this, [this] { rightPanel_->ShowLayers(editor_); });
-    const auto lookAtClipboard = [this] {
+    clipboardHasPicture_ = SystemClipboardHasPicture() || !SystemClipboardFiles().isEmpty();
+    connect(QGuiApplication::clipboard(), &QClipboard::dataChanged, this, [this] {
         clipboardHasPicture_ = SystemClipboardHasPicture() || !SystemClipboardFiles().isEmpty();
-    };
-    lookAtClipboard();
-    connect(QGuiApplication::clipboard(), &QClipboard::dataChanged, this, [this, lookAtClipboard] {
-        lookAtClipboard();
-        ControlsChanged();
+        RunDuringDrag([](editing::Editor&) {});
     });
     statusBar()->setSizeGripEnabled(false);
 
-    MainWindow::SceneChanged();
-    MainWindow::LayerPanelChanged();
-    MainWindow::ControlsChanged();
-    MainWindow::TitleChanged();
+    ShowScene();
+    ShowControls();
+    ShowTitle();
+    layersTimer_.start(0);
 }
 
-void MainWindow::Run(const EditorCommand& command) {
+bool MainWindow::Run(const editing::Command& command) {
     statusBar()->clearMessage();
-    RunGuarded(command);
+    return Tell(editing::Run(editor_, command));
 }
 
-void MainWindow::RunGuarded(const EditorCommand& command) {
-    const std::string failure = editing::Guarded([&] { command(editor_); });
-    if (!failure.empty())
-        ShowMessage(failure);
+bool MainWindow::RunBusy(const editing::Command& command) {
+    return Tell(Try(command));
+}
+
+editing::Outcome MainWindow::Try(const editing::Command& command) {
+    statusBar()->clearMessage();
+    QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+    editing::Outcome outcome = editing::Run(editor_, command);
+    QGuiApplication::restoreOverrideCursor();
+    return outcome;
+}
+
+bool MainWindow::RunDuringDrag(const editing::Command& step) {
+    return Tell(editing::RunDuringDrag(editor_, step));
+}
+
+bool MainWindow::Tell(const editing::Outcome& outcome) {
+    const std::string text = outcome.Failed() ? outcome.Problem() : std::exchange(message_, {});
+    if (!text.empty())
+        ShowMessage(text);
+    return !outcome.Failed();
 }
 
 void MainWindow::ShellOpen(const QString& commandLine) {
-    const std::string command = QFile::encodeName(commandLine).toStdString();
-    Run([&](editing::Editor& editor) { ShellOpenFile(editor, command); });
+    OpenHandedOver(context_, EncodedName(commandLine));
 }
 
 void MainWindow::TakeHandOver(const QString& commandLine) {
@@ -89,10 +102,8 @@ void MainWindow::OpenPath(const QString& path) {
 }
 
 void MainWindow::ImportFiles(const QStringList& files) {
-    for (const QString& file : files) {
-        const std::filesystem::path path = QFile::encodeName(file).toStdString();
-        Run([&](editing::Editor& editor) { ImportFile(editor, path); });
-    }
+    for (const QString& file : files)
+        ImportKnownFile(context_, EncodedName(file));
 }
 
 void MainWindow::ImportDroppedPicture(const QImage& picture) {
@@ -121,7 +132,7 @@ void MainWindow::ShowAbout() {
 void MainWindow::Paste() {
     const QStringList files = SystemClipboardFiles();
     if (files.isEmpty())
-        Run(editing::PasteFromClipboard);
+        RunBusy(editing::PasteFromClipboard);
     else
         ImportFiles(files);
 }
@@ -137,20 +148,17 @@ void MainWindow::ShowOrderMenu() {
 
 // Shown, not run: whatever led here ends first.
 void MainWindow::PopUpOrderMenu(const QPoint& at) {
-    ControlsChanged();
     menu_->OrderMenu().popup(at);
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {
-    bool closes = false;
-    Run([&](editing::Editor& editor) { closes = RunSavePrompt(editor); });
-    if (!closes) {
+    if (!MayGiveUpDocument(context_)) {
         event->ignore();
         return;
     }
     welcome_->Stop();
     tips_->Stop();
-    zoomTimer_.stop();
+    zoomAnimation_.stop();
     StoreSettings();
 }
 

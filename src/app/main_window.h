@@ -3,7 +3,6 @@
 
 #include <QMainWindow>
 #include <QTimer>
-#include <functional>
 #include <memory>
 
 #include "app/button_bars.h"
@@ -11,7 +10,7 @@
 #include "app/pointer_status.h"
 #include "app/tip_balloons.h"
 #include "app/welcome_sequence.h"
-#include "editing/editor.h"
+#include "app/window_actions.h"
 
 class QScrollBar;
 
@@ -23,16 +22,16 @@ class RightPanel;
 class SceneView;
 
 // Owns the editor, hands it the user's input and shows what it tells.
-class MainWindow : public QMainWindow, public editing::EditorHost {
+class MainWindow : public QMainWindow,
+                   public CommandRunner,
+                   public UserQuestions,
+                   public WindowActions,
+                   public editing::EditorObserver,
+                   public editing::Clipboard {
     Q_OBJECT
 
 public:
-    using EditorCommand = std::function<void(editing::Editor&)>;
-
     MainWindow();
-
-    // Runs a command on the editor. What it throws becomes a message box.
-    void Run(const EditorCommand& command);
 
     // Opens what a command line names: a path between quotation marks.
     void ShellOpen(const QString& commandLine);
@@ -43,14 +42,6 @@ public:
 
     // The welcome text of a start without a file.
     void StartWelcome();
-    // Help/About.
-    void ShowAbout();
-    // "Back One", "Foward One", "To Back", "To Front" at the Set Order button.
-    void ShowOrderMenu();
-    void FocusScene();
-    // Edit/Paste: the clipboard's picture, or the files that lie there, imported.
-    void Paste();
-    void CloseTips();
 
     bool TipsEnabled() const { return tips_->TipsEnabled; }
     void SetTipsEnabled(bool enabled);
@@ -59,34 +50,40 @@ public:
     void RestoreSettings();
     void StoreSettings() const;
 
-    bool IsZoomAnimationRunning() const { return zoomTimer_.isActive(); }
-    const editing::Editor& Editor() const { return editor_; }
+    bool IsZoomAnimationRunning() const { return zoomAnimation_.isActive(); }
 
-    void SceneChanged() override;
-    void LayerPanelChanged() override;
-    void ControlsChanged() override;
-    void OverlaysChanged() override;
-    void ShowTips(int tip, bool showLayerTips) override;
-    void HideTips() override;
-    void SlideBrushPanel() override;
-    void ShowLayerMenu(float x, float y) override;
-    void TitleChanged() override;
-    void SetBusyPointer(bool busy) override;
-    void StartZoomAnimation() override;
+    bool Run(const editing::Command& command) override;
+    bool RunBusy(const editing::Command& command) override;
+    editing::Outcome Try(const editing::Command& command) override;
+    bool RunDuringDrag(const editing::Command& step) override;
+    const editing::Editor& Editor() const override { return editor_; }
+
+    void Changed(const editing::Changes& changes) override;
+
     void ShowMessage(const std::string& text) override;
     void ShowStatus(const std::string& text) override;
-    editing::SavePromptAnswer AskSave() override;
-    std::optional<editing::PageSize> AskPageSize() override;
-    std::filesystem::path ShowFileDialog(const std::string& filter, bool isOpen) override;
+    SavePromptAnswer AskSave() override;
+    bool Confirm(const std::string& text, const std::string& title) override;
+    std::optional<PageSize> AskPageSize() override;
+    std::filesystem::path AskFile(const std::string& filter, bool isOpen) override;
     std::optional<int> AskGifThreshold(const graphics::Bitmap& surface) override;
-    std::optional<int> ChooseIconEntry(
+    std::optional<int> ChooseIconImage(
         const std::vector<formats::IconEntryImage>& offered) override;
     std::optional<graphics::Argb> AskColor(graphics::Argb initial) override;
-    void SetClipboard(const graphics::Bitmap& picture, const std::string& text) override;
-    bool ClipboardHasPicture() override;
-    graphics::Bitmap ClipboardPicture() override;
-    std::string ClipboardText() override;
-    bool Confirm(const std::string& text, const std::string& title) override;
+
+    void Put(const graphics::Bitmap& picture, const std::string& text) override;
+    bool HasPicture() override;
+    graphics::Bitmap Picture() override;
+    std::string Text() override;
+
+    void CloseWindow() override { close(); }
+    void FocusScene() override;
+    void ShowOrderMenu() override;
+    void Paste() override;
+    void ToggleTips() override;
+    void CloseTips() override;
+    void ShowAbout() override;
+    void ShowControls() override;
 
 protected:
     void closeEvent(QCloseEvent* event) override;
@@ -97,19 +94,22 @@ private:
     void ConnectScene();
     void AddPanels();
     void AddShortcuts();
-    void RunGuarded(const EditorCommand& command);
+    bool Tell(const editing::Outcome& outcome);
+    void ShowScene();
+    void ShowTitle();
     void ImportFiles(const QStringList& files);
     void ImportDroppedPicture(const QImage& picture);
     void PopUpOrderMenu(const QPoint& at);
     std::optional<QPoint> TipPlacement(editing::TipPlace place, QSize balloon) const;
 
-    editing::Editor editor_{*this};
+    editing::Editor editor_{*this, *this};
+    WindowContext context_{*this, *this, *this};
+    std::string message_;  // what the last command has to tell although it went well
     SceneView* scene_ = nullptr;
     QScrollBar* horizontalScroll_ = nullptr;
     QScrollBar* verticalScroll_ = nullptr;
-    QTimer zoomTimer_;    // Timer4
+    QTimer zoomAnimation_;
     QTimer layersTimer_;  // draws the layer list once after all that has changed it
-    int busyPointers_ = 0;
     bool clipboardHasPicture_ = false;
     std::unique_ptr<MainMenu> menu_;
     std::unique_ptr<ButtonBars> bars_;

@@ -1,4 +1,4 @@
-// What the editor asks of the main window.
+// What the editor tells the main window, and what is asked of the user.
 #include "app/main_window.h"
 
 #include <QColorDialog>
@@ -18,31 +18,12 @@
 #include "app/save_prompt.h"
 #include "app/scene_view.h"
 #include "app/system_clipboard.h"
-#include "editing/menu_state.h"
 
 namespace orbelle::app {
 namespace {
 
 constexpr int kStatusMilliseconds = 8000;
 constexpr int kScrollPositions = 10;  // the scene scrolls in tenths
-
-// The pointer of a dialog that a busy command shows.
-class PlainPointer {
-public:
-    explicit PlainPointer(int busyPointers) : busy_(busyPointers > 0) {
-        if (busy_)
-            QGuiApplication::restoreOverrideCursor();
-    }
-    ~PlainPointer() {
-        if (busy_)
-            QGuiApplication::setOverrideCursor(Qt::WaitCursor);
-    }
-    PlainPointer(const PlainPointer&) = delete;
-    PlainPointer& operator=(const PlainPointer&) = delete;
-
-private:
-    bool busy_;
-};
 
 void MirrorBar(QScrollBar& shown, const document::ScrollBar& bar, int sceneSize) {
     const QSignalBlocker notTheUser(&shown);
@@ -55,7 +36,32 @@ void MirrorBar(QScrollBar& shown, const document::ScrollBar& bar, int sceneSize)
 
 }  // namespace
 
-void MainWindow::SceneChanged() {
+void MainWindow::Changed(const editing::Changes& changes) {
+    if (changes.Pixels || changes.Scene)
+        ShowScene();
+    if (changes.Stack)
+        layersTimer_.start(0);
+    if (changes.Controls)
+        ShowControls();
+    if (changes.Overlays)
+        scene_->update();
+    if (changes.Title)
+        ShowTitle();
+    if (editor_.Zoom.IsAnimated && !zoomAnimation_.isActive())
+        zoomAnimation_.start();
+    if (changes.HideTips)
+        tips_->HideFirst();
+    if (changes.ExpireTips)
+        tips_->Expire();
+    if (changes.Tip)
+        tips_->Show(*changes.Tip);
+    if (changes.LayerMenu)
+        PopUpOrderMenu(
+            scene_->mapToGlobal(QPointF(changes.LayerMenu->X, changes.LayerMenu->Y).toPoint()));
+    message_ = changes.Message;
+}
+
+void MainWindow::ShowScene() {
     if (editor_.DocumentExists)
         welcome_->Stop();
     pointerStatus_->ShowZoom(editor_.DocumentExists ? editor_.View.Zoom : 0);
@@ -64,52 +70,20 @@ void MainWindow::SceneChanged() {
     scene_->update();
 }
 
-void MainWindow::LayerPanelChanged() {
-    layersTimer_.start(0);
-}
-
-// The shortcuts of entries work without their menu ever having been opened.
-void MainWindow::ControlsChanged() {
-    OpenFileMenu(editor_);
-    OpenEditMenu(editor_);
-    OpenStyleMenu(editor_);
-    menu_->ShowStates(editor_.Controls);
-    bars_->ShowStates(editor_.Controls);
-    rightPanel_->ShowStates(editor_.Controls);
+void MainWindow::ShowControls() {
+    menu_->ShowStates(editor_);
+    bars_->ShowStates(editor_);
+    rightPanel_->ShowStates(editor_.Sliders);
     bottomPanel_->ShowStates(editor_);
     scene_->ShowCursor();
 }
 
-void MainWindow::OverlaysChanged() {
-    scene_->update();
-}
-
-void MainWindow::TitleChanged() {
+void MainWindow::ShowTitle() {
     // Qt would take "[*]" in a file's name for its mark of a changed document.
     setWindowTitle(QString::fromStdString(editor_.Title).replace("[*]", "[*][*]"));
 }
 
-void MainWindow::SetBusyPointer(bool busy) {
-    if (busy && busyPointers_++ == 0)
-        QGuiApplication::setOverrideCursor(Qt::WaitCursor);
-    else if (!busy && --busyPointers_ == 0)
-        QGuiApplication::restoreOverrideCursor();
-}
-
-void MainWindow::StartZoomAnimation() {
-    zoomTimer_.start();
-}
-
-void MainWindow::SlideBrushPanel() {
-    bottomPanel_->SlideBrush(editor_.Controls.BrushPanelOpen);
-}
-
-void MainWindow::ShowLayerMenu(float x, float y) {
-    PopUpOrderMenu(scene_->mapToGlobal(QPoint(static_cast<int>(x), static_cast<int>(y))));
-}
-
 void MainWindow::ShowMessage(const std::string& text) {
-    const PlainPointer pointer(busyPointers_);
     ShowPlainMessage(this, text);
 }
 
@@ -117,69 +91,62 @@ void MainWindow::ShowStatus(const std::string& text) {
     statusBar()->showMessage(QString::fromStdString(text), kStatusMilliseconds);
 }
 
-editing::SavePromptAnswer MainWindow::AskSave() {
-    const PlainPointer pointer(busyPointers_);
+SavePromptAnswer MainWindow::AskSave() {
     SavePrompt prompt(this);
     prompt.exec();
     return prompt.Value();
 }
 
-std::optional<editing::PageSize> MainWindow::AskPageSize() {
-    const PlainPointer pointer(busyPointers_);
+std::optional<PageSize> MainWindow::AskPageSize() {
     NewIconDialog page(this);
     if (page.exec() != QDialog::Accepted)
         return std::nullopt;
     return page.Size();
 }
 
-std::filesystem::path MainWindow::ShowFileDialog(const std::string& filter, bool isOpen) {
-    const PlainPointer pointer(busyPointers_);
+std::filesystem::path MainWindow::AskFile(const std::string& filter, bool isOpen) {
     return AskForFile(this, filter, isOpen);
 }
 
 std::optional<int> MainWindow::AskGifThreshold(const graphics::Bitmap& surface) {
-    const PlainPointer pointer(busyPointers_);
     GifOptimizerDialog optimizer(surface, this);
     if (optimizer.exec() != QDialog::Accepted)
         return std::nullopt;
     return optimizer.OptimizeValue();
 }
 
-std::optional<int> MainWindow::ChooseIconEntry(
+std::optional<int> MainWindow::ChooseIconImage(
     const std::vector<formats::IconEntryImage>& offered) {
-    const PlainPointer pointer(busyPointers_);
-    IconImagesDialog form(offered, this);
-    if (form.exec() != QDialog::Accepted)
+    IconImagesDialog dialog(offered, this);
+    if (dialog.exec() != QDialog::Accepted)
         return std::nullopt;
-    return form.SelectedIndex();
+    return dialog.SelectedIndex();
 }
 
 std::optional<graphics::Argb> MainWindow::AskColor(graphics::Argb initial) {
-    const PlainPointer pointer(busyPointers_);
     const QColor color = QColorDialog::getColor(QColor::fromRgb(initial), this);
     if (!color.isValid())
         return std::nullopt;
     return color.rgb();
 }
 
-void MainWindow::SetClipboard(const graphics::Bitmap& picture, const std::string& text) {
+void MainWindow::Put(const graphics::Bitmap& picture, const std::string& text) {
     SetSystemClipboard(picture, text);
 }
 
-bool MainWindow::ClipboardHasPicture() {
+bool MainWindow::HasPicture() {
     return clipboardHasPicture_;
 }
 
-graphics::Bitmap MainWindow::ClipboardPicture() {
+graphics::Bitmap MainWindow::Picture() {
     return SystemClipboardPicture();
 }
 
-std::string MainWindow::ClipboardText() {
+std::string MainWindow::Text() {
     return SystemClipboardText();
 }
 
 bool MainWindow::Confirm(const std::string& text, const std::string& title) {
-    const PlainPointer pointer(busyPointers_);
     return AskOkCancel(this, text, title);
 }
 

@@ -47,7 +47,7 @@ void MainWindow::AddPanels() {
     scroller->setFixedWidth(kRightPanelWidth);
     scroller->setFocusPolicy(Qt::NoFocus);
     middle->addWidget(scroller);
-    bottomPanel_ = new BottomPanel(*this);
+    bottomPanel_ = new BottomPanel(context_);
     rows->addWidget(bottomPanel_);
     setCentralWidget(central);
 
@@ -60,7 +60,7 @@ void MainWindow::AddPanels() {
     connect(tips_.get(), &TipBalloons::BalloonClicked, closeTips_, &CloseTipsTab::SlideUp);
     welcome_ = std::make_unique<WelcomeSequence>(*scene_);
     connect(welcome_.get(), &WelcomeSequence::Read, this,
-            [this] { ShowTips(editing::tips::Welcome, false); });
+            [this] { tips_->Show({editing::tips::Welcome}); });
 }
 
 QWidget* MainWindow::MakeScene() {
@@ -83,16 +83,17 @@ QWidget* MainWindow::MakeScene() {
 
 void MainWindow::ConnectScene() {
     scene_->setFocus();
+    using editing::Editor;
     connect(scene_, &SceneView::Resized, this, [this](int width, int height) {
-        RunGuarded([=](editing::Editor& editor) { ResizeScene(editor, width, height); });
+        RunDuringDrag([=](Editor& editor) { ResizeScene(editor, width, height); });
     });
     connect(scene_, &SceneView::ZoomInWanted, this, [this](const QPointF& at) {
-        Run([at](editing::Editor& editor) {
+        RunDuringDrag([at](Editor& editor) {
             ZoomInAt(editor, static_cast<float>(at.x()), static_cast<float>(at.y()));
         });
     });
     connect(scene_, &SceneView::ZoomOutWanted, this, [this](const QPointF& at) {
-        Run([at](editing::Editor& editor) {
+        RunDuringDrag([at](Editor& editor) {
             ZoomOutAt(editor, static_cast<float>(at.x()), static_cast<float>(at.y()));
         });
     });
@@ -103,32 +104,31 @@ void MainWindow::ConnectScene() {
                                   delta.y() * verticalScroll_->singleStep() / kWheelStep);
     });
     connect(scene_, &SceneView::PointerPressed, this, [this](const editing::Pointer& pointer) {
-        Run([&](editing::Editor& editor) { PressScene(editor, pointer); });
+        Run([&](Editor& editor) { PressScene(editor, pointer); });
     });
     connect(scene_, &SceneView::PointerMoved, this, [this](const editing::Pointer& pointer) {
-        RunGuarded([&](editing::Editor& editor) { MoveScene(editor, pointer); });
+        RunDuringDrag([&](Editor& editor) { MoveScene(editor, pointer); });
         pointerStatus_->ShowPointer(editor_, pointer.X, pointer.Y);
     });
     connect(scene_, &SceneView::PointerReleased, this, [this](const editing::Pointer& pointer) {
-        RunGuarded([&](editing::Editor& editor) { ReleaseScene(editor, pointer); });
+        RunDuringDrag([&](Editor& editor) { ReleaseScene(editor, pointer); });
     });
     connect(scene_, &SceneView::PointerLeft, this, [this] {
         pointerStatus_->ClearPointer();
-        editor_.Overlays.PointerMark.Visible = false;
-        OverlaysChanged();
+        RunDuringDrag(editing::LeaveScene);
     });
-    connect(scene_, &SceneView::KeyPressed, this, [this](int key) {
-        Run([key](editing::Editor& editor) { KeyDownScene(editor, key); });
+    connect(scene_, &SceneView::KeyPressed, this, [this](editing::SceneKey key) {
+        Run([key](Editor& editor) { KeyDownScene(editor, key); });
     });
     // Queued: the program that the files come from waits until the drop has been taken.
     connect(scene_, &SceneView::FilesDropped, this, &MainWindow::ImportFiles, Qt::QueuedConnection);
     connect(scene_, &SceneView::PictureDropped, this, &MainWindow::ImportDroppedPicture,
             Qt::QueuedConnection);
     connect(horizontalScroll_, &QScrollBar::valueChanged, this, [this](int value) {
-        Run([=](editing::Editor& editor) { ScrollHorizontally(editor, value); });
+        RunDuringDrag([=](Editor& editor) { ScrollHorizontally(editor, value); });
     });
     connect(verticalScroll_, &QScrollBar::valueChanged, this, [this](int value) {
-        Run([=](editing::Editor& editor) { ScrollVertically(editor, value); });
+        RunDuringDrag([=](Editor& editor) { ScrollVertically(editor, value); });
     });
 }
 

@@ -1,8 +1,6 @@
 // What the main window remembers between two runs.
 #include "app/main_window.h"
 
-#include <algorithm>
-
 #include "app/bottom_panel.h"
 #include "app/right_panel.h"
 #include "app/settings.h"
@@ -12,7 +10,9 @@
 namespace orbelle::app {
 namespace {
 
-constexpr int kMaxBrush = 100;
+constexpr char kBrushOpacity[] = "CtlScroll22";
+constexpr char kBrushSize[] = "CtlScroll23";
+constexpr char kColor[] = "ForeColor%1";
 
 }  // namespace
 
@@ -22,28 +22,29 @@ void MainWindow::RestoreSettings() {
     const auto number = [&](const char* name) { return settings.value(name).toInt(); };
     bottomPanel_->SetOpen(number("isQuick") != 0);
     for (const RightPanel::Header& header : rightPanel_->Headers())
-        rightPanel_->SetOpen(header, number(header.Name) != 0);
-    // What is missing reads as 0, which the sliders do not have.
-    const auto brush = [&](const char* name) { return std::clamp(number(name), 1, kMaxBrush); };
-    editing::ChangeBrushOpacity(editor_, brush("CtlScroll22"));
-    editing::ChangeBrushSize(editor_, brush("CtlScroll23"));
+        rightPanel_->SetOpen(header, number(header.StoredAs) != 0);
     SetTipsEnabled(number("TipsControl") == 1);
-    for (int i = 0; i < 2; ++i)
-        SetWellColor(editor_, i, ReadColor(settings, QString("ForeColor%1").arg(i)));
+    Run([&](editing::Editor& editor) {
+        // What is missing reads as 0, which the sliders do not have.
+        ChangeBrushOpacity(editor, number(kBrushOpacity));
+        ChangeBrushSize(editor, number(kBrushSize));
+        for (int i = 0; i < 2; ++i)
+            SetWellColor(editor, i, ReadColor(settings, QString(kColor).arg(i)));
+    });
 }
 
 void MainWindow::StoreSettings() const {
     StoreMainWindow(*this);
     Settings settings;
     const auto flag = [](bool open) { return open ? -1 : 0; };
-    settings.setValue("isQuick", flag(!bottomPanel_->CtlTitle4().IsClosed()));
+    settings.setValue("isQuick", flag(!bottomPanel_->Header().IsClosed()));
     settings.setValue("TipsControl", TipsEnabled() ? 1 : 0);
     for (const RightPanel::Header& header : rightPanel_->Headers())
-        settings.setValue(header.Name, flag(!header.Title->IsClosed()));
-    settings.setValue("CtlScroll22", editor_.Controls.BrushOpacity.Value);
-    settings.setValue("CtlScroll23", editor_.Controls.BrushSize.Value);
+        settings.setValue(header.StoredAs, flag(!header.Title->IsClosed()));
+    settings.setValue(kBrushOpacity, editor_.Sliders.BrushOpacity.Value);
+    settings.setValue(kBrushSize, editor_.Sliders.BrushSize.Value);
     for (std::size_t i = 0; i < 2; ++i)
-        WriteColor(settings, QString("ForeColor%1").arg(i), editor_.Colors[i]);
+        WriteColor(settings, QString(kColor).arg(i), editor_.Tools.Colors[i]);
 }
 
 }  // namespace orbelle::app

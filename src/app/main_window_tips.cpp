@@ -4,7 +4,6 @@
 #include "app/bottom_panel.h"
 #include "app/right_panel.h"
 #include "app/scene_view.h"
-#include "editing/scene_input.h"
 
 namespace orbelle::app {
 
@@ -13,19 +12,15 @@ void MainWindow::SetTipsEnabled(bool enabled) {
     menu_->ShowTipsState(enabled);
 }
 
-void MainWindow::ShowTips(int tip, bool showLayerTips) {
-    tips_->ShowTips(tip, showLayerTips);
-}
-
-void MainWindow::HideTips() {
-    tips_->HideFirst();
+void MainWindow::ToggleTips() {
+    SetTipsEnabled(!TipsEnabled());
 }
 
 void MainWindow::CloseTips() {
     if (tips_->FirstBalloon().isHidden())
         return;
     tips_->FirstBalloon().hide();
-    editor_.TipCounter = editing::kTipsExpired;
+    tips_->Expire();
 }
 
 // Only where what a tip points at can be seen.
@@ -38,8 +33,8 @@ std::optional<QPoint> MainWindow::TipPlacement(editing::TipPlace place, QSize ba
     const int belowBar = bars_->MainBar->geometry().bottom() + 4;
     const bool layers = rightPanel_->IsLayerListVisible();
     const QPoint scene = at(*scene_);
-    const QPoint page(graphics::RoundToEven(document::PageOffsetX(editor_.Document, editor_.View)),
-                      graphics::RoundToEven(document::PageOffsetY(editor_.Document, editor_.View)));
+    const QPoint page(graphics::RoundToEven(document::PageOffsetX(editor_.Page(), editor_.View)),
+                      graphics::RoundToEven(document::PageOffsetY(editor_.Page(), editor_.View)));
     switch (place) {
         case TipPlace::NewAndOpenButtons:
             return QPoint(8, belowBar);
@@ -48,9 +43,9 @@ std::optional<QPoint> MainWindow::TipPlacement(editing::TipPlace place, QSize ba
         case TipPlace::UndoButtons:
             return QPoint(230, belowBar);
         case TipPlace::LayerMiddle: {
-            if (!editor_.Document.HasSelection())
+            if (!editor_.Page().HasSelection())
                 return lastLayerMiddle_;
-            const graphics::RectF& rect = editor_.Document.Selected().Rect;
+            const graphics::RectF& rect = editor_.Page().Selected().Rect;
             const double zoom = editor_.View.Zoom;
             const auto middle = [zoom](float start, float length) {
                 return (start + graphics::RoundToEven(length) / 2) * zoom;
@@ -79,9 +74,9 @@ std::optional<QPoint> MainWindow::TipPlacement(editing::TipPlace place, QSize ba
         case TipPlace::ColorWells:
         case TipPlace::BrushOptions: {
             const int lower = place == TipPlace::ColorWells ? 40 : 30;
-            return QPoint(at(bottomPanel_->FirstColorWell()).x() - 25,
-                          at(*bottomPanel_).y() - balloon.height() +
-                              bottomPanel_->CtlTitle4().height() + lower);
+            return QPoint(
+                at(bottomPanel_->FirstColorWell()).x() - 25,
+                at(*bottomPanel_).y() - balloon.height() + bottomPanel_->Header().height() + lower);
         }
     }
     return std::nullopt;

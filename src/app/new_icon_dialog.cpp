@@ -31,24 +31,24 @@ NewIconDialog::NewIconDialog(QWidget* parent) : QDialog(parent) {
     rows->setHorizontalSpacing(12);
     rows->setVerticalSpacing(12);
     layout->addLayout(rows);
-    PageWidth = AddSide(*rows, "PageWidth", "&Width:", kWidthSetting);
-    PageHeight = AddSide(*rows, "PageHeight", "&Height:", kHeightSetting);
+    pageWidth_ = AddSide(*rows, "PageWidth", "&Width:", kWidthSetting);
+    pageHeight_ = AddSide(*rows, "PageHeight", "&Height:", kHeightSetting);
 
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
     layout->addWidget(buttons);
     connect(buttons, &QDialogButtonBox::accepted, this, &NewIconDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &NewIconDialog::reject);
 
-    PageWidth->setFocus();
+    pageWidth_->setFocus();
 }
 
-editing::PageSize NewIconDialog::Size() const {
-    return {PageWidth->ColorValue(), PageHeight->ColorValue()};
+PageSize NewIconDialog::Size() const {
+    return {pageWidth_->Value(), pageHeight_->Value()};
 }
 
 void NewIconDialog::accept() {
     const auto allowed = [](int side) { return side >= 1 && side <= document::kMaxPageSide; };
-    const editing::PageSize size = Size();
+    const PageSize size = Size();
     if (!allowed(size.Width) || !allowed(size.Height)) {
         ShowPlainMessage(this, editing::kPageSizeMessage);
         return;
@@ -67,7 +67,7 @@ widgets::NumberSlider* NewIconDialog::AddSide(QGridLayout& rows, const char* nam
     side->setObjectName(name);
     side->setAccessibleName(QString(caption).remove('&'));
     side->SetRange(1, document::kMaxPageSide);
-    side->SetColorValue(Settings().value(setting).toInt());
+    side->SetValue(Settings().value(setting).toInt());
     side->setMinimumWidth(kSideWidth);
 
     const int row = rows.rowCount();

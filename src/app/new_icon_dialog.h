@@ -3,7 +3,7 @@
 
 #include <QDialog>
 
-#include "editing/editor_host.h"
+#include "app/user_questions.h"
 
 class QGridLayout;
 
@@ -21,15 +21,15 @@ class NewIconDialog : public QDialog {
 public:
     explicit NewIconDialog(QWidget* parent = nullptr);
 
-    editing::PageSize Size() const;  // page pixels
+    PageSize Size() const;  // page pixels
     void accept() override;
 
 private:
     widgets::NumberSlider* AddSide(QGridLayout& rows, const char* name, const QString& caption,
                                    const char* setting);
 
-    widgets::NumberSlider* PageWidth;   // width
-    widgets::NumberSlider* PageHeight;  // height
+    widgets::NumberSlider* pageWidth_;
+    widgets::NumberSlider* pageHeight_;
 };
 
 }  // namespace orbelle::app

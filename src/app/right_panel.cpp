@@ -5,7 +5,6 @@
 #include <QVBoxLayout>
 #include <cstdio>
 
-#include "app/main_window.h"
 #include "app/shared_image.h"
 #include "editing/adjust_sliders.h"
 #include "editing/layer_commands.h"
@@ -14,31 +13,33 @@ namespace orbelle::app {
 namespace {
 
 using editing::Adjustment;
-using editing::Controls;
 using editing::Editor;
+using editing::Sliders;
 using widgets::TrackSlider;
 
 constexpr int kMargin = 12;
 constexpr int kCaptionWidth = 70;
 constexpr int kValueWidth = 32;
+constexpr char kFilterCaption[] = "No filters are used, click Style menu to choose a filter.";
 constexpr int kMinLayerList = 84;
 
 // One drag of a slider as the three parts of a command.
 template <typename Press, typename Change, typename Release>
-void ConnectDrag(MainWindow& form, TrackSlider& slider, Press press, Change change,
+void ConnectDrag(CommandRunner& commands, TrackSlider& slider, Press press, Change change,
                  Release release) {
-    QObject::connect(&slider, &TrackSlider::Pressed, &form, [&form, press] { form.Run(press); });
-    QObject::connect(&slider, &TrackSlider::Changed, &form, [&form, change](int value) {
-        form.Run([=](Editor& editor) { change(editor, value); });
+    QObject::connect(&slider, &TrackSlider::Pressed, &slider,
+                     [&commands, press] { commands.Run(press); });
+    QObject::connect(&slider, &TrackSlider::Changed, &slider, [&commands, change](int value) {
+        commands.RunDuringDrag([=](Editor& editor) { change(editor, value); });
     });
-    QObject::connect(&slider, &TrackSlider::Released, &form,
-                     [&form, release] { form.Run(release); });
+    QObject::connect(&slider, &TrackSlider::Released, &slider,
+                     [&commands, release] { commands.RunDuringDrag(release); });
 }
 
 template <Adjustment kAdjustment>
-void ConnectAdjustment(MainWindow& form, TrackSlider& slider) {
+void ConnectAdjustment(CommandRunner& commands, TrackSlider& slider) {
     ConnectDrag(
-        form, slider, editing::PressAdjustment,
+        commands, slider, editing::PressAdjustment,
         [](Editor& editor, int value) { ChangeAdjustment(editor, kAdjustment, value); },
         [](Editor& editor) { ReleaseAdjustment(editor, kAdjustment); });
 }
@@ -52,41 +53,41 @@ QString OpacityText(float opacity) {
 
 }  // namespace
 
-RightPanel::RightPanel(MainWindow& form, QWidget& layerBar) : form_(form) {
+RightPanel::RightPanel(CommandRunner& commands, QWidget& layerBar) : commands_(commands) {
     setObjectName("RightPic");
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
 
-    QWidget* opacity = AddSection("CtlTitle1", "Icon Opacity");
-    opacity_ = AddSlider(*opacity, "Opacity", &Controls::Opacity, nullptr);
-    ConnectDrag(form, *opacity_, editing::PressOpacity, editing::ChangeOpacity,
+    QWidget* opacity = AddSection("OpacityPanel", "CtlTitle1", "Icon Opacity");
+    opacity_ = AddSlider(*opacity, "Opacity", &Sliders::Opacity);
+    ConnectDrag(commands, *opacity_, editing::PressOpacity, editing::ChangeOpacity,
                 editing::ReleaseOpacity);
 
-    QWidget* color = AddSection("CtlTitle2", "HUE/Saturation");
-    ConnectAdjustment<Adjustment::Hue>(
-        form, *AddSlider(*color, "Hue", &Controls::Hue, &Controls::HueValue));
+    QWidget* color = AddSection("ColorPanel", "CtlTitle2", "HUE/Saturation");
+    ConnectAdjustment<Adjustment::Hue>(commands, *AddSlider(*color, "Hue", &Sliders::Hue));
     ConnectAdjustment<Adjustment::Saturation>(
-        form, *AddSlider(*color, "Saturation", &Controls::Saturation, &Controls::SaturationValue));
+        commands, *AddSlider(*color, "Saturation", &Sliders::Saturation));
     ConnectAdjustment<Adjustment::Brightness>(
-        form, *AddSlider(*color, "Brightness", &Controls::Brightness, &Controls::BrightnessValue));
-    ConnectAdjustment<Adjustment::Contrast>(
-        form, *AddSlider(*color, "Contrast", &Controls::Contrast, &Controls::ContrastValue));
+        commands, *AddSlider(*color, "Brightness", &Sliders::Brightness));
+    ConnectAdjustment<Adjustment::Contrast>(commands,
+                                            *AddSlider(*color, "Contrast", &Sliders::Contrast));
 
-    QWidget* size = AddSection("CtlTitle3", "Icon Resize");
-    ConnectDrag(form, *AddSlider(*size, "Scale", &Controls::Scale, &Controls::ScaleValue),
-                editing::PressScale, editing::ChangeScale, editing::ReleaseScale);
+    QWidget* size = AddSection("SizePanel", "CtlTitle3", "Icon Resize");
+    ConnectDrag(commands, *AddSlider(*size, "Scale", &Sliders::Scale), editing::PressScale,
+                editing::ChangeScale, editing::ReleaseScale);
 
-    QWidget* filter = AddSection("CtlTitle5", "Icon Filter");
-    filterCaption_ = new widgets::CaptionText;
-    filterCaption_->setMinimumHeight(30);
-    filter->layout()->addWidget(filterCaption_);
+    QWidget* filter = AddSection("FilterPanel", "CtlTitle5", "Icon Filter");
+    auto* caption = new widgets::CaptionText;
+    caption->setMinimumHeight(30);
+    caption->SetCaption(kFilterCaption);
+    filter->layout()->addWidget(caption);
 
-    QWidget* layers = AddSection("CtlTitle6", "Layer");
+    QWidget* layers = AddSection("LayerPanel", "CtlTitle6", "Layer");
     layers->layout()->setContentsMargins(0, 0, 0, 0);
     layers->layout()->addWidget(&layerBar);
     layers_ = new widgets::LayerList;
-    layers_->setObjectName("LayerPanel");
+    layers_->setObjectName("Layers");
     layers_->setAccessibleName("Layers");
     layers_->setMinimumHeight(kMinLayerList);
     layers->layout()->addWidget(layers_);
@@ -94,14 +95,11 @@ RightPanel::RightPanel(MainWindow& form, QWidget& layerBar) : form_(form) {
     column->addStretch();
     connect(layers_, &widgets::LayerList::Clicked, this, [this] {
         const int index = layers_->SelectedIndex();
-        form_.Run([index](Editor& editor) {
-            if (index >= 0 && index < editor.Document.LayerCount())
-                SelectLayer(editor, index);
-        });
+        commands_.Run([index](Editor& editor) { SelectLayer(editor, index); });
     });
 }
 
-QWidget* RightPanel::AddSection(const char* name, const char* title) {
+QWidget* RightPanel::AddSection(const char* name, const char* storedAs, const char* title) {
     auto* header = new widgets::PanelHeader(title);
     header->setObjectName(name);
     auto* content = new QWidget;
@@ -111,7 +109,7 @@ QWidget* RightPanel::AddSection(const char* name, const char* title) {
     rows->setVerticalSpacing(4);
     layout()->addWidget(header);
     layout()->addWidget(content);
-    headers_.push_back({name, header, content});
+    headers_.push_back({storedAs, header, content});
     connect(header, &widgets::PanelHeader::Clicked, content,
             [content](bool IsClosed) { content->setVisible(!IsClosed); });
     return content;
@@ -123,13 +121,15 @@ void RightPanel::SetOpen(const Header& header, bool open) {
 }
 
 TrackSlider* RightPanel::AddSlider(QWidget& section, const char* caption,
-                                   editing::Slider Controls::*state, std::string Controls::*label) {
+                                   editing::Slider Sliders::*state) {
     auto* slider = new TrackSlider;
-    slider->setRange(0, 100);
+    const editing::Slider range = Sliders().*state;
+    slider->setRange(range.Minimum, range.Maximum);
     slider->setAccessibleName(caption);
     auto* text = new QLabel(caption);
     text->setFixedWidth(kCaptionWidth);
     auto* value = new QLabel;
+    value->setObjectName(QString(caption) + "Value");
     value->setFixedWidth(kValueWidth);
     value->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     auto* rows = static_cast<QGridLayout*>(section.layout());
@@ -137,29 +137,29 @@ TrackSlider* RightPanel::AddSlider(QWidget& section, const char* caption,
     rows->addWidget(text, row, 0);
     rows->addWidget(slider, row, 1);
     rows->addWidget(value, row, 2);
-    adjusters_.push_back({slider, value, state, label});
+    adjusters_.push_back({slider, value, state});
     return slider;
 }
 
-void RightPanel::ShowStates(const Controls& controls) {
+void RightPanel::ShowStates(const Sliders& sliders) {
     for (const Adjuster& adjuster : adjusters_) {
-        const editing::Slider& state = controls.*adjuster.State;
+        const editing::Slider& state = sliders.*adjuster.State;
         adjuster.Slider->setEnabled(state.Enabled);
         adjuster.Slider->SetValue(state.Value);
-        adjuster.Value->setText(adjuster.Label ? QString::fromStdString(controls.*adjuster.Label)
-                                               : QString::number(state.Value) + "%");
+        adjuster.Value->setText(adjuster.Slider == opacity_ ? QString::number(state.Value) + "%"
+                                                            : QString::number(state.Label));
     }
-    filterCaption_->SetCaption(QString::fromStdString(controls.FilterCaption));
 }
 
 void RightPanel::ShowLayers(const Editor& editor) {
-    layers_->Clean();
-    for (const document::IconLayer& layer : editor.Document.Layers)
-        layers_->LoadImage(SharedImage(layer.Image), static_cast<int>(layer.Rect.Width),
-                           static_cast<int>(layer.Rect.Height), OpacityText(layer.Opacity),
-                           layer.Visible);
-    layers_->SetSelectedIndex(editor.Document.SelectedLayer);
-    layers_->DrawLayers();
+    std::vector<widgets::LayerRow> rows;
+    for (const document::IconLayer& layer : editor.Page().Layers)
+        rows.push_back(
+            {SharedImage(layer.Image),
+             QSize(static_cast<int>(layer.Rect.Width), static_cast<int>(layer.Rect.Height)),
+             OpacityText(layer.Opacity), layer.Visible});
+    layers_->SetRows(std::move(rows));
+    layers_->SetSelectedIndex(editor.Page().SelectedLayer);
 }
 
 }  // namespace orbelle::app

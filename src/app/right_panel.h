@@ -4,7 +4,7 @@
 #include <QWidget>
 #include <vector>
 
-#include "editing/editor.h"
+#include "app/command_runner.h"
 #include "widgets/caption_text.h"
 #include "widgets/layer_list.h"
 #include "widgets/panel_header.h"
@@ -14,25 +14,22 @@ class QLabel;
 
 namespace orbelle::app {
 
-class MainWindow;
-
 class RightPanel : public QWidget {
     Q_OBJECT
 
 public:
     // `layerBar` is LayerBar.
-    RightPanel(MainWindow& form, QWidget& layerBar);
+    RightPanel(CommandRunner& commands, QWidget& layerBar);
 
-    void ShowStates(const editing::Controls& controls);
+    void ShowStates(const editing::Sliders& sliders);
     // The layer list anew.
     void ShowLayers(const editing::Editor& editor);
 
     QWidget& OpacitySlider() const { return *opacity_; }
     bool IsLayerListVisible() const { return layers_->isVisible(); }
 
-    // The headers, by the names that their open states are stored under.
     struct Header {
-        const char* Name;
+        const char* StoredAs;  // the setting that holds whether it is open
         widgets::PanelHeader* Title;
         QWidget* Content;
     };
@@ -43,20 +40,17 @@ private:
     struct Adjuster {
         widgets::TrackSlider* Slider;
         QLabel* Value;
-        editing::Slider editing::Controls::*State;
-        std::string editing::Controls::*Label;
+        editing::Slider editing::Sliders::*State;
     };
 
-    QWidget* AddSection(const char* name, const char* title);
+    QWidget* AddSection(const char* name, const char* storedAs, const char* title);
     widgets::TrackSlider* AddSlider(QWidget& section, const char* caption,
-                                    editing::Slider editing::Controls::*state,
-                                    std::string editing::Controls::*label);
+                                    editing::Slider editing::Sliders::*state);
 
-    MainWindow& form_;
+    CommandRunner& commands_;
     std::vector<Header> headers_;
     std::vector<Adjuster> adjusters_;
     widgets::TrackSlider* opacity_ = nullptr;
-    widgets::CaptionText* filterCaption_ = nullptr;
     widgets::LayerList* layers_ = nullptr;
 };
 

@@ -60,7 +60,7 @@ SavePrompt::SavePrompt(QWidget* parent) : QDialog(parent) {
     auto* buttons = new QHBoxLayout;
     buttons->addStretch();
     layout->addLayout(buttons);
-    const auto addButton = [&](const char* caption, editing::SavePromptAnswer answer) {
+    const auto addButton = [&](const char* caption, SavePromptAnswer answer) {
         auto* button = new QPushButton(caption);
         buttons->addWidget(button);
         connect(button, &QPushButton::clicked, this, [this, answer] {
@@ -69,9 +69,9 @@ SavePrompt::SavePrompt(QWidget* parent) : QDialog(parent) {
         });
         return button;
     };
-    QPushButton* yes = addButton("&Yes", editing::SavePromptAnswer::Yes);
-    addButton("&No", editing::SavePromptAnswer::No);
-    addButton("&Cancel", editing::SavePromptAnswer::Cancel);
+    QPushButton* yes = addButton("&Yes", SavePromptAnswer::Yes);
+    addButton("&No", SavePromptAnswer::No);
+    addButton("&Cancel", SavePromptAnswer::Cancel);
     yes->setDefault(true);
     yes->setFocus();
 }

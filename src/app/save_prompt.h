@@ -3,7 +3,7 @@
 
 #include <QDialog>
 
-#include "editing/editor_host.h"
+#include "app/user_questions.h"
 
 namespace orbelle::app {
 
@@ -15,10 +15,10 @@ class SavePrompt : public QDialog {
 public:
     explicit SavePrompt(QWidget* parent = nullptr);
 
-    editing::SavePromptAnswer Value() const { return value_; }
+    SavePromptAnswer Value() const { return value_; }
 
 private:
-    editing::SavePromptAnswer value_ = editing::SavePromptAnswer::Cancel;
+    SavePromptAnswer value_ = SavePromptAnswer::Cancel;
 };
 
 }  // namespace orbelle::app

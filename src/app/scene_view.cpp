@@ -9,16 +9,13 @@
 #include <algorithm>
 #include <cmath>
 
+#include "app/shared_image.h"
 #include "document/scene_painter.h"
-#include "editing/tools/object_keys.h"
 #include "widgets/artwork.h"
-#include "widgets/image_store.h"
+#include "widgets/chrome.h"
 
 namespace orbelle::app {
 namespace {
-
-constexpr QColor kFrameColor(58, 150, 255);
-constexpr int kWelcomeStrongest = 250;
 
 // Hot spots of the pointers, as their drawings have them.
 constexpr QPoint kMoveSpot(16, 16), kLineSpot(16, 16), kPickSpot(2, 29), kEraseSpot(10, 27);
@@ -110,7 +107,7 @@ void SceneView::ShowCursor() {
     static const QCursor pick = ToolCursor("cursors/pick", kPickSpot);
     static const QCursor erase = ToolCursor("cursors/erase", kEraseSpot);
     const QCursor* cursor = &line;
-    switch (editor_.CurrentTool) {
+    switch (editor_.Tools.InUse) {
         case Tool::Move:
             cursor = &move;
             break;
@@ -151,18 +148,18 @@ void SceneView::leaveEvent(QEvent*) {
 }
 
 void SceneView::keyPressEvent(QKeyEvent* event) {
-    namespace key_codes = editing::key_codes;
+    using editing::SceneKey;
     switch (event->key()) {
         case Qt::Key_Left:
-            return emit KeyPressed(key_codes::Left);
+            return emit KeyPressed(SceneKey::Left);
         case Qt::Key_Up:
-            return emit KeyPressed(key_codes::Up);
+            return emit KeyPressed(SceneKey::Up);
         case Qt::Key_Right:
-            return emit KeyPressed(key_codes::Right);
+            return emit KeyPressed(SceneKey::Right);
         case Qt::Key_Down:
-            return emit KeyPressed(key_codes::Down);
+            return emit KeyPressed(SceneKey::Down);
         case Qt::Key_Delete:
-            return emit KeyPressed(key_codes::Delete);
+            return emit KeyPressed(SceneKey::Delete);
         default:
             QWidget::keyPressEvent(event);
     }
@@ -178,13 +175,11 @@ void SceneView::paintEvent(QPaintEvent*) {
         return;
     }
     // The painter scales without smoothing, so at 200 % a scene pixel is a hard 2 x 2 square.
-    const QImage image(reinterpret_cast<const uchar*>(scene.Pixels()), scene.Width(),
-                       scene.Height(), scene.Width() * qsizetype{4}, QImage::Format_RGB32);
-    painter.drawImage(0, 0, image);
+    painter.drawImage(0, 0, SharedImage(scene, QImage::Format_RGB32));
 
-    const auto frame = document::ObjectFrame(editor_.Document, editor_.View);
+    const auto frame = document::ObjectFrame(editor_.Page(), editor_.View);
     if (frame && !editor_.Selection.Exists()) {
-        painter.setPen(QPen(kFrameColor, 1, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+        painter.setPen(QPen(widgets::kAccentColor, 1, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
         painter.drawRect(
             QRectF(frame->X + 0.5, frame->Y + 0.5, frame->Width - 1, frame->Height - 1));
     }
@@ -199,18 +194,17 @@ void SceneView::DrawWelcome(QPainter& painter) const {
     const int left = (width() - 280) / 2, top = (height() - 80) / 2;
     // The picture is there or it is not; only the texts fade.
     const double picture = std::round(std::round(welcome_ * 10.0 / kWelcomeStrongest) / 10);
-    static const widgets::ImageStore board("board");
-    board.Drawing(painter, QRect(left - 60, top - 30, 40, 40), picture);
-    QFont font("Verdana");
-    font.setPointSizeF(11);
-    font.setBold(true);
-    painter.setFont(font);
+    painter.setOpacity(picture);
+    painter.drawPixmap(left - 60, top - 30,
+                       widgets::Artwork("board", {40, 40}, devicePixelRatioF()));
+    painter.setOpacity(1);
+    QFont head = widgets::ChromeFont(11);
+    head.setBold(true);
+    painter.setFont(head);
     painter.setPen(QColor(255, 255, 255, welcome_));
     painter.drawText(QRect(left, top - 30, 350, 28), Qt::AlignLeft | Qt::AlignTop,
                      "Welcome to Use Orbelle!");
-    font.setPointSizeF(10);
-    font.setBold(false);
-    painter.setFont(font);
+    painter.setFont(widgets::ChromeFont(10));
     painter.setPen(QColor(200, 200, 200, welcome_));
     painter.drawText(
         QRect(left, top, 350, 200), Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap,

@@ -5,12 +5,14 @@
 #include <QStringList>
 #include <QWidget>
 
+#include "editing/editor.h"
+#include "editing/scene_input.h"
+
 class QPainter;
 
-#include "editing/editor.h"
-#include "editing/tools/tool_handlers.h"
-
 namespace orbelle::app {
+
+inline constexpr int kWelcomeStrongest = 250;
 
 // Shows Editor::Scene from the top left corner, one scene pixel for each logical pixel, and over it
 // the outline around the selected layer and the overlay shapes. Hands on the mouse and the keys.
@@ -24,7 +26,7 @@ public:
 
     // The pointer's shape, by the tool.
     void ShowCursor();
-    // The welcome text over an empty scene, 0 (nothing) to 250; -1: none.
+    // The welcome text over an empty scene, 0 (nothing) to kWelcomeStrongest; -1: none.
     void ShowWelcome(int strength);
 
 signals:
@@ -36,7 +38,7 @@ signals:
     void PointerMoved(const editing::Pointer& pointer);
     void PointerReleased(const editing::Pointer& pointer);
     void PointerLeft();
-    void KeyPressed(int keyCode);                 // see editing/tools/object_keys.h
+    void KeyPressed(editing::SceneKey key);
     void FilesDropped(const QStringList& files);  // local files, in the order given
     void PictureDropped(const QImage& picture);
 

@@ -2,7 +2,7 @@
 
 namespace orbelle::app {
 
-QImage SharedImage(const graphics::Bitmap& bitmap) {
+QImage SharedImage(const graphics::Bitmap& bitmap, QImage::Format format) {
     if (bitmap.IsEmpty())
         return {};
     auto* owner = new graphics::Bitmap(bitmap);
@@ -10,7 +10,7 @@ QImage SharedImage(const graphics::Bitmap& bitmap) {
             owner->Width(),
             owner->Height(),
             owner->Width() * qsizetype{4},
-            QImage::Format_ARGB32,
+            format,
             [](void* kept) { delete static_cast<graphics::Bitmap*>(kept); },
             owner};
 }

@@ -8,6 +8,7 @@
 namespace orbelle::app {
 
 // An image of the same pixels, which it shares and keeps alive. Null for an empty bitmap.
-QImage SharedImage(const graphics::Bitmap& bitmap);
+// Format_RGB32 is for a bitmap that is opaque throughout.
+QImage SharedImage(const graphics::Bitmap& bitmap, QImage::Format format = QImage::Format_ARGB32);
 
 }  // namespace orbelle::app

@@ -1,5 +1,6 @@
 #include "app/shortcuts.h"
 
+#include "editing/buttons.h"
 #include "editing/color_wells.h"
 #include "editing/scene_input.h"
 #include "editing/tool_palette.h"
@@ -10,15 +11,8 @@ namespace {
 
 namespace tool_buttons = editing::tool_buttons;
 
-MainWindow::EditorCommand Tool(int button) {
-    return [button](editing::Editor& editor) {
-        ClickToolButton(editor, button);
-        // A key chooses the tool; the pop-up is the mouse's.
-        editor.Controls.FillBarVisible = false;
-        editor.Controls.SelectionBarVisible = false;
-        editor.Controls.EraserBarVisible = false;
-        editor.Host.ControlsChanged();
-    };
+editing::Command Tool(int button) {
+    return [button](editing::Editor& editor) { ChooseToolByKey(editor, button); };
 }
 
 }  // namespace

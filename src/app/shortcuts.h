@@ -5,14 +5,14 @@
 #include <QList>
 #include <vector>
 
-#include "app/main_window.h"
+#include "editing/run.h"
 
 namespace orbelle::app {
 
 struct Shortcut {
     QString Caption;
     QList<QKeySequence> Keys;
-    MainWindow::EditorCommand Command;
+    editing::Command Command;
 };
 
 std::vector<Shortcut> WindowShortcuts();

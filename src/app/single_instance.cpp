@@ -13,7 +13,8 @@ constexpr int kLongestCommandLine = 1 << 16;  // bytes
 // In a folder that only the user can write to, where the system has one.
 QString ServerName() {
 #ifdef Q_OS_UNIX
-    return QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation) + "/orbelle-mform";
+    return QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation) +
+           "/orbelle-main-window";
 #else
     return kHandOverTopic;
 #endif

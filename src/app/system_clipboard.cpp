@@ -7,16 +7,14 @@
 #include <QUrl>
 #include <algorithm>
 
+#include "app/shared_image.h"
+
 namespace orbelle::app {
 
 void SetSystemClipboard(const graphics::Bitmap& picture, const std::string& text) {
     auto* data = new QMimeData;
-    // The copy outlives the bitmap, whose pixels the image would only borrow.
     if (!picture.IsEmpty())
-        data->setImageData(QImage(reinterpret_cast<const uchar*>(picture.Pixels()), picture.Width(),
-                                  picture.Height(), picture.Width() * qsizetype{4},
-                                  QImage::Format_ARGB32)
-                               .copy());
+        data->setImageData(SharedImage(picture));
     data->setText(QString::fromStdString(text));
     QGuiApplication::clipboard()->setMimeData(data);
 }

@@ -9,29 +9,29 @@ constexpr int kOldest = 300;  // ticks
 
 }  // namespace
 
-TipBalloons::TipBalloons(editing::Editor& editor, QWidget& central, Placement placement)
+TipBalloons::TipBalloons(const editing::Editor& editor, QWidget& central, Placement placement)
     : editor_(editor),
       placement_(std::move(placement)),
-      tips1_(new widgets::Balloon(&central)),
-      tips2_(new widgets::Balloon(&central)) {
-    tips1_->setObjectName("FirstBalloon");
-    tips2_->setObjectName("SecondBalloon");
-    tips2_->SetDirection(1);
-    for (widgets::Balloon* balloon : {tips1_, tips2_}) {
+      first_(new widgets::Balloon(&central)),
+      second_(new widgets::Balloon(&central)) {
+    first_->setObjectName("FirstBalloon");
+    second_->setObjectName("SecondBalloon");
+    second_->SetPointsDown(true);
+    for (widgets::Balloon* balloon : {first_, second_}) {
         balloon->hide();
         connect(balloon, &widgets::Balloon::Clicked, this, [this, balloon] {
             balloon->hide();
             emit BalloonClicked();
         });
     }
-    timer2_.setInterval(kTickMilliseconds);
-    connect(&timer2_, &QTimer::timeout, this, &TipBalloons::Grow);
+    aging_.setInterval(kTickMilliseconds);
+    connect(&aging_, &QTimer::timeout, this, &TipBalloons::Grow);
 }
 
 bool TipBalloons::Put(widgets::Balloon& balloon, const std::optional<editing::Tip>& tip) {
     if (!tip)
         return true;
-    balloon.SetTipString(QString::fromStdString(tip->Text));
+    balloon.SetText(QString::fromStdString(tip->Text));
     const std::optional<QPoint> place = placement_(tip->Place, balloon.size());
     if (!place)
         return false;
@@ -42,44 +42,45 @@ bool TipBalloons::Put(widgets::Balloon& balloon, const std::optional<editing::Ti
     return true;
 }
 
-void TipBalloons::ShowTips(int tip, bool showLayerTips) {
-    editor_.TipCounter = 0;
+void TipBalloons::Show(const editing::TipRequest& request) {
+    age_ = 0;
     if (!TipsEnabled)
         return;
     const int pick = std::uniform_int_distribution<int>(1, 2)(random_);
-    const editing::TipChoice choice = ChooseTips(editor_, tip, showLayerTips, pick);
-    const bool seen1 = Put(*tips1_, choice.FirstBalloon);
-    tips1_->setVisible(choice.FirstVisible && seen1);
-    const bool seen2 = Put(*tips2_, choice.SecondBalloon);
+    const editing::TipChoice choice =
+        ChooseTips(editor_, request.Number, request.AboutLayers, pick);
+    const bool seesFirst = Put(*first_, choice.FirstBalloon);
+    first_->setVisible(choice.FirstVisible && seesFirst);
+    const bool seesSecond = Put(*second_, choice.SecondBalloon);
     if (choice.SecondVisible)
-        tips2_->setVisible(*choice.SecondVisible && seen2);
-    for (widgets::Balloon* balloon : {tips1_, tips2_})
+        second_->setVisible(*choice.SecondVisible && seesSecond);
+    for (widgets::Balloon* balloon : {first_, second_})
         balloon->raise();
-    timer2_.start();
+    aging_.start();
 }
 
 void TipBalloons::HideFirst() {
-    if (tips1_->isHidden())
+    if (first_->isHidden())
         return;
-    tips1_->hide();
-    timer2_.stop();
+    first_->hide();
+    aging_.stop();
 }
 
-void TipBalloons::HideAll() {
-    tips1_->hide();
-    tips2_->hide();
+void TipBalloons::Expire() {
+    age_ = kOldest;
 }
 
 void TipBalloons::Stop() {
-    timer2_.stop();
+    aging_.stop();
 }
 
 void TipBalloons::Grow() {
-    if (++editor_.TipCounter <= kOldest)
+    if (++age_ <= kOldest)
         return;
-    editor_.TipCounter = 0;
-    HideAll();
-    timer2_.stop();
+    age_ = 0;
+    first_->hide();
+    second_->hide();
+    aging_.stop();
 }
 
 }  // namespace orbelle::app

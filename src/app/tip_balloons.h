@@ -22,18 +22,17 @@ public:
     using Placement = std::function<std::optional<QPoint>(editing::TipPlace, QSize balloon)>;
 
     // The balloons are children of `central`.
-    TipBalloons(editing::Editor& editor, QWidget& central, Placement placement);
+    TipBalloons(const editing::Editor& editor, QWidget& central, Placement placement);
 
     // Help/Tips. Open balloons close by themselves.
     bool TipsEnabled = false;
 
-    void ShowTips(int tip, bool showLayerTips);
+    void Show(const editing::TipRequest& request);
     void HideFirst();  // and lets the balloons grow no older
-    void HideAll();
+    void Expire();     // the next tick closes them
     void Stop();
 
-    widgets::Balloon& FirstBalloon() const { return *tips1_; }
-    widgets::Balloon& SecondBalloon() const { return *tips2_; }
+    widgets::Balloon& FirstBalloon() const { return *first_; }
 
 signals:
     void BalloonClicked();
@@ -42,11 +41,12 @@ private:
     void Grow();
     bool Put(widgets::Balloon& balloon, const std::optional<editing::Tip>& tip);
 
-    editing::Editor& editor_;
+    const editing::Editor& editor_;
     Placement placement_;
-    widgets::Balloon* tips1_;
-    widgets::Balloon* tips2_;
-    QTimer timer2_;
+    widgets::Balloon* first_;
+    widgets::Balloon* second_;
+    QTimer aging_;
+    int age_ = 0;  // of the open tips, in ticks
     std::minstd_rand random_;
 };
 

@@ -25,9 +25,9 @@ private:
     void Tick();
 
     SceneView& scene_;
-    QTimer timer7_;
-    int tag_ = 0;
-    int welcomeStep_ = 10;  // what the tag goes up by
+    QTimer fading_;
+    int strength_ = 0;  // of the text; it counts on while the text stands
+    int step_ = 0;      // what a tick adds
 };
 
 }  // namespace orbelle::app

@@ -8,6 +8,7 @@
 
 #include "editing/editor.h"
 #include "widgets/artwork.h"
+#include "widgets/chrome.h"
 
 namespace orbelle::app {
 namespace {
@@ -16,6 +17,7 @@ constexpr QSize kSize(480, 270);
 constexpr int kTickMilliseconds = 10;
 constexpr int kLastTick = 100;
 constexpr int kLeft = 36;
+constexpr QColor kGround(44, 52, 64);
 constexpr QColor kHead(255, 255, 255);
 constexpr QColor kText(200, 205, 212);
 
@@ -36,29 +38,26 @@ void WelcomeWindow::RunStart() {
     starting_ = true;
     setCursor(Qt::WaitCursor);
     show();
-    auto* timer1 = new QTimer(this);
-    connect(timer1, &QTimer::timeout, this, [this, timer1, count = 0]() mutable {
+    auto* stay = new QTimer(this);
+    connect(stay, &QTimer::timeout, this, [this, stay, count = 0]() mutable {
         if (++count <= kLastTick)
             return;
-        timer1->stop();
+        stay->stop();
         emit Finished();
         close();
     });
-    timer1->start(kTickMilliseconds);
+    stay->start(kTickMilliseconds);
 }
 
 void WelcomeWindow::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    painter.fillRect(rect(), QColor(44, 52, 64));
+    painter.fillRect(rect(), kGround);
     painter.drawPixmap(0, 0, picture_);
-    QFont font("Verdana");
-    font.setPointSizeF(20);
-    painter.setFont(font);
+    painter.setFont(widgets::ChromeFont(20));
     painter.setPen(kHead);
     painter.drawText(QRect(kLeft, 84, kSize.width() - kLeft, 40), Qt::AlignVCenter,
                      editing::kProductName);
-    font.setPointSizeF(9);
-    painter.setFont(font);
+    painter.setFont(widgets::ChromeFont(9));
     painter.setPen(kText);
     painter.drawText(QRect(kLeft, 124, kSize.width() - kLeft, 24), Qt::AlignVCenter,
                      "v" + QCoreApplication::applicationVersion());

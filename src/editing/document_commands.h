@@ -3,8 +3,10 @@
 #pragma once
 
 #include <filesystem>
+#include <vector>
 
 #include "editing/editor.h"
+#include "formats/icon_reader.h"
 
 namespace orbelle::editing {
 
@@ -27,6 +29,10 @@ void ImportFile(Editor& editor, const std::filesystem::path& path, int iconImage
 // The same with a picture that has been read already.
 void OpenPicture(Editor& editor, const graphics::Bitmap& picture);
 void ImportPicture(Editor& editor, const graphics::Bitmap& picture);
+
+// The images of an icon file, in the order in which they are offered. Throws Error when there are
+// none.
+std::vector<formats::IconEntryImage> ReadIconImages(const std::filesystem::path& path);
 
 // Writes the document there; its path and the title follow. Throws Error when that fails.
 void SaveTo(Editor& editor, const std::filesystem::path& path);

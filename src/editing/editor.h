@@ -39,7 +39,7 @@ struct ZoomState {
 };
 
 // What a command that fails leaves as it was; the undo history, too. A copy costs a pointer a
-// layer.
+// layer and the points of a stroke.
 struct EditorState {
     document::Document Document;
     // Set while a document exists; cleared while one is being opened.
@@ -48,8 +48,7 @@ struct EditorState {
 
     document::Selection Selection;
     std::vector<graphics::PointF> PolygonPoints;  // of an open polygon, page pixels
-    // What the last Copy took; it counts while the clipboard carries the product's mark.
-    std::optional<document::IconLayer> ClipboardLayer;
+    editing::Drag Drag;
 
     document::View View;
     ZoomState Zoom;
@@ -72,7 +71,9 @@ struct Editor : EditorState {
     editing::Clipboard& Clipboard;
 
     document::UndoHistory History;
-    editing::Drag Drag;
+    // What the last Copy took; it counts while the clipboard carries the product's mark. The two
+    // belong together, and the clipboard is not taken back.
+    std::optional<document::IconLayer> ClipboardLayer;
     Changes Changed;  // by the command that runs
 
     // Kept by Run.

@@ -3,14 +3,15 @@
 #include <stdexcept>
 #include <string>
 
-#include "formats/little_endian.h"
 #include "graphics/codecs/image_files.h"
 #include "graphics/errors.h"
 #include "graphics/file_io.h"
+#include "graphics/little_endian.h"
 
 namespace orbelle::formats {
 namespace {
 
+using graphics::Append;
 using graphics::Bitmap;
 using Bytes = std::vector<std::uint8_t>;
 

@@ -3,11 +3,11 @@
 #include <algorithm>
 #include <cstring>
 
-#include "formats/little_endian.h"
 #include "graphics/codecs/image_codecs.h"
 #include "graphics/codecs/image_files.h"
 #include "graphics/errors.h"
 #include "graphics/file_io.h"
+#include "graphics/little_endian.h"
 #include "graphics/rotate_flip.h"
 
 namespace orbelle::formats {
@@ -15,6 +15,7 @@ namespace {
 
 using Bytes = std::span<const std::uint8_t>;
 using graphics::ImageError;
+using graphics::NumberAt;
 
 constexpr std::size_t kDirectoryBytes = 6;
 constexpr std::size_t kEntryBytes = 16;
@@ -26,23 +27,13 @@ Bytes From(Bytes bytes, std::size_t offset) {
     return bytes.subspan(std::min(offset, bytes.size()));
 }
 
-// What the file lacks reads as zero.
-template <typename Number>
-Number ReadAt(Bytes bytes, std::size_t offset) {
-    const Bytes there = From(bytes, offset);
-    Number value = 0;
-    if (!there.empty())
-        std::memcpy(&value, there.data(), std::min(sizeof value, there.size()));
-    return value;
-}
-
 // Checks everything but takes no memory for pixels.
 IconEntryImage ReadHeader(Bytes picture) {
     IconEntryImage entry;
-    entry.Width = ReadAt<std::int32_t>(picture, 4);
+    entry.Width = NumberAt<std::int32_t>(picture, 4);
     // Colours and mask are counted together.
-    entry.Height = ReadAt<std::int32_t>(picture, 8) / 2;
-    entry.BitCount = ReadAt<std::int16_t>(picture, 14);
+    entry.Height = NumberAt<std::int32_t>(picture, 8) / 2;
+    entry.BitCount = NumberAt<std::int16_t>(picture, 14);
     graphics::CheckDeclaredSize(entry.Width, entry.Height);
     const std::int64_t pixels = std::int64_t{entry.Width} * entry.Height;
     if (pixels > kMaxUnbackedPixels && picture.size() <= kBitmapHeaderBytes)
@@ -62,9 +53,9 @@ void ReadPixels(Bytes picture, IconEntryImage& entry) {
 }  // namespace
 
 std::vector<IconEntryImage> DecodeIcon(Bytes bytes) {
-    const auto reserved = ReadAt<std::uint16_t>(bytes, 0);
-    const auto type = ReadAt<std::int16_t>(bytes, 2);
-    const auto count = ReadAt<std::uint16_t>(bytes, 4);
+    const auto reserved = NumberAt<std::uint16_t>(bytes, 0);
+    const auto type = NumberAt<std::int16_t>(bytes, 2);
+    const auto count = NumberAt<std::uint16_t>(bytes, 4);
     if (reserved != 0 || type < 0 || type > 1)
         throw ImageError("not a Windows icon");
     if (count == 0)
@@ -72,7 +63,7 @@ std::vector<IconEntryImage> DecodeIcon(Bytes bytes) {
 
     const auto pictureOf = [bytes](std::size_t entry) {
         const std::size_t place = kDirectoryBytes + entry * kEntryBytes + kImageOffsetInEntry;
-        return From(bytes, ReadAt<std::uint32_t>(bytes, place));
+        return From(bytes, NumberAt<std::uint32_t>(bytes, place));
     };
     std::vector<IconEntryImage> entries;
     std::int64_t allPixels = 0;

@@ -6,17 +6,19 @@
 #include <string_view>
 
 #include "filters/create_region.h"
-#include "formats/little_endian.h"
 #include "formats/parallel.h"
 #include "graphics/codecs/image_files.h"
 #include "graphics/file_io.h"
+#include "graphics/little_endian.h"
 
 namespace orbelle::formats {
 namespace {
 
 using document::Document;
 using document::IconLayer;
+using graphics::Append;
 using graphics::Bitmap;
+using graphics::ByteReader;
 using graphics::RectF;
 
 constexpr std::string_view kMagic = "volf ";
@@ -86,7 +88,8 @@ private:
 
 IconLayer LayerReader::Read() {
     IconLayer layer;
-    // Pictures keep their adjusted look, so the sliders deliberately start at neutral again.
+    // Pictures keep their adjusted look, so the sliders start at neutral again
+    // (docs/oddities.md, "Sliders of an opened document").
     file_.Take(kSliderBytes);
     layer.ImageHeight = std::max(file_.Read<std::int32_t>(), 0);
     layer.Opacity = ReadOpacity();

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <memory>
 #include <optional>
+#include <utility>
 #include <vector>
 
 #include "graphics/color.h"
@@ -24,11 +25,19 @@ inline constexpr std::int64_t kMaxBitmapPixels = std::int64_t{48} << 20;
 bool IsBitmapSizeAllowed(std::int64_t width, std::int64_t height);
 
 // A value: a copy costs a pointer, and the pixels are copied when one of the copies is written.
-// A default-made Bitmap is empty, the zero handle: it has no pixels, and drawing it draws nothing.
+// A default-made or moved-from Bitmap is empty, the zero handle: it has no pixels and no size, and
+// drawing it draws nothing.
 // Rows are exactly Width() pixels apart, top row first.
 class Bitmap {
 public:
     Bitmap() = default;
+    Bitmap(const Bitmap&) = default;
+    Bitmap(Bitmap&& other) noexcept { Swap(other); }
+    Bitmap& operator=(Bitmap other) noexcept {
+        Swap(other);
+        return *this;
+    }
+    ~Bitmap() = default;
 
     // All pixels zero (in Rgb24: opaque black). A size that is not allowed gives an empty bitmap.
     Bitmap(int width, int height, PixelFormat format = PixelFormat::Argb32);
@@ -61,6 +70,13 @@ public:
     }
 
 private:
+    void Swap(Bitmap& other) noexcept {
+        pixels_.swap(other.pixels_);
+        std::swap(width_, other.width_);
+        std::swap(height_, other.height_);
+        std::swap(format_, other.format_);
+    }
+
     std::shared_ptr<std::vector<Argb>> pixels_;
     int width_ = 0;
     int height_ = 0;

@@ -1,7 +1,6 @@
 #include "graphics/geometry.h"
 
 #include <algorithm>
-#include <cstdint>
 #include <limits>
 
 namespace orbelle::graphics {
@@ -15,6 +14,15 @@ int Saturate(double value) {
     return static_cast<int>(std::clamp(value, lowest, highest));
 }
 
+// All zero when nothing lies between the edges; cut to the longest side an int holds.
+RectI FromEdges(int left, int top, std::int64_t right, std::int64_t bottom) {
+    constexpr std::int64_t longest = std::numeric_limits<int>::max();
+    if (right <= left || bottom <= top)
+        return {};
+    return {left, top, static_cast<int>(std::min(right - left, longest)),
+            static_cast<int>(std::min(bottom - top, longest))};
+}
+
 }  // namespace
 
 int RoundToEven(double value) {
@@ -26,16 +34,8 @@ int RoundHalfUp(double value) {
 }
 
 RectI Intersect(const RectI& a, const RectI& b) {
-    // In 64 bits: hostile documents hold rectangles at the ends of int.
-    const std::int64_t left = std::max(a.X, b.X);
-    const std::int64_t top = std::max(a.Y, b.Y);
-    const std::int64_t right = std::min(std::int64_t{a.X} + a.Width, std::int64_t{b.X} + b.Width);
-    const std::int64_t bottom =
-        std::min(std::int64_t{a.Y} + a.Height, std::int64_t{b.Y} + b.Height);
-    if (right <= left || bottom <= top)
-        return {};
-    return {static_cast<int>(left), static_cast<int>(top), static_cast<int>(right - left),
-            static_cast<int>(bottom - top)};
+    return FromEdges(std::max(a.X, b.X), std::max(a.Y, b.Y), std::min(a.Right(), b.Right()),
+                     std::min(a.Bottom(), b.Bottom()));
 }
 
 RectI Unite(const RectI& a, const RectI& b) {
@@ -43,11 +43,8 @@ RectI Unite(const RectI& a, const RectI& b) {
         return b;
     if (b.IsEmpty())
         return a;
-    const int left = std::min(a.X, b.X);
-    const int top = std::min(a.Y, b.Y);
-    const int right = std::max(a.X + a.Width, b.X + b.Width);
-    const int bottom = std::max(a.Y + a.Height, b.Y + b.Height);
-    return {left, top, right - left, bottom - top};
+    return FromEdges(std::min(a.X, b.X), std::min(a.Y, b.Y), std::max(a.Right(), b.Right()),
+                     std::max(a.Bottom(), b.Bottom()));
 }
 
 RectI BoxAround(std::span<const RectI> rects) {
@@ -55,6 +52,20 @@ RectI BoxAround(std::span<const RectI> rects) {
     for (const RectI& rect : rects)
         box = Unite(box, rect);
     return box;
+}
+
+SizeF FitIntoBox(SizeF picture, SizeF box) {
+    if (picture.Width <= box.Width && picture.Height <= box.Height)
+        return picture;
+    const float rx = box.Width / picture.Width;
+    const float ry = box.Height / picture.Height;
+    return rx < ry ? SizeF{box.Width, rx * picture.Height} : SizeF{ry * picture.Width, box.Height};
+}
+
+RectF CenterInBox(SizeF picture, SizeF box) {
+    const int x = RoundToEven(box.Width - picture.Width) / 2;
+    const int y = RoundToEven(box.Height - picture.Height) / 2;
+    return {static_cast<float>(x), static_cast<float>(y), picture.Width, picture.Height};
 }
 
 }  // namespace orbelle::graphics

@@ -72,8 +72,8 @@ Pixels PixelsOf(const Pixels& pixels, const Matrix& matrix) {
     }
     std::vector<RectI> rects = pixels->Rects();
     for (RectI& rect : rects) {
-        const Edges edges{double(rect.X), double(rect.Y), double(rect.X) + rect.Width,
-                          double(rect.Y) + rect.Height};
+        const Edges edges{double(rect.X), double(rect.Y), double(rect.Right()),
+                          double(rect.Bottom())};
         rect = PixelsInside(Scaled(edges, matrix), 0, kPlane);
     }
     return MakePixels(rects);
@@ -89,8 +89,7 @@ Pixels MergedPixels(std::vector<RectI> rects) {
     });
     std::vector<RectI> merged;
     for (const RectI& rect : rects) {
-        if (!merged.empty() && sameRows(merged.back(), rect) &&
-            rect.X <= merged.back().X + merged.back().Width)
+        if (!merged.empty() && sameRows(merged.back(), rect) && rect.X <= merged.back().Right())
             merged.back() = Unite(merged.back(), rect);
         else
             merged.push_back(rect);

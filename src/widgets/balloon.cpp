@@ -1,19 +1,16 @@
 #include "widgets/balloon.h"
 
-#include <QAccessible>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPainterPath>
 
-#include "widgets/accessible_roles.h"
+#include "widgets/accessible_role.h"
 #include "widgets/chrome.h"
 
 namespace orbelle::widgets {
 
 namespace {
 
-constexpr QColor kBodyColor(255, 253, 240);
-constexpr QColor kBorderColor(200, 190, 150);
 constexpr double kCornerRadius = 6;
 constexpr int kWidth = 190;
 constexpr int kTextWidth = 180;
@@ -29,16 +26,12 @@ constexpr int kHeightAroundText = 28;
 }  // namespace
 
 Balloon::Balloon(QWidget* parent) : QWidget(parent) {
-    InstallAccessibleRoles();
+    InstallAccessibleRole<Balloon, QAccessible::AlertMessage>();
     setFont(ChromeFont(8));
-    SetTipString({});
+    SetText({});
 }
 
-QString Balloon::TipString() const {
-    return text_;
-}
-
-void Balloon::SetTipString(const QString& text) {
+void Balloon::SetText(const QString& text) {
     text_ = text;
     const QRect room(0, 0, kTextWidth, QWIDGETSIZE_MAX);
     setFixedSize(kWidth, kHeightAroundText +
@@ -47,8 +40,8 @@ void Balloon::SetTipString(const QString& text) {
     update();
 }
 
-void Balloon::SetDirection(int direction) {
-    direction_ = direction;
+void Balloon::SetPointsDown(bool pointsDown) {
+    pointsDown_ = pointsDown;
     update();
 }
 
@@ -74,7 +67,7 @@ void Balloon::paintEvent(QPaintEvent*) {
     painter.setRenderHint(QPainter::Antialiasing);
     painter.save();
     // One outline, pointing up, serves both ways.
-    if (!PointsUp()) {
+    if (pointsDown_) {
         painter.translate(0, height());
         painter.scale(1, -1);
     }
@@ -86,13 +79,13 @@ void Balloon::paintEvent(QPaintEvent*) {
     arrow.lineTo(kArrowTip + kArrowWidth + 0.5, kArrowHeight + 1.5);
     arrow.lineTo(kArrowTip + 0.5, kArrowHeight + 1.5);
     arrow.closeSubpath();
-    painter.setBrush(kBodyColor);
-    painter.setPen(QPen(kBorderColor, 1));
+    painter.setBrush(kTipColor);
+    painter.setPen(QPen(kTipEdgeColor, 1));
     painter.drawPath(body.united(arrow));
     painter.restore();
 
     painter.setPen(Qt::black);
-    const int top = PointsUp() ? kTextTopPointingUp : kTextTopPointingDown;
+    const int top = pointsDown_ ? kTextTopPointingDown : kTextTopPointingUp;
     painter.drawText(QRect(kTextLeft, top, kTextWidth, height() - top), Qt::TextWordWrap, text_);
 }
 

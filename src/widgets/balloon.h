@@ -5,16 +5,15 @@
 
 namespace orbelle::widgets {
 
-// Direction 0 points up at what it is about, another one down. Comes up above its siblings.
+// Points up at what it is about, or down. Comes up above its siblings.
 class Balloon : public QWidget {
     Q_OBJECT
 
 public:
     explicit Balloon(QWidget* parent = nullptr);
 
-    QString TipString() const;
-    void SetTipString(const QString& text);  // the height follows the text
-    void SetDirection(int direction);
+    void SetText(const QString& text);  // the height follows the text
+    void SetPointsDown(bool pointsDown);
 
 signals:
     void Clicked();
@@ -26,10 +25,8 @@ protected:
     void mouseReleaseEvent(QMouseEvent* event) override;
 
 private:
-    bool PointsUp() const { return direction_ == 0; }
-
     QString text_;
-    int direction_ = 0;
+    bool pointsDown_ = false;
 };
 
 }  // namespace orbelle::widgets

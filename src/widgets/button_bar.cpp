@@ -11,21 +11,15 @@
 #include <cmath>
 
 #include "widgets/artwork.h"
+#include "widgets/chrome.h"
 
 namespace orbelle::widgets {
 namespace {
 
 constexpr int kPollMilliseconds = 50;
 
-const char* SkinName(ButtonBarStyle style) {
-    switch (style) {
-        case ButtonBarStyle::Vista:
-            return "skins/vista";
-        case ButtonBarStyle::Win10:
-            return "skins/win10";
-        default:
-            return "skins/normal";
-    }
+QString SkinName(ButtonBarStyle style) {
+    return style == ButtonBarStyle::Win10 ? "skins/win10" : "skins/normal";
 }
 
 }  // namespace
@@ -33,112 +27,69 @@ const char* SkinName(ButtonBarStyle style) {
 ButtonBar::ButtonBar(const ButtonBarSetup& setup, QWidget* parent)
     : QWidget(parent),
       direction_(setup.Direction),
-      style_(setup.Styles),
-      iconSize_(std::max(setup.IconSize, 1)),
-      images_(setup.Images),
-      skinNormal_(PixelArtwork(SkinName(setup.Styles))),
-      skinDown_(PixelArtwork(QString(SkinName(setup.Styles)) + "-down")) {
+      style_(setup.Style),
+      iconSize_(setup.IconSize),
+      buttons_(setup.Buttons),
+      states_(setup.Buttons.size()),
+      skinNormal_(PixelArtwork(SkinName(setup.Style))),
+      skinDown_(PixelArtwork(SkinName(setup.Style) + "-down")) {
     ShowPartsToAssistiveTools();
-    for (const QString& fields : setup.Buttons)
-        buttons_.push_back(ParseBarButton(fields));
-
-    QFont font("Verdana", 9);
-    font.setStyleHint(QFont::SansSerif);
-    setFont(font);
+    setFont(ChromeFont(9));
     setMouseTracking(true);
     // A click leaves the focus where it is: the keys belong to the picture.
     setFocusPolicy(Qt::TabFocus);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
-    poll_.setInterval(kPollMilliseconds);
-    connect(&poll_, &QTimer::timeout, this, &ButtonBar::PollHover);
+    hoverPoll_.setInterval(kPollMilliseconds);
+    connect(&hoverPoll_, &QTimer::timeout, this, &ButtonBar::PollHover);
     LayOut();
 }
 
 int ButtonBar::IndexOf(int number) const {
-    return number >= 1 && number <= ButtonCounts() ? number - 1 : -1;
+    return number >= 1 && number <= Count() ? number - 1 : -1;
 }
 
-int ButtonBar::ButtonCounts() const {
-    return static_cast<int>(buttons_.size());
+bool ButtonBar::IsPressed(int button) const {
+    const int i = IndexOf(button);
+    return i >= 0 && states_[i].Pressed;
 }
 
-bool ButtonBar::IsPressed(int index) const {
-    const int i = IndexOf(index);
-    return i >= 0 && buttons_[i].IsPressed;
-}
-
-void ButtonBar::SetButtonPressState(int index, bool isPress) {
-    const int i = IndexOf(index);
-    if (i < 0 || buttons_[i].IsPressed == isPress)
+void ButtonBar::SetPressed(int button, bool pressed) {
+    const int i = IndexOf(button);
+    if (i < 0 || states_[i].Pressed == pressed)
         return;
-    buttons_[i].IsPressed = isPress;
+    states_[i].Pressed = pressed;
     QAccessible::State changed;
     changed.pressed = true;
     AnnounceState(*this, PartOf(i), changed);
     update();
 }
 
-bool ButtonBar::GetButtonEnable(int index) const {
-    const int i = IndexOf(index);
-    return i >= 0 && buttons_[i].Enabled;
-}
-
-void ButtonBar::SetButtonEnable(int index, bool isEnable) {
-    const int i = IndexOf(index);
-    if (i < 0 || buttons_[i].Enabled == isEnable)
+void ButtonBar::SetButtonEnabled(int button, bool enabled) {
+    const int i = IndexOf(button);
+    if (i < 0 || states_[i].Enabled == enabled)
         return;
-    buttons_[i].Enabled = isEnable;
+    states_[i].Enabled = enabled;
     QAccessible::State changed;
     changed.disabled = true;
     AnnounceState(*this, PartOf(i), changed);
     update();
 }
 
-void ButtonBar::SetButtonCaptions(int index, const QString& caption) {
-    const int i = IndexOf(index);
-    if (i < 0 || buttons_[i].Caption == caption)
-        return;
-    buttons_[i].Caption = caption;
-    LayOut();
+int ButtonBar::LastButton() const {
+    return lastIndex_ + 1;
 }
 
-void ButtonBar::SetButtonToolTip(int index, const QString& tip) {
-    if (const int i = IndexOf(index); i >= 0)
-        buttons_[i].ToolTip = tip;
-}
-
-void ButtonBar::AddButtonMenu(int index, const ButtonMenu& menu) {
-    const int i = IndexOf(index);
-    if (i < 0)
-        return;
-    BarButton& button = buttons_[i];
-    button.Menus.push_back(menu);
-    button.MenuCount = std::max(button.MenuCount, static_cast<int>(button.Menus.size()));
-    LayOut();
-}
-
-const std::vector<BarButton>& ButtonBar::Buttons() const {
-    return buttons_;
-}
-
-int ButtonBar::ButtonIndex() const {
-    return buttonIndex_ + 1;
-}
-
-int ButtonBar::refTopValue() const {
-    return buttonIndex_ < 0 ? 0 : layout_.Places[buttonIndex_].top();
-}
-
-QRect ButtonBar::ButtonRect(int index) const {
-    const int i = IndexOf(index);
+QRect ButtonBar::ButtonRect(int button) const {
+    const int i = IndexOf(button);
     return i < 0 ? QRect() : layout_.Places[i];
 }
 
 int ButtonBar::Thickness() const {
     const int icon = iconSize_ + 10;
     const bool hasCaption =
-        IsHorizontal() && std::any_of(buttons_.begin(), buttons_.end(),
-                                      [](const BarButton& b) { return !b.Caption.isEmpty(); });
+        IsHorizontal() && std::ranges::any_of(buttons_, [](const BarButton& button) {
+            return !button.Caption.isEmpty();
+        });
     return hasCaption ? std::max(icon, fontMetrics().height() + 8) : icon;
 }
 
@@ -162,19 +113,19 @@ void ButtonBar::LayOut() {
 }
 
 bool ButtonBar::CanPress(int index) const {
-    return index >= 0 && buttons_[index].Enabled && !buttons_[index].IsSeparator();
+    return index >= 0 && states_[index].Enabled && !buttons_[index].IsSeparator;
 }
 
 void ButtonBar::MoveHover(const QPoint& point) {
-    const int hit = ButtonAt(buttons_, layout_, point);
+    const int hit = ButtonAt(layout_, point);
     if (hit < 0)
         return;
-    buttonIndex_ = hit;
+    lastIndex_ = hit;
     if (hit == hoverIndex_)
         return;
     hoverIndex_ = hit;
     showDown_ = false;
-    poll_.start();
+    hoverPoll_.start();
     update();
 }
 
@@ -189,18 +140,18 @@ void ButtonBar::PollHover() {
 }
 
 void ButtonBar::EndHover() {
-    poll_.stop();
+    hoverPoll_.stop();
     hoverIndex_ = -1;
     showDown_ = false;
     update();
 }
 
 void ButtonBar::Press(int index) {
-    buttonIndex_ = index;
-    if (buttons_[index].ButtonType == 1)
-        SetButtonPressState(index + 1, !buttons_[index].IsPressed);
+    lastIndex_ = index;
+    if (buttons_[index].Latches)
+        SetPressed(index + 1, !states_[index].Pressed);
     update();
-    emit MouseClick(index + 1);
+    emit Clicked(index + 1);
 }
 
 void ButtonBar::mouseMoveEvent(QMouseEvent* event) {
@@ -209,7 +160,7 @@ void ButtonBar::mouseMoveEvent(QMouseEvent* event) {
 
 void ButtonBar::mousePressEvent(QMouseEvent* event) {
     MoveHover(event->pos());
-    const int hit = ButtonAt(buttons_, layout_, event->pos());
+    const int hit = ButtonAt(layout_, event->pos());
     if (!CanPress(hit))
         return;
     showDown_ = true;
@@ -255,7 +206,7 @@ bool ButtonBar::event(QEvent* event) {
     if (event->type() != QEvent::ToolTip)
         return QWidget::event(event);
     const auto* help = static_cast<QHelpEvent*>(event);
-    const int hit = ButtonAt(buttons_, layout_, help->pos());
+    const int hit = ButtonAt(layout_, help->pos());
     if (hit >= 0 && !buttons_[hit].ToolTip.isEmpty())
         QToolTip::showText(help->globalPos(), buttons_[hit].ToolTip, this, layout_.Places[hit]);
     else
@@ -264,7 +215,7 @@ bool ButtonBar::event(QEvent* event) {
 }
 
 int ButtonBar::NextEnabled(int from, int step) const {
-    for (int i = from + step; i >= 0 && i < ButtonCounts(); i += step)
+    for (int i = from + step; i >= 0 && i < Count(); i += step)
         if (CanPress(i))
             return i;
     return from;

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <QPixmap>
-#include <QStringList>
 #include <QTimer>
 #include <QWidget>
 #include <vector>
@@ -13,40 +12,32 @@
 
 namespace orbelle::widgets {
 
-enum class ButtonBarStyle { Normal = 0, Vista = 1, Win10 = 2 };
+enum class ButtonBarStyle { Normal, Win10 };
 
-// How a toolbar is made; all sizes in logical pixels.
+// How a toolbar is made.
 struct ButtonBarSetup {
     Qt::Orientation Direction = Qt::Horizontal;
-    ButtonBarStyle Styles = ButtonBarStyle::Normal;
-    int IconSize = 16;
-    QStringList Images;   // names of drawings, "1" for a separator's place
-    QStringList Buttons;  // eight fields with commas: "1,Y,,,Move tool,1,-1,0"
+    ButtonBarStyle Style = ButtonBarStyle::Normal;
+    int IconSize = 16;  // logical pixels
+    std::vector<BarButton> Buttons;
 };
 
+// Buttons are numbered from 1, separators included. At first all are enabled and none is pressed.
 class ButtonBar : public QWidget, public AccessibleParts {
     Q_OBJECT
 
 public:
     explicit ButtonBar(const ButtonBarSetup& setup, QWidget* parent = nullptr);
 
-    int ButtonCounts() const;
-    // Buttons are numbered from 1. Another number reads as false and changes nothing.
-    bool IsPressed(int index) const;
-    void SetButtonPressState(int index, bool isPress);
-    bool GetButtonEnable(int index) const;
-    void SetButtonEnable(int index, bool isEnable);
-    void SetButtonCaptions(int index, const QString& caption);
-    void SetButtonToolTip(int index, const QString& tip);
-    void AddButtonMenu(int index, const ButtonMenu& menu);
-    const std::vector<BarButton>& Buttons() const;
+    // A number without a button reads as false and changes nothing.
+    bool IsPressed(int button) const;
+    void SetPressed(int button, bool pressed);
+    void SetButtonEnabled(int button, bool enabled);
 
     // The button that the mouse or the keyboard came to last, 0 before the first.
-    int ButtonIndex() const;
-    // Where that button begins, from the top of the bar.
-    int refTopValue() const;
+    int LastButton() const;
     // The place of a button; empty for a separator and an unknown number.
-    QRect ButtonRect(int index) const;
+    QRect ButtonRect(int button) const;
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
@@ -63,7 +54,7 @@ public:
 
 signals:
     // A press of a mouse button on an enabled button, or Space or Return with the keyboard.
-    void MouseClick(int index);
+    void Clicked(int button);
 
 protected:
     bool event(QEvent* event) override;
@@ -80,7 +71,13 @@ protected:
     void hideEvent(QHideEvent* event) override;
 
 private:
+    struct State {
+        bool Enabled = true;
+        bool Pressed = false;
+    };
+
     // Buttons count from 0 in here.
+    int Count() const { return static_cast<int>(buttons_.size()); }
     int IndexOf(int number) const;  // -1: there is no button of that number
     bool IsHorizontal() const { return direction_ == Qt::Horizontal; }
     bool CanPress(int index) const;
@@ -98,23 +95,22 @@ private:
     void LoadIcons(qreal ratio);
     void PaintSeparator(QPainter& painter, int line) const;
     void PaintButton(QPainter& painter, int index) const;
-    void PaintFace(QPainter& painter, const QRect& place, bool down) const;
     void PaintFocus(QPainter& painter, const QRect& place) const;
 
     Qt::Orientation direction_;
     ButtonBarStyle style_;
     int iconSize_;
-    QStringList images_;
     std::vector<BarButton> buttons_;
+    std::vector<State> states_;
     ButtonBarLayout layout_;
     QPixmap skinNormal_;
     QPixmap skinDown_;
     std::vector<QPixmap> icons_;
     qreal iconsRatio_ = 0;  // that the icons were drawn for; 0: not yet
 
-    QTimer poll_;
+    QTimer hoverPoll_;
     int hoverIndex_ = -1;
-    int buttonIndex_ = -1;
+    int lastIndex_ = -1;
     int focusIndex_ = -1;
     bool showFocus_ = false;
     bool showDown_ = false;

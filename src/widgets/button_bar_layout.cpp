@@ -7,7 +7,7 @@ namespace {
 
 constexpr int kStart = 7;
 constexpr int kGap = 8;
-constexpr int kGapAfterMenu = 16;
+constexpr int kGapAfterArrow = 16;
 constexpr int kEndMargin = 8;
 
 }  // namespace
@@ -19,11 +19,11 @@ ButtonBarLayout LayOutButtonBar(const std::vector<BarButton>& buttons, Qt::Orien
     ButtonBarLayout layout;
     int p = kStart;
     int end = p;
-    bool afterMenu = false;
+    bool afterArrow = false;
     for (const BarButton& button : buttons) {
-        p += afterMenu ? kGapAfterMenu : kGap;
-        afterMenu = horizontal && !button.IsSeparator() && button.HasMenu();
-        if (button.IsSeparator()) {
+        p += afterArrow ? kGapAfterArrow : kGap;
+        afterArrow = horizontal && button.HasArrow;
+        if (button.IsSeparator) {
             p += kGap;
             layout.Places.emplace_back();
             layout.SeparatorLines.push_back(p - 2);
@@ -38,7 +38,7 @@ ButtonBarLayout LayOutButtonBar(const std::vector<BarButton>& buttons, Qt::Orien
             extent = iconSize + kGap - 1;
         } else if (button.Caption.isEmpty()) {
             p += 3;
-            extent = iconSize + 8 + 1 + (button.HasMenu() ? 6 : 0);
+            extent = iconSize + 8 + 1 + (button.HasArrow ? 6 : 0);
         } else {
             const int text = textWidth(button.Caption);
             p += 8 + text + 4;
@@ -53,10 +53,9 @@ ButtonBarLayout LayOutButtonBar(const std::vector<BarButton>& buttons, Qt::Orien
     return layout;
 }
 
-int ButtonAt(const std::vector<BarButton>& buttons, const ButtonBarLayout& layout,
-             const QPoint& point) {
-    for (std::size_t i = 0; i < buttons.size(); ++i)
-        if (layout.Places[i].contains(point) && buttons[i].Caption != "Split Line")
+int ButtonAt(const ButtonBarLayout& layout, const QPoint& point) {
+    for (std::size_t i = 0; i < layout.Places.size(); ++i)
+        if (layout.Places[i].contains(point))
             return static_cast<int>(i);
     return -1;
 }

@@ -19,14 +19,12 @@ struct ButtonBarLayout {
 };
 
 // All in logical pixels. `thickness` is the bar's size across its direction, `textWidth` measures a
-// caption. Vertical bars show no captions and no arrows.
+// caption.
 ButtonBarLayout LayOutButtonBar(const std::vector<BarButton>& buttons, Qt::Orientation direction,
                                 int iconSize, int thickness,
                                 const std::function<int(const QString&)>& textWidth);
 
-// The first button at that point, from 0; -1: none. Separators and entries with the caption
-// "Split Line" are not hit.
-int ButtonAt(const std::vector<BarButton>& buttons, const ButtonBarLayout& layout,
-             const QPoint& point);
+// The button at that point, from 0; -1: none. Separators are not hit.
+int ButtonAt(const ButtonBarLayout& layout, const QPoint& point);
 
 }  // namespace orbelle::widgets

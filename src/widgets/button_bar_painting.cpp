@@ -1,26 +1,21 @@
 // How the toolbar looks.
 #include <QPainter>
-#include <algorithm>
 
 #include "widgets/artwork.h"
 #include "widgets/button_bar.h"
+#include "widgets/chrome.h"
 #include "widgets/skin.h"
 
 namespace orbelle::widgets {
 namespace {
 
-constexpr QColor kBackground(245, 246, 247);
-constexpr QColor kTextColor(64, 64, 64);
-constexpr QColor kAccent(58, 150, 255);
-constexpr QColor kSeparatorDark(220, 220, 220);
-constexpr QColor kPlainBorder(205, 208, 212);
 constexpr QColor kArrow(0, 0, 0, 70);
 constexpr double kDisabledOpacity = 0.35;
 constexpr int kIconMargin = 5;
 constexpr int kArrowRoom = 10;
 
 // The light line of a separator.
-QColor TextBack(ButtonBarStyle style) {
+QColor SeparatorLight(ButtonBarStyle style) {
     return QColor(255, 255, 255, style == ButtonBarStyle::Normal ? 200 : 100);
 }
 
@@ -43,20 +38,19 @@ void ButtonBar::LoadIcons(qreal ratio) {
     if (iconsRatio_ == ratio)
         return;
     iconsRatio_ = ratio;
-    icons_.assign(buttons_.size(), QPixmap());
-    const std::size_t count = std::min(icons_.size(), static_cast<std::size_t>(images_.size()));
-    for (std::size_t i = 0; i < count; ++i)
-        if (!buttons_[i].IsSeparator())
-            icons_[i] =
-                Artwork(images_[static_cast<qsizetype>(i)], QSize(iconSize_, iconSize_), ratio);
+    icons_.clear();
+    for (const BarButton& button : buttons_)
+        icons_.push_back(button.Artwork.isEmpty()
+                             ? QPixmap()
+                             : Artwork(button.Artwork, QSize(iconSize_, iconSize_), ratio));
 }
 
 void ButtonBar::paintEvent(QPaintEvent*) {
     LoadIcons(devicePixelRatioF());
     QPainter painter(this);
-    painter.fillRect(rect(), kBackground);
-    for (int i = 0; i < ButtonCounts(); ++i) {
-        if (buttons_[i].IsSeparator())
+    painter.fillRect(rect(), kChromeColor);
+    for (int i = 0; i < Count(); ++i) {
+        if (buttons_[i].IsSeparator)
             PaintSeparator(painter, layout_.SeparatorLines[i]);
         else
             PaintButton(painter, i);
@@ -69,24 +63,24 @@ void ButtonBar::PaintSeparator(QPainter& painter, int line) const {
     constexpr int kBegin = 2;
     const int length = (IsHorizontal() ? height() : width()) - 4 - kBegin;
     if (IsHorizontal()) {
-        painter.fillRect(line - 1, kBegin, 1, length, kSeparatorDark);
-        painter.fillRect(line, kBegin, 1, length, TextBack(style_));
+        painter.fillRect(line - 1, kBegin, 1, length, kHairlineColor);
+        painter.fillRect(line, kBegin, 1, length, SeparatorLight(style_));
     } else {
-        painter.fillRect(kBegin, line - 1, length, 1, kSeparatorDark);
-        painter.fillRect(kBegin, line, length, 1, TextBack(style_));
+        painter.fillRect(kBegin, line - 1, length, 1, kHairlineColor);
+        painter.fillRect(kBegin, line, length, 1, SeparatorLight(style_));
     }
 }
 
 void ButtonBar::PaintButton(QPainter& painter, int index) const {
     const BarButton& button = buttons_[index];
     const QRect& place = layout_.Places[index];
-    const bool enabled = button.Enabled && isEnabled();
+    const bool enabled = states_[index].Enabled && isEnabled();
     painter.setOpacity(enabled ? 1 : kDisabledOpacity);
 
-    if (button.IsPressed)
-        PaintFace(painter, place, true);
+    if (states_[index].Pressed)
+        DrawSkin(painter, skinDown_, place);
     else if (enabled && index == hoverIndex_)
-        PaintFace(painter, place, showDown_);
+        DrawSkin(painter, showDown_ ? skinDown_ : skinNormal_, place);
 
     const int across = IsHorizontal() ? place.height() : place.width();
     const int acrossMargin = (across + 1 - iconSize_) / 2;
@@ -97,34 +91,20 @@ void ButtonBar::PaintButton(QPainter& painter, int index) const {
 
     if (IsHorizontal() && !button.Caption.isEmpty()) {
         QRect box = place.adjusted(kIconMargin + iconSize_, 0, 1, 1);
-        if (button.HasMenu())
+        if (button.HasArrow)
             box.setWidth(box.width() - kArrowRoom);
         painter.setPen(kTextColor);
         painter.drawText(box, Qt::AlignCenter | Qt::TextSingleLine | Qt::TextDontClip,
                          button.Caption);
     }
-    if (IsHorizontal() && button.HasMenu())
+    if (IsHorizontal() && button.HasArrow)
         PaintArrow(painter, place);
     painter.setOpacity(1);
 }
 
-void ButtonBar::PaintFace(QPainter& painter, const QRect& place, bool down) const {
-    const QPixmap& skin = down ? skinDown_ : skinNormal_;
-    if (!skin.isNull())
-        return DrawSkin(painter, skin, place);
-    QColor fill = down ? kAccent : QColor(Qt::white);
-    fill.setAlpha(down ? 50 : 255);
-    painter.save();
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(down ? kAccent : kPlainBorder);
-    painter.setBrush(fill);
-    painter.drawRoundedRect(QRectF(place).translated(0.5, 0.5), 3, 3);
-    painter.restore();
-}
-
 void ButtonBar::PaintFocus(QPainter& painter, const QRect& place) const {
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(kAccent);
+    painter.setPen(kAccentColor);
     painter.setBrush(Qt::NoBrush);
     painter.drawRoundedRect(QRectF(place).translated(0.5, 0.5), 3, 3);
 }

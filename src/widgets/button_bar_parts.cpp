@@ -4,16 +4,16 @@
 namespace orbelle::widgets {
 
 int ButtonBar::PartOf(int index) const {
-    if (index < 0 || buttons_[index].IsSeparator())
+    if (index < 0 || buttons_[index].IsSeparator)
         return -1;
     int part = 0;
     for (int i = 0; i < index; ++i)
-        part += buttons_[i].IsSeparator() ? 0 : 1;
+        part += buttons_[i].IsSeparator ? 0 : 1;
     return part;
 }
 
 int ButtonBar::ButtonOfPart(int part) const {
-    for (int i = 0; i < ButtonCounts(); ++i)
+    for (int i = 0; i < Count(); ++i)
         if (PartOf(i) == part)
             return i;
     return -1;
@@ -22,7 +22,7 @@ int ButtonBar::ButtonOfPart(int part) const {
 int ButtonBar::PartCount() const {
     int count = 0;
     for (const BarButton& button : buttons_)
-        count += button.IsSeparator() ? 0 : 1;
+        count += button.IsSeparator ? 0 : 1;
     return count;
 }
 
@@ -36,17 +36,17 @@ QRect ButtonBar::PartPlace(int part) const {
 }
 
 QAccessible::Role ButtonBar::PartRole(int part) const {
-    return buttons_[ButtonOfPart(part)].HasMenu() ? QAccessible::ButtonMenu : QAccessible::Button;
+    return buttons_[ButtonOfPart(part)].HasArrow ? QAccessible::ButtonMenu : QAccessible::Button;
 }
 
 QAccessible::State ButtonBar::PartState(int part) const {
-    const BarButton& button = buttons_[ButtonOfPart(part)];
+    const int index = ButtonOfPart(part);
     QAccessible::State state;
-    state.disabled = !button.Enabled || !isEnabled();
-    state.checkable = button.ButtonType == 1;
-    state.checked = state.checkable && button.IsPressed;
-    state.pressed = button.IsPressed;
-    state.hasPopup = button.HasMenu();
+    state.disabled = !states_[index].Enabled || !isEnabled();
+    state.checkable = buttons_[index].Latches;
+    state.pressed = states_[index].Pressed;
+    state.checked = state.checkable && state.pressed;
+    state.hasPopup = buttons_[index].HasArrow;
     return state;
 }
 

@@ -1,4 +1,4 @@
-// A text block, wrapped by words, with an optional picture at its left.
+// A text block, wrapped by words.
 #pragma once
 
 #include <QWidget>
@@ -11,10 +11,7 @@ class CaptionText : public QWidget {
 public:
     explicit CaptionText(const QString& caption = {}, QWidget* parent = nullptr);
 
-    QString Caption() const;
     void SetCaption(const QString& caption);
-    // The name of a drawing; empty: none.
-    void SetPicture(const QString& artwork);
 
     QSize sizeHint() const override;
     int heightForWidth(int width) const override;
@@ -23,10 +20,7 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    int TextLeft() const;
-
     QString caption_;
-    QString picture_;
 };
 
 }  // namespace orbelle::widgets

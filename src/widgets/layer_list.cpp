@@ -6,32 +6,19 @@
 #include <algorithm>
 #include <cmath>
 
+#include "widgets/chrome.h"
+
 namespace orbelle::widgets {
 namespace {
 
 constexpr int kRowHeight = 40;
 constexpr int kThumbnailSize = kRowHeight - 8;
-constexpr int kCheckerCell = 5;
 constexpr int kTextMargin = 8;
 
 constexpr QColor kSelectedRow(205, 236, 254);
 constexpr QColor kHiddenRow(230, 230, 230);
 constexpr QColor kRowLine(150, 150, 150);
-constexpr QColor kChecker(0, 0, 0, 30);
-constexpr QColor kTextColor(64, 64, 64);
-constexpr QColor kFocusColor(58, 150, 255);
-
-void DrawRowChecker(QPainter& painter, const QRect& square) {
-    for (int y = 0; y < square.height(); y += kCheckerCell)
-        for (int x = y % (2 * kCheckerCell); x < square.width(); x += 2 * kCheckerCell)
-            painter.fillRect(square.x() + x, square.y() + y, kCheckerCell, kCheckerCell, kChecker);
-}
-
-QFont TextFont(int points) {
-    QFont font("Verdana", points);
-    font.setStyleHint(QFont::SansSerif);
-    return font;
-}
+constexpr QColor kCheckerColor(0, 0, 0, 30);
 
 }  // namespace
 
@@ -59,38 +46,16 @@ LayerList::LayerList(QWidget* parent) : QAbstractScrollArea(parent) {
     FitScrollBar();
 }
 
-int LayerList::SelectedIndex() const {
-    return selectedIndex_;
-}
-
 void LayerList::SetSelectedIndex(int index) {
     selectedIndex_ = std::max(index, -1);
     viewport()->update();
 }
 
-void LayerList::Clean() {
-    items_.clear();
-}
-
-void LayerList::LoadImage(const QImage& image, int width, int height, const QString& opacityText,
-                          bool visible) {
-    items_.push_back({image, QSize(width, height), opacityText, visible, {}});
-}
-
-void LayerList::UpdateImage(const QImage& image, int width, int height, int index,
-                            const QString& opacityText, bool visible) {
-    if (index < 0 || index >= Count())
-        return;
-    items_[index] = {image, QSize(width, height), opacityText, visible, {}};
-}
-
-void LayerList::DrawLayers() {
+void LayerList::SetRows(std::vector<LayerRow> rows) {
+    rows_ = std::move(rows);
+    thumbnails_.assign(rows_.size(), {});
     FitScrollBar();
     viewport()->update();
-}
-
-int LayerList::Count() const {
-    return static_cast<int>(items_.size());
 }
 
 void LayerList::FitScrollBar() {
@@ -110,7 +75,7 @@ void LayerList::paintEvent(QPaintEvent* event) {
         if (RowPlace(row).intersects(event->rect()))
             PaintRow(painter, row);
     if (hasFocus()) {
-        painter.setPen(kFocusColor);
+        painter.setPen(kAccentColor);
         painter.setBrush(Qt::NoBrush);
         const int row = FocusedPart();
         const QRect place = row < 0 ? viewport()->rect() : RowPlace(row);
@@ -121,40 +86,41 @@ void LayerList::paintEvent(QPaintEvent* event) {
 
 void LayerList::PaintRow(QPainter& painter, int row) {
     const int layer = LayerOfRow(row);
-    Item& item = items_[layer];
+    const LayerRow& shown = rows_[layer];
     const QRect place = RowPlace(row);
     if (layer == selectedIndex_)
         painter.fillRect(place, kSelectedRow);
-    else if (!item.Visible)
+    else if (!shown.Visible)
         painter.fillRect(place, kHiddenRow);
 
     const QRect box(place.topLeft(), QSize(kRowHeight, kRowHeight));
-    DrawRowChecker(painter, box);
-    PaintThumbnail(painter, box, item);
+    DrawChecker(painter, box, kCheckerColor);
+    PaintThumbnail(painter, box, layer);
     PaintText(painter, place.adjusted(kRowHeight + kTextMargin, 0, -4, 0), PartName(row),
-              item.OpacityText);
+              shown.OpacityText);
     painter.fillRect(place.x(), place.bottom(), place.width(), 1, kRowLine);
 }
 
-void LayerList::PaintThumbnail(QPainter& painter, const QRect& box, Item& item) const {
+void LayerList::PaintThumbnail(QPainter& painter, const QRect& box, int layer) {
+    const LayerRow& row = rows_[layer];
     const int margin = (kRowHeight - kThumbnailSize) / 2;
     const QRect place =
-        FitRect(item.Size, kThumbnailSize).translated(box.topLeft() + QPoint(margin, margin));
-    if (place.isEmpty() || item.Image.isNull())
+        FitRect(row.Size, kThumbnailSize).translated(box.topLeft() + QPoint(margin, margin));
+    if (place.isEmpty() || row.Image.isNull())
         return;
     const QSize pixels = (QSizeF(place.size()) * devicePixelRatioF()).toSize();
-    const bool shrinks =
-        item.Image.width() > pixels.width() || item.Image.height() > pixels.height();
-    if (shrinks && item.Thumbnail.size() != pixels)
-        item.Thumbnail = item.Image.scaled(pixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    const bool shrinks = row.Image.width() > pixels.width() || row.Image.height() > pixels.height();
+    QImage& thumbnail = thumbnails_[layer];
+    if (shrinks && thumbnail.size() != pixels)
+        thumbnail = row.Image.scaled(pixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
     // Without smoothing: a small picture that the screen enlarges keeps its hard squares.
-    painter.drawImage(place, shrinks ? item.Thumbnail : item.Image);
+    painter.drawImage(place, shrinks ? thumbnail : row.Image);
 }
 
 void LayerList::PaintText(QPainter& painter, const QRect& row, const QString& name,
                           const QString& opacity) const {
     const auto draw = [&](const QRect& line, int points, const QString& text) {
-        const QFont font = TextFont(points);
+        const QFont font = ChromeFont(points);
         painter.setFont(font);
         painter.drawText(line, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
                          QFontMetrics(font).elidedText(text, Qt::ElideRight, line.width()));
@@ -197,20 +163,19 @@ void LayerList::SelectRow(int row) {
 
 void LayerList::keyPressEvent(QKeyEvent* event) {
     const int row = FocusedPart();
-    const bool isMove = event->key() == Qt::Key_Up || event->key() == Qt::Key_Down ||
-                        event->key() == Qt::Key_Home || event->key() == Qt::Key_End;
-    if (!isMove || Count() == 0)
-        return QAbstractScrollArea::keyPressEvent(event);
-    switch (event->key()) {
-        case Qt::Key_Up:
-            return SelectRow(row - 1);
-        case Qt::Key_Down:
-            return SelectRow(row + 1);
-        case Qt::Key_Home:
-            return SelectRow(0);
-        default:
-            return SelectRow(Count() - 1);
+    if (Count() > 0) {
+        switch (event->key()) {
+            case Qt::Key_Up:
+                return SelectRow(row - 1);
+            case Qt::Key_Down:
+                return SelectRow(row + 1);
+            case Qt::Key_Home:
+                return SelectRow(0);
+            case Qt::Key_End:
+                return SelectRow(Count() - 1);
+        }
     }
+    QAbstractScrollArea::keyPressEvent(event);
 }
 
 void LayerList::focusInEvent(QFocusEvent*) {
@@ -227,7 +192,7 @@ QString LayerList::PartName(int part) const {
 }
 
 QString LayerList::PartValue(int part) const {
-    return items_[LayerOfRow(part)].OpacityText;
+    return rows_[LayerOfRow(part)].OpacityText;
 }
 
 QRect LayerList::PartPlace(int part) const {

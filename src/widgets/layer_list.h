@@ -14,26 +14,25 @@ namespace orbelle::widgets {
 // kept (sides to the nearest pixel, at least 1), in either case centred. Empty for a size below 1.
 QRect FitRect(const QSize& picture, int box);
 
+struct LayerRow {
+    QImage Image;  // kept and shared, so it must own its pixels
+    QSize Size;    // of the layer on the page
+    QString OpacityText;
+    bool Visible = true;
+};
+
 class LayerList : public QAbstractScrollArea, public AccessibleParts {
     Q_OBJECT
 
 public:
     explicit LayerList(QWidget* parent = nullptr);
 
-    int SelectedIndex() const;  // a layer's index, 0 the bottom; -1: none
+    int SelectedIndex() const { return selectedIndex_; }  // a layer's index, 0 the bottom; -1: none
     void SetSelectedIndex(int index);
 
-    // Rows are filled from the bottom layer up, then drawn. Width and height are the layer's on the
-    // page; the text is its opacity as ".50". The image is kept and shared, so it must own its
-    // pixels.
-    void Clean();
-    void LoadImage(const QImage& image, int width, int height, const QString& opacityText,
-                   bool visible);
-    // One row anew; an index that has no row changes nothing.
-    void UpdateImage(const QImage& image, int width, int height, int index,
-                     const QString& opacityText, bool visible);
-    void DrawLayers();
-    int Count() const;
+    // One for each layer, from the bottom up.
+    void SetRows(std::vector<LayerRow> rows);
+    int Count() const { return static_cast<int>(rows_.size()); }
 
     // Parts are rows from the top.
     QAccessible::Role WholeRole() const override { return QAccessible::List; }
@@ -61,24 +60,18 @@ protected:
     void focusOutEvent(QFocusEvent* event) override;
 
 private:
-    struct Item {
-        QImage Image;
-        QSize Size;  // of the layer on the page
-        QString OpacityText;
-        bool Visible = true;
-        QImage Thumbnail;  // the image shrunk to its place in screen pixels; null until painted
-    };
-
     int LayerOfRow(int row) const { return Count() - row - 1; }
     QRect RowPlace(int row) const;  // in the viewport
     void FitScrollBar();
     void PaintRow(QPainter& painter, int row);
-    void PaintThumbnail(QPainter& painter, const QRect& box, Item& item) const;
+    void PaintThumbnail(QPainter& painter, const QRect& box, int layer);
     void PaintText(QPainter& painter, const QRect& row, const QString& name,
                    const QString& opacity) const;
     void SelectRow(int row);
 
-    std::vector<Item> items_;  // by layer index
+    // By layer index. Thumbnails are the images that shrink, in screen pixels; null until painted.
+    std::vector<LayerRow> rows_;
+    std::vector<QImage> thumbnails_;
     int selectedIndex_ = -1;
 };
 

@@ -43,12 +43,12 @@ void DrawTriangle(QPainter& painter, const QPointF& middle, double height) {
 // A spin box to assistive tools; the typing field lies within it.
 class NumberSlider::Accessible : public QAccessibleWidget, public QAccessibleValueInterface {
 public:
-    explicit Accessible(NumberSlider* scroll)
-        : QAccessibleWidget(scroll, QAccessible::SpinBox), scroll_(scroll) {}
+    explicit Accessible(NumberSlider* slider)
+        : QAccessibleWidget(slider, QAccessible::SpinBox), slider_(slider) {}
 
     static QAccessibleInterface* Make(const QString&, QObject* object) {
-        auto* scroll = qobject_cast<NumberSlider*>(object);
-        return scroll ? new Accessible(scroll) : nullptr;
+        auto* slider = qobject_cast<NumberSlider*>(object);
+        return slider ? new Accessible(slider) : nullptr;
     }
 
     void* interface_cast(QAccessible::InterfaceType type) override {
@@ -57,22 +57,22 @@ public:
         return QAccessibleWidget::interface_cast(type);
     }
     QString text(QAccessible::Text kind) const override {
-        return kind == QAccessible::Value ? QString::number(scroll_->value_)
+        return kind == QAccessible::Value ? QString::number(slider_->value_)
                                           : QAccessibleWidget::text(kind);
     }
-    QVariant currentValue() const override { return scroll_->value_; }
-    QVariant minimumValue() const override { return scroll_->minValue_; }
-    QVariant maximumValue() const override { return scroll_->scale_.MaxValue; }
+    QVariant currentValue() const override { return slider_->value_; }
+    QVariant minimumValue() const override { return slider_->minValue_; }
+    QVariant maximumValue() const override { return slider_->scale_.MaxValue; }
     QVariant minimumStepSize() const override { return 1; }
     void setCurrentValue(const QVariant& value) override {
-        scroll_->CommitText();
-        emit scroll_->Pressed();
-        scroll_->ChangeTo(std::clamp(value.toInt(), scroll_->minValue_, scroll_->scale_.MaxValue));
-        emit scroll_->Released();
+        slider_->CommitText();
+        emit slider_->Pressed();
+        slider_->ChangeTo(std::clamp(value.toInt(), slider_->minValue_, slider_->scale_.MaxValue));
+        emit slider_->Released();
     }
 
 private:
-    NumberSlider* scroll_;
+    NumberSlider* slider_;
 };
 
 NumberSlider::NumberSlider(QWidget* parent)
@@ -121,34 +121,13 @@ NumberSlider::~NumberSlider() {
     track_->disconnect(this);
 }
 
-int NumberSlider::MinValue() const {
-    return minValue_;
-}
-
-int NumberSlider::MaxValue() const {
-    return scale_.MaxValue;
-}
-
 void NumberSlider::SetRange(int minValue, int maxValue) {
     minValue_ = minValue;
     scale_.MaxValue = std::max(minValue, maxValue);
     track_->SetPlace(scale_.PlaceFromValue(value_));
 }
 
-int NumberSlider::ScrollStyle() const {
-    return scale_.Style;
-}
-
-void NumberSlider::SetScrollStyle(int style) {
-    scale_.Style = style;
-    track_->SetPlace(scale_.PlaceFromValue(value_));
-}
-
-int NumberSlider::ColorValue() const {
-    return value_;
-}
-
-void NumberSlider::SetColorValue(int value) {
+void NumberSlider::SetValue(int value) {
     // An owner that answers a change with the same value must not disturb the typing of it.
     if (value == value_ && typing_)
         return;
@@ -326,10 +305,7 @@ void NumberSlider::paintEvent(QPaintEvent*) {
     }
     painter.setPen(QPen(isEnabled() ? kTextColor : kHairlineColor, 1.5));
     painter.setBrush(Qt::NoBrush);
-    const QPointF middle = QRectF(OpenRect()).center() + QPointF(0.5, 0);
-    const QPointF chevron[] = {middle + QPointF(-4, -2), middle + QPointF(0, 2),
-                               middle + QPointF(4, -2)};
-    painter.drawPolyline(chevron, 3);
+    DrawChevron(painter, QRectF(OpenRect()).center() + QPointF(0.5, 0));
 }
 
 }  // namespace orbelle::widgets

@@ -17,15 +17,10 @@ public:
     explicit NumberSlider(QWidget* parent = nullptr);
     ~NumberSlider() override;
 
-    int MinValue() const;
-    int MaxValue() const;
     void SetRange(int minValue, int maxValue);
-    // Which values the track reaches: 0 to MaxValue, 1 to 255, 2 to 180, 3 to 100.
-    int ScrollStyle() const;
-    void SetScrollStyle(int style);
-    int ColorValue() const;
+    int Value() const { return value_; }
     // Does not raise Changed. Values beyond the range are taken, as typed ones are.
-    void SetColorValue(int value);
+    void SetValue(int value);
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;

@@ -62,8 +62,7 @@ void PanelHeader::paintEvent(QPaintEvent*) {
     painter.translate(width() - kChevronRoom / 2, (height() - 1) / 2.0);
     if (IsClosed())
         painter.rotate(-90);
-    const QPointF chevron[] = {{-4, -2}, {0, 2}, {4, -2}};
-    painter.drawPolyline(chevron, 3);
+    DrawChevron(painter, {0, 0});
     painter.restore();
 
     if (hasFocus()) {

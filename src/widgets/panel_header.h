@@ -19,7 +19,7 @@ public:
 
 signals:
     // The header was clicked, or Space or Return pressed on it, and has turned.
-    void Clicked(bool IsClosed);
+    void Clicked(bool isClosed);
 
 protected:
     void paintEvent(QPaintEvent* event) override;

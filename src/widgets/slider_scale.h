@@ -6,10 +6,8 @@ namespace orbelle::widgets {
 // Where the thumb's left edge can be, in pixels from the track's beginning: 0 to this.
 inline constexpr int kTrackTravel = 100;
 
-// Styles: 0 the tenths of the track up to MaxValue, 1 to 255, 2 to 180, 3 to 100. Other styles are
-// as 3.
+// The track reaches from 0 to MaxValue.
 struct SliderScale {
-    int Style = 0;
     int MaxValue = 0;
 
     // What a value and the thumb's place become when the pointer drags the thumb to `x` on the
@@ -20,8 +18,6 @@ struct SliderScale {
     };
     Drag DragTo(double x) const;
 
-    // The highest value that a drag reaches.
-    int LimitValue() const;
     // Of the thumb's left edge. The middle of the thumb, not its edge, marks a value: so dragging
     // the thumb by its middle keeps it under the pointer.
     double PlaceFromValue(int value) const;

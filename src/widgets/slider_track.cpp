@@ -14,7 +14,6 @@ namespace {
 
 constexpr int kThumbSize = 16;
 constexpr int kMargin = 8;
-constexpr int kGrooveHeight = 4;
 constexpr QSize kPopupSize(kMargin + kTrackTravel + kThumbSize + kMargin,
                            kMargin + kThumbSize + kMargin);
 
@@ -52,15 +51,8 @@ void SliderTrack::paintEvent(QPaintEvent*) {
     painter.fillRect(rect().adjusted(1, 1, -1, -1), kChromeColor);
 
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(Qt::NoPen);
     const QRectF thumb = ThumbRect();
-    QRectF groove(kMargin, (height() - kGrooveHeight) / 2, width() - 2 * kMargin, kGrooveHeight);
-    painter.setBrush(kHairlineColor);
-    painter.drawRoundedRect(groove, kGrooveHeight / 2, kGrooveHeight / 2);
-    groove.setRight(thumb.center().x());
-    painter.setBrush(kAccentColor);
-    painter.drawRoundedRect(groove, kGrooveHeight / 2, kGrooveHeight / 2);
-
+    DrawGroove(painter, kMargin, width() - kMargin, height(), thumb.center().x() - kMargin);
     painter.setBrush(Qt::white);
     painter.setPen(QPen(dragging_ ? kAccentColor : kEdgeColor, 1));
     painter.drawEllipse(thumb.adjusted(0.5, 0.5, -0.5, -0.5));

@@ -15,7 +15,6 @@ namespace orbelle::widgets {
 namespace {
 
 constexpr int kHeight = 20;
-constexpr int kGrooveHeight = 4;
 constexpr QSize kThumbSize(10, 16);
 // How far a drag keeps the thumb away from the end of the track.
 constexpr int kDragStop = 5;
@@ -190,17 +189,9 @@ void TrackSlider::sliderChange(SliderChange change) {
 void TrackSlider::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(Qt::NoPen);
     const QRect thumb = ThumbRect();
     const int inset = kThumbSize.width() / 2;
-    QRectF groove(inset, (height() - kGrooveHeight) / 2, TrackWidth(), kGrooveHeight);
-    painter.setBrush(kHairlineColor);
-    painter.drawRoundedRect(groove, kGrooveHeight / 2, kGrooveHeight / 2);
-    if (isEnabled()) {
-        groove.setRight(thumb.left() + inset);
-        painter.setBrush(kAccentColor);
-        painter.drawRoundedRect(groove, kGrooveHeight / 2, kGrooveHeight / 2);
-    }
+    DrawGroove(painter, inset, inset + TrackWidth(), height(), isEnabled() ? thumb.left() : 0);
     const bool isLit = isEnabled() && (dragging_ || isOverThumb_ || hasFocus());
     painter.setBrush(isEnabled() ? QColor(Qt::white) : kChromeColor);
     painter.setPen(QPen(isLit ? kAccentColor : isEnabled() ? kEdgeColor : kHairlineColor, 1));

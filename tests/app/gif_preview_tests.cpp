@@ -2,14 +2,10 @@
 
 #include <gtest/gtest.h>
 
-#include "support/pictures.h"
-
 namespace orbelle::app {
 
 using graphics::Bitmap;
 using graphics::RectF;
-using testing::FilledPicture;
-using testing::SamePixels;
 
 namespace {
 
@@ -24,39 +20,6 @@ TEST(GifPreview, PicturesAreCentredAndEachAxisIsLimitedOnItsOwn) {
     };
     for (const auto& [width, height, boxWidth, boxHeight, place] : cases)
         EXPECT_EQ(PreviewRect(Bitmap(width, height), boxWidth, boxHeight), place);
-}
-
-TEST(GifPreview, TheCheckerHasWholeSquaresOnly) {
-    Bitmap box(19, 12);
-    graphics::DrawingContext context(box);
-    context.SetPixelOffsetMode(graphics::PixelOffsetMode::HighQuality);
-    DrawPreviewChecker(context, 19, 12);
-    const std::vector<std::string> upper(5, ".....#####.........");
-    const std::vector<std::string> lower(5, "#####.....#####....");
-    std::vector<std::string> rows(upper);
-    rows.insert(rows.end(), lower.begin(), lower.end());
-    rows.resize(12, std::string(19, '.'));
-    EXPECT_TRUE(SamePixels(box, testing::PictureOf(rows, 0x14000000)));
-}
-
-TEST(GifPreview, DemoShowsTheGifOverTheBackdrop) {
-    Bitmap surface(2, 2);
-    surface.SetPixel(0, 0, 0x64FF0000);
-    surface.SetPixel(1, 1, 0xFF0000FF);
-    for (const auto& [threshold, corner] : {std::pair{100, 0xFFFF0000}, {101, 0xFFFFFFFF}}) {
-        Bitmap box = FilledPicture(5, 4, 0xFFFFFFFF);
-        graphics::DrawingContext context(box);
-        context.SetPixelOffsetMode(graphics::PixelOffsetMode::HighQuality);
-        DrawGifPreview(context, surface, 5, 4, static_cast<std::uint8_t>(threshold));
-        Bitmap expected = FilledPicture(5, 4, 0xFFFFFFFF);
-        expected.SetPixel(1, 1, corner);
-        expected.SetPixel(2, 2, 0xFF0000FF);
-        EXPECT_TRUE(SamePixels(box, expected)) << threshold;
-    }
-    graphics::Bitmap box(4, 4);
-    graphics::DrawingContext context(box);
-    DrawGifPreview(context, Bitmap(), 4, 4, 130);
-    EXPECT_TRUE(SamePixels(box, Bitmap(4, 4)));
 }
 
 }  // namespace

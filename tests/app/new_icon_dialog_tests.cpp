@@ -18,13 +18,13 @@ protected:
     NewIconDialogTest() { Settings().clear(); }
 
     static void Enter(const NewIconDialog& page, int width, int height) {
-        page.findChild<widgets::NumberSlider*>("PageWidth")->SetColorValue(width);
-        page.findChild<widgets::NumberSlider*>("PageHeight")->SetColorValue(height);
+        page.findChild<widgets::NumberSlider*>("PageWidth")->SetValue(width);
+        page.findChild<widgets::NumberSlider*>("PageHeight")->SetValue(height);
     }
 };
 
 TEST_F(NewIconDialogTest, StaysOpenOutside1To512) {
-    const editing::PageSize wrong[] = {{513, 16}, {16, 513}, {0, 16}, {16, 0}};
+    const PageSize wrong[] = {{513, 16}, {16, 513}, {0, 16}, {16, 0}};
     for (const auto& [width, height] : wrong) {
         NewIconDialog page;
         page.open();
@@ -42,20 +42,18 @@ TEST_F(NewIconDialogTest, StaysOpenOutside1To512) {
 }
 
 TEST_F(NewIconDialogTest, RemembersTheSizeChosenWithOk) {
+    const auto size = [](const NewIconDialog& page) {
+        return std::pair(page.Size().Width, page.Size().Height);
+    };
     NewIconDialog first;
-    EXPECT_EQ(first.Size().Width, 0);
-    EXPECT_EQ(first.Size().Height, 0);
+    EXPECT_EQ(size(first), std::pair(0, 0));
     Enter(first, 1, 512);
     first.accept();
     EXPECT_EQ(first.result(), QDialog::Accepted);
-
     NewIconDialog cancelled;
     Enter(cancelled, 64, 64);
     cancelled.reject();
-
-    NewIconDialog next;
-    EXPECT_EQ(next.Size().Width, 1);
-    EXPECT_EQ(next.Size().Height, 512);
+    EXPECT_EQ(size(NewIconDialog()), std::pair(1, 512));
 }
 
 }  // namespace

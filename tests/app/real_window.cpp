@@ -48,6 +48,46 @@ QString Number(int number) {
     return QString::number(number);
 }
 
+// What it shows is a file that ends with the pixels.
+class Display {
+public:
+    Display() {
+        server_.start(
+            "Xvfb", {"-displayfd", "1", "-screen", "0",
+                     QString("%1x%2x24").arg(kDisplay.width()).arg(kDisplay.height()), "-nolisten",
+                     "tcp", "-noreset", "-fbdir", QString::fromStdString(folder_.Path().string())});
+        if (!server_.waitForStarted() ||
+            !WaitUntil([&] { return server_.waitForReadyRead(100) || server_.canReadLine(); }))
+            return;
+        name_ = ":" + server_.readLine().trimmed();
+        file_.setFileName(QString::fromStdString((folder_ / "Xvfb_screen0").string()));
+        if (file_.open(QIODevice::ReadOnly))
+            pixels_ = file_.map(file_.size() - kDisplayBytes, kDisplayBytes);
+    }
+    ~Display() {
+        server_.kill();
+        server_.waitForFinished();
+    }
+    Display(const Display&) = delete;
+    Display& operator=(const Display&) = delete;
+
+    bool Works() const { return pixels_; }
+    const QString& Name() const { return name_; }
+    // As it is now; to be copied.
+    QImage Picture() const {
+        return {pixels_, kDisplay.width(), kDisplay.height(), QImage::Format_RGB32};
+    }
+
+private:
+    orbelle::testing::TemporaryFolder folder_;
+    QProcess server_;
+    QString name_;
+    QFile file_;
+    const uchar* pixels_ = nullptr;
+};
+
+std::unique_ptr<Display> display;
+
 }  // namespace
 
 RealProgramTest::RealProgramTest() {
@@ -101,24 +141,22 @@ bool RealProgramTest::EndsWell(QProcess& process) {
 }
 
 RealWindowTest::RealWindowTest() = default;
+RealWindowTest::~RealWindowTest() = default;
 
-RealWindowTest::~RealWindowTest() {
-    display.kill();
-    display.waitForFinished();
+void RealWindowTest::SetUpTestSuite() {
+    display = std::make_unique<Display>();
+}
+
+void RealWindowTest::TearDownTestSuite() {
+    display.reset();
 }
 
 void RealWindowTest::SetUp() {
     for (const char* tool : {"Xvfb", "xdotool"})
         if (QStandardPaths::findExecutable(tool).isEmpty())
             GTEST_SKIP() << tool << " is not installed";
-    std::filesystem::create_directory(folder / "screen");
-    // The display's picture becomes a file.
-    display.start("Xvfb", {"-displayfd", "1", "-screen", "0",
-                           QString("%1x%2x24").arg(kDisplay.width()).arg(kDisplay.height()),
-                           "-nolisten", "tcp", "-noreset", "-fbdir", Path("screen")});
-    ASSERT_TRUE(display.waitForStarted());
-    ASSERT_TRUE(WaitUntil([&] { return display.waitForReadyRead(100) || display.canReadLine(); }));
-    environment.insert("DISPLAY", ":" + display.readLine().trimmed());
+    ASSERT_TRUE(display->Works());
+    environment.insert("DISPLAY", display->Name());
     environment.insert("QT_QPA_PLATFORM", "xcb");
     // The display draws the pointer into its picture.
     MoveTo({0, 0});
@@ -213,25 +251,13 @@ void RealWindowTest::WaitUntilIdle() {
     });
 }
 
-QImage RealWindowTest::Screen() const {
-    QFile file(Path("screen/Xvfb_screen0"));
-    // The file ends with the pixels.
-    if (!file.open(QIODevice::ReadOnly) || file.size() < kDisplayBytes ||
-        !file.seek(file.size() - kDisplayBytes))
-        return {};
-    const QByteArray bytes = file.readAll();
-    return QImage(reinterpret_cast<const uchar*>(bytes.constData()), kDisplay.width(),
-                  kDisplay.height(), QImage::Format_RGB32)
-        .convertToFormat(QImage::Format_ARGB32);
-}
-
 QRect RealWindowTest::SceneRect() {
     const QWidget& scene = *Twin().findChild<SceneView*>();
     return QRect(kWindowPlace + scene.mapTo(&Twin(), QPoint(0, 0)), scene.size());
 }
 
 QImage RealWindowTest::Scene() {
-    return Screen().copy(SceneRect());
+    return display->Picture().copy(SceneRect()).convertToFormat(QImage::Format_ARGB32);
 }
 
 int RealWindowTest::Count(QRgb color) {

@@ -45,11 +45,14 @@ protected:
     QProcess program;
 };
 
-// The program's window under real keys and a real pointer. All places are pixels of the display.
+// The program's window under real keys and a real pointer, on one display for all tests of a suite.
+// All places are pixels of the display.
 class RealWindowTest : public RealProgramTest {
 protected:
     RealWindowTest();
     ~RealWindowTest() override;
+    static void SetUpTestSuite();
+    static void TearDownTestSuite();
     void SetUp() override;
 
     // Starts with a picture open, all panels open, opaque red and blue as colours, at 100 %.
@@ -68,9 +71,7 @@ protected:
     // Until the program has taken all input and sleeps.
     void WaitUntilIdle();
 
-    // The display as it is now; null: it cannot be read.
-    QImage Screen() const;
-    // The part of it where the page is.
+    // The part of the display where the page is, as it is now.
     QImage Scene();
     // Pixels of the scene in a colour: how many, and the rectangle that holds them.
     int Count(QRgb color = kPictureColor);
@@ -93,7 +94,6 @@ protected:
 
     QString Xdotool(const QStringList& arguments);
 
-    QProcess display;
     QPoint page;  // where the picture's first pixel is
 
 private:

@@ -30,6 +30,20 @@ TEST(Bitmap, ACopyKeepsItsPixelsWhenTheOtherIsWritten) {
     EXPECT_EQ(second.GetPixel(0, 0), Argb{0x55667788});
 }
 
+TEST(Bitmap, AMovedFromOneIsEmptyInEveryRespect) {
+    Bitmap picture(3, 2, PixelFormat::Rgb24);
+    Bitmap taken = std::move(picture);
+    EXPECT_TRUE(picture.SharesPixelsWith(Bitmap()));
+    EXPECT_EQ(picture.Width(), 0);
+    EXPECT_EQ(picture.Height(), 0);
+    picture = std::move(taken);
+    EXPECT_TRUE(taken.IsEmpty());
+    EXPECT_EQ(taken.Width(), 0);
+    EXPECT_EQ(taken.Format(), PixelFormat::Argb32);
+    EXPECT_EQ(picture.Height(), 2);
+    EXPECT_EQ(picture.Format(), PixelFormat::Rgb24);
+}
+
 TEST(Bitmap, CloneAreaRefusesWhatLiesOutside) {
     Bitmap bitmap(4, 4);
     EXPECT_TRUE(bitmap.CloneArea(1, 1, 4, 4).IsEmpty());

@@ -18,11 +18,10 @@ using namespace orbelle::testing;
 class NumberSliderTest : public ::testing::Test {
 protected:
     NumberSliderTest() {
-        scroll_.resize(92, 24);
-        scroll_.SetScrollStyle(1);
-        scroll_.SetRange(5, 255);
-        scroll_.SetColorValue(51);
-        scroll_.show();
+        slider_.resize(92, 24);
+        slider_.SetRange(5, 255);
+        slider_.SetValue(51);
+        slider_.show();
     }
 
     void Enter(const QString& text) {
@@ -34,20 +33,20 @@ protected:
     // On the pop-up's own pixels: the thumb of the value 51 begins 13 pixels into the track.
     QPointF OnThumb() const { return track_.ThumbRect().center(); }
 
-    NumberSlider scroll_;
-    QLineEdit& field_ = *scroll_.findChild<QLineEdit*>();
-    SliderTrack& track_ = *scroll_.findChild<SliderTrack*>();
-    Gestures gestures_{scroll_};
+    NumberSlider slider_;
+    QLineEdit& field_ = *slider_.findChild<QLineEdit*>();
+    SliderTrack& track_ = *slider_.findChild<SliderTrack*>();
+    Gestures gestures_{slider_};
     const QPointF up_{65, 6}, down_{65, 18}, open_{83, 12};
 };
 
 TEST_F(NumberSliderTest, AnOwnersValueIsSilentAndMayLieBeyondTheRange) {
-    scroll_.SetColorValue(300);
-    EXPECT_EQ(scroll_.ColorValue(), 300);
+    slider_.SetValue(300);
+    EXPECT_EQ(slider_.Value(), 300);
     EXPECT_EQ(field_.text(), "300");
     EXPECT_EQ(track_.Place(), 100);
-    scroll_.SetRange(0, 10);
-    EXPECT_EQ(scroll_.ColorValue(), 300);
+    slider_.SetRange(0, 10);
+    EXPECT_EQ(slider_.Value(), 300);
     EXPECT_EQ(gestures_.Told(), "");
 }
 
@@ -60,8 +59,8 @@ TEST_F(NumberSliderTest, OneTypedTextIsOneGesture) {
     Strike(field_, Qt::Key_Return, "\r");
     EXPECT_EQ(gestures_.Told(), "");
     Enter("300");
-    scroll_.hide();
-    EXPECT_EQ(scroll_.ColorValue(), 300) << "typed values may lie beyond the range";
+    slider_.hide();
+    EXPECT_EQ(slider_.Value(), 300) << "typed values may lie beyond the range";
 }
 
 TEST_F(NumberSliderTest, TypedTextsThatAreNoNumberChangeNothing) {
@@ -80,69 +79,69 @@ TEST_F(NumberSliderTest, TypedTextsThatAreNoNumberChangeNothing) {
     for (const auto& [text, number] : numbers) {
         field_.setText(text);
         emit field_.textEdited(text);
-        EXPECT_EQ(scroll_.ColorValue(), number) << text;
+        EXPECT_EQ(slider_.Value(), number) << text;
     }
 }
 
 TEST_F(NumberSliderTest, AnOwnerThatAnswersATypedValueDoesNotDisturbTheTyping) {
-    QObject::connect(&scroll_, &NumberSlider::Changed, &scroll_,
-                     [this](int value) { scroll_.SetColorValue(std::min(value, 200)); });
+    QObject::connect(&slider_, &NumberSlider::Changed, &slider_,
+                     [this](int value) { slider_.SetValue(std::min(value, 200)); });
     Enter("12");
-    EXPECT_EQ(scroll_.ColorValue(), 12);
+    EXPECT_EQ(slider_.Value(), 12);
     Enter("250");
-    EXPECT_EQ(scroll_.ColorValue(), 200);
+    EXPECT_EQ(slider_.Value(), 200);
     EXPECT_EQ(field_.text(), "200");
 }
 
 TEST_F(NumberSliderTest, ArrowsStepWithinTheRange) {
-    const struct {
-        int from;
-        int step;
-        const char* told;
-    } cases[] = {
+    const std::tuple<int, int, const char*> cases[] = {
         {51, 1, "pressed 52 released"},       {51, -1, "pressed 50 released"},
         {255, 1, "pressed released"},         {5, -1, "pressed released"},
         {300, 1, "pressed 255 released"},     {0, -1, "pressed 5 released"},
         {INT_MAX, 1, "pressed 255 released"},
     };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(::testing::Message() << c.from << " step " << c.step);
-        scroll_.SetColorValue(c.from);
-        Click(scroll_, c.step > 0 ? up_ : down_);
-        EXPECT_EQ(gestures_.Told(), c.told);
-        scroll_.SetColorValue(c.from);
-        Strike(field_, c.step > 0 ? Qt::Key_Up : Qt::Key_Down);
-        EXPECT_EQ(gestures_.Told(), c.told);
+    for (const auto& [from, step, told] : cases) {
+        slider_.SetValue(from);
+        Click(slider_, step > 0 ? up_ : down_);
+        EXPECT_EQ(gestures_.Told(), told) << from;
+        slider_.SetValue(from);
+        Strike(field_, step > 0 ? Qt::Key_Up : Qt::Key_Down);
+        EXPECT_EQ(gestures_.Told(), told) << from;
     }
 }
 
-TEST_F(NumberSliderTest, AnArrowEndsTheTypingFirst) {
-    Enter("9");
-    Strike(field_, Qt::Key_Up);
-    EXPECT_EQ(gestures_.Told(), "pressed 9 released pressed 10 released");
-    EXPECT_EQ(field_.text(), "10");
-}
-
 TEST_F(NumberSliderTest, AHeldArrowRepeatsWithinOneGesture) {
-    Press(scroll_, up_);
+    Press(slider_, up_);
     const QDeadlineTimer deadline(10000);
-    while (scroll_.ColorValue() < 54 && !deadline.hasExpired())
+    while (slider_.Value() < 54 && !deadline.hasExpired())
         QApplication::processEvents(QEventLoop::WaitForMoreEvents, 100);
-    Release(scroll_, up_);
+    Release(slider_, up_);
     const std::string told = gestures_.Told();
     EXPECT_TRUE(told.starts_with("pressed 52 53 54")) << told;
     EXPECT_TRUE(told.ends_with(" released")) << told;
 }
 
-TEST_F(NumberSliderTest, DisablingEndsAHeldArrow) {
-    Press(scroll_, up_);
-    scroll_.setEnabled(false);
-    EXPECT_EQ(gestures_.Told(), "pressed 52 released");
+TEST_F(NumberSliderTest, WhatInterruptsAGestureEndsIt) {
+    Enter("9");
+    Strike(field_, Qt::Key_Up);
+    EXPECT_EQ(gestures_.Told(), "pressed 9 released pressed 10 released");
+    Press(slider_, up_);
+    slider_.setEnabled(false);
+    EXPECT_EQ(gestures_.Told(), "pressed 11 released");
+    slider_.setEnabled(true);
+    Press(slider_, down_);
+    slider_.hide();
+    EXPECT_EQ(gestures_.Told(), "pressed 10 released");
+    slider_.show();
+    Click(slider_, open_);
+    Press(track_, OnThumb());
+    track_.hide();
+    EXPECT_EQ(gestures_.Told(), "pressed released");
 }
 
 TEST_F(NumberSliderTest, TheTrackOpensAndOnlyItsThumbIsDragged) {
     EXPECT_FALSE(track_.isVisible());
-    Click(scroll_, open_);
+    Click(slider_, open_);
     ASSERT_TRUE(track_.isVisible());
     const QPointF beside = OnThumb() + QPointF(30, 0);
     Press(track_, beside);
@@ -167,30 +166,33 @@ TEST_F(NumberSliderTest, TheTrackOpensAndOnlyItsThumbIsDragged) {
 }
 
 TEST_F(NumberSliderTest, TheThumbFollowsAnOwnerThatLimitsADrag) {
-    QObject::connect(&scroll_, &NumberSlider::Changed, &scroll_,
-                     [this](int value) { scroll_.SetColorValue(std::min(value, 204)); });
-    Click(scroll_, open_);
+    QObject::connect(&slider_, &NumberSlider::Changed, &slider_,
+                     [this](int value) { slider_.SetValue(std::min(value, 204)); });
     Press(track_, OnThumb());
     DragTo(track_, {200, OnThumb().y()});
-    EXPECT_EQ(scroll_.ColorValue(), 204);
+    EXPECT_EQ(slider_.Value(), 204);
     EXPECT_NEAR(track_.Place(), 73, 1e-9);
 }
 
-TEST_F(NumberSliderTest, ClosingTheTrackEndsItsDrag) {
-    Click(scroll_, open_);
-    Press(track_, OnThumb());
-    track_.hide();
-    EXPECT_EQ(gestures_.Told(), "pressed released");
+TEST_F(NumberSliderTest, KeysStepOnTheOpenTrack) {
+    Strike(field_, Qt::Key_Down);
+    EXPECT_FALSE(track_.isVisible());
+    gestures_.Told();
+    QKeyEvent opens(QEvent::KeyPress, Qt::Key_Down, Qt::AltModifier);
+    QApplication::sendEvent(&field_, &opens);
+    EXPECT_TRUE(track_.isVisible());
+    for (const Qt::Key key : {Qt::Key_Right, Qt::Key_Up, Qt::Key_Left, Qt::Key_Down})
+        Strike(track_, key);
+    EXPECT_EQ(gestures_.Told(),
+              "pressed 51 released pressed 52 released pressed 51 released pressed 50 released");
 }
 
 TEST_F(NumberSliderTest, TellsNothingMoreWhenItIsDestroyedInADrag) {
-    auto scroll = std::make_unique<NumberSlider>();
-    auto& track = *scroll->findChild<SliderTrack*>();
-    Gestures gestures(*scroll);
-    scroll->show();
-    Click(*scroll, {scroll->width() - 9.0, 12});
+    auto slider = std::make_unique<NumberSlider>();
+    auto& track = *slider->findChild<SliderTrack*>();
+    Gestures gestures(*slider);
     Press(track, track.ThumbRect().center());
-    scroll.reset();
+    slider.reset();
     EXPECT_EQ(gestures.Told(), "pressed");
 }
 
@@ -206,13 +208,11 @@ TEST_F(NumberSliderTest, IsOneStopOfTheTabKey) {
     ASSERT_EQ(QApplication::focusWidget(), first->findChild<QLineEdit*>());
     Strike(*QApplication::focusWidget(), Qt::Key_Tab, "\t");
     EXPECT_EQ(QApplication::focusWidget(), second);
-    Strike(*second, Qt::Key_Tab, "\t");
-    EXPECT_EQ(QApplication::focusWidget(), first->findChild<QLineEdit*>());
 }
 
 TEST_F(NumberSliderTest, IsASpinBoxToAssistiveTools) {
-    scroll_.setAccessibleName("Line width");
-    QAccessibleInterface* spin = QAccessible::queryAccessibleInterface(&scroll_);
+    slider_.setAccessibleName("Line width");
+    QAccessibleInterface* spin = QAccessible::queryAccessibleInterface(&slider_);
     ASSERT_TRUE(spin);
     EXPECT_EQ(spin->role(), QAccessible::SpinBox);
     EXPECT_EQ(spin->text(QAccessible::Name), "Line width");
@@ -224,9 +224,9 @@ TEST_F(NumberSliderTest, IsASpinBoxToAssistiveTools) {
     value->setCurrentValue(1000);
     EXPECT_EQ(value->currentValue().toInt(), 255);
     EXPECT_EQ(gestures_.Told(), "pressed 255 released");
-    scroll_.activateWindow();
+    slider_.activateWindow();
     QApplication::processEvents();
-    scroll_.setFocus();
+    slider_.setFocus();
     EXPECT_EQ(field_.accessibleName(), "Line width");
 }
 

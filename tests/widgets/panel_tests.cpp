@@ -1,4 +1,4 @@
-// Headers, captions, balloons and the picture holder.
+// Headers, captions and balloons; and how controls show the focus.
 #include <gtest/gtest.h>
 
 #include <QAccessible>
@@ -7,82 +7,99 @@
 #include "support/hands.h"
 #include "widgets/balloon.h"
 #include "widgets/caption_text.h"
-#include "widgets/image_store.h"
+#include "widgets/layer_list.h"
+#include "widgets/number_slider.h"
 #include "widgets/panel_header.h"
+#include "widgets/track_slider.h"
 
 namespace orbelle::widgets {
 namespace {
 
 using namespace orbelle::testing;
 
+int AccentPixels(QWidget& widget) {
+    const QImage picture = widget.grab().toImage();
+    int count = 0;
+    for (int y = 0; y < picture.height(); ++y)
+        for (int x = 0; x < picture.width(); ++x)
+            count += picture.pixelColor(x, y) == QColor(58, 150, 255);
+    return count;
+}
+
+TEST(FocusTest, IsShownInTheAccentColour) {
+    PanelHeader header("Layer");
+    NumberSlider number;
+    TrackSlider track;
+    LayerList list;
+    for (QWidget* control : std::initializer_list<QWidget*>{&header, &number, &track, &list}) {
+        control->resize(120, 24);
+        control->show();
+        control->clearFocus();
+        const int before = AccentPixels(*control);
+        control->activateWindow();
+        QApplication::processEvents();
+        control->setFocus(Qt::TabFocusReason);
+        EXPECT_GT(AccentPixels(*control), before + 10) << control->metaObject()->className();
+    }
+}
+
 TEST(PanelHeaderTest, TurnsAtAClickAndAtSpaceAndReturn) {
-    PanelHeader title("Icon Opacity");
-    title.resize(200, 24);
+    PanelHeader header("Icon Opacity");
+    header.resize(200, 24);
+    QAccessibleInterface* button = QAccessible::queryAccessibleInterface(&header);
+    ASSERT_TRUE(button);
+    EXPECT_EQ(button->text(QAccessible::Name), "Icon Opacity");
     QList<bool> told;
-    QObject::connect(&title, &PanelHeader::Clicked, [&](bool closed) { told << closed; });
-    EXPECT_FALSE(title.IsClosed());
-    Click(title, {20, 12});
-    EXPECT_TRUE(title.IsClosed());
-    Click(title, {190, 12});
-    EXPECT_FALSE(title.IsClosed());
-    Strike(title, Qt::Key_Space, " ");
-    Strike(title, Qt::Key_Return, "\r");
-    Strike(title, Qt::Key_A, "a");
+    QObject::connect(&header, &PanelHeader::Clicked, [&](bool closed) { told << closed; });
+    EXPECT_FALSE(header.IsClosed());
+    Click(header, {20, 12});
+    EXPECT_TRUE(header.IsClosed());
+    EXPECT_TRUE(button->state().checkable);
+    EXPECT_FALSE(button->state().checked) << "checked while its panel is open";
+    Click(header, {190, 12});
+    Strike(header, Qt::Key_Space, " ");
+    Strike(header, Qt::Key_Return, "\r");
+    Strike(header, Qt::Key_A, "a");
     EXPECT_EQ(told, QList<bool>({true, false, true, false}));
-    title.SetClosed(true);
-    EXPECT_TRUE(title.IsClosed());
+    header.SetClosed(true);
+    EXPECT_TRUE(header.IsClosed());
     EXPECT_EQ(told.size(), 4) << "told of what its owner did";
 }
 
 TEST(PanelHeaderTest, ShowsWhetherItIsClosed) {
-    PanelHeader title("Layer");
-    title.resize(200, 24);
-    const QImage open = title.grab().toImage();
-    title.SetClosed(true);
-    const QImage closed = title.grab().toImage();
+    PanelHeader header("Layer");
+    header.resize(200, 24);
+    const QImage open = header.grab().toImage();
+    header.SetClosed(true);
+    const QImage closed = header.grab().toImage();
     const QRect chevron(176, 0, 24, 24);
     EXPECT_NE(open.copy(chevron), closed.copy(chevron));
     EXPECT_EQ(open.copy(0, 0, 176, 24), closed.copy(0, 0, 176, 24));
-    EXPECT_EQ(open.pixelColor(0, 0), QColor(245, 246, 247));
-    EXPECT_EQ(open.pixelColor(0, 23), QColor(220, 220, 220));
-}
-
-TEST(PanelHeaderTest, IsACheckableButtonToAssistiveTools) {
-    PanelHeader title("Icon Filter");
-    QAccessibleInterface* button = QAccessible::queryAccessibleInterface(&title);
-    ASSERT_TRUE(button);
-    EXPECT_EQ(button->text(QAccessible::Name), "Icon Filter");
-    EXPECT_TRUE(button->state().checkable);
-    EXPECT_TRUE(button->state().checked);
-    title.SetClosed(true);
-    EXPECT_FALSE(button->state().checked);
 }
 
 TEST(BalloonTest, HeightFollowsTheTextInAFixedWidth) {
-    Balloon tips;
-    tips.SetTipString("One line.");
-    const int one = tips.height();
-    tips.SetTipString("Two\nlines.");
-    const int two = tips.height();
-    tips.SetTipString("Not satisfied with the current results? Undo restores, and Redo repeats.");
-    EXPECT_GT(two, one);
-    EXPECT_GT(tips.height(), two);
-    EXPECT_EQ(tips.width(), 190);
-    tips.SetTipString("One line.");
-    EXPECT_EQ(tips.height(), one);
+    Balloon balloon;
+    int height = 0;
+    for (const char* text :
+         {"One line.", "Two\nlines.",
+          "Not satisfied with the current results? Undo restores, and Redo repeats."}) {
+        balloon.SetText(text);
+        EXPECT_GT(balloon.height(), std::exchange(height, balloon.height())) << text;
+        EXPECT_EQ(balloon.width(), 190) << text;
+    }
 }
 
 TEST(BalloonTest, PointsUpOrDownAtThe35thPixel) {
-    Balloon tips;
-    tips.SetTipString("Here.");
+    Balloon balloon;
+    balloon.SetText("Here.");
     const auto isInked = [&](int y) {
-        const QImage picture = tips.grab().toImage();
+        const QImage picture = balloon.grab().toImage();
         return picture.pixel(36, y) != picture.pixel(180, y);
     };
-    const int last = tips.height() - 2;
+    const int last = balloon.height() - 2;
     EXPECT_TRUE(isInked(1));
     EXPECT_FALSE(isInked(last - 2));
-    tips.SetDirection(1);
+    balloon.SetPointsDown(true);
     EXPECT_TRUE(isInked(last));
     EXPECT_FALSE(isInked(3));
 }
@@ -90,61 +107,43 @@ TEST(BalloonTest, PointsUpOrDownAtThe35thPixel) {
 TEST(BalloonTest, ComesUpAboveItsSiblingsAndTellsOfAClick) {
     QWidget window;
     window.resize(300, 200);
-    Balloon tips(&window);
-    tips.SetTipString("Click here.");
+    Balloon balloon(&window);
+    balloon.SetText("Click here.");
     QWidget later(&window);
     later.resize(300, 200);
     window.show();
-    tips.hide();
+    balloon.hide();
     later.raise();
-    tips.show();
-    EXPECT_EQ(window.childAt(50, 20), &tips);
+    balloon.show();
+    EXPECT_EQ(window.childAt(50, 20), &balloon);
 
     int clicks = 0;
-    QObject::connect(&tips, &Balloon::Clicked, [&] { ++clicks; });
-    Click(tips, {50, 20});
+    QObject::connect(&balloon, &Balloon::Clicked, [&] { ++clicks; });
+    Click(balloon, {50, 20});
     EXPECT_EQ(clicks, 1);
-    EXPECT_TRUE(tips.isVisible());
-    Press(tips, {50, 20});
-    Release(tips, {-5, 20});
+    Press(balloon, {50, 20});
+    Release(balloon, {-5, 20});
     EXPECT_EQ(clicks, 1);
 }
 
-TEST(BalloonTest, AndCaptionsSpeakTheirTexts) {
-    Balloon tips;
-    tips.SetTipString("Click here.");
-    CaptionText captions("A block of text.");
+TEST(CaptionTextTest, WrapsByWords) {
+    const CaptionText caption("A text block, wrapped by words.");
+    EXPECT_GT(caption.heightForWidth(80), caption.heightForWidth(400));
+}
+
+TEST(AccessibleRoleTest, BalloonsAndCaptionsSpeakTheirTexts) {
+    Balloon balloon;
+    balloon.SetText("Click here.");
+    CaptionText caption("A block of text.");
     const std::tuple<QWidget*, QAccessible::Role, const char*> cases[] = {
-        {&tips, QAccessible::AlertMessage, "Click here."},
-        {&captions, QAccessible::StaticText, "A block of text."}};
+        {&balloon, QAccessible::AlertMessage, "Click here."},
+        {&caption, QAccessible::StaticText, "A block of text."}};
     for (const auto& [widget, role, text] : cases) {
         QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(widget);
         ASSERT_TRUE(accessible);
         EXPECT_EQ(accessible->role(), role);
         EXPECT_EQ(accessible->text(QAccessible::Name), text);
     }
-}
-
-TEST(CaptionTextTest, WrapsByWordsAndMakesRoomForItsPicture) {
-    CaptionText captions("A text block, wrapped by words, with an optional picture at its left.");
-    EXPECT_GT(captions.heightForWidth(80), captions.heightForWidth(400));
-    const int plain = captions.heightForWidth(120);
-    captions.SetPicture("orbelle");
-    EXPECT_GT(captions.heightForWidth(120), plain);
-    captions.SetCaption("Short.");
-    EXPECT_EQ(captions.heightForWidth(400), 32);
-    EXPECT_EQ(captions.Caption(), "Short.");
-}
-
-TEST(ImageStoreTest, WithoutAPictureDrawsNothing) {
-    QImage picture(40, 40, QImage::Format_ARGB32_Premultiplied);
-    picture.fill(Qt::red);
-    const QImage before = picture;
-    QPainter painter(&picture);
-    ImageStore("no such drawing").Drawing(painter, picture.rect(), 1);
-    EXPECT_EQ(painter.opacity(), 1);
-    painter.end();
-    EXPECT_EQ(picture, before);
 }
 
 }  // namespace

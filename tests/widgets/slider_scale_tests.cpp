@@ -7,50 +7,35 @@
 namespace orbelle::widgets {
 namespace {
 
-TEST(SliderScaleTest, DragsByTheScaleOfTheStyle) {
+TEST(SliderScaleTest, DragsByTenthsUpToTenAndElseOverTheWholeTrack) {
     const struct {
-        SliderScale scale;
-        double x;
-        int value;
-        double place;
+        int MaxValue;
+        double X;
+        int Value;
+        double Place;
     } cases[] = {
-        {{0, 10}, 50, 5, 43},      {{0, 10}, 100, 10, 93},    {{0, 5}, 50, 5, 43},
-        {{0, 5}, 56, 5, 100},      {{1, 255}, 40, 102, 33},   {{1, 255}, 100, 255, 93},
-        {{1, 255}, 101, 255, 100}, {{1, 255}, 900, 255, 100}, {{1, 150}, 100, 255, 93},
-        {{1, 255}, -1, 0, 0},      {{2, 180}, 50, 90, 43},    {{2, 180}, 101, 180, 100},
-        {{3, 255}, 70, 70, 63},    {{3, 255}, 101, 100, 100}, {{0, 512}, 50, 256, 43},
-        {{0, 512}, 100, 512, 93},  {{0, 512}, 101, 512, 100}, {{0, 200}, 25, 50, 18},
+        {10, 50, 5, 43},    {10, 100, 10, 93},   {10, 5, 0, 0},        {10, 15, 2, 13},
+        {10, 25, 2, 13},  // ties go to the even value
+        {5, 50, 5, 43},     {5, 56, 5, 100},     {11, 100, 11, 93},    {200, 25, 50, 18},
+        {255, 40, 102, 33}, {255, 100, 255, 93}, {255, 101, 255, 100}, {255, 900, 255, 100},
+        {255, -1, 0, 0},    {512, 50, 256, 43},
     };
     for (const auto& c : cases) {
-        SCOPED_TRACE(::testing::Message()
-                     << "style " << c.scale.Style << " to " << c.scale.MaxValue << " at " << c.x);
-        const SliderScale::Drag drag = c.scale.DragTo(c.x);
-        EXPECT_EQ(drag.Value, c.value);
-        EXPECT_NEAR(drag.Place, c.place, 1e-9);
+        const SliderScale::Drag drag = SliderScale{c.MaxValue}.DragTo(c.X);
+        EXPECT_EQ(drag.Value, c.Value) << c.MaxValue << " at " << c.X;
+        EXPECT_NEAR(drag.Place, c.Place, 1e-9) << c.MaxValue << " at " << c.X;
     }
-}
-
-TEST(SliderScaleTest, RoundsTiesToTheEvenValue) {
-    const SliderScale tenths{0, 10};
-    EXPECT_EQ(tenths.DragTo(5).Value, 0);
-    EXPECT_EQ(tenths.DragTo(15).Value, 2);
-    EXPECT_EQ(tenths.DragTo(25).Value, 2);
 }
 
 TEST(SliderScaleTest, PlacesStayOnTheTrack) {
     const struct {
-        SliderScale scale;
-        int value;
-        double place;
-    } cases[] = {
-        {{1, 255}, 255, 93},  {{1, 255}, 51, 13},     {{1, 255}, 0, 0},
-        {{1, 255}, 300, 100}, {{1, 255}, INT_MIN, 0}, {{2, 180}, 90, 43},
-        {{3, 100}, 57, 50},   {{0, 10}, 3, 23},       {{0, 10}, INT_MAX, 100},
-        {{0, 512}, 128, 18},  {{0, 0}, 0, 0},         {{0, INT_MAX}, INT_MAX, 93},
-    };
-    for (const auto& c : cases)
-        EXPECT_NEAR(c.scale.PlaceFromValue(c.value), c.place, 1e-9)
-            << "style " << c.scale.Style << " to " << c.scale.MaxValue << ": " << c.value;
+        int MaxValue, Value;
+        double Place;
+    } cases[] = {{255, 51, 13}, {255, 0, 0},        {255, 300, 100}, {255, INT_MIN, 0},
+                 {10, 3, 23},   {10, INT_MAX, 100}, {0, 0, 0},       {INT_MAX, INT_MAX, 93}};
+    for (const auto& [maxValue, value, place] : cases)
+        EXPECT_NEAR(SliderScale{maxValue}.PlaceFromValue(value), place, 1e-9)
+            << value << " of " << maxValue;
 }
 
 }  // namespace

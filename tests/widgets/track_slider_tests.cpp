@@ -80,13 +80,12 @@ TEST_F(TrackSliderTest, DragsTheThumbByItsGrip) {
 
 TEST_F(TrackSliderTest, ADragPastTheEndStopsFivePixelsShort) {
     Press(slider_, At(105));
-    DragTo(slider_, At(200));
-    EXPECT_EQ(slider_.value(), 98) << "195 pixels: 97.5, to the even value";
-    EXPECT_EQ(ThumbLeft(), 195);
-    DragTo(slider_, At(201));
-    EXPECT_EQ(ThumbLeft(), 195);
-    DragTo(slider_, At(500));
-    EXPECT_EQ(ThumbLeft(), 195);
+    // 195 pixels are 97.5, to the even value.
+    for (const auto& [x, value] : {std::pair(200, 98), {201, 100}, {500, 100}}) {
+        DragTo(slider_, At(x));
+        EXPECT_EQ(slider_.value(), value);
+        EXPECT_EQ(ThumbLeft(), 195);
+    }
     Release(slider_, At(500));
     EXPECT_EQ(gestures_.Told(), "pressed 98 100 released");
     slider_.SetValue(100);

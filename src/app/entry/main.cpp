@@ -6,10 +6,8 @@
 #include <QTimer>
 #include <memory>
 
-#include "app/benchmark.h"
 #include "app/chrome.h"
 #include "app/main_window.h"
-#include "app/screenshot.h"
 #include "app/single_instance.h"
 #include "app/welcome_window.h"
 
@@ -28,12 +26,6 @@ int main(int argc, char** argv) {
     parser.setApplicationDescription("Varnel Orbelle, an icon editor.");
     parser.addHelpOption();
     parser.addVersionOption();
-    const QCommandLineOption screenshot(
-        "screenshot", "Write what the window shows to PICTURE, a PNG, and exit.", "PICTURE");
-    parser.addOption(screenshot);
-    const QCommandLineOption benchmark("benchmark",
-                                       "Print how long the window takes to follow a hand.");
-    parser.addOption(benchmark);
     parser.addPositionalArgument("FILE", "The document or picture to open.", "[FILE]");
     parser.process(application);
     const QStringList files = parser.positionalArguments();
@@ -42,10 +34,6 @@ int main(int argc, char** argv) {
         return 1;
     }
     const QString file = files.value(0);
-    if (parser.isSet(benchmark))
-        return orbelle::app::RunBenchmark();
-    if (parser.isSet(screenshot))
-        return orbelle::app::TakeScreenshot(parser.value(screenshot), file);
 
     // The text that a shell passes on: the path between quotation marks, or nothing.
     const QString commandLine =
@@ -57,21 +45,21 @@ int main(int argc, char** argv) {
     orbelle::app::WelcomeWindow welcome;
     welcome.RunStart();
     // The window is put together while the welcome stands.
-    std::unique_ptr<orbelle::app::MainWindow> form;
+    std::unique_ptr<orbelle::app::MainWindow> window;
     QTimer::singleShot(0, [&] {
-        form = std::make_unique<orbelle::app::MainWindow>();
-        form->RestoreSettings();
-        QObject::connect(&instance, &orbelle::app::SingleInstance::Received, form.get(),
+        window = std::make_unique<orbelle::app::MainWindow>();
+        window->RestoreSettings();
+        QObject::connect(&instance, &orbelle::app::SingleInstance::Received, window.get(),
                          &orbelle::app::MainWindow::TakeHandOver);
     });
     QObject::connect(&welcome, &orbelle::app::WelcomeWindow::Finished, [&] {
-        form->show();
+        window->show();
         // Once the window has its size: the document is placed by it.
-        QTimer::singleShot(0, form.get(), [&] {
+        QTimer::singleShot(0, window.get(), [&] {
             if (commandLine.isEmpty())
-                form->StartWelcome();
+                window->StartWelcome();
             else
-                form->ShellOpen(commandLine);
+                window->ShellOpen(commandLine);
         });
     });
     return QApplication::exec();

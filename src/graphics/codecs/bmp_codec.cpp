@@ -5,6 +5,7 @@
 
 #include "graphics/codecs/image_codecs.h"
 #include "graphics/codecs/image_files.h"
+#include "graphics/little_endian.h"
 
 namespace orbelle::graphics {
 namespace {
@@ -22,22 +23,25 @@ enum class BmpCompression : std::uint32_t {
     MasksWithAlpha = 6,
 };
 
-// Little-endian numbers at absolute places of the file. A read beyond the end throws.
+// Numbers at absolute places of the file. A read beyond the end throws.
 class Bytes {
 public:
     explicit Bytes(std::span<const std::uint8_t> bytes) : bytes_(bytes) {}
 
     std::size_t Size() const { return bytes_.size(); }
-    unsigned Byte(std::size_t at) const {
-        if (at >= bytes_.size())
-            ThrowDamaged("BMP", "the data ends too early");
-        return bytes_[at];
-    }
-    unsigned Short(std::size_t at) const { return Byte(at) | Byte(at + 1) << 8; }
-    std::uint32_t Long(std::size_t at) const { return Short(at) | Short(at + 2) << 16; }
+    unsigned Byte(std::size_t at) const { return Number<std::uint8_t>(at); }
+    unsigned Short(std::size_t at) const { return Number<std::uint16_t>(at); }
+    std::uint32_t Long(std::size_t at) const { return Number<std::uint32_t>(at); }
     const std::uint8_t* At(std::size_t at) const { return bytes_.data() + at; }
 
 private:
+    template <typename Type>
+    Type Number(std::size_t at) const {
+        if (at > bytes_.size() || bytes_.size() - at < sizeof(Type))
+            ThrowDamaged("BMP", "the data ends too early");
+        return NumberAt<Type>(bytes_, at);
+    }
+
     std::span<const std::uint8_t> bytes_;
 };
 
@@ -221,17 +225,11 @@ void ReadMaskedRows(const Bytes& bytes, const Header& header, Argb* pixels) {
     const Channel green(header.Masks.Green, 0);
     const Channel blue(header.Masks.Blue, 0);
     const Channel alpha(header.Masks.Alpha, 255);
-    const auto unpack = [&](std::uint32_t pixel) {
-        return MakeARGB(alpha.Of(pixel), red.Of(pixel), green.Of(pixel), blue.Of(pixel));
-    };
+    const std::size_t pixelBytes = header.Bits / 8;
     ReadRows(bytes, header, pixels, [&](const std::uint8_t* from, Argb* to) {
-        if (header.Bits == 16) {
-            for (std::int64_t x = 0; x < header.Width; ++x, from += 2)
-                to[x] = unpack(from[0] | from[1] << 8);
-        } else {
-            for (std::int64_t x = 0; x < header.Width; ++x, from += 4)
-                to[x] =
-                    unpack(from[0] | from[1] << 8 | from[2] << 16 | std::uint32_t{from[3]} << 24);
+        for (std::int64_t x = 0; x < header.Width; ++x, from += pixelBytes) {
+            const auto pixel = NumberAt<std::uint32_t>({from, pixelBytes}, 0);
+            to[x] = MakeARGB(alpha.Of(pixel), red.Of(pixel), green.Of(pixel), blue.Of(pixel));
         }
     });
 }
@@ -278,11 +276,6 @@ void ReadRuns(const Bytes& bytes, const Header& header, Argb* pixels) {
     }
 }
 
-void AppendNumber(std::vector<std::uint8_t>& bytes, std::uint32_t value, int size) {
-    for (int i = 0; i < size; ++i)
-        bytes.push_back(static_cast<std::uint8_t>(value >> 8 * i));
-}
-
 }  // namespace
 
 Bitmap DecodeBmp(std::span<const std::uint8_t> file) {
@@ -314,20 +307,20 @@ std::vector<std::uint8_t> EncodeBmp(const Bitmap& image) {
     const std::uint32_t pixelBytes = stride * image.Height();
     std::vector<std::uint8_t> bytes = {'B', 'M'};
     bytes.reserve(kHeaderBytes + pixelBytes);
-    AppendNumber(bytes, kHeaderBytes + pixelBytes, 4);
-    AppendNumber(bytes, 0, 4);
-    AppendNumber(bytes, kHeaderBytes, 4);
-    AppendNumber(bytes, kInfoHeaderBytes, 4);
-    AppendNumber(bytes, image.Width(), 4);
-    AppendNumber(bytes, image.Height(), 4);
-    AppendNumber(bytes, 1, 2);   // planes
-    AppendNumber(bytes, 24, 2);  // bits
-    AppendNumber(bytes, static_cast<std::uint32_t>(BmpCompression::None), 4);
-    AppendNumber(bytes, pixelBytes, 4);
-    AppendNumber(bytes, kPixelsPerMetre, 4);
-    AppendNumber(bytes, kPixelsPerMetre, 4);
-    AppendNumber(bytes, 0, 4);  // palette entries
-    AppendNumber(bytes, 0, 4);  // of these needed
+    Append<std::uint32_t>(bytes, kHeaderBytes + pixelBytes);
+    Append<std::uint32_t>(bytes, 0);
+    Append<std::uint32_t>(bytes, kHeaderBytes);
+    Append<std::uint32_t>(bytes, kInfoHeaderBytes);
+    Append<std::int32_t>(bytes, image.Width());
+    Append<std::int32_t>(bytes, image.Height());
+    Append<std::uint16_t>(bytes, 1);   // planes
+    Append<std::uint16_t>(bytes, 24);  // bits
+    Append<BmpCompression>(bytes, BmpCompression::None);
+    Append<std::uint32_t>(bytes, pixelBytes);
+    Append<std::uint32_t>(bytes, kPixelsPerMetre);
+    Append<std::uint32_t>(bytes, kPixelsPerMetre);
+    Append<std::uint32_t>(bytes, 0);  // palette entries
+    Append<std::uint32_t>(bytes, 0);  // of these needed
     bytes.resize(kHeaderBytes + pixelBytes);
     for (int y = 0; y < image.Height(); ++y) {
         const Argb* from = image.Row(y);

@@ -67,7 +67,9 @@ public:
 
     std::vector<std::uint8_t> Finish() {
         int error = 0;
-        if (EGifCloseFile(std::exchange(gif_, nullptr), &error) == GIF_ERROR)
+        const int result = EGifCloseFile(std::exchange(gif_, nullptr), &error);
+        // The library overlooks some of the writes that fail.
+        if (result == GIF_ERROR || outOfMemory_)
             ThrowGifError(error);
         return std::move(bytes_);
     }
@@ -75,16 +77,19 @@ public:
 private:
     // Called from C, so no exception may leave it; a short count counts as a failed write.
     static int Append(GifFileType* gif, const GifByteType* data, int count) {
-        auto& bytes = static_cast<GifWriter*>(gif->UserData)->bytes_;
+        auto* self = static_cast<GifWriter*>(gif->UserData);
         try {
-            bytes.insert(bytes.end(), data, data + count);
+            self->bytes_.insert(self->bytes_.end(), data, data + count);
         } catch (const std::bad_alloc&) {
+            self->outOfMemory_ = true;
             return 0;
         }
         return count;
     }
 
-    [[noreturn]] static void ThrowGifError(int code) {
+    [[noreturn]] void ThrowGifError(int code) const {
+        if (outOfMemory_ || code == E_GIF_ERR_NOT_ENOUGH_MEM)
+            throw std::bad_alloc();
         const char* text = GifErrorString(code);
         throw ImageError(std::string("the GIF picture can't be written: ") +
                          (text ? text : "unknown error"));
@@ -96,6 +101,7 @@ private:
     }
 
     std::vector<std::uint8_t> bytes_;
+    bool outOfMemory_ = false;
     GifFileType* gif_ = nullptr;
 };
 

@@ -2,12 +2,15 @@
 #include <csetjmp>
 #include <cstdio>
 #include <cstring>
+#include <new>
 // The library's headers use std::size_t and FILE without including them.
 #include <jpeglib.h>
 // Needs jpeglib.h before it.
 #include <jerror.h>
 
 #include "graphics/codecs/image_codecs.h"
+#include "graphics/little_endian.h"
+#include "graphics/rotate_flip.h"
 
 // libjpeg leaves its calls by longjmp when something fails. Functions with a setjmp therefore hold
 // no object that would have to be destroyed; they answer false, and their caller throws.
@@ -48,10 +51,9 @@ public:
     }
 
 private:
-    // What lies outside the block reads as 0.
-    unsigned Byte(std::size_t at) const { return at < tiff_.size() ? tiff_[at] : 0; }
     unsigned Short(std::size_t at) const {
-        return bigEndian_ ? Byte(at) << 8 | Byte(at + 1) : Byte(at + 1) << 8 | Byte(at);
+        const unsigned number = NumberAt<std::uint16_t>(tiff_, at);
+        return bigEndian_ ? (number << 8 | number >> 8) & 0xFFFF : number;
     }
     std::size_t Long(std::size_t at) const {
         return bigEndian_ ? std::size_t{Short(at)} << 16 | Short(at + 2)
@@ -121,7 +123,11 @@ public:
         return true;
     }
 
-    const char* Problem() const { return message_; }
+    [[noreturn]] void ThrowProblem() const {
+        if (outOfMemory_)
+            throw std::bad_alloc();
+        ThrowDamaged("JPEG", message_);
+    }
 
 private:
     static JpegReader* Self(j_common_ptr jpeg) {
@@ -130,6 +136,7 @@ private:
 
     [[noreturn]] static void OnError(j_common_ptr jpeg) {
         JpegReader* self = Self(jpeg);
+        self->outOfMemory_ = jpeg->err->msg_code == JERR_OUT_OF_MEMORY;
         jpeg->err->format_message(jpeg, self->message_);
         std::longjmp(self->jump_, 1);
     }
@@ -169,30 +176,18 @@ private:
     jpeg_progress_mgr progress_ = {};
     std::jmp_buf jump_;
     char message_[JMSG_LENGTH_MAX] = "";
+    bool outOfMemory_ = false;
 };
 
-Bitmap TurnUpright(Bitmap image, int orientation) {
-    if (orientation == 1)
-        return image;
-    const bool swapsSides = orientation >= 5;
-    const bool fromRight =
-        orientation == 2 || orientation == 3 || orientation == 7 || orientation == 8;
-    const bool fromBottom =
-        orientation == 3 || orientation == 4 || orientation == 6 || orientation == 7;
-    const int right = image.Width() - 1;
-    const int bottom = image.Height() - 1;
-    Bitmap upright =
-        swapsSides ? Bitmap(image.Height(), image.Width()) : Bitmap(image.Width(), image.Height());
-    for (int y = 0; y < upright.Height(); ++y) {
-        Argb* row = upright.MutableRow(y);
-        for (int x = 0; x < upright.Width(); ++x) {
-            const int column = swapsSides ? y : x;
-            const int line = swapsSides ? x : y;
-            row[x] =
-                image.Row(fromBottom ? bottom - line : line)[fromRight ? right - column : column];
-        }
-    }
-    return upright;
+void TurnUpright(Bitmap& image, int orientation) {
+    if (orientation == 6 || orientation == 7)
+        ImageRotateFlip(image, RotateFlipType::Rotate90FlipNone);
+    if (orientation == 5 || orientation == 8)
+        ImageRotateFlip(image, RotateFlipType::Rotate90FlipX);
+    if (orientation == 2 || orientation == 3)
+        ImageRotateFlip(image, RotateFlipType::RotateNoneFlipX);
+    if (orientation == 3 || orientation == 4 || orientation == 7 || orientation == 8)
+        ImageRotateFlip(image, RotateFlipType::RotateNoneFlipY);
 }
 
 }  // namespace
@@ -200,14 +195,15 @@ Bitmap TurnUpright(Bitmap image, int orientation) {
 Bitmap DecodeJpeg(std::span<const std::uint8_t> bytes) {
     JpegReader reader(bytes);
     if (!reader.ReadHeader())
-        ThrowDamaged("JPEG", reader.Problem());
+        reader.ThrowProblem();
     CheckDeclaredSize(reader.Width(), reader.Height());
     if (reader.HasTooLittleData())
         ThrowDamaged("JPEG", "too little data for its size");
     Bitmap image(static_cast<int>(reader.Width()), static_cast<int>(reader.Height()));
     if (!reader.ReadPixels(image.MutablePixels()))
-        ThrowDamaged("JPEG", reader.Problem());
-    return TurnUpright(std::move(image), reader.Orientation());
+        reader.ThrowProblem();
+    TurnUpright(image, reader.Orientation());
+    return image;
 }
 
 }  // namespace orbelle::graphics

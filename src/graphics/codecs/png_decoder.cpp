@@ -4,6 +4,7 @@
 #include <bit>
 #include <csetjmp>
 #include <cstdio>
+#include <cstdlib>
 #include <cstring>
 #include <new>
 
@@ -23,6 +24,7 @@ static_assert(std::endian::native == std::endian::little, "libpng reads blue fir
 
 struct Failure {
     char Message[128] = "";
+    bool OutOfMemory = false;
 };
 
 [[noreturn]] void OnError(png_structp png, png_const_charp message) {
@@ -33,10 +35,22 @@ struct Failure {
 
 void OnWarning(png_structp, png_const_charp) {}
 
+png_voidp Allocate(png_structp png, png_alloc_size_t size) {
+    void* memory = std::malloc(size);
+    if (!memory)
+        static_cast<Failure*>(png_get_mem_ptr(png))->OutOfMemory = true;
+    return memory;
+}
+
+void Free(png_structp, png_voidp memory) {
+    std::free(memory);
+}
+
 class PngReader {
 public:
     explicit PngReader(std::span<const std::uint8_t> bytes) : left_(bytes) {
-        png_ = png_create_read_struct(PNG_LIBPNG_VER_STRING, &failure_, OnError, OnWarning);
+        png_ = png_create_read_struct_2(PNG_LIBPNG_VER_STRING, &failure_, OnError, OnWarning,
+                                        &failure_, Allocate, Free);
         info_ = png_ ? png_create_info_struct(png_) : nullptr;
         if (!info_) {
             png_destroy_read_struct(&png_, nullptr, nullptr);
@@ -81,7 +95,11 @@ public:
         return true;
     }
 
-    const char* Problem() const { return failure_.Message; }
+    [[noreturn]] void ThrowProblem() const {
+        if (failure_.OutOfMemory)
+            throw std::bad_alloc();
+        ThrowDamaged("PNG", failure_.Message);
+    }
 
 private:
     static void Read(png_structp png, png_bytep data, std::size_t count) {
@@ -103,13 +121,13 @@ private:
 Bitmap DecodePng(std::span<const std::uint8_t> bytes) {
     PngReader reader(bytes);
     if (!reader.ReadHeader())
-        ThrowDamaged("PNG", reader.Problem());
+        reader.ThrowProblem();
     CheckDeclaredSize(reader.Width(), reader.Height());
     if (reader.BytesInFile() / kMaxDeflateRatio > static_cast<std::int64_t>(bytes.size()))
         ThrowDamaged("PNG", "too little data for its size");
     Bitmap image(static_cast<int>(reader.Width()), static_cast<int>(reader.Height()));
     if (!reader.ReadPixels(image.MutablePixels()))
-        ThrowDamaged("PNG", reader.Problem());
+        reader.ThrowProblem();
     return image;
 }
 

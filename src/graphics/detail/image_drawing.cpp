@@ -160,10 +160,7 @@ void DrawImageOn(Bitmap& target, const Bitmap& image, const ImageDrawing& drawin
         return;
     // Keeps the pixels as they are while the target, which may be the same bitmap, is written.
     const Bitmap source = image;  // NOLINT(performance-unnecessary-copy-initialization)
-    RectI bounds;
-    for (const RectI& rect : clip)
-        bounds = Unite(bounds, rect);
-
+    const RectI bounds = BoxAround(clip);
     if (IsPixelForPixel(drawing))
         DrawPixelForPixel(target, source, drawing, clip);
     else if (drawing.Interpolation == InterpolationMode::NearestNeighbor)

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <limits>
 #include <new>
 
 namespace orbelle::graphics {
@@ -18,8 +19,13 @@ int OnPlane(std::int64_t coordinate) {
     return static_cast<int>(std::clamp(coordinate, -end, end));
 }
 
+// Sets that were moved often reach further than the plane.
+int Length(std::int64_t from, std::int64_t to) {
+    return static_cast<int>(std::min<std::int64_t>(to - from, std::numeric_limits<int>::max()));
+}
+
 RectI FromBox(const pixman_box32_t& box) {
-    return {box.x1, box.y1, box.x2 - box.x1, box.y2 - box.y1};
+    return {box.x1, box.y1, Length(box.x1, box.x2), Length(box.y1, box.y2)};
 }
 
 }  // namespace
@@ -28,9 +34,8 @@ PixelSet::PixelSet(std::span<const RectI> rects) {
     std::vector<pixman_box32_t> boxes;
     boxes.reserve(rects.size());
     for (const RectI& rect : rects) {
-        const pixman_box32_t box{OnPlane(rect.X), OnPlane(rect.Y),
-                                 OnPlane(std::int64_t{rect.X} + rect.Width),
-                                 OnPlane(std::int64_t{rect.Y} + rect.Height)};
+        const pixman_box32_t box{OnPlane(rect.X), OnPlane(rect.Y), OnPlane(rect.Right()),
+                                 OnPlane(rect.Bottom())};
         if (box.x1 < box.x2 && box.y1 < box.y2)
             boxes.push_back(box);
     }

@@ -1,6 +1,7 @@
 // Numbers as they stand in files: little-endian, not aligned.
 #pragma once
 
+#include <algorithm>
 #include <bit>
 #include <cstdint>
 #include <cstring>
@@ -10,7 +11,7 @@
 
 #include "graphics/errors.h"
 
-namespace orbelle::formats {
+namespace orbelle::graphics {
 
 static_assert(std::endian::native == std::endian::little);
 
@@ -22,8 +23,17 @@ void Append(std::vector<std::uint8_t>& bytes, std::type_identity_t<Number> value
     std::memcpy(bytes.data() + end, &value, sizeof value);
 }
 
-// Goes through bytes that someone else keeps. Throws Error, without moving on, when
-// fewer are left than asked for.
+// The number at any place, also outside: bytes that are not there read as zero.
+template <typename Number>
+Number NumberAt(std::span<const std::uint8_t> bytes, std::size_t place) {
+    Number value = 0;
+    if (place < bytes.size())
+        std::memcpy(&value, bytes.data() + place, std::min(sizeof value, bytes.size() - place));
+    return value;
+}
+
+// Goes through bytes that someone else keeps. Throws Error, without moving on, when fewer are left
+// than asked for.
 class ByteReader {
 public:
     explicit ByteReader(std::span<const std::uint8_t> bytes) : left_(bytes) {}
@@ -38,13 +48,11 @@ public:
 
     template <typename Number>
     Number Read() {
-        Number value;
-        std::memcpy(&value, Take(sizeof value).data(), sizeof value);
-        return value;
+        return NumberAt<Number>(Take(sizeof(Number)), 0);
     }
 
 private:
     std::span<const std::uint8_t> left_;
 };
 
-}  // namespace orbelle::formats
+}  // namespace orbelle::graphics

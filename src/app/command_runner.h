@@ -1,0 +1,25 @@
+// How the parts of the window have the editor do something.
+#pragma once
+
+#include "editing/run.h"
+
+namespace orbelle::app {
+
+class CommandRunner {
+public:
+    // Carries a command out; a failure becomes a message box. True: it went well.
+    virtual bool Run(const editing::Command& command) = 0;
+    // The same under the busy pointer, for what may take a moment: files and styles.
+    virtual bool RunBusy(const editing::Command& command) = 0;
+    // The same as that, but why it failed is left to the caller to tell.
+    virtual editing::Outcome Try(const editing::Command& command) = 0;
+    // For what belongs to a drag or may come while one is in progress.
+    virtual bool RunDuringDrag(const editing::Command& step) = 0;
+
+    virtual const editing::Editor& Editor() const = 0;
+
+protected:
+    ~CommandRunner() = default;
+};
+
+}  // namespace orbelle::app

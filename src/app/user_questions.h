@@ -1,0 +1,50 @@
+// What is asked of the user, and told to him, before and after a command.
+#pragma once
+
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "formats/icon_reader.h"
+#include "graphics/bitmap.h"
+#include "graphics/color.h"
+
+namespace orbelle::app {
+
+enum class SavePromptAnswer { Cancel = 0, No = 1, Yes = 2 };
+
+struct PageSize {
+    int Width = 0;  // page pixels
+    int Height = 0;
+};
+
+class UserQuestions {
+public:
+    // A plain message box with one button.
+    virtual void ShowMessage(const std::string& text) = 0;
+    // A failure told in the status line, without a box.
+    virtual void ShowStatus(const std::string& text) = 0;
+
+    // "Save Icon Document?": before a changed document is given up.
+    virtual SavePromptAnswer AskSave() = 0;
+    // A question with OK and Cancel, Cancel the default; true: OK.
+    virtual bool Confirm(const std::string& text, const std::string& title) = 0;
+    // The New dialog. No value: cancelled. The window remembers the last size.
+    virtual std::optional<PageSize> AskPageSize() = 0;
+    // A file dialog with a filter of "text|patterns|text|patterns..."; empty: cancelled.
+    virtual std::filesystem::path AskFile(const std::string& filter, bool isOpen) = 0;
+    // At which alpha (0 to 200) a pixel of the surface counts as opaque in a GIF. No value:
+    // cancelled.
+    virtual std::optional<int> AskGifThreshold(const graphics::Bitmap& surface) = 0;
+    // Which image of an icon file to take, as its place among those offered. No value: cancelled.
+    virtual std::optional<int> ChooseIconImage(
+        const std::vector<formats::IconEntryImage>& offered) = 0;
+    // The colour dialog; no value: cancelled. The alpha of both means nothing.
+    virtual std::optional<graphics::Argb> AskColor(graphics::Argb initial) = 0;
+
+protected:
+    ~UserQuestions() = default;
+};
+
+}  // namespace orbelle::app
