@@ -89,8 +89,8 @@ protected:
     document::IconLayer& PutLayer(const graphics::Bitmap& image, float x, float y) {
         document::IconLayer& layer = editor.Page().Layers.emplace_back();
         layer.Image = image;
-        document::PlaceAt(layer, {static_cast<int>(x), static_cast<int>(y), image.Width(),
-                                  image.Height()});
+        document::PlaceAt(
+            layer, {static_cast<int>(x), static_cast<int>(y), image.Width(), image.Height()});
         layer.BaseRect = layer.Rect;
         layer.Region = graphics::Region::FromRect(layer.Rect);
         layer.Region.Translate(-1, 0);

@@ -1,0 +1,224 @@
+// Thousands of random steps by one user, and what must hold after each of them.
+#include <sys/resource.h>
+
+#include <functional>
+#include <random>
+
+#include "editing/adjust_sliders.h"
+#include "editing/buttons.h"
+#include "editing/clipboard_commands.h"
+#include "editing/color_wells.h"
+#include "editing/layer_bar.h"
+#include "editing/layer_commands.h"
+#include "editing/page_commands.h"
+#include "editing/scene_input.h"
+#include "editing/stack_commands.h"
+#include "editing/tool_palette.h"
+#include "editing/undo_commands.h"
+#include "editing/view_commands.h"
+#include "editing_fixture.h"
+
+namespace orbelle::editing {
+namespace {
+
+constexpr int kPageSide = 40;
+constexpr int kSteps = 2500;
+constexpr int kMostLayers = 12;  // a stack above this is thinned out, so that steps stay quick
+constexpr long kMaxMebibytes = 1024;
+
+class RandomUser : public EditingTest, public ::testing::WithParamInterface<unsigned> {
+protected:
+    RandomUser() {
+        OpenPage(kPageSide, kPageSide);
+        editor.Tools.Colors = {0xFF3060C0, 0x80F0D020};
+    }
+
+    int Below(int count) { return std::uniform_int_distribution<int>(0, count - 1)(random_); }
+    bool Chance(int percent) { return Below(100) < percent; }
+
+    Pointer RandomPointer() {
+        Pointer pointer;
+        pointer.Button = Chance(90) ? 1 : 2;
+        pointer.Shift = Chance(20) ? 1 : 0;
+        if (Chance(3)) {
+            constexpr float kFar[] = {-1e9F, -40000, 0, 40000, 1e9F};
+            pointer.X = kFar[Below(5)];
+            pointer.Y = kFar[Below(5)];
+        } else {
+            pointer.X = static_cast<float>(Below(260) - 30);
+            pointer.Y = static_cast<float>(Below(210) - 30);
+        }
+        return pointer;
+    }
+
+    void Gesture() {
+        EditingTest::Step(MoveScene, RandomPointer());
+        Do(PressScene, RandomPointer());
+        for (int i = Below(5); i > 0; --i) {
+            EditingTest::Step(MoveScene, RandomPointer());
+            if (Chance(3))
+                Command();
+        }
+        EditingTest::Step(ReleaseScene, RandomPointer());
+    }
+
+    void SliderDrag() {
+        const auto adjustment = static_cast<Adjustment>(Below(4));
+        switch (Below(3)) {
+            case 0:
+                Do(PressOpacity);
+                EditingTest::Step(ChangeOpacity, Below(101));
+                return EditingTest::Step(ReleaseOpacity);
+            case 1:
+                Do(PressAdjustment);
+                EditingTest::Step(ChangeAdjustment, adjustment, Below(101));
+                return EditingTest::Step(ReleaseAdjustment, adjustment);
+            default:
+                Do(PressScale);
+                EditingTest::Step(ChangeScale, Below(101));
+                return EditingTest::Step(ReleaseScale);
+        }
+    }
+
+    void View() {
+        void (*const views[])(Editor&) = {ZoomIn, ZoomOut, OriginalSize};
+        Do(views[Below(3)]);
+        if (Chance(50))
+            SetZoom(0.2 + Below(30) / 10.0);
+    }
+
+    void Command() {
+        using Action = std::function<void()>;
+        const Action actions[] = {
+            [&] { Do(commands_[static_cast<std::size_t>(Below(int(commands_.size())))].Run); },
+            [&] { Do(commands_[static_cast<std::size_t>(Below(int(commands_.size())))].Run); },
+            [&] { Do(PressHideLayer); },
+            [&] { Do(PressAddLayer); },
+            [&] { Do(CopyToClipboard); },
+            [&] { Do(PasteFromClipboard); },
+            [&] { Do(PasteFromClipboard); },
+            [&] {
+                recorder.Put(testing::FilledPicture(9, 7, 0x40FF0000), "another program");
+                Do(PasteFromClipboard);
+            },
+            [&] { Do(SelectLayer, Below(editor.Page().LayerCount() + 1)); },
+            [&] { SliderDrag(); },
+            [&] { View(); },
+            [&] { Do(ChangePageWidth, kPageSide - 10 + Below(20)); },
+            [&] { Do(SetPageBackground, graphics::Argb{Chance(50) ? 0 : 0xFF808080}); },
+            // Never to the very first state: a step from there would replace it.
+            [&] {
+                if (Steps() > 1)
+                    Do(Undo);
+            },
+            [&] { Do(Redo); },
+            [&] { Do(ExchangeColor); },
+            [&] { Do(UseColorWell, Below(2)); },
+            [&] { Do(ChooseFill, static_cast<FillKind>(Below(4))); },
+            [&] { Do(ChangeLineWidth, 1 + Below(Chance(20) ? 255 : 6)); },
+            [&] { Do(ChangeBrushSize, 1 + Below(100)); },
+            [&] { Do(ChangeBrushOpacity, 1 + Below(100)); },
+            [&] { Do(ChooseSelection, SelectionToolOf(1 + Below(3))); },
+            [&] { Do(ChooseEraser, EraserToolOf(1 + Below(2))); },
+            [&] { Fail(); },
+        };
+        actions[Below(std::size(actions))]();
+    }
+
+    // A command that fails when it is done.
+    void Fail() {
+        const std::string before = StackText(editor.Page());
+        const std::size_t chosen = static_cast<std::size_t>(Below(int(commands_.size())));
+        const bool wasDragging = IsDragging();
+        EXPECT_TRUE(editing::Run(editor, [&](Editor& e) {
+                        commands_[chosen].Run(e);
+                        throw Error("no");
+                    }).Failed());
+        EXPECT_TRUE(wasDragging || StackText(editor.Page()) == before) << commands_[chosen].Name;
+    }
+
+    void Step() {
+        const int kind = Below(10);
+        if (kind < 2)
+            Do(ClickToolButton, 1 + Below(12));
+        else if (kind < 6)
+            Gesture();
+        else if (kind < 7)
+            Do(KeyDownScene, Chance(90) ? static_cast<SceneKey>(Below(4)) : SceneKey::Delete);
+        else
+            Command();
+        while (editor.Page().LayerCount() > kMostLayers) {
+            Do(SelectLayer, Below(kMostLayers));
+            Do(DeleteLayer);
+        }
+    }
+
+    void CheckDocument() {
+        const document::Page& page = editor.Page();
+        ASSERT_GE(page.SelectedLayer, document::kNoLayer);
+        ASSERT_LT(page.SelectedLayer, std::max(page.LayerCount(), 1));
+        ASSERT_FALSE(IsDragging());
+        ASSERT_EQ(editor.Scene.Width(), editor.View.SceneWidth);
+    }
+
+    // The states are those of the document as it stands, whatever led to it.
+    void CheckStates() {
+        const document::Page& page = editor.Page();
+        ASSERT_TRUE(editor.States == StatesOf(editor, recorder.HasPicture()));
+        const bool visible = page.HasSelection() && page.Selected().Visible;
+        ASSERT_EQ(editor.States.IsEnabled(CommandId::SetOrder), visible && page.LayerCount() >= 2);
+        ASSERT_EQ(editor.States.IsEnabled(CommandId::MergeDown),
+                  visible && page.SelectedLayer >= 1);
+        ASSERT_EQ(editor.States.IsEnabled(CommandId::Redo), editor.History.RedoCount() > 0);
+        ASSERT_EQ(editor.Sliders.Opacity.Enabled, page.HasSelection());
+        ASSERT_TRUE(!page.HasSelection() ||
+                    editor.Sliders.Opacity.Value ==
+                        graphics::RoundToEven(page.Selected().Opacity * 100.0));
+    }
+
+    // What was composed step by step is what a composition from nothing gives.
+    void CheckPage() {
+        document::Compositor fresh;
+        graphics::Bitmap canvas;
+        document::Page page = editor.Page();
+        fresh.Compose(page, graphics::InterpolationMode::NearestNeighbor, canvas);
+        ASSERT_TRUE(testing::SamePixels(editor.Canvas, canvas));
+    }
+
+    const std::vector<NamedCommand> commands_ = LayerCommands();
+    std::mt19937 random_{GetParam()};
+};
+
+TEST_P(RandomUser, KeepsTheDocumentWhole) {
+    const std::string first = StackText(editor.Page());
+    Do(PressAddLayer);
+    for (int i = 0; i < kSteps; ++i) {
+        SCOPED_TRACE("step " + std::to_string(i));
+        Step();
+        CheckDocument();
+        CheckStates();
+        if (i % 20 == 0)
+            CheckPage();
+        if (HasFailure())
+            return;
+    }
+    const std::string last = StackText(editor.Page());
+    const int steps = Steps();
+    for (const auto command : {Undo, Redo}) {
+        for (int i = 0; i < steps; ++i) {
+            Do(command);
+            CheckStates();
+        }
+        EXPECT_EQ(StackText(editor.Page()), command == Undo ? first : last);
+    }
+    CheckPage();
+
+    rusage usage{};
+    getrusage(RUSAGE_SELF, &usage);
+    EXPECT_LT(usage.ru_maxrss / 1024, kMaxMebibytes);
+}
+
+INSTANTIATE_TEST_SUITE_P(Seeds, RandomUser, ::testing::Range(1U, 9U));
+
+}  // namespace
+}  // namespace orbelle::editing
