@@ -80,7 +80,7 @@ void ExportIcon(benchmark::State& state) {
     fs::create_directories(folder);
     const Bitmap page = MakeIconPicture(512);
     for (auto _ : state)
-        formats::ExportImage(folder / "icon.ico", formats::FileTypes::Ico, page, 0);
+        formats::ExportImage(folder / "icon.ico", formats::ExportFormat::Ico, page, 0);
     fs::remove_all(folder);
 }
 BENCHMARK(ExportIcon)->Unit(benchmark::kMillisecond);

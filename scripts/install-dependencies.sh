@@ -1,14 +1,24 @@
 #!/usr/bin/env bash
-# Installs the packages of Debian 12 that building, testing and running need and that are missing.
+# install-dependencies.sh programs|tests|ci: installs the packages of Debian 12 that are missing to
+# build the programs, to build and run the tests too, or for all that .ci/run does.
 set -euo pipefail
 
 packages=(
     g++ cmake ninja-build pkg-config
     qt6-base-dev qt6-svg-dev libagg-dev libpixman-1-dev libpng-dev libjpeg62-turbo-dev libgif-dev libhwy-dev libdeflate-dev
     libcli11-dev nlohmann-json3-dev
-    libgtest-dev libgmock-dev libbenchmark-dev xvfb xdotool
-    dpkg-dev file
 )
+case ${1:-} in
+    programs) ;;
+    tests | ci) packages+=(libgtest-dev libgmock-dev libbenchmark-dev xvfb xdotool) ;;
+    *)
+        echo "usage: install-dependencies.sh programs|tests|ci" >&2
+        exit 2
+        ;;
+esac
+if [[ $1 == ci ]]; then
+    packages+=(git python3 clang clang-format clang-tidy dpkg-dev file lintian)
+fi
 
 if ! command -v dpkg-query >/dev/null; then
     echo "No Debian package system here. Needed are what Debian calls: ${packages[*]}" >&2

@@ -25,7 +25,7 @@ std::string EncodedName(const QString& name) {
 std::filesystem::path AskForFile(QWidget* parent, const std::string& filter, bool isOpen) {
     static constexpr char kLastFolder[] = "LastFolder";
     Settings settings;
-    // One title for all uses, deliberately also for saving.
+    // One title for all uses, also for saving (docs/oddities.md, "Open File...").
     QFileDialog dialog(parent, "Open File...", settings.value(kLastFolder).toString());
     dialog.setAcceptMode(isOpen ? QFileDialog::AcceptOpen : QFileDialog::AcceptSave);
     dialog.setFileMode(isOpen ? QFileDialog::ExistingFile : QFileDialog::AnyFile);

@@ -16,12 +16,21 @@ void UndoHistory::CheckRoom(const Document& document) const {
                            " changes. Save the document and open it again to go on.");
 }
 
-void UndoHistory::TruncateRedo() {
-    if (dropped_.empty()) {
-        const auto ahead = slots_.begin() + place_.UndoIndex;
-        dropped_.assign(std::make_move_iterator(ahead), std::make_move_iterator(slots_.end()));
+// Slots from there on are empty then, and kept for RollBack unless they were filled since Settle.
+void UndoHistory::Forget(std::size_t from) {
+    if (from >= slots_.size())
+        return;
+    const std::size_t end = dropped_.empty() ? slots_.size() : droppedFrom_;
+    if (from < end) {
+        dropped_.insert(dropped_.begin(), std::make_move_iterator(slots_.begin() + from),
+                        std::make_move_iterator(slots_.begin() + end));
+        droppedFrom_ = from;
     }
-    slots_.resize(static_cast<std::size_t>(place_.UndoIndex));
+    slots_.resize(from);
+}
+
+void UndoHistory::TruncateRedo() {
+    Forget(static_cast<std::size_t>(place_.UndoIndex));
     place_.RedoCount = 0;
     place_.UndoCount = place_.UndoIndex;
 }
@@ -64,15 +73,19 @@ bool UndoHistory::Redo(Document& document) {
 }
 
 void UndoHistory::ClearHistory() {
-    *this = {};
+    Forget(0);
+    place_ = {};
 }
 
-void UndoHistory::RollBack(const Place& place) {
+void UndoHistory::RollBack(const Place& place) noexcept {
     // Nothing here takes memory: the slots had room for all of this before.
-    const int kept = place.UndoIndex + (dropped_.empty() ? place.RedoCount + 1 : 0);
-    slots_.resize(std::min(slots_.size(), static_cast<std::size_t>(kept)));
-    std::ranges::move(dropped_, std::back_inserter(slots_));
-    dropped_.clear();
+    if (!dropped_.empty()) {
+        slots_.resize(droppedFrom_);
+        std::ranges::move(dropped_, std::back_inserter(slots_));
+        dropped_.clear();
+    }
+    const auto kept = static_cast<std::size_t>(place.UndoIndex + place.RedoCount + 1);
+    slots_.resize(std::min(slots_.size(), kept));
     place_ = place;
 }
 

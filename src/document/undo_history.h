@@ -1,6 +1,7 @@
 // Undo and redo by snapshots of the whole document.
 #pragma once
 
+#include <cstddef>
 #include <vector>
 
 #include "document/document.h"
@@ -46,15 +47,15 @@ public:
     void ClearHistory();
 
     // For a command that fails halfway: `Place` is where the history stood before it, RollBack goes
-    // back there, steps ahead of the cursor included. Settle, once a command has ended well, lets
-    // go of what RollBack would need. ClearHistory can't be rolled back.
+    // back there, whatever was forgotten meanwhile included. Settle, once a command has ended, lets
+    // go of what RollBack would need.
     struct Place {
         int UndoIndex = 0;
         int RedoCount = 0;
         int UndoCount = 0;
     };
     Place Here() const { return place_; }
-    void RollBack(const Place& place);
+    void RollBack(const Place& place) noexcept;
     void Settle() { dropped_.clear(); }
 
 private:
@@ -63,9 +64,12 @@ private:
     };
 
     void Restore(Document& document, Snapshot& snapshot) const;
+    void Forget(std::size_t from);
 
     std::vector<Snapshot> slots_;
-    std::vector<Snapshot> dropped_;  // by TruncateRedo, since the last Settle
+    // Forgotten since the last Settle: what then stood in the slots from `droppedFrom_` on.
+    std::vector<Snapshot> dropped_;
+    std::size_t droppedFrom_ = 0;
     Place place_;
 };
 

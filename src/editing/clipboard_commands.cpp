@@ -29,14 +29,24 @@ Bitmap PictureOf(const document::Page& page, const IconLayer& layer) {
     return picture;
 }
 
-void Copy(Editor& editor) {
+struct Copied {
+    IconLayer Layer;
+    Bitmap Picture;  // for other programs
+};
+
+Copied Copy(const Editor& editor) {
     const bool isSelection = editor.Selection.Exists();
     IconLayer copy = isSelection ? CopyOfSelectedPixels(editor) : editor.Page().Selected();
     const Bitmap picture = isSelection ? copy.Image : PictureOf(editor.Page(), copy);
-    editor.Clipboard.Put(CopyBitmap(picture, graphics::RoundToEven(copy.Rect.Width),
-                                    graphics::RoundToEven(copy.Rect.Height)),
-                         kClipboardMark);
-    editor.ClipboardLayer = std::move(copy);
+    Bitmap shown = CopyBitmap(picture, graphics::RoundToEven(copy.Rect.Width),
+                              graphics::RoundToEven(copy.Rect.Height));
+    return {std::move(copy), std::move(shown)};
+}
+
+// The last that a command does, for it can't be taken back.
+void Put(Editor& editor, Copied copied) {
+    editor.Clipboard.Put(copied.Picture, kClipboardMark);
+    editor.ClipboardLayer = std::move(copied.Layer);
 }
 
 // What was copied, with a picture of the size that it has on the page.
@@ -87,16 +97,15 @@ std::optional<IconLayer> ClipboardContent(Editor& editor) {
 
 void CopyToClipboard(Editor& editor) {
     if (editor.Page().HasSelection())
-        Copy(editor);
+        Put(editor, Copy(editor));
 }
 
 void CutToClipboard(Editor& editor) {
     if (!editor.Page().HasSelection())
         return;
-    // A cut that the history refuses leaves the clipboard alone.
-    editor.History.CheckRoom(editor.Document);
-    Copy(editor);
+    Copied copied = Copy(editor);
     DeleteSelected(editor);
+    Put(editor, std::move(copied));
 }
 
 void DeleteSelected(Editor& editor) {

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cctype>
 #include <string>
+#include <utility>
 
 #include "document/layer_slots.h"
 #include "editing/layer_commands.h"
@@ -21,13 +22,14 @@ namespace fs = std::filesystem;
 
 namespace {
 
-void SetTitle(Editor& editor, const std::string& title) {
-    editor.Title = title;
+void SetTitle(Editor& editor, std::string title) {
+    editor.Title = std::move(title);
     editor.Changed.Title = true;
 }
 
-void ShowSavedTitle(Editor& editor) {
-    SetTitle(editor, editor.Document.Path.filename().string() + " - " + kProductName);
+// Of a document that has a file.
+std::string TitleOf(const fs::path& path) {
+    return path.filename().string() + " - " + kProductName;
 }
 
 // In lower case, without the point; a name without one is its own extension.
@@ -107,7 +109,7 @@ void OpenDocument(Editor& editor, const fs::path& path) {
     read.Path = path;
     editor.Document = std::move(read);
     editor.DocumentExists = true;
-    ShowSavedTitle(editor);
+    SetTitle(editor, TitleOf(editor.Document.Path));
     ResetView(editor);
     document::Page& page = editor.Page();
     if (page.LayerCount() >= 1) {
@@ -198,10 +200,13 @@ void ImportPicture(Editor& editor, const graphics::Bitmap& picture) {
 }
 
 void SaveTo(Editor& editor, const fs::path& path) {
+    fs::path saved = path;
+    std::string title = TitleOf(path);
     formats::SaveDocument(path, editor.Document);
-    editor.Document.Path = path;
+    // Nothing may fail any more: the old file is gone.
+    editor.Document.Path = std::move(saved);
     editor.Document.Modified = false;
-    ShowSavedTitle(editor);
+    SetTitle(editor, std::move(title));
 }
 
 }  // namespace orbelle::editing

@@ -39,7 +39,7 @@ struct ZoomState {
 };
 
 // What a command that fails leaves as it was; the undo history, too. A copy costs a pointer a
-// layer.
+// layer and the points of a stroke.
 struct EditorState {
     document::Document Document;
     // Set while a document exists; cleared while one is being opened.
@@ -48,8 +48,7 @@ struct EditorState {
 
     document::Selection Selection;
     std::vector<graphics::PointF> PolygonPoints;  // of an open polygon, page pixels
-    // What the last Copy took; it counts while the clipboard carries the product's mark.
-    std::optional<document::IconLayer> ClipboardLayer;
+    editing::Drag Drag;
 
     document::View View;
     ZoomState Zoom;
@@ -58,7 +57,6 @@ struct EditorState {
     editing::Overlays Overlays;
     formats::ExportSettings ExportSettings;
     graphics::PointF LastPointer;  // the last move on the scene, scene pixels
-    editing::Drag Drag;
 
     // The page that is being edited.
     document::Page& Page() { return Document.Current(); }
@@ -73,6 +71,9 @@ struct Editor : EditorState {
     editing::Clipboard& Clipboard;
 
     document::UndoHistory History;
+    // What the last Copy took; it counts while the clipboard carries the product's mark. The two
+    // belong together, and the clipboard is not taken back.
+    std::optional<document::IconLayer> ClipboardLayer;
     Changes Changed;  // by the command that runs
 
     // Kept by Run.

@@ -1,6 +1,8 @@
 #include "editing/run.h"
 
 #include <new>
+#include <optional>
+#include <type_traits>
 #include <utility>
 
 #include "document/scene_painter.h"
@@ -44,58 +46,79 @@ void PaintScene(Editor& editor) {
         DrawOpenPolygon(editor);
 }
 
+void ComposeAndPaint(Editor& editor) {
+    editor.Compositor.Compose(editor.Page(), graphics::InterpolationMode::NearestNeighbor,
+                              editor.Canvas);
+    PaintScene(editor);
+}
+
 void Show(Editor& editor) {
     if (editor.Changed.Pixels)
-        editor.Compositor.Compose(editor.Page(), graphics::InterpolationMode::NearestNeighbor,
-                                  editor.Canvas);
-    if (editor.Changed.Pixels || editor.Changed.Scene)
+        ComposeAndPaint(editor);
+    else if (editor.Changed.Scene)
         PaintScene(editor);
 }
 
-// What the observer is told of is found by comparing, so that no command can forget it.
-void NoteControls(Editor& editor, const EditorState& before) {
-    EnableSliders(editor);
-    const ControlStates states = StatesOf(editor, editor.Clipboard.HasPicture());
-    Changes& changed = editor.Changed;
-    changed.Controls |= states != editor.States || editor.Sliders != before.Sliders ||
-                        editor.Tools != before.Tools ||
-                        editor.DocumentExists != before.DocumentExists ||
-                        editor.Document.Background != before.Document.Background;
-    changed.Overlays |= editor.Overlays != before.Overlays;
-    editor.States = states;
+// What the window shows beside the page and the layers.
+struct ShownControls {
+    explicit ShownControls(const Editor& editor)
+        : Sliders(editor.Sliders),
+          Tools(editor.Tools),
+          DocumentExists(editor.DocumentExists),
+          Background(editor.Document.Background) {}
+    bool operator==(const ShownControls&) const = default;
+
+    editing::Sliders Sliders;
+    ToolSettings Tools;
+    bool DocumentExists;
+    graphics::Argb Background;
+};
+
+void RollBack(Editor& editor, std::optional<EditorState>& before,
+              const document::UndoHistory::Place& place) {
+    // There may be no memory left to do this with.
+    static_assert(std::is_nothrow_move_assignable_v<EditorState>);
+    if (before)
+        static_cast<EditorState&>(editor) = std::move(*before);
+    editor.History.RollBack(place);
+    editor.Changed = {};
+    editor.Changed.Pixels = editor.Changed.Stack = editor.Changed.Controls = true;
+    GiveUpDrag(editor);
 }
 
-Outcome Execute(Editor& editor, const Command& command, const EditorState& before) {
+Outcome Execute(Editor& editor, const Command& command) {
+    std::optional<EditorState> before;
     const document::UndoHistory::Place place = editor.History.Here();
+    const ShownControls controls(editor);
+    const Overlays overlays = editor.Overlays;
+    // A drag was given up, or there was no memory to paint in.
+    const bool unpainted = std::exchange(editor.Changed.Pixels, false);
     const Outcome outcome = Attempt([&] {
+        before = editor;
+        // The command may read the canvas.
+        if (unpainted)
+            ComposeAndPaint(editor);
         command(editor);
         Show(editor);
     });
     bool shown = true;
     if (outcome.Failed()) {
-        static_cast<EditorState&>(editor) = before;
-        editor.History.RollBack(place);
-        editor.Changed = {};
-        editor.Changed.Pixels = editor.Changed.Stack = editor.Changed.Controls = true;
-        GiveUpDrag(editor);
+        RollBack(editor, before, place);
         shown = !Attempt([&] { Show(editor); }).Failed();
     }
     editor.History.Settle();
-    NoteControls(editor, before);
+
+    // What the observer is told of is found by comparing, so that no command can forget it.
+    EnableSliders(editor);
+    const ControlStates states = StatesOf(editor, editor.Clipboard.HasPicture());
+    editor.Changed.Controls |= states != editor.States || ShownControls(editor) != controls;
+    editor.Changed.Overlays |= editor.Overlays != overlays;
+    editor.Changed.Pixels |= unpainted;
+    editor.States = states;
     editor.Observer.Changed(std::exchange(editor.Changed, {}));
     // Where memory does not suffice even for that, the next command paints it.
     editor.Changed.Pixels = !shown;
     return outcome;
-}
-
-Outcome Execute(Editor& editor, const Command& command) {
-    try {
-        const EditorState before = editor;
-        return Execute(editor, command, before);
-    } catch (const std::bad_alloc&) {
-        // There is no memory for the copy: nothing has begun.
-        return Outcome(std::current_exception());
-    }
 }
 
 }  // namespace

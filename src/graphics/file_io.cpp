@@ -29,6 +29,14 @@ using File = std::unique_ptr<std::FILE, CloseFile>;
     ThrowSystemError(path, static_cast<std::errc>(errno));
 }
 
+// That a file is missing is known, too. What can't be asked about must not be taken for missing.
+fs::file_status RequireKnown(const fs::file_status& status, const std::error_code& error,
+                             const fs::path& name) {
+    if (!fs::status_known(status))
+        throw FileError(name, error.message());
+    return status;
+}
+
 // `name` is the path that the user knows, for the message.
 File Open(const fs::path& path, const char* mode, const fs::path& name) {
     File file(std::fopen(path.string().c_str(), mode));
@@ -53,7 +61,8 @@ void WriteAndClose(File file, std::span<const std::uint8_t> bytes, const fs::pat
 fs::path FollowLinks(const fs::path& path) {
     fs::path target = path;
     std::error_code error;
-    for (int links = 0; fs::is_symlink(fs::symlink_status(target, error)); ++links) {
+    for (int links = 0;
+         fs::is_symlink(RequireKnown(fs::symlink_status(target, error), error, path)); ++links) {
         if (links == kMaxLinks)
             ThrowSystemError(path, std::errc::too_many_symbolic_link_levels);
         const fs::path next = fs::read_symlink(target, error);
@@ -86,7 +95,7 @@ struct TemporaryFile {
 
 std::vector<std::uint8_t> ReadFile(const fs::path& path) {
     std::error_code error;
-    const fs::file_status status = fs::status(path, error);
+    const fs::file_status status = RequireKnown(fs::status(path, error), error, path);
     if (fs::is_directory(status))
         ThrowSystemError(path, std::errc::is_a_directory);
     if (fs::exists(status) && !fs::is_regular_file(status))
@@ -110,7 +119,7 @@ std::vector<std::uint8_t> ReadFile(const fs::path& path) {
 void WriteFile(const fs::path& path, std::span<const std::uint8_t> bytes) {
     const fs::path target = FollowLinks(path);
     std::error_code error;
-    const fs::file_status status = fs::status(target, error);
+    const fs::file_status status = RequireKnown(fs::status(target, error), error, path);
     if (fs::exists(status)) {
         // Taking a file's name needs no right to write to the file itself; ask for it all the same.
         File existing = Open(target, "r+b", path);

@@ -145,7 +145,7 @@ private:
 
 TEST(Compositor, WhatItRemembersNeverShows) {
     for (unsigned seed = 1; seed <= 30; ++seed) {
-        const auto interpolation = seed % 3 ? kNearest : InterpolationMode::HighQualityBilinear;
+        const auto interpolation = seed % 3 ? kNearest : InterpolationMode::HighQuality;
         RandomEdits edits(seed);
         Page page = PageOf(24, 20);
         Compositor compositor;

@@ -1,39 +1,39 @@
-#include "editing/layer_commands.h"
-#include "editing/stack_commands.h"
-#include "editing/tools/object_keys.h"
-#include "gestures.h"
+// What a hand on the scene shows before anything is done: previews, frames, marks; and when a drag
+// is given up.
+#include "editing/scene_input.h"
+
+#include "editing/adjust_sliders.h"
+#include "editing/layer_bar.h"
+#include "editing/tips.h"
+#include "editing/undo_commands.h"
+#include "editing/view_commands.h"
+#include "editing_fixture.h"
 
 namespace orbelle::editing {
 namespace {
 
+using document::FrameShape;
 using graphics::PointF;
 using graphics::RectF;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
-class SceneInput : public GestureTest {};
+// At zoom 1 the page of 40 x 30 lies at (80, 60) of the scene.
+class SceneInput : public EditingTest {
+protected:
+    SceneInput() { OpenPage(40, 30); }
 
-TEST_F(SceneInput, APressWithoutLayersOnlyClosesTheFillPopup) {
-    OpenPage(40, 30);
-    editor.Document.Layers.clear();
-    editor.Document.SelectedLayer = document::kNoLayer;
-    editor.TipCounter = 7;
-    for (int tool = 0; tool <= 12; ++tool) {
-        SCOPED_TRACE(tool);
-        editor.CurrentTool = static_cast<Tool>(tool);
-        editor.Controls.FillBarVisible = true;
-        Press(OnScene(90, 70));
-        EXPECT_FALSE(editor.Controls.FillBarVisible);
-        EXPECT_FALSE(editor.DragActive);
-        EXPECT_EQ(editor.TipCounter, 7);
-        EXPECT_EQ(editor.MouseDownX, 90);
-        ReleaseScene(editor, OnScene(90, 70));
+    void Use(Tool tool) { editor.Tools.InUse = tool; }
+
+    // A white page under a black of alpha 100.
+    bool IsDimmed(int x, int y) {
+        const graphics::Argb pixel = *editor.Scene.GetPixel(80 + x, 60 + y);
+        EXPECT_TRUE(pixel == 0xFFFFFFFF || pixel == 0xFF9B9B9B) << std::hex << pixel;
+        return pixel == 0xFF9B9B9B;
     }
-    EXPECT_EQ(editor.History.UndoIndex(), 0);
-    EXPECT_THAT(editor.PolygonPoints, IsEmpty());
-}
+};
 
-// What a press and a drag begin, and whether the release closes the tips.
+// What a press and a drag begin, and what becomes of the tips.
 TEST_F(SceneInput, StepsOfEachTool) {
     const struct {
         Tool Chosen;
@@ -59,43 +59,228 @@ TEST_F(SceneInput, StepsOfEachTool) {
         SCOPED_TRACE(static_cast<int>(c.Chosen));
         OpenPage(40, 30);
         PutOnlyLayer(testing::FilledPicture(40, 30, kBlue), 0, 0);
-        editor.CurrentTool = c.Chosen;
-        editor.TipCounter = 0;
-        PressAt(5, 5);
-        EXPECT_EQ(editor.DragActive, c.Drags);
-        EXPECT_EQ(editor.TipCounter, 500);
-        EXPECT_EQ(editor.History.UndoIndex(), c.StepsAtPress);
-        EXPECT_TRUE(editor.Controls.Opacity.Enabled);
-        MoveTo(9, 8);
-        ReleaseAt(9, 8);
-        EXPECT_FALSE(editor.DragActive);
-        EXPECT_EQ(editor.History.UndoIndex(), c.StepsAtRelease);
-        EXPECT_EQ(host.HiddenTips, c.HidesTips ? 1 : 0);
+        Use(c.Chosen);
+        Press(OnPage(5, 5));
+        EXPECT_EQ(IsDragging(), c.Drags);
+        EXPECT_TRUE(recorder.Last.ExpireTips);
+        EXPECT_EQ(Steps(), c.StepsAtPress);
+        Move(OnPage(9, 8));
+        EXPECT_FALSE(recorder.Last.ExpireTips);
+        Release(OnPage(9, 8));
+        EXPECT_FALSE(IsDragging());
+        EXPECT_EQ(Steps(), c.StepsAtRelease);
+        EXPECT_EQ(recorder.Last.HideTips, c.HidesTips);
+        EXPECT_EQ(recorder.Last.Stack, c.StepsAtRelease > 0 && c.Chosen != Tool::Move);
 
-        const int steps = editor.History.UndoIndex();
         editor.Selection.Clear();
-        editor.Document.SelectedLayer = document::kNoLayer;
-        PressAt(20, 20);
-        EXPECT_EQ(editor.DragActive, c.DragsWithoutLayer);
-        EXPECT_EQ(editor.TipCounter, 500);
-        EXPECT_EQ(editor.History.UndoIndex(), steps);
-        EXPECT_EQ(editor.Controls.Scale.Enabled, c.Chosen == Tool::Move);
-        ReleaseAt(20, 20);
+        SelectNone();
+        Press(OnPage(20, 20));
+        EXPECT_EQ(IsDragging(), c.DragsWithoutLayer);
+        EXPECT_TRUE(recorder.Last.ExpireTips);
+        EXPECT_EQ(Steps(), c.StepsAtRelease);
+        EXPECT_EQ(editor.Page().HasSelection(), c.Chosen == Tool::Move);
+        Release(OnPage(20, 20));
+
+        editor.Page() = {{}, document::kNoLayer, 40, 30};
+        editor.PolygonPoints.clear();
+        editor.Tools.OpenPopup = Popup::FillBar;
+        Press(OnPage(20, 20));
+        EXPECT_EQ(editor.Tools.OpenPopup, Popup::None);
+        EXPECT_FALSE(IsDragging());
+        EXPECT_FALSE(recorder.Last.ExpireTips);
+        EXPECT_THAT(editor.PolygonPoints, IsEmpty());
     }
 }
 
-TEST_F(SceneInput, AnotherButtonOpensTheMenuAndLeavesTheDragAlone) {
-    OpenPage(40, 30);
-    PutOnlyLayer(testing::FilledPicture(4, 4, kBlue), 10, 10);
-    DragWithoutRelease({{11, 11}, {15, 12}});
-    editor.TipCounter = 0;
-    Press(OnScene(100, 75, kRightButton));
-    EXPECT_THAT(host.LayerMenus, ElementsAre(PointF{100, 75}));
-    EXPECT_EQ(editor.TipCounter, 500);
-    EXPECT_TRUE(editor.DragActive);
-    ReleaseScene(editor, OnScene(101, 75, kRightButton));
-    EXPECT_FALSE(editor.DragActive);
-    EXPECT_EQ(editor.History.UndoIndex(), 1);
+TEST_F(SceneInput, StrokesAreShownHardEdgedFirst) {
+    const struct {
+        Tool Chosen;
+        int LineWidth;
+        std::vector<PointF> Points;
+        const char* Preview;
+    } cases[] = {
+        {Tool::Line, 1, {{10, 5}, {14, 7}}, "5: 10; 6: 11-12; 7: 13-14"},
+        {Tool::Line, 2, {{2, 4}, {8, 4}}, "3-4: 2-7"},
+        {Tool::Line, 1, {{5, 5}, {5.2F, 5}}, ""},
+        {Tool::FilledEllipse, 1, {{2, 2}, {4, 4}}, "2: 2-4; 3: 1-4; 4: 2-4"},
+        {Tool::FilledRectangle, 1, {{10, 5}, {20, 20}, {13, 7}}, "4-7: 9-13"},
+        {Tool::Rectangle, 1, {{10, 5}, {13, 7}}, "4: 9-13; 5-6: 9 13; 7: 9-13"},
+        {Tool::Pencil, 1, {{1, 1}, {2, 2}, {8, 2}, {8, 4}}, "2: 2-8; 3-4: 8"},
+        {Tool::Pencil, 1, {{5, 5}, {5.2F, 5.2F}}, ""},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.Preview);
+        OpenPage(40, 30);
+        Use(c.Chosen);
+        editor.Sliders.LineWidth.Value = c.LineWidth;
+        DragWithoutRelease(c.Points);
+        EXPECT_EQ(Drawn(), c.Preview);
+        for (int i = 0; i < 40 * 30; ++i)
+            EXPECT_TRUE(Layer(0).Image.Pixels()[i] == 0 || Layer(0).Image.Pixels()[i] == kBlue);
+        EXPECT_EQ(PixelRuns(editor.Canvas), c.Preview);
+        EXPECT_EQ(Steps(), 0);
+        EXPECT_FALSE(recorder.Last.Stack);
+        Do(CancelInput);  // as any command
+        EXPECT_EQ(Drawn(), "");
+    }
+    Use(Tool::FilledRectangle);
+    DragWithoutRelease({{10, 5}, {13, 7}});
+    EXPECT_EQ(Drawn(), "4-7: 9-13");
+    Release(OnPage(13, 7, kShift));  // Shift is read anew
+    EXPECT_EQ(Drawn(), "4-8: 9-13");
+}
+
+// The layer stays on whole page pixels, with halves to the even one.
+TEST_F(SceneInput, LayersMoveByScenePixelsOverZoom) {
+    const struct {
+        double Zoom;
+        float Start, Dragged, Expected;
+    } cases[] = {
+        {0.2, 0, 1, 5}, {0.2, 3, -2, -7}, {1, 4, 2.5F, 6}, {1, 5, 2.5F, 8}, {20, 0, 9, 0},
+        {20, 0, 10, 0}, {20, 0, 11, 1},   {20, 1, 10, 2},  {20, 3, -10, 2}, {20, 4, -10, 4},
+        {20, 0, 29, 1}, {20, 0, 30, 2},   {3, 2, 100, 35},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(::testing::Message() << c.Zoom << ": " << c.Start << " by " << c.Dragged);
+        OpenPage(40, 30, c.Zoom);
+        PutOnlyLayer(testing::FilledPicture(30, 25, kBlue), c.Start, c.Start);
+        Pointer pointer = OnPage(15, 15);
+        Press(pointer);
+        pointer.X += c.Dragged;
+        Move(pointer);
+        EXPECT_EQ(Layer(0).Rect, (RectF{c.Expected, c.Start, 30, 25}));
+        pointer.Y += c.Dragged;
+        Move(pointer);
+        EXPECT_EQ(Layer(0).Rect, (RectF{c.Expected, c.Expected, 30, 25}));
+        EXPECT_EQ(Layer(0).Region.Bounds().X, c.Start - 1);  // until the release
+    }
+}
+
+TEST_F(SceneInput, BrushStampsLieMoreThanTwentyScenePixelsApart) {
+    Use(Tool::BrushEraser);
+    editor.Sliders.BrushSize.Value = 1;
+    editor.Sliders.BrushOpacity.Value = 100;
+    for (const auto& [dx, stamps] : {std::pair{20.0F, false}, {20.25F, true}}) {
+        PutOnlyLayer(testing::FilledPicture(40, 30, kBlue), 0, 0);
+        Press(OnPage(5, 15));
+        Pointer moved = OnPage(5, 15);
+        moved.X += dx;
+        Move(moved);
+        EXPECT_EQ(graphics::AlphaOf(*Layer(0).Image.GetPixel(25, 15)), stamps ? 5U : 255U) << dx;
+    }
+}
+
+TEST_F(SceneInput, FramesOfASelection) {
+    const struct {
+        PointF From, To;
+        RectF Frame;  // on the scene
+    } cases[] = {
+        {{5, 4}, {9, 8}, {85, 64, 5, 5}},    {{9, 8}, {5, 4}, {86, 65, 3, 3}},
+        {{5, 8}, {9, 4}, {85, 65, 5, 3}},    {{9, 4}, {5, 8}, {86, 64, 3, 5}},
+        {{5, 4}, {-9, 4}, {81, 64, 4, 1}},   {{-9, -9}, {2, 1}, {80, 60, 3, 2}},
+        {{70, 4}, {30, 5}, {111, 64, 9, 2}},
+    };
+    for (const auto& c : cases) {
+        for (const Tool tool : {Tool::SelectRectangle, Tool::SelectEllipse}) {
+            Use(tool);
+            editor.Tools.OpenPopup = Popup::SelectionBar;
+            DragWithoutRelease({c.From, c.To});
+            EXPECT_EQ(editor.Tools.OpenPopup, Popup::None);
+            EXPECT_EQ(editor.Overlays.SelectionFrame,
+                      (OverlayShape{true, tool == Tool::SelectEllipse, c.Frame}));
+            EXPECT_FALSE(editor.Selection.Exists());
+            Release(OnPage(c.To.X, c.To.Y));
+            EXPECT_TRUE(editor.Selection.Exists());
+            EXPECT_EQ(editor.Overlays.SelectionFrame, OverlayShape());
+            EXPECT_TRUE(recorder.Last.Scene && recorder.Last.Overlays);
+        }
+    }
+    Use(Tool::SelectRectangle);
+    Drag({{1, 1}, {2, 2}}, {1, 3});  // two keys are not Shift
+    EXPECT_EQ(PixelRuns(editor.Selection.Region().Rects()), "1-2: 1-2");
+    SetZoom(4);  // the page lies at (20, 15)
+    Press(OnScene(20 + 6, 15 + 5));
+    Move(OnScene(20 + 13, 15 + 10));
+    EXPECT_EQ(editor.Overlays.SelectionFrame.Rect, (RectF{24, 19, 12, 8}));
+}
+
+// Below the page a press begins as far from its top as the page is wide.
+TEST_F(SceneInput, APressBesideThePageBeginsOnItsEdge) {
+    const struct {
+        PointF Press, Expected;  // on the scene
+    } cases[] = {{{70, 70}, {80, 70}},    {{130, 70}, {120, 70}},  {{100, 50}, {100, 60}},
+                 {{100, 95}, {100, 100}}, {{100, 90}, {100, 100}}, {{100, 89}, {100, 89}}};
+    for (const auto& c : cases) {
+        Use(Tool::SelectRectangle);
+        Press(OnScene(c.Press.X, c.Press.Y));
+        EXPECT_EQ(std::get<FrameSelectionDrag>(editor.Drag).Press, c.Expected);
+        Do(CancelInput);
+        Use(Tool::SelectPolygon);
+        Press(OnScene(c.Press.X, c.Press.Y));
+        EXPECT_EQ(std::get<PolygonSelectionDrag>(editor.Drag).Press, c.Expected);
+        Do(CancelInput);
+    }
+}
+
+TEST_F(SceneInput, AllOfThePageButTheSelectionIsDimmed) {
+    editor.Document.Background = 0xFFFFFFFF;
+    Use(Tool::SelectRectangle);
+    Drag({{5, 4}, {9, 8}});
+    for (const auto& [x, y, dimmed] :
+         {std::tuple{5, 4, false}, {9, 8, false}, {4, 4, true}, {5, 3, true}, {10, 8, true},
+          {9, 9, true}, {39, 29, true}})
+        EXPECT_EQ(IsDimmed(x, y), dimmed) << x << ", " << y;
+    for (void (*button)(Editor&) : {PressRemoveLayer, PressHideLayer, PressMergeDown}) {
+        editor.Selection.AddFrame(2, 2, 0, 0, FrameShape::Rectangle);
+        SelectNone();
+        EXPECT_TRUE(IsDimmed(20, 20));
+        Do(button);  // ends the selection and shows that, though there is nothing else to do
+        EXPECT_FALSE(editor.Selection.Exists());
+        EXPECT_FALSE(IsDimmed(20, 20));
+    }
+}
+
+TEST_F(SceneInput, AnOpenPolygonHasARubberBandAndAnOutline) {
+    editor.Document.Background = 0xFFFFFFFF;
+    editor.Selection.AddFrame(4, 4, 0, 0, FrameShape::Rectangle);
+    Use(Tool::SelectPolygon);
+    editor.Overlays.SelectionFrame.Visible = true;
+    Move(OnPage(3, 3));
+    EXPECT_FALSE(editor.Overlays.RubberBand.Visible);
+    Click(5, 5, kShift);
+    EXPECT_FALSE(editor.Overlays.SelectionFrame.Visible);
+    Move(OnPage(9, 7));
+    EXPECT_EQ(editor.Overlays.RubberBand, (OverlayLine{true, {85, 65}, {89.5F, 67.5F}}));
+    Click(15, 5, kShift);
+    Click(15, 12, kShift);
+    EXPECT_THAT(editor.PolygonPoints, ElementsAre(PointF{5, 5}, PointF{15, 5}, PointF{15, 12}));
+    EXPECT_EQ(editor.Scene.GetPixel(90, 65), 0xFF000000);
+    EXPECT_EQ(editor.Scene.GetPixel(95, 70), 0xFF000000);
+    EXPECT_FALSE(IsDimmed(30, 20));
+    Press(OnPage(30, 20, {2, 1}));
+    EXPECT_FALSE(recorder.Last.LayerMenu);
+    EXPECT_THAT(editor.PolygonPoints, IsEmpty());
+    EXPECT_FALSE(editor.Overlays.RubberBand.Visible);
+    EXPECT_TRUE(IsDimmed(30, 20));
+    EXPECT_FALSE(IsDimmed(10, 5));
+    EXPECT_FALSE(IsDimmed(2, 2));
+
+    Click(5, 5, kShift);
+    Do(CancelInput);
+    EXPECT_THAT(editor.PolygonPoints, IsEmpty());
+    EXPECT_TRUE(IsDimmed(30, 20));
+}
+
+// Each point of a drag is the upper left corner of the box between press and pointer.
+TEST_F(SceneInput, APolygonDragAddsPointsToTheLeftAndUpOnly) {
+    Use(Tool::SelectPolygon);
+    Drag({{20, 20}, {25, 25}, {10, 12}, {10, 12}, {30, 15}});
+    EXPECT_THAT(editor.PolygonPoints,
+                ElementsAre(PointF{20, 20}, PointF{20, 20}, PointF{10, 12}, PointF{10, 12},
+                            PointF{20, 15}));
+    Drag({{60, 20}, {-9, 22}});  // brought onto the page
+    EXPECT_EQ(editor.PolygonPoints[5], (PointF{40, 20}));
+    EXPECT_EQ(editor.PolygonPoints[6], (PointF{0, 20}));
 }
 
 // The page of odd width lies half a pixel off: at 79.5 of the scene, which a press takes for 80,
@@ -107,27 +292,14 @@ TEST_F(SceneInput, APressTakesThePageForWholeScenePixels) {
         bool PressErases, MoveErases;
     } cases[] = {{41, 79.75F, false, true}, {43, 78.25F, true, false}};
     for (const auto& c : cases) {
-        SCOPED_TRACE(c.PageWidth);
         OpenPage(c.PageWidth, 30);
         PutOnlyLayer(testing::FilledPicture(c.PageWidth, 30, kBlue), 0, 0);
-        editor.CurrentTool = Tool::PencilEraser;
+        Use(Tool::PencilEraser);
         Press(OnScene(c.X, 60.5F));
-        MoveScene(editor, OnScene(c.X, 61.5F));
-        EXPECT_EQ(Alpha(0, 0), c.PressErases ? 0 : 255);
-        EXPECT_EQ(Alpha(0, 1), c.MoveErases ? 0 : 255);
-        ReleaseScene(editor, OnScene(c.X, 61.5F));
+        Move(OnScene(c.X, 61.5F));
+        EXPECT_EQ(*Layer(0).Image.GetPixel(0, 0) == kBlue, !c.PressErases) << c.X;
+        EXPECT_EQ(*Layer(0).Image.GetPixel(0, 1) == kBlue, !c.MoveErases) << c.X;
     }
-}
-
-TEST_F(SceneInput, RepeatedMovesAreDroppedButForThePolygon) {
-    OpenPage(40, 30);
-    editor.CurrentTool = Tool::Pencil;
-    DragWithoutRelease({{2, 2}, {5, 2}, {5, 2}, {6, 2}});
-    EXPECT_EQ(editor.PencilPoints.size(), 2U);
-    ReleaseAt(6, 2);
-    editor.CurrentTool = Tool::SelectPolygon;
-    DragWithoutRelease({{2, 2}, {5, 2}, {5, 2}});
-    EXPECT_EQ(editor.PolygonPoints.size(), 3U);
 }
 
 TEST_F(SceneInput, TheMarkerSnapsToThePagePixelOrShowsTheBrush) {
@@ -147,107 +319,123 @@ TEST_F(SceneInput, TheMarkerSnapsToThePagePixelOrShowsTheBrush) {
         {Tool::BrushEraser, 7, 0.5, {95.3F, 70}, {93, 68, 3.5F, 3.5F}},  // 3.5 rounds to 4
         {Tool::BrushEraser, 3, 10, {47, 40}, {25, 20, 30, 30}},
     };
-    OpenPage(40, 30);
     for (const auto& c : cases) {
-        SCOPED_TRACE(::testing::Message() << c.Zoom << " " << c.BrushSize);
         SetZoom(c.Zoom);
-        editor.CurrentTool = c.Chosen;
-        editor.Controls.BrushSize.Value = c.BrushSize;
-        MoveScene(editor, OnScene(c.At.X, c.At.Y));
-        EXPECT_TRUE(editor.Overlays.PointerMark.Visible);
-        EXPECT_EQ(editor.Overlays.PointerMark.IsOval, c.Chosen == Tool::BrushEraser);
-        EXPECT_EQ(editor.Overlays.PointerMark.Rect, c.Expected);
+        Use(c.Chosen);
+        editor.Sliders.BrushSize.Value = c.BrushSize;
+        Move(OnScene(c.At.X, c.At.Y));
+        EXPECT_EQ(editor.Overlays.PointerMark,
+                  (OverlayShape{true, c.Chosen == Tool::BrushEraser, c.Expected}))
+            << c.Zoom << " " << c.BrushSize;
     }
-    editor.CurrentTool = Tool::Move;
-    MoveScene(editor, OnScene(1, 1));
+    Use(Tool::Move);
+    Move(OnScene(1, 1));
     EXPECT_EQ(editor.Overlays.PointerMark.Rect, (RectF{25, 20, 30, 30}));
+    Do(LeaveScene);
+    EXPECT_FALSE(editor.Overlays.PointerMark.Visible);
+}
+
+TEST_F(SceneInput, AnotherButtonOpensTheMenuAndAnyEndsADrag) {
+    PutOnlyLayer(testing::FilledPicture(4, 4, kBlue), 10, 10);
+    DragWithoutRelease({{11, 11}, {15, 12}});
+    Step(PressScene, OnScene(100, 75, kRightButton));
+    EXPECT_EQ(recorder.Last.LayerMenu, (PointF{100, 75}));
+    EXPECT_TRUE(recorder.Last.ExpireTips);
+    EXPECT_TRUE(IsDragging());
+    Release(OnScene(101, 75, kRightButton));
+    EXPECT_FALSE(IsDragging());
+    EXPECT_EQ(Steps(), 1);
 }
 
 TEST_F(SceneInput, AReleaseWithoutADragComposes) {
-    OpenPage(40, 30);
-    editor.CurrentTool = Tool::BrushEraser;
     Layer(0).Image = testing::FilledPicture(40, 30, kBlue);
-    ReleaseAt(1, 1);
+    Release(OnPage(1, 1));
     EXPECT_EQ(editor.Canvas.GetPixel(3, 3), kBlue);
-    EXPECT_EQ(host.HiddenTips, 0);
-    editor.Document.SelectedLayer = document::kNoLayer;
-    ReleaseAt(1, 1);
-    EXPECT_EQ(host.HiddenTips, 1);
+    EXPECT_FALSE(recorder.Last.HideTips);
+    SelectNone();
+    Release(OnPage(1, 1));
+    EXPECT_TRUE(recorder.Last.HideTips);
 }
 
-TEST_F(SceneInput, ArrowsMoveTheLayerByOnePagePixelAndAnUndoStep) {
-    const struct {
-        int Key;
-        float Dx, Dy;
-    } cases[] = {{37, -1, 0}, {38, 0, -1}, {39, 1, 0}, {40, 0, 1}};
-    OpenPage(40, 30, 20);
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.Key);
-        OpenPage(40, 30, 20);
-        PutOnlyLayer(testing::FilledPicture(4, 4, kBlue), 0, 0);
-        KeyDownScene(editor, c.Key);
-        KeyDownScene(editor, c.Key);
-        EXPECT_EQ(Layer(0).Rect, (RectF{2 * c.Dx, 2 * c.Dy, 4, 4}));
-        EXPECT_EQ(Layer(0).Region.Bounds(), (RectF{2 * c.Dx - 1, 2 * c.Dy, 4, 4}));
-        EXPECT_EQ(editor.History.UndoIndex(), 2);
-        Undo(editor);
-        EXPECT_EQ(Layer(0).Rect, (RectF{c.Dx, c.Dy, 4, 4}));
+TEST_F(SceneInput, KeysWithoutASelectedLayerGiveATip) {
+    SelectNone();
+    for (const SceneKey key : {SceneKey::Left, SceneKey::Delete}) {
+        Do(KeyDownScene, key);
+        EXPECT_EQ(recorder.LastTip(), tips::NothingToMove);
     }
-}
-
-TEST_F(SceneInput, OtherKeysAndKeysWithoutASelectedLayer) {
-    OpenPage(40, 30);
-    ASSERT_FALSE(editor.Document.Modified);
-    editor.Document.SelectedLayer = document::kNoLayer;
-    KeyDownScene(editor, key_codes::Delete);
-    EXPECT_THAT(host.Tips, ElementsAre(15));
     EXPECT_FALSE(editor.Document.Modified);
-    EXPECT_EQ(editor.Document.LayerCount(), 1);
-
-    editor.Document.SelectedLayer = 0;
-    KeyDownScene(editor, 65);
-    EXPECT_TRUE(editor.Document.Modified);
-    EXPECT_EQ(editor.History.UndoIndex(), 0);
-    PutLayer(testing::FilledPicture(4, 4, kBlue), 0, 0);
-    KeyDownScene(editor, key_codes::Delete);
-    EXPECT_EQ(editor.Document.LayerCount(), 1);
-    EXPECT_EQ(editor.Canvas.GetPixel(2, 2), 0U);
-    EXPECT_THAT(host.Tips, ElementsAre(15));
-}
-
-TEST_F(SceneInput, APressAfterALostReleaseTakesTheOldStrokeBack) {
-    OpenPage(40, 30);
-    editor.CurrentTool = Tool::FilledRectangle;
-    DragWithoutRelease({{10, 5}, {20, 20}});
-    Click(3, 3);
-    EXPECT_EQ(Drawn(), "2-3: 2-3");
-    EXPECT_EQ(editor.History.UndoIndex(), 1);
 }
 
 TEST_F(SceneInput, ACommandInMidDragGivesTheDragUp) {
-    OpenPage(40, 30);
     PutOnlyLayer(testing::FilledPicture(4, 4, kBlue), 10, 10);
     DragWithoutRelease({{11, 11}, {20, 20}});
-    HideLayerCommand(editor);
-    EXPECT_FALSE(editor.DragActive);
+    EXPECT_EQ(editor.Canvas.GetPixel(20, 20), kBlue);
+    Step(ZoomIn);  // may come in between
+    EXPECT_EQ(Layer(0).Rect.X, 19);
+    Do([](Editor&) {});
+    EXPECT_FALSE(IsDragging());
     EXPECT_EQ(Layer(0).Rect, (RectF{10, 10, 4, 4}));
-    MoveTo(25, 25);
-    ReleaseAt(25, 25);
+    EXPECT_EQ(editor.Canvas.GetPixel(10, 10), kBlue);
+    Move(OnPage(25, 25));
+    Release(OnPage(25, 25));
     EXPECT_EQ(Layer(0).Rect, (RectF{10, 10, 4, 4}));
-    EXPECT_EQ(editor.History.UndoIndex(), 0);
+    EXPECT_EQ(Steps(), 0);
 
     OpenPage(40, 30);
-    editor.CurrentTool = Tool::Pencil;
+    Use(Tool::Pencil);
     DragWithoutRelease({{2, 2}, {5, 2}, {9, 2}});
     EXPECT_EQ(Drawn(), "2: 5-9");
-    AddLayerCommand(editor);
+    Do(PressAddLayer);
     EXPECT_EQ(Drawn(), "");
-    ReleaseAt(9, 2);
-    EXPECT_EQ(editor.History.UndoIndex(), 1);
-    EXPECT_THAT(editor.PencilPoints, IsEmpty());
-    EXPECT_TRUE(editor.StrokeBackup.IsEmpty());
-    Undo(editor);
+    Release(OnPage(9, 2));
+    EXPECT_EQ(Steps(), 1);
+    Do(Undo);
     EXPECT_EQ(Drawn(), "");
+    Drag({{20, 20}, {21, 20}, {25, 20}});  // begins anew
+    EXPECT_EQ(Drawn(), "20: 21-25");
+
+    // A press after a release that got lost.
+    OpenPage(40, 30);
+    Use(Tool::FilledRectangle);
+    DragWithoutRelease({{10, 5}, {20, 20}});
+    Click(3, 3);
+    EXPECT_EQ(Drawn(), "2-3: 2-3");
+    EXPECT_EQ(Steps(), 1);
+
+    Use(Tool::SelectRectangle);
+    DragWithoutRelease({{10, 5}, {20, 20}});
+    Do([](Editor&) {});
+    EXPECT_EQ(editor.Overlays.SelectionFrame, OverlayShape());
+}
+
+TEST_F(SceneInput, AStepThatFailsGivesTheDragUp) {
+    PutOnlyLayer(testing::FilledPicture(4, 4, kBlue), 10, 10);
+    const auto fail = [this](const Command& first) {
+        const Outcome outcome = RunDuringDrag(editor, [&](Editor& e) {
+            first(e);
+            throw Error("no");
+        });
+        EXPECT_EQ(outcome.Problem(), "no");
+        EXPECT_FALSE(IsDragging());
+    };
+    DragWithoutRelease({{11, 11}, {20, 20}});
+    fail([&](Editor& e) { MoveScene(e, OnPage(21, 21)); });
+    EXPECT_EQ(Layer(0).Rect, (RectF{10, 10, 4, 4}));
+    EXPECT_EQ(Layer(0).Region.Bounds().X, 9);
+    EXPECT_EQ(editor.Canvas.GetPixel(10, 10), kBlue);
+    Use(Tool::FilledRectangle);
+    const graphics::Bitmap before = Layer(0).Image;
+    DragWithoutRelease({{10, 10}, {12, 12}});
+    fail([&](Editor& e) { MoveScene(e, OnPage(13, 13)); });
+    EXPECT_TRUE(Layer(0).Image.SharesPixelsWith(before));
+    EXPECT_EQ(Steps(), 0);
+    // The undo step of a slider was taken at the press.
+    Do(PressOpacity);
+    Step(ChangeOpacity, 30);
+    fail([](Editor& e) { ChangeOpacity(e, 20); });
+    Step(ChangeOpacity, 10);
+    EXPECT_EQ(Layer(0).Opacity, 0.3F);
+    EXPECT_EQ(Steps(), 1);
 }
 
 }  // namespace

@@ -1,8 +1,6 @@
 #include "editing/tip_texts.h"
 
 #include "editing/tips.h"
-#include "editing/tool_palette.h"
-#include "editing/view_commands.h"
 #include "editing_fixture.h"
 
 namespace orbelle::editing {
@@ -14,7 +12,7 @@ using ::testing::StartsWith;
 class TipTexts : public EditingTest {
 protected:
     TipChoice After(Tool tool) {
-        editor.CurrentTool = tool;
+        editor.Tools.InUse = tool;
         return ChooseTips(editor, tips::OtherTool, false, 1);
     }
 };
@@ -53,7 +51,7 @@ TEST_F(TipTexts, FixedTipsTouchOnlyTheFirstBalloon) {
 
 TEST_F(TipTexts, TheMoveToolPicksOneOfTwoAndNeedsALayer) {
     EXPECT_FALSE(ChooseTips(editor, tips::MoveTool, false, 1).FirstVisible);
-    NewPage(8, 8);
+    Do(NewDocument, 8, 8);
     const TipChoice first = ChooseTips(editor, tips::MoveTool, false, 1);
     EXPECT_TRUE(first.FirstVisible);
     EXPECT_THAT(first.FirstBalloon->Text, StartsWith("Click right-click"));
@@ -67,7 +65,7 @@ TEST_F(TipTexts, TheMoveToolPicksOneOfTwoAndNeedsALayer) {
 
 TEST_F(TipTexts, ToolsHaveTwoBalloons) {
     EXPECT_FALSE(After(Tool::Line).FirstVisible);
-    NewPage(8, 8);
+    Do(NewDocument, 8, 8);
     EXPECT_THAT(After(Tool::FilledEllipse).FirstBalloon->Text, HasSubstr("draw a circle."));
     EXPECT_EQ(After(Tool::Rectangle).SecondBalloon->Text,
               "Set the rectangle color, width and opacity. Double-click to set background "
@@ -82,20 +80,6 @@ TEST_F(TipTexts, ToolsHaveTwoBalloons) {
         EXPECT_FALSE(After(tool).SecondBalloon);
         EXPECT_EQ(After(tool).SecondVisible, true);
     }
-}
-
-TEST_F(TipTexts, TheWheelZoomsAtThePointer) {
-    editor.View.SceneWidth = editor.View.SceneHeight = 100;
-    NewPage(100, 100);
-    editor.View.Zoom = 1;
-    ZoomInAt(editor, 95, 5);
-    EXPECT_EQ(editor.View.Zoom, 3);
-    // 95 lies at page pixel 95, so (95 - 285) / -200 = 0.95 of the way, in tenths.
-    EXPECT_EQ(editor.View.HorizontalScroll.Value, 190);
-    EXPECT_EQ(editor.View.VerticalScroll.Value, 10);
-    ZoomOutAt(editor, 95, 5);
-    EXPECT_EQ(editor.View.Zoom, 1);
-    EXPECT_FALSE(editor.View.HorizontalScroll.Visible);
 }
 
 }  // namespace

@@ -25,6 +25,9 @@ public:
     explicit GifReader(std::span<const std::uint8_t> bytes) : left_(bytes) {
         int error = 0;
         gif_ = DGifOpen(this, Read, &error);
+        // The library does not tell a lack of memory for the palette from a lack of data.
+        if (error == D_GIF_ERR_NO_SCRN_DSCR && !endedEarly_)
+            error = D_GIF_ERR_NOT_ENOUGH_MEM;
         if (!gif_)
             ThrowGifError(error);
     }
@@ -63,8 +66,10 @@ public:
 
 private:
     static int Read(GifFileType* gif, GifByteType* data, int count) {
-        auto& left = static_cast<GifReader*>(gif->UserData)->left_;
+        auto* self = static_cast<GifReader*>(gif->UserData);
+        auto& left = self->left_;
         const std::size_t taken = std::min(left.size(), static_cast<std::size_t>(count));
+        self->endedEarly_ |= taken < static_cast<std::size_t>(count);
         std::memcpy(data, left.data(), taken);
         left = left.subspan(taken);
         return static_cast<int>(taken);
@@ -112,6 +117,7 @@ private:
     }
 
     std::span<const std::uint8_t> left_;
+    bool endedEarly_ = false;
     GifFileType* gif_ = nullptr;
     GraphicsControlBlock control_ = {DISPOSAL_UNSPECIFIED, false, 0, NO_TRANSPARENT_COLOR};
 };

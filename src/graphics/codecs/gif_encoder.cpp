@@ -67,7 +67,9 @@ public:
 
     std::vector<std::uint8_t> Finish() {
         int error = 0;
-        if (EGifCloseFile(std::exchange(gif_, nullptr), &error) == GIF_ERROR)
+        const int result = EGifCloseFile(std::exchange(gif_, nullptr), &error);
+        // The library overlooks some of the writes that fail.
+        if (result == GIF_ERROR || outOfMemory_)
             ThrowGifError(error);
         return std::move(bytes_);
     }

@@ -1,0 +1,180 @@
+// What verbs don't tell of commands: tips, labels, another program's clipboard, damaged files, and
+// that nothing happens without a selected layer.
+#include <fstream>
+
+#include "editing/adjust_sliders.h"
+#include "editing/clipboard_commands.h"
+#include "editing/layer_bar.h"
+#include "editing/layer_commands.h"
+#include "editing/selection_commands.h"
+#include "editing/slider_positions.h"
+#include "editing/stack_commands.h"
+#include "editing/tips.h"
+#include "editing/undo_commands.h"
+#include "editing_fixture.h"
+#include "graphics/file_io.h"
+#include "support/temporary_folder.h"
+
+namespace orbelle::editing {
+namespace {
+
+using graphics::Argb;
+using testing::FilledPicture;
+
+class Commands : public EditingTest {
+protected:
+    Commands() {
+        OpenPage(24, 20);
+        PutLayer(FilledPicture(6, 4, kBlue), 3, 4);
+        PutLayer(FilledPicture(5, 5, kBlue), 6, 7);
+    }
+};
+
+TEST_F(Commands, GiveATipThatFits) {
+    for (const NamedCommand& command : LayerCommands()) {
+        Do(NewDocument, 24, 20);
+        EXPECT_EQ(recorder.LastTip(), tips::NewOrOpened);
+        Do(ImportPicture, FilledPicture(20, 10, kBlue));
+        EXPECT_EQ(recorder.LastTip(), tips::Imported);
+        EXPECT_TRUE(recorder.Last.Tip->AboutLayers);
+        Do(command.Run);
+        EXPECT_EQ(recorder.LastTip(), command.Tip) << command.Name;
+    }
+}
+
+TEST_F(Commands, DoNothingWithoutASelectedLayer) {
+    recorder.Copied = {};
+    SelectNone();
+    editor.Document.Modified = false;
+    const std::string before = StateText(editor);
+    for (const NamedCommand& command : LayerCommands()) {
+        if (std::string_view(command.Name).starts_with("the bar's"))
+            continue;
+        Do(command.Run);
+        EXPECT_EQ(StateText(editor), before) << command.Name;
+        EXPECT_FALSE(recorder.Last.Pixels || recorder.Last.Stack) << command.Name;
+        EXPECT_FALSE(IsDragging());
+    }
+    Do(SelectLayer, 3);
+    Do(SelectLayer, -1);
+    Do(PasteFromClipboard);
+    EXPECT_EQ(StateText(editor), before);
+    EXPECT_FALSE(recorder.HasPicture());
+}
+
+TEST_F(Commands, OrderOfOneLayerIsNoStepAndOneWithoutRoomIsOne) {
+    Do(SetLayerOrder, LayerOrder::ToFront);
+    EXPECT_EQ(Steps(), 1);
+    Do(SelectLayer, 0);
+    Do(MergeDown);
+    EXPECT_EQ(Steps(), 1);
+    OpenPage(8, 8);
+    Do(SetLayerOrder, LayerOrder::ToFront);
+    EXPECT_EQ(Steps(), 0);
+}
+
+TEST_F(Commands, SlidersHaveLabels) {
+    const struct {
+        Adjustment Kind;
+        const Slider& Shown;
+        int Value, Label;
+    } cases[] = {
+        {Adjustment::Hue, editor.Sliders.Hue, 70, 70},
+        {Adjustment::Saturation, editor.Sliders.Saturation, 70, 30},
+        {Adjustment::Brightness, editor.Sliders.Brightness, 70, 20},
+        {Adjustment::Contrast, editor.Sliders.Contrast, 30, -20},
+        {Adjustment::Contrast, editor.Sliders.Contrast, 100, 50},
+    };
+    for (const auto& c : cases) {
+        Do(PressAdjustment);
+        Step(ChangeAdjustment, c.Kind, c.Value);
+        EXPECT_EQ(c.Shown.Label, c.Label);
+        Step(ChangeAdjustment, c.Kind, c.Value + 100);  // brought to the end
+        EXPECT_EQ(c.Shown.Value, 100);
+        Step(ReleaseAdjustment, c.Kind);
+    }
+    EXPECT_EQ(editor.Page().Selected().Hue, 100);
+    Do(SelectLayer, 0);
+    Do(SelectLayer, 2);
+    EXPECT_EQ(editor.Sliders.Hue.Label, 100);
+    EXPECT_EQ(editor.Sliders.Contrast.Value, 100);
+    EXPECT_EQ(editor.Sliders.Contrast.Label, 0);  // until the slider itself is moved
+
+    Do(PressScale);
+    Step(ChangeScale, 60);
+    EXPECT_EQ(editor.Sliders.Scale.Label, 10);
+    EXPECT_EQ(Layer(2).Rect, (graphics::RectF{6, 7, 15, 15}));
+    EXPECT_EQ(Layer(2).Image.Width(), 5);  // until the release
+    Step(ReleaseScale);
+    EXPECT_EQ(editor.Sliders.Scale.Label, 0);
+    EXPECT_EQ(Layer(2).Image.Width(), 15);
+    Layer(0).ScaleValue = -7;
+    Do(SelectLayer, 0);
+    EXPECT_EQ(editor.Sliders.Scale.Value, 43);
+    EXPECT_EQ(editor.Sliders.Scale.Label, -7);
+    Layer(0).ScaleValue = -700;
+    Do(SelectLayer, 0);
+    EXPECT_EQ(editor.Sliders.Scale.Value, 0);
+
+    const graphics::Bitmap before = Layer(0).Image;
+    Step(ChangeAdjustment, Adjustment::Hue, 50);  // no press
+    Step(ChangeOpacity, 50);
+    Step(ReleaseOpacity);
+    EXPECT_TRUE(Layer(0).Image.SharesPixelsWith(before));
+    EXPECT_EQ(Layer(0).Opacity, 1);
+}
+
+TEST_F(Commands, AnotherProgramsPictureArrivesOpaqueAtThePagesCorner) {
+    Do(CopyToClipboard);
+    EXPECT_EQ(recorder.Mark, "Orbelle");
+    graphics::Bitmap row(3, 1);
+    std::ranges::copy(std::initializer_list<Argb>{0x80204060, 0x00123456, kBlue},
+                      row.MutablePixels());
+    recorder.Put(row, "words");
+    Do(PasteFromClipboard);
+    const document::IconLayer& layer = Layer(3);
+    // Over white: (128 x 32 + 127 x 255) / 255 = 143 and so on.
+    EXPECT_EQ(layer.Image.GetPixel(0, 0), 0xFF8F9FAF);
+    EXPECT_EQ(layer.Image.GetPixel(1, 0), 0xFFFFFFFF);
+    EXPECT_EQ(layer.Image.GetPixel(2, 0), kBlue);
+    EXPECT_EQ(layer.Rect, (graphics::RectF{0, 0, 3, 1}));
+    EXPECT_EQ(layer.BaseRect, layer.Rect);
+    EXPECT_EQ(layer.ImageWidth, 3);
+    EXPECT_EQ(layer.Opacity, 1);
+    EXPECT_EQ(layer.Region.Bounds(), layer.Rect);
+    EXPECT_EQ(editor.Sliders.Opacity.Value, 100);
+    EXPECT_EQ(Steps(), 1);
+
+    editor.ClipboardLayer.reset();  // the mark without a copy of ours
+    recorder.Put(row, kClipboardMark);
+    Do(PasteFromClipboard);
+    EXPECT_EQ(Layer(4).Image.GetPixel(0, 0), 0xFF8F9FAF);
+}
+
+TEST_F(Commands, ADamagedDocumentOpensWithTheLayersBeforeTheDamage) {
+    const testing::TemporaryFolder folder;
+    Do(SaveTo, folder / "a.volf");
+    EXPECT_TRUE(recorder.Last.Title);
+    std::filesystem::resize_file(folder / "a.volf",
+                                 std::filesystem::file_size(folder / "a.volf") - 30);
+    Do(NewDocument, 3, 3);
+    Do([&](Editor& e) { OpenFile(e, folder / "a.volf"); });
+    EXPECT_EQ(editor.Page().LayerCount(), 2);
+    EXPECT_EQ(editor.Page().SelectedLayer, 1);
+    EXPECT_THAT(recorder.Last.Message, ::testing::StartsWith((folder / "a.volf").string() + ": "));
+    EXPECT_EQ(recorder.LastTip(), -1);
+    EXPECT_TRUE(recorder.Last.Title);
+    EXPECT_TRUE(editor.Zoom.IsAnimated);
+    EXPECT_FALSE(editor.Document.Modified);
+}
+
+TEST_F(Commands, NamesTellWhatAFileHolds) {
+    for (const char* name : {"a.volf", "a.VOLF", "dir.ico/b.volf"})
+        EXPECT_TRUE(IsDocumentName(name) && !IsIconName(name)) << name;
+    for (const char* name : {"a.Ico", "b.volf.ico"})
+        EXPECT_TRUE(IsIconName(name) && !IsDocumentName(name)) << name;
+    EXPECT_FALSE(IsDocumentName("a.volf.png") || IsIconName("a.icon"));
+}
+
+}  // namespace
+}  // namespace orbelle::editing

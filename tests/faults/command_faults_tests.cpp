@@ -1,0 +1,529 @@
+// Every allocation and every file operation of a command fails once, and once with all that follow.
+// Whatever fails, document, history and files are as they were before the command, the user gets
+// words, and the next command works as if nothing had happened.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cstdlib>
+#include <fstream>
+#include <iterator>
+#include <map>
+#include <string>
+#include <vector>
+
+#include "editing/adjust_sliders.h"
+#include "editing/clipboard_commands.h"
+#include "editing/document_commands.h"
+#include "editing/export_commands.h"
+#include "editing/layer_bar.h"
+#include "editing/layer_commands.h"
+#include "editing/page_commands.h"
+#include "editing/run.h"
+#include "editing/scene_input.h"
+#include "editing/selection_commands.h"
+#include "editing/stack_commands.h"
+#include "editing/style_commands.h"
+#include "editing/tool_palette.h"
+#include "editing/undo_commands.h"
+#include "editing/view_commands.h"
+#include "faults/editor_account.h"
+#include "faults/injection.h"
+#include "support/temporary_folder.h"
+
+namespace orbelle::testing {
+namespace {
+
+namespace fs = std::filesystem;
+using editing::Adjustment;
+using editing::Editor;
+using editing::Tool;
+using graphics::Argb;
+using graphics::Bitmap;
+
+constexpr int kPageSide = 24;
+constexpr int kSceneSide = 40;
+constexpr float kPageOnScene = (kSceneSide - kPageSide) / 2;
+
+// Parts of every alpha; `seed` tells pictures apart.
+Bitmap Picture(int width, int height, unsigned seed) {
+    Bitmap picture(width, height);
+    for (int y = 0; y < height; ++y) {
+        for (int x = 0; x < width; ++x) {
+            const unsigned alpha = x == 0 || y == 0 ? 0 : x > y ? 255 : x * 16;
+            picture.SetPixel(x, y, graphics::MakeARGB(alpha, x * 15, y * 15, seed * 50));
+        }
+    }
+    return picture;
+}
+
+// An editor with all that stands around it.
+class Desk : public editing::EditorObserver, public editing::Clipboard {
+public:
+    Desk() {
+        editor.View.SceneWidth = editor.View.SceneHeight = kSceneSide;
+        editor.Tools.Colors = {0xFF336699, 0xFFC08040};
+    }
+
+    // The same state, composed.
+    Desk(const Desk& other) : editing::EditorObserver(other), editing::Clipboard(other) {
+        static_cast<editing::EditorState&>(editor) = other.editor;
+        editor.History = other.editor.History;
+        editor.ClipboardLayer = other.editor.ClipboardLayer;
+        picture_ = other.picture_;
+        text_ = other.text_;
+        editor.Changed.Pixels = true;
+        Do([](Editor&) {});
+    }
+    Desk& operator=(const Desk&) = delete;
+
+    void Do(const editing::Command& command) {
+        const editing::Outcome outcome = Run(editor, command);
+        ASSERT_FALSE(outcome.Failed()) << outcome.Problem();
+    }
+
+    void Changed(const editing::Changes&) override { ++Told; }
+    void Put(const Bitmap& picture, const std::string& text) override {
+        picture_ = picture;
+        text_ = text;
+    }
+    bool HasPicture() override { return !picture_.IsEmpty(); }
+    Bitmap Picture() override { return picture_; }
+    std::string Text() override { return text_; }
+
+    // What a paste would bring in.
+    std::string AccountOfClipboard() const {
+        return "clipboard " + AccountOf(picture_) + ' ' + text_ + ' ' +
+               (editor.ClipboardLayer ? AccountOf(editor.ClipboardLayer->Image) : "nothing");
+    }
+
+    Editor editor{*this, *this};
+    int Told = 0;
+
+private:
+    Bitmap picture_;
+    std::string text_;
+};
+
+struct FileState {
+    fs::perms Permissions;
+    fs::path LinkTo;
+    std::string Bytes;
+    bool operator==(const FileState&) const = default;
+};
+using Files = std::map<std::string, FileState>;
+
+void PrintTo(const FileState& file, std::ostream* out) {
+    *out << file.Bytes.size() << " bytes, permissions " << static_cast<int>(file.Permissions)
+         << (file.LinkTo.empty() ? "" : ", a link");
+}
+
+// Of the pictures that an icon's export leaves in the cache only unfinished ones count.
+Files FilesIn(const fs::path& folder) {
+    Files files;
+    for (const fs::directory_entry& entry : fs::recursive_directory_iterator(folder)) {
+        const std::string name = entry.path().lexically_relative(folder).string();
+        if (entry.is_directory() || name.starts_with("cache/Sizes/temp"))
+            continue;
+        FileState& file = files[name];
+        file.Permissions = entry.status().permissions();
+        if (entry.is_symlink())
+            file.LinkTo = fs::read_symlink(entry.path());
+        std::ifstream stream(entry.path(), std::ios::binary);
+        file.Bytes.assign(std::istreambuf_iterator<char>(stream), {});
+    }
+    return files;
+}
+
+void PutBack(const fs::path& folder, const Files& files) {
+    if (FilesIn(folder) == files)
+        return;
+    for (const auto& [name, unused] : FilesIn(folder))
+        fs::remove(folder / name);
+    for (const auto& [name, file] : files) {
+        if (!file.LinkTo.empty()) {
+            fs::create_symlink(file.LinkTo, folder / name);
+            continue;
+        }
+        std::ofstream(folder / name, std::ios::binary) << file.Bytes;
+        fs::permissions(folder / name, file.Permissions);
+    }
+}
+
+struct Step {
+    editing::Command Work;
+    bool IsDuringDrag = false;
+};
+using Steps = std::vector<Step>;
+
+struct Scenario {
+    std::string Name;
+    Steps (*Work)(const fs::path& folder);
+    void (*Prepare)(Desk& desk) = [](Desk&) {};
+};
+
+void PrintTo(const Scenario& scenario, std::ostream* out) {
+    *out << scenario.Name;
+}
+
+// How a gesture looks when it is given up before a step, and then done again from the start.
+struct Course {
+    std::string GivenUp;
+    std::string PicturesGivenUp;
+    std::string ClipboardGivenUp;
+    Files FilesGivenUp;
+    std::string Repeated;
+    Files FilesRepeated;
+};
+
+std::string AccountOfAll(const Desk& desk) {
+    return AccountOf(desk.editor) + AccountOfPictures(desk.editor) + desk.AccountOfClipboard();
+}
+
+editing::Outcome Take(Editor& editor, const Step& step) {
+    return step.IsDuringDrag ? RunDuringDrag(editor, step.Work) : Run(editor, step.Work);
+}
+
+class CommandFaults : public ::testing::TestWithParam<Scenario> {
+protected:
+    CommandFaults() {
+        setenv("XDG_CACHE_HOME", (folder_ / "cache").c_str(), 1);
+        MakeDocument();
+        MakeFiles();
+        GetParam().Prepare(desk_);
+        steps_ = GetParam().Work(folder_.Path());
+        filesBefore_ = FilesIn(folder_.Path());
+        for (std::size_t count = 0; count <= steps_.size(); ++count)
+            courses_.push_back(CourseOf(count));
+    }
+
+    // Gives how many operations failed, one after the other.
+    int FailEach(Fault fault, Extent extent);
+
+    bool touchesFiles_ = true;
+
+private:
+    // Three layers, one of them cut by a plate, and steps to undo and to redo.
+    void MakeDocument() {
+        desk_.Do([](Editor& editor) { editing::NewDocument(editor, kPageSide, kPageSide); });
+        desk_.Do([](Editor& editor) { ImportPicture(editor, Picture(16, 14, 1)); });
+        desk_.Do(editing::Ios);
+        desk_.Do([](Editor& editor) { ImportPicture(editor, Picture(10, 12, 2)); });
+        desk_.Do([](Editor& editor) {
+            editor.View.Zoom = 1;
+            editor.Zoom.IsAnimated = false;
+            SetPageBackground(editor, 0xFF808080);
+        });
+        desk_.Do(editing::HotState);
+        desk_.Do(editing::DropShadow);
+        desk_.Do(editing::Undo);
+    }
+
+    // One of every kind, and some that are in the way.
+    void MakeFiles() {
+        desk_.Do([&](Editor& editor) {
+            for (const formats::ExportFormat& format : formats::kExportFormats)
+                ExportTo(
+                    editor,
+                    folder_ /
+                        ("picture" +
+                         std::string(format.Filter).substr(std::string(format.Filter).rfind('.'))),
+                    format.FileType);
+        });
+        fs::rename(folder_ / "picture.jpeg", folder_ / "picture.jpg");
+        Desk other(desk_);
+        other.Do([&](Editor& editor) { SaveTo(editor, folder_ / "document.volf"); });
+        for (const char* name : {"old.volf", "old.ico", "old.png", "old.gif", "old.jpg", "old.bmp"})
+            std::ofstream(folder_ / name) << "old contents of " << name;
+        fs::permissions(folder_ / "old.volf", fs::perms::owner_read | fs::perms::owner_write);
+        fs::create_symlink("old.volf", folder_ / "link.volf");
+        fs::copy_file(folder_ / "document.volf", folder_ / "damaged.volf");
+        fs::resize_file(folder_ / "damaged.volf", fs::file_size(folder_ / "document.volf") - 20);
+        fs::remove_all(folder_ / "cache");
+    }
+
+    // Of a gesture whose first `count` steps went well.
+    Course CourseOf(std::size_t count) {
+        Course course;
+        Desk desk(desk_);
+        for (std::size_t i = 0; i < count; ++i)
+            EXPECT_EQ(Take(desk.editor, steps_[i]).Problem(), "");
+        if (count < steps_.size())
+            desk.Do([](Editor&) {});
+        course.GivenUp = AccountOf(desk.editor);
+        course.PicturesGivenUp = AccountOfPictures(desk.editor);
+        course.ClipboardGivenUp = desk.AccountOfClipboard();
+        course.FilesGivenUp = FilesIn(folder_.Path());
+        for (const Step& step : steps_)
+            EXPECT_EQ(Take(desk.editor, step).Problem(), "");
+        course.Repeated = AccountOfAll(desk);
+        course.FilesRepeated = FilesIn(folder_.Path());
+        PutBack(folder_.Path(), filesBefore_);
+        return course;
+    }
+
+    void ExpectGivenUp(Desk& desk, std::size_t count) {
+        const Course& course = courses_[count];
+        EXPECT_EQ(AccountOf(desk.editor), course.GivenUp);
+        // A step that puts something there may fail after that, when the page is composed.
+        const std::string clipboard = desk.AccountOfClipboard();
+        EXPECT_TRUE(clipboard == course.ClipboardGivenUp ||
+                    (count < steps_.size() && clipboard == courses_[count + 1].ClipboardGivenUp))
+            << clipboard;
+        EXPECT_EQ(FilesNow(), course.FilesGivenUp);
+        std::string canvas;
+        desk.Do([&](Editor& editor) { canvas = AccountOf(editor.Canvas); });
+        EXPECT_THAT(course.PicturesGivenUp, ::testing::HasSubstr(canvas));
+        EXPECT_EQ(AccountOfPictures(desk.editor), course.PicturesGivenUp);
+    }
+
+    Files FilesNow() const { return touchesFiles_ ? FilesIn(folder_.Path()) : filesBefore_; }
+
+    void ExpectWords(Fault fault, const std::string& problem) {
+        using ::testing::AnyOf, ::testing::HasSubstr;
+        if (fault == Fault::FileOperation)
+            EXPECT_THAT(problem, HasSubstr("Input/output error"));
+        else
+            EXPECT_THAT(problem,
+                        AnyOf("There is not enough memory.", HasSubstr("Cannot allocate memory")));
+    }
+
+    TemporaryFolder folder_;
+    Desk desk_;
+    Steps steps_;
+    Files filesBefore_;
+    std::vector<Course> courses_;
+};
+
+// Commands with thousands of operations are sampled.
+long Next(long n) {
+    return n + 1 + std::max(0L, n - 200) / 8;
+}
+
+int CommandFaults::FailEach(Fault fault, Extent extent) {
+    int tried = 0;
+    for (long n = 1; !HasFailure(); n = Next(n)) {
+        if (touchesFiles_)
+            PutBack(folder_.Path(), filesBefore_);
+        SCOPED_TRACE("operation " + std::to_string(n) + " of kind " +
+                     std::to_string(static_cast<int>(fault)) +
+                     (extent == Extent::AllFrom ? " and all after it" : ""));
+        Desk desk(desk_);
+        desk.Told = 0;
+        std::size_t count = 0;
+        editing::Outcome outcome;
+        bool hasFailedOne = false;
+        {
+            const Injection injection(fault, extent, n);
+            while (count < steps_.size()) {
+                outcome = Take(desk.editor, steps_[count]);
+                if (outcome.Failed())
+                    break;
+                ++count;
+            }
+            hasFailedOne = injection.HasFailedOne();
+        }
+        SCOPED_TRACE("step " + std::to_string(count));
+        EXPECT_EQ(desk.Told, static_cast<int>(std::min(count + 1, steps_.size())));
+        ExpectGivenUp(desk, count);
+        if (!hasFailedOne)
+            break;
+        ++tried;
+        if (outcome.Failed())
+            ExpectWords(fault, outcome.Problem());
+        for (const Step& step : steps_)
+            EXPECT_EQ(Take(desk.editor, step).Problem(), "");
+        EXPECT_EQ(AccountOfAll(desk), courses_[count].Repeated);
+        EXPECT_EQ(FilesNow(), courses_[count].FilesRepeated);
+    }
+    return tried;
+}
+
+TEST_P(CommandFaults, LeaveEverythingAsItWas) {
+    const int files = FailEach(Fault::FileOperation, Extent::One);
+    RecordProperty("files", files);
+    FailEach(Fault::FileOperation, Extent::AllFrom);
+    touchesFiles_ = files > 0;
+    RecordProperty("new", FailEach(Fault::New, Extent::One));
+    FailEach(Fault::New, Extent::AllFrom);
+    if (!CanFail(Fault::Malloc))
+        return;
+    RecordProperty("malloc", FailEach(Fault::Malloc, Extent::One));
+    FailEach(Fault::Malloc, Extent::AllFrom);
+}
+
+template <void (*kCommand)(Editor&)>
+Steps Simply(const fs::path&) {
+    return {{kCommand}};
+}
+
+Steps Open(const fs::path& path) {
+    return {{[path](Editor& editor) { OpenFile(editor, path); }}};
+}
+
+Steps Import(const fs::path& path) {
+    return {{[path](Editor& editor) { ImportFile(editor, path); }}};
+}
+
+Steps Save(const fs::path& path) {
+    return {{[path](Editor& editor) { SaveTo(editor, path); }}};
+}
+
+Steps Export(const fs::path& path, formats::FileTypes type) {
+    return {{[path, type](Editor& editor) { ExportTo(editor, path, type); }}};
+}
+
+editing::Pointer OnPage(float x, float y, int button = 1) {
+    return {button, 0, x + kPageOnScene + 0.5F, y + kPageOnScene + 0.5F};
+}
+
+Step Press(float x, float y, int button = 1) {
+    return {[=](Editor& editor) { PressScene(editor, OnPage(x, y, button)); }};
+}
+
+// A press, moves and a release at the last point.
+Steps Drag(const std::vector<graphics::PointF>& points) {
+    Steps steps = {Press(points.front().X, points.front().Y)};
+    for (const auto& [x, y] : points)
+        steps.push_back({[=](Editor& editor) { MoveScene(editor, OnPage(x, y)); }, true});
+    const auto [x, y] = points.back();
+    steps.push_back({[=](Editor& editor) { ReleaseScene(editor, OnPage(x, y)); }, true});
+    return steps;
+}
+
+Steps DragOverPage(const fs::path&) {
+    return Drag({{3, 3}, {9, 7}, {7, 12}});
+}
+
+template <Tool kTool>
+void Use(Desk& desk) {
+    desk.Do([](Editor& editor) {
+        editor.Tools.InUse = kTool;
+        editor.Sliders.BrushSize.Value = 5;
+        editor.Sliders.BrushOpacity.Value = 50;
+    });
+}
+
+void SelectPixels(Desk& desk) {
+    desk.Do([](Editor& editor) {
+        editor.Selection.Start();
+        editor.Selection.AddFrame(8, 9, 2, 3, document::FrameShape::Ellipse);
+    });
+}
+
+void SelectNoLayer(Desk& desk) {
+    desk.Do([](Editor& editor) { editor.Page().SelectedLayer = document::kNoLayer; });
+}
+
+const Scenario kScenarios[] = {
+    {"OpenDocument", [](const fs::path& folder) { return Open(folder / "document.volf"); }},
+    {"OpenDamagedDocument", [](const fs::path& folder) { return Open(folder / "damaged.volf"); }},
+    {"OpenPng", [](const fs::path& folder) { return Open(folder / "picture.png"); }},
+    {"OpenGif", [](const fs::path& folder) { return Open(folder / "picture.gif"); }},
+    {"OpenJpeg", [](const fs::path& folder) { return Open(folder / "picture.jpg"); }},
+    {"OpenBmp", [](const fs::path& folder) { return Open(folder / "picture.bmp"); }},
+    {"OpenIcon", [](const fs::path& folder) { return Open(folder / "picture.ico"); }},
+    {"ImportPicture", [](const fs::path& folder) { return Import(folder / "picture.png"); }},
+    {"ImportDocument", [](const fs::path& folder) { return Import(folder / "document.volf"); }},
+    {"New",
+     [](const fs::path&) {
+         return Steps{{[](Editor& editor) { editing::NewDocument(editor, 12, 16); }}};
+     }},
+
+    {"SaveNewFile", [](const fs::path& folder) { return Save(folder / "new.volf"); }},
+    {"SaveOverFile", [](const fs::path& folder) { return Save(folder / "old.volf"); }},
+    {"SaveOverLink", [](const fs::path& folder) { return Save(folder / "link.volf"); }},
+    {"ExportIcon",
+     [](const fs::path& folder) { return Export(folder / "old.ico", formats::FileTypes::Ico); }},
+    {"ExportPng",
+     [](const fs::path& folder) { return Export(folder / "old.png", formats::FileTypes::Png); }},
+    {"ExportGif",
+     [](const fs::path& folder) { return Export(folder / "old.gif", formats::FileTypes::Gif); }},
+    {"ExportJpeg",
+     [](const fs::path& folder) { return Export(folder / "old.jpg", formats::FileTypes::Jpeg); }},
+    {"ExportBmp",
+     [](const fs::path& folder) { return Export(folder / "old.bmp", formats::FileTypes::Bmp); }},
+
+    {"DisabledState", Simply<editing::DisabledState>},
+    {"HotState", Simply<editing::HotState>},
+    {"Fresh", Simply<editing::Fresh>},
+    {"Ios", Simply<editing::Ios>},
+    {"OrigamiVertical", Simply<[](Editor& editor) { Origami(editor, filters::Fold::Vertical); }>},
+    {"OrigamiHorizontal",
+     Simply<[](Editor& editor) { Origami(editor, filters::Fold::Horizontal); }>},
+    {"Mac", Simply<editing::Mac>},
+    {"Vista", Simply<editing::Vista>},
+    {"Crystal", Simply<editing::Crystal>},
+    {"Blur", Simply<editing::Blur>},
+    {"Sharpen", Simply<editing::Sharpen>},
+    {"Irradiation", Simply<editing::Irradiation>},
+    {"Shade", Simply<editing::Shade>},
+    {"Reflection", Simply<editing::Reflection>},
+    {"DropShadow", Simply<editing::DropShadow>},
+
+    {"Undo", Simply<editing::Undo>},
+    {"Redo", Simply<editing::Redo>},
+    {"Copy", Simply<editing::CopyToClipboard>},
+    {"CutLayer", Simply<editing::CutToClipboard>,
+     [](Desk& desk) { desk.Do(editing::CopyToClipboard); }},
+    {"CutSelection", Simply<editing::CutToClipboard>, SelectPixels},
+    {"PasteOwn", Simply<editing::PasteFromClipboard>,
+     [](Desk& desk) { desk.Do(editing::CopyToClipboard); }},
+    {"PasteForeign", Simply<editing::PasteFromClipboard>,
+     [](Desk& desk) { desk.Put(Picture(9, 7, 3), "text"); }},
+    {"DeleteSelection", Simply<editing::DeleteSelection>, SelectPixels},
+
+    {"AddLayer", Simply<editing::PressAddLayer>},
+    {"RemoveLayer", Simply<editing::PressRemoveLayer>},
+    {"HideLayer", Simply<editing::PressHideLayer>},
+    {"MergeDown", Simply<editing::PressMergeDown>},
+    {"ToBack", Simply<[](Editor& editor) { SetLayerOrder(editor, editing::LayerOrder::ToBack); }>},
+    {"Rotate",
+     Simply<[](Editor& editor) { FlipRotateLayer(editor, editing::FlipRotate::Rotate90Cw); }>},
+    {"Background", Simply<[](Editor& editor) { SetPageBackground(editor, 0x80FF0000); }>},
+    {"PageSize",
+     [](const fs::path&) {
+         return Steps{{[](Editor& editor) { ChangePageWidth(editor, 17); }},
+                      {[](Editor& editor) { ChangePageHeight(editor, 29); }}};
+     }},
+    {"Nudge", Simply<[](Editor& editor) { KeyDownScene(editor, editing::SceneKey::Right); }>},
+    {"ZoomIn", Simply<editing::ZoomIn>},
+
+    {"MoveLayer", DragOverPage, SelectNoLayer},
+    {"FloatSelection", DragOverPage, SelectPixels},
+    {"Pencil", DragOverPage, Use<Tool::Pencil>},
+    {"FilledEllipse", DragOverPage, Use<Tool::FilledEllipse>},
+    {"PencilEraser", DragOverPage, Use<Tool::PencilEraser>},
+    {"BrushEraser", DragOverPage, Use<Tool::BrushEraser>},
+    {"ColorPick", DragOverPage, Use<Tool::ColorPick>},
+    {"SelectEllipse", DragOverPage, Use<Tool::SelectEllipse>},
+    {"SelectPolygon",
+     [](const fs::path&) {
+         return Steps{Press(2, 2), Press(12, 3), Press(6, 13), Press(6, 13, 2)};
+     },
+     Use<Tool::SelectPolygon>},
+    {"Opacity",
+     [](const fs::path&) {
+         return Steps{{editing::PressOpacity},
+                      {[](Editor& editor) { ChangeOpacity(editor, 30); }, true},
+                      {editing::ReleaseOpacity, true}};
+     }},
+    {"Hue",
+     [](const fs::path&) {
+         const auto change = [](Editor& editor) { ChangeAdjustment(editor, Adjustment::Hue, 30); };
+         const auto release = [](Editor& editor) { ReleaseAdjustment(editor, Adjustment::Hue); };
+         return Steps{{editing::PressAdjustment}, {change, true}, {release, true}};
+     }},
+    {"Scale",
+     [](const fs::path&) {
+         return Steps{{editing::PressScale},
+                      {[](Editor& editor) { ChangeScale(editor, 60); }, true},
+                      {editing::ReleaseScale, true}};
+     }},
+};
+
+INSTANTIATE_TEST_SUITE_P(Every, CommandFaults, ::testing::ValuesIn(kScenarios),
+                         [](const auto& scenario) { return scenario.param.Name; });
+
+}  // namespace
+}  // namespace orbelle::testing
