@@ -5,6 +5,7 @@
 #include <cmath>
 #include <cstdint>
 
+#include "document/document.h"
 #include "document/layer_slots.h"
 #include "document/selection.h"
 #include "graphics/bitmap.h"
@@ -54,13 +55,14 @@ inline graphics::Bitmap MakePicture(Content content, int size) {
 // A page of `size` with as many layers of the content, opacity `opacity`.
 inline document::Document MakeDocument(Content content, int size, int layers, float opacity = 1) {
     document::Document document;
-    document.PageWidth = document.PageHeight = size;
+    document::Page& page = document.Master;
+    page.Width = page.Height = size;
     for (int i = 0; i < layers; ++i) {
-        document::IconLayer& layer = document.Layers.emplace_back();
-        document::MakeImageLayer(document, layer, MakePicture(content, size));
+        document::IconLayer& layer = page.Layers.emplace_back();
+        document::MakeImageLayer(page, layer, MakePicture(content, size));
         layer.Opacity = opacity;
     }
-    document.SelectedLayer = layers - 1;
+    page.SelectedLayer = layers - 1;
     return document;
 }
 

@@ -37,11 +37,6 @@ void Brightness(benchmark::State& state) {
 }
 BENCHMARK(Brightness)->Arg(48)->Arg(512);
 
-void Negative(benchmark::State& state) {
-    OnPicture(state, filters::Negative);
-}
-BENCHMARK(Negative)->Arg(48)->Arg(512);
-
 void DisabledStyle(benchmark::State& state) {
     OnPicture(state, [](auto& picture) {
         filters::DisabledStyle(picture, picture.Width(), picture.Height());

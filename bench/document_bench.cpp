@@ -14,11 +14,12 @@ constexpr auto kNearest = graphics::InterpolationMode::NearestNeighbor;
 // Everything from nothing: arguments are layers and content.
 void ComposeWhole(benchmark::State& state) {
     const int layers = static_cast<int>(state.range(0));
-    auto document = MakeDocument(static_cast<Content>(state.range(1)), 512, layers, 0.9F);
+    document::Page page =
+        MakeDocument(static_cast<Content>(state.range(1)), 512, layers, 0.9F).Master;
     for (auto _ : state) {
         document::Compositor compositor;
         graphics::Bitmap canvas;
-        compositor.Compose(document, kNearest, canvas);
+        compositor.Compose(page, kNearest, canvas);
         benchmark::DoNotOptimize(canvas.Pixels());
     }
     state.SetItemsProcessed(state.iterations() * layers * 512 * 512);
@@ -32,18 +33,18 @@ BENCHMARK(ComposeWhole)
 
 // One step of a drag: arguments are the content and the layer of fifty that moves.
 void ComposeOneOfFifty(benchmark::State& state) {
-    auto document = MakeDocument(static_cast<Content>(state.range(0)), 512, 50, 0.9F);
-    document::IconLayer& moved = document.Layers[static_cast<std::size_t>(state.range(1))];
+    document::Page page = MakeDocument(static_cast<Content>(state.range(0)), 512, 50, 0.9F).Master;
+    document::IconLayer& moved = page.Layers[static_cast<std::size_t>(state.range(1))];
     document::Compositor compositor;
     graphics::Bitmap canvas;
     float x = 0;
     for (int i = 0; i < 3; ++i) {
         moved.Rect.X = (x = 1 - x);
-        compositor.Compose(document, kNearest, canvas);
+        compositor.Compose(page, kNearest, canvas);
     }
     for (auto _ : state) {
         moved.Rect.X = (x = 1 - x);
-        compositor.Compose(document, kNearest, canvas);
+        compositor.Compose(page, kNearest, canvas);
     }
 }
 BENCHMARK(ComposeOneOfFifty)
@@ -55,15 +56,14 @@ BENCHMARK(ComposeOneOfFifty)
 
 // The same with a small layer that moves on top of fifty full ones.
 void ComposeSmallLayerOverFifty(benchmark::State& state) {
-    auto document = MakeDocument(Content::HalfTransparent, 512, 50);
-    document::MakeImageLayer(document, document.Layers.emplace_back(),
-                             MakePicture(Content::Icon, 48));
+    document::Page page = MakeDocument(Content::HalfTransparent, 512, 50).Master;
+    document::MakeImageLayer(page, page.Layers.emplace_back(), MakePicture(Content::Icon, 48));
     document::Compositor compositor;
     graphics::Bitmap canvas;
     float x = 0;
     for (auto _ : state) {
-        document.Layers.back().Rect.X = (x = 1 - x);
-        compositor.Compose(document, kNearest, canvas);
+        page.Layers.back().Rect.X = (x = 1 - x);
+        compositor.Compose(page, kNearest, canvas);
     }
 }
 BENCHMARK(ComposeSmallLayerOverFifty)->Unit(benchmark::kMicrosecond);
@@ -71,9 +71,9 @@ BENCHMARK(ComposeSmallLayerOverFifty)->Unit(benchmark::kMicrosecond);
 // A tool changed 20 x 20 pixels in a copy of the picture; arguments are the number of layers of
 // 512 x 512 and the layer that it draws on.
 void ComposeStroke(benchmark::State& state) {
-    auto document =
-        MakeDocument(Content::HalfTransparent, 512, static_cast<int>(state.range(0)), 0.9F);
-    document::IconLayer& drawnOn = document.Layers[static_cast<std::size_t>(state.range(1))];
+    document::Page page =
+        MakeDocument(Content::HalfTransparent, 512, static_cast<int>(state.range(0)), 0.9F).Master;
+    document::IconLayer& drawnOn = page.Layers[static_cast<std::size_t>(state.range(1))];
     document::Compositor compositor;
     graphics::Bitmap canvas;
     graphics::Bitmap pictures[] = {drawnOn.Image, drawnOn.Image};
@@ -82,11 +82,11 @@ void ComposeStroke(benchmark::State& state) {
     int step = 0;
     for (int i = 0; i < 3; ++i) {
         drawnOn.Image = pictures[++step % 2];
-        compositor.Compose(document, kNearest, canvas);
+        compositor.Compose(page, kNearest, canvas);
     }
     for (auto _ : state) {
         drawnOn.Image = pictures[++step % 2];
-        compositor.Compose(document, kNearest, canvas);
+        compositor.Compose(page, kNearest, canvas);
     }
 }
 BENCHMARK(ComposeStroke)
@@ -98,7 +98,7 @@ BENCHMARK(ComposeStroke)
 
 void Snapshot50Layers(benchmark::State& state) {
     auto document = MakeDocument(Content::Icon, 64, 50);
-    for (auto& layer : document.Layers)
+    for (auto& layer : document.Master.Layers)
         layer.Image = graphics::Bitmap(512, 512);
     document::UndoHistory history;
     for (auto _ : state) {
@@ -111,10 +111,10 @@ BENCHMARK(Snapshot50Layers)->Unit(benchmark::kMicrosecond);
 
 // On a scene of 1600 x 1000 pixels, with a selection of as many ellipses.
 void PaintScene(benchmark::State& state) {
-    document::Document document = MakeDocument(Content::Icon, 512, 1);
+    document::Page page = MakeDocument(Content::Icon, 512, 1).Master;
     document::Compositor compositor;
     graphics::Bitmap canvas;
-    compositor.Compose(document, kNearest, canvas);
+    compositor.Compose(page, kNearest, canvas);
     document::View view;
     view.SceneWidth = 1600;
     view.SceneHeight = 1000;
@@ -123,7 +123,7 @@ void PaintScene(benchmark::State& state) {
     graphics::Bitmap scene;
     document::Selection selection = SelectionOfEllipses(static_cast<int>(state.range(0)));
     for (auto _ : state) {
-        document::DrawScene(scene, canvas, document, view, selection);
+        document::DrawScene(scene, canvas, 0, view, selection);
         benchmark::DoNotOptimize(scene.Pixels());
     }
 }

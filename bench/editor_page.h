@@ -1,29 +1,21 @@
 // An editor with a full page, for benchmarks of what follows the hand.
 #pragma once
 
+#include <cstdlib>
+
 #include "bench_pictures.h"
 #include "editing/editor.h"
-#include "editing/view_commands.h"
+#include "editing/run.h"
 
 namespace orbelle::bench {
 
-class SilentHost : public editing::EditorHost {
+class SilentHost : public editing::EditorObserver, public editing::Clipboard {
 public:
-    void ShowMessage(const std::string&) override {}
-    void ShowStatus(const std::string&) override {}
-    editing::SavePromptAnswer AskSave() override { return editing::SavePromptAnswer::No; }
-    std::optional<editing::PageSize> AskPageSize() override { return std::nullopt; }
-    std::filesystem::path ShowFileDialog(const std::string&, bool) override { return {}; }
-    std::optional<int> AskGifThreshold(const graphics::Bitmap&) override { return std::nullopt; }
-    std::optional<int> ChooseIconEntry(const std::vector<formats::IconEntryImage>&) override {
-        return 0;
-    }
-    std::optional<graphics::Argb> AskColor(graphics::Argb) override { return std::nullopt; }
-    void SetClipboard(const graphics::Bitmap&, const std::string&) override {}
-    bool ClipboardHasPicture() override { return false; }
-    graphics::Bitmap ClipboardPicture() override { return {}; }
-    std::string ClipboardText() override { return {}; }
-    bool Confirm(const std::string&, const std::string&) override { return true; }
+    void Changed(const editing::Changes&) override {}
+    void Put(const graphics::Bitmap&, const std::string&) override {}
+    bool HasPicture() override { return false; }
+    graphics::Bitmap Picture() override { return {}; }
+    std::string Text() override { return {}; }
 };
 
 // Layers of 512 x 512 on a page of that size, in a scene of 1600 x 1000 at zoom 1, the layer
@@ -31,17 +23,22 @@ public:
 struct EditorPage {
     EditorPage(int layers, int selected) {
         editor.Document = MakeDocument(Content::Icon, 512, layers);
-        editor.Document.SelectedLayer = selected;
+        editor.Page().SelectedLayer = selected;
         editor.DocumentExists = true;
         editor.View.ViewActive = true;
         editor.View.Zoom = 1;
         editor.View.SceneWidth = 1600;
         editor.View.SceneHeight = 1000;
-        editing::Compose(editor);
+        Step([](editing::Editor& shown) { shown.Changed.Pixels = true; });
+    }
+
+    void Step(const editing::Command& step) {
+        if (RunDuringDrag(editor, step).Failed())
+            std::abort();
     }
 
     SilentHost host;
-    editing::Editor editor{host};
+    editing::Editor editor{host, host};
 };
 
 }  // namespace orbelle::bench

@@ -35,13 +35,13 @@ Bitmap MakeIconPicture(int side) {
 
 document::Document MakeDocument(int layers) {
     document::Document document;
-    document.PageWidth = document.PageHeight = 512;
+    document.Master.Width = document.Master.Height = 512;
     for (int i = 0; i < layers; ++i) {
         document::IconLayer layer;
         layer.Image = MakeIconPicture(512);
         layer.ImageWidth = layer.ImageHeight = 512;
         layer.Rect = layer.BaseRect = {static_cast<float>(i), 0, 512, 512};
-        document.Layers.push_back(layer);
+        document.Master.Layers.push_back(layer);
     }
     return document;
 }
@@ -80,7 +80,7 @@ void ExportIcon(benchmark::State& state) {
     fs::create_directories(folder);
     const Bitmap page = MakeIconPicture(512);
     for (auto _ : state)
-        formats::ExportImage(folder / "icon.ico", formats::FileTypes::Ico, page, 0);
+        formats::ExportImage(folder / "icon.ico", formats::ExportFormat::Ico, page, 0);
     fs::remove_all(folder);
 }
 BENCHMARK(ExportIcon)->Unit(benchmark::kMillisecond);

@@ -19,12 +19,18 @@ editing::Pointer At(int pageX, int pageY) {
 }
 
 void UseTool(editing::Editor& editor, Tool tool, editing::FillKind fill) {
-    editor.CurrentTool = tool;
-    editor.FillKind = fill;
-    editor.Colors = {0xFFE04030, 0x802040C0};
-    editor.Controls.LineWidth.Value = 20;
-    editor.Controls.BrushOpacity.Value = 100;
-    editor.Controls.BrushSize.Value = 50;
+    editor.Tools.InUse = tool;
+    editor.Tools.FillKind = fill;
+    editor.Tools.Colors = {0xFFE04030, 0x802040C0};
+    editor.Sliders.LineWidth.Value = 20;
+    editor.Sliders.BrushOpacity.Value = 100;
+    editor.Sliders.BrushSize.Value = 50;
+}
+
+// The pointer comes to a place of the page.
+void Hand(EditorPage& page, void (*event)(editing::Editor&, const editing::Pointer&), int x,
+          int y) {
+    page.Step([=](editing::Editor& editor) { event(editor, At(x, y)); });
 }
 
 // A drag over most of the page, to and fro; `range` is the number of layers, then the place of the
@@ -35,16 +41,16 @@ void DragSteps(benchmark::State& state, Tool tool, editing::FillKind fill) {
     UseTool(page.editor, tool, fill);
     // The Move tool picks the topmost layer.
     if (tool == Tool::Move)
-        for (int i = page.editor.Document.SelectedLayer + 1; i < layers; ++i)
-            page.editor.Document.Layers[static_cast<std::size_t>(i)].Region =
+        for (int i = page.editor.Page().SelectedLayer + 1; i < layers; ++i)
+            page.editor.Page().Layers[static_cast<std::size_t>(i)].Region =
                 graphics::Region::Empty();
-    editing::PressScene(page.editor, At(250, 250));
+    Hand(page, editing::PressScene, 250, 250);
     int step = 0;
     for (auto _ : state) {
         step = (step + 37) % 500;
-        editing::MoveScene(page.editor, At(step, 500 - step));
+        Hand(page, editing::MoveScene, step, 500 - step);
     }
-    editing::ReleaseScene(page.editor, At(step, 500 - step));
+    Hand(page, editing::ReleaseScene, step, 500 - step);
 }
 
 void Layers(benchmark::internal::Benchmark* benchmark) {
@@ -73,17 +79,17 @@ void PencilStep(benchmark::State& state) {
     const int layers = static_cast<int>(state.range(0));
     EditorPage page(layers, (layers - 1) * static_cast<int>(state.range(1)) / 100);
     UseTool(page.editor, Tool::Pencil, editing::FillKind::Solid);
-    editing::PressScene(page.editor, At(0, 0));
+    Hand(page, editing::PressScene, 0, 0);
+    auto& points = std::get<editing::StrokeDrag>(page.editor.Drag).Freehand;
     for (int i = 0; i < 500; ++i)
-        page.editor.PencilPoints.push_back(
-            {static_cast<float>(i * 197 % 512), static_cast<float>(i * 89 % 512)});
+        points.push_back({static_cast<float>(i * 197 % 512), static_cast<float>(i * 89 % 512)});
     int step = 0;
     for (auto _ : state) {
-        page.editor.PencilPoints.resize(499);
+        points.resize(499);
         step = (step + 37) % 500;
-        editing::MoveScene(page.editor, At(step, 500 - step));
+        Hand(page, editing::MoveScene, step, 500 - step);
     }
-    editing::ReleaseScene(page.editor, At(step, 500 - step));
+    Hand(page, editing::ReleaseScene, step, 500 - step);
 }
 BENCHMARK(PencilStep)->Apply(Layers);
 
@@ -92,10 +98,10 @@ void CommitFilledEllipse(benchmark::State& state) {
     EditorPage page(10, 0);
     UseTool(page.editor, Tool::FilledEllipse, editing::FillKind::RadialGradient);
     for (auto _ : state) {
-        editing::PressScene(page.editor, At(6, 6));
-        editing::ReleaseScene(page.editor, At(500, 500));
+        Hand(page, editing::PressScene, 6, 6);
+        Hand(page, editing::ReleaseScene, 500, 500);
         state.PauseTiming();
-        editing::Undo(page.editor);
+        page.Step(editing::Undo);
         state.ResumeTiming();
     }
 }
@@ -113,14 +119,13 @@ void ManyUndoSteps(benchmark::State& state) {
     for (auto _ : state) {
         EditorPage page(20, 0);
         page.editor.Document = MakeDocument(Content::Icon, 64, 20);
-        page.editor.CurrentTool = Tool::PencilEraser;
+        page.editor.Tools.InUse = Tool::PencilEraser;
         const double before = ResidentMebibytes();
         for (int i = 0; i < 5000; ++i) {
-            page.editor.Document.SelectedLayer = i % 20;
-            const editing::Pointer pointer = {1, 0, static_cast<float>(768 + i % 64),
-                                              static_cast<float>(468 + i / 64 % 64)};
-            editing::PressScene(page.editor, pointer);
-            editing::ReleaseScene(page.editor, pointer);
+            page.editor.Page().SelectedLayer = i % 20;
+            const int x = 768 - 544 + i % 64, y = 468 - 244 + i / 64 % 64;
+            Hand(page, editing::PressScene, x, y);
+            Hand(page, editing::ReleaseScene, x, y);
         }
         state.counters["MiB"] = ResidentMebibytes() - before;
         state.counters["steps"] = page.editor.History.UndoIndex();

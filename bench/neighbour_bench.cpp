@@ -30,16 +30,8 @@ void Soften(benchmark::State& state) {
     Measure(state, [](auto& picture, int) { filters::Soften(picture, filters::kBlurLevel); });
 }
 
-void Smooth(benchmark::State& state) {
-    Measure(state, [](auto& picture, int) { filters::Smooth(picture, 80); });
-}
-
 void Sharpen(benchmark::State& state) {
     Measure(state, [](auto& picture, int) { filters::Sharpen(picture, filters::kSharpenLevel); });
-}
-
-void OutLine(benchmark::State& state) {
-    Measure(state, [](auto& picture, int) { filters::OutLine(picture, -50, 5); });
 }
 
 void ThreeDStyle(benchmark::State& state) {
@@ -54,9 +46,7 @@ void FreshStyle(benchmark::State& state) {
 }
 
 BENCHMARK(Soften)->Arg(48)->Arg(512);
-BENCHMARK(Smooth)->Arg(48)->Arg(512);
 BENCHMARK(Sharpen)->Arg(48)->Arg(512);
-BENCHMARK(OutLine)->Arg(48)->Arg(512);
 BENCHMARK(ThreeDStyle)->Arg(48)->Arg(512);
 BENCHMARK(FreshStyle)->Arg(48)->Arg(512);
 
@@ -76,7 +66,7 @@ void EraseColor(benchmark::State& state) {
     const int size = static_cast<int>(state.range(0));
     auto picture = MakePicture(Content::Opaque, size);
     for (auto _ : state) {
-        filters::EraseColor(picture, size / 2, size / 2, 100);
+        filters::EraseColor(picture, size / 2, size / 2);
         benchmark::DoNotOptimize(picture.Pixels());
     }
 }

@@ -84,7 +84,7 @@ BENCHMARK(RegionUnionOf200Ellipses)->Unit(benchmark::kMillisecond);
 void FillRoundedPlate(benchmark::State& state) {
     Bitmap bitmap(512, 512);
     DrawingContext context(bitmap);
-    context.SetPixelOffsetMode(PixelOffsetMode::Half);
+    context.SetPixelOffsetMode(PixelOffsetMode::HighQuality);
     context.SetSmoothingMode(state.range(0) ? SmoothingMode::AntiAlias : SmoothingMode::None);
     const Path plate = RoundedPlate();
     for (auto _ : state) {

@@ -10,11 +10,13 @@ namespace {
 void AdjustmentStep(benchmark::State& state) {
     EditorPage page(10, static_cast<int>(state.range(1)));
     const auto adjustment = static_cast<editing::Adjustment>(state.range(0));
-    editing::PressAdjustment(page.editor);
+    page.Step(editing::PressAdjustment);
     int position = 0;
-    for (auto _ : state)
-        editing::ChangeAdjustment(page.editor, adjustment, position = (position + 7) % 101);
-    editing::ReleaseAdjustment(page.editor, adjustment);
+    for (auto _ : state) {
+        position = (position + 7) % 101;
+        page.Step([&](editing::Editor& editor) { ChangeAdjustment(editor, adjustment, position); });
+    }
+    page.Step([&](editing::Editor& editor) { ReleaseAdjustment(editor, adjustment); });
 }
 BENCHMARK(AdjustmentStep)
     ->ArgsProduct({{0, 1, 2, 3}, {0, 5, 9}})
@@ -24,18 +26,24 @@ BENCHMARK(AdjustmentStep)
 void OpacityStep(benchmark::State& state) {
     EditorPage page(10, 5);
     int position = 0;
-    for (auto _ : state)
-        editing::ChangeOpacity(page.editor, position = (position + 7) % 101);
+    page.Step(editing::PressOpacity);
+    for (auto _ : state) {
+        position = (position + 7) % 101;
+        page.Step([&](editing::Editor& editor) { ChangeOpacity(editor, position); });
+    }
+    page.Step(editing::ReleaseOpacity);
 }
 BENCHMARK(OpacityStep)->Unit(benchmark::kMicrosecond);
 
 void ScaleStep(benchmark::State& state) {
     EditorPage page(10, 5);
-    editing::PressScale(page.editor);
+    page.Step(editing::PressScale);
     int position = 0;
-    for (auto _ : state)
-        editing::ChangeScale(page.editor, position = (position + 7) % 101);
-    editing::ReleaseScale(page.editor);
+    for (auto _ : state) {
+        position = (position + 7) % 101;
+        page.Step([&](editing::Editor& editor) { ChangeScale(editor, position); });
+    }
+    page.Step(editing::ReleaseScale);
 }
 BENCHMARK(ScaleStep)->Unit(benchmark::kMicrosecond);
 

@@ -8,16 +8,17 @@
 namespace {
 
 using orbelle::document::Document;
+using orbelle::document::Page;
 
 // Larger pages only cost time: nothing in composing them depends on their size.
 constexpr int kMaxComposedSide = 2048;
 
-void Compose(Document& document) {
-    if (document.PageWidth > kMaxComposedSide || document.PageHeight > kMaxComposedSide)
+void Compose(Page& page) {
+    if (page.Width > kMaxComposedSide || page.Height > kMaxComposedSide)
         return;
     orbelle::document::Compositor compositor;
     orbelle::graphics::Bitmap canvas;
-    compositor.Compose(document, orbelle::graphics::InterpolationMode::HighQuality, canvas);
+    compositor.Compose(page, orbelle::graphics::InterpolationMode::HighQuality, canvas);
 }
 
 }  // namespace
@@ -29,6 +30,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     } catch (const orbelle::Error&) {
         // The whole layers before the damage are in the document.
     }
-    Compose(document);
+    Compose(document.Master);
     return 0;
 }

@@ -106,13 +106,13 @@ bool AskSaveAs(const WindowContext& context) {
     return !path.empty() && MayOverwrite(context, path) && Write(context, path);
 }
 
-void AskExport(const WindowContext& context, const formats::ExportFormat& format) {
-    const fs::path path = context.User.AskFile(format.Filter, false);
+void AskExport(const WindowContext& context, const ExportEntry& entry) {
+    const fs::path path = context.User.AskFile(entry.Filter, false);
     if (path.empty() || !MayOverwrite(context, path))
         return;
     const Editor& editor = context.Commands.Editor();
     std::optional<int> threshold = editor.ExportSettings.GifThreshold;
-    if (format.FileType == formats::FileTypes::Gif &&
+    if (entry.Format == formats::ExportFormat::Gif &&
         graphics::AlphaOf(editor.Document.Background) == 0)
         threshold = context.User.AskGifThreshold(
             formats::DrawGifSurface(editor.Canvas, editor.Document.Background));
@@ -120,7 +120,7 @@ void AskExport(const WindowContext& context, const formats::ExportFormat& format
         return;
     const editing::Outcome outcome = context.Commands.Try([&](Editor& toExport) {
         toExport.ExportSettings.GifThreshold = *threshold;
-        ExportTo(toExport, path, format.FileType);
+        ExportTo(toExport, path, entry.Format);
     });
     if (outcome.Failed())
         context.User.ShowStatus(outcome.Problem());

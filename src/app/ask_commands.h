@@ -5,8 +5,8 @@
 #include <filesystem>
 #include <string_view>
 
+#include "app/export_formats.h"
 #include "app/window_actions.h"
-#include "formats/export_image.h"
 
 namespace orbelle::app {
 
@@ -14,7 +14,7 @@ namespace orbelle::app {
 void AskNew(const WindowContext& context);
 void AskOpen(const WindowContext& context);
 // What a command line or another copy of the program hands over: the first and last characters,
-// meant to be quotation marks, are cut unseen.
+// meant to be quotation marks, are cut unseen (docs/oddities.md, "Quotation marks").
 void OpenHandedOver(const WindowContext& context, std::string_view command);
 
 void AskImport(const WindowContext& context);
@@ -27,7 +27,7 @@ void ImportKnownFile(const WindowContext& context, const std::filesystem::path& 
 bool AskSave(const WindowContext& context);
 bool AskSaveAs(const WindowContext& context);
 
-void AskExport(const WindowContext& context, const formats::ExportFormat& format);
+void AskExport(const WindowContext& context, const ExportEntry& entry);
 
 // Before a changed document is given up: by New, Open, a hand-over, or closing the window. False:
 // the user wants to go back, or wanted to save and that did not happen.

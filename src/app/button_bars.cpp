@@ -39,7 +39,8 @@ const ButtonBarSetup kMainBar = {
                 {.IsSeparator = true},
                 {.Caption = "Website", .ToolTip = "Website", .Artwork = "main/website"}}};
 
-// The texts of 6 to 9 and the pictures are deliberately crossed: the pictures are right.
+// The texts of 6 to 9 and the pictures are crossed (docs/oddities.md, "Crossed tips"): the pictures
+// are right.
 const ButtonBarSetup kToolBox = {
     .Direction = Qt::Vertical,
     .Style = ButtonBarStyle::Win10,

@@ -21,7 +21,7 @@ QStringList NameFilters(const std::string& filter) {
 std::filesystem::path AskForFile(QWidget* parent, const std::string& filter, bool isOpen) {
     static constexpr char kLastFolder[] = "LastFolder";
     Settings settings;
-    // One title for all uses, deliberately also for saving.
+    // One title for all uses, also for saving (docs/oddities.md, "Open File...").
     QFileDialog dialog(parent, "Open File...", settings.value(kLastFolder).toString());
     dialog.setAcceptMode(isOpen ? QFileDialog::AcceptOpen : QFileDialog::AcceptSave);
     dialog.setFileMode(isOpen ? QFileDialog::ExistingFile : QFileDialog::AnyFile);

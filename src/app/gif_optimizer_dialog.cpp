@@ -8,15 +8,18 @@
 #include "app/gif_preview.h"
 #include "app/settings.h"
 #include "app/shared_image.h"
+#include "formats/gif_palette.h"
+#include "graphics/checkerboard.h"
 #include "widgets/number_slider.h"
 
 namespace orbelle::app {
 namespace {
 
 constexpr int kBox = 256;  // pixels a side of both previews
-constexpr int kSliderEnd = 150;
-constexpr int kTypedEnd = 200;  // what can be typed goes beyond the slider's track
-constexpr int kUsualValue = 130;
+constexpr int kWholeCells = kBox / graphics::kCheckerCell * graphics::kCheckerCell;
+constexpr graphics::Argb kWhite = graphics::MakeARGB(255, 255, 255, 255);
+constexpr graphics::Argb kChecker = graphics::MakeARGB(255, 235, 235, 235);
+constexpr int kSliderEnd = 150;  // a larger threshold can be typed
 constexpr char kSetting[] = "Optimize";
 constexpr char kHint[] =
     "You can input a new transparent value if you not satisfactory current transparent result.";
@@ -26,10 +29,9 @@ template <typename Draw>
 QPixmap PaintPreview(const Draw& draw) {
     graphics::Bitmap box(kBox, kBox);
     graphics::DrawingContext context(box);
-    context.SetInterpolationMode(graphics::InterpolationMode::LowQuality);
     context.SetPixelOffsetMode(graphics::PixelOffsetMode::HighQuality);
-    context.Clear(graphics::MakeARGB(255, 255, 255, 255));
-    DrawPreviewChecker(context, kBox, kBox);
+    context.Clear(kWhite);
+    DrawCheckerboard(box, {0, 0, kWholeCells, kWholeCells}, kWhite, kChecker);
     draw(context);
     return QPixmap::fromImage(SharedImage(box));
 }
@@ -99,13 +101,13 @@ GifOptimizerDialog::GifOptimizerDialog(const graphics::Bitmap& surface, QWidget*
 
     // A stored 0 is taken for none.
     const int stored = Settings().value(kSetting).toInt();
-    threshold_->SetValue(stored == 0 ? kUsualValue : stored);
+    threshold_->SetValue(stored == 0 ? formats::kUsualGifThreshold : stored);
     ShowResult();
     threshold_->setFocus();
 }
 
 int GifOptimizerDialog::OptimizeValue() const {
-    return std::clamp(threshold_->Value(), 0, kTypedEnd);
+    return std::clamp(threshold_->Value(), 0, formats::kMaxGifThreshold);
 }
 
 void GifOptimizerDialog::done(int result) {

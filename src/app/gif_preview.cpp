@@ -13,18 +13,6 @@ graphics::RectF PreviewRect(const graphics::Bitmap& image, int boxWidth, int box
                        box);
 }
 
-void DrawPreviewChecker(graphics::DrawingContext& context, int boxWidth, int boxHeight) {
-    constexpr int kCell = 5;
-    const graphics::SolidBrush brush{graphics::MakeARGB(20, 0, 0, 0)};
-    int start = kCell;
-    for (int y = 0; y <= boxHeight - kCell; y += kCell) {
-        for (int x = start; x <= boxWidth - kCell; x += 2 * kCell)
-            context.FillRectangle(brush,
-                                  {static_cast<float>(x), static_cast<float>(y), kCell, kCell});
-        start = kCell - start;
-    }
-}
-
 void DrawGifPreview(graphics::DrawingContext& context, const graphics::Bitmap& surface,
                     int boxWidth, int boxHeight, std::uint8_t threshold) {
     const auto indexed =

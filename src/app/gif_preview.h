@@ -13,9 +13,6 @@ namespace orbelle::app {
 // larger than the box is squeezed to the box, each on its own.
 graphics::RectF PreviewRect(const graphics::Bitmap& image, int boxWidth, int boxHeight);
 
-// Squares of 5 by 5 pixels of a faint black, the first row beginning with a gap; only whole ones.
-void DrawPreviewChecker(graphics::DrawingContext& context, int boxWidth, int boxHeight);
-
 // Draws the picture as a GIF with a transparent background and this threshold would show it, into
 // its PreviewRect and with the context's own settings.
 void DrawGifPreview(graphics::DrawingContext& context, const graphics::Bitmap& surface,

@@ -6,13 +6,13 @@
 #include <optional>
 
 #include "app/ask_commands.h"
+#include "app/export_formats.h"
 #include "app/links.h"
 #include "editing/clipboard_commands.h"
 #include "editing/stack_commands.h"
 #include "editing/style_commands.h"
 #include "editing/tool_palette.h"
 #include "editing/undo_commands.h"
-#include "formats/export_image.h"
 
 namespace orbelle::app {
 namespace {
@@ -43,9 +43,9 @@ Action Edit(editing::Command command) {
 std::vector<Entry> ExportEntries() {
     static constexpr const char* kNames[] = {"ExportIco", "ExportPng", "ExportGif", "ExportJpeg",
                                              "ExportBmp"};
-    static_assert(std::size(kNames) == std::size(formats::kExportFormats));
+    static_assert(std::size(kNames) == std::size(kExportEntries));
     std::vector<Entry> entries;
-    for (const formats::ExportFormat& format : formats::kExportFormats) {
+    for (const ExportEntry& format : kExportEntries) {
         entries.push_back(
             {kNames[entries.size()],
              QString("&") + format.Caption,

@@ -129,6 +129,7 @@ TrackSlider* RightPanel::AddSlider(QWidget& section, const char* caption,
     auto* text = new QLabel(caption);
     text->setFixedWidth(kCaptionWidth);
     auto* value = new QLabel;
+    value->setObjectName(QString(caption) + "Value");
     value->setFixedWidth(kValueWidth);
     value->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     auto* rows = static_cast<QGridLayout*>(section.layout());

@@ -1,6 +1,4 @@
 // The File menu, the settings of exports, and putting an icon together from files.
-#include <algorithm>
-#include <cctype>
 #include <utility>
 
 #include "cli/verb_table.h"
@@ -21,24 +19,6 @@ constexpr formats::IconFormat kIconFormats[] = {
 
 // Far more than an icon is good for, and what memory holds.
 constexpr std::size_t kMaxIconSizes = 256;
-
-constexpr int kMaxGifThreshold = 200;
-
-// The entry of the Export submenu with the path's extension among its patterns; null: none.
-const formats::ExportFormat* FindExportFormat(const fs::path& path) {
-    std::string extension = path.extension().string();
-    std::ranges::transform(extension, extension.begin(),
-                           [](unsigned char c) { return std::tolower(c); });
-    if (extension.empty())
-        return nullptr;
-    for (const formats::ExportFormat& format : formats::kExportFormats) {
-        const std::string_view filter = format.Filter;
-        const std::string patterns = std::string(filter.substr(filter.find('|') + 1)) + ";";
-        if (patterns.find("*" + extension + ";") != std::string::npos)
-            return &format;
-    }
-    return nullptr;
-}
 
 void RequireLayers(const Workspace& workspace, editing::CommandId command) {
     RequireDocument(workspace);
@@ -80,12 +60,12 @@ void Save(Workspace& workspace, const fs::path& path) {
 
 Action ReadExport(Words& words) {
     const fs::path path = words.Path("PATH");
-    const formats::ExportFormat* format = FindExportFormat(path);
+    const auto format = formats::FindExportFormat(path);
     if (!format)
         throw UsageError("PATH must end in .ico, .png, .gif, .jpg, .jpeg or .bmp");
     return [=](Workspace& workspace) {
         RequireLayers(workspace, editing::CommandId::Export);
-        workspace.Run([&](Editor& editor) { ExportTo(editor, path, format->FileType); });
+        workspace.Run([&](Editor& editor) { ExportTo(editor, path, *format); });
     };
 }
 
@@ -113,7 +93,7 @@ Action ReadIconFormat(Words& words) {
 }
 
 Action ReadGifThreshold(Words& words) {
-    return [threshold = words.Integer("T", 0, kMaxGifThreshold)](Workspace& workspace) {
+    return [threshold = words.Integer("T", 0, formats::kMaxGifThreshold)](Workspace& workspace) {
         workspace.Editor.ExportSettings.GifThreshold = threshold;
     };
 }

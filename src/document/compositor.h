@@ -17,8 +17,9 @@ public:
     // Draws the visible layers, bottom first, source-over with their opacity, into `canvas`, which
     // has the page's size afterwards; a page side below 1 is first set to 1. A
     // visible layer whose lower neighbour has ClipNextLayer is cut to that one's plate (whose Path
-    // is rebuilt in the page), and so are all layers above it. The canvas must not be drawn on
-    // by others between two calls.
+    // is rebuilt in the page), and so are all layers above it
+    // (docs/oddities.md, "Plates cut what follows"). The canvas must not be drawn on by others
+    // between two calls.
     void Compose(Page& page, graphics::InterpolationMode interpolation, graphics::Bitmap& canvas);
 
 private:

@@ -21,7 +21,7 @@ struct IconLayer {
     graphics::Bitmap Image;    // straight alpha; empty: draws nothing
     graphics::Region Region;   // the visible pixels in page pixels; null: none
     graphics::RectF Rect;      // place and size on the page, page pixels
-    graphics::RectF BaseRect;  // what the scale slider works from
+    graphics::RectF BaseRect;  // Rect when made or last scaled; only the file has a use for it
     int ScaleValue = 0;        // -50 to 50: the scale slider shows it + 50
     int ImageWidth = 0;        // the part of Image that is drawn, from its top left corner
     int ImageHeight = 0;

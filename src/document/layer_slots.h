@@ -6,7 +6,7 @@
 namespace orbelle::document {
 
 // Which size the layers that move up get when their pictures are copied: the fields ImageWidth and
-// ImageHeight, or the rounded size of Rect (deliberately different for empty layers).
+// ImageHeight, or, for an empty layer, the rounded size of Rect (docs/oddities.md, "Making room").
 enum class SlotCopySize { Image, Rect };
 
 // Opens a slot directly above the selected layer, or on top when none is selected, and selects it.
@@ -21,7 +21,8 @@ IconLayer& OpenLayerSlot(Page& page, SlotCopySize size);
 void MakeImageLayer(const Page& page, IconLayer& layer, const graphics::Bitmap& image);
 
 // Fills the layer as a new transparent one: Rect, ImageWidth and ImageHeight follow width and
-// height, the picture is always of the page's size. The Region stays as it was.
+// height, the picture is always of the page's size. The Region stays as it was
+// (docs/oddities.md, "Blank pictures").
 void MakeEmptyLayer(const Page& page, IconLayer& layer, float width, float height);
 
 }  // namespace orbelle::document

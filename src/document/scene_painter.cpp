@@ -4,6 +4,7 @@
 #include <cmath>
 #include <vector>
 
+#include "graphics/checkerboard.h"
 #include "graphics/drawing_context.h"
 
 namespace orbelle::document {
@@ -14,27 +15,9 @@ namespace {
 
 constexpr Argb kCheckerLight = MakeARGB(255, 255, 255, 255);
 constexpr Argb kCheckerDark = MakeARGB(255, 240, 240, 240);
-constexpr int kCheckerCell = 5;  // scene pixels, whatever the zoom
 constexpr Argb kPageShadow = MakeARGB(255, 128, 128, 128);
 constexpr float kShadowWidth = 20;
 constexpr Argb kPageFrame = MakeARGB(200, 0, 0, 0);
-
-// The checkerboard over the pixels of the rectangle, its first dark cell in the top left corner.
-void DrawChecker(Bitmap& scene, const RectF& rect) {
-    const RectI cells{static_cast<int>(std::ceil(rect.X)), static_cast<int>(std::ceil(rect.Y)),
-                      static_cast<int>(rect.Width), static_cast<int>(rect.Height)};
-    const RectI shown = Intersect(cells, {0, 0, scene.Width(), scene.Height()});
-    // A row of cells and the one below it begin one cell apart in the same pattern.
-    std::vector<Argb> pattern(static_cast<std::size_t>(shown.Width + kCheckerCell));
-    for (int i = 0; i < shown.Width + kCheckerCell; ++i) {
-        const int column = (shown.X - cells.X + i) / kCheckerCell;
-        pattern[static_cast<std::size_t>(i)] = column % 2 == 0 ? kCheckerDark : kCheckerLight;
-    }
-    for (int y = shown.Y; y < shown.Y + shown.Height; ++y) {
-        const int start = (y - cells.Y) / kCheckerCell % 2 * kCheckerCell;
-        std::copy_n(pattern.data() + start, shown.Width, scene.MutableRow(y) + shown.X);
-    }
-}
 
 struct PagePlace {
     float Left = 0;  // scene pixels
@@ -56,7 +39,10 @@ void DrawPageBackground(Bitmap& scene, Argb background, const RectF& page, float
     if (background != 0)
         context.FillRectangle(SolidBrush{background}, page);
     else
-        DrawChecker(scene, page);
+        DrawCheckerboard(scene,
+                         {static_cast<int>(std::ceil(page.X)), static_cast<int>(std::ceil(page.Y)),
+                          static_cast<int>(page.Width), static_cast<int>(page.Height)},
+                         kCheckerDark, kCheckerLight);
     const SolidBrush shadow{kPageShadow};
     context.FillRectangle(shadow,
                           {page.X + page.Width - halfZoom, page.Y, kShadowWidth, page.Height});
@@ -80,7 +66,8 @@ void DrawScene(Bitmap& scene, const Bitmap& canvas, Argb background, const View&
     const auto pageWidth = static_cast<float>(width);
     const auto pageHeight = static_cast<float>(height);
 
-    // The background deliberately lies half a page pixel to the lower right of the picture.
+    // The background lies half a page pixel to the lower right of the picture
+    // (docs/oddities.md, "Half a pixel").
     const auto halfZoom = static_cast<float>(RoundToEven(view.Zoom / 2));
     DrawPageBackground(scene, background, {left + halfZoom, top + halfZoom, pageWidth, pageHeight},
                        halfZoom);

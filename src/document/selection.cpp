@@ -108,8 +108,8 @@ TakenOut Selection::TakeOut(Bitmap& image, int imageWidth, int imageHeight, int 
                                             image, {place.X, place.Y, width, height});
         RectI& area = result.Area;
         area = Bounds();
-        // Deliberately without a look at the left and top: a selection that crosses the right or
-        // bottom edge of the page is refused.
+        // Without a look at the left and top: a selection that crosses the right or bottom edge of
+        // the page is refused (docs/oddities.md, "Over the page's edge").
         area.Width = std::min(area.Width, pageWidth);
         area.Height = std::min(area.Height, pageHeight);
         result.Image = selected.CloneArea(area.X, area.Y, area.Width, area.Height);

@@ -11,7 +11,7 @@
 namespace orbelle::document {
 
 // The box between the press point (x1, y1) and the pointer (x2, y2) of a drag in any direction.
-// Horizontal coordinates below 0 count as 0; vertical ones deliberately don't.
+// Horizontal coordinates below 0 count as 0; vertical ones don't (docs/oddities.md, "Left of 0").
 graphics::RectF NormalizeRect(float x2, float y2, float x1, float y1);
 
 enum class FrameShape { Rectangle = 0, Ellipse = 1 };

@@ -25,7 +25,8 @@ struct View {
 // The number as text with one decimal reads: rounded to tenths, halves away from zero.
 double RoundToTenth(double value);
 
-// Value / Max in tenths: scrolling has eleven positions. 0 when Max is 0.
+// Value / Max in tenths: scrolling has eleven positions (docs/oddities.md, "Eleven positions"). 0
+// when Max is 0.
 double ScrollRatio(const ScrollBar& bar);
 
 // Where the page's top left corner lies, in scene pixels:

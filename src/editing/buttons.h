@@ -19,7 +19,7 @@ enum {
     Website = 13
 };
 }
-namespace tool_buttons {  // the tool tips of 6 to 9 are crossed
+namespace tool_buttons {  // the tool tips of 6 to 9 are crossed (docs/oddities.md)
 enum {
     Move = 1,
     Selection,

@@ -11,9 +11,10 @@ namespace {
 
 constexpr int kLeastZoomPercent = 20;
 
-class Work {
+// Fills the table of states, topic by topic.
+class StateTable {
 public:
-    Work(const Editor& editor, bool clipboardHasPicture) : editor_(editor) {
+    StateTable(const Editor& editor, bool clipboardHasPicture) : editor_(editor) {
         EnableFileCommands();
         EnableEditCommands(clipboardHasPicture);
         EnableStyles();
@@ -121,7 +122,7 @@ private:
 }  // namespace
 
 ControlStates StatesOf(const Editor& editor, bool clipboardHasPicture) {
-    return Work(editor, clipboardHasPicture).States();
+    return StateTable(editor, clipboardHasPicture).States();
 }
 
 void EnableSliders(Editor& editor) {

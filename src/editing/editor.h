@@ -48,7 +48,6 @@ struct EditorState {
 
     document::Selection Selection;
     std::vector<graphics::PointF> PolygonPoints;  // of an open polygon, page pixels
-    editing::Drag Drag;
 
     document::View View;
     ZoomState Zoom;
@@ -57,6 +56,7 @@ struct EditorState {
     editing::Overlays Overlays;
     formats::ExportSettings ExportSettings;
     graphics::PointF LastPointer;  // the last move on the scene, scene pixels
+    editing::Drag Drag;
 
     // The page that is being edited.
     document::Page& Page() { return Document.Current(); }

@@ -9,6 +9,6 @@ namespace orbelle::editing {
 
 // Writes the composed page as a file of another kind, by Editor::ExportSettings; their GIF
 // threshold counts for pages without a background. Throws Error when nothing could be written.
-void ExportTo(Editor& editor, const std::filesystem::path& path, formats::FileTypes fileType);
+void ExportTo(Editor& editor, const std::filesystem::path& path, formats::ExportFormat format);
 
 }  // namespace orbelle::editing

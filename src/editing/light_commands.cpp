@@ -34,7 +34,8 @@ void Reflection(Editor& editor) {
     if (!picture.Image.IsEmpty())
         layer.Image = picture.Image;
     const float below = source.Rect.Height + source.Rect.Y;
-    // Deliberately lower than the picture, which takes the margin into account.
+    // Lower than the picture, which takes the margin into account
+    // (docs/oddities.md, "Regions of light and shade").
     filters::RebuildRegion(layer.Region, layer.Image, {source.Rect.X, below});
     layer.Opacity = kReflectionOpacity;
     FillRect(layer, source.Rect.X, below - 2 * static_cast<float>(picture.Margin) + 1);
@@ -46,7 +47,8 @@ void Shade(Editor& editor) {
     if (!editor.Page().HasSelection())
         return;
     const auto [layer, source] = OpenOverlay(editor);
-    // The region deliberately stays what making room left: that of the source.
+    // The region stays what making room left: that of the source
+    // (docs/oddities.md, "Regions of light and shade").
     if (!source.Image.IsEmpty())
         layer.Image = filters::GradientBlack(source.Image);
     layer.Opacity = kShadeOpacity;
@@ -66,7 +68,7 @@ void DropShadow(Editor& editor) {
     shadow.Rect.X += 1;
     shadow.Rect.Y += 1;
     filters::RebuildRegion(shadow.Region, shadow.Image, {shadow.Rect.X, shadow.Rect.Y});
-    // BaseRect deliberately stays the source's.
+    // BaseRect stays the source's (docs/oddities.md, "Box of a shadow").
     shadow.Rect.Width += 2 * kRadius;
     shadow.Rect.Height += 2 * kRadius;
     shadow.ImageWidth = graphics::RoundToEven(shadow.Rect.Width);

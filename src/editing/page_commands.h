@@ -1,4 +1,5 @@
-// Page size and page background. None of these is an undo step or marks the document as changed.
+// Page size and page background. None of these is an undo step or marks the document as changed
+// (docs/oddities.md, "Without undo").
 #pragma once
 
 #include "editing/editor.h"

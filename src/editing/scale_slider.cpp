@@ -12,8 +12,8 @@ using graphics::RectF;
 
 namespace {
 
-// The shorter side follows the longer one by the ratio of the present Rect, which deliberately
-// drifts a little over a long drag.
+// The shorter side follows the longer one by the ratio of the present Rect, which drifts a little
+// over a long drag (docs/oddities.md, "Drifting proportions").
 void ScaleRect(RectF& rect, const RectF& start, int step) {
     const double width = rect.Width;
     const double height = rect.Height;

@@ -67,7 +67,8 @@ void FloatSelection(Editor& editor) {
     IconLayer& layer = page.Selected();
     IconLayer& below = page.Layers[static_cast<std::size_t>(page.SelectedLayer) - 1];
     below.Image = rest;
-    // What lies partly off the page is deliberately lost: the layer stays blank.
+    // What lies partly off the page is lost: the layer stays blank
+    // (docs/oddities.md, "Over the page's edge").
     if (!floated.Image.IsEmpty())
         layer.Image = floated.Image;
     document::PlaceAt(layer, floated.Area);

@@ -17,8 +17,8 @@ document::IconLayer CopyOfSelectedPixels(const Editor& editor);
 void DeleteSelection(Editor& editor);
 
 // Cuts the selected pixels into a new layer above the selected one, or on top and out of the top
-// layer when none is selected; the selection ends. Deliberately two undo steps. Needs a selection
-// and a layer.
+// layer when none is selected; the selection ends. Needs a selection and a layer. Two undo steps
+// (docs/oddities.md, "Two undo steps").
 void FloatSelection(Editor& editor);
 
 }  // namespace orbelle::editing

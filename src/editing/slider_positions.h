@@ -5,7 +5,8 @@
 
 namespace orbelle::editing {
 
-// Sets the adjustment sliders; all labels but the hue's deliberately read 0 whatever they hold.
+// Sets the adjustment sliders; all labels but the hue's read 0 whatever they hold
+// (docs/oddities.md, "Labels at 0").
 void SetAdjustSliders(Editor& editor, int hue, int brightness, int saturation, int contrast);
 void SetAdjustSlidersNeutral(Editor& editor);
 

@@ -14,15 +14,15 @@ void SetLayerOrder(Editor& editor, LayerOrder order);
 
 enum class FlipRotate { FlipHorizontal = 0, FlipVertical = 1, Rotate90Cww = 2, Rotate90Cw = 3 };
 
-// Rotate90Cww deliberately mirrors too. A rotation deliberately leaves Rect, ImageWidth and
-// ImageHeight as they are.
+// Rotate90Cww mirrors too, and a rotation leaves Rect, ImageWidth and ImageHeight as they are
+// (docs/oddities.md, "Quarter turns").
 void FlipRotateLayer(Editor& editor, FlipRotate mode);
 
 // Removes the selected layer and selects the one below it (the lowest when there is none).
 void DeleteLayer(Editor& editor);
 
-// The selected layer and the one below it become one. Needs a layer below. Deliberately two undo
-// steps. Throws Error for layers too far apart for one picture.
+// The selected layer and the one below it become one. Needs a layer below. Two undo steps
+// (docs/oddities.md, "Two undo steps"). Throws Error for layers too far apart for one picture.
 void MergeDown(Editor& editor);
 
 }  // namespace orbelle::editing

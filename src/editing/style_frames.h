@@ -8,8 +8,8 @@
 
 namespace orbelle::editing {
 
-// Most overlay styles take an undo step of their own besides the one that making room takes, which
-// is deliberate; Vista does not.
+// Most overlay styles take an undo step of their own besides the one that making room takes; Vista
+// does not (docs/oddities.md, "Two undo steps").
 enum class OverlayUndo { TwoSteps, OneStep };
 
 struct OverlayLayers {

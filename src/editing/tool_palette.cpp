@@ -80,12 +80,13 @@ void ChooseTool(Editor& editor, Tool tool) {
 
 void ClickToolButton(Editor& editor, int button) {
     const int inUse = ButtonOf(editor.Tools.InUse);
+    const Popup open = editor.Tools.OpenPopup;
     ChooseToolByKey(editor, button);
     if (ButtonOf(editor.Tools.InUse) != button)
         return;
     // A pop-up opens with its button and closes with the next click on it.
     const Popup popup = PopupOf(editor.Tools.InUse);
-    const bool closes = button == inUse && editor.Tools.OpenPopup == popup;
+    const bool closes = button == inUse && open == popup;
     editor.Tools.OpenPopup = closes ? Popup::None : popup;
 }
 

@@ -123,7 +123,7 @@ void ZoomIn(Editor& editor) {
     double& zoom = editor.View.Zoom;
     zoom += zoom < 1 ? 0.2 : 2;
     if (zoom >= editor.Zoom.Maximum) {
-        // Deliberately without a redraw: the last step shows with the next change.
+        // The last step shows with the next change (docs/oddities.md, "The last zoom step").
         zoom = editor.Zoom.Maximum;
         return;
     }
@@ -136,7 +136,7 @@ void ZoomOut(Editor& editor) {
         return;
     editor.Zoom.IsOriginalSize = false;
     double& zoom = editor.View.Zoom;
-    // Deliberately reaches 0 and goes below it: the page is then empty.
+    // Reaches 0 and goes below it; the page is then empty (docs/oddities.md, "Zoom 0").
     zoom -= zoom >= 2 || zoom <= 0 ? 2 : 0.2;
     FitBars(editor, true);
     editor.Changed.Scene = true;

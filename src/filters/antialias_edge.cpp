@@ -43,7 +43,7 @@ private:
         const int sideX = x + static_cast<int>(side);
         if (!IsCorner(x, stepRow, sideX, y))
             return;
-        // Steps above deliberately start with whatever end the last notch left.
+        // Steps above start with whatever end the last notch left (docs/oddities.md, "Notches").
         if (step == Step::Below)
             end_ = x;
         if (FindEnd(x, y, step, side))

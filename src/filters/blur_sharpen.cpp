@@ -5,9 +5,6 @@
 #include <cstdint>
 #include <vector>
 
-#include "filters/neighborhood.h"
-#include "graphics/geometry.h"
-
 namespace orbelle::filters {
 namespace {
 
@@ -17,7 +14,6 @@ using namespace graphics;
 // alpha. So whole pixels are added and multiplied at once.
 using Lanes = std::uint64_t;
 constexpr int kColorLanes = 3;
-constexpr int kAllLanes = 4;
 
 constexpr Lanes ToLanes(Argb color) {
     return (color & 0x00FF00FF) | Lanes{color & 0xFF00FF00} << 24;
@@ -83,29 +79,6 @@ std::vector<std::uint8_t> MakeQuotients(int lowest, int highest, int divisor) {
     return quotients;
 }
 
-// The mean of each inner pixel, counted `own` times, and its four direct neighbours, in the first
-// `kLanes` lanes.
-template <int kLanes>
-void BlurCross(Bitmap& image, int own) {
-    const int width = image.Width();
-    const auto quotients = MakeQuotients(0, 255 * (own + 4), own + 4);
-    for (int y = 1; y + 1 < image.Height(); ++y) {
-        Argb* row = image.MutableRow(y);
-        const Argb* above = row - width;
-        const Argb* below = row + width;
-        Lanes left = ToLanes(row[0]);
-        for (int x = 1; x + 1 < width; ++x) {
-            const Lanes here = ToLanes(row[x]);
-            const Lanes sums =
-                here * own + ToLanes(row[x + 1]) + left + ToLanes(above[x]) + ToLanes(below[x]);
-            left = kLanes == kAllLanes ? 0 : here & Lanes{0xFFFF} << 48;
-            for (int i = 0; i < kLanes; ++i)
-                left |= Lanes{quotients[Lane(sums, i)]} << 16 * i;
-            row[x] = ToColor(left);
-        }
-    }
-}
-
 }  // namespace
 
 void Soften(Bitmap& image, int level) {
@@ -154,12 +127,6 @@ void Soften(Bitmap& image, int level) {
     }
 }
 
-void Smooth(Bitmap& image, int level) {
-    constexpr int kLastWithoutEffect = 75;
-    if (level > kLastWithoutEffect)
-        BlurCross<kAllLanes>(image, 101 - std::min(level, 100));
-}
-
 void Sharpen(Bitmap& image, int level) {
     const int width = image.Width();
     const int height = image.Height();
@@ -191,25 +158,6 @@ void Sharpen(Bitmap& image, int level) {
             row[x] = (row[x] & 0xFF000000) | left[1] << 16 | left[2] << 8 | left[0];
             cornersLeft = columnHere - here;
             columnHere = columnRight;
-        }
-    }
-}
-
-void OutLine(Bitmap& image, int level, int offset) {
-    BlurCross<kColorLanes>(image, 1);
-
-    const std::int64_t strength = RoundToEven(level / -50.0);
-    const auto channel = [=](std::int64_t value, std::int64_t most) {
-        const std::int64_t result = value - (most - value) * strength + offset;
-        return static_cast<unsigned>(std::clamp<std::int64_t>(result, 0, 255));
-    };
-    for (int y = 1; y + 1 < image.Height(); ++y) {
-        Argb* row = image.MutableRow(y);
-        for (int x = 1; x + 1 < image.Width(); ++x) {
-            const Argb most = LargestChannels(row - image.Width() + x - 1, image.Width(), 3, 3);
-            row[x] = MakeARGB(AlphaOf(row[x]), channel(RedOf(row[x]), RedOf(most)),
-                              channel(GreenOf(row[x]), GreenOf(most)),
-                              channel(BlueOf(row[x]), BlueOf(most)));
         }
     }
 }

@@ -1,9 +1,9 @@
 // Blur and sharpen: filters that look at the eight neighbours of a pixel.
 //
-// All of them work in place in one pass, row by row from the top left, and deliberately read what
-// they have already rewritten: that feedback to the right and downward is part of their strength.
-// An empty bitmap stays empty. `level` is a strength from 0 to 100, what lies beyond is taken as
-// the nearer end.
+// All of them work in place in one pass, row by row from the top left, and read what they have
+// already rewritten: that feedback to the right and downward is part of their strength
+// (docs/oddities.md, "Blur runs on"). An empty bitmap stays empty. `level` is a strength from 0 to
+// 100, what lies beyond is taken as the nearer end.
 #pragma once
 
 #include "graphics/bitmap.h"
@@ -19,17 +19,8 @@ inline constexpr int kSharpenLevel = 80;
 // centre, not as neighbours.
 void Soften(graphics::Bitmap& image, int level);
 
-// The mean of the pixel, 101 - level times, and its four direct neighbours, alpha included,
-// rounded down. The border pixels stay; up to level 75 all of them do.
-void Smooth(graphics::Bitmap& image, int level);
-
 // ((109 - level) c - the sum of the eight neighbours) / (101 - level), within 0 to 255, rounded
 // down. Alpha and the border pixels stay. Level 100 is the strongest.
 void Sharpen(graphics::Bitmap& image, int level);
-
-// Blurs with the four direct neighbours, then moves each channel away from the largest value of its
-// neighbourhood by -level / 50 (rounded to a whole number) times the distance and adds `offset`.
-// Any level and offset; alpha and the border pixels stay.
-void OutLine(graphics::Bitmap& image, int level, int offset);
 
 }  // namespace orbelle::filters

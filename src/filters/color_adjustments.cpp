@@ -18,7 +18,8 @@ std::span<Argb> PixelsOf(graphics::Bitmap& image) {
     return {image.MutablePixels(), static_cast<std::size_t>(image.Width()) * image.Height()};
 }
 
-// The ends take one colour whole; between them the two deliberately make up 255 of 256.
+// Of the first colour and of the second, which is mixed in by t of 255 (-255 to 255). The ends take
+// one colour whole; between them the two make up 255 of 256 (docs/oddities.md, "255 of 256").
 MixWeights WeightsOf(int t) {
     if (t == 0)
         return {256, 0};
@@ -42,11 +43,6 @@ constexpr std::array<ChannelMix, 7> kSectors = {{
 
 }  // namespace
 
-int ShadeColors(int a, int b, int t) {
-    const MixWeights weights = WeightsOf(t);
-    return (weights.First * a + weights.Second * b) / 256;
-}
-
 void HueColor(graphics::Bitmap& image, float hue) {
     const double limited = hue > 0 ? std::min(double{hue}, 350.0) : 0;  // not-a-number too is 0
     const int sector = std::min(graphics::RoundToEven(limited / 50), 6);
@@ -66,11 +62,6 @@ void BrightnessColor(graphics::Bitmap& image, double contrast, double brightness
         table[c] = static_cast<std::uint8_t>(std::clamp(graphics::RoundToEven(value), 0, 255));
     }
     graphics::ApplyToColors(table, PixelsOf(image));
-}
-
-void Negative(graphics::Bitmap& image) {
-    for (Argb& pixel : PixelsOf(image))
-        pixel ^= 0x00FFFFFF;
 }
 
 }  // namespace orbelle::filters

@@ -1,19 +1,14 @@
-// The slider adjustments: hue, saturation, brightness with contrast; and the negative. All change
-// the picture in place, transparent pixels like any other, and keep alpha. On an empty picture
-// nothing happens.
+// The slider adjustments: hue, saturation, brightness with contrast. All change the picture in
+// place, transparent pixels like any other, and keep alpha. On an empty picture nothing happens.
 #pragma once
 
 #include "graphics/bitmap.h"
 
 namespace orbelle::filters {
 
-// ((255 - t) a + t b) / 256, the remainder dropped toward zero; a for t = 0 and b for t = 255. So
-// a mix of 255 with 255 is 254: deliberately so. a and b are 0 to 255, t is -255 to 255 and may
-// carry the result out of the range of a byte.
-int ShadeColors(int a, int b, int t);
-
 // Turns the hue by `hue` of 350, limited to 0..350; 0 leaves the picture as it is. No true
-// rotation: each seventh of the range exchanges the channels and mixes two of them.
+// rotation: each seventh of the range exchanges the channels and mixes two of them
+// (docs/oddities.md, "Hue in sevenths").
 void HueColor(graphics::Bitmap& image, float hue);
 
 // Hundredths: -100 pulls every colour to its average grey, 0 leaves it, above pushes it away.
@@ -21,8 +16,5 @@ void SaturationColor(graphics::Bitmap& image, int level);
 
 // (c - 128) contrast + 128 + brightness, rounded to nearest (ties to even), limited to 0..255.
 void BrightnessColor(graphics::Bitmap& image, double contrast, double brightness);
-
-// 255 - c.
-void Negative(graphics::Bitmap& image);
 
 }  // namespace orbelle::filters

@@ -4,8 +4,6 @@
 #include <cstddef>
 #include <vector>
 
-#include "filters/neighborhood.h"
-#include "filters/rounding.h"
 #include "graphics/drawing_context.h"
 
 namespace orbelle::filters {
@@ -15,6 +13,21 @@ using namespace graphics;
 
 constexpr unsigned kDarkenBelow = 100;
 constexpr unsigned kEmphasizeBelow = 150;
+constexpr int kEmphasisOffset = 5;
+
+// The largest blue, green and red of a block of pixels whose rows are `stride` pixels apart, as a
+// colour of alpha 0.
+Argb LargestChannels(const Argb* topLeft, std::ptrdiff_t stride, int columns, int rows) {
+    Argb red = 0, green = 0, blue = 0;
+    for (int y = 0; y < rows; ++y, topLeft += stride) {
+        for (int x = 0; x < columns; ++x) {
+            red = std::max(red, topLeft[x] & 0x00FF0000);
+            green = std::max(green, topLeft[x] & 0x0000FF00);
+            blue = std::max(blue, topLeft[x] & 0x000000FF);
+        }
+    }
+    return red | green | blue;
+}
 
 // The top left pixels of a bitmap, as far as it reaches.
 class ReliefArea {
@@ -33,15 +46,16 @@ public:
         });
     }
 
-    void EmphasizeEdge(float strength) {
-        ForEachEdgePixel(kEmphasizeBelow, [=, this](Argb& pixel, int x, int y) {
+    void EmphasizeEdge() {
+        ForEachEdgePixel(kEmphasizeBelow, [this](Argb& pixel, int x, int y) {
             const int left = std::max(x - 1, 0);
             const int top = std::max(y - 1, 0);
             const Argb largest =
                 LargestChannels(pixels_ + top * stride_ + left, stride_,
                                 std::min(x + 2, width_) - left, std::min(y + 2, height_) - top);
-            const auto channel = [strength](unsigned value, unsigned most) {
-                return RoundToByte(double(value) - double(strength) * (double(most) - value) + 5);
+            const auto channel = [](unsigned value, unsigned most) {
+                const int moved = static_cast<int>(2 * value - most) + kEmphasisOffset;
+                return static_cast<unsigned>(std::clamp(moved, 0, 255));
             };
             pixel = MakeARGB(AlphaOf(pixel), channel(RedOf(pixel), RedOf(largest)),
                              channel(GreenOf(pixel), GreenOf(largest)),
@@ -73,7 +87,7 @@ private:
         }
     }
 
-    // Five terms by six: deliberately darker than their mean.
+    // Five terms by six: darker than their mean (docs/oddities.md, "Five sixths").
     Argb Darkened(const Argb* pixel) const {
         unsigned red = 0, green = 0, blue = 0;
         for (const Argb color : {pixel[0], pixel[1], pixel[-1], pixel[stride_], pixel[-stride_]}) {
@@ -92,21 +106,15 @@ private:
 
 }  // namespace
 
-void CreatePath(Bitmap& image, int width, int height, int level) {
-    Bitmap relief(width, height);
-    DrawingContext(relief).DrawImageRect(image, {1, 1, static_cast<float>(image.Width() - 2),
-                                                 static_cast<float>(image.Height() - 2)});
-    ReliefArea area(relief, image.Width(), image.Height());
-    area.DarkenEdge();
-    area.EmphasizeEdge(static_cast<float>(level / -50.0));
-    image = relief;
-}
-
 StylePicture FreshStyle(const Bitmap& image, int pageWidth, int pageHeight) {
-    constexpr int kLevel = -50;
-    StylePicture result{image, 0, 0, image.Width(), image.Height()};
-    CreatePath(result.Image, pageWidth, pageHeight, kLevel);
-    return result;
+    StylePicture relief{Bitmap(pageWidth, pageHeight), 0, 0, image.Width(), image.Height()};
+    DrawingContext(relief.Image)
+        .DrawImageRect(image, {1, 1, static_cast<float>(image.Width() - 2),
+                               static_cast<float>(image.Height() - 2)});
+    ReliefArea area(relief.Image, image.Width(), image.Height());
+    area.DarkenEdge();
+    area.EmphasizeEdge();
+    return relief;
 }
 
 }  // namespace orbelle::filters

@@ -10,13 +10,9 @@ using graphics::AlphaOf;
 using graphics::Argb;
 using graphics::SetAlphaByte;
 
-void EraseColor(graphics::Bitmap& image, int x, int y, int level) {
-    const auto color = image.GetPixel(x, y);
-    if (!color)
-        return;
-    const int alpha = graphics::RoundToEven(level / 100.0 * AlphaOf(*color));
-    if (alpha >= 0 && alpha <= 255)
-        image.SetPixel(x, y, SetAlphaByte(*color, static_cast<unsigned>(alpha)));
+void EraseColor(graphics::Bitmap& image, int x, int y) {
+    if (const auto color = image.GetPixel(x, y))
+        image.SetPixel(x, y, SetAlphaByte(*color, 0));
 }
 
 void EraseTool(graphics::Bitmap& image, int x, int y, int size, int level) {

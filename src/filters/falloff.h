@@ -19,8 +19,8 @@ struct Falloff {
     std::int64_t Radius = 0;
 
     // Calls change(pixel, strength) for every such pixel inside the picture: strength is 1 in the
-    // centre and falls evenly towards 0 at the radius. A picture one pixel wide or high is
-    // deliberately left alone.
+    // centre and falls evenly towards 0 at the radius. A picture one pixel wide or high is left
+    // alone (docs/oddities.md, "One pixel wide").
     template <class Change>
     void Apply(graphics::Bitmap& image, Change change) const {
         const std::int64_t left = std::max<std::int64_t>(X - Radius, 0);

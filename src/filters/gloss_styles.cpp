@@ -14,8 +14,7 @@ namespace {
 Bitmap PaintShape(const Bitmap& image, const Region& shape, const RectF& bounds, Argb color1,
                   Argb color2, LinearGradientMode mode) {
     Bitmap work(image.Width(), image.Height());
-    if (const auto brush =
-            CreateLineBrushFromRect(bounds, color1, color2, mode, WrapMode::TileFlipY)) {
+    if (const auto brush = CreateLineBrushFromRect(bounds, color1, color2, mode)) {
         DrawingContext context(work);
         context.SetPixelOffsetMode(PixelOffsetMode::HighQuality);
         context.FillRegion(*brush, shape);

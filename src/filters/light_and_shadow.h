@@ -18,7 +18,7 @@ graphics::Bitmap GradientBlack(const graphics::Bitmap& image);
 
 // The picture's alpha, blurred over squares of 2 x radius + 1 pixels, in black; `radius` (0 and up)
 // pixels larger on every side, while the shape keeps its place at the top left. The centre of a
-// square deliberately counts twice. Empty for a size that no bitmap has.
+// square counts twice (docs/oddities.md, "Heavy centres"). Empty for a size that no bitmap has.
 graphics::Bitmap Shadow(const graphics::Bitmap& image, int radius);
 
 }  // namespace orbelle::filters

@@ -6,8 +6,8 @@
 namespace orbelle::filters {
 
 // Eight Bézier segments from (x, y) over width x height. A side shorter than twice the radius is
-// overshot. Odd radii deliberately give the top right corner another curve than the rest, because
-// half the radius is a whole number there.
+// overshot. Half the radius is a whole number at the top right, so that odd radii give that corner
+// another curve than the rest (docs/oddities.md, "The plate's corners").
 graphics::Path RoundShape(float x, float y, float width, float height, int radius);
 
 // The plate under a picture: the radius is a sixth of the smaller side, remainder dropped.

@@ -1,13 +1,14 @@
 #include "formats/export_image.h"
 
 #include <algorithm>
+#include <cctype>
 #include <cmath>
 #include <cstdlib>
 #include <exception>
-#include <stdexcept>
 #include <string>
+#include <string_view>
+#include <utility>
 
-#include "formats/gif_palette.h"
 #include "graphics/codecs/image_files.h"
 #include "graphics/drawing_context.h"
 #include "graphics/errors.h"
@@ -66,7 +67,23 @@ void ExportIcon(const fs::path& path, const Bitmap& page, const ExportSettings& 
     }
 }
 
+constexpr std::pair<std::string_view, ExportFormat> kExtensions[] = {
+    {".ico", ExportFormat::Ico},  {".png", ExportFormat::Png},   {".gif", ExportFormat::Gif},
+    {".jpg", ExportFormat::Jpeg}, {".jpeg", ExportFormat::Jpeg}, {".bmp", ExportFormat::Bmp},
+};
+
 }  // namespace
+
+std::optional<ExportFormat> FindExportFormat(const fs::path& path) {
+    std::string extension = path.extension().string();
+    std::ranges::transform(extension, extension.begin(),
+                           [](unsigned char c) { return std::tolower(c); });
+    const auto* found = std::ranges::find(kExtensions, extension,
+                                          &std::pair<std::string_view, ExportFormat>::first);
+    if (found == std::end(kExtensions))
+        return std::nullopt;
+    return found->second;
+}
 
 std::vector<int> IconSizesFor(int pageWidth, int pageHeight) {
     const int side = std::max(pageWidth, pageHeight);
@@ -87,25 +104,25 @@ Bitmap DrawIconPicture(const Bitmap& page, int size) {
     return square;
 }
 
-void ExportImage(const fs::path& path, FileTypes fileType, const Bitmap& page, Argb pageBackground,
+void ExportImage(const fs::path& path, ExportFormat format, const Bitmap& page, Argb pageBackground,
                  const ExportSettings& settings) {
     if (page.IsEmpty())
         throw graphics::FileError(path, "there is no page to export");
-    switch (fileType) {
-        case FileTypes::Png:
+    switch (format) {
+        case ExportFormat::Png:
             return graphics::WriteFile(
                 path, EncodePng(DrawOver(pageBackground, page, graphics::PixelFormat::Argb32)));
-        case FileTypes::Bmp:
+        case ExportFormat::Bmp:
             return graphics::WriteFile(path, EncodeBmp(DrawOnPaper(pageBackground, page)));
-        case FileTypes::Ico:
+        case ExportFormat::Ico:
             return ExportIcon(path, page, settings);
-        case FileTypes::Gif:
+        case ExportFormat::Gif:
             // Only a background of exactly 0 makes a transparent entry; alpha 0 with other bits
-            // does not.
+            // does not (docs/oddities.md, "GIF backgrounds").
             return graphics::WriteFile(
                 path, EncodeGifPicture(DrawGifSurface(page, pageBackground), pageBackground == 0,
                                        static_cast<std::uint8_t>(settings.GifThreshold)));
-        case FileTypes::Jpeg:
+        case ExportFormat::Jpeg:
             return graphics::WriteFile(path,
                                        EncodeJpeg(DrawOnPaper(pageBackground, page), kJpegQuality));
     }

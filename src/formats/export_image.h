@@ -2,38 +2,26 @@
 #pragma once
 
 #include <filesystem>
+#include <optional>
 #include <vector>
 
+#include "formats/gif_palette.h"
 #include "formats/icon_file.h"
 #include "graphics/bitmap.h"
 #include "graphics/color.h"
-#include "graphics/geometry.h"
 
 namespace orbelle::formats {
 
-// The product's numbers of the output formats.
-enum class FileTypes { Bmp = 0, Jpeg = 1, Gif = 2, Png = 6, Ico = 7 };
+enum class ExportFormat { Ico, Png, Gif, Jpeg, Bmp };
 
-// One entry of the Export submenu.
-struct ExportFormat {
-    const char* Caption;
-    const char* Filter;  // for the file dialog: "text|patterns"
-    FileTypes FileType;
-};
-
-// The formats in the order of the menu.
-inline constexpr ExportFormat kExportFormats[] = {
-    {"ICO Windows Icon File", "Windows ICO Files (*.ICO)|*.ico", FileTypes::Ico},
-    {"PNG with Transparency", "PNG Portable Network Graphics (*.PNG)|*.png", FileTypes::Png},
-    {"GIF Image", "GIF Files (*.GIF)|*.gif", FileTypes::Gif},
-    {"JPEG Image", "JPEG Files (*.JPG;*.JPEG)|*.jpg;*.jpeg", FileTypes::Jpeg},
-    {"BMP Image", "BMP Windows Bitmap (*.BMP)|*.bmp", FileTypes::Bmp},
-};
+// Told by the path's extension, whatever its case: .ico, .png, .gif, .jpg or .jpeg, .bmp.
+std::optional<ExportFormat> FindExportFormat(const std::filesystem::path& path);
 
 struct ExportSettings {
     std::vector<int> IconSizes;  // 1 to 256; empty: the product's own table
     IconFormat IconPictures = IconFormat::Bmp;
-    int GifThreshold = 130;  // 0 to 200: pixels of a lower alpha become transparent in a GIF
+    // 0 to kMaxGifThreshold: pixels of a lower alpha become transparent in a GIF.
+    int GifThreshold = kUsualGifThreshold;
 };
 
 // The sizes of an icon made from a page: the row of 256, 128, 64, 48, 32, 24, 16 that the larger
@@ -53,7 +41,7 @@ graphics::Bitmap DrawGifSurface(const graphics::Bitmap& page, graphics::Argb pag
 // for any icon size writes no file. The pictures of an icon are also left in SizesFolder() until
 // the next icon export; a failure to do so is no failure of the export. Throws graphics::FileError,
 // also for an empty page; std::invalid_argument for an icon size out of range.
-void ExportImage(const std::filesystem::path& path, FileTypes fileType,
+void ExportImage(const std::filesystem::path& path, ExportFormat format,
                  const graphics::Bitmap& page, graphics::Argb pageBackground,
                  const ExportSettings& settings = {});
 

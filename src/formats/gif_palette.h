@@ -9,6 +9,10 @@
 
 namespace orbelle::formats {
 
+// Alphas from which a pixel counts as opaque: the usual one, and the largest to choose.
+inline constexpr int kUsualGifThreshold = 130;
+inline constexpr int kMaxGifThreshold = 200;
+
 // A 24-bit picture in which black stands for transparent: pixels whose alpha is below `threshold`
 // become 0,0,0; of the others those with all channels below 10 become 5,5,5, the rest keep their
 // colour, unblended. An empty picture stays empty.

@@ -1,4 +1,5 @@
-// Windows icon files (.ico), read: deliberately only uncompressed pictures of 32 bits a pixel.
+// Windows icon files (.ico), read: only uncompressed pictures of 32 bits a pixel
+// (docs/oddities.md, "Icons of 32 bits").
 #pragma once
 
 #include <cstdint>

@@ -97,8 +97,8 @@ void Octree::NumberLeaves(Link index, int level, std::uint32_t path, int& counte
     }
 }
 
-// Where the way has no node it goes on with the next child there is. Deliberately, the search does
-// not begin anew on the next level, and it never takes the last child.
+// Where the way has no node it goes on with the next child there is. The search does not begin anew
+// on the next level, and never takes the last child (docs/oddities.md, "Colours unknown to a GIF").
 std::uint8_t Octree::IndexOfUnknown(std::uint32_t path) const {
     constexpr std::size_t kLastChild = 7;
     Link node = kRoot;

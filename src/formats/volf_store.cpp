@@ -88,7 +88,8 @@ private:
 
 IconLayer LayerReader::Read() {
     IconLayer layer;
-    // Pictures keep their adjusted look, so the sliders deliberately start at neutral again.
+    // Pictures keep their adjusted look, so the sliders start at neutral again
+    // (docs/oddities.md, "Sliders of an opened document").
     file_.Take(kSliderBytes);
     layer.ImageHeight = std::max(file_.Read<std::int32_t>(), 0);
     layer.Opacity = ReadOpacity();

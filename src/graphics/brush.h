@@ -16,13 +16,12 @@ struct SolidBrush {
 };
 
 // Color1 at the rectangle's left (or top) edge, Color2 at its right (or bottom) edge, interpolated
-// premultiplied at each pixel's centre; repeated outside the rectangle as the wrap mode says.
+// premultiplied at each pixel's centre; mirrored again and again outside the rectangle.
 struct LinearGradientBrush {
     RectF Rect;
     Argb Color1 = 0;
     Argb Color2 = 0;
     LinearGradientMode Mode = LinearGradientMode::Horizontal;
-    WrapMode Wrap = WrapMode::Tile;
 
     // The straight colour at a point, in the coordinates of Rect.
     Argb ColorAt(double x, double y) const;
@@ -32,8 +31,7 @@ using Brush = std::variant<SolidBrush, LinearGradientBrush, PathGradientBrush>;
 
 // No brush when the rectangle's width or height is 0.
 std::optional<LinearGradientBrush> CreateLineBrushFromRect(const RectF& rect, Argb color1,
-                                                           Argb color2, LinearGradientMode mode,
-                                                           WrapMode wrap);
+                                                           Argb color2, LinearGradientMode mode);
 
 // Centred on the outline, mitred, flat ends; the width in pixels.
 struct Pen {

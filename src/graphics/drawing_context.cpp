@@ -69,9 +69,7 @@ void BlendSpan(Argb* row, int y, const SmoothSpan& span, const RectI& clip,
 DrawingContext::DrawingContext(Bitmap& target) : target_(target) {}
 
 double DrawingContext::Offset() const {
-    const bool half =
-        pixelOffset_ == PixelOffsetMode::HighQuality || pixelOffset_ == PixelOffsetMode::Half;
-    return half ? 0.5 : 0;
+    return pixelOffset_ == PixelOffsetMode::HighQuality ? 0.5 : 0;
 }
 
 void DrawingContext::SetClipPath(const Path& path, CombineMode mode) {

@@ -71,7 +71,7 @@ private:
     Region clip_ = Region::Infinite();
     InterpolationMode interpolation_ = InterpolationMode::Default;
     PixelOffsetMode pixelOffset_ = PixelOffsetMode::Default;
-    SmoothingMode smoothing_ = SmoothingMode::Default;
+    SmoothingMode smoothing_ = SmoothingMode::None;
 };
 
 }  // namespace orbelle::graphics

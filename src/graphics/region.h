@@ -14,7 +14,8 @@ namespace orbelle::graphics {
 // A value with shared contents. A default-made Region is the zero handle ("no region"), which is
 // not the same as an empty one. Pixel (i, j) belongs to a shape when the point (i, j) lies in it,
 // left and top edges included. The shapes keep their own numbers until pixels are asked for, so
-// moving by fractions or scaling loses nothing.
+// moving by fractions or scaling loses nothing. Asking fills what copies share: one thread at a
+// time, also for reading.
 class Region {
 public:
     Region() = default;

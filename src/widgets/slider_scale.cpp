@@ -14,8 +14,8 @@ constexpr double kThumbMark = 7;
 }  // namespace
 
 double SliderScale::ValuePerPixel() const {
-    // Deliberate: tenths reach no further than 10, so that larger ranges, such as page sizes and
-    // line widths, are spread over the whole track.
+    // Tenths reach no further than 10, so that larger ranges, such as page sizes and line widths,
+    // are spread over the whole track (docs/oddities.md, "Tenths up to 10").
     return MaxValue <= kTenthsReach ? 0.1 : MaxValue / double{kTrackTravel};
 }
 

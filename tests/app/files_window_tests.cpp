@@ -102,7 +102,7 @@ TEST_F(FilesWindowTest, ASecondStartHandsItsFileOver) {
 TEST_F(FilesWindowTest, RemembersItsUser) {
     ASSERT_TRUE(StartWithPicture());
     Press({"x", "alt+h", "t"});
-    Click(Control("CtlTitle2"));
+    Click(Control("ColorPanel"));
     Press({"e"});
     Xdotool({"getwindowfocus", "windowmove", "30", "40", "windowsize", "1000", "740"});
     WaitUntilIdle();

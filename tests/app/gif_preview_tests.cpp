@@ -2,13 +2,10 @@
 
 #include <gtest/gtest.h>
 
-#include "support/pictures.h"
-
 namespace orbelle::app {
 
 using graphics::Bitmap;
 using graphics::RectF;
-using testing::SamePixels;
 
 namespace {
 
@@ -23,19 +20,6 @@ TEST(GifPreview, PicturesAreCentredAndEachAxisIsLimitedOnItsOwn) {
     };
     for (const auto& [width, height, boxWidth, boxHeight, place] : cases)
         EXPECT_EQ(PreviewRect(Bitmap(width, height), boxWidth, boxHeight), place);
-}
-
-TEST(GifPreview, TheCheckerHasWholeSquaresOnly) {
-    Bitmap box(19, 12);
-    graphics::DrawingContext context(box);
-    context.SetPixelOffsetMode(graphics::PixelOffsetMode::HighQuality);
-    DrawPreviewChecker(context, 19, 12);
-    const std::vector<std::string> upper(5, ".....#####.........");
-    const std::vector<std::string> lower(5, "#####.....#####....");
-    std::vector<std::string> rows(upper);
-    rows.insert(rows.end(), lower.begin(), lower.end());
-    rows.resize(12, std::string(19, '.'));
-    EXPECT_TRUE(SamePixels(box, testing::PictureOf(rows, 0x14000000)));
 }
 
 }  // namespace

@@ -8,12 +8,8 @@
 #include <QScrollArea>
 
 #include "app/main_window.h"
-#include "editing/document_commands.h"
-#include "formats/icon_file.h"
-#include "graphics/file_io.h"
 #include "support/hands.h"
 #include "support/pictures.h"
-#include "support/temporary_folder.h"
 #include "waiting.h"
 
 namespace orbelle::app {
@@ -81,26 +77,17 @@ TEST(IconImagesDialogTest, TheSelectedCellIsScrolledIntoView) {
 }
 
 TEST(IconImagesDialogTest, OkTakesTheSelectedImageAndCancelNone) {
-    const TemporaryFolder folder;
-    const graphics::Bitmap pictures[] = {FilledPicture(16, 16, kRed), FilledPicture(32, 32, kRed)};
-    const std::filesystem::path path = folder / "a.ico";
-    graphics::WriteFile(path, formats::EncodeIcon(pictures, formats::IconFormat::Bmp));
     MainWindow window;
-    window.show();
     const auto answer = [&](QDialogButtonBox::StandardButton button) {
         AnswerDialog<IconImagesDialog>([button](IconImagesDialog& dialog) {
             EXPECT_EQ(dialog.windowTitle(), "Choose Icon Format");
             Strip(dialog).Select(1);
             dialog.findChild<QDialogButtonBox*>()->button(button)->click();
         });
-        window.Run([&](editing::Editor& editor) { ImportFile(editor, path); });
+        return window.ChooseIconImage(Images({16, 32}));
     };
-    answer(QDialogButtonBox::Cancel);
-    EXPECT_FALSE(window.Editor().DocumentExists);
-    answer(QDialogButtonBox::Ok);
-    EXPECT_EQ(window.Editor().Document.PageWidth, 32);
-    answer(QDialogButtonBox::Cancel);
-    EXPECT_EQ(window.Editor().Document.LayerCount(), 1);
+    EXPECT_EQ(answer(QDialogButtonBox::Cancel), std::nullopt);
+    EXPECT_EQ(answer(QDialogButtonBox::Ok), 1);
 }
 
 TEST(IconImagesDialogTest, WithoutImagesOkTakesNone) {

@@ -24,7 +24,7 @@ protected:
 };
 
 TEST_F(NewIconDialogTest, StaysOpenOutside1To512) {
-    const editing::PageSize wrong[] = {{513, 16}, {16, 513}, {0, 16}, {16, 0}};
+    const PageSize wrong[] = {{513, 16}, {16, 513}, {0, 16}, {16, 0}};
     for (const auto& [width, height] : wrong) {
         NewIconDialog page;
         page.open();

@@ -5,6 +5,7 @@
 #include <QWidget>
 
 #include "app/file_dialog.h"
+#include "waiting.h"
 
 namespace orbelle::app {
 namespace {
@@ -37,6 +38,7 @@ TEST(SettingsTest, AMaximizedWindowLeavesTheStoredPlace) {
     window.show();
     StoreMainWindow(window);
     window.showMaximized();
+    ASSERT_TRUE(orbelle::testing::WaitUntil([&] { return window.width() > 320; }));
     StoreMainWindow(window);
 
     const Settings settings;

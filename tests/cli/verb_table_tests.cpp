@@ -59,6 +59,16 @@ TEST(ParseCallsTest, WrongUsageNamesTheVerbAndTheWord) {
         {{"combine", "o.ico", "1", "2", "3", "4", "5", "6", "7", "8"},
          "combine o.ico 1 2 3 4 5 6 7 8: more than seven PNG files"},
         {{"write-layer", "a.png", "0"}, "write-layer a.png: N must be a whole number"},
+        {{"icon-entry", "-1"}, "icon-entry -1: K must be 0 or more"},
+        {{"order", "top"}, "order top: ORDER must be front or back or forward or backward"},
+        {{"rotate"}, "rotate: DIRECTION is missing"},
+        {{"drag", "1", "1"}, "drag 1 1: X is missing"},
+        {{"drag", "1", "1", "2", "2", "3", "undo"},
+         "drag 1 1 2 2 3 undo: Y must be a whole number"},
+        {{"brush-size", "101"}, "brush-size 101: N must be from 1 to 100"},
+        {{"line-width", "0"}, "line-width 0: N must be from 1 to 255"},
+        {{"gif-threshold", "201"}, "gif-threshold 201: T must be from 0 to 200"},
+        {{"key", "enter"}, "key enter: KEY must be left or right or up or down or delete"},
     };
     for (const auto& [words, message] : cases) {
         try {

@@ -18,66 +18,66 @@ using testing::SamePixels;
 
 constexpr auto kNearest = InterpolationMode::NearestNeighbor;
 
-Bitmap Composed(Document& document, InterpolationMode interpolation = kNearest) {
+Bitmap Composed(Page& page, InterpolationMode interpolation = kNearest) {
     Compositor compositor;
     graphics::Bitmap canvas;
-    compositor.Compose(document, interpolation, canvas);
+    compositor.Compose(page, interpolation, canvas);
     return canvas;
 }
 
-void AddLayer(Document& document, const Bitmap& image) {
-    MakeImageLayer(document, document.Layers.emplace_back(), image);
+void AddLayer(Page& page, const Bitmap& image) {
+    MakeImageLayer(page, page.Layers.emplace_back(), image);
 }
 
-Document PageOf(int width, int height) {
-    Document document;
-    document.PageWidth = width;
-    document.PageHeight = height;
-    return document;
+Page PageOf(int width, int height) {
+    Page page;
+    page.Width = width;
+    page.Height = height;
+    return page;
 }
 
 TEST(Compositor, APageWithoutSizeBecomesOnePixel) {
-    Document document = PageOf(0, -3);
-    const Bitmap page = Composed(document);
-    EXPECT_EQ(page.Width(), 1);
-    EXPECT_EQ(page.Height(), 1);
-    EXPECT_EQ(document.PageWidth, 1);
-    EXPECT_EQ(document.PageHeight, 1);
+    Page page = PageOf(0, -3);
+    const Bitmap picture = Composed(page);
+    EXPECT_EQ(picture.Width(), 1);
+    EXPECT_EQ(picture.Height(), 1);
+    EXPECT_EQ(page.Width, 1);
+    EXPECT_EQ(page.Height, 1);
 }
 
 TEST(Compositor, BlendsVisibleLayersFromTheBottomWithTheirOpacity) {
-    Document document = PageOf(4, 4);
-    AddLayer(document, FilledPicture(4, 4, 0xFF000000));
-    AddLayer(document, FilledPicture(2, 2, 0xFFFFFFFF));
-    document.Layers[1].Opacity = 0.5F;
-    AddLayer(document, FilledPicture(4, 4, 0xFFFF0000));
-    document.Layers[2].Visible = false;
-    const Bitmap page = Composed(document);
-    EXPECT_EQ(page.GetPixel(0, 0), 0xFF000000);
-    EXPECT_EQ(page.GetPixel(1, 1), 0xFF808080);  // 255 x 0.5 is 128 of 255
-    document.Layers[1].Rect.X = -1.9F;           // places are cut toward zero
-    EXPECT_EQ(Composed(document).GetPixel(0, 1), 0xFF808080);
-    EXPECT_EQ(Composed(document).GetPixel(1, 1), 0xFF000000);
+    Page page = PageOf(4, 4);
+    AddLayer(page, FilledPicture(4, 4, 0xFF000000));
+    AddLayer(page, FilledPicture(2, 2, 0xFFFFFFFF));
+    page.Layers[1].Opacity = 0.5F;
+    AddLayer(page, FilledPicture(4, 4, 0xFFFF0000));
+    page.Layers[2].Visible = false;
+    const Bitmap picture = Composed(page);
+    EXPECT_EQ(picture.GetPixel(0, 0), 0xFF000000);
+    EXPECT_EQ(picture.GetPixel(1, 1), 0xFF808080);  // 255 x 0.5 is 128 of 255
+    page.Layers[1].Rect.X = -1.9F;                  // places are cut toward zero
+    EXPECT_EQ(Composed(page).GetPixel(0, 1), 0xFF808080);
+    EXPECT_EQ(Composed(page).GetPixel(1, 1), 0xFF000000);
 }
 
 TEST(Compositor, APlateCutsAllLayersAboveItAlsoWhenItIsHidden) {
-    Document document = PageOf(24, 24);
-    AddLayer(document, FilledPicture(24, 24, 0xFF111111));
-    document.Layers[0].ClipNextLayer = true;
-    document.Layers[0].Visible = false;
-    AddLayer(document, FilledPicture(24, 24, 0xFF222222));
-    AddLayer(document, FilledPicture(24, 24, 0xFF333333));
-    const Bitmap page = Composed(document);
-    EXPECT_EQ(page.GetPixel(1, 0), 0U);
-    EXPECT_EQ(page.GetPixel(2, 0), 0xFF333333);
-    EXPECT_EQ(page.GetPixel(0, 1), 0U);
-    EXPECT_EQ(page.GetPixel(0, 2), 0xFF333333);
-    EXPECT_FALSE(document.Layers[0].Path.IsNull());
+    Page page = PageOf(24, 24);
+    AddLayer(page, FilledPicture(24, 24, 0xFF111111));
+    page.Layers[0].ClipNextLayer = true;
+    page.Layers[0].Visible = false;
+    AddLayer(page, FilledPicture(24, 24, 0xFF222222));
+    AddLayer(page, FilledPicture(24, 24, 0xFF333333));
+    const Bitmap picture = Composed(page);
+    EXPECT_EQ(picture.GetPixel(1, 0), 0U);
+    EXPECT_EQ(picture.GetPixel(2, 0), 0xFF333333);
+    EXPECT_EQ(picture.GetPixel(0, 1), 0U);
+    EXPECT_EQ(picture.GetPixel(0, 2), 0xFF333333);
+    EXPECT_FALSE(page.Layers[0].Path.IsNull());
 
     // A second plate only narrows.
-    document.Layers[1].ClipNextLayer = true;
-    document.Layers[1].Rect.X = 12;
-    const Bitmap narrowed = Composed(document);
+    page.Layers[1].ClipNextLayer = true;
+    page.Layers[1].Rect.X = 12;
+    const Bitmap narrowed = Composed(page);
     EXPECT_EQ(narrowed.GetPixel(10, 10), 0U);
     EXPECT_EQ(narrowed.GetPixel(20, 10), 0xFF333333);
     EXPECT_EQ(narrowed.GetPixel(23, 1), 0U);
@@ -87,13 +87,13 @@ class RandomEdits {
 public:
     explicit RandomEdits(unsigned seed) : random_(seed) {}
 
-    void Edit(Document& document) {
+    void Edit(Page& page) {
         const int choice = Below(11);
-        if (document.Layers.empty() || choice == 0) {
-            AddLayer(document, RandomPicture());
+        if (page.Layers.empty() || choice == 0) {
+            AddLayer(page, RandomPicture());
             return;
         }
-        IconLayer& layer = document.Layers[static_cast<std::size_t>(Below(document.LayerCount()))];
+        IconLayer& layer = page.Layers[static_cast<std::size_t>(Below(page.LayerCount()))];
         if (choice <= 3) {
             layer.Rect.X += static_cast<float>(Below(9) - 4);
         } else if (choice == 4) {
@@ -103,16 +103,18 @@ public:
         } else if (choice == 6) {
             layer.Visible = !layer.Visible;
         } else if (choice == 7) {
-            std::swap(layer, document.Layers.back());
+            std::swap(layer, page.Layers.back());
         } else if (choice == 8) {
             layer.ClipNextLayer = !layer.ClipNextLayer;
         } else if (choice == 9) {
             layer.ImageWidth = 1 + Below(30);
+            layer.ImageHeight = 1 + Below(30);
             layer.Rect.Width = static_cast<float>(Below(3) ? layer.ImageWidth : 1 + Below(30));
-        } else if (document.LayerCount() > 6) {
-            document.Layers.erase(document.Layers.begin() + Below(document.LayerCount()));
+            layer.Rect.Height = static_cast<float>(Below(3) ? layer.ImageHeight : 1 + Below(30));
+        } else if (page.LayerCount() > 6) {
+            page.Layers.erase(page.Layers.begin() + Below(page.LayerCount()));
         } else {
-            document.PageWidth = 10 + Below(20);
+            page.Width = 10 + Below(20);
         }
     }
 
@@ -143,15 +145,15 @@ private:
 
 TEST(Compositor, WhatItRemembersNeverShows) {
     for (unsigned seed = 1; seed <= 30; ++seed) {
-        const auto interpolation = seed % 3 ? kNearest : InterpolationMode::HighQualityBilinear;
+        const auto interpolation = seed % 3 ? kNearest : InterpolationMode::HighQuality;
         RandomEdits edits(seed);
-        Document document = PageOf(24, 20);
+        Page page = PageOf(24, 20);
         Compositor compositor;
         graphics::Bitmap canvas;
         for (int step = 0; step < 150; ++step) {
-            edits.Edit(document);
-            compositor.Compose(document, interpolation, canvas);
-            ASSERT_TRUE(SamePixels(canvas, Composed(document, interpolation)))
+            edits.Edit(page);
+            compositor.Compose(page, interpolation, canvas);
+            ASSERT_TRUE(SamePixels(canvas, Composed(page, interpolation)))
                 << "seed " << seed << ", step " << step;
         }
     }
@@ -171,26 +173,26 @@ TEST(Compositor, RepaintsTheBoxAroundTheDotsThatAToolSet) {
         {{}, {}},
     };
     for (const auto& test : cases) {
-        Document document = PageOf(16, 12);
-        AddLayer(document, FilledPicture(10, 10, kLayer));
-        AddLayer(document, FilledPicture(16, 12, 0x40FF0000));
-        IconLayer& layer = document.Layers[0];
+        Page page = PageOf(16, 12);
+        AddLayer(page, FilledPicture(10, 10, kLayer));
+        AddLayer(page, FilledPicture(16, 12, 0x40FF0000));
+        IconLayer& layer = page.Layers[0];
         layer.Rect.X = 3;
         layer.Rect.Y = -1;
         if (test.Repainted.IsEmpty())
             layer.ImageWidth = layer.Rect.Width = 6;
         Compositor compositor;
         graphics::Bitmap canvas;
-        compositor.Compose(document, kNearest, canvas);
+        compositor.Compose(page, kNearest, canvas);
         canvas = FilledPicture(16, 12, kSpoilt);
 
         Bitmap drawn = FilledPicture(10, 10, kLayer);
         for (const auto& [x, y] : test.Dots)
             drawn.SetPixel(x, y, kDot);
         layer.Image = drawn;
-        compositor.Compose(document, kNearest, canvas);
+        compositor.Compose(page, kNearest, canvas);
 
-        const Bitmap whole = Composed(document);
+        const Bitmap whole = Composed(page);
         Bitmap expected = FilledPicture(16, 12, kSpoilt);
         const RectI& box = test.Repainted;
         for (int y = box.Y; y < box.Y + box.Height; ++y)

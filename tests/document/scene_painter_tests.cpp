@@ -15,15 +15,16 @@ using testing::FilledPicture;
 constexpr Argb kShadow = 0xFF808080;
 
 struct Shown {
-    Document document;
+    Page page;
+    Argb background = 0;
     View view;
     Bitmap canvas;
     Bitmap scene;
     document::Selection selection;
 
     Shown(int width, int height, double zoom) : canvas(width, height) {
-        document.PageWidth = width;
-        document.PageHeight = height;
+        page.Width = width;
+        page.Height = height;
         view.SceneWidth = 100;
         view.SceneHeight = 60;
         view.Zoom = zoom;
@@ -31,7 +32,7 @@ struct Shown {
     }
 
     Argb At(int x, int y) {
-        DrawScene(scene, canvas, document, view, selection);
+        DrawScene(scene, canvas, background, view, selection);
         return *scene.GetPixel(x, y);
     }
 };
@@ -44,22 +45,22 @@ TEST(View, ScrollRatiosAreTenths) {
 }
 
 TEST(View, ALargePageMovesLeftAsTheBarMovesRight) {
-    Document document;
-    document.PageWidth = 300;
-    document.PageHeight = 20;
+    Page page;
+    page.Width = 300;
+    page.Height = 20;
     View view;
     view.SceneWidth = 100;
     view.SceneHeight = 60;
     view.Zoom = 1;
     view.HorizontalScroll.Value = 2;
-    EXPECT_DOUBLE_EQ(PageOffsetX(document, view), -40);
-    EXPECT_DOUBLE_EQ(PageOffsetY(document, view), 20);
+    EXPECT_DOUBLE_EQ(PageOffsetX(page, view), -40);
+    EXPECT_DOUBLE_EQ(PageOffsetY(page, view), 20);
 }
 
 TEST(DrawScene, NothingHappensWithoutADocument) {
     Shown shown(4, 2, 1);
     shown.view.ViewActive = false;
-    DrawScene(shown.scene, shown.canvas, shown.document, shown.view, shown.selection);
+    DrawScene(shown.scene, shown.canvas, shown.background, shown.view, shown.selection);
     EXPECT_TRUE(shown.scene.IsEmpty());
 }
 
@@ -84,9 +85,20 @@ TEST(DrawScene, ShowsCheckerShadowAndFrameAroundATransparentPage) {
     EXPECT_EQ(shown.At(50, 41), 0xFF1C1C1C);
 }
 
+// Cells are counted from the page's corner, also where that lies beyond the scene: at (-8, -8).
+TEST(DrawScene, TheCheckerScrollsWithThePage) {
+    Shown shown(116, 76, 1);
+    EXPECT_EQ(shown.At(0, 0), 0xFFF0F0F0);
+    EXPECT_EQ(shown.At(4, 0), 0xFFFFFFFF);
+    shown.view.VerticalScroll.Value = shown.view.HorizontalScroll.Value = 10;  // to (-16, -16)
+    EXPECT_EQ(shown.At(0, 0), 0xFFF0F0F0);
+    shown.view.VerticalScroll.Value = 7;  // 70 % of -16, cut to -11
+    EXPECT_EQ(shown.At(0, 0), 0xFFFFFFFF);
+}
+
 TEST(DrawScene, ThePictureCoversTheFrameAndShowsTheBackgroundThrough) {
     Shown shown(40, 20, 1);
-    shown.document.PageBackground = 0xFF0000FF;
+    shown.background = 0xFF0000FF;
     shown.canvas = FilledPicture(40, 20, 0xFF00FF00);
     shown.canvas.SetPixel(5, 5, 0);
     EXPECT_EQ(shown.At(30, 20), 0xFF00FF00);
@@ -99,7 +111,7 @@ TEST(DrawScene, ThePictureCoversTheFrameAndShowsTheBackgroundThrough) {
 TEST(DrawScene, ZoomedPixelsAreSquaresAndTheBackgroundLiesHalfAPixelOff) {
     Shown shown(10, 5, 3);
     shown.view.SceneHeight = 59;  // the page at (35, 22)
-    shown.document.PageBackground = 0xFF0000FF;
+    shown.background = 0xFF0000FF;
     shown.canvas.SetPixel(1, 1, 0xFF00FF00);
     EXPECT_EQ(shown.At(38, 25), 0xFF00FF00);
     EXPECT_EQ(shown.At(40, 27), 0xFF00FF00);
@@ -129,7 +141,7 @@ TEST(DrawScene, StaysInsideTheSceneAtEveryZoom) {
         shown.view.Zoom = zoom;
         for (const int value : {0, 3, 10}) {
             shown.view.HorizontalScroll.Value = shown.view.VerticalScroll.Value = value;
-            DrawScene(shown.scene, shown.canvas, shown.document, shown.view, shown.selection);
+            DrawScene(shown.scene, shown.canvas, shown.background, shown.view, shown.selection);
         }
     }
     EXPECT_EQ(shown.scene.Width(), 100);
@@ -137,13 +149,13 @@ TEST(DrawScene, StaysInsideTheSceneAtEveryZoom) {
 
 TEST(ObjectFrame, LiesTwoPixelsOutsideTheSelectedVisibleLayer) {
     Shown shown(40, 20, 1);
-    EXPECT_FALSE(ObjectFrame(shown.document, shown.view));
-    IconLayer& layer = shown.document.Layers.emplace_back();
+    EXPECT_FALSE(ObjectFrame(shown.page, shown.view));
+    IconLayer& layer = shown.page.Layers.emplace_back();
     layer.Rect = {4, -2, 10, 6.5F};
-    shown.document.SelectedLayer = 0;
-    EXPECT_EQ(ObjectFrame(shown.document, shown.view), (RectI{32, 16, 14, 10}));
+    shown.page.SelectedLayer = 0;
+    EXPECT_EQ(ObjectFrame(shown.page, shown.view), (RectI{32, 16, 14, 10}));
     layer.Visible = false;
-    EXPECT_FALSE(ObjectFrame(shown.document, shown.view));
+    EXPECT_FALSE(ObjectFrame(shown.page, shown.view));
 }
 
 }  // namespace

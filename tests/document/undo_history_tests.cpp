@@ -10,13 +10,13 @@ namespace {
 // A document of `layers` layers that can be told apart by their Hue.
 Document DocumentOf(int layers) {
     Document document;
-    document.PageWidth = document.PageHeight = 2;
+    document.Master.Width = document.Master.Height = 2;
     for (int i = 0; i < layers; ++i) {
-        IconLayer& layer = document.Layers.emplace_back();
+        IconLayer& layer = document.Master.Layers.emplace_back();
         layer.Image = testing::FilledPicture(2, 2, 0xFF000000);
         layer.Hue = i;
     }
-    document.SelectedLayer = layers - 1;
+    document.Master.SelectedLayer = layers - 1;
     return document;
 }
 
@@ -27,25 +27,25 @@ TEST(UndoHistory, GoesBackAndForthThroughWholeStacks) {
     EXPECT_FALSE(history.Redo(document));
 
     history.PushSnapshot(document);
-    document.Layers.push_back(document.Layers[0]);
-    document.SelectedLayer = 1;
+    document.Master.Layers.push_back(document.Master.Layers[0]);
+    document.Master.SelectedLayer = 1;
     history.PushSnapshot(document);
-    document.Layers[1].Image.SetPixel(0, 0, 0x12345678);
+    document.Master.Layers[1].Image.SetPixel(0, 0, 0x12345678);
     EXPECT_EQ(history.UndoIndex(), 2);
 
     ASSERT_TRUE(history.Undo(document));
-    EXPECT_EQ(document.Layers[1].Image.GetPixel(0, 0), 0xFF000000);
+    EXPECT_EQ(document.Master.Layers[1].Image.GetPixel(0, 0), 0xFF000000);
     ASSERT_TRUE(history.Undo(document));
-    EXPECT_EQ(document.LayerCount(), 1);
-    EXPECT_EQ(document.SelectedLayer, 0);
+    EXPECT_EQ(document.Master.LayerCount(), 1);
+    EXPECT_EQ(document.Master.SelectedLayer, 0);
     EXPECT_FALSE(history.Undo(document));
     EXPECT_EQ(history.RedoCount(), 2);
 
     ASSERT_TRUE(history.Redo(document));
     ASSERT_TRUE(history.Redo(document));
     EXPECT_FALSE(history.Redo(document));
-    EXPECT_EQ(document.Layers[1].Image.GetPixel(0, 0), 0x12345678U);
-    EXPECT_EQ(document.SelectedLayer, 1);
+    EXPECT_EQ(document.Master.Layers[1].Image.GetPixel(0, 0), 0x12345678U);
+    EXPECT_EQ(document.Master.SelectedLayer, 1);
     EXPECT_EQ(history.UndoIndex(), 2);
     EXPECT_EQ(history.RedoCount(), 0);
 }
@@ -55,30 +55,30 @@ TEST(UndoHistory, AnEditAfterUndoForgetsWhatLayAhead) {
     UndoHistory history;
     for (int step = 1; step <= 3; ++step) {
         history.PushSnapshot(document);
-        document.Layers[0].Hue = 10 * step;
+        document.Master.Layers[0].Hue = 10 * step;
     }
     history.Undo(document);
     history.Undo(document);
     history.TruncateRedo();
     history.PushSnapshot(document);
-    document.Layers[0].Hue = 99;
+    document.Master.Layers[0].Hue = 99;
     EXPECT_EQ(history.RedoCount(), 0);
     EXPECT_EQ(history.UndoCount(), 2);
     history.Undo(document);
-    EXPECT_EQ(document.Layers[0].Hue, 10);
+    EXPECT_EQ(document.Master.Layers[0].Hue, 10);
     history.Redo(document);
-    EXPECT_EQ(document.Layers[0].Hue, 99);
+    EXPECT_EQ(document.Master.Layers[0].Hue, 99);
 }
 
 TEST(UndoHistory, UndoKeepsWhatChangedSinceTheLastSnapshotForRedo) {
     Document document = DocumentOf(2);
     UndoHistory history;
     history.PushSnapshot(document);
-    document.Layers[0].Visible = false;
+    document.Master.Layers[0].Visible = false;
     history.Undo(document);
-    EXPECT_TRUE(document.Layers[0].Visible);
+    EXPECT_TRUE(document.Master.Layers[0].Visible);
     history.Redo(document);
-    EXPECT_FALSE(document.Layers[0].Visible);
+    EXPECT_FALSE(document.Master.Layers[0].Visible);
 }
 
 TEST(UndoHistory, EveryStepMarksTheDocumentAsChanged) {
@@ -98,15 +98,15 @@ TEST(UndoHistory, RefusesMoreThan101LayersWithNothingLost) {
     Document document = DocumentOf(101);
     UndoHistory history;
     history.PushSnapshot(document);
-    document.Layers.emplace_back();
+    document.Master.Layers.emplace_back();
     EXPECT_THROW(history.PushSnapshot(document), HistoryLimit);
-    EXPECT_EQ(document.LayerCount(), 102);
+    EXPECT_EQ(document.Master.LayerCount(), 102);
     EXPECT_EQ(history.UndoIndex(), 1);
     // The step that led here can still be taken back and forth.
     history.Undo(document);
-    EXPECT_EQ(document.LayerCount(), 101);
+    EXPECT_EQ(document.Master.LayerCount(), 101);
     history.Redo(document);
-    EXPECT_EQ(document.LayerCount(), 102);
+    EXPECT_EQ(document.Master.LayerCount(), 102);
 }
 
 TEST(UndoHistory, Refuses5002SnapshotsWithNothingLost) {
@@ -114,25 +114,25 @@ TEST(UndoHistory, Refuses5002SnapshotsWithNothingLost) {
     UndoHistory history;
     for (int step = 1; step <= 5001; ++step) {
         history.PushSnapshot(document);
-        document.Layers[0].Hue = step;
+        document.Master.Layers[0].Hue = step;
     }
     EXPECT_THROW(history.PushSnapshot(document), HistoryLimit);
-    EXPECT_EQ(document.Layers[0].Hue, 5001);
+    EXPECT_EQ(document.Master.Layers[0].Hue, 5001);
     while (history.Undo(document)) {
     }
-    EXPECT_EQ(document.Layers[0].Hue, 0);
+    EXPECT_EQ(document.Master.Layers[0].Hue, 0);
     while (history.Redo(document)) {
     }
-    EXPECT_EQ(document.Layers[0].Hue, 5001);
+    EXPECT_EQ(document.Master.Layers[0].Hue, 5001);
 }
 
 TEST(UndoHistory, ASnapshotCopiesNoPixel) {
     Document document = DocumentOf(50);
     UndoHistory history;
     history.PushSnapshot(document);
-    const graphics::Argb* pixels = document.Layers[7].Image.Pixels();
+    const graphics::Argb* pixels = document.Master.Layers[7].Image.Pixels();
     history.Undo(document);
-    EXPECT_EQ(document.Layers[7].Image.Pixels(), pixels);
+    EXPECT_EQ(document.Master.Layers[7].Image.Pixels(), pixels);
 }
 
 }  // namespace

@@ -60,65 +60,19 @@ void PlainSoften(Bitmap& image, int level) {
     }
 }
 
-int CrossAround(const Bitmap& image, int x, int y, int channel) {
-    return ChannelAt(image, x + 1, y, channel) + ChannelAt(image, x - 1, y, channel) +
-           ChannelAt(image, x, y + 1, channel) + ChannelAt(image, x, y - 1, channel);
-}
-
-template <class Change>
-void ForEachInner(Bitmap& image, Change change) {
-    for (int y = 1; y < image.Height() - 1; ++y) {
-        for (int x = 1; x < image.Width() - 1; ++x)
-            change(x, y);
-    }
-}
-
-void PlainSmooth(Bitmap& image, int level) {
-    const int own = 101 - level;
-    if (own >= 26)
-        return;
-    ForEachInner(image, [&](int x, int y) {
-        for (const int channel : {kBlue, kGreen, kRed, kAlpha}) {
-            const int sum =
-                own * ChannelAt(image, x, y, channel) + CrossAround(image, x, y, channel);
-            SetChannel(image, x, y, channel, sum / (own + 4));
-        }
-    });
-}
-
 void PlainSharpen(Bitmap& image, int level) {
     const int own = 109 - level;
-    ForEachInner(image, [&](int x, int y) {
-        for (const int channel : {kBlue, kGreen, kRed}) {
-            int value = (own + 1) * ChannelAt(image, x, y, channel);
-            for (int dy = -1; dy <= 1; ++dy)
-                for (int dx = -1; dx <= 1; ++dx)
-                    value -= ChannelAt(image, x + dx, y + dy, channel);
-            SetChannel(image, x, y, channel, std::clamp(value / (own - 8), 0, 255));
+    for (int y = 1; y < image.Height() - 1; ++y) {
+        for (int x = 1; x < image.Width() - 1; ++x) {
+            for (const int channel : {kBlue, kGreen, kRed}) {
+                int value = (own + 1) * ChannelAt(image, x, y, channel);
+                for (int dy = -1; dy <= 1; ++dy)
+                    for (int dx = -1; dx <= 1; ++dx)
+                        value -= ChannelAt(image, x + dx, y + dy, channel);
+                SetChannel(image, x, y, channel, std::clamp(value / (own - 8), 0, 255));
+            }
         }
-    });
-}
-
-void PlainOutLine(Bitmap& image, int level) {
-    constexpr int kOffset = 7;
-    ForEachInner(image, [&](int x, int y) {
-        for (const int channel : {kBlue, kGreen, kRed}) {
-            const int sum = ChannelAt(image, x, y, channel) + CrossAround(image, x, y, channel);
-            SetChannel(image, x, y, channel, sum / 5);
-        }
-    });
-    const int strength = static_cast<int>(std::nearbyint(-level / 50.0));
-    ForEachInner(image, [&](int x, int y) {
-        for (const int channel : {kBlue, kGreen, kRed}) {
-            const int value = ChannelAt(image, x, y, channel);
-            int most = 0;
-            for (int dy = -1; dy <= 1; ++dy)
-                for (int dx = -1; dx <= 1; ++dx)
-                    most = std::max(most, ChannelAt(image, x + dx, y + dy, channel));
-            SetChannel(image, x, y, channel,
-                       std::clamp(value - (most - value) * strength + kOffset, 0, 255));
-        }
-    });
+    }
 }
 
 struct Comparison {
@@ -128,12 +82,9 @@ struct Comparison {
 };
 
 TEST(BlurSharpen, AgreesWithThePlainForm) {
-    const auto outLine = [](Bitmap& image, int level) { OutLine(image, level, 7); };
     const Comparison comparisons[] = {
         {"Soften", Soften, PlainSoften, {0, 1, 50, 85, 89, 90, 91, 99, 100}},
-        {"Smooth", Smooth, PlainSmooth, {0, 75, 76, 80, 99, 100}},
         {"Sharpen", Sharpen, PlainSharpen, {0, 1, 50, 79, 80, 81, 99, 100}},
-        {"OutLine", outLine, PlainOutLine, {-125, -75, -50, -25, 0, 25, 50, 100}},
     };
     std::mt19937 random(1);
     for (const Comparison& comparison : comparisons) {
@@ -152,7 +103,7 @@ TEST(BlurSharpen, AgreesWithThePlainForm) {
 
 TEST(BlurSharpen, AUniformPictureStaysUnderEveryBlurAndSharpening) {
     const Bitmap before = FilledPicture(9, 8, 0xFF4080C1);
-    for (const auto filter : {Soften, Smooth, Sharpen}) {
+    for (const auto filter : {Soften, Sharpen}) {
         for (const int level : {INT_MIN, 0, 80, 90, 100, INT_MAX}) {
             Bitmap after = before;
             filter(after, level);
@@ -169,7 +120,7 @@ TEST(Soften, SpreadsIntoTransparentPixelsButNotAlongTheFallingDiagonal) {
     const graphics::Argb tint = MakeARGB(0, 2, 0, 2);
     const graphics::Argb expected[] = {0,    tint, tint, tint, MakeARGB(255, 18, 6, 30),
                                        tint, tint, tint, 0};
-    EXPECT_THAT(std::vector(picture.Pixels(), picture.Pixels() + 9), ElementsAreArray(expected));
+    EXPECT_THAT(PixelsOf(picture), ElementsAreArray(expected));
 }
 
 // 120 x 11 / 12 = 110, and the new 110 / 13 = 8.46, where the old 120 would give 9.
@@ -207,15 +158,6 @@ TEST(Soften, RoundsEveryMeanOfTwoPixels) {
     }
 }
 
-// (21 x 100 + 10 + 20 + 30 + 44) / 25 = 88, then (21 x 10 + 63 + 88 + 5 + 8) / 25 = 14.96, where
-// the old 100 would give 15.
-TEST(Smooth, DropsTheRemainderAndReadsWhatItHasRewritten) {
-    Bitmap picture = Blues({{99, 44, 8, 99}, {20, 100, 10, 63}, {99, 30, 5, 99}});
-    Smooth(picture, 80);
-    EXPECT_THAT(BlueRow(picture, 1), ElementsAre(20, 88, 14, 63));
-    EXPECT_THAT(BlueRow(picture, 0), ElementsAre(99, 44, 8, 99));
-}
-
 // (29 x 121 - 800) / 21 = 129; then (29 x 100 - 700 - 129) / 21 = 98.6, where the old 121 would
 // give 99.
 TEST(Sharpen, DropsTheRemainderAndReadsWhatItHasRewritten) {
@@ -223,19 +165,6 @@ TEST(Sharpen, DropsTheRemainderAndReadsWhatItHasRewritten) {
     Sharpen(picture, kSharpenLevel);
     EXPECT_THAT(BlueRow(picture, 1), ElementsAre(100, 129, 98, 100));
     EXPECT_THAT(BlueRow(picture, 2), ElementsAre(100, 100, 100, 100));
-}
-
-// The blur gives (100 + 10 + 20 + 30 + 45) / 5 = 41; the largest value around is 60. Half of 50 and
-// three halves of it go to the even strength, 0 and 2.
-TEST(OutLine, MovesAwayFromTheBrightestByAWholeNumberOfDistances) {
-    const std::vector<std::pair<int, int>> expectations = {
-        {-50, 41 - 19 + 5}, {-25, 41 + 5}, {-75, 41 - 2 * 19 + 5}, {50, 41 + 19 + 5}, {-500, 0},
-        {INT_MAX, 255},     {INT_MIN, 0}};
-    for (const auto& [level, expected] : expectations) {
-        Bitmap picture = Blues({{60, 45, 60}, {20, 100, 10}, {60, 30, 60}});
-        OutLine(picture, level, 5);
-        EXPECT_THAT(BlueRow(picture, 1), ElementsAre(20, expected, 10)) << level;
-    }
 }
 
 }  // namespace

@@ -6,6 +6,7 @@
 #include <cmath>
 #include <limits>
 
+#include "support/instruction_sets.h"
 #include "support/pictures.h"
 
 namespace orbelle::filters {
@@ -19,18 +20,6 @@ Argb Changed(Argb color, Change change) {
     Bitmap picture = testing::FilledPicture(1, 1, color);
     change(picture);
     return *picture.GetPixel(0, 0);
-}
-
-Argb Hued(Argb color, float hue) {
-    return Changed(color, [&](Bitmap& picture) { HueColor(picture, hue); });
-}
-
-Argb Saturated(Argb color, int level) {
-    return Changed(color, [&](Bitmap& picture) { SaturationColor(picture, level); });
-}
-
-Argb Brightened(Argb color, double contrast, double brightness) {
-    return Changed(color, [&](Bitmap& p) { BrightnessColor(p, contrast, brightness); });
 }
 
 // Every value of red with every sum of green and blue, shared out in many ways; all alphas.
@@ -56,15 +45,6 @@ Bitmap PixelByPixel(Bitmap picture, Rule rule) {
     return picture;
 }
 
-TEST(ColorAdjustments, AMixDividesBy256ButKeepsItsEndsWhole) {
-    EXPECT_EQ(ShadeColors(255, 255, 128), 254);
-    EXPECT_EQ(ShadeColors(255, 7, 0), 255);
-    EXPECT_EQ(ShadeColors(7, 255, 255), 255);
-    EXPECT_EQ(ShadeColors(255, 0, -128), 381);
-    EXPECT_EQ(ShadeColors(67, 201, -128), 0);    // -67 / 256
-    EXPECT_EQ(ShadeColors(0, 255, -128), -127);  // -127.5
-}
-
 TEST(ColorAdjustments, HueExchangesAndMixesInSevenSectors) {
     constexpr Argb kColor = 0x80C86428;  // red 200, green 100, blue 40
     const struct {
@@ -85,63 +65,33 @@ TEST(ColorAdjustments, HueExchangesAndMixesInSevenSectors) {
         {350, kColor},      // sector 6; t 255
         {400, kColor},     {-1, kColor},     {std::numeric_limits<float>::quiet_NaN(), kColor},
     };
-    for (const auto& [hue, expected] : cases)
-        EXPECT_EQ(Hued(kColor, hue), expected) << hue;
-}
-
-TEST(ColorAdjustments, AMixedHueThatFitsNoByteIsNotStored) {
-    EXPECT_EQ(Hued(0x12FF0007, 275), Argb{0x12FFFF07});  // 381
-    EXPECT_EQ(Hued(0x000AC807, 275), Argb{0x000A0A07});  // -85
-    EXPECT_EQ(Hued(0xFF42C807, 275), Argb{0xFF424207});  // -322 / 256 is -1
-    EXPECT_EQ(Hued(0xFF43C907, 275), Argb{0xFF430007});  // -67 / 256 is 0
-}
-
-// The sectors' statements one after the other, as they are told.
-Argb HuedStepByStep(Argb color, int s, int t) {
-    int r = graphics::RedOf(color), g = graphics::GreenOf(color), b = graphics::BlueOf(color);
-    const auto storeMix = [t](int& channel, int first, int second) {
-        const int mixed = t == 0     ? first
-                          : t == 255 ? second
-                                     : ((255 - t) * first + t * second) / 256;
-        if (mixed >= 0 && mixed <= 255)
-            channel = mixed;
+    const auto hued = [](Argb color, float hue) {
+        return Changed(color, [&](Bitmap& picture) { HueColor(picture, hue); });
     };
-    const int oldRed = r, oldGreen = g;
-    switch (s) {
-        case 0:
-            storeMix(g, g, b);
-            break;
-        case 1:
-            g = b;
-            storeMix(b, b, r);
-            break;
-        case 2:
-            g = b;
-            b = r;
-            storeMix(r, b, r);
-            break;
-        case 3:
-            g = r;
-            r = b;
-            b = oldRed;
-            storeMix(g, b, r);
-            break;
-        case 4:
-            r = b;
-            g = b;
-            b = oldRed;
-            storeMix(b, b, r);
-            break;
-        case 5:
-            g = r;
-            r = b;
-            storeMix(r, r, g);
-            break;
-        default:
-            g = r;
-            storeMix(g, g, oldGreen);
-    }
-    return graphics::MakeARGB(graphics::AlphaOf(color), r, g, b);
+    for (const auto& [hue, expected] : cases)
+        EXPECT_EQ(hued(kColor, hue), expected) << hue;
+    // A mix that fits no byte is not stored.
+    EXPECT_EQ(hued(0x12FF0007, 275), Argb{0x12FFFF07});  // 381
+    EXPECT_EQ(hued(0x000AC807, 275), Argb{0x000A0A07});  // -85
+    EXPECT_EQ(hued(0xFF42C807, 275), Argb{0xFF424207});  // -322 / 256 is -1
+    EXPECT_EQ(hued(0xFF43C907, 275), Argb{0xFF430007});  // -67 / 256 is 0
+}
+
+// The channels exchanged in each sector, and the two that are mixed into the third.
+Argb HuedStepByStep(Argb color, int s, int t) {
+    const int r = graphics::RedOf(color), g = graphics::GreenOf(color);
+    const int b = graphics::BlueOf(color);
+    const struct {
+        int Exchanged[3];  // red, green, blue
+        int Mixed, First, Second;
+    } sectors[] = {{{r, g, b}, 1, g, b}, {{r, b, b}, 2, b, r}, {{r, b, r}, 0, r, r},
+                   {{b, r, r}, 1, r, b}, {{b, b, r}, 2, r, b}, {{b, r, b}, 0, b, r},
+                   {{r, r, b}, 1, r, g}};
+    auto [channels, mixed, first, second] = sectors[s];
+    const int mix = t == 0 ? first : t == 255 ? second : ((255 - t) * first + t * second) / 256;
+    if (mix >= 0 && mix <= 255)
+        channels[mixed] = mix;
+    return graphics::MakeARGB(graphics::AlphaOf(color), channels[0], channels[1], channels[2]);
 }
 
 TEST(ColorAdjustments, EverySliderHueFollowsItsStatements) {
@@ -150,11 +100,13 @@ TEST(ColorAdjustments, EverySliderHueFollowsItsStatements) {
         const double hue = std::nearbyint(position * 3.5);
         const int s = std::min(static_cast<int>(std::nearbyint(hue / 50)), 6);
         const int t = static_cast<int>(std::floor((hue - 50 * s) * (s < 5 ? 5.12 : 5.11)));
-        Bitmap hued = picture;
-        HueColor(hued, static_cast<float>(hue));
-        EXPECT_TRUE(testing::SamePixels(
-            hued, PixelByPixel(picture, [&](Argb c) { return HuedStepByStep(c, s, t); })))
-            << hue;
+        const Bitmap expected =
+            PixelByPixel(picture, [&](Argb c) { return HuedStepByStep(c, s, t); });
+        testing::WithEachInstructionSet([&] {
+            Bitmap hued = picture;
+            HueColor(hued, static_cast<float>(hue));
+            EXPECT_TRUE(testing::SamePixels(hued, expected)) << hue;
+        });
     }
 }
 
@@ -174,8 +126,10 @@ TEST(ColorAdjustments, SaturationPullsToTheAverageAndPushesAway) {
         {0x80C86428, std::numeric_limits<int>::max(), 0x80FF0000},
         {0x80C86428, std::numeric_limits<int>::min(), 0x8000FFFF},
     };
-    for (const auto& [color, level, expected] : cases)
-        EXPECT_EQ(Saturated(color, level), expected) << std::hex << color << ' ' << level;
+    for (const auto& test : cases)
+        EXPECT_EQ(Changed(test.Color, [&](Bitmap& p) { SaturationColor(p, test.Level); }),
+                  test.Expected)
+            << std::hex << test.Color << ' ' << test.Level;
 }
 
 TEST(ColorAdjustments, SaturationIsThatOfDoublesAtEverySliderPosition) {
@@ -194,9 +148,12 @@ TEST(ColorAdjustments, SaturationIsThatOfDoublesAtEverySliderPosition) {
             };
             return graphics::MakeARGB(graphics::AlphaOf(color), pushed(r), pushed(g), pushed(b));
         };
-        Bitmap saturated = picture;
-        SaturationColor(saturated, level);
-        EXPECT_TRUE(testing::SamePixels(saturated, PixelByPixel(picture, rule))) << level;
+        const Bitmap expected = PixelByPixel(picture, rule);
+        testing::WithEachInstructionSet([&] {
+            Bitmap saturated = picture;
+            SaturationColor(saturated, level);
+            EXPECT_TRUE(testing::SamePixels(saturated, expected)) << level;
+        });
     }
 }
 
@@ -212,16 +169,11 @@ TEST(ColorAdjustments, BrightnessStretchesAroundTheMiddleAndThenMoves) {
         {0x40FAF9FB, 1, -250, 0x40000001},  // 0, -1 limited, 1
         {0xFF659A80, 5, 10, 0xFF03FF8A},    // 3, 268 limited, 138
     };
-    for (const auto& [color, contrast, brightness, expected] : cases)
-        EXPECT_EQ(Brightened(color, contrast, brightness), expected)
-            << std::hex << color << ' ' << contrast << ' ' << brightness;
-}
-
-TEST(ColorAdjustments, TheNegativeComplementsColoursOnly) {
-    EXPECT_EQ(Changed(0x00FF8001, Negative), Argb{0x00007FFE});
-    Bitmap opaque(1, 1, graphics::PixelFormat::Rgb24);
-    Negative(opaque);
-    EXPECT_EQ(opaque.GetPixel(0, 0), Argb{0xFFFFFFFF});
+    for (const auto& test : cases)
+        EXPECT_EQ(Changed(test.Color,
+                          [&](Bitmap& p) { BrightnessColor(p, test.Contrast, test.Brightness); }),
+                  test.Expected)
+            << std::hex << test.Color;
 }
 
 TEST(ColorAdjustments, AnEmptyPictureStaysEmpty) {
@@ -229,7 +181,6 @@ TEST(ColorAdjustments, AnEmptyPictureStaysEmpty) {
     HueColor(empty, 100);
     SaturationColor(empty, 25);
     BrightnessColor(empty, 2, 10);
-    Negative(empty);
     EXPECT_TRUE(empty.IsEmpty());
 }
 

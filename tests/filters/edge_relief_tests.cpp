@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <climits>
-#include <cmath>
 
 #include "graphics/drawing_context.h"
 #include "support/pictures.h"
@@ -31,16 +30,15 @@ public:
             {1, 1, static_cast<float>(image.Width() - 2), static_cast<float>(image.Height() - 2)});
     }
 
-    void Run(int level) {
+    void Run() {
         for (int y = 0; y < height_; ++y)
             for (int x = 0; x < width_; ++x)
                 if (IsNearEdge(x, y, 100))
                     Darken(x, y);
-        const float strength = static_cast<float>(-level / 50.0);
         for (int y = 0; y < height_; ++y)
             for (int x = 0; x < width_; ++x)
                 if (IsNearEdge(x, y, 150))
-                    Emphasize(x, y, strength);
+                    Emphasize(x, y);
     }
 
     Bitmap Picture;
@@ -77,16 +75,15 @@ private:
         }
     }
 
-    void Emphasize(int x, int y, float strength) {
+    void Emphasize(int x, int y) {
         for (const int channel : {kBlue, kGreen, kRed}) {
             int most = 0;
             for (int dy = -1; dy <= 1; ++dy)
                 for (int dx = -1; dx <= 1; ++dx)
                     if (IsInside(x + dx, y + dy))
                         most = std::max(most, ChannelAt(Picture, x + dx, y + dy, channel));
-            const double value = ChannelAt(Picture, x, y, channel);
-            const double result = std::nearbyint(value - strength * (most - value) + 5.0);
-            SetChannel(Picture, x, y, channel, static_cast<int>(std::clamp(result, 0.0, 255.0)));
+            const int value = ChannelAt(Picture, x, y, channel);
+            SetChannel(Picture, x, y, channel, std::clamp(value - (most - value) + 5, 0, 255));
         }
     }
 
@@ -97,22 +94,18 @@ private:
 };
 
 // Whether the alpha of later positions is still read when one has decided makes no difference.
-TEST(CreatePath, AgreesWithThePlainForm) {
+TEST(FreshStyle, AgreesWithThePlainForm) {
     std::mt19937 random(1);
-    for (const int level : {-50, -25, -110, 0, 30}) {
-        for (const auto& [width, height] : SizesToTry(random)) {
-            const Bitmap image = RandomPicture(random, width, height);
-            for (const auto& [pageWidth, pageHeight] :
-                 {std::pair{width, height}, {width + 5, height + 2}, {1, height}, {20, 10}}) {
-                Bitmap relief = image;
-                CreatePath(relief, pageWidth, pageHeight, level);
-                for (const bool stopsAtFirst : {false, true}) {
-                    PlainRelief plain(image, pageWidth, pageHeight, stopsAtFirst);
-                    plain.Run(level);
-                    ASSERT_TRUE(SamePixels(relief, plain.Picture))
-                        << level << ": " << width << " x " << height << " on " << pageWidth << " x "
-                        << pageHeight;
-                }
+    for (const auto& [width, height] : SizesToTry(random)) {
+        const Bitmap image = RandomPicture(random, width, height);
+        for (const auto& [pageWidth, pageHeight] :
+             {std::pair{width, height}, {width + 5, height + 2}, {1, height}, {20, 10}}) {
+            const StylePicture relief = FreshStyle(image, pageWidth, pageHeight);
+            for (const bool stopsAtFirst : {false, true}) {
+                PlainRelief plain(image, pageWidth, pageHeight, stopsAtFirst);
+                plain.Run();
+                ASSERT_TRUE(SamePixels(relief.Image, plain.Picture))
+                    << width << " x " << height << " on " << pageWidth << " x " << pageHeight;
             }
         }
     }

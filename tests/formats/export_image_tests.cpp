@@ -80,7 +80,7 @@ class ExportTest : public ::testing::Test {
 protected:
     void SetUp() override { setenv("XDG_CACHE_HOME", (folder_ / "cache").c_str(), 1); }
 
-    Bitmap Exported(FileTypes type, const Bitmap& page, Argb background) const {
+    Bitmap Exported(ExportFormat type, const Bitmap& page, Argb background) const {
         ExportImage(path_, type, page, background);
         return graphics::LoadImageFromFile(path_);
     }
@@ -94,16 +94,16 @@ TEST_F(ExportTest, PngAndBmpStandOnTheBackground) {
     page.SetPixel(0, 0, kBlue);
     page.SetPixel(1, 0, 0x00445566);
     const struct {
-        FileTypes Type;
+        ExportFormat Type;
         Argb Background;
         Argb Uncovered;
     } cases[] = {
-        {FileTypes::Png, kRed, kRed},
-        {FileTypes::Png, 0, 0},
-        {FileTypes::Png, 0x80FF0000, 0x80FF0000},
-        {FileTypes::Bmp, kRed, kRed},
-        {FileTypes::Bmp, 0, 0xFFFFFFFF},
-        {FileTypes::Bmp, 0x00FF0000, kRed},
+        {ExportFormat::Png, kRed, kRed},
+        {ExportFormat::Png, 0, 0},
+        {ExportFormat::Png, 0x80FF0000, 0x80FF0000},
+        {ExportFormat::Bmp, kRed, kRed},
+        {ExportFormat::Bmp, 0, 0xFFFFFFFF},
+        {ExportFormat::Bmp, 0x00FF0000, kRed},
     };
     for (const auto& [type, background, uncovered] : cases) {
         const Bitmap picture = Exported(type, page, background);
@@ -119,7 +119,7 @@ TEST_F(ExportTest, JpegStandsOnTheBackgroundOrOnWhite) {
     page.SetPixel(0, 0, kBlue);
     const std::pair<Argb, Argb> cases[] = {{kRed, kRed}, {0, 0xFFFFFFFF}, {0x00FF0000, kRed}};
     for (const auto& [background, uncovered] : cases) {
-        const Bitmap picture = Exported(FileTypes::Jpeg, page, background);
+        const Bitmap picture = Exported(ExportFormat::Jpeg, page, background);
         EXPECT_EQ(picture.Width(), 2);
         EXPECT_EQ(picture.Height(), 1);
         EXPECT_THAT(picture.GetPixel(0, 0), NearColor(kBlue));
@@ -132,13 +132,13 @@ TEST_F(ExportTest, AnIconHoldsThePageInTransparentSquares) {
     std::vector<Bitmap> pictures;
     for (int size : {256, 128, 64, 48, 32, 24, 16})
         pictures.push_back(DrawIconPicture(page, size));
-    ExportImage(path_, FileTypes::Ico, page, kRed);
+    ExportImage(path_, ExportFormat::Ico, page, kRed);
     EXPECT_EQ(graphics::ReadFile(path_), EncodeIcon(pictures, IconFormat::Bmp));
 }
 
 TEST_F(ExportTest, SettingsChooseSizesAndFormatOfAnIcon) {
     const Bitmap page = FilledPicture(15, 15, kBlue);
-    ExportImage(path_, FileTypes::Ico, page, 0, {{32, 15}, IconFormat::Png});
+    ExportImage(path_, ExportFormat::Ico, page, 0, {{32, 15}, IconFormat::Png});
     const Bitmap pictures[] = {DrawIconPicture(page, 32), page};
     EXPECT_EQ(pictures[0].GetPixel(8, 22), kBlue);
     EXPECT_EQ(pictures[0].GetPixel(7, 22), 0u);
@@ -149,7 +149,7 @@ TEST_F(ExportTest, SettingsChooseSizesAndFormatOfAnIcon) {
 TEST_F(ExportTest, APageTooSmallForAnIconLeavesTheOldFile) {
     const std::vector<std::uint8_t> old = {'o', 'l', 'd'};
     graphics::WriteFile(path_, old);
-    ExportImage(path_, FileTypes::Ico, FilledPicture(15, 15, kBlue), 0);
+    ExportImage(path_, ExportFormat::Ico, FilledPicture(15, 15, kBlue), 0);
     EXPECT_EQ(graphics::ReadFile(path_), old);
     EXPECT_FALSE(std::filesystem::exists(SizesFolder()));
 }
@@ -157,7 +157,7 @@ TEST_F(ExportTest, APageTooSmallForAnIconLeavesTheOldFile) {
 TEST_F(ExportTest, ThePicturesOfAnIconStayInTheCacheFolder) {
     for (Argb color : {kRed, kBlue}) {
         const Bitmap page = FilledPicture(24, 24, color);
-        ExportImage(path_, FileTypes::Ico, page, 0);
+        ExportImage(path_, ExportFormat::Ico, page, 0);
         const Bitmap scratch = graphics::LoadImageFromFile(folder_ / "cache/Sizes/temp24.png");
         EXPECT_EQ(scratch.GetPixel(23, 23), color);
     }
@@ -167,21 +167,21 @@ TEST_F(ExportTest, ThePicturesOfAnIconStayInTheCacheFolder) {
 
 TEST_F(ExportTest, ACacheFolderThatCannotBeWrittenStopsNoExport) {
     graphics::WriteFile(folder_ / "cache", std::vector<std::uint8_t>{1});
-    ExportImage(path_, FileTypes::Ico, FilledPicture(16, 16, kBlue), 0);
+    ExportImage(path_, ExportFormat::Ico, FilledPicture(16, 16, kBlue), 0);
     EXPECT_TRUE(std::filesystem::exists(path_));
     // A picture's name that is taken by a folder.
     setenv("XDG_CACHE_HOME", (folder_ / "other").c_str(), 1);
     std::filesystem::create_directories(SizesFolder() / "temp16.png");
-    EXPECT_NO_THROW(ExportImage(path_, FileTypes::Ico, FilledPicture(16, 16, kBlue), 0));
+    EXPECT_NO_THROW(ExportImage(path_, ExportFormat::Ico, FilledPicture(16, 16, kBlue), 0));
 }
 
 TEST_F(ExportTest, FailuresOfTheOutputAreTold) {
     const Bitmap page = FilledPicture(16, 16, kBlue);
     const auto nowhere = folder_ / "missing" / "x";
-    EXPECT_THROW(ExportImage(nowhere, FileTypes::Ico, page, 0), graphics::FileError);
-    EXPECT_THROW(ExportImage(nowhere, FileTypes::Png, page, 0), graphics::FileError);
-    EXPECT_THROW(ExportImage(path_, FileTypes::Png, Bitmap(), 0), graphics::FileError);
-    EXPECT_THROW(ExportImage(nowhere, FileTypes::Gif, page, 0), graphics::FileError);
+    EXPECT_THROW(ExportImage(nowhere, ExportFormat::Ico, page, 0), graphics::FileError);
+    EXPECT_THROW(ExportImage(nowhere, ExportFormat::Png, page, 0), graphics::FileError);
+    EXPECT_THROW(ExportImage(path_, ExportFormat::Png, Bitmap(), 0), graphics::FileError);
+    EXPECT_THROW(ExportImage(nowhere, ExportFormat::Gif, page, 0), graphics::FileError);
     EXPECT_FALSE(std::filesystem::exists(path_));
 }
 
@@ -192,7 +192,7 @@ TEST_F(ExportTest, AGifIsTransparentOnlyWithoutAnyBackground) {
     const auto exported = [&](graphics::Argb background, int threshold) {
         ExportSettings settings;
         settings.GifThreshold = threshold;
-        ExportImage(path_, FileTypes::Gif, page, background, settings);
+        ExportImage(path_, ExportFormat::Gif, page, background, settings);
         const Bitmap gif = graphics::LoadImageFromFile(path_);
         return std::pair{*gif.GetPixel(0, 0), *gif.GetPixel(1, 0)};
     };

@@ -18,18 +18,9 @@ using graphics::Argb;
 using graphics::Bitmap;
 using graphics::IndexedBitmap;
 using ::testing::ElementsAre;
-using testing::FilledPicture;
+using testing::PixelsOf;
+using testing::RowOf;
 using testing::SamePixels;
-
-Bitmap RowOf(const std::vector<Argb>& colors) {
-    Bitmap row(static_cast<int>(colors.size()), 1);
-    std::ranges::copy(colors, row.MutablePixels());
-    return row;
-}
-
-std::vector<Argb> PixelsOf(const Bitmap& image) {
-    return {image.Pixels(), image.Pixels() + image.Width() * image.Height()};
-}
 
 Bitmap Drawn(int width, int height, const std::function<Argb(int, int)>& colorAt) {
     Bitmap image(width, height);
@@ -56,7 +47,6 @@ TEST(FlattenToKeyColor, KeepsBlackForWhatIsTransparent) {
         EXPECT_EQ(flat.GetPixel(0, 0), to) << std::hex << from;
         EXPECT_EQ(flat.Format(), graphics::PixelFormat::Rgb24);
     }
-    EXPECT_TRUE(FlattenToKeyColor(Bitmap(), 130).IsEmpty());
 }
 
 TEST(PaletteImageGIF, UpTo256ColoursStayExact) {
@@ -81,9 +71,8 @@ TEST(PaletteImageGIF, AColourTooManyMergesTheLastPairMade) {
     for (unsigned grey = 0; grey < 256; ++grey)
         colors.push_back(graphics::MakeARGB(255, grey, grey, grey));
     const IndexedBitmap indexed = PaletteImageGIF(RowOf(colors), false);
-    EXPECT_EQ(indexed.Indexes[0], 0);
-    EXPECT_EQ(indexed.Indexes[1], 0);
-    EXPECT_EQ(indexed.Indexes[2], 0);
+    EXPECT_THAT(std::vector(indexed.Indexes.begin(), indexed.Indexes.begin() + 4),
+                ElementsAre(0, 0, 0, 1));
     EXPECT_EQ(indexed.Palette[0], 0xFF000000);  // remainders of the means are dropped
     EXPECT_EQ(indexed.Palette[1], 0xFF020202);
     EXPECT_EQ(indexed.Palette[254], 0xFFFFFFFF);
@@ -104,11 +93,6 @@ TEST(PaletteImageGIF, OneEntryBecomesTransparent) {
     };
     for (const auto& [colors, useTransparency, result] : cases)
         EXPECT_EQ(PixelsOf(PaletteImageGIF(RowOf(colors), useTransparency).ToBitmap()), result);
-}
-
-TEST(PaletteImageGIF, AnEmptyPictureGivesAnEmptyOne) {
-    EXPECT_TRUE(PaletteImageGIF(Bitmap(), true).ToBitmap().IsEmpty());
-    EXPECT_TRUE(EncodeGifPicture(Bitmap(), true, 130).empty());
 }
 
 TEST(PaletteImageGIF, AgreesWithThePlainForm) {
@@ -181,6 +165,7 @@ TEST(EncodeGifPicture, ATransparentBackgroundComesBackAsOne) {
     }
     const Bitmap nothing = graphics::DecodeImage(EncodeGifPicture(Bitmap(3, 2), true, 130));
     EXPECT_TRUE(SamePixels(nothing, Bitmap(3, 2)));
+    EXPECT_TRUE(EncodeGifPicture(Bitmap(), true, 130).empty());
 }
 
 }  // namespace

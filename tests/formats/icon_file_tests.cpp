@@ -5,6 +5,7 @@
 #include "graphics/codecs/image_files.h"
 #include "graphics/errors.h"
 #include "graphics/file_io.h"
+#include "graphics/little_endian.h"
 #include "support/temporary_folder.h"
 
 namespace orbelle::formats {
@@ -68,9 +69,9 @@ TEST(IconFile, TheFormatDecidesWhichPicturesArePng) {
         EXPECT_THAT(Part(icon, 22, 2), ElementsAre(16, 16));
         std::size_t end = kDirectoryBytes + 2 * kEntryBytes;
         for (int i = 0; i < 2; ++i) {
-            const std::uint8_t* entry = icon.data() + kDirectoryBytes + i * kEntryBytes;
-            const std::size_t size = entry[8] + 256u * entry[9] + 65536u * entry[10];
-            const std::size_t start = entry[12] + 256u * entry[13] + 65536u * entry[14];
+            const std::size_t entry = kDirectoryBytes + i * kEntryBytes;
+            const auto size = graphics::NumberAt<std::uint32_t>(icon, entry + 8);
+            const auto start = graphics::NumberAt<std::uint32_t>(icon, entry + 12);
             EXPECT_EQ(start, end);
             end = start + size;
             ASSERT_LE(end, icon.size());
@@ -125,12 +126,8 @@ TEST_F(PngToIco, NamesTheFileAtFaultAndWritesNothing) {
     graphics::WriteFile(text, Bytes{'t', 'e', 'x', 't'});
     for (const auto& bad : {large, text, folder_ / "missing.png"}) {
         const std::filesystem::path names[] = {good, bad};
-        try {
-            CombinePngs(names, output_);
-            ADD_FAILURE() << bad << " was taken";
-        } catch (const graphics::FileError& error) {
-            EXPECT_THAT(error.what(), HasSubstr(bad.string()));
-        }
+        EXPECT_THAT([&] { CombinePngs(names, output_); },
+                    ::testing::ThrowsMessage<graphics::FileError>(HasSubstr(bad.string())));
         EXPECT_FALSE(std::filesystem::exists(output_));
     }
 }

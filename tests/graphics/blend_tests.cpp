@@ -1,16 +1,18 @@
 #include "graphics/detail/blend.h"
 
 #include <gtest/gtest.h>
-#include <hwy/targets.h>
 
 #include <cmath>
 #include <random>
 #include <vector>
 
+#include "support/instruction_sets.h"
+
 namespace orbelle::graphics {
 namespace {
 
 using std::uint64_t;
+using testing::WithEachInstructionSet;
 
 // The definition, word for word.
 Argb Reference(Argb destination, Argb source) {
@@ -25,18 +27,6 @@ Argb Reference(Argb destination, Argb source) {
     return MakeARGB(
         static_cast<unsigned>((2 * r + 255) / 510), mean(RedOf(source), RedOf(destination)),
         mean(GreenOf(source), GreenOf(destination)), mean(BlueOf(source), BlueOf(destination)));
-}
-
-// Runs a check with each instruction set of this machine for which there is code.
-template <class Check>
-void WithEachInstructionSet(Check check) {
-    for (std::int64_t left = hwy::SupportedTargets(); left != 0; left &= left - 1) {
-        const std::int64_t target = left & -left;
-        SCOPED_TRACE(hwy::TargetName(target));
-        hwy::SetSupportedTargetsForTest(target);
-        check();
-    }
-    hwy::SetSupportedTargetsForTest(0);
 }
 
 TEST(Blend, GivesTheKnownResults) {

@@ -2,12 +2,13 @@
 
 #include "graphics/codecs/image_files.h"
 #include "graphics/decoding.h"
+#include "graphics/little_endian.h"
 
 namespace orbelle::graphics {
 namespace {
 
-using testing::HasSubstr;
-using testing::StartsWith;
+using ::testing::HasSubstr;
+using ::testing::StartsWith;
 
 constexpr Argb kRed = 0xFFFF0000;
 constexpr Argb kGreen = 0xFF00FF00;
@@ -25,30 +26,28 @@ struct BmpPicture {
     FileBytes Data = {};
 };
 
-void Append(FileBytes& file, std::uint32_t value, int size) {
-    for (int i = 0; i < size; ++i)
-        file.push_back(static_cast<std::uint8_t>(value >> 8 * i));
-}
-
 FileBytes MakeBmp(const BmpPicture& picture) {
     const bool core = picture.HeaderBytes == 12;
     FileBytes file = {'B', 'M', 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0};
-    Append(file, picture.HeaderBytes, 4);
-    Append(file, picture.Width, core ? 2 : 4);
-    Append(file, picture.Height, core ? 2 : 4);
-    Append(file, 1, 2);
-    Append(file, picture.Bits, 2);
+    Append<std::uint32_t>(file, picture.HeaderBytes);
+    for (std::int32_t side : {picture.Width, picture.Height}) {
+        Append<std::int32_t>(file, side);
+        file.resize(file.size() - (core ? 2 : 0));
+    }
+    Append<std::uint16_t>(file, 1);
+    Append<std::uint16_t>(file, picture.Bits);
     if (!core) {
-        Append(file, picture.Compression, 4);
+        Append<std::uint32_t>(file, picture.Compression);
         file.resize(file.size() + 12);  // size of the data and resolution
-        Append(file, static_cast<std::uint32_t>(picture.Palette.size()), 4);
-        Append(file, 0, 4);
+        Append<std::uint64_t>(file, picture.Palette.size());
     }
     for (std::uint32_t mask : picture.Masks)
-        Append(file, mask, 4);
+        Append<std::uint32_t>(file, mask);
     file.resize(std::max<std::size_t>(file.size(), 14 + picture.HeaderBytes));
-    for (Argb color : picture.Palette)
-        Append(file, color & 0x00FFFFFF, core ? 3 : 4);
+    for (Argb color : picture.Palette) {
+        Append<Argb>(file, color & 0x00FFFFFF);
+        file.resize(file.size() - (core ? 1 : 0));
+    }
     file[10] = static_cast<std::uint8_t>(file.size());
     file.insert(file.end(), picture.Data.begin(), picture.Data.end());
     return file;

@@ -9,14 +9,13 @@ constexpr auto kHorizontal = LinearGradientMode::Horizontal;
 constexpr auto kVertical = LinearGradientMode::Vertical;
 
 TEST(LineBrush, AFlatRectangleMakesNoBrush) {
-    EXPECT_FALSE(CreateLineBrushFromRect({1, 1, 0, 5}, 0, 0, kHorizontal, WrapMode::Tile));
-    EXPECT_FALSE(CreateLineBrushFromRect({1, 1, 5, 0}, 0, 0, kHorizontal, WrapMode::Tile));
-    EXPECT_TRUE(CreateLineBrushFromRect({1, 1, 5, 5}, 0, 0, kHorizontal, WrapMode::Tile));
+    EXPECT_FALSE(CreateLineBrushFromRect({1, 1, 0, 5}, 0, 0, kHorizontal));
+    EXPECT_FALSE(CreateLineBrushFromRect({1, 1, 5, 0}, 0, 0, kHorizontal));
+    EXPECT_TRUE(CreateLineBrushFromRect({1, 1, 5, 5}, 0, 0, kHorizontal));
 }
 
 TEST(LineBrush, AlphaFallsFromTopToBottom) {
-    const auto brush = CreateLineBrushFromRect({0, 0, 42, 42}, 0xC8FFFFFF, 0x14FFFFFF, kVertical,
-                                               WrapMode::TileFlipX);
+    const auto brush = CreateLineBrushFromRect({0, 0, 42, 42}, 0xC8FFFFFF, 0x14FFFFFF, kVertical);
     ASSERT_TRUE(brush);
     const unsigned half[] = {198, 194, 189}, none[] = {200, 196, 191};
     for (int row = 0; row < 3; ++row) {
@@ -34,24 +33,12 @@ TEST(LineBrush, ColoursAreMixedByTheirAlpha) {
     EXPECT_EQ(soft.ColorAt(5, 0), 0x804000BFu);
 }
 
-TEST(LineBrush, WrapModesGoOnOutsideTheRectangle) {
-    const struct {
-        WrapMode Wrap;
-        double X;
-        unsigned Blue;
-    } cases[] = {
-        {WrapMode::Tile, 12, 51},       {WrapMode::Tile, 18, 204},
-        {WrapMode::Tile, 9.999, 255},   {WrapMode::Tile, 20, 0},
-        {WrapMode::TileFlipX, 12, 51},  {WrapMode::TileFlipX, 20, 255},
-        {WrapMode::TileFlipX, 22, 204}, {WrapMode::TileFlipXY, 8, 51},
-        {WrapMode::TileFlipXY, 32, 51}, {WrapMode::TileFlipXY, -2, 204},
-    };
-    for (const auto& test : cases) {
-        const LinearGradientBrush brush{
-            {10, 0, 10, 10}, 0xFF000000, 0xFF0000FF, kHorizontal, test.Wrap};
-        EXPECT_EQ(BlueOf(brush.ColorAt(test.X, 3)), test.Blue)
-            << int(test.Wrap) << " at " << test.X;
-    }
+TEST(LineBrush, GoesToAndFroOutsideTheRectangle) {
+    const LinearGradientBrush brush{{10, 0, 10, 10}, 0xFF000000, 0xFF0000FF, kHorizontal};
+    const std::pair<double, unsigned> cases[] = {{12, 51}, {20, 255}, {22, 204}, {30, 0},
+                                                 {32, 51}, {8, 51},   {-2, 204}};
+    for (const auto& [x, blue] : cases)
+        EXPECT_EQ(BlueOf(brush.ColorAt(x, 3)), blue) << x;
     const LinearGradientBrush flat{{10, 0, 0, 0}, 0xFF112233, 0xFF0000FF};
     EXPECT_EQ(flat.ColorAt(10, 3), 0xFF112233u);
     EXPECT_EQ(flat.ColorAt(11, 3), 0xFF112233u);

@@ -6,10 +6,6 @@
 
 namespace orbelle::graphics {
 
-std::vector<Argb> PixelsOf(const Bitmap& image) {
-    return {image.Pixels(), image.Pixels() + std::size_t(image.Width()) * image.Height()};
-}
-
 std::string ProblemOf(const FileBytes& file) {
     try {
         DecodeImage(file);

@@ -6,12 +6,12 @@
 #include <vector>
 
 #include "graphics/bitmap.h"
+#include "support/pictures.h"
 
 namespace orbelle::graphics {
 
+using testing::PixelsOf;
 using FileBytes = std::vector<std::uint8_t>;
-
-std::vector<Argb> PixelsOf(const Bitmap& image);
 
 // The message of the ImageError that decoding throws; empty when it succeeds.
 std::string ProblemOf(const FileBytes& file);

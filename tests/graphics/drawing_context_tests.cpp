@@ -2,35 +2,27 @@
 
 #include <gtest/gtest.h>
 
-#include <cstdlib>
+#include <functional>
 #include <limits>
 
 #include "support/pixel_runs.h"
+#include "support/shapes.h"
 
 namespace orbelle::graphics {
 namespace {
 
+using testing::EllipsePath;
+using testing::RectanglePath;
+
 constexpr Argb kBlack = 0xFF000000;
 
-class DrawingContextTest : public testing::Test {
+class DrawingContextTest : public ::testing::Test {
 protected:
     std::string Runs() const { return PixelRuns(bitmap_); }
 
     Bitmap bitmap_{16, 16};
     DrawingContext context_{bitmap_};
 };
-
-Path Ellipse(const RectF& box) {
-    Path path(FillMode::Alternate);
-    path.AddEllipse(box);
-    return path;
-}
-
-Path Rectangle(const RectF& rect) {
-    Path path(FillMode::Alternate);
-    path.AddRectangle(rect);
-    return path;
-}
 
 TEST_F(DrawingContextTest, FillsByThePixelOffset) {
     const struct {
@@ -39,10 +31,7 @@ TEST_F(DrawingContextTest, FillsByThePixelOffset) {
         const char* Ellipse;
     } cases[] = {
         {PixelOffsetMode::Default, "2-3: 2-3", "2: 2-4; 3: 1-4; 4: 2-4"},
-        {PixelOffsetMode::HighSpeed, "2-3: 2-3", "2: 2-4; 3: 1-4; 4: 2-4"},
-        {PixelOffsetMode::None, "2-3: 2-3", "2: 2-4; 3: 1-4; 4: 2-4"},
         {PixelOffsetMode::HighQuality, "1-2: 1-2", "1: 2-3; 2-3: 1-4; 4: 2-3"},
-        {PixelOffsetMode::Half, "1-2: 1-2", "1: 2-3; 2-3: 1-4; 4: 2-3"},
     };
     for (const auto& test : cases) {
         context_.SetPixelOffsetMode(test.Mode);
@@ -50,10 +39,10 @@ TEST_F(DrawingContextTest, FillsByThePixelOffset) {
         context_.FillRectangle(SolidBrush{kBlack}, {1.5f, 1.5f, 2, 2});
         EXPECT_EQ(Runs(), test.Rectangle);
         context_.Clear(0);
-        context_.FillPath(SolidBrush{kBlack}, Ellipse({1, 1, 4, 4}));
+        context_.FillPath(SolidBrush{kBlack}, EllipsePath({1, 1, 4, 4}));
         EXPECT_EQ(Runs(), test.Ellipse);
         context_.Clear(0);
-        context_.FillRegion(SolidBrush{kBlack}, Region::FromPath(Ellipse({1, 1, 4, 4})));
+        context_.FillRegion(SolidBrush{kBlack}, Region::FromPath(EllipsePath({1, 1, 4, 4})));
         EXPECT_EQ(Runs(), "2: 2-4; 3: 1-4; 4: 2-4") << "a region knows no offset";
     }
 }
@@ -65,7 +54,7 @@ TEST_F(DrawingContextTest, SmoothFillsAreTheCoverageOfThePixelsSquares) {
                                      {54, 251, 255, 251, 54},
                                      {0, 54, 122, 54, 0}};
     context_.SetSmoothingMode(SmoothingMode::AntiAlias);
-    context_.FillPath(SolidBrush{kBlack}, Ellipse({1, 1, 4, 4}));
+    context_.FillPath(SolidBrush{kBlack}, EllipsePath({1, 1, 4, 4}));
     for (int y = 0; y < 16; ++y) {
         for (int x = 0; x < 16; ++x) {
             const bool near = x >= 1 && x <= 5 && y >= 1 && y <= 5;
@@ -75,20 +64,20 @@ TEST_F(DrawingContextTest, SmoothFillsAreTheCoverageOfThePixelsSquares) {
     }
 
     context_.Clear(0);
-    context_.FillPath(SolidBrush{0x81123456}, Rectangle({2, 2, 3, 3}));
+    context_.FillPath(SolidBrush{0x81123456}, RectanglePath({2, 2, 3, 3}));
     EXPECT_EQ(bitmap_.GetPixel(3, 3), 0x81123456u);
     EXPECT_EQ(bitmap_.GetPixel(2, 3), 0x41123456u) << "half of 129, rounded";
     EXPECT_EQ(bitmap_.GetPixel(5, 5), 0x20123456u) << "a quarter";
-    context_.SetPixelOffsetMode(PixelOffsetMode::Half);
+    context_.SetPixelOffsetMode(PixelOffsetMode::HighQuality);
     context_.Clear(0);
-    context_.FillPath(SolidBrush{kBlack}, Rectangle({2, 2, 3, 3}));
+    context_.FillPath(SolidBrush{kBlack}, RectanglePath({2, 2, 3, 3}));
     EXPECT_EQ(Runs(), "2-4: 2-4");
     EXPECT_EQ(bitmap_.GetPixel(4, 4), kBlack);
 }
 
 TEST_F(DrawingContextTest, SmoothFillsObeyFillModeAndCanvas) {
     context_.SetSmoothingMode(SmoothingMode::AntiAlias);
-    context_.SetPixelOffsetMode(PixelOffsetMode::Half);
+    context_.SetPixelOffsetMode(PixelOffsetMode::HighQuality);
     for (FillMode mode : {FillMode::Alternate, FillMode::Winding}) {
         Path path(mode);
         path.AddRectangle({-1e30f, -1e30f, 2e30f, 2e30f});
@@ -108,7 +97,7 @@ TEST_F(DrawingContextTest, EveryPixelIsBlendedOnce) {
     overlapping.AddRectangle({3, 3, 4, 4});
     for (SmoothingMode smoothing : {SmoothingMode::None, SmoothingMode::AntiAlias}) {
         context_.SetSmoothingMode(smoothing);
-        context_.SetPixelOffsetMode(PixelOffsetMode::Half);
+        context_.SetPixelOffsetMode(PixelOffsetMode::HighQuality);
         context_.Clear(0xFF204060);
         context_.FillPath(SolidBrush{0x80C0A010}, overlapping);
         for (int i = 1; i < 7; ++i)
@@ -118,26 +107,20 @@ TEST_F(DrawingContextTest, EveryPixelIsBlendedOnce) {
 }
 
 TEST_F(DrawingContextTest, GradientsAreEvaluatedAtPixelCentres) {
-    const struct {
-        PixelOffsetMode Mode;
-        Argb Third;
-    } cases[] = {{PixelOffsetMode::None, 0xBFFFFFFF}, {PixelOffsetMode::Half, 0xBDFFFFFF}};
-    const RectF rect{0, 0, 42, 42};
-    for (const auto& test : cases) {
-        context_.SetPixelOffsetMode(test.Mode);
+    for (const auto& [offset, third] : {std::pair{PixelOffsetMode::Default, 0xBFFFFFFF},
+                                        {PixelOffsetMode::HighQuality, 0xBDFFFFFF}}) {
+        context_.SetPixelOffsetMode(offset);
         for (auto mode : {LinearGradientMode::Horizontal, LinearGradientMode::Vertical}) {
-            const LinearGradientBrush brush{rect, 0xC8FFFFFF, 0x14FFFFFF, mode};
-            context_.SetSmoothingMode(SmoothingMode::None);
+            const LinearGradientBrush brush{{0, 0, 42, 42}, 0xC8FFFFFF, 0x14FFFFFF, mode};
             context_.Clear(0);
             context_.FillRegion(brush, Region::FromPixelRects({{2, 2, 9, 9}}));
-            EXPECT_EQ(bitmap_.GetPixel(2, 2), test.Third);
-            context_.Clear(0);
-            context_.FillRectangle(brush, {1, 1, 9, 9});
-            EXPECT_EQ(bitmap_.GetPixel(2, 2), test.Third);
-            context_.SetSmoothingMode(SmoothingMode::AntiAlias);
-            context_.Clear(0);
-            context_.FillPath(brush, Rectangle({1, 1, 9, 9}));
-            EXPECT_EQ(bitmap_.GetPixel(2, 2), test.Third);
+            EXPECT_EQ(bitmap_.GetPixel(2, 2), third);
+            for (SmoothingMode smoothing : {SmoothingMode::None, SmoothingMode::AntiAlias}) {
+                context_.SetSmoothingMode(smoothing);
+                context_.Clear(0);
+                context_.FillPath(brush, RectanglePath({1, 1, 9, 9}));
+                EXPECT_EQ(bitmap_.GetPixel(2, 2), third);
+            }
         }
     }
 }
@@ -145,45 +128,46 @@ TEST_F(DrawingContextTest, GradientsAreEvaluatedAtPixelCentres) {
 TEST_F(DrawingContextTest, SoftEdgesOfAHorizontalGradient) {
     context_.SetSmoothingMode(SmoothingMode::AntiAlias);
     const LinearGradientBrush across{{0, 0, 8, 8}, 0xFF000000, 0x00000000};
-    context_.FillPath(across, Rectangle({0, 2, 8, 2}));
-    EXPECT_EQ(bitmap_.GetPixel(4, 3), 0x80000000u);
-    EXPECT_EQ(bitmap_.GetPixel(4, 2), 0x40000000u);
-    EXPECT_EQ(bitmap_.GetPixel(4, 4), 0x40000000u);
-    EXPECT_EQ(bitmap_.GetPixel(0, 3), 0x80000000u);
+    context_.FillPath(across, RectanglePath({0, 2, 8, 2}));
+    const int places[][2] = {{4, 3}, {4, 2}, {4, 4}, {0, 3}};
+    const Argb expected[] = {0x80000000, 0x40000000, 0x40000000, 0x80000000};
+    for (int i = 0; i < 4; ++i)
+        EXPECT_EQ(bitmap_.GetPixel(places[i][0], places[i][1]), expected[i]) << i;
 }
 
 TEST_F(DrawingContextTest, ClipsAreHardAndBindEverything) {
     // A triangle's clip by the offset in force; then everything is painted through it.
-    Path triangle(FillMode::Alternate);
-    triangle.AddPolygon(std::vector<PointF>{{1, 1}, {4, 1}, {1, 4}});
-    for (PixelOffsetMode mode : {PixelOffsetMode::None, PixelOffsetMode::Half}) {
+    const Path triangle = testing::PolygonPath({{1, 1}, {4, 1}, {1, 4}});
+    const SolidBrush black{kBlack};
+    const std::function<void(DrawingContext&)> paintings[] = {
+        [&](DrawingContext& context) {
+            context.FillPath(black, RectanglePath({-1, -1, 20, 20}));
+        },
+        [&](DrawingContext& context) {
+            context.FillRectangle(black, {0, 0, 16, 16});
+        },
+        [&](DrawingContext& context) { context.FillRegion(black, Region::Infinite()); },
+        [&](DrawingContext& context) { context.Clear(kBlack); },
+    };
+    for (PixelOffsetMode mode : {PixelOffsetMode::Default, PixelOffsetMode::HighQuality}) {
         const char* expected =
-            mode == PixelOffsetMode::None ? "1: 1-3; 2: 1-2; 3: 1" : "1: 1-2; 2: 1";
-        Bitmap bitmap(16, 16);
-        DrawingContext context(bitmap);
-        context.SetPixelOffsetMode(mode);
-        context.SetSmoothingMode(SmoothingMode::AntiAlias);
-        context.SetClipPath(triangle, CombineMode::Replace);
-        context.FillPath(SolidBrush{kBlack}, Rectangle({-1, -1, 20, 20}));
-        EXPECT_EQ(PixelRuns(bitmap), expected);
-        EXPECT_EQ(bitmap.GetPixel(1, 1), kBlack);
-        context.Clear(0);
-        EXPECT_EQ(PixelRuns(bitmap), "");
-        context.Clear(0x1E3C5A78);
-        EXPECT_EQ(PixelRuns(bitmap), expected);
-        EXPECT_EQ(bitmap.GetPixel(1, 1), 0x1E3C5A78u);
-        context.Clear(0);
-        context.FillRectangle(SolidBrush{kBlack}, {0, 0, 16, 16});
-        EXPECT_EQ(PixelRuns(bitmap), expected);
-        context.Clear(0);
-        context.FillRegion(SolidBrush{kBlack}, Region::Infinite());
-        EXPECT_EQ(PixelRuns(bitmap), expected);
+            mode == PixelOffsetMode::Default ? "1: 1-3; 2: 1-2; 3: 1" : "1: 1-2; 2: 1";
+        for (const auto& paint : paintings) {
+            Bitmap bitmap(16, 16);
+            DrawingContext context(bitmap);
+            context.SetPixelOffsetMode(mode);
+            context.SetSmoothingMode(SmoothingMode::AntiAlias);
+            context.SetClipPath(triangle, CombineMode::Replace);
+            paint(context);
+            EXPECT_EQ(PixelRuns(bitmap), expected);
+            EXPECT_EQ(bitmap.GetPixel(1, 1), kBlack);
+        }
     }
 }
 
 TEST_F(DrawingContextTest, ClipsNarrowOrReplace) {
     context_.SetClipRegion(Region::FromRect({1, 1, 4, 4}), CombineMode::Intersect);
-    context_.SetClipPath(Rectangle({3, 3, 9, 9}), CombineMode::Intersect);
+    context_.SetClipPath(RectanglePath({3, 3, 9, 9}), CombineMode::Intersect);
     context_.SetClipPath(Path(), CombineMode::Replace);
     context_.SetClipRegion(Region(), CombineMode::Intersect);
     context_.Clear(kBlack);
@@ -197,15 +181,10 @@ TEST_F(DrawingContextTest, ClipsNarrowOrReplace) {
 TEST_F(DrawingContextTest, SmoothFillsAreCutPixelByPixel) {
     Bitmap whole(16, 16);
     DrawingContext unclipped(whole);
-    std::vector<RectI> chess;
-    for (int y = 0; y < 16; ++y) {
-        for (int x = y % 2; x < 16; x += 2)
-            chess.push_back({x, y, 1, 1});
-    }
-    context_.SetClipRegion(Region::FromPixelRects(chess), CombineMode::Replace);
+    context_.SetClipRegion(Region::FromPixelRects(testing::ChessPixels(16)), CombineMode::Replace);
     for (DrawingContext* context : {&context_, &unclipped}) {
         context->SetSmoothingMode(SmoothingMode::AntiAlias);
-        context->FillPath(SolidBrush{0xC0123456}, Ellipse({1, 1, 12, 13}));
+        context->FillPath(SolidBrush{0xC0123456}, EllipsePath({1, 1, 12, 13}));
     }
     for (int y = 0; y < 16; ++y) {
         for (int x = 0; x < 16; ++x)
@@ -245,7 +224,7 @@ TEST_F(DrawingContextTest, DrawsRectangles) {
                 EXPECT_TRUE(bitmap_.Pixels()[i] == 0 || bitmap_.Pixels()[i] == 0x80C0A010);
         }
     }
-    context_.SetPixelOffsetMode(PixelOffsetMode::Half);
+    context_.SetPixelOffsetMode(PixelOffsetMode::HighQuality);
     context_.Clear(0);
     context_.DrawRectangle({SolidBrush{kBlack}, 1}, {2, 2, 5, 4});
     EXPECT_EQ(Runs(), "2: 2-7; 3-5: 2 7; 6: 2-7");
@@ -265,9 +244,13 @@ TEST_F(DrawingContextTest, NothingIsDrawnWithNothing) {
         nowhere.SetSmoothingMode(smoothing);
         nowhere.Clear(kBlack);
         nowhere.FillRectangle(SolidBrush{kBlack}, {0, 0, 5, 5});
-        nowhere.FillPath(SolidBrush{kBlack}, Ellipse({0, 0, 5, 5}));
-        nowhere.DrawRectangle({SolidBrush{kBlack}, 1}, {0, 0, 5, 5});
-        nowhere.SetClipPath(Ellipse({0, 0, 5, 5}), CombineMode::Intersect);
+        nowhere.FillPath(SolidBrush{kBlack}, EllipsePath({0, 0, 5, 5}));
+        for (float width : {1.0F, 9.0F}) {
+            nowhere.DrawRectangle({SolidBrush{kBlack}, width}, {0, 0, 5, 5});
+            nowhere.DrawLine({SolidBrush{kBlack}, width}, {0, 0}, {9, 9});
+            nowhere.DrawEllipse({SolidBrush{kBlack}, width}, {0, 0, 9, 9});
+        }
+        nowhere.SetClipPath(EllipsePath({0, 0, 5, 5}), CombineMode::Intersect);
     }
     EXPECT_TRUE(none.IsEmpty());
 }

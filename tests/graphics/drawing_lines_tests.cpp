@@ -6,6 +6,7 @@
 
 #include "graphics/drawing_context.h"
 #include "support/pixel_runs.h"
+#include "support/shapes.h"
 
 namespace orbelle::graphics {
 namespace {
@@ -20,9 +21,25 @@ Pen BlackPen(float width) {
     return {SolidBrush{kBlack}, width};
 }
 
-class DrawingLinesTest : public testing::Test {
+class DrawingLinesTest : public ::testing::Test {
 protected:
     std::string Runs() const { return PixelRuns(bitmap_); }
+
+    std::string Lines(const Pen& pen, const std::vector<PointF>& points) {
+        context_.Clear(0);
+        context_.DrawLines(pen, points);
+        return Runs();
+    }
+    std::string Polygon(const Pen& pen, const std::vector<PointF>& points) {
+        context_.Clear(0);
+        context_.DrawPolygon(pen, points);
+        return Runs();
+    }
+    // A circle in the middle.
+    void DrawRing(float radius, float width) {
+        context_.Clear(0);
+        context_.DrawEllipse(BlackPen(width), {16 - radius, 16 - radius, 2 * radius, 2 * radius});
+    }
 
     void ExpectAlphas(int left, int top, const std::vector<std::vector<int>>& expected) const {
         for (int y = 0; y < bitmap_.Height(); ++y) {
@@ -59,24 +76,17 @@ TEST_F(DrawingLinesTest, OnePixelLines) {
         {{{2, 2}, {5, 2}, {5, 2}, {5, 4}}, "2: 2-5; 3-4: 5"},
     };
     for (const auto& test : cases) {
-        context_.Clear(0);
-        context_.DrawLines(kThinPen, test.Points);
-        EXPECT_EQ(Runs(), test.Expected);
-        context_.Clear(0);
-        context_.DrawLines(kThinPen, std::vector<PointF>{test.Points.rbegin(), test.Points.rend()});
-        EXPECT_EQ(Runs(), test.Expected) << "from the other end";
-        context_.Clear(0);
-        context_.SetPixelOffsetMode(PixelOffsetMode::Half);
+        EXPECT_EQ(Lines(kThinPen, test.Points), test.Expected);
+        EXPECT_EQ(Lines(kThinPen, {test.Points.rbegin(), test.Points.rend()}), test.Expected)
+            << "from the other end";
+        context_.SetPixelOffsetMode(PixelOffsetMode::HighQuality);
         std::vector<PointF> moved = test.Points;
         for (PointF& point : moved)
             point = {point.X + 0.5F, point.Y + 0.5F};
-        context_.DrawLines(kThinPen, moved);
-        EXPECT_EQ(Runs(), test.Expected) << "centres at halves";
-        context_.SetPixelOffsetMode(PixelOffsetMode::None);
+        EXPECT_EQ(Lines(kThinPen, moved), test.Expected) << "centres at halves";
+        context_.SetPixelOffsetMode(PixelOffsetMode::Default);
     }
-    context_.Clear(0);
-    context_.DrawPolygon(kThinPen, std::vector<PointF>{{1, 1}, {4, 1}, {1, 4}});
-    EXPECT_EQ(Runs(), "1: 1-4; 2: 1 3; 3: 1-2; 4: 1");
+    EXPECT_EQ(Polygon(kThinPen, {{1, 1}, {4, 1}, {1, 4}}), "1: 1-4; 2: 1 3; 3: 1-2; 4: 1");
 }
 
 TEST_F(DrawingLinesTest, FarAwayLinesHitThePixelsOfTheWholeWalk) {
@@ -94,12 +104,8 @@ TEST_F(DrawingLinesTest, FarAwayLinesHitThePixelsOfTheWholeWalk) {
         {{3, 3}, {9, kInfinity}, ""},
     };
     for (const auto& test : cases) {
-        for (bool forwards : {true, false}) {
-            context_.Clear(0);
-            context_.DrawLine(kThinPen, forwards ? test.Start : test.End,
-                              forwards ? test.End : test.Start);
-            EXPECT_EQ(Runs(), test.Expected) << test.Start.X << ", " << test.Start.Y;
-        }
+        EXPECT_EQ(Lines(kThinPen, {test.Start, test.End}), test.Expected) << test.Start.X;
+        EXPECT_EQ(Lines(kThinPen, {test.End, test.Start}), test.Expected) << test.Start.X;
     }
 }
 
@@ -119,9 +125,8 @@ TEST_F(DrawingLinesTest, HostileNumbersAreHarmless) {
             }
         }
         // And what is right in front of one's eyes stays where it belongs.
-        context_.Clear(0);
-        context_.DrawLine(BlackPen(4), {-1e9F, 10}, {1e9F, 10});
-        EXPECT_EQ(Runs(), smoothing == SmoothingMode::None ? "8-11: 0-31" : "8-12: 0-31");
+        EXPECT_EQ(Lines(BlackPen(4), {{-1e9F, 10}, {1e9F, 10}}),
+                  smoothing == SmoothingMode::None ? "8-11: 0-31" : "8-12: 0-31");
     }
 }
 
@@ -138,17 +143,11 @@ TEST_F(DrawingLinesTest, WideLinesCoverThePixelsWhoseCentresTheyCover) {
         {4, {{4, 4}, {12, 4}, {12, 10}}, "2-5: 4-13; 6-9: 10-13"},
         {4, {{4, 4}, {12, 4}, {6, 4}}, "2-5: 4-11"},
     };
-    for (const auto& test : cases) {
-        context_.Clear(0);
-        context_.DrawLines(BlackPen(test.Width), test.Points);
-        EXPECT_EQ(Runs(), test.Expected);
-    }
-    context_.Clear(0);
-    context_.DrawPolygon(BlackPen(2), std::vector<PointF>{{3, 3}, {8, 3}, {8, 7}, {3, 7}});
-    EXPECT_EQ(Runs(), "2-3: 2-8; 4-5: 2-3 7-8; 6-7: 2-8");
-    context_.Clear(0);
-    context_.DrawPolygon(BlackPen(2), std::vector<PointF>{{2, 4}, {8, 4}});
-    EXPECT_EQ(Runs(), "3-4: 2-7") << "a polygon of two points is a line";
+    for (const auto& test : cases)
+        EXPECT_EQ(Lines(BlackPen(test.Width), test.Points), test.Expected);
+    EXPECT_EQ(Polygon(BlackPen(2), {{3, 3}, {8, 3}, {8, 7}, {3, 7}}),
+              "2-3: 2-8; 4-5: 2-3 7-8; 6-7: 2-8");
+    EXPECT_EQ(Polygon(BlackPen(2), {{2, 4}, {8, 4}}), "3-4: 2-7") << "two points are a line";
 
     // One pixel more or less at either edge of a slanting line.
     const int expected[][2] = {{3, 3}, {2, 4}, {2, 5}, {3, 6}, {4, 7}, {5, 8}, {6, 7}, {7, 7}};
@@ -203,16 +202,8 @@ TEST_F(DrawingLinesTest, SmoothLinesAreTheirCoverage) {
     }
 }
 
-TEST_F(DrawingLinesTest, SmoothEllipses) {
+TEST_F(DrawingLinesTest, ASmoothEllipse) {
     context_.SetSmoothingMode(SmoothingMode::AntiAlias);
-    context_.FillEllipse(SolidBrush{kBlack}, {1, 1, 4, 4});
-    ExpectAlphas(1, 1,
-                 {{0, 54, 122, 54, 0},
-                  {54, 251, 255, 251, 54},
-                  {122, 255, 255, 255, 122},
-                  {54, 251, 255, 251, 54},
-                  {0, 54, 122, 54, 0}});
-    context_.Clear(0);
     context_.DrawEllipse(BlackPen(1), {1, 1, 4, 4});
     ExpectAlphas(1, 1,
                  {{35, 196, 251, 196, 35},
@@ -239,15 +230,10 @@ TEST_F(DrawingLinesTest, EveryPixelIsBlendedOnce) {
 }
 
 TEST_F(DrawingLinesTest, ClipsBindLines) {
-    std::vector<RectI> chess;
-    for (int y = 0; y < 32; ++y) {
-        for (int x = y % 2; x < 32; x += 2)
-            chess.push_back({x, y, 1, 1});
-    }
     const std::vector<PointF> points{{-5, 3}, {40, 9}, {3, 30}, {9, -4}};
     Bitmap whole(32, 32);
     DrawingContext unclipped(whole);
-    context_.SetClipRegion(Region::FromPixelRects(chess), CombineMode::Replace);
+    context_.SetClipRegion(Region::FromPixelRects(testing::ChessPixels(32)), CombineMode::Replace);
     for (float width : {1.0F, 5.0F}) {
         for (SmoothingMode smoothing : {SmoothingMode::None, SmoothingMode::AntiAlias}) {
             for (DrawingContext* context : {&context_, &unclipped}) {
@@ -284,12 +270,9 @@ TEST_F(DrawingLinesTest, GradientsRunAlongPens) {
     EXPECT_EQ(bitmap_.GetPixel(12, 8), 0xFF800080U);
 
     // Along the edge of its own path only the inner half, and of that not the right and bottom rim.
-    Path path(FillMode::Winding);
-    path.AddRectangle({4, 4, 8, 8});
-    const Brush around = *CreatePathGradientFromPath(path, kBlack, {8, 8}, 0xFF0000FF);
-    context_.Clear(0);
-    context_.DrawPolygon({around, 1}, std::vector<PointF>{{4, 4}, {12, 4}, {12, 12}, {4, 12}});
-    EXPECT_EQ(Runs(), "4: 4-11; 5-11: 4");
+    const Brush around = *CreatePathGradientFromPath(testing::RectanglePath({4, 4, 8, 8}), kBlack,
+                                                     {8, 8}, 0xFF0000FF);
+    EXPECT_EQ(Polygon({around, 1}, {{4, 4}, {12, 4}, {12, 12}, {4, 12}}), "4: 4-11; 5-11: 4");
     EXPECT_EQ(bitmap_.GetPixel(6, 4), 0xFF0000FFU);
 }
 
@@ -339,9 +322,7 @@ TEST_F(DrawingLinesTest, WideCirclesAreRings) {
         const double doubt = smoothing == SmoothingMode::AntiAlias ? 0.9 : 0.2;
         for (float radius : {0.5F, 1.0F, 2.0F, 4.0F, 5.0F, 7.0F}) {
             for (float width : {2.0F, 5.0F, 9.0F, 12.0F, 15.0F}) {
-                context_.Clear(0);
-                context_.DrawEllipse(BlackPen(width),
-                                     {16 - radius, 16 - radius, 2 * radius, 2 * radius});
+                DrawRing(radius, width);
                 for (int y = 0; y < 32; ++y) {
                     for (int x = 0; x < 32; ++x) {
                         const double beyond =
@@ -360,8 +341,7 @@ TEST_F(DrawingLinesTest, WideCirclesAreRings) {
 // A pixel's centre on the right or bottom edge is outside, and on the top edge nothing is wide.
 TEST_F(DrawingLinesTest, WideCirclesHaveNoSpikes) {
     for (float radius : {1, 3, 6, 9}) {
-        context_.Clear(0);
-        context_.DrawEllipse(BlackPen(8), {16 - radius, 16 - radius, 2 * radius, 2 * radius});
+        DrawRing(radius, 8);
         const int reach = static_cast<int>(radius) + 4;
         EXPECT_EQ(bitmap_.GetPixel(16 + reach, 16), 0U) << radius;
         EXPECT_EQ(bitmap_.GetPixel(16, 16 + reach), 0U) << radius;
@@ -371,36 +351,20 @@ TEST_F(DrawingLinesTest, WideCirclesHaveNoSpikes) {
 }
 
 TEST_F(DrawingLinesTest, PensWiderThanTheShapeLeaveNoHole) {
-    context_.DrawPolygon(BlackPen(5), std::vector<PointF>{{5, 5}, {10, 5}, {10, 9}, {5, 9}});
-    EXPECT_EQ(Runs(), "3-11: 3-12");
+    EXPECT_EQ(Polygon(BlackPen(5), {{5, 5}, {10, 5}, {10, 9}, {5, 9}}), "3-11: 3-12");
     context_.Clear(0);
     context_.DrawEllipse(BlackPen(255), {14, 12, 3, 9});
     EXPECT_EQ(Runs(), "0-31: 0-31");
     // A scribble within the pen's width.
-    context_.Clear(0);
     std::vector<PointF> spiral;
-    for (int i = 0; i < 60; ++i) {
-        spiral.push_back({16 + 0.05F * static_cast<float>(i) * std::cos(0.3F * float(i)),
-                          16 + 0.05F * static_cast<float>(i) * std::sin(0.3F * float(i))});
-    }
-    context_.DrawLines(BlackPen(16), spiral);
+    for (float i = 0; i < 60; ++i)
+        spiral.push_back(
+            {16 + 0.05F * i * std::cos(0.3F * i), 16 + 0.05F * i * std::sin(0.3F * i)});
+    Lines(BlackPen(16), spiral);
     for (int y = 10; y <= 22; ++y) {
         for (int x = 10; x <= 22; ++x)
             EXPECT_EQ(bitmap_.GetPixel(x, y), kBlack) << x << ", " << y;
     }
-}
-
-TEST(DrawingLinesOnNothing, DrawNothing) {
-    Bitmap none;
-    DrawingContext nowhere(none);
-    for (SmoothingMode smoothing : {SmoothingMode::None, SmoothingMode::AntiAlias}) {
-        nowhere.SetSmoothingMode(smoothing);
-        for (float width : {1.0F, 9.0F}) {
-            nowhere.DrawLine(BlackPen(width), {0, 0}, {9, 9});
-            nowhere.DrawEllipse(BlackPen(width), {0, 0, 9, 9});
-        }
-    }
-    EXPECT_TRUE(none.IsEmpty());
 }
 
 }  // namespace

@@ -6,34 +6,28 @@
 #include <unistd.h>
 
 #include <csignal>
-#include <cstdlib>
 
 #include "graphics/errors.h"
+#include "support/temporary_folder.h"
 
 namespace orbelle::graphics {
 namespace {
 
 namespace fs = std::filesystem;
-using testing::EndsWith;
-using testing::ThrowsMessage;
+using ::testing::EndsWith;
+using ::testing::ThrowsMessage;
 using FileBytes = std::vector<std::uint8_t>;
 
 const FileBytes kOld = {'o', 'l', 'd'};
 const FileBytes kNew = {'n', 'e', 'w', 0, 255};
 
-class FileIo : public testing::Test {
+class FileIo : public ::testing::Test {
 protected:
-    FileIo() {
-        std::string pattern = testing::TempDir() + "orbelle_XXXXXX";
-        folder_ = mkdtemp(pattern.data());
-    }
-    ~FileIo() override { fs::remove_all(folder_); }
-
     std::size_t FilesInFolder() const {
-        return std::distance(fs::directory_iterator(folder_), fs::directory_iterator());
+        return std::distance(fs::directory_iterator(folder_.Path()), fs::directory_iterator());
     }
 
-    fs::path folder_;
+    const testing::TemporaryFolder folder_;
 };
 
 TEST_F(FileIo, WritesAndReplacesWholeFiles) {
@@ -70,8 +64,8 @@ TEST_F(FileIo, FailuresNameTheFileAndTheReason) {
         std::string Problem;
     };
     const Case kWrites[] = {
-        {folder_ / "missing" / "a", ": No such file or directory"},
-        {folder_, ": Is a directory"},
+        {folder_ / "missing/a", ": No such file or directory"},
+        {folder_.Path(), ": Is a directory"},
         {"/dev/full", ": No space left on device"},
     };
     for (const auto& [path, problem] : kWrites)
@@ -83,7 +77,7 @@ TEST_F(FileIo, FailuresNameTheFileAndTheReason) {
     fs::resize_file(large, kMaxFileBytes + 1);
     const Case kReads[] = {
         {folder_ / "missing", ": No such file or directory"},
-        {folder_, ": Is a directory"},
+        {folder_.Path(), ": Is a directory"},
         {"/dev/null", ": not a regular file"},
         {large, ": larger than 256 MiB"},
     };

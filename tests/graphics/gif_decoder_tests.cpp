@@ -9,7 +9,7 @@
 namespace orbelle::graphics {
 namespace {
 
-using testing::StartsWith;
+using ::testing::StartsWith;
 
 constexpr Argb kRed = 0xFFFF0000;
 constexpr Argb kGreen = 0xFF00FF00;

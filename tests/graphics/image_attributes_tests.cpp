@@ -8,6 +8,7 @@
 
 #include "graphics/detail/recoloring.h"
 #include "graphics/geometry.h"
+#include "support/instruction_sets.h"
 
 namespace orbelle::graphics {
 namespace {
@@ -82,8 +83,11 @@ TEST(ImageAttributes, EveryPixelOfARunIsTheRoundedSumOfItsCells) {
             };
             expected.push_back(MakeARGB(channel(3), channel(0), channel(1), channel(2)));
         }
-        Recoloring({.Matrix = matrix}).Apply(pixels);
-        EXPECT_EQ(pixels, expected);
+        testing::WithEachInstructionSet([&] {
+            std::vector<Argb> recolored = pixels;
+            Recoloring({.Matrix = matrix}).Apply(recolored);
+            EXPECT_EQ(recolored, expected);
+        });
     }
 }
 

@@ -10,15 +10,19 @@
 
 #include "graphics/detail/blend.h"
 #include "graphics/detail/recoloring.h"
+#include "graphics/rotate_flip.h"
+#include "support/pictures.h"
+#include "support/random_pictures.h"
 
 namespace orbelle::graphics {
 namespace {
 
 using enum InterpolationMode;
-using testing::ElementsAreArray;
+using ::testing::ElementsAreArray;
+using testing::PixelsOf;
+using testing::RowOf;
 
-constexpr InterpolationMode kAllModes[] = {Default,  LowQuality,      HighQuality,
-                                           Bilinear, NearestNeighbor, HighQualityBilinear};
+constexpr InterpolationMode kAllModes[] = {Default, HighQuality, NearestNeighbor};
 constexpr double kNone = 0;
 constexpr double kHalf = 0.5;
 
@@ -26,38 +30,21 @@ Argb Grey(unsigned value, unsigned alpha = 255) {
     return MakeARGB(alpha, value, value, value);
 }
 
-Bitmap FromRow(const std::vector<Argb>& pixels) {
-    Bitmap row(static_cast<int>(pixels.size()), 1);
-    std::copy(pixels.begin(), pixels.end(), row.MutablePixels());
-    return row;
-}
-
 Bitmap GreyRow(const std::vector<unsigned>& values) {
     std::vector<Argb> pixels;
     for (unsigned value : values)
         pixels.push_back(Grey(value));
-    return FromRow(pixels);
+    return RowOf(pixels);
 }
 
-Bitmap Transposed(const Bitmap& image) {
-    Bitmap turned(image.Height(), image.Width());
-    for (int y = 0; y < image.Height(); ++y) {
-        for (int x = 0; x < image.Width(); ++x)
-            turned.SetPixel(y, x, image.Row(y)[x]);
-    }
-    return turned;
+Bitmap Transposed(Bitmap image) {
+    ImageRotateFlip(image, RotateFlipType::Rotate90FlipX);
+    return image;
 }
 
 Bitmap Noise(int width, int height) {
     std::mt19937 random(3);
-    Bitmap noise(width, height);
-    for (int i = 0; i < width * height; ++i)
-        noise.MutablePixels()[i] = static_cast<Argb>(random());
-    return noise;
-}
-
-std::vector<Argb> PixelsOf(const Bitmap& bitmap) {
-    return {bitmap.Pixels(), bitmap.Pixels() + std::size_t(bitmap.Width()) * bitmap.Height()};
+    return testing::RandomPicture(random, width, height);
 }
 
 RectI WholeOf(const Bitmap& bitmap) {
@@ -81,9 +68,9 @@ ImageDrawing Whole(const Bitmap& image, RectF destination, InterpolationMode mod
 // out the same.
 std::vector<Argb> DrawnRow(const Bitmap& image, float x, float width, InterpolationMode mode,
                            double offset, const std::vector<Argb>& background) {
-    Bitmap row = FromRow(background);
+    Bitmap row = RowOf(background);
     DrawUnclipped(row, image, Whole(image, {x, 0, width, 1}, mode, offset));
-    Bitmap column = Transposed(FromRow(background));
+    Bitmap column = Transposed(RowOf(background));
     const Bitmap turned = Transposed(image);
     DrawUnclipped(column, turned, Whole(turned, {0, x, 1, width}, mode, offset));
     EXPECT_EQ(PixelsOf(column), PixelsOf(row));
@@ -118,53 +105,47 @@ TEST(ImageDrawing, NearestTakesThePixelAtTheSample) {
         for (int i = 0; i < c.Source; ++i)
             image.push_back(Grey('0' + i));
         std::string drawn;
-        for (const Argb pixel : DrawnRow(FromRow(image), c.X, c.Width, NearestNeighbor, c.Offset,
+        for (const Argb pixel : DrawnRow(RowOf(image), c.X, c.Width, NearestNeighbor, c.Offset,
                                          std::vector<Argb>(c.Drawn.size(), Grey('.'))))
             drawn += static_cast<char>(BlueOf(pixel));
         EXPECT_EQ(drawn, c.Drawn) << c.Source << " pixels at " << c.X << ", " << c.Offset;
     }
 }
 
-TEST(ImageDrawing, BilinearModesFadeAtTheBordersAndShiftWithoutOffset) {
+TEST(ImageDrawing, BilinearFadesAtTheBordersAndShiftsWithoutOffset) {
     const auto opaque = [](const std::vector<unsigned>& values) {
         return PixelsOf(GreyRow(values));
     };
     const Bitmap four = GreyRow({40, 80, 120, 200});
     const std::vector<Argb> empty(8, 0);
-    for (const auto mode : {Default, LowQuality, Bilinear}) {
-        EXPECT_EQ(DrawnRow(GreyRow({128, 204}), 2, 4, mode, kNone, std::vector(8, Grey(64))),
-                  opaque({64, 64, 128, 166, 204, 134, 64, 64}));
-        EXPECT_THAT(DrawnRow(four, 0, 8, mode, kHalf, empty),
-                    ElementsAreArray({Grey(40, 191), Grey(50), Grey(70), Grey(90), Grey(110),
-                                      Grey(140), Grey(180), Grey(200, 191)}));
-        EXPECT_THAT(DrawnRow(four, 0, 8, mode, kNone, empty),
-                    ElementsAreArray({Grey(40), Grey(60), Grey(80), Grey(100), Grey(120), Grey(160),
-                                      Grey(200), Grey(200, 128)}));
-        // No prefilter: the samples lie at 0 and 4, or at 1.5 and 5.5, whatever lies between.
-        EXPECT_EQ(DrawnRow(GreyRow({10, 99, 99, 99, 20, 99, 99, 99}), 0, 2, mode, kNone, {0, 0}),
-                  opaque({10, 20}));
-        EXPECT_EQ(DrawnRow(GreyRow({0, 10, 30, 0, 0, 50, 70, 0}), 0, 2, mode, kHalf, {0, 0}),
-                  opaque({20, 60}));
-    }
+    EXPECT_EQ(DrawnRow(GreyRow({128, 204}), 2, 4, Default, kNone, std::vector(8, Grey(64))),
+              opaque({64, 64, 128, 166, 204, 134, 64, 64}));
+    EXPECT_THAT(DrawnRow(four, 0, 8, Default, kHalf, empty),
+                ElementsAreArray({Grey(40, 191), Grey(50), Grey(70), Grey(90), Grey(110), Grey(140),
+                                  Grey(180), Grey(200, 191)}));
+    EXPECT_THAT(DrawnRow(four, 0, 8, Default, kNone, empty),
+                ElementsAreArray({Grey(40), Grey(60), Grey(80), Grey(100), Grey(120), Grey(160),
+                                  Grey(200), Grey(200, 128)}));
+    // No prefilter: the samples lie at 0 and 4, or at 1.5 and 5.5, whatever lies between.
+    EXPECT_EQ(DrawnRow(GreyRow({10, 99, 99, 99, 20, 99, 99, 99}), 0, 2, Default, kNone, {0, 0}),
+              opaque({10, 20}));
+    EXPECT_EQ(DrawnRow(GreyRow({0, 10, 30, 0, 0, 50, 70, 0}), 0, 2, Default, kHalf, {0, 0}),
+              opaque({20, 60}));
 }
 
-TEST(ImageDrawing, HighQualityModesAreCentredAndDoNotFade) {
+TEST(ImageDrawing, HighQualityIsCentredAndDoesNotFade) {
     struct Case {
-        InterpolationMode Mode;
         std::vector<unsigned> Source, Drawn;
     };
     for (const Case& c : std::vector<Case>{
-             {HighQuality, {40, 80, 120, 200}, {36, 47, 68, 89, 107, 140, 186, 207}},
-             {HighQuality, {40, 80, 120, 200, 200, 120, 80, 40}, {60, 162, 162, 60}},
-             // Weights 3/4 3/4 1/4 over their sum 7/4: 100 and 320 parts of 7/4.
-             {HighQualityBilinear, {0, 80, 160, 240}, {57, 183}},
-             {HighQualityBilinear, {0, 100}, {0, 25, 75, 100}},
+             {{40, 80, 120, 200}, {36, 47, 68, 89, 107, 140, 186, 207}},
+             {{40, 80, 120, 200, 200, 120, 80, 40}, {60, 162, 162, 60}},
              // 255 x (0.2266 - 0.0234) beside the step; its undershoot and overshoot are cut.
-             {HighQuality, {0, 0, 255, 255}, {0, 0, 0, 52, 203, 255, 255, 255}}}) {
+             {{0, 0, 255, 255}, {0, 0, 0, 52, 203, 255, 255, 255}}}) {
         const std::vector<Argb> blank(c.Drawn.size(), 0);
         const auto width = static_cast<float>(c.Drawn.size());
         for (const double offset : {kNone, kHalf})
-            EXPECT_EQ(DrawnRow(GreyRow(c.Source), 0, width, c.Mode, offset, blank),
+            EXPECT_EQ(DrawnRow(GreyRow(c.Source), 0, width, HighQuality, offset, blank),
                       PixelsOf(GreyRow(c.Drawn)));
     }
 }
@@ -202,7 +183,7 @@ TEST(ImageDrawing, SoftEdgesKeepTheirColourWhenShrunk) {
         }
     }
     Bitmap opaque(size, size, PixelFormat::Rgb24);
-    for (const auto mode : {Default, HighQuality, HighQualityBilinear}) {
+    for (const auto mode : {Default, HighQuality}) {
         for (const int small : {256, 128, 64, 48, 32, 24, 16}) {
             SCOPED_TRACE(small);
             const RectF destination{0, 0, float(small), float(small)};
@@ -218,7 +199,7 @@ TEST(ImageDrawing, SoftEdgesKeepTheirColourWhenShrunk) {
             EXPECT_GT(soft, small);
             Bitmap full(small, small);
             DrawUnclipped(full, opaque, Whole(opaque, destination, mode, kNone));
-            EXPECT_THAT(PixelsOf(full), testing::Each(0xFF000000));
+            EXPECT_THAT(PixelsOf(full), ::testing::Each(0xFF000000));
         }
     }
 }
@@ -248,10 +229,10 @@ TEST(ImageDrawing, SourceMayReachOutsideThePicture) {
     };
     EXPECT_THAT(draw(NearestNeighbor),
                 ElementsAreArray({0u, 0u, Grey(100), Grey(100), Grey(200), Grey(200), 0u, 0u}));
-    EXPECT_THAT(draw(Bilinear), ElementsAreArray({0u, Grey(100, 64), Grey(100, 191), Grey(125),
-                                                  Grey(175), Grey(200, 191), Grey(200, 64), 0u}));
-    EXPECT_THAT(draw(HighQualityBilinear),
-                ElementsAreArray({0u, 0u, Grey(100), Grey(125), Grey(175), Grey(200), 0u, 0u}));
+    EXPECT_THAT(draw(Default), ElementsAreArray({0u, Grey(100, 64), Grey(100, 191), Grey(125),
+                                                 Grey(175), Grey(200, 191), Grey(200, 64), 0u}));
+    EXPECT_THAT(draw(HighQuality),
+                ElementsAreArray({0u, 0u, Grey(91), Grey(121), Grey(179), Grey(209), 0u, 0u}));
 }
 
 TEST(ImageDrawing, ClippedPixelsAreThoseOfTheWholeDrawing) {
@@ -373,7 +354,7 @@ TEST(ImageDrawing, EnormousAndTinyRectanglesAreSampledWhereTheTargetLies) {
     // The target's pixels fall into the second quarter of a picture of four columns.
     const Bitmap image = GreyRow({10, 20, 30, 40});
     for (const float size : {1e6F, 1e30F}) {
-        for (const auto mode : {NearestNeighbor, Bilinear, HighQuality}) {
+        for (const auto mode : kAllModes) {
             Bitmap target(3, 1);
             DrawUnclipped(target, image,
                           Whole(image, {-0.375F * size, -size / 2, size, size}, mode, kHalf));

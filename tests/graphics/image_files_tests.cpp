@@ -17,15 +17,15 @@ TEST(ImageFiles, OtherDataIsNoPicture) {
 }
 
 TEST(ImageFiles, AFileIsToldByItsContentAndNamedWhenItFails) {
-    const std::filesystem::path path = testing::TempDir() + "orbelle_picture.bmp";
+    const std::filesystem::path path = ::testing::TempDir() + "orbelle_picture.bmp";
     Bitmap image(1, 1);
     image.SetPixel(0, 0, 0x80102030);
     WriteFile(path, EncodePng(image));
     EXPECT_EQ(LoadImageFromFile(path).GetPixel(0, 0), Argb{0x80102030});
     WriteFile(path, FileBytes{'x'});
-    EXPECT_THAT(
-        [&] { LoadImageFromFile(path); },
-        testing::ThrowsMessage<FileError>(path.string() + ": not a PNG, JPEG, GIF or BMP picture"));
+    EXPECT_THAT([&] { LoadImageFromFile(path); },
+                ::testing::ThrowsMessage<FileError>(path.string() +
+                                                    ": not a PNG, JPEG, GIF or BMP picture"));
     std::filesystem::remove(path);
 }
 

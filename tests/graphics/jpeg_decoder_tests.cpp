@@ -12,7 +12,7 @@
 namespace orbelle::graphics {
 namespace {
 
-using testing::StartsWith;
+using ::testing::StartsWith;
 
 struct JpegPicture {
     int Width = 8;

@@ -8,25 +8,16 @@
 #include "graphics/drawing_context.h"
 #include "support/pictures.h"
 #include "support/pixel_runs.h"
+#include "support/shapes.h"
 
 namespace orbelle::graphics {
 namespace {
 
-using orbelle::testing::AlphaRow;
+using testing::AlphaRow;
 using ::testing::Each;
 using ::testing::ElementsAre;
-
-Path Rectangle(const RectF& rect) {
-    Path path(FillMode::Winding);
-    path.AddRectangle(rect);
-    return path;
-}
-
-Path Ellipse(const RectF& box) {
-    Path path(FillMode::Winding);
-    path.AddEllipse(box);
-    return path;
-}
+using testing::EllipsePath;
+using testing::RectanglePath;
 
 // Opaque in the centre, gone at the outline: alpha is 255 (1 - t), rounded.
 PathGradientBrush Fading(const Path& path, PointF center) {
@@ -34,7 +25,7 @@ PathGradientBrush Fading(const Path& path, PointF center) {
 }
 
 // A canvas of 16 x 16, all of it filled with the brush.
-Bitmap FilledWith(const Brush& brush, PixelOffsetMode offset) {
+Bitmap FilledWith(const Brush& brush, PixelOffsetMode offset = PixelOffsetMode::Default) {
     Bitmap bitmap(16, 16);
     DrawingContext context(bitmap);
     context.SetPixelOffsetMode(offset);
@@ -43,9 +34,9 @@ Bitmap FilledWith(const Brush& brush, PixelOffsetMode offset) {
 }
 
 TEST(PathGradient, LinesOfEqualColourInARectangleAreRectangles) {
-    const Brush brush = Fading(Rectangle({0, 0, 8, 8}), {4, 4});
+    const Brush brush = Fading(RectanglePath({0, 0, 8, 8}), {4, 4});
     // With half, t is 0.875, 0.625, 0.375, 0.125 from the outline inwards.
-    const Bitmap half = FilledWith(brush, PixelOffsetMode::Half);
+    const Bitmap half = FilledWith(brush, PixelOffsetMode::HighQuality);
     for (int y : {0, 7})
         EXPECT_THAT(AlphaRow(half, y),
                     ElementsAre(32, 32, 32, 32, 32, 32, 32, 32, 0, 0, 0, 0, 0, 0, 0, 0));
@@ -53,7 +44,7 @@ TEST(PathGradient, LinesOfEqualColourInARectangleAreRectangles) {
         EXPECT_THAT(AlphaRow(half, y),
                     ElementsAre(32, 96, 159, 223, 223, 159, 96, 32, 0, 0, 0, 0, 0, 0, 0, 0));
     // With none it is 1, 0.75, ..., 0 in the centre, ..., 0.75.
-    const Bitmap none = FilledWith(brush, PixelOffsetMode::None);
+    const Bitmap none = FilledWith(brush);
     EXPECT_THAT(AlphaRow(none, 0), Each(0));
     EXPECT_THAT(AlphaRow(none, 2),
                 ElementsAre(0, 64, 128, 128, 128, 128, 128, 64, 0, 0, 0, 0, 0, 0, 0, 0));
@@ -64,8 +55,8 @@ TEST(PathGradient, LinesOfEqualColourInARectangleAreRectangles) {
 TEST(PathGradient, ColoursAreMixedByTheirAlphaAlongTheRay) {
     // Two pixels left of the centre to the outline, six to the right.
     const auto brush =
-        CreatePathGradientFromPath(Rectangle({0, 0, 8, 8}), 0x40FF0000, {2, 4}, 0xC00000FF);
-    const Bitmap bitmap = FilledWith(*brush, PixelOffsetMode::None);
+        CreatePathGradientFromPath(RectanglePath({0, 0, 8, 8}), 0x40FF0000, {2, 4}, 0xC00000FF);
+    const Bitmap bitmap = FilledWith(*brush);
     EXPECT_EQ(bitmap.GetPixel(2, 4), 0x40FF0000U);
     EXPECT_EQ(bitmap.GetPixel(1, 4), 0x804000BFU);
     EXPECT_EQ(bitmap.GetPixel(5, 4), 0x804000BFU);
@@ -74,7 +65,7 @@ TEST(PathGradient, ColoursAreMixedByTheirAlphaAlongTheRay) {
 
 TEST(PathGradient, ACirclePaintsItsOwnPixelsByTheirDistance) {
     Bitmap plain(128, 128), graded(128, 128);
-    const Path circle = Ellipse({10, 12, 100, 100});
+    const Path circle = EllipsePath({10, 12, 100, 100});
     DrawingContext(plain).FillPath(SolidBrush{0xFF000000}, circle);
     const Brush brush = *CreatePathGradientFromPath(circle, 0xFF000000, {60, 62}, 0xFF0000FF);
     DrawingContext(graded).FillRectangle(brush, {0, 0, 128, 128});
@@ -90,11 +81,11 @@ TEST(PathGradient, ACirclePaintsItsOwnPixelsByTheirDistance) {
 }
 
 TEST(PathGradient, PartsAndSoftEdgesTakeTheColoursOfTheirPixels) {
-    const Brush brush = Fading(Ellipse({1, 1, 13, 12}), {5, 6});
-    const Bitmap whole = FilledWith(brush, PixelOffsetMode::Half);
+    const Brush brush = Fading(EllipsePath({1, 1, 13, 12}), {5, 6});
+    const Bitmap whole = FilledWith(brush, PixelOffsetMode::HighQuality);
     Bitmap part(16, 16);
     DrawingContext context(part);
-    context.SetPixelOffsetMode(PixelOffsetMode::Half);
+    context.SetPixelOffsetMode(PixelOffsetMode::HighQuality);
     context.FillRectangle(brush, {3, 2, 6, 5});
     for (int y = 0; y < 16; ++y)
         for (int x = 0; x < 16; ++x)
@@ -104,20 +95,18 @@ TEST(PathGradient, PartsAndSoftEdgesTakeTheColoursOfTheirPixels) {
     // The outer pixels are half covered, in the corners a quarter.
     Bitmap soft(16, 16);
     DrawingContext smooth(soft);
-    smooth.SetPixelOffsetMode(PixelOffsetMode::Half);
+    smooth.SetPixelOffsetMode(PixelOffsetMode::HighQuality);
     smooth.SetSmoothingMode(SmoothingMode::AntiAlias);
-    smooth.FillPath(brush, Rectangle({4.5f, 4.5f, 4, 4}));
-    const auto alphaAt = [](const Bitmap& bitmap, int x, int y) {
-        return static_cast<double>(AlphaOf(*bitmap.GetPixel(x, y)));
-    };
+    smooth.FillPath(brush, RectanglePath({4.5f, 4.5f, 4, 4}));
     for (const auto& [x, y, covered] :
          {std::tuple{6, 6, 1.0}, {6, 4, 0.5}, {4, 7, 0.5}, {8, 6, 0.5}, {8, 8, 0.25}, {3, 6, 0.0}})
-        EXPECT_NEAR(alphaAt(soft, x, y), covered * alphaAt(whole, x, y), 1.5) << x << ", " << y;
+        EXPECT_NEAR(AlphaOf(soft.Row(y)[x]), covered * AlphaOf(whole.Row(y)[x]), 1.5)
+            << x << ", " << y;
 }
 
 TEST(PathGradient, ACentreOutsideSeesTheFarEdge) {
-    const Brush brush = Fading(Rectangle({4, 0, 4, 4}), {0, 2});
-    const Bitmap bitmap = FilledWith(brush, PixelOffsetMode::None);
+    const Brush brush = Fading(RectanglePath({4, 0, 4, 4}), {0, 2});
+    const Bitmap bitmap = FilledWith(brush);
     EXPECT_THAT(AlphaRow(bitmap, 2),
                 ElementsAre(0, 0, 0, 0, 128, 96, 64, 32, 0, 0, 0, 0, 0, 0, 0, 0));
     // Rays to the upper edge (y = 0) have covered half their way at y = 1.
@@ -128,31 +117,31 @@ TEST(PathGradient, ACentreOutsideSeesTheFarEdge) {
 
 TEST(PathGradient, OfSeveralEdgesOnARayTheLastOneCounts) {
     const RectF nearer{4, 0, 3, 4}, farther{8, 0, 3, 4};
-    Path path = Rectangle(nearer);
+    Path path = RectanglePath(nearer);
     path.AddRectangle(farther);
     // The farther one's left edge, at 8, is the last of all; its right edge is at 11.
-    EXPECT_THAT(AlphaRow(FilledWith(Fading(path, {0, 2}), PixelOffsetMode::None), 2),
+    EXPECT_THAT(AlphaRow(FilledWith(Fading(path, {0, 2})), 2),
                 ElementsAre(0, 0, 0, 0, 128, 96, 64, 0, 70, 46, 23, 0, 0, 0, 0, 0));
-    path = Rectangle(farther);
+    path = RectanglePath(farther);
     path.AddRectangle(nearer);
     // Now the nearer one's right edge, at 7, comes after.
-    EXPECT_THAT(AlphaRow(FilledWith(Fading(path, {0, 2}), PixelOffsetMode::None), 2),
+    EXPECT_THAT(AlphaRow(FilledWith(Fading(path, {0, 2})), 2),
                 ElementsAre(0, 0, 0, 0, 109, 73, 36, 0, 70, 46, 23, 0, 0, 0, 0, 0));
 }
 
 TEST(PathGradient, NothingComesOfAnEmptyOrHostilePath) {
     EXPECT_FALSE(CreatePathGradientFromPath(Path(), 0, {}, 0));
-    EXPECT_FALSE(CreatePathGradientFromPath(Rectangle({1, 1, 0, 5}), 0, {}, 0));
+    EXPECT_FALSE(CreatePathGradientFromPath(RectanglePath({1, 1, 0, 5}), 0, {}, 0));
     constexpr float infinity = std::numeric_limits<float>::infinity();
     const Brush blank[] = {
-        Fading(Ellipse({4, 4, 0, 0}), {4, 4}),
-        Fading(Ellipse({4, 4, infinity, 5}), {4, 4}),
-        Fading(Ellipse({4, 4, 5, 5}), {std::nanf(""), 4}),
+        Fading(EllipsePath({4, 4, 0, 0}), {4, 4}),
+        Fading(EllipsePath({4, 4, infinity, 5}), {4, 4}),
+        Fading(EllipsePath({4, 4, 5, 5}), {std::nanf(""), 4}),
     };
     for (const Brush& brush : blank)
-        EXPECT_EQ(PixelRuns(FilledWith(brush, PixelOffsetMode::Half)), "");
-    const Brush huge = Fading(Rectangle({-1e30f, -1e30f, 2e30f, 2e30f}), {4, 4});
-    EXPECT_THAT(AlphaRow(FilledWith(huge, PixelOffsetMode::Half), 9), Each(255));
+        EXPECT_EQ(PixelRuns(FilledWith(brush, PixelOffsetMode::HighQuality)), "");
+    const Brush huge = Fading(RectanglePath({-1e30f, -1e30f, 2e30f, 2e30f}), {4, 4});
+    EXPECT_THAT(AlphaRow(FilledWith(huge, PixelOffsetMode::HighQuality), 9), Each(255));
 }
 
 }  // namespace

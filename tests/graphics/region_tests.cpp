@@ -6,6 +6,7 @@
 #include <random>
 
 #include "support/pixel_runs.h"
+#include "support/shapes.h"
 
 namespace orbelle::graphics {
 namespace {
@@ -14,9 +15,11 @@ constexpr RectF kInfiniteBounds{-4194304, -4194304, 8388608, 8388608};
 constexpr RectI kWindow{0, 0, 20, 20};
 
 Region Ellipse(const RectF& box) {
-    Path path(FillMode::Alternate);
-    path.AddEllipse(box);
-    return Region::FromPath(path);
+    return Region::FromPath(testing::EllipsePath(box));
+}
+
+Region Rectangle(const RectF& rect) {
+    return Region::FromPath(testing::RectanglePath(rect));
 }
 
 std::string Runs(const Region& region) {
@@ -90,15 +93,13 @@ TEST(Region, AnEmptySideLeavesTheOthersOwnBounds) {
         region.CombineRect(nothing, CombineMode::Intersect);
         EXPECT_EQ(region.Bounds(), RectF());
     }
-    for (CombineMode mode : {CombineMode::Union, CombineMode::Xor}) {
+    for (const auto& [mode, bounds] : {std::pair{CombineMode::Union, fractional},
+                                       {CombineMode::Xor, fractional},
+                                       {CombineMode::Intersect, RectF()},
+                                       {CombineMode::Exclude, RectF()}}) {
         Region region = Region::Empty();
         region.CombineRect(fractional, mode);
-        EXPECT_EQ(region.Bounds(), fractional);
-    }
-    for (CombineMode mode : {CombineMode::Intersect, CombineMode::Exclude}) {
-        Region region = Region::Empty();
-        region.CombineRect(fractional, mode);
-        EXPECT_TRUE(region.IsEmpty());
+        EXPECT_EQ(region.Bounds(), bounds);
     }
 }
 
@@ -281,9 +282,7 @@ TEST(Region, ThousandsOfShapesKeepTheirNumbers) {
     // Each too narrow for a pixel until it is scaled.
     Region comb = Region::Empty();
     for (int i = 0; i < 5000; ++i) {
-        Path tooth(FillMode::Alternate);
-        tooth.AddRectangle({static_cast<float>(i) + 0.25f, 0, 0.5f, 1});
-        comb.Combine(Region::FromPath(tooth), CombineMode::Union);
+        comb.Combine(Rectangle({static_cast<float>(i) + 0.25f, 0, 0.5f, 1}), CombineMode::Union);
     }
     EXPECT_TRUE(comb.IsEmpty());
     comb.Transform({.ScaleX = 4, .ScaleY = 1});
@@ -305,9 +304,7 @@ TEST(Region, ThousandsOfShapesKeepTheirNumbers) {
 TEST(Region, ManyTallShapesAreMergedBitByBit) {
     Region fence = Region::Empty();
     for (int i = 0; i < 80; ++i) {
-        Path pale(FillMode::Alternate);
-        pale.AddRectangle({static_cast<float>(i * 3), -15000, 2, 30000});
-        fence.Combine(Region::FromPath(pale), CombineMode::Union);
+        fence.Combine(Rectangle({static_cast<float>(i * 3), -15000, 2, 30000}), CombineMode::Union);
     }
     EXPECT_EQ(fence.Rects().size(), 80U);
     EXPECT_EQ(fence.Bounds(), (RectF{0, -15000, 239, 30000}));

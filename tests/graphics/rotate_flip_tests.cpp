@@ -2,63 +2,52 @@
 
 #include <gtest/gtest.h>
 
+#include <numeric>
 #include <string>
-#include <vector>
 
 namespace orbelle::graphics {
 namespace {
 
-using Letters = std::vector<std::string>;
-
-Bitmap PictureOfLetters(const Letters& rows) {
-    Bitmap picture(static_cast<int>(rows[0].size()), static_cast<int>(rows.size()));
-    for (int y = 0; y < picture.Height(); ++y)
+// One character a pixel, rows apart by '/'.
+std::string LettersOf(const Bitmap& picture) {
+    std::string letters;
+    for (int y = 0; y < picture.Height(); ++y) {
+        letters += y > 0 ? "/" : "";
         for (int x = 0; x < picture.Width(); ++x)
-            picture.SetPixel(x, y, static_cast<Argb>(rows[y][x]));
-    return picture;
-}
-
-Letters LettersOf(const Bitmap& picture) {
-    Letters rows(picture.Height(), std::string(picture.Width(), ' '));
-    for (int y = 0; y < picture.Height(); ++y)
-        for (int x = 0; x < picture.Width(); ++x)
-            rows[y][x] = static_cast<char>(*picture.GetPixel(x, y));
-    return rows;
+            letters += static_cast<char>(*picture.GetPixel(x, y));
+    }
+    return letters;
 }
 
 const struct {
     RotateFlipType Type;
-    Letters Result;
+    const char* Result;
 } kTurns[] = {
-    {RotateFlipType::Rotate90FlipNone, {"da", "eb", "fc"}},
-    {RotateFlipType::RotateNoneFlipX, {"cba", "fed"}},
-    {RotateFlipType::Rotate90FlipX, {"ad", "be", "cf"}},
-    {RotateFlipType::RotateNoneFlipY, {"def", "abc"}},
+    {RotateFlipType::Rotate90FlipNone, "da/eb/fc"},
+    {RotateFlipType::RotateNoneFlipX, "cba/fed"},
+    {RotateFlipType::Rotate90FlipX, "ad/be/cf"},
+    {RotateFlipType::RotateNoneFlipY, "def/abc"},
 };
 
 // The letters are colours under alpha 0.
 TEST(ImageRotateFlip, MovesEveryPixelAndNoCopyOfThePicture) {
-    const Letters before{"abc", "def"};
+    Bitmap copy(3, 2);
+    std::iota(copy.MutablePixels(), copy.MutablePixels() + 6, Argb{'a'});
     for (const auto& turn : kTurns) {
-        Bitmap picture = PictureOfLetters(before);
-        const Bitmap copy = picture;
+        Bitmap picture = copy;
         ImageRotateFlip(picture, turn.Type);
         EXPECT_EQ(LettersOf(picture), turn.Result) << int(turn.Type);
-        EXPECT_EQ(LettersOf(copy), before) << int(turn.Type);
+        EXPECT_EQ(LettersOf(copy), "abc/def") << int(turn.Type);
     }
 }
 
 TEST(ImageRotateFlip, TurnsPicturesLargerThanItsSquares) {
     Bitmap picture(37, 50);
-    for (int i = 0; i < 37 * 50; ++i)
-        picture.SetPixel(i % 37, i / 37, static_cast<Argb>(i));
+    std::iota(picture.MutablePixels(), picture.MutablePixels() + 37 * 50, Argb{0});
     ImageRotateFlip(picture, RotateFlipType::Rotate90FlipNone);
-    ASSERT_EQ(picture.Width(), 50);
-    ASSERT_EQ(picture.Height(), 37);
-    for (int y = 0; y < 37; ++y)
-        for (int x = 0; x < 50; ++x)
-            ASSERT_EQ(picture.GetPixel(x, y), static_cast<Argb>((49 - x) * 37 + y))
-                << x << ", " << y;
+    ASSERT_EQ(std::pair(picture.Width(), picture.Height()), std::pair(50, 37));
+    for (int i = 0; i < 37 * 50; ++i)
+        ASSERT_EQ(picture.GetPixel(49 - i / 37, i % 37), static_cast<Argb>(i));
 }
 
 TEST(ImageRotateFlip, KeepsTheFormatAndTheEmptyBitmap) {

@@ -5,24 +5,16 @@
 #include <limits>
 
 #include "support/pixel_runs.h"
+#include "support/shapes.h"
 
 namespace orbelle::graphics {
 namespace {
 
+using testing::EllipsePath;
+using testing::PolygonPath;
+
 constexpr RectI kArea{0, 0, 32, 32};
 constexpr double kNone = 0, kHalf = 0.5;
-
-Path Ellipse(const RectF& box) {
-    Path path(FillMode::Alternate);
-    path.AddEllipse(box);
-    return path;
-}
-
-Path Polygon(std::vector<PointF> points, FillMode mode = FillMode::Alternate) {
-    Path path(mode);
-    path.AddPolygon(points);
-    return path;
-}
 
 // A square of the given side with rounded corners, its top left at the origin.
 Path RoundedPlate(float side, float radius) {
@@ -72,17 +64,18 @@ TEST(PixelsInside, Figures) {
         const char* None;
         const char* Half;
     } cases[] = {
-        {"ellipse 4 x 4", Ellipse({1, 1, 4, 4}), "2: 2-4; 3: 1-4; 4: 2-4",
+        {"ellipse 4 x 4", EllipsePath({1, 1, 4, 4}), "2: 2-4; 3: 1-4; 4: 2-4",
          "1: 2-3; 2-3: 1-4; 4: 2-3"},
-        {"ellipse 5 x 5", Ellipse({1, 1, 5, 5}), "2-5: 2-5", "1: 2-4; 2-4: 1-5; 5: 2-4"},
-        {"ellipse 10 x 8", Ellipse({1, 1, 10, 8}), "2: 3-9; 3-4: 2-10; 5: 1-10; 6-7: 2-10; 8: 3-9",
+        {"ellipse 5 x 5", EllipsePath({1, 1, 5, 5}), "2-5: 2-5", "1: 2-4; 2-4: 1-5; 5: 2-4"},
+        {"ellipse 10 x 8", EllipsePath({1, 1, 10, 8}),
+         "2: 3-9; 3-4: 2-10; 5: 1-10; 6-7: 2-10; 8: 3-9",
          "1: 4-7; 2: 2-9; 3-6: 1-10; 7: 2-9; 8: 4-7"},
-        {"triangle", Polygon({{1, 1}, {8, 1}, {1, 8}}),
+        {"triangle", PolygonPath({{1, 1}, {8, 1}, {1, 8}}),
          "1: 1-7; 2: 1-6; 3: 1-5; 4: 1-4; 5: 1-3; 6: 1-2; 7: 1",
          "1: 1-6; 2: 1-5; 3: 1-4; 4: 1-3; 5: 1-2; 6: 1"},
-        {"diamond", Polygon({{4, 1}, {7, 4}, {4, 7}, {1, 4}}),
+        {"diamond", PolygonPath({{4, 1}, {7, 4}, {4, 7}, {1, 4}}),
          "2: 3-4; 3: 2-5; 4: 1-6; 5: 2-5; 6: 3-4", "1: 3; 2: 2-4; 3-4: 1-5; 5: 2-4; 6: 3"},
-        {"rectangle", Polygon({{1, 1}, {1, 3}, {3, 3}, {3, 1}}), "1-2: 1-2", "1-2: 1-2"},
+        {"rectangle", PolygonPath({{1, 1}, {1, 3}, {3, 3}, {3, 1}}), "1-2: 1-2", "1-2: 1-2"},
     };
     for (const auto& test : cases) {
         EXPECT_EQ(Runs(test.Figure, kNone), test.None) << test.Name;
@@ -105,9 +98,9 @@ TEST(PixelsInside, TwoSidesOfAnEdgeMeetWhereExactArithmeticSays) {
                 if (edge < 32)
                     right.push_back({edge, row, 32 - edge, 1});
             }
-            const Path triangle = Polygon({{0, 0}, {x, y}, {0, y}});
+            const Path triangle = PolygonPath({{0, 0}, {x, y}, {0, y}});
             EXPECT_EQ(PixelsInside(triangle.Flatten(), FillMode::Alternate, kNone, kArea), left);
-            const Path rest = Polygon({{0, 0}, {32, 0}, {32, y}, {x, y}});
+            const Path rest = PolygonPath({{0, 0}, {32, 0}, {32, y}, {x, y}});
             EXPECT_EQ(PixelsInside(rest.Flatten(), FillMode::Winding, kNone, kArea), right);
         }
     }
@@ -116,12 +109,12 @@ TEST(PixelsInside, TwoSidesOfAnEdgeMeetWhereExactArithmeticSays) {
 TEST(PixelsInside, FillModesDifferWhereOutlinesOverlap) {
     const std::vector<PointF> windsTwice{{1, 1}, {9, 1}, {9, 9}, {3, 9},
                                          {3, 3}, {6, 3}, {6, 6}, {1, 6}};
-    EXPECT_EQ(Runs(Polygon(windsTwice), 0), "1-2: 1-8; 3-5: 1-2 6-8; 6-8: 3-8");
-    EXPECT_EQ(Runs(Polygon(windsTwice, FillMode::Winding), 0), "1-5: 1-8; 6-8: 3-8");
+    EXPECT_EQ(Runs(PolygonPath(windsTwice), 0), "1-2: 1-8; 3-5: 1-2 6-8; 6-8: 3-8");
+    EXPECT_EQ(Runs(PolygonPath(windsTwice, FillMode::Winding), 0), "1-5: 1-8; 6-8: 3-8");
 }
 
 TEST(PixelsInside, RunsAreCutToTheAreaAndDoNotTouch) {
-    const Path path = Polygon({{-100, -100}, {100, -100}, {100, 100}, {-100, 100}});
+    const Path path = PolygonPath({{-100, -100}, {100, -100}, {100, 100}, {-100, 100}});
     EXPECT_EQ(Runs(path, 0, {4, 5, 3, 2}), "5-6: 4-6");
     Path halves(FillMode::Alternate);
     halves.AddRectangle({1, 1, 3, 1});
@@ -133,10 +126,10 @@ TEST(PixelsInside, RunsAreCutToTheAreaAndDoNotTouch) {
 TEST(PixelsInside, HostileCoordinatesAreHarmless) {
     constexpr float huge = std::numeric_limits<float>::max();
     constexpr float infinity = std::numeric_limits<float>::infinity();
-    EXPECT_EQ(Runs(Polygon({{-huge, -huge}, {huge, -huge}, {huge, huge}, {-huge, huge}}), 0),
+    EXPECT_EQ(Runs(PolygonPath({{-huge, -huge}, {huge, -huge}, {huge, huge}, {-huge, huge}}), 0),
               "0-31: 0-31");
     for (float bad : {infinity, -infinity, std::numeric_limits<float>::quiet_NaN()}) {
-        Path path = Polygon({{0, 0}, {bad, 0}, {8, 8}, {0, 8}});
+        Path path = PolygonPath({{0, 0}, {bad, 0}, {8, 8}, {0, 8}});
         path.AddRectangle({2, 2, 2, 1});
         EXPECT_EQ(Runs(path, 0), "2: 2-3");
     }

@@ -10,8 +10,9 @@
 namespace orbelle::testing {
 
 inline void SendMouse(QWidget& widget, QEvent::Type type, const QPointF& place,
-                      Qt::MouseButton button, Qt::MouseButtons held) {
-    QMouseEvent event(type, place, widget.mapToGlobal(place), button, held, Qt::NoModifier);
+                      Qt::MouseButton button, Qt::MouseButtons held,
+                      Qt::KeyboardModifiers keys = Qt::NoModifier) {
+    QMouseEvent event(type, place, widget.mapToGlobal(place), button, held, keys);
     QApplication::sendEvent(&widget, &event);
 }
 

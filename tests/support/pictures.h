@@ -1,6 +1,7 @@
 // Small pictures for tests.
 #pragma once
 
+#include <algorithm>
 #include <string>
 #include <vector>
 
@@ -25,6 +26,13 @@ inline graphics::Bitmap FilledPicture(int width, int height, graphics::Argb colo
                      color);
 }
 
+// A picture one pixel high.
+inline graphics::Bitmap RowOf(const std::vector<graphics::Argb>& colors) {
+    graphics::Bitmap row(static_cast<int>(colors.size()), 1);
+    std::copy(colors.begin(), colors.end(), row.MutablePixels());
+    return row;
+}
+
 // The alphas of one row.
 inline std::vector<int> AlphaRow(const graphics::Bitmap& picture, int y) {
     std::vector<int> alphas;
@@ -33,14 +41,14 @@ inline std::vector<int> AlphaRow(const graphics::Bitmap& picture, int y) {
     return alphas;
 }
 
+// Row by row.
+inline std::vector<graphics::Argb> PixelsOf(const graphics::Bitmap& picture) {
+    const auto count = static_cast<std::ptrdiff_t>(picture.Width()) * picture.Height();
+    return {picture.Pixels(), picture.Pixels() + count};
+}
+
 inline bool SamePixels(const graphics::Bitmap& a, const graphics::Bitmap& b) {
-    if (a.Width() != b.Width() || a.Height() != b.Height())
-        return false;
-    for (int y = 0; y < a.Height(); ++y)
-        for (int x = 0; x < a.Width(); ++x)
-            if (a.GetPixel(x, y) != b.GetPixel(x, y))
-                return false;
-    return true;
+    return a.Width() == b.Width() && a.Height() == b.Height() && PixelsOf(a) == PixelsOf(b);
 }
 
 }  // namespace orbelle::testing

@@ -3,6 +3,7 @@
 #include <cstring>
 #include <fstream>
 #include <iostream>
+#include <new>
 
 #include "cli/script.h"
 #include "cli/verb_table.h"
@@ -63,6 +64,9 @@ int main(int argc, char** argv) {
         return Report(error, kWrongUsage);
     } catch (const UsageError& error) {
         return Report(error, kWrongUsage);
+    } catch (const std::bad_alloc&) {
+        std::cerr << "orbelle-cli: there is not enough memory\n";
+        return kFailed;
     } catch (const std::exception& error) {
         return Report(error, kFailed);
     }

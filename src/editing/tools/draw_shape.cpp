@@ -13,7 +13,8 @@ using namespace graphics;
 namespace {
 
 // All in layer pixels. The shape lies one pixel to the upper left of the points it is dragged
-// between and is one pixel larger than their distance and the pixel under the pointer ask for.
+// between and is one pixel larger than their distance and the pixel under the pointer ask for
+// (docs/oddities.md, "Shapes to the upper left").
 struct ShapeBox {
     PointF Start;
     PointF End;
@@ -59,8 +60,8 @@ std::optional<Brush> RadialBrush(const ShapeBox& box, Tool tool, Argb centre, Ar
 // is in use.
 std::optional<Brush> MakeBrush(const Editor& editor, const ShapeBox& box) {
     const Argb foreground = editor.Tools.Colors[0], background = editor.Tools.Colors[1];
-    const auto linear = [&](RectF rect, LinearGradientMode mode, WrapMode wrap) {
-        return CreateLineBrushFromRect(rect, foreground, background, mode, wrap);
+    const auto linear = [&](RectF rect, LinearGradientMode mode) {
+        return CreateLineBrushFromRect(rect, foreground, background, mode);
     };
     const PointF anchor = box.Anchor;
     switch (editor.Tools.InUse == Tool::Pencil ? FillKind::Solid : editor.Tools.FillKind) {
@@ -68,10 +69,10 @@ std::optional<Brush> MakeBrush(const Editor& editor, const ShapeBox& box) {
             break;
         case FillKind::HorizontalGradient:
             return linear({anchor.X, anchor.Y, box.Width - 2, box.Height},
-                          LinearGradientMode::Horizontal, WrapMode::TileFlipX);
+                          LinearGradientMode::Horizontal);
         case FillKind::VerticalGradient:
             return linear({anchor.X, anchor.Y, box.Width, box.Height - 2},
-                          LinearGradientMode::Vertical, WrapMode::TileFlipXY);
+                          LinearGradientMode::Vertical);
         case FillKind::RadialGradient:
             return RadialBrush(box, editor.Tools.InUse, foreground, background);
     }

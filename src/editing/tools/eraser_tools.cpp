@@ -8,12 +8,13 @@
 namespace orbelle::editing {
 namespace {
 
-constexpr double kBrushSpacing = 20;  // scene pixels, whatever the zoom
+// Scene pixels, whatever the zoom (docs/oddities.md, "Brush spacing").
+constexpr double kBrushSpacing = 20;
 
 using Eraser = void (*)(const Editor&, graphics::Bitmap&, int x, int y);
 
 void ErasePixel(const Editor&, graphics::Bitmap& image, int x, int y) {
-    filters::EraseColor(image, x, y, 0);
+    filters::EraseColor(image, x, y);
 }
 
 void EraseSpot(const Editor& editor, graphics::Bitmap& image, int x, int y) {
@@ -50,7 +51,7 @@ void MoveBrush(Editor& editor, Pointer& pointer) {
     drag.Last = {pointer.X, pointer.Y};
 }
 
-// The layer's region deliberately stays as it was.
+// The layer's region stays as it was (docs/oddities.md, "Region after erasing").
 AfterRelease Release(Editor& editor, const Pointer&) {
     editor.Changed.Stack = true;
     return AfterRelease::HideTips;

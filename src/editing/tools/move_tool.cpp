@@ -13,8 +13,8 @@ void StartDrag(Editor& editor, const Pointer& pointer) {
     editor.Drag = MoveDrag{{pointer.X, pointer.Y}, editor.Page().Selected().Rect};
 }
 
-// The topmost visible layer with a pixel there. Deliberately, with no visible layer at all the
-// selection stays.
+// The topmost visible layer with a pixel there. With no visible layer at all the selected layer
+// stays so (docs/oddities.md, "Nothing to pick").
 void Pick(Editor& editor, const Pointer& pointer) {
     const graphics::PointF pixel = ScreenToPage(MappingAtPress(editor), pointer.X, pointer.Y);
     document::Page& page = editor.Page();
@@ -64,7 +64,8 @@ AfterRelease Release(Editor& editor, const Pointer& pointer) {
     BeginUndoStep(editor);
     document::IconLayer& layer = editor.Page().Selected();
     layer.Rect = moved;
-    // A picture without a visible pixel keeps its region, which then deliberately moves twice.
+    // A picture without a visible pixel keeps its region, which then moves twice
+    // (docs/oddities.md, "Blank pictures").
     layer.Region.Translate(moved.X - before.X, moved.Y - before.Y);
     filters::RebuildRegion(layer.Region, layer.Image, {moved.X, moved.Y});
     return AfterRelease::HideTips;

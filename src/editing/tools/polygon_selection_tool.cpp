@@ -18,8 +18,8 @@ void Press(Editor& editor, const Pointer& pointer) {
         editor.Selection.Start();
 }
 
-// A drag goes on adding points. Each is deliberately the upper left corner of the box between press
-// and pointer, so that only drags to the left or up draw freehand.
+// A drag goes on adding points. Each is the upper left corner of the box between press and pointer,
+// so that only drags to the left or up draw freehand (docs/oddities.md, "Freehand polygons").
 void Move(Editor& editor, Pointer& pointer) {
     const PointF onPage = ClampToScene(editor, pointer.X, pointer.Y);
     pointer.X = onPage.X;

@@ -13,7 +13,8 @@ graphics::PointF StartOnPage(const Editor& editor, const Pointer& pointer) {
         const double moved = value <= first ? first : value >= last ? beyond : value;
         return static_cast<float>(moved);
     };
-    // Below the page it deliberately goes as far from the top as the page is wide.
+    // Below the page it goes as far from the top as the page is wide
+    // (docs/oddities.md, "Presses below the page").
     return {onPage(pointer.X, left, left + width, left + width),
             onPage(pointer.Y, top, top + height, top + width)};
 }

@@ -13,8 +13,8 @@ void BeginStroke(Editor& editor, const Pointer& pointer);
 void PreviewStroke(Editor& editor, Pointer& pointer);
 
 // The undo step, the final stroke (smooth but for the pencil and rectangles) and the layer's new
-// region, which deliberately stands at the page's corner instead of the layer's place until the
-// next move of the layer.
+// region, which stands at the page's corner instead of the layer's place until the next move of the
+// layer (docs/oddities.md, "Region after drawing").
 AfterRelease CommitStroke(Editor& editor, const Pointer& pointer);
 
 }  // namespace orbelle::editing

@@ -25,14 +25,8 @@ struct Filter {
 };
 
 Filter FilterOf(InterpolationMode mode) {
-    switch (mode) {
-        case InterpolationMode::HighQuality:
-            return {CatmullRom, 2, true};
-        case InterpolationMode::HighQualityBilinear:
-            return {Triangle, 1, true};
-        default:
-            return {Triangle, 1, false};
-    }
+    return mode == InterpolationMode::HighQuality ? Filter{CatmullRom, 2, true}
+                                                  : Filter{Triangle, 1, false};
 }
 
 // Less than this is left of the weights where a pixel takes part by no more than the error of the

@@ -1,0 +1,251 @@
+#include "rows.h"
+
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <iterator>
+#include <nlohmann/json.hpp>
+
+#include "cli/document_json.h"
+#include "cli/script.h"
+#include "document/compositor.h"
+#include "editing/undo_commands.h"
+#include "formats/volf_store.h"
+#include "graphics/codecs/image_files.h"
+#include "graphics/file_io.h"
+#include "support/pixel_runs.h"
+
+namespace orbelle::cli {
+namespace {
+
+using editing::Sliders;
+using graphics::Bitmap;
+
+constexpr std::pair<std::string_view, editing::Slider Sliders::*> kSliders[] = {
+    {"opacity", &Sliders::Opacity},
+    {"hue", &Sliders::Hue},
+    {"saturation", &Sliders::Saturation},
+    {"brightness", &Sliders::Brightness},
+    {"contrast", &Sliders::Contrast},
+    {"scale", &Sliders::Scale},
+    {"page-width", &Sliders::PageWidth},
+    {"page-height", &Sliders::PageHeight},
+    {"colour-opacity", &Sliders::ColorOpacity},
+    {"line-width", &Sliders::LineWidth},
+};
+
+std::string Hex(graphics::Argb color) {
+    char text[9];
+    std::snprintf(text, sizeof text, "%08X", color);
+    return text;
+}
+
+// Brackets, commas and quotes left out.
+std::string Plain(const std::string& json) {
+    std::string text;
+    for (const char c : json)
+        if (c == ',')
+            text += ' ';
+        else if (!strchr("[]\"", c))
+            text += c;
+    return text;
+}
+
+std::string Told(const editing::Editor& editor, const std::string& question) {
+    const auto json = nlohmann::ordered_json::parse(DescribeDocument(editor));
+    const std::string path = isdigit(question[0]) ? "/layers/" + question : "/" + question;
+    if (question == "layers")
+        return std::to_string(json["layers"].size());
+    const nlohmann::ordered_json::json_pointer place(path);
+    return json.contains(place) ? Plain(json[place].dump()) : "no such thing";
+}
+
+std::vector<int> Numbers(const std::string& text) {
+    std::istringstream words(text);
+    return {std::istream_iterator<int>(words), {}};
+}
+
+// "WHAT@X,Y~T": as many numbers as expected; the expected text itself when all are near enough.
+std::string Channel(const Bitmap& picture, const std::string& question,
+                    const std::string& expected) {
+    char what[16];
+    char direction = 0;
+    int x = 0, y = 0, tolerance = 0;
+    std::sscanf(question.c_str(), "%15[a-z]%c%d,%d~%d", what, &direction, &x, &y, &tolerance);
+    std::string text;
+    bool near = true;
+    for (const int number : Numbers(expected)) {
+        const graphics::Argb pixel = picture.GetPixel(x, y).value_or(0);
+        const int alpha = static_cast<int>(graphics::AlphaOf(pixel));
+        const int red = pixel == 0 ? -1 : static_cast<int>(graphics::RedOf(pixel));
+        const int told = std::string_view(what) == "alphas" ? alpha : red;
+        near &= std::abs(told - number) <= tolerance;
+        text.append(text.empty() ? "" : " ").append(std::to_string(told));
+        (direction == '@' ? x : y) += 1;
+    }
+    return near ? expected : text;
+}
+
+std::string OfPicture(const Bitmap& picture, const std::string& question,
+                      const std::string& expected) {
+    if (question == "argb")
+        return Argbs(picture);
+    if (question == "pixels")
+        return PixelRuns(picture);
+    if (question == "size")
+        return std::to_string(picture.Width()) + " " + std::to_string(picture.Height());
+    return Channel(picture, question, expected);
+}
+
+std::string Answer(Workspace& workspace, const std::string& question, const std::string& expected) {
+    const editing::Editor& editor = workspace.Editor;
+    const std::size_t cut = question.find_first_of("/@");
+    const std::string subject = question.substr(0, cut);
+    const std::string topic = cut == std::string::npos ? "" : question.substr(cut + 1);
+    if (question == "title")
+        return editor.Title;
+    if (question == "drag")
+        return std::holds_alternative<std::monostate>(editor.Drag) ? "none" : "one";
+    if (question == "selection/runs")
+        return editor.Selection.Exists() ? PixelRuns(editor.Selection.Region().Rects()) : "none";
+    if (question == "widths") {
+        std::string widths;
+        for (const document::IconLayer& layer : editor.Page().Layers)
+            widths += std::to_string(layer.ImageWidth);
+        return widths;
+    }
+    if (subject == "color")
+        return Hex(editor.Tools.Colors[static_cast<std::size_t>(std::stoi(topic))]);
+    for (const auto& [name, slider] : kSliders)
+        if (question == "slider/" + std::string(name))
+            return std::to_string((editor.Sliders.*slider).Value);
+
+    const bool isLayer = isdigit(question[0]);
+    const std::size_t index = isLayer ? std::stoul(subject) : 0;
+    const bool isPixels = topic == "argb" || topic == "pixels" || topic == "size" ||
+                          topic.starts_with("alphas") || topic.starts_with("reds");
+    const bool isPixel = cut != std::string::npos && question[cut] == '@';
+    if (isLayer && index >= editor.Page().Layers.size())
+        return "no such layer";
+    if (isLayer && topic == "runs")
+        return PixelRuns(editor.Page().Layers[index].Region.Rects());
+    if (!isPixels && !isPixel)
+        return Told(editor, question);
+    const Bitmap picture = isLayer                  ? editor.Page().Layers[index].Image
+                           : subject == "clipboard" ? workspace.Host.Picture()
+                                                    : editor.Canvas;
+    if (isPixels)
+        return OfPicture(picture, topic, expected);
+    int x = 0, y = 0;
+    std::sscanf(topic.c_str(), "%d,%d", &x, &y);
+    const auto pixel = picture.GetPixel(x, y);
+    return pixel ? Hex(*pixel) : "outside";
+}
+
+bool IsComposed(editing::Editor& editor) {
+    document::Compositor compositor;
+    document::Page page = editor.Page();
+    Bitmap canvas;
+    compositor.Compose(page, graphics::InterpolationMode::NearestNeighbor, canvas);
+    return testing::SamePixels(canvas, editor.Canvas);
+}
+
+void CheckUndo(editing::Editor& editor) {
+    const int steps = editor.History.UndoIndex();
+    editor.Document.Modified |= steps > 0;
+    const std::string before = Everything(editor);
+    for (int i = 0; i < steps; ++i)
+        ASSERT_FALSE(Run(editor, editing::Undo).Failed());
+    for (int i = 0; i < steps; ++i)
+        ASSERT_FALSE(Run(editor, editing::Redo).Failed());
+    EXPECT_TRUE(Everything(editor) == before) << "undone and done again it differs";
+}
+
+}  // namespace
+
+RowsTest::RowsTest() : before_(std::filesystem::current_path()) {
+    std::filesystem::current_path(folder.Path());
+    setenv("XDG_CACHE_HOME", (folder / "cache").c_str(), 1);
+}
+
+RowsTest::~RowsTest() {
+    std::filesystem::current_path(before_);
+}
+
+void RowsTest::Check(const std::vector<Row>& rows) {
+    for (const Row& row : rows)
+        Check(row);
+}
+
+void RowsTest::Check(const Row& row) {
+    SCOPED_TRACE(std::string(row.Behaviour) + ": " + row.Script);
+    std::ostringstream output;
+    Workspace workspace(output);
+    const std::string error = RunScript(workspace, row.Script);
+    bool errorTold = error.empty();
+    std::string facts = row.Facts + ", ";
+    for (std::size_t end = 0; (end = facts.find(", ")) != std::string::npos;
+         facts.erase(0, end + 2)) {
+        const std::string fact = facts.substr(0, end);
+        const std::size_t blank = std::min(fact.find(' '), fact.size());
+        const std::string question = fact.substr(0, blank);
+        const std::string expected = fact.substr(std::min(blank + 1, fact.size()));
+        errorTold |= question == "error";
+        EXPECT_EQ(question == "error" ? error : Answer(workspace, question, expected), expected)
+            << question;
+    }
+    EXPECT_TRUE(errorTold) << error;
+    EXPECT_TRUE(!workspace.Editor.DocumentExists || IsComposed(workspace.Editor));
+    CheckUndo(workspace.Editor);
+}
+
+void RowsTest::Write(const std::string& name, const Bitmap& picture) {
+    graphics::WriteFile(name, graphics::EncodePng(picture));
+}
+
+void RowsTest::WriteDocument(const std::string& name, int width, int height,
+                             const std::vector<Placed>& layers) {
+    document::Document document;
+    document.Master.Width = width;
+    document.Master.Height = height;
+    for (const Placed& placed : layers) {
+        document::IconLayer& layer = document.Master.Layers.emplace_back();
+        const Bitmap& image = layer.Image = placed.Image;
+        layer.Rect = placed.Rect;
+        layer.ImageWidth = image.Width();
+        layer.ImageHeight = image.Height();
+        if (placed.Rect.Width == 0) {
+            layer.Rect.Width = static_cast<float>(image.Width());
+            layer.Rect.Height = static_cast<float>(image.Height());
+        }
+        layer.BaseRect = layer.Rect;
+        layer.Opacity = placed.Opacity;
+        layer.Visible = placed.Visible;
+    }
+    formats::SaveDocument(name, document);
+}
+
+std::string RunScript(Workspace& workspace, const std::string& script) {
+    try {
+        RunCalls(ParseCalls(SplitLine(script)), workspace);
+    } catch (const std::runtime_error& failure) {
+        return failure.what();
+    }
+    return {};
+}
+
+std::string Everything(const editing::Editor& editor) {
+    std::string text = DescribeDocument(editor) + Argbs(editor.Canvas);
+    for (const document::IconLayer& layer : editor.Page().Layers)
+        text += Argbs(layer.Image);
+    return text;
+}
+
+std::string Argbs(const Bitmap& picture) {
+    std::string text;
+    for (int i = 0; i < picture.Width() * picture.Height(); ++i)
+        text.append(i > 0 ? " " : "").append(Hex(picture.Pixels()[i]));
+    return text;
+}
+
+}  // namespace orbelle::cli

@@ -1,0 +1,127 @@
+// The order of the layers, flips and turns, deleting, hiding, merging.
+#include "rows.h"
+
+namespace orbelle::cli {
+namespace {
+
+using testing::FilledPicture;
+
+constexpr graphics::Argb kBlue = 0xFF204060, kGold = 0xFFC0A010;
+
+class StackCommands : public RowsTest {
+protected:
+    StackCommands() {
+        std::vector<Placed> four;  // their widths and opacities tell them apart
+        for (int i = 1; i <= 4; ++i)
+            four.push_back({FilledPicture(i, 1, kBlue), {}, static_cast<float>(i) / 10});
+        WriteDocument("four.volf", 8, 8, four);
+        graphics::Bitmap abc(3, 2);  // abc / def, with c transparent
+        for (unsigned i = 0; i < 6; ++i)
+            abc.SetPixel(i % 3, i / 3, i == 2 ? 0x0000000C : 0xFF00000A + i);
+        WriteDocument("abc.volf", 32, 32, {{abc, {10, 20, 3, 2}}});
+        // One pixel drawn as 2 x 3, partly above the page, over a square.
+        WriteDocument("merge.volf", 8, 8,
+                      {{FilledPicture(8, 8, 0), {}},
+                       {FilledPicture(2, 2, kBlue), {1, 1, 2, 2}, 0.5F},
+                       {FilledPicture(1, 1, kGold), {2, -1, 2, 3}, 0.5F}});
+        WriteDocument(
+            "far.volf", 8, 8,
+            {{FilledPicture(1, 1, kBlue), {}}, {FilledPicture(2, 1, kBlue), {4e6F, 0, 2, 1}}});
+        Write("red.png", testing::PictureOf({"##", "#.", "#."}, 0xFFC02040));
+    }
+};
+
+TEST_F(StackCommands, OrderFlipAndTurn) {
+    Check({
+        {"to the front", "open four.volf select 1 order front", "widths 1342, selected 3, undo 1"},
+        {"to the back", "open four.volf select 2 order back", "widths 3124, selected 0, undo 1"},
+        {"one back", "open four.volf select 2 order backward", "widths 1324, selected 1, undo 1"},
+        {"one forward", "open four.volf select 1 order forward",
+         "widths 1324, selected 2, undo 1, slider/opacity 20"},
+        {"undo", "open four.volf select 1 order front undo",
+         "widths 1234, selected 1, undo 0, redo 1"},
+        {"a step after undo forgets what lay ahead",
+         "open four.volf order back undo select 1 order backward", "widths 2134, undo 1, redo 0"},
+        // Turns leave the place and the size; the region is that of the turned picture.
+        {"flip", "open abc.volf flip horizontal",
+         "0/argb 0000000C FF00000B FF00000A FF00000F FF00000E FF00000D, undo 1, "
+         "0/runs 20: 10-11; 21: 9-11"},
+        {"flip over", "open abc.volf flip vertical",
+         "0/argb FF00000D FF00000E FF00000F FF00000A FF00000B 0000000C, undo 1, "
+         "0/runs 20: 9-11; 21: 9-10"},
+        {"turn", "open abc.volf rotate cw",
+         "0/argb FF00000D FF00000A FF00000E FF00000B FF00000F 0000000C, 0/size 2 3, undo 1, "
+         "0/rect 10 20 3 2, 0/image 3 2, 0/runs 20-21: 9-10; 22: 9"},
+        {"turn and mirror", "open abc.volf rotate cww",
+         "0/argb FF00000A FF00000D FF00000B FF00000E 0000000C FF00000F, 0/size 2 3, undo 1, "
+         "0/rect 10 20 3 2, 0/image 3 2, 0/runs 20-21: 9-10; 22: 10"},
+        {"undo", "open abc.volf rotate cw undo",
+         "0/argb FF00000A FF00000B 0000000C FF00000D FF00000E FF00000F, 0/size 3 2, redo 1"},
+    });
+}
+
+TEST_F(StackCommands, DeleteHideAndMerge) {
+    const std::string hues = "open four.volf select 1 hue 33 select 0 hue 9 ";
+    Check({
+        {"the layer below is next", hues + "select 2 delete",
+         "widths 124, selected 1, undo 3, slider/opacity 20, slider/hue 33"},
+        {"below the lowest is the one above", hues + "delete",
+         "widths 234, selected 0, undo 3, slider/opacity 20, slider/hue 33"},
+        {"undo shows the sliders again", hues + "select 2 delete undo",
+         "widths 1234, selected 2, slider/opacity 30, slider/hue 0"},
+        {"no layer is left", "new 8 8 delete", "layers 0, selected -1, undo 1, page@0,0 00000000"},
+        {"and comes back", "new 8 8 delete undo", "layers 1, selected 0, undo 0, redo 1"},
+        {"hidden without an undo step", "open four.volf toggle-visible",
+         "3/visible false, undo 0, modified false, page@3,0 00000000"},
+        {"shown again", "open four.volf toggle-visible toggle-visible",
+         "3/visible true, page@3,0 66204060"},
+        // Alpha 0.5 x 255 rounds to 128; both at once: R = 255 x 128 + 128 x 127 = 48896, which is
+        // 192 x 255, and red is (255 x 128 x 192 + 128 x 127 x 32) / R = 139.
+        {"both layers in the box of both, in two steps", "open merge.volf hue 0 merge",
+         "layers 2, selected 1, 1/rect 1 -1 3 4, 1/base_rect 1 -1 3 4, 1/image 3 4, 1/opacity 1, "
+         "1/scale 0, 1/hue 0, slider/opacity 100, undo 3, 1/region 0 -1 2 4, "
+         "1/argb 00000000 80C0A010 80C0A010 00000000 80C0A010 80C0A010 "
+         "80204060 C08B802B 80C0A010 80204060 80204060 00000000"},
+        {"undo", "open merge.volf merge undo", "layers 3, 1/opacity 0.5, selected 2, undo 1"},
+        {"undo again", "open merge.volf merge undo undo", "layers 3, selected 2, undo 0"},
+        {"a hidden layer below is seen again",
+         "open merge.volf select 1 toggle-visible select 2 merge", "1/visible true, undo 2"},
+        {"a layer merged with an empty one can be picked",
+         "new 4 4 import red.png merge tool move click 0 0", "selected 0, 0/runs 0: 0-1; 1-2: 0"},
+        {"too far apart", "open far.volf merge",
+         "error merge: The two layers are too far apart to become one picture., widths 12, undo 0"},
+    });
+}
+
+TEST_F(StackCommands, DisabledEntriesFailWithTheReason) {
+    const struct {
+        const char *Before, *Verb, *Reason;
+    } cases[] = {
+        {"", "delete", "there is no document"},
+        {"", "toggle-visible", "there is no document"},
+        {"", "merge", "there is no document"},
+        {"", "paste", "there is no document"},
+        {"", "hue 3", "there is no document"},
+        {"new 4 4 delete", "copy", "no layer is selected"},
+        {"new 4 4 toggle-visible", "cut", "the selected layer is hidden"},
+        {"new 4 4 toggle-visible", "merge", "the selected layer is hidden"},
+        {"new 4 4 toggle-visible", "style fresh", "the selected layer is hidden"},
+        {"new 4 4 style ios", "flip vertical", "the selected layer clips the one above it"},
+        {"new 4 4", "paste", "the clipboard holds no picture"},
+        {"new 4 4", "merge", "there is no layer below the selected one"},
+        {"new 4 4", "order back", "the selected layer is there already"},
+        {"new 4 4 add-layer", "order front", "the selected layer is there already"},
+        {"new 4 4 add-layer", "order forward", "the selected layer is there already"},
+        {"new 4 4 add-layer select 0", "order backward", "the selected layer is there already"},
+        {"new 4 4", "undo", "there is nothing to undo"},
+        {"new 4 4 add-layer", "redo", "there is nothing to redo"},
+        {"new 4 4", "select 1", "there is no layer 1; the document has 1"},
+        {"new 4 4 tool pencil", "line-width 3", "the tool in use has no line width"},
+    };
+    for (const auto& [before, verb, reason] : cases)
+        Check({"disabled", std::string(before) + " " + verb,
+               std::string("error ") + verb + ": " + reason});
+}
+
+}  // namespace
+}  // namespace orbelle::cli
