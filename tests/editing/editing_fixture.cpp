@@ -118,8 +118,7 @@ std::string StateText(const Editor& editor) {
          << editor.History.RedoCount() << " of " << editor.History.UndoCount() << "\nselection "
          << editor.Selection.Exists() << ' '
          << (editor.Selection.Exists() ? editor.Selection.Region().Bounds() : graphics::RectF())
-         << "polygon " << editor.PolygonPoints.size() << " copied "
-         << editor.ClipboardLayer.has_value() << "\nzoom " << editor.View.Zoom << ' ';
+         << "polygon " << editor.PolygonPoints.size() << "\nzoom " << editor.View.Zoom << ' ';
     bar(editor.View.HorizontalScroll);
     bar(editor.View.VerticalScroll);
     text << "\ntool " << static_cast<int>(editor.Tools.InUse) << " popup "
