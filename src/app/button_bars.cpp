@@ -163,7 +163,7 @@ ButtonBars::ButtonBars(const WindowContext& context)
       LayerBar(MakeBar(kLayerBar, "LayerBar", "Layer commands")),
       SelectionBar(MakeBar(kSelectionBar, "SelectionBar", "Selection kinds")),
       EraserBar(MakeBar(kEraserBar, "EraserBar", "Erasers")) {
-    const auto connect = [context](ButtonBar* bar, std::function<void(int)> click) {
+    const auto connect = [context](ButtonBar* bar, const std::function<void(int)>& click) {
         // A latching button has turned itself; what it shows is the editor's to say.
         QObject::connect(bar, &ButtonBar::Clicked, bar, [context, click](int button) {
             click(button);

@@ -52,7 +52,7 @@ MainWindow::MainWindow() {
     statusBar()->setSizeGripEnabled(false);
 
     ShowScene();
-    ShowControls();
+    MainWindow::ShowControls();
     ShowTitle();
     layersTimer_.start(0);
 }

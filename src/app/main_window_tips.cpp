@@ -48,7 +48,8 @@ std::optional<QPoint> MainWindow::TipPlacement(editing::TipPlace place, QSize ba
             const graphics::RectF& rect = editor_.Page().Selected().Rect;
             const double zoom = editor_.View.Zoom;
             const auto middle = [zoom](float start, float length) {
-                return (start + graphics::RoundToEven(length) / 2) * zoom;
+                const int half = graphics::RoundToEven(length) / 2;
+                return (start + static_cast<float>(half)) * zoom;
             };
             lastLayerMiddle_ = QPoint(
                 graphics::RoundToEven(scene.x() + page.x() + middle(rect.X, rect.Width) - 35),
