@@ -106,7 +106,7 @@ TEST_F(StyleCommands, ReflectionStandsOnThePicturesFoot) {
     EXPECT_EQ(Layer(2).Rect, (RectF{10, 17, 20, 10}));
     EXPECT_EQ(Layer(2).Opacity, 0.4F);
     // The strongest solid row is the third now: alpha 255 x 7 \ 10.
-    EXPECT_EQ(Layer(2).Image.GetPixel(0, 2), graphics::MakeARGB(178, 0x33, 0x66, 0xCC));
+    EXPECT_EQ(Layer(2).Image.GetPixel(0, 2), graphics::MakeArgb(178, 0x33, 0x66, 0xCC));
     // The region begins where the picture's rectangle ends, with the second row: alpha 16 x 8 \ 10.
     EXPECT_EQ(Layer(2).Region.Bounds(), (RectF{9, 21, 20, 8}));
 }
