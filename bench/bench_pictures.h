@@ -35,7 +35,7 @@ inline graphics::Bitmap MakePicture(Content content, int size) {
     for (int y = 0; y < size; ++y) {
         for (int x = 0; x < size; ++x) {
             const graphics::Argb color =
-                graphics::MakeARGB(0, static_cast<unsigned>(x * 255 / size),
+                graphics::MakeArgb(0, static_cast<unsigned>(x * 255 / size),
                                    static_cast<unsigned>(y * 255 / size), (x * y / 7) & 0xFF);
             unsigned alpha = 255;
             if (content == Content::HalfTransparent)

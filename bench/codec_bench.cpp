@@ -27,8 +27,8 @@ Bitmap IconPicture(int side) {
             const double shadow = std::max(0.0, 0.5 - radius) * 1500;
             const double gloss = y < centre ? std::max(0.0, 60 - 150 * radius) : 0;
             row[x] = coverage == 0
-                         ? graphics::MakeARGB(std::min(shadow, 255.0), 0, 0, 0)
-                         : graphics::MakeARGB(coverage * 255, 30 + 80 * down + gloss,
+                         ? graphics::MakeArgb(std::min(shadow, 255.0), 0, 0, 0)
+                         : graphics::MakeArgb(coverage * 255, 30 + 80 * down + gloss,
                                               90 + 100 * down + gloss, 180 + 15 * down + gloss);
         }
     }

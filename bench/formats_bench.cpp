@@ -26,7 +26,7 @@ Bitmap MakeIconPicture(int side) {
                 continue;
             grain = grain * 1664525 + 1013904223;
             const unsigned shade = static_cast<unsigned>(255 * y / side);
-            row[x] = graphics::MakeARGB(static_cast<unsigned>(std::min(255, inside * 16)),
+            row[x] = graphics::MakeArgb(static_cast<unsigned>(std::min(255, inside * 16)),
                                         255 - shade, shade / 2 + (grain >> 30), 96);
         }
     }

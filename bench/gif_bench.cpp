@@ -27,7 +27,7 @@ Bitmap Photo(int side) {
                 return static_cast<unsigned>(std::clamp(light + tint + grain, 0.0, 255.0));
             };
             row[x] =
-                graphics::MakeARGB(255, channel(40 * std::sin(u * v / 5)),
+                graphics::MakeArgb(255, channel(40 * std::sin(u * v / 5)),
                                    channel(30 * std::cos(v)), channel(-40 * std::cos(1.7 * u)));
         }
     }
@@ -69,7 +69,7 @@ void GifPalette(benchmark::State& state, Bitmap (*make)(int)) {
     const int side = static_cast<int>(state.range(0));
     const Bitmap image = make(side);
     for (auto _ : state)
-        benchmark::DoNotOptimize(formats::PaletteImageGIF(image, true));
+        benchmark::DoNotOptimize(formats::PaletteImageGif(image, true));
     ReportPixels(state, side);
 }
 BENCHMARK_CAPTURE(GifPalette, Photo, Photo)->Arg(48)->Arg(256)->Arg(512);
@@ -89,7 +89,7 @@ BENCHMARK(GifFlatten)->Arg(48)->Arg(512);
 
 void GifEncode(benchmark::State& state, Bitmap (*make)(int)) {
     const int side = static_cast<int>(state.range(0));
-    const auto image = formats::PaletteImageGIF(make(side), true);
+    const auto image = formats::PaletteImageGif(make(side), true);
     for (auto _ : state)
         benchmark::DoNotOptimize(graphics::EncodeGif(image));
     ReportPixels(state, side);
@@ -99,7 +99,7 @@ BENCHMARK_CAPTURE(GifEncode, Icon, Icon)->Arg(48)->Arg(512);
 
 void GifDecode(benchmark::State& state, Bitmap (*make)(int)) {
     const int side = static_cast<int>(state.range(0));
-    const auto file = graphics::EncodeGif(formats::PaletteImageGIF(make(side), true));
+    const auto file = graphics::EncodeGif(formats::PaletteImageGif(make(side), true));
     for (auto _ : state)
         benchmark::DoNotOptimize(graphics::DecodeImage(file));
     ReportPixels(state, side);

@@ -32,7 +32,7 @@ graphics::Bitmap Gradient(unsigned shade) {
     graphics::Bitmap picture(kPageSide, kPageSide);
     for (int y = 0; y < kPageSide; ++y)
         for (int x = 0; x < kPageSide; ++x)
-            picture.MutableRow(y)[x] = graphics::MakeARGB(160, static_cast<unsigned>(x / 2),
+            picture.MutableRow(y)[x] = graphics::MakeArgb(160, static_cast<unsigned>(x / 2),
                                                           static_cast<unsigned>(y / 2), shade);
     return picture;
 }

@@ -17,8 +17,8 @@ namespace {
 
 constexpr int kBox = 256;  // pixels a side of both previews
 constexpr int kWholeCells = kBox / graphics::kCheckerCell * graphics::kCheckerCell;
-constexpr graphics::Argb kWhite = graphics::MakeARGB(255, 255, 255, 255);
-constexpr graphics::Argb kChecker = graphics::MakeARGB(255, 235, 235, 235);
+constexpr graphics::Argb kWhite = graphics::MakeArgb(255, 255, 255, 255);
+constexpr graphics::Argb kChecker = graphics::MakeArgb(255, 235, 235, 235);
 constexpr int kSliderEnd = 150;  // a larger threshold can be typed
 constexpr char kSetting[] = "Optimize";
 constexpr char kHint[] =

@@ -16,7 +16,7 @@ graphics::RectF PreviewRect(const graphics::Bitmap& image, int boxWidth, int box
 void DrawGifPreview(graphics::DrawingContext& context, const graphics::Bitmap& surface,
                     int boxWidth, int boxHeight, std::uint8_t threshold) {
     const auto indexed =
-        formats::PaletteImageGIF(formats::FlattenToKeyColor(surface, threshold), true);
+        formats::PaletteImageGif(formats::FlattenToKeyColor(surface, threshold), true);
     context.DrawImageRect(indexed.ToBitmap(), PreviewRect(surface, boxWidth, boxHeight));
 }
 

@@ -24,7 +24,7 @@ graphics::Argb ReadColor(const Settings& settings, const QString& name) {
     unsigned channels[4] = {};
     for (int i = 0; i < std::min<int>(4, static_cast<int>(parts.size())); ++i)
         channels[i] = parts[i].toUInt() & 0xFF;
-    return graphics::MakeARGB(channels[0], channels[1], channels[2], channels[3]);
+    return graphics::MakeArgb(channels[0], channels[1], channels[2], channels[3]);
 }
 
 void WriteColor(Settings& settings, const QString& name, graphics::Argb color) {

@@ -13,11 +13,11 @@ using namespace graphics;
 
 namespace {
 
-constexpr Argb kCheckerLight = MakeARGB(255, 255, 255, 255);
-constexpr Argb kCheckerDark = MakeARGB(255, 240, 240, 240);
-constexpr Argb kPageShadow = MakeARGB(255, 128, 128, 128);
+constexpr Argb kCheckerLight = MakeArgb(255, 255, 255, 255);
+constexpr Argb kCheckerDark = MakeArgb(255, 240, 240, 240);
+constexpr Argb kPageShadow = MakeArgb(255, 128, 128, 128);
 constexpr float kShadowWidth = 20;
-constexpr Argb kPageFrame = MakeARGB(200, 0, 0, 0);
+constexpr Argb kPageFrame = MakeArgb(200, 0, 0, 0);
 
 struct PagePlace {
     float Left = 0;  // scene pixels

@@ -12,7 +12,7 @@
 namespace orbelle::document {
 
 // The scene around the page.
-inline constexpr graphics::Argb kSceneColor = graphics::MakeARGB(255, 110, 110, 110);
+inline constexpr graphics::Argb kSceneColor = graphics::MakeArgb(255, 110, 110, 110);
 
 // Paints `canvas` (the composed page) on `scene`, whose size is the view's: `background` or,
 // where that is 0, a checkerboard, page shadow, page frame, picture, and the page dimmed outside

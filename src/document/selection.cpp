@@ -16,7 +16,7 @@ using graphics::RoundToEven;
 
 namespace {
 
-constexpr graphics::Argb kShade = graphics::MakeARGB(100, 0, 0, 0);
+constexpr graphics::Argb kShade = graphics::MakeArgb(100, 0, 0, 0);
 
 // The picture on a blank canvas of the given size, clipped to the canvas combined with `selection`.
 Bitmap DrawnWithin(const graphics::Region& selection, CombineMode mode, int width, int height,

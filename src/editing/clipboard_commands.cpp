@@ -74,7 +74,7 @@ IconLayer ForeignLayer(const Bitmap& picture) {
     IconLayer layer;
     layer.Image = Bitmap(picture.Width(), picture.Height());
     graphics::DrawingContext context(layer.Image);
-    context.Clear(graphics::MakeARGB(255, 255, 255, 255));
+    context.Clear(graphics::MakeArgb(255, 255, 255, 255));
     context.DrawImage(picture, 0, 0);
     document::PlaceAt(layer, {0, 0, picture.Width(), picture.Height()});
     layer.BaseRect = layer.Rect;

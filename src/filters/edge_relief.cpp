@@ -57,7 +57,7 @@ public:
                 const int moved = static_cast<int>(2 * value - most) + kEmphasisOffset;
                 return static_cast<unsigned>(std::clamp(moved, 0, 255));
             };
-            pixel = MakeARGB(AlphaOf(pixel), channel(RedOf(pixel), RedOf(largest)),
+            pixel = MakeArgb(AlphaOf(pixel), channel(RedOf(pixel), RedOf(largest)),
                              channel(GreenOf(pixel), GreenOf(largest)),
                              channel(BlueOf(pixel), BlueOf(largest)));
         });
@@ -73,7 +73,7 @@ private:
         // two columns outside. Positions outside count for nothing: the rule is that the alpha
         // read last counts again there, but that could only matter in the top row and the left
         // column, which are transparent themselves.
-        std::vector<Argb> columns(static_cast<std::size_t>(width_) + 2, MakeARGB(255, 0, 0, 0));
+        std::vector<Argb> columns(static_cast<std::size_t>(width_) + 2, MakeArgb(255, 0, 0, 0));
         for (int y = 0; y < height_; ++y) {
             Argb* row = pixels_ + y * stride_;
             const Argb* above = y > 0 ? row - stride_ : row;
@@ -95,7 +95,7 @@ private:
             green += GreenOf(color);
             blue += BlueOf(color);
         }
-        return MakeARGB(AlphaOf(*pixel), red / 6, green / 6, blue / 6);
+        return MakeArgb(AlphaOf(*pixel), red / 6, green / 6, blue / 6);
     }
 
     Argb* pixels_;

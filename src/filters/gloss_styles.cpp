@@ -38,8 +38,8 @@ StylePicture CutOut(const Bitmap& work, const RectF& bounds, int inset) {
 }  // namespace
 
 std::optional<StylePicture> CrystalStyle(const Bitmap& image) {
-    constexpr Argb kGlossTop = MakeARGB(200, 255, 255, 255);
-    constexpr Argb kGlossBottom = MakeARGB(20, 255, 255, 255);
+    constexpr Argb kGlossTop = MakeArgb(200, 255, 255, 255);
+    constexpr Argb kGlossBottom = MakeArgb(20, 255, 255, 255);
 
     Region gloss;
     CreateRegion(image, gloss, kSolidAlpha);

@@ -44,7 +44,7 @@ Bitmap GradientBlack(const Bitmap& image) {
     for (int y = 0; y < image.Height(); ++y) {
         Argb* row = result.MutableRow(y);
         for (int x = 0; x < image.Width(); ++x)
-            row[x] = MakeARGB(Faded(row[x], y, image.Height()), 0, 0, 0);
+            row[x] = MakeArgb(Faded(row[x], y, image.Height()), 0, 0, 0);
     }
     return result;
 }
@@ -79,7 +79,7 @@ Bitmap Shadow(const Bitmap& image, int radius) {
                 sum += columns[static_cast<std::size_t>(x + radius)];
             const int across = std::min(x + radius, width - 1) - std::max(x - radius, 0) + 1;
             const auto count = static_cast<unsigned>(rows * across + 1);
-            out[x] = MakeARGB((sum + AlphaOf(centre[x])) / count, 0, 0, 0);
+            out[x] = MakeArgb((sum + AlphaOf(centre[x])) / count, 0, 0, 0);
             if (x - radius >= 0)
                 sum -= columns[static_cast<std::size_t>(x - radius)];
         }

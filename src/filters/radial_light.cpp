@@ -22,7 +22,7 @@ RadialLight ThreeDStyle(Bitmap& image, int level) {
     const Falloff shine{light.X, light.Y, light.X + third, light.Y + third, light.Radius};
     shine.Apply(image, [most](Argb& pixel, double strength) {
         const double more = strength * most;
-        pixel = MakeARGB(AlphaOf(pixel), RoundToByte(RedOf(pixel) + more),
+        pixel = MakeArgb(AlphaOf(pixel), RoundToByte(RedOf(pixel) + more),
                          RoundToByte(GreenOf(pixel) + more), RoundToByte(BlueOf(pixel) + more));
     });
     return light;

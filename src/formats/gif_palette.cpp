@@ -36,7 +36,7 @@ struct ColorSum {
         Blue += times * graphics::BlueOf(color);
     }
     Argb Mean() const {
-        return graphics::MakeARGB(255, static_cast<unsigned>(Red / Count),
+        return graphics::MakeArgb(255, static_cast<unsigned>(Red / Count),
                                   static_cast<unsigned>(Green / Count),
                                   static_cast<unsigned>(Blue / Count));
     }
@@ -76,7 +76,7 @@ Bitmap FlattenToKeyColor(const Bitmap& image, std::uint8_t threshold) {
     return flat;
 }
 
-IndexedBitmap PaletteImageGIF(const Bitmap& image, bool useTransparencyColor) {
+IndexedBitmap PaletteImageGif(const Bitmap& image, bool useTransparencyColor) {
     IndexedBitmap indexed;
     if (image.IsEmpty())
         return indexed;
@@ -114,7 +114,7 @@ IndexedBitmap PaletteImageGIF(const Bitmap& image, bool useTransparencyColor) {
 std::vector<std::uint8_t> EncodeGifPicture(const Bitmap& surface, bool transparentBackground,
                                            std::uint8_t threshold) {
     const Bitmap opaque = transparentBackground ? FlattenToKeyColor(surface, threshold) : surface;
-    return EncodeGif(PaletteImageGIF(opaque, transparentBackground));
+    return EncodeGif(PaletteImageGif(opaque, transparentBackground));
 }
 
 }  // namespace orbelle::formats

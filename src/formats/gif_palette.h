@@ -21,7 +21,7 @@ graphics::Bitmap FlattenToKeyColor(const graphics::Bitmap& image, std::uint8_t t
 // The picture, alpha ignored, in at most 256 colours: exact ones when no more are in it, else means
 // of the leaves of an Octree. No dithering. Palette entries beyond the colours stay zero. With
 // `useTransparencyColor` the first entry whose channels are all below 5 gets alpha 0.
-graphics::IndexedBitmap PaletteImageGIF(const graphics::Bitmap& image, bool useTransparencyColor);
+graphics::IndexedBitmap PaletteImageGif(const graphics::Bitmap& image, bool useTransparencyColor);
 
 // The picture as a GIF file: with `transparentBackground` flattened at `threshold` and with its
 // black transparent, else with alpha dropped. An empty picture gives no bytes. Throws ImageError

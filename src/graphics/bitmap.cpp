@@ -12,7 +12,7 @@ bool IsBitmapSizeAllowed(std::int64_t width, std::int64_t height) {
 Bitmap::Bitmap(int width, int height, PixelFormat format) {
     if (!IsBitmapSizeAllowed(width, height))
         return;
-    const Argb blank = format == PixelFormat::Rgb24 ? MakeARGB(255, 0, 0, 0) : 0;
+    const Argb blank = format == PixelFormat::Rgb24 ? MakeArgb(255, 0, 0, 0) : 0;
     pixels_ = std::make_shared<std::vector<Argb>>(static_cast<std::size_t>(width) * height, blank);
     width_ = width;
     height_ = height;

@@ -9,7 +9,7 @@ namespace orbelle::graphics {
 using Argb = std::uint32_t;
 
 // Packs four channels, each 0 to 255.
-constexpr Argb MakeARGB(unsigned alpha, unsigned red, unsigned green, unsigned blue) {
+constexpr Argb MakeArgb(unsigned alpha, unsigned red, unsigned green, unsigned blue) {
     return alpha << 24 | red << 16 | green << 8 | blue;
 }
 

@@ -2,9 +2,8 @@
 
 #include <gmock/gmock.h>
 
-#include <random>
-
 #include "support/pictures.h"
+#include "support/random_pictures.h"
 
 namespace orbelle::filters {
 namespace {
@@ -26,12 +25,12 @@ TEST(AntialiasEdge, FillsANotchInEachOfTheFourDirections) {
     EXPECT_THAT(AlphaRow(Softened({"####.", "#...."}), 1), ElementsAre(255, 127, 85, 63, 0));
 }
 
-TEST(AntialiasEdge, TheRampTakesTheColourOfTheCornerPixel) {
+TEST(AntialiasEdge, TheRampTakesTheColorOfTheCornerPixel) {
     graphics::Bitmap picture = PictureOf({"....#", ".####"});
     picture.SetPixel(4, 0, 0x80102030);
     AntialiasEdge(picture);
-    EXPECT_EQ(picture.GetPixel(3, 0), graphics::MakeARGB(128 / 2, 0x10, 0x20, 0x30));
-    EXPECT_EQ(picture.GetPixel(2, 0), graphics::MakeARGB(128 / 3, 0x10, 0x20, 0x30));
+    EXPECT_EQ(picture.GetPixel(3, 0), graphics::MakeArgb(128 / 2, 0x10, 0x20, 0x30));
+    EXPECT_EQ(picture.GetPixel(2, 0), graphics::MakeArgb(128 / 3, 0x10, 0x20, 0x30));
 }
 
 TEST(AntialiasEdge, ANotchThatReachesTheBorderDependsOnItsDirection) {
@@ -50,18 +49,13 @@ TEST(AntialiasEdge, LeavesClosedAndOnePixelNotchesAlone) {
 
 TEST(AntialiasEdge, NeverChangesAPixelThatIsNotTransparent) {
     std::mt19937 random(1);
-    for (int round = 0; round < 200; ++round) {
-        graphics::Bitmap before(1 + random() % 12, 1 + random() % 12);
-        for (int y = 0; y < before.Height(); ++y)
-            for (int x = 0; x < before.Width(); ++x)
-                before.SetPixel(x, y, random() % 2 ? random() : 0);
+    for (const auto& [width, height] : testing::SizesToTry(random)) {
+        const graphics::Bitmap before = testing::RandomPicture(random, width, height);
         graphics::Bitmap after = before;
         AntialiasEdge(after);
-        for (int y = 0; y < before.Height(); ++y)
-            for (int x = 0; x < before.Width(); ++x)
-                if (graphics::AlphaOf(*before.GetPixel(x, y)) != 0) {
-                    ASSERT_EQ(after.GetPixel(x, y), before.GetPixel(x, y));
-                }
+        for (int i = 0; i < width * height; ++i)
+            if (graphics::AlphaOf(before.Pixels()[i]) != 0)
+                ASSERT_EQ(after.Pixels()[i], before.Pixels()[i]);
     }
 }
 

@@ -30,7 +30,7 @@ Bitmap EveryRedAndSum() {
             const int least = std::max(rest - 255, 0);
             const int green = least + (rest * 37 + red * 11) % (rest - 2 * least + 1);
             picture.SetPixel(rest, red,
-                             graphics::MakeARGB((rest * 7 + red) & 0xFF, red, green, rest - green));
+                             graphics::MakeArgb((rest * 7 + red) & 0xFF, red, green, rest - green));
         }
     }
     return picture;
@@ -91,7 +91,7 @@ Argb HuedStepByStep(Argb color, int s, int t) {
     const int mix = t == 0 ? first : t == 255 ? second : ((255 - t) * first + t * second) / 256;
     if (mix >= 0 && mix <= 255)
         channels[mixed] = mix;
-    return graphics::MakeARGB(graphics::AlphaOf(color), channels[0], channels[1], channels[2]);
+    return graphics::MakeArgb(graphics::AlphaOf(color), channels[0], channels[1], channels[2]);
 }
 
 TEST(ColorAdjustments, EverySliderHueFollowsItsStatements) {
@@ -146,7 +146,7 @@ TEST(ColorAdjustments, SaturationIsThatOfDoublesAtEverySliderPosition) {
                 return static_cast<unsigned>(
                     std::clamp(std::nearbyint(c + k * (c - grey)), 0.0, 255.0));
             };
-            return graphics::MakeARGB(graphics::AlphaOf(color), pushed(r), pushed(g), pushed(b));
+            return graphics::MakeArgb(graphics::AlphaOf(color), pushed(r), pushed(g), pushed(b));
         };
         const Bitmap expected = PixelByPixel(picture, rule);
         testing::WithEachInstructionSet([&] {

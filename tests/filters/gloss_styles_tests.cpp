@@ -3,40 +3,33 @@
 #include <gmock/gmock.h>
 
 #include <map>
+#include <tuple>
 
 #include "support/pictures.h"
 
 namespace orbelle::filters {
 namespace {
 
-using graphics::MakeARGB;
+using graphics::MakeArgb;
 using testing::FilledPicture;
 
 // The body of a 90 x 90 square is (-1, 0, 90, 90), the ellipse's box (-46, 30, 270, 90). In column
 // -1 the ellipse begins at 75 - 45 sqrt(1 - (90 / 135)^2) = 41.46, so the cap is 42 rows high.
-TEST(CrystalStyle, OnAnOpaqueSquareIsACapOf42Rows) {
-    const auto gloss = CrystalStyle(FilledPicture(90, 90, 0xFF204060));
-    ASSERT_TRUE(gloss);
-    EXPECT_EQ(gloss->X, -1);
-    EXPECT_EQ(gloss->Y, 0);
-    EXPECT_EQ(gloss->Width, 90);
-    EXPECT_EQ(gloss->Height, 42);
-    EXPECT_EQ(gloss->Image.Width(), 90);
-    EXPECT_EQ(gloss->Image.Height(), 42);
-}
-
 // The gloss is drawn 88 / 90 in size from (2, 1) on: row y shows (y - 1) x 90 / 88 of the gradient,
 // whose rows 0, 1, 2 have alpha 198, 194, 189.
-TEST(CrystalStyle, FadesFromTheTopAndStaysAPixelInsideTheEdge) {
+TEST(CrystalStyle, IsACapThatFadesFromTheTopAPixelInsideTheEdge) {
     const auto gloss = CrystalStyle(FilledPicture(90, 90, 0xFF204060));
     ASSERT_TRUE(gloss);
+    EXPECT_EQ(std::tuple(gloss->X, gloss->Y, gloss->Width, gloss->Height),
+              std::tuple(-1, 0, 90, 42));
+    EXPECT_EQ(std::pair(gloss->Image.Width(), gloss->Image.Height()), std::pair(90, 42));
     for (int x = 0; x < 90; ++x)
         EXPECT_EQ(gloss->Image.GetPixel(x, 0), 0U) << x;
     for (int y = 0; y < 42; ++y)
         EXPECT_EQ(gloss->Image.GetPixel(1, y), 0U) << y;
     for (const auto& [row, alpha] : std::map<int, unsigned>{{1, 198}, {2, 194}, {3, 189}})
         for (const int x : {2, 40, 88})
-            EXPECT_EQ(gloss->Image.GetPixel(x, row), MakeARGB(alpha, 255, 255, 255))
+            EXPECT_EQ(gloss->Image.GetPixel(x, row), MakeArgb(alpha, 255, 255, 255))
                 << x << ", " << row;
     // The ellipse takes the middle away below row 30, not the left end.
     EXPECT_EQ(gloss->Image.GetPixel(85, 36), 0U);
@@ -54,27 +47,24 @@ TEST(OrigamiStyle, LeavesTheLeftOrTheUpperHalfOfTheBody) {
     const auto picture = FilledPicture(20, 10, 0xFF000000);
     const auto left = OrigamiStyle(picture, Fold::Horizontal, 0x0F336699, 0x00336699);
     ASSERT_TRUE(left);
-    EXPECT_EQ(left->X, -1);
-    EXPECT_EQ(left->Width, 10);
-    EXPECT_EQ(left->Height, 10);
+    EXPECT_EQ(std::tuple(left->X, left->Width, left->Height), std::tuple(-1, 10, 10));
     // Column x stands for x - 1 in the source: t = (x - 1 + 0.5 + 1) / 10, alpha 15 t.
     EXPECT_EQ(left->Image.GetPixel(0, 5), 0U);
-    EXPECT_EQ(left->Image.GetPixel(1, 5), MakeARGB(2, 0x33, 0x66, 0x99));
-    EXPECT_EQ(left->Image.GetPixel(9, 0), MakeARGB(14, 0x33, 0x66, 0x99));
+    EXPECT_EQ(left->Image.GetPixel(1, 5), MakeArgb(2, 0x33, 0x66, 0x99));
+    EXPECT_EQ(left->Image.GetPixel(9, 0), MakeArgb(14, 0x33, 0x66, 0x99));
 
     const auto upper = OrigamiStyle(picture, Fold::Vertical, 0x0F336699, 0x00336699);
     ASSERT_TRUE(upper);
-    EXPECT_EQ(upper->Width, 20);
-    EXPECT_EQ(upper->Height, 5);
-    EXPECT_EQ(upper->Image.GetPixel(7, 4), MakeARGB(14, 0x33, 0x66, 0x99));  // 15 x 0.9
-    EXPECT_EQ(upper->Image.GetPixel(19, 2), MakeARGB(8, 0x33, 0x66, 0x99));  // 15 x 0.5
+    EXPECT_EQ(std::pair(upper->Width, upper->Height), std::pair(20, 5));
+    EXPECT_EQ(upper->Image.GetPixel(7, 4), MakeArgb(14, 0x33, 0x66, 0x99));  // 15 x 0.9
+    EXPECT_EQ(upper->Image.GetPixel(19, 2), MakeArgb(8, 0x33, 0x66, 0x99));  // 15 x 0.5
 
     EXPECT_FALSE(OrigamiStyle(graphics::Bitmap(4, 4), Fold::Vertical, 0, 0));
     EXPECT_TRUE(
         OrigamiStyle(FilledPicture(1, 1, 0xFF000000), Fold::Horizontal, 0, 0)->Image.IsEmpty());
 }
 
-TEST(IosStyle, IsARoundedPlateInTheColour) {
+TEST(IosStyle, IsARoundedPlateInTheColor) {
     const Plate plate = IosStyle(0x80FF0000, 24, 48, 0, 0);
     EXPECT_EQ(testing::AlphaRow(plate.Image, 0)[1], 0);
     EXPECT_EQ(plate.Image.GetPixel(2, 0), 0x80FF0000);

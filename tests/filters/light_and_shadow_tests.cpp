@@ -8,7 +8,7 @@ namespace orbelle::filters {
 namespace {
 
 using graphics::Bitmap;
-using graphics::MakeARGB;
+using graphics::MakeArgb;
 using testing::AlphaRow;
 using ::testing::ElementsAre;
 using testing::FilledPicture;
@@ -20,9 +20,9 @@ TEST(Reflection, FadesTowardTheTopAndFindsTheFoot) {
     const ReflectionPicture result = Reflection(picture);
     EXPECT_EQ(result.Margin, 1);
     EXPECT_EQ(result.Image.GetPixel(0, 0), 0x00112233U);
-    EXPECT_EQ(result.Image.GetPixel(0, 1), MakeARGB(51, 0x11, 0x22, 0x33));
-    EXPECT_EQ(result.Image.GetPixel(0, 3), MakeARGB(153, 0x11, 0x22, 0x33));
-    EXPECT_EQ(result.Image.GetPixel(0, 4), MakeARGB(149 * 4 / 5, 0x11, 0x22, 0x33));
+    EXPECT_EQ(result.Image.GetPixel(0, 1), MakeArgb(51, 0x11, 0x22, 0x33));
+    EXPECT_EQ(result.Image.GetPixel(0, 3), MakeArgb(153, 0x11, 0x22, 0x33));
+    EXPECT_EQ(result.Image.GetPixel(0, 4), MakeArgb(149 * 4 / 5, 0x11, 0x22, 0x33));
     EXPECT_EQ(Reflection(Bitmap(3, 7)).Margin, 6);
     EXPECT_EQ(Reflection(FilledPicture(1, 1, 0xFFFFFFFF)).Margin, 0);
 }

@@ -8,7 +8,7 @@ namespace orbelle::filters {
 namespace {
 
 using graphics::Bitmap;
-using graphics::MakeARGB;
+using graphics::MakeArgb;
 using testing::FilledPicture;
 using testing::SamePixels;
 
@@ -19,50 +19,41 @@ protected:
     RadialLightTest() {
         for (int y = 3; y < 13; ++y)
             for (int x = 2; x < 12; ++x)
-                Picture.SetPixel(x, y, MakeARGB(255, 100, 101, 250));
+                Picture.SetPixel(x, y, MakeArgb(255, 100, 101, 250));
     }
 
-    Bitmap Picture = FilledPicture(20, 20, MakeARGB(149, 100, 101, 250));
+    Bitmap Picture = FilledPicture(20, 20, MakeArgb(149, 100, 101, 250));
 };
 
-TEST_F(RadialLightTest, TellsWhereItWasPut) {
-    EXPECT_EQ(ThreeDStyle(Picture, kStrongLight), (RadialLight{1, 3, 10}));
-}
-
 TEST_F(RadialLightTest, FadesWithTheDistanceAndRoundsTiesToEven) {
-    ThreeDStyle(Picture, kStrongLight);
-    EXPECT_EQ(Picture.GetPixel(4, 6), MakeARGB(255, 125, 126, 255));
-    EXPECT_EQ(Picture.GetPixel(5, 6), MakeARGB(255, 122, 124, 255));   // 1 away: 22.5 more
-    EXPECT_EQ(Picture.GetPixel(7, 10), MakeARGB(255, 112, 114, 255));  // 5 away: 12.5 more
-    EXPECT_EQ(Picture.GetPixel(5, 7), MakeARGB(255, 121, 122, 255));   // sqrt(2) away: 21.46 more
+    EXPECT_EQ(ThreeDStyle(Picture, kStrongLight), (RadialLight{1, 3, 10}));
+    EXPECT_EQ(Picture.GetPixel(4, 6), MakeArgb(255, 125, 126, 255));
+    EXPECT_EQ(Picture.GetPixel(5, 6), MakeArgb(255, 122, 124, 255));   // 1 away: 22.5 more
+    EXPECT_EQ(Picture.GetPixel(7, 10), MakeArgb(255, 112, 114, 255));  // 5 away: 12.5 more
+    EXPECT_EQ(Picture.GetPixel(5, 7), MakeArgb(255, 121, 122, 255));   // sqrt(2) away: 21.46 more
 }
 
 TEST_F(RadialLightTest, EndsAtTheSquareAroundItsCornerAndLightsWhatIsOutsideTheBody) {
     const Bitmap before = Picture;
     ThreeDStyle(Picture, kGentleLight);
     // 7 away: 4.5 more; 4 away: 9 more.
-    EXPECT_EQ(Picture.GetPixel(11, 6), MakeARGB(255, 104, 106, 254));
-    EXPECT_EQ(Picture.GetPixel(4, 13), MakeARGB(149, 104, 106, 254));
-    EXPECT_EQ(Picture.GetPixel(0, 6), MakeARGB(149, 109, 110, 255));
+    EXPECT_EQ(Picture.GetPixel(11, 6), MakeArgb(255, 104, 106, 254));
+    EXPECT_EQ(Picture.GetPixel(4, 13), MakeArgb(149, 104, 106, 254));
+    EXPECT_EQ(Picture.GetPixel(0, 6), MakeArgb(149, 109, 110, 255));
     for (int i = 0; i < 20; ++i) {
         EXPECT_EQ(Picture.GetPixel(12, i), before.GetPixel(12, i));
         EXPECT_EQ(Picture.GetPixel(i, 14), before.GetPixel(i, 14));
     }
 }
 
-TEST(RadialLight, WithoutABodyThereIsNoLight) {
-    for (const Bitmap& before : {FilledPicture(9, 9, 0x95646464), Bitmap()}) {
+TEST(RadialLight, ThereIsNoneWithoutABodyOrOnePixelWide) {
+    for (const auto& [before, light] : {std::pair{FilledPicture(9, 9, 0x95646464), RadialLight{}},
+                                        {Bitmap(), RadialLight{}},
+                                        {FilledPicture(1, 9, 0xFF646464), RadialLight{-1, 0, 9}}}) {
         Bitmap after = before;
-        EXPECT_EQ(ThreeDStyle(after, kStrongLight), RadialLight{});
+        EXPECT_EQ(ThreeDStyle(after, kStrongLight), light);
         EXPECT_TRUE(SamePixels(after, before));
     }
-}
-
-TEST(RadialLight, LeavesAPictureOnePixelWideAlone) {
-    const Bitmap before = FilledPicture(1, 9, 0xFF646464);
-    Bitmap after = before;
-    EXPECT_EQ(ThreeDStyle(after, kStrongLight), (RadialLight{-1, 0, 9}));
-    EXPECT_TRUE(SamePixels(after, before));
 }
 
 }  // namespace

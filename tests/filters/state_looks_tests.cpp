@@ -35,15 +35,6 @@ TEST(StateLooks, HotLightensEachChannelAlone) {
     EXPECT_EQ(picture.GetPixel(0, 0), Argb{0x401FA3FF});
 }
 
-TEST(StateLooks, DisabledAndThenHotIsALightGrey) {
-    Bitmap picture = FilledPicture(2, 1, 0xFFFFFFFF);
-    picture.SetPixel(1, 0, 0x80FF0000);
-    DisabledStyle(picture, 2, 1);
-    HotStyle(picture, 2, 1, 0.5F);
-    EXPECT_EQ(picture.GetPixel(0, 0), Argb{0xFFF2F2F2});  // 255 sqrt(230 / 255) = 242.2
-    EXPECT_EQ(picture.GetPixel(1, 0), Argb{0x808C8C8C});  // 255 sqrt(77 / 255) = 140.1
-}
-
 TEST(StateLooks, TheNewPictureHasTheGivenSize) {
     Bitmap picture = FilledPicture(2, 2, 0xFFFFFFFF);
     HotStyle(picture, 3, 1, 0.5F);

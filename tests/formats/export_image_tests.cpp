@@ -9,6 +9,7 @@
 #include "graphics/file_io.h"
 #include "support/pictures.h"
 #include "support/pixel_runs.h"
+#include "support/random_pictures.h"
 #include "support/temporary_folder.h"
 
 namespace orbelle::formats {
@@ -42,6 +43,18 @@ TEST(IconSizesFor, FollowTheLargerSide) {
     EXPECT_TRUE(IconSizesFor(15, 15).empty());
 }
 
+TEST(FindExportFormat, GoesByTheExtensionInWhateverCase) {
+    const std::pair<const char*, std::optional<ExportFormat>> cases[] = {
+        {"a.ico", ExportFormat::Ico},   {"b/a.b.PNG", ExportFormat::Png},
+        {"a.gif", ExportFormat::Gif},   {"a.Jpg", ExportFormat::Jpeg},
+        {"a.jpeg", ExportFormat::Jpeg}, {"a.bmp", ExportFormat::Bmp},
+        {"a.tiff", std::nullopt},       {"png", std::nullopt},
+        {"a.png/b", std::nullopt},      {"a.", std::nullopt},
+    };
+    for (const auto& [path, format] : cases)
+        EXPECT_EQ(FindExportFormat(path), format) << path;
+}
+
 TEST(DrawIconPicture, HasWholePixelsInTheMiddle) {
     const struct {
         int Width, Height, Size;
@@ -65,23 +78,12 @@ TEST(DrawIconPicture, HasWholePixelsInTheMiddle) {
     }
 }
 
-// JPEG loses a little.
-MATCHER_P(NearColor, color, "") {
-    for (int shift : {0, 8, 16, 24}) {
-        const int difference =
-            static_cast<int>(*arg >> shift & 255) - static_cast<int>(color >> shift & 255);
-        if (difference < -3 || difference > 3)
-            return false;
-    }
-    return true;
-}
-
 class ExportTest : public ::testing::Test {
 protected:
     void SetUp() override { setenv("XDG_CACHE_HOME", (folder_ / "cache").c_str(), 1); }
 
-    Bitmap Exported(ExportFormat type, const Bitmap& page, Argb background) const {
-        ExportImage(path_, type, page, background);
+    Bitmap Exported(ExportFormat format, const Bitmap& page, Argb background) const {
+        ExportImage(path_, format, page, background);
         return graphics::LoadImageFromFile(path_);
     }
 
@@ -89,41 +91,33 @@ protected:
     const std::filesystem::path path_ = folder_ / "exported";
 };
 
-TEST_F(ExportTest, PngAndBmpStandOnTheBackground) {
-    Bitmap page(2, 1);
-    page.SetPixel(0, 0, kBlue);
-    page.SetPixel(1, 0, 0x00445566);
+TEST_F(ExportTest, PicturesWithoutAlphaStandOnTheBackgroundOrOnWhite) {
+    const Bitmap page = testing::RowOf({kBlue, 0x00445566});
     const struct {
-        ExportFormat Type;
+        ExportFormat Format;
         Argb Background;
         Argb Uncovered;
+        int Tolerance;
     } cases[] = {
-        {ExportFormat::Png, kRed, kRed},
-        {ExportFormat::Png, 0, 0},
-        {ExportFormat::Png, 0x80FF0000, 0x80FF0000},
-        {ExportFormat::Bmp, kRed, kRed},
-        {ExportFormat::Bmp, 0, 0xFFFFFFFF},
-        {ExportFormat::Bmp, 0x00FF0000, kRed},
+        {ExportFormat::Png, kRed, kRed, 0},
+        {ExportFormat::Png, 0, 0, 0},
+        {ExportFormat::Png, 0x80FF0000, 0x80FF0000, 0},
+        {ExportFormat::Bmp, kRed, kRed, 0},
+        {ExportFormat::Bmp, 0, 0xFFFFFFFF, 0},
+        {ExportFormat::Bmp, 0x00FF0000, kRed, 0},
+        {ExportFormat::Jpeg, kRed, kRed, 3},
+        {ExportFormat::Jpeg, 0, 0xFFFFFFFF, 3},
+        {ExportFormat::Jpeg, 0x00FF0000, kRed, 3},
     };
-    for (const auto& [type, background, uncovered] : cases) {
-        const Bitmap picture = Exported(type, page, background);
-        EXPECT_EQ(picture.Width(), 2);
-        EXPECT_EQ(picture.Height(), 1);
-        EXPECT_EQ(picture.GetPixel(0, 0), kBlue);
-        EXPECT_EQ(picture.GetPixel(1, 0), uncovered) << static_cast<int>(type) << background;
-    }
-}
-
-TEST_F(ExportTest, JpegStandsOnTheBackgroundOrOnWhite) {
-    Bitmap page(2, 1);
-    page.SetPixel(0, 0, kBlue);
-    const std::pair<Argb, Argb> cases[] = {{kRed, kRed}, {0, 0xFFFFFFFF}, {0x00FF0000, kRed}};
-    for (const auto& [background, uncovered] : cases) {
-        const Bitmap picture = Exported(ExportFormat::Jpeg, page, background);
-        EXPECT_EQ(picture.Width(), 2);
-        EXPECT_EQ(picture.Height(), 1);
-        EXPECT_THAT(picture.GetPixel(0, 0), NearColor(kBlue));
-        EXPECT_THAT(picture.GetPixel(1, 0), NearColor(uncovered));
+    for (const auto& [format, background, uncovered, tolerance] : cases) {
+        const Bitmap picture = Exported(format, page, background);
+        ASSERT_EQ(std::pair(picture.Width(), picture.Height()), std::pair(2, 1));
+        const Bitmap expected = testing::RowOf({kBlue, uncovered});
+        for (int x = 0; x < 2; ++x)
+            for (int channel : {testing::kBlue, testing::kGreen, testing::kRed, testing::kAlpha})
+                EXPECT_NEAR(testing::ChannelAt(picture, x, 0, channel),
+                            testing::ChannelAt(expected, x, 0, channel), tolerance)
+                    << static_cast<int>(format) << ", " << background;
     }
 }
 
@@ -187,8 +181,7 @@ TEST_F(ExportTest, FailuresOfTheOutputAreTold) {
 
 // Half transparent red on the left of a page; the right stays blank.
 TEST_F(ExportTest, AGifIsTransparentOnlyWithoutAnyBackground) {
-    Bitmap page(2, 1);
-    page.SetPixel(0, 0, 0x80FF0000);
+    const Bitmap page = testing::RowOf({0x80FF0000, 0});
     const auto exported = [&](graphics::Argb background, int threshold) {
         ExportSettings settings;
         settings.GifThreshold = threshold;

@@ -67,23 +67,15 @@ std::string ProblemOf(const Bytes& icon) {
 
 TEST(IconReader, TakesPixelsBottomUpRightBehindTheHeader) {
     const Bytes icon = MakeIcon({{2, 5, 32, {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 0}},
-                                 {1, 2, 8, {0x33, 0x22, 0x11, 0xFF}}});
+                                 {1, 2, 24, {0x33, 0x22, 0x11, 0xFF}}});
     const std::vector<IconEntryImage> entries = DecodeIcon(icon);
     ASSERT_EQ(entries.size(), 2u);
     EXPECT_EQ(std::tuple(entries[0].Width, entries[0].Height, entries[0].BitCount),
               std::tuple(2, 2, 32));
     EXPECT_THAT(PixelsOf(entries[0].Image),
                 ElementsAre(0x0C0B0A09, 0x000F0E0D, 0x04030201, 0x08070605));
-    EXPECT_EQ(entries[1].BitCount, 8);
+    EXPECT_EQ(entries[1].BitCount, 24);
     EXPECT_THAT(PixelsOf(entries[1].Image), ElementsAre(0xFF112233));
-}
-
-TEST(IconReader, A24BitEntryIsTakenWithFourBytesAPixel) {
-    // Two rows of two pixels with padding, then the mask's first byte.
-    const Bytes icon =
-        MakeIcon({{2, 4, 24, {1, 2, 3, 4, 5, 6, 0, 0, 7, 8, 9, 10, 11, 12, 0, 0, 0xC0}}});
-    EXPECT_THAT(PixelsOf(DecodeIcon(icon)[0].Image),
-                ElementsAre(0x0A090807, 0x00000C0B, 0x04030201, 0x00000605));
 }
 
 TEST(IconReader, WrittenIconsComeBack) {

@@ -103,7 +103,7 @@ private:
                 return static_cast<unsigned>(node.Sums[i] / node.Sums[0]);
             };
             node.PaletteIndex = static_cast<int>(Palette.size());
-            Palette.push_back(graphics::MakeARGB(255, mean(1), mean(2), mean(3)));
+            Palette.push_back(graphics::MakeArgb(255, mean(1), mean(2), mean(3)));
         }
         for (const std::unique_ptr<Node>& child : node.Children)
             if (child)

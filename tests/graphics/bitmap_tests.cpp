@@ -55,7 +55,7 @@ TEST(Bitmap, CloneAreaRefusesWhatLiesOutside) {
     EXPECT_EQ(area.GetPixel(0, 1), Argb{0});
 }
 
-TEST(Bitmap, TwentyFourBitsKeepColourBytesAndDropAlpha) {
+TEST(Bitmap, TwentyFourBitsKeepColorBytesAndDropAlpha) {
     Bitmap bitmap(2, 1);
     bitmap.SetPixel(0, 0, 0x80332211);
     bitmap.SetPixel(1, 0, 0x00FFFFFF);
@@ -66,7 +66,7 @@ TEST(Bitmap, TwentyFourBitsKeepColourBytesAndDropAlpha) {
     EXPECT_EQ(opaque.GetPixel(0, 0), Argb{0xFF010203});
 }
 
-TEST(Bitmap, CopyBitmapKeepsColoursUnderAlphaZeroAndFillsUpWithZero) {
+TEST(Bitmap, CopyBitmapKeepsColorsUnderAlphaZeroAndFillsUpWithZero) {
     Bitmap bitmap(2, 2);
     bitmap.SetPixel(1, 1, 0x00ABCDEF);
     EXPECT_TRUE(CopyBitmap(bitmap, 2, 2).SharesPixelsWith(bitmap));

@@ -24,7 +24,7 @@ Argb Reference(Argb destination, Argb source) {
         const uint64_t n = 255 * a1 * c1 + a0 * (255 - a1) * c0;
         return static_cast<unsigned>((2 * n + r) / (2 * r));
     };
-    return MakeARGB(
+    return MakeArgb(
         static_cast<unsigned>((2 * r + 255) / 510), mean(RedOf(source), RedOf(destination)),
         mean(GreenOf(source), GreenOf(destination)), mean(BlueOf(source), BlueOf(destination)));
 }
@@ -84,9 +84,9 @@ TEST(Blend, DecidesTiesExactly) {
                 for (unsigned c1 = 0; c1 < 256; ++c1) {
                     std::vector<Argb> row(256);
                     for (unsigned c0 = 0; c0 < 256; ++c0)
-                        row[c0] = MakeARGB(a0, c0, 255 - c0, c0 ^ 0x55);
+                        row[c0] = MakeArgb(a0, c0, 255 - c0, c0 ^ 0x55);
                     const std::vector<Argb> before = row;
-                    const Argb source = MakeARGB(a1, c1, c1, c1);
+                    const Argb source = MakeArgb(a1, c1, c1, c1);
                     BlendColor(row.data(), source, row.size());
                     for (std::size_t i = 0; i < row.size(); ++i)
                         ASSERT_EQ(row[i], Reference(before[i], source)) << std::hex << before[i];

@@ -24,7 +24,7 @@ TEST(LineBrush, AlphaFallsFromTopToBottom) {
     }
 }
 
-TEST(LineBrush, ColoursAreMixedByTheirAlpha) {
+TEST(LineBrush, ColorsAreMixedByTheirAlpha) {
     const LinearGradientBrush fromNothing{{0, 0, 10, 10}, 0x00FF0000, 0xFF0000FF};
     EXPECT_EQ(fromNothing.ColorAt(0, 0), 0u);
     EXPECT_EQ(fromNothing.ColorAt(5, 0), 0x800000FFu);

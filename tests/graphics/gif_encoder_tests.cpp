@@ -13,12 +13,12 @@ constexpr std::size_t kPaletteAt = 13;
 constexpr std::size_t kPaletteEnd = kPaletteAt + 3 * 256;
 
 // Every entry used, none alike.
-IndexedBitmap AllColours(int width, int height) {
+IndexedBitmap AllColors(int width, int height) {
     IndexedBitmap image{width, height, {}, {}};
     for (int i = 0; i < width * height; ++i)
         image.Indexes.push_back(static_cast<std::uint8_t>(i * 7 + i / 256));
     for (unsigned i = 0; i < 256; ++i)
-        image.Palette[i] = MakeARGB(255, i, 255 - i, i * 3 & 255);
+        image.Palette[i] = MakeArgb(255, i, 255 - i, i * 3 & 255);
     return image;
 }
 
@@ -27,7 +27,7 @@ FileBytes BytesAt(const FileBytes& file, std::size_t from, std::size_t count) {
 }
 
 TEST(GifEncoder, WritesOneWholeFrameWithAGlobalTable) {
-    const IndexedBitmap image = AllColours(300, 2);
+    const IndexedBitmap image = AllColors(300, 2);
     const FileBytes file = EncodeGif(image);
     // Signature, size, flags (global table of 8 bits), background colour, aspect ratio.
     EXPECT_EQ(BytesAt(file, 0, kPaletteAt),
@@ -38,8 +38,8 @@ TEST(GifEncoder, WritesOneWholeFrameWithAGlobalTable) {
     EXPECT_EQ(file.back(), ';');
 }
 
-TEST(GifEncoder, TheFirstEntryWithoutAlphaIsTheTransparentColour) {
-    IndexedBitmap image = AllColours(16, 16);
+TEST(GifEncoder, TheFirstEntryWithoutAlphaIsTheTransparentColor) {
+    IndexedBitmap image = AllColors(16, 16);
     image.Palette[9] = SetAlphaByte(image.Palette[9], 0);
     FileBytes file = EncodeGif(image);
     EXPECT_EQ(BytesAt(file, kPaletteEnd, 9), (FileBytes{'!', 0xF9, 4, 1, 0, 0, 9, 0, ','}));
@@ -52,7 +52,7 @@ TEST(GifEncoder, TheFirstEntryWithoutAlphaIsTheTransparentColour) {
 TEST(GifEncoder, WhatItWritesComesBack) {
     // Long enough for the code table to fill up and begin anew.
     for (auto [width, height] : {std::pair{1, 1}, {3, 5}, {300, 200}}) {
-        IndexedBitmap image = AllColours(width, height);
+        IndexedBitmap image = AllColors(width, height);
         image.Palette[0] = SetAlphaByte(image.Palette[0], 0);
         const Bitmap back = DecodeImage(EncodeGif(image));
         EXPECT_EQ(back.Width(), width);

@@ -27,7 +27,7 @@ constexpr double kNone = 0;
 constexpr double kHalf = 0.5;
 
 Argb Grey(unsigned value, unsigned alpha = 255) {
-    return MakeARGB(alpha, value, value, value);
+    return MakeArgb(alpha, value, value, value);
 }
 
 Bitmap GreyRow(const std::vector<unsigned>& values) {
@@ -173,7 +173,7 @@ TEST(ImageDrawing, EveryModeCopiesPixelsAtTheirOwnSize) {
     }
 }
 
-TEST(ImageDrawing, SoftEdgesKeepTheirColourWhenShrunk) {
+TEST(ImageDrawing, SoftEdgesKeepTheirColorWhenShrunk) {
     constexpr int size = 512;
     Bitmap disc(size, size);
     for (int y = 0; y < size; ++y) {
@@ -184,7 +184,7 @@ TEST(ImageDrawing, SoftEdgesKeepTheirColourWhenShrunk) {
     }
     Bitmap opaque(size, size, PixelFormat::Rgb24);
     for (const auto mode : {Default, HighQuality}) {
-        for (const int small : {256, 128, 64, 48, 32, 24, 16}) {
+        for (const int small : {256, 48, 16}) {
             SCOPED_TRACE(small);
             const RectF destination{0, 0, float(small), float(small)};
             Bitmap target(small, small);

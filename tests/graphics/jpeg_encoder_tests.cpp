@@ -22,7 +22,7 @@ Bitmap Checks(int width, int height) {
     return image;
 }
 
-TEST(JpegEncoder, EveryPixelKeepsItsColour) {
+TEST(JpegEncoder, EveryPixelKeepsItsColor) {
     for (const auto& [width, height] : {std::pair(1, 1), {7, 9}, {16, 16}, {33, 17}}) {
         const Bitmap image = Checks(width, height);
         const Bitmap read = DecodeImage(EncodeJpeg(image, 99));
@@ -37,7 +37,7 @@ TEST(JpegEncoder, EveryPixelKeepsItsColour) {
     }
 }
 
-TEST(JpegEncoder, TheFileIsBaselineJfifAt96DpiWithFullColours) {
+TEST(JpegEncoder, TheFileIsBaselineJfifAt96DpiWithFullColors) {
     const Bytes file = EncodeJpeg(Checks(300, 200), 99);
     const Bytes start = {0xFF, 0xD8, 0xFF, 0xE0, 0, 16, 'J', 'F', 'I', 'F',
                          0,    1,    1,    1,    0, 96, 0,   96,  0,   0};

@@ -33,7 +33,7 @@ Bitmap FilledWith(const Brush& brush, PixelOffsetMode offset = PixelOffsetMode::
     return bitmap;
 }
 
-TEST(PathGradient, LinesOfEqualColourInARectangleAreRectangles) {
+TEST(PathGradient, LinesOfEqualColorInARectangleAreRectangles) {
     const Brush brush = Fading(RectanglePath({0, 0, 8, 8}), {4, 4});
     // With half, t is 0.875, 0.625, 0.375, 0.125 from the outline inwards.
     const Bitmap half = FilledWith(brush, PixelOffsetMode::HighQuality);
@@ -52,7 +52,7 @@ TEST(PathGradient, LinesOfEqualColourInARectangleAreRectangles) {
                 ElementsAre(0, 64, 128, 191, 255, 191, 128, 64, 0, 0, 0, 0, 0, 0, 0, 0));
 }
 
-TEST(PathGradient, ColoursAreMixedByTheirAlphaAlongTheRay) {
+TEST(PathGradient, ColorsAreMixedByTheirAlphaAlongTheRay) {
     // Two pixels left of the centre to the outline, six to the right.
     const auto brush =
         CreatePathGradientFromPath(RectanglePath({0, 0, 8, 8}), 0x40FF0000, {2, 4}, 0xC00000FF);
@@ -80,7 +80,7 @@ TEST(PathGradient, ACirclePaintsItsOwnPixelsByTheirDistance) {
     }
 }
 
-TEST(PathGradient, PartsAndSoftEdgesTakeTheColoursOfTheirPixels) {
+TEST(PathGradient, PartsAndSoftEdgesTakeTheColorsOfTheirPixels) {
     const Brush brush = Fading(EllipsePath({1, 1, 13, 12}), {5, 6});
     const Bitmap whole = FilledWith(brush, PixelOffsetMode::HighQuality);
     Bitmap part(16, 16);

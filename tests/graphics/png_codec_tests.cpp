@@ -101,7 +101,7 @@ TEST(PngDecoder, ReadsInterlacedPictures) {
     std::vector<Argb> expected;
     for (int i = 0; i < kSide * kSide; ++i) {
         picture.Rows.insert(picture.Rows.end(), {std::uint8_t(i), std::uint8_t(2 * i), 7});
-        expected.push_back(MakeARGB(255, i, 2 * i & 0xFF, 7));
+        expected.push_back(MakeArgb(255, i, 2 * i & 0xFF, 7));
     }
     EXPECT_EQ(PixelsOf(DecodeImage(MakePng(picture))), expected);
 }

@@ -173,15 +173,6 @@ TEST(Region, PixelsMoveByWholeNumbersAndScaleAsRectangles) {
     EXPECT_EQ(Runs(mirrored), "1: 7-8; 2: 6-7");
 }
 
-TEST(Region, CopiesAreIndependent) {
-    const Region first = Region::FromRect({1, 1, 2, 2});
-    Region second = first;
-    second.Translate(5, 5);
-    second.Combine(first, CombineMode::Union);
-    EXPECT_EQ(Runs(first), "1-2: 1-2");
-    EXPECT_EQ(Runs(second), "1-2: 1-2; 6-7: 6-7");
-}
-
 TEST(Region, RectanglesComeByRowsAndAreJoinedDownwards) {
     const Region region = Region::FromPixelRects(
         {{5, 3, 2, 1}, {1, 1, 2, 1}, {1, 2, 2, 1}, {1, 3, 2, 1}, {8, 8, 0, 4}});

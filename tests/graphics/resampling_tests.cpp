@@ -54,11 +54,11 @@ TEST(Resampling, ColumnsAddUpToLimitedStraightPixels) {
         Taps Columns;
         Argb Pixel;
     } cases[] = {
-        {{7, 1, 0}, MakeARGB(100, 30, 20, 10)},
-        {{8, 1, 1}, MakeARGB(100, 60, 50, 40)},
-        {{7, 2, 1}, MakeARGB(100, 45, 35, 25)},
-        {{7, 2, 3}, MakeARGB(255, 59, 47, 35)},  // alpha 300 is cut, and 15000 / 255 = 58.8
-        {{7, 2, 5}, MakeARGB(50, 90, 80, 70)},
+        {{7, 1, 0}, MakeArgb(100, 30, 20, 10)},
+        {{8, 1, 1}, MakeArgb(100, 60, 50, 40)},
+        {{7, 2, 1}, MakeArgb(100, 45, 35, 25)},
+        {{7, 2, 3}, MakeArgb(255, 59, 47, 35)},  // alpha 300 is cut, and 15000 / 255 = 58.8
+        {{7, 2, 5}, MakeArgb(50, 90, 80, 70)},
         {{7, 1, 5}, 0},  // negative
         {{7, 1, 7}, 0},  // alpha 0.4
         {{7, 0, 0}, 0},

@@ -38,7 +38,7 @@ void DropPolygon(Editor& editor) {
 }
 
 void DrawOpenPolygon(Editor& editor) {
-    constexpr graphics::Argb kOutline = graphics::MakeARGB(255, 0, 0, 0);
+    constexpr graphics::Argb kOutline = graphics::MakeArgb(255, 0, 0, 0);
     const SceneMapping mapping = MappingOf(editor);
     std::vector<PointF> outline;
     for (const PointF& point : editor.PolygonPoints)

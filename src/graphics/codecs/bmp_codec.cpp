@@ -152,11 +152,11 @@ Header ReadHeader(const Bytes& bytes) {
 // Indexes that the file gives no colour for are opaque black.
 std::array<Argb, 256> ReadPalette(const Bytes& bytes, const Header& header) {
     std::array<Argb, 256> palette;
-    palette.fill(MakeARGB(255, 0, 0, 0));
+    palette.fill(MakeArgb(255, 0, 0, 0));
     const std::size_t room = (header.PixelsAt - header.PaletteAt) / header.PaletteEntryBytes;
     for (std::size_t i = 0; i < std::min(header.PaletteEntries, room); ++i) {
         const std::uint8_t* entry = bytes.At(header.PaletteAt + i * header.PaletteEntryBytes);
-        palette[i] = MakeARGB(255, entry[2], entry[1], entry[0]);
+        palette[i] = MakeArgb(255, entry[2], entry[1], entry[0]);
     }
     return palette;
 }
@@ -216,7 +216,7 @@ void ReadIndexRows(const Bytes& bytes, const Header& header, Argb* pixels) {
 void ReadTrueColorRows(const Bytes& bytes, const Header& header, Argb* pixels) {
     ReadRows(bytes, header, pixels, [&](const std::uint8_t* from, Argb* to) {
         for (std::int64_t x = 0; x < header.Width; ++x, from += 3)
-            to[x] = MakeARGB(255, from[2], from[1], from[0]);
+            to[x] = MakeArgb(255, from[2], from[1], from[0]);
     });
 }
 
@@ -229,7 +229,7 @@ void ReadMaskedRows(const Bytes& bytes, const Header& header, Argb* pixels) {
     ReadRows(bytes, header, pixels, [&](const std::uint8_t* from, Argb* to) {
         for (std::int64_t x = 0; x < header.Width; ++x, from += pixelBytes) {
             const auto pixel = NumberAt<std::uint32_t>({from, pixelBytes}, 0);
-            to[x] = MakeARGB(alpha.Of(pixel), red.Of(pixel), green.Of(pixel), blue.Of(pixel));
+            to[x] = MakeArgb(alpha.Of(pixel), red.Of(pixel), green.Of(pixel), blue.Of(pixel));
         }
     });
 }

@@ -103,12 +103,12 @@ private:
     // Indexes that the file gives no colour for are opaque black.
     std::array<Argb, 256> Palette() const {
         std::array<Argb, 256> palette;
-        palette.fill(MakeARGB(255, 0, 0, 0));
+        palette.fill(MakeArgb(255, 0, 0, 0));
         const ColorMapObject* map = gif_->Image.ColorMap ? gif_->Image.ColorMap : gif_->SColorMap;
         if (map) {
             std::transform(
                 map->Colors, map->Colors + map->ColorCount, palette.begin(),
-                [](const GifColorType& c) { return MakeARGB(255, c.Red, c.Green, c.Blue); });
+                [](const GifColorType& c) { return MakeArgb(255, c.Red, c.Green, c.Blue); });
         }
         if (control_.TransparentColor != NO_TRANSPARENT_COLOR)
             palette[control_.TransparentColor] =

@@ -166,7 +166,7 @@ private:
             const unsigned black = paper >> 24;
             const auto mix = [black](unsigned c) { return (c * black + 127) / 255; };
             row[x] =
-                MakeARGB(255, mix(paper & 0xFF), mix(paper >> 8 & 0xFF), mix(paper >> 16 & 0xFF));
+                MakeArgb(255, mix(paper & 0xFF), mix(paper >> 8 & 0xFF), mix(paper >> 16 & 0xFF));
         }
     }
 

@@ -174,7 +174,7 @@ Argb BlendPixel(Argb destination, Argb source) {
         const unsigned n = sourceWeight * sourceChannel + destinationWeight * destinationChannel;
         return (2 * n + r) / (2 * r);
     };
-    return MakeARGB((2 * r + 255) / 510, mean(RedOf(source), RedOf(destination)),
+    return MakeArgb((2 * r + 255) / 510, mean(RedOf(source), RedOf(destination)),
                     mean(GreenOf(source), GreenOf(destination)),
                     mean(BlueOf(source), BlueOf(destination)));
 }

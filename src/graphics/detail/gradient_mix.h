@@ -16,7 +16,7 @@ inline Argb MixPremultiplied(Argb color1, Argb color2, double t) {
     const auto mix = [&](unsigned channel1, unsigned channel2) {
         return static_cast<unsigned>((weight1 * channel1 + weight2 * channel2) / alpha + 0.5);
     };
-    return MakeARGB(static_cast<unsigned>(alpha + 0.5), mix(RedOf(color1), RedOf(color2)),
+    return MakeArgb(static_cast<unsigned>(alpha + 0.5), mix(RedOf(color1), RedOf(color2)),
                     mix(GreenOf(color1), GreenOf(color2)), mix(BlueOf(color1), BlueOf(color2)));
 }
 

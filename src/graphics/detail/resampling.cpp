@@ -24,7 +24,7 @@ HWY_INLINE Argb StraightPixel(const std::array<float, 4>& total) {
         const float limited = std::min(std::max(channel, 0.0F), 255.0F);
         return static_cast<unsigned>(limited + 0.5F);  // NOLINT(bugprone-incorrect-roundings)
     };
-    return MakeARGB(round(alpha), round(total[2] / alpha), round(total[1] / alpha),
+    return MakeArgb(round(alpha), round(total[2] / alpha), round(total[1] / alpha),
                     round(total[0] / alpha));
 }
 
