@@ -422,16 +422,18 @@ TEST_F(SceneInput, AStepThatFailsGivesTheDragUp) {
         EXPECT_FALSE(IsDragging());
     };
     DragWithoutRelease({{11, 11}, {20, 20}});
-    fail([&](Editor& e) { MoveScene(e, OnPage(21, 21)); });
+    fail([&](Editor& e) { ReleaseScene(e, OnPage(21, 21)); });
     EXPECT_EQ(Layer(0).Rect, (RectF{10, 10, 4, 4}));
     EXPECT_EQ(Layer(0).Region.Bounds().X, 9);
     EXPECT_EQ(editor.Canvas.GetPixel(10, 10), kBlue);
     Use(Tool::FilledRectangle);
     const graphics::Bitmap before = Layer(0).Image;
-    DragWithoutRelease({{10, 10}, {12, 12}});
-    fail([&](Editor& e) { MoveScene(e, OnPage(13, 13)); });
-    EXPECT_TRUE(Layer(0).Image.SharesPixelsWith(before));
-    EXPECT_EQ(Steps(), 0);
+    for (const auto event : {MoveScene, ReleaseScene}) {
+        DragWithoutRelease({{10, 10}, {12, 12}});
+        fail([&](Editor& e) { event(e, OnPage(13, 13)); });
+        EXPECT_TRUE(Layer(0).Image.SharesPixelsWith(before));
+        EXPECT_EQ(Steps(), 0);
+    }
     // The undo step of a slider was taken at the press.
     Do(PressOpacity);
     Step(ChangeOpacity, 30);

@@ -27,8 +27,8 @@
 #include "editing/tool_palette.h"
 #include "editing/undo_commands.h"
 #include "editing/view_commands.h"
-#include "faults/editor_account.h"
 #include "faults/injection.h"
+#include "support/editor_account.h"
 #include "support/temporary_folder.h"
 
 namespace orbelle::testing {
