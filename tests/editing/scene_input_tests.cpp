@@ -156,20 +156,6 @@ TEST_F(SceneInput, LayersMoveByScenePixelsOverZoom) {
     }
 }
 
-TEST_F(SceneInput, BrushStampsLieMoreThanTwentyScenePixelsApart) {
-    Use(Tool::BrushEraser);
-    editor.Sliders.BrushSize.Value = 1;
-    editor.Sliders.BrushOpacity.Value = 100;
-    for (const auto& [dx, stamps] : {std::pair{20.0F, false}, {20.25F, true}}) {
-        PutOnlyLayer(testing::FilledPicture(40, 30, kBlue), 0, 0);
-        Press(OnPage(5, 15));
-        Pointer moved = OnPage(5, 15);
-        moved.X += dx;
-        Move(moved);
-        EXPECT_EQ(graphics::AlphaOf(*Layer(0).Image.GetPixel(25, 15)), stamps ? 5U : 255U) << dx;
-    }
-}
-
 TEST_F(SceneInput, FramesOfASelection) {
     const struct {
         PointF From, To;

@@ -147,16 +147,6 @@ TEST_F(DrawingTools, ColoursAndPlaces) {
         // The pick takes the page as composed, and its alpha.
         {"pick", "open mixed.volf zoom 2 tool pick active background click 0 5",
          "color/1 80112233, color/0 00000000, slider/colour-opacity 50, undo 0, drag none"},
-        {"pick", "open mixed.volf zoom 3 tool pick click 1 5",
-         "color/0 FFFF0000, slider/colour-opacity 100"},
-        {"the pointer at 493.5 of the scene is rounded", "open mixed.volf tool pick click 1 5",
-         "color/0 00000000"},
-        {"pick nothing", "open mixed.volf foreground #FFFFFF tool pick click 2 5",
-         "color/0 00000000, slider/colour-opacity 0"},
-        {"beside the page", "open mixed.volf foreground #FFFFFF tool pick click -5 5",
-         "color/0 00000000"},
-        {"beyond the scene", "open mixed.volf foreground #FFFFFF tool pick click -2000 5",
-         "color/0 FFFFFFFF"},
     });
 }
 

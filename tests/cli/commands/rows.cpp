@@ -27,13 +27,11 @@ constexpr std::pair<std::string_view, editing::Slider Sliders::*> kSliders[] = {
     {"opacity", &Sliders::Opacity},
     {"hue", &Sliders::Hue},
     {"saturation", &Sliders::Saturation},
-    {"brightness", &Sliders::Brightness},
     {"contrast", &Sliders::Contrast},
     {"scale", &Sliders::Scale},
     {"page-width", &Sliders::PageWidth},
     {"page-height", &Sliders::PageHeight},
     {"colour-opacity", &Sliders::ColorOpacity},
-    {"line-width", &Sliders::LineWidth},
 };
 
 std::string Hex(graphics::Argb color) {
