@@ -4,7 +4,6 @@
 #include <initializer_list>
 
 #include "editing/buttons.h"
-#include "editing/editor.h"
 
 namespace orbelle::editing {
 namespace {
@@ -14,7 +13,9 @@ constexpr int kLeastZoomPercent = 20;
 // Fills the table of states, topic by topic.
 class StateTable {
 public:
-    StateTable(const Editor& editor, bool clipboardHasPicture) : editor_(editor) {
+    StateTable(const EditorState& editor, const document::UndoHistory& history,
+               bool clipboardHasPicture)
+        : editor_(editor), history_(history) {
         EnableFileCommands();
         EnableEditCommands(clipboardHasPicture);
         EnableStyles();
@@ -40,8 +41,8 @@ private:
 
     void EnableEditCommands(bool clipboardHasPicture) {
         const int index = Page().SelectedLayer, count = Page().LayerCount();
-        Enable({CommandId::Undo}, editor_.History.UndoIndex() >= 1);
-        Enable({CommandId::Redo}, editor_.History.RedoCount() >= 1);
+        Enable({CommandId::Undo}, history_.UndoIndex() >= 1);
+        Enable({CommandId::Redo}, history_.RedoCount() >= 1);
         // A plate that clips the layer above it stays where it is.
         const bool usable = Visible() && !Page().Selected().ClipNextLayer;
         Enable({CommandId::Cut, CommandId::Copy, CommandId::Delete, CommandId::FlipHorizontal,
@@ -115,17 +116,19 @@ private:
             bar[static_cast<std::size_t>(button)] = {true, button == pressed};
     }
 
-    const Editor& editor_;
+    const EditorState& editor_;
+    const document::UndoHistory& history_;
     ControlStates states_;
 };
 
 }  // namespace
 
-ControlStates StatesOf(const Editor& editor, bool clipboardHasPicture) {
-    return StateTable(editor, clipboardHasPicture).States();
+ControlStates StatesOf(const EditorState& editor, const document::UndoHistory& history,
+                       bool clipboardHasPicture) {
+    return StateTable(editor, history, clipboardHasPicture).States();
 }
 
-void EnableSliders(Editor& editor) {
+void EnableSliders(EditorState& editor) {
     Sliders& sliders = editor.Sliders;
     for (Slider* slider : {&sliders.Opacity, &sliders.Hue, &sliders.Saturation, &sliders.Brightness,
                            &sliders.Contrast, &sliders.Scale})

@@ -5,9 +5,10 @@
 #include <array>
 #include <cstddef>
 
-namespace orbelle::editing {
+#include "document/undo_history.h"
+#include "editing/editor_state.h"
 
-struct Editor;
+namespace orbelle::editing {
 
 // What a menu entry, a button or a shortcut stands for and can be disabled. All of a command's
 // entries, buttons and shortcuts have the one state.
@@ -77,9 +78,10 @@ struct ControlStates {
     bool operator==(const ControlStates&) const = default;
 };
 
-ControlStates StatesOf(const Editor& editor, bool clipboardHasPicture);
+ControlStates StatesOf(const EditorState& editor, const document::UndoHistory& history,
+                       bool clipboardHasPicture);
 
 // The same for the sliders: sets Slider::Enabled.
-void EnableSliders(Editor& editor);
+void EnableSliders(EditorState& editor);
 
 }  // namespace orbelle::editing

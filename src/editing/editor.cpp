@@ -6,7 +6,7 @@ namespace orbelle::editing {
 Editor::Editor(EditorObserver& observer, editing::Clipboard& clipboard)
     : Observer(observer), Clipboard(clipboard) {
     EnableSliders(*this);
-    States = StatesOf(*this, false);
+    States = StatesOf(*this, History, false);
 }
 
 }  // namespace orbelle::editing

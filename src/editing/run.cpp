@@ -1,7 +1,6 @@
 #include "editing/run.h"
 
 #include <new>
-#include <optional>
 #include <type_traits>
 #include <utility>
 
@@ -74,20 +73,18 @@ struct ShownControls {
     graphics::Argb Background;
 };
 
-void RollBack(Editor& editor, std::optional<EditorState>& before,
-              const document::UndoHistory::Place& place) {
-    // There may be no memory left to do this with.
-    static_assert(std::is_nothrow_move_assignable_v<EditorState>);
-    if (before)
-        static_cast<EditorState&>(editor) = std::move(*before);
-    editor.History.RollBack(place);
-    editor.Changed = {};
-    editor.Changed.Pixels = editor.Changed.Stack = editor.Changed.Controls = true;
-    GiveUpDrag(editor);
+// What the observer is told of is found by comparing, so that no command can forget it.
+void NoteControls(Editor& editor, const ShownControls& before, const Overlays& overlaysBefore) {
+    EnableSliders(editor);
+    const ControlStates states = StatesOf(editor, editor.History, editor.Clipboard.HasPicture());
+    editor.Changed.Controls |= states != editor.States || ShownControls(editor) != before;
+    editor.Changed.Overlays |= editor.Overlays != overlaysBefore;
+    editor.States = states;
 }
 
 Outcome Execute(Editor& editor, const Command& command) {
-    std::optional<EditorState> before;
+    EditorState before;
+    bool hasBegun = false;
     const document::UndoHistory::Place place = editor.History.Here();
     const ShownControls controls(editor);
     const Overlays overlays = editor.Overlays;
@@ -95,6 +92,7 @@ Outcome Execute(Editor& editor, const Command& command) {
     const bool unpainted = std::exchange(editor.Changed.Pixels, false);
     const Outcome outcome = Attempt([&] {
         before = editor;
+        hasBegun = true;
         // The command may read the canvas.
         if (unpainted)
             ComposeAndPaint(editor);
@@ -103,18 +101,19 @@ Outcome Execute(Editor& editor, const Command& command) {
     });
     bool shown = true;
     if (outcome.Failed()) {
-        RollBack(editor, before, place);
+        // There may be no memory left to go back with.
+        static_assert(std::is_nothrow_move_assignable_v<EditorState>);
+        if (hasBegun)
+            static_cast<EditorState&>(editor) = std::move(before);
+        editor.History.RollBack(place);
+        editor.Changed = {};
+        editor.Changed.Pixels = editor.Changed.Stack = editor.Changed.Controls = true;
+        GiveUpDrag(editor);
         shown = !Attempt([&] { Show(editor); }).Failed();
     }
     editor.History.Settle();
-
-    // What the observer is told of is found by comparing, so that no command can forget it.
-    EnableSliders(editor);
-    const ControlStates states = StatesOf(editor, editor.Clipboard.HasPicture());
-    editor.Changed.Controls |= states != editor.States || ShownControls(editor) != controls;
-    editor.Changed.Overlays |= editor.Overlays != overlays;
+    NoteControls(editor, controls, overlays);
     editor.Changed.Pixels |= unpainted;
-    editor.States = states;
     editor.Observer.Changed(std::exchange(editor.Changed, {}));
     // Where memory does not suffice even for that, the next command paints it.
     editor.Changed.Pixels = !shown;

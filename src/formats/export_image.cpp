@@ -7,7 +7,6 @@
 #include <exception>
 #include <string>
 #include <string_view>
-#include <system_error>
 #include <utility>
 
 #include "graphics/codecs/image_files.h"

@@ -73,6 +73,7 @@ public:
 
     bool Works() const { return pixels_; }
     const QString& Name() const { return name_; }
+    qint64 Process() const { return server_.processId(); }
     // As it is now; to be copied.
     QImage Picture() const {
         return {pixels_, kDisplay.width(), kDisplay.height(), QImage::Format_RGB32};
@@ -245,8 +246,8 @@ void RealWindowTest::Drag(QPoint from, QPoint to) {
 void RealWindowTest::WaitUntilIdle() {
     int asleep = 0;
     WaitUntil([&] {
-        asleep =
-            program.state() != QProcess::Running || IsAsleep(program.processId()) ? asleep + 1 : 0;
+        const bool rests = program.state() != QProcess::Running || IsAsleep(program.processId());
+        asleep = rests && IsAsleep(display->Process()) ? asleep + 1 : 0;
         return asleep == 2;
     });
 }

@@ -68,7 +68,7 @@ protected:
     void MoveTo(QPoint place);
     void Click(QPoint place, int button = 1);
     void Drag(QPoint from, QPoint to);
-    // Until the program has taken all input and sleeps.
+    // Until display and program have taken all input and sleep.
     void WaitUntilIdle();
 
     // The part of the display where the page is, as it is now.

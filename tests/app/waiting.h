@@ -16,7 +16,7 @@ inline bool WaitUntil(const std::function<bool()>& condition, int seconds = 60) 
         if (deadline.hasExpired())
             return false;
         QApplication::processEvents();
-        QThread::msleep(5);
+        QThread::msleep(2);
     }
     return true;
 }

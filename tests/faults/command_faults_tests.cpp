@@ -10,6 +10,7 @@
 #include <iterator>
 #include <map>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "editing/adjust_sliders.h"
@@ -221,16 +222,14 @@ private:
 
     // One of every kind, and some that are in the way.
     void MakeFiles() {
-        desk_.Do([&](Editor& editor) {
-            for (const formats::ExportFormat& format : formats::kExportFormats)
-                ExportTo(
-                    editor,
-                    folder_ /
-                        ("picture" +
-                         std::string(format.Filter).substr(std::string(format.Filter).rfind('.'))),
-                    format.FileType);
-        });
-        fs::rename(folder_ / "picture.jpeg", folder_ / "picture.jpg");
+        const std::pair<const char*, formats::ExportFormat> pictures[] = {
+            {"picture.ico", formats::ExportFormat::Ico},
+            {"picture.png", formats::ExportFormat::Png},
+            {"picture.gif", formats::ExportFormat::Gif},
+            {"picture.jpg", formats::ExportFormat::Jpeg},
+            {"picture.bmp", formats::ExportFormat::Bmp}};
+        for (const auto& [name, format] : pictures)
+            desk_.Do([&](Editor& editor) { ExportTo(editor, folder_ / name, format); });
         Desk other(desk_);
         other.Do([&](Editor& editor) { SaveTo(editor, folder_ / "document.volf"); });
         for (const char* name : {"old.volf", "old.ico", "old.png", "old.gif", "old.jpg", "old.bmp"})
@@ -369,8 +368,8 @@ Steps Save(const fs::path& path) {
     return {{[path](Editor& editor) { SaveTo(editor, path); }}};
 }
 
-Steps Export(const fs::path& path, formats::FileTypes type) {
-    return {{[path, type](Editor& editor) { ExportTo(editor, path, type); }}};
+Steps Export(const fs::path& path, formats::ExportFormat format) {
+    return {{[path, format](Editor& editor) { ExportTo(editor, path, format); }}};
 }
 
 editing::Pointer OnPage(float x, float y, int button = 1) {
@@ -434,15 +433,17 @@ const Scenario kScenarios[] = {
     {"SaveOverFile", [](const fs::path& folder) { return Save(folder / "old.volf"); }},
     {"SaveOverLink", [](const fs::path& folder) { return Save(folder / "link.volf"); }},
     {"ExportIcon",
-     [](const fs::path& folder) { return Export(folder / "old.ico", formats::FileTypes::Ico); }},
+     [](const fs::path& folder) { return Export(folder / "old.ico", formats::ExportFormat::Ico); }},
     {"ExportPng",
-     [](const fs::path& folder) { return Export(folder / "old.png", formats::FileTypes::Png); }},
+     [](const fs::path& folder) { return Export(folder / "old.png", formats::ExportFormat::Png); }},
     {"ExportGif",
-     [](const fs::path& folder) { return Export(folder / "old.gif", formats::FileTypes::Gif); }},
+     [](const fs::path& folder) { return Export(folder / "old.gif", formats::ExportFormat::Gif); }},
     {"ExportJpeg",
-     [](const fs::path& folder) { return Export(folder / "old.jpg", formats::FileTypes::Jpeg); }},
+     [](const fs::path& folder) {
+         return Export(folder / "old.jpg", formats::ExportFormat::Jpeg);
+     }},
     {"ExportBmp",
-     [](const fs::path& folder) { return Export(folder / "old.bmp", formats::FileTypes::Bmp); }},
+     [](const fs::path& folder) { return Export(folder / "old.bmp", formats::ExportFormat::Bmp); }},
 
     {"DisabledState", Simply<editing::DisabledState>},
     {"HotState", Simply<editing::HotState>},

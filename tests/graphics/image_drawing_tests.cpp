@@ -244,9 +244,14 @@ TEST(ImageDrawing, ClippedPixelsAreThoseOfTheWholeDrawing) {
             return Intersect(rect, {x, y, 1, 1}) == RectI{x, y, 1, 1};
         });
     };
+    const RectF destinations[] = {
+        {-3.3F, -2.7F, 50.1F, 20},
+        {6, 1, 13, 11},
+        {5.5F, 0.5F, 7.25F, 25},
+        {0, -9, 40, 60},  // the first rows of two rectangles show the same row of the picture
+    };
     for (const auto mode : kAllModes) {
-        for (const RectF& destination :
-             {RectF{-3.3F, -2.7F, 50.1F, 20}, {6, 1, 13, 11}, {5.5F, 0.5F, 7.25F, 25}}) {
+        for (const RectF& destination : destinations) {
             for (const double offset : {kNone, kHalf}) {
                 ImageDrawing drawing = Whole(image, destination, mode, offset);
                 drawing.Source = {-1, 2, 13, 11};

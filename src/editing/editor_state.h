@@ -1,0 +1,59 @@
+// What the commands work on, as a value that can be kept and gone back to.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "document/document.h"
+#include "document/selection.h"
+#include "document/view.h"
+#include "editing/drag.h"
+#include "editing/overlays.h"
+#include "editing/sliders.h"
+#include "editing/tool.h"
+#include "formats/export_image.h"
+#include "graphics/geometry.h"
+
+namespace orbelle::editing {
+
+inline constexpr char kProductName[] = "Varnel Orbelle";
+
+// What the zoom commands and the zoom animation remember; the zoom itself stands in the view.
+struct ZoomState {
+    double Maximum = 20;
+    bool IsOriginalSize = false;  // the button Original Size is pressed
+    // The view that Original Size goes back to.
+    double SavedZoom = 1;
+    document::ScrollBar SavedHorizontal;
+    document::ScrollBar SavedVertical;
+    bool PageSizeChanged = false;  // the page was resized since the last fit to the window
+
+    bool IsAnimated = false;  // TickZoomAnimation is to be run until this is false
+};
+
+// What a command that fails leaves as it was; the undo history, too. A copy costs a pointer a
+// layer and the points of a stroke.
+struct EditorState {
+    document::Document Document;
+    // Set while a document exists; cleared while one is being opened.
+    bool DocumentExists = false;
+    std::string Title = kProductName;
+
+    document::Selection Selection;
+    std::vector<graphics::PointF> PolygonPoints;  // of an open polygon, page pixels
+    editing::Drag Drag;
+
+    document::View View;
+    ZoomState Zoom;
+    ToolSettings Tools;
+    editing::Sliders Sliders;
+    editing::Overlays Overlays;
+    formats::ExportSettings ExportSettings;
+    graphics::PointF LastPointer;  // the last move on the scene, scene pixels
+
+    // The page that is being edited.
+    document::Page& Page() { return Document.Current(); }
+    const document::Page& Page() const { return Document.Current(); }
+};
+
+}  // namespace orbelle::editing
