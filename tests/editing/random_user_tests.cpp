@@ -165,7 +165,7 @@ protected:
     // The states are those of the document as it stands, whatever led to it.
     void CheckStates() {
         const document::Page& page = editor.Page();
-        ASSERT_TRUE(editor.States == StatesOf(editor, recorder.HasPicture()));
+        ASSERT_TRUE(editor.States == StatesOf(editor, editor.History, recorder.HasPicture()));
         const bool visible = page.HasSelection() && page.Selected().Visible;
         ASSERT_EQ(editor.States.IsEnabled(CommandId::SetOrder), visible && page.LayerCount() >= 2);
         ASSERT_EQ(editor.States.IsEnabled(CommandId::MergeDown),
