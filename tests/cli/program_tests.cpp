@@ -88,17 +88,6 @@ TEST_F(ProgramTest, TheSceneHasTheZoomInForceAndThePageInTheMiddle) {
     EXPECT_EQ(Picture("1.png").GetPixel(512, 387), kBlue);
 }
 
-TEST_F(ProgramTest, SavedDocumentsOpenAgain) {
-    Write("a.png", FilledPicture(20, 10, kBlue));
-    EXPECT_EQ(Run({"open", "a.png", "style", "crystal", "opacity", "40", "background", "#010203",
-                   "save", "a.volf", "write-page", "before.png"}),
-              kSuccess);
-    const Outcome outcome = Run({"open", "a.volf", "write-page", "after.png", "info"});
-    EXPECT_THAT(outcome.Output, HasSubstr(R"("background":"#FF010203"},"path":"a.volf",)"
-                                          R"("modified":false,"selected":1,"undo":0)"));
-    EXPECT_EQ(Bytes("before.png"), Bytes("after.png"));
-}
-
 TEST_F(ProgramTest, IconSettingsHoldForTheIconsAfterThem) {
     Write("a.png", FilledPicture(48, 48, kBlue));
     EXPECT_EQ(Run({"open", "a.png", "export", "own.ico", "icon-sizes", "32", "16", "export",

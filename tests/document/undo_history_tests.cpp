@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
+
 #include "support/pictures.h"
 
 namespace orbelle::document {
@@ -107,6 +109,62 @@ TEST(UndoHistory, RefusesMoreThan101LayersWithNothingLost) {
     EXPECT_EQ(document.Master.LayerCount(), 101);
     history.Redo(document);
     EXPECT_EQ(document.Master.LayerCount(), 102);
+}
+
+// Two steps back from four: the stacks from there to both ends, told by their Hue.
+TEST(UndoHistory, RollBackGoesBackToAPlaceWhateverWasDoneAndForgotten) {
+    using Work = std::function<void(UndoHistory&, Document&)>;
+    const auto edit = [](UndoHistory& history, Document& document) {
+        history.TruncateRedo();
+        history.PushSnapshot(document);
+        document.Master.Layers[0].Hue = 99;
+    };
+    const auto undo = [](UndoHistory& history, Document& document) { history.Undo(document); };
+    const auto redo = [](UndoHistory& history, Document& document) { history.Redo(document); };
+    const auto clear = [](UndoHistory& history, Document&) { history.ClearHistory(); };
+    const std::vector<Work> works[] = {{edit},
+                                       {edit, edit},
+                                       {undo},
+                                       {redo},
+                                       {undo, edit},
+                                       {redo, redo, edit},
+                                       {undo, undo},
+                                       {undo, redo, redo},
+                                       {clear},
+                                       {clear, edit, edit},
+                                       {edit, clear},
+                                       {undo, edit, clear, edit},
+                                       {},
+                                       {edit, undo, redo},
+                                       {redo, clear, edit, undo}};
+    for (const std::vector<Work>& work : works) {
+        SCOPED_TRACE(&work - works);
+        Document document = DocumentOf(1);
+        UndoHistory history;
+        for (const int hue : {1, 2, 3, 4}) {
+            history.PushSnapshot(document);
+            document.Master.Layers[0].Hue = hue;
+        }
+        history.Undo(document);
+        history.Undo(document);
+        for (int time = 0; time < 2; ++time) {
+            const Document before = document;
+            history.Settle();
+            const UndoHistory::Place place = history.Here();
+            for (const Work& step : work)
+                step(history, document);
+            history.RollBack(place);
+            document = before;
+        }
+        EXPECT_EQ(history.UndoIndex(), 2);
+        EXPECT_EQ(history.RedoCount(), 2);
+        std::vector<int> hues;
+        while (history.Undo(document))
+            hues.push_back(document.Master.Layers[0].Hue);
+        while (history.Redo(document))
+            hues.push_back(document.Master.Layers[0].Hue);
+        EXPECT_EQ(hues, (std::vector<int>{1, 0, 1, 2, 3, 4}));
+    }
 }
 
 TEST(UndoHistory, Refuses5002SnapshotsWithNothingLost) {

@@ -46,19 +46,19 @@ TEST_F(Commands, DoNothingWithoutASelectedLayer) {
     recorder.Copied = {};
     SelectNone();
     editor.Document.Modified = false;
-    const std::string before = StateText(editor);
+    const std::string before = testing::AccountOf(editor);
     for (const NamedCommand& command : LayerCommands()) {
         if (std::string_view(command.Name).starts_with("the bar's"))
             continue;
         Do(command.Run);
-        EXPECT_EQ(StateText(editor), before) << command.Name;
+        EXPECT_EQ(testing::AccountOf(editor), before) << command.Name;
         EXPECT_FALSE(recorder.Last.Pixels || recorder.Last.Stack) << command.Name;
         EXPECT_FALSE(IsDragging());
     }
     Do(SelectLayer, 3);
     Do(SelectLayer, -1);
     Do(PasteFromClipboard);
-    EXPECT_EQ(StateText(editor), before);
+    EXPECT_EQ(testing::AccountOf(editor), before);
     EXPECT_FALSE(recorder.HasPicture());
 }
 

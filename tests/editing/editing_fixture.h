@@ -10,6 +10,7 @@
 #include "editing/document_commands.h"
 #include "editing/run.h"
 #include "editing/scene_input.h"
+#include "support/editor_account.h"
 #include "support/pictures.h"
 #include "support/pixel_runs.h"
 
@@ -164,11 +165,5 @@ struct NamedCommand {
 
 // All that work on the selected layer, and undo and redo.
 std::vector<NamedCommand> LayerCommands();
-
-// The stack with all that undo brings back, as a text to compare.
-std::string StackText(const document::Page& page);
-
-// All of the editor that a command can change.
-std::string StateText(const Editor& editor);
 
 }  // namespace orbelle::editing

@@ -127,14 +127,15 @@ protected:
 
     // A command that fails when it is done.
     void Fail() {
-        const std::string before = StackText(editor.Page());
+        const std::string before = testing::AccountOf(editor.Page());
         const std::size_t chosen = static_cast<std::size_t>(Below(int(commands_.size())));
         const bool wasDragging = IsDragging();
         EXPECT_TRUE(editing::Run(editor, [&](Editor& e) {
                         commands_[chosen].Run(e);
                         throw Error("no");
                     }).Failed());
-        EXPECT_TRUE(wasDragging || StackText(editor.Page()) == before) << commands_[chosen].Name;
+        EXPECT_TRUE(wasDragging || testing::AccountOf(editor.Page()) == before)
+            << commands_[chosen].Name;
     }
 
     void Step() {
@@ -190,7 +191,7 @@ protected:
 };
 
 TEST_P(RandomUser, KeepsTheDocumentWhole) {
-    const std::string first = StackText(editor.Page());
+    const std::string first = testing::AccountOf(editor.Page());
     Do(PressAddLayer);
     for (int i = 0; i < kSteps; ++i) {
         SCOPED_TRACE("step " + std::to_string(i));
@@ -202,14 +203,14 @@ TEST_P(RandomUser, KeepsTheDocumentWhole) {
         if (HasFailure())
             return;
     }
-    const std::string last = StackText(editor.Page());
+    const std::string last = testing::AccountOf(editor.Page());
     const int steps = Steps();
     for (const auto command : {Undo, Redo}) {
         for (int i = 0; i < steps; ++i) {
             Do(command);
             CheckStates();
         }
-        EXPECT_EQ(StackText(editor.Page()), command == Undo ? first : last);
+        EXPECT_EQ(testing::AccountOf(editor.Page()), command == Undo ? first : last);
     }
     CheckPage();
 

@@ -156,20 +156,6 @@ TEST_F(SceneInput, LayersMoveByScenePixelsOverZoom) {
     }
 }
 
-TEST_F(SceneInput, BrushStampsLieMoreThanTwentyScenePixelsApart) {
-    Use(Tool::BrushEraser);
-    editor.Sliders.BrushSize.Value = 1;
-    editor.Sliders.BrushOpacity.Value = 100;
-    for (const auto& [dx, stamps] : {std::pair{20.0F, false}, {20.25F, true}}) {
-        PutOnlyLayer(testing::FilledPicture(40, 30, kBlue), 0, 0);
-        Press(OnPage(5, 15));
-        Pointer moved = OnPage(5, 15);
-        moved.X += dx;
-        Move(moved);
-        EXPECT_EQ(graphics::AlphaOf(*Layer(0).Image.GetPixel(25, 15)), stamps ? 5U : 255U) << dx;
-    }
-}
-
 TEST_F(SceneInput, FramesOfASelection) {
     const struct {
         PointF From, To;
@@ -422,16 +408,18 @@ TEST_F(SceneInput, AStepThatFailsGivesTheDragUp) {
         EXPECT_FALSE(IsDragging());
     };
     DragWithoutRelease({{11, 11}, {20, 20}});
-    fail([&](Editor& e) { MoveScene(e, OnPage(21, 21)); });
+    fail([&](Editor& e) { ReleaseScene(e, OnPage(21, 21)); });
     EXPECT_EQ(Layer(0).Rect, (RectF{10, 10, 4, 4}));
     EXPECT_EQ(Layer(0).Region.Bounds().X, 9);
     EXPECT_EQ(editor.Canvas.GetPixel(10, 10), kBlue);
     Use(Tool::FilledRectangle);
     const graphics::Bitmap before = Layer(0).Image;
-    DragWithoutRelease({{10, 10}, {12, 12}});
-    fail([&](Editor& e) { MoveScene(e, OnPage(13, 13)); });
-    EXPECT_TRUE(Layer(0).Image.SharesPixelsWith(before));
-    EXPECT_EQ(Steps(), 0);
+    for (const auto event : {MoveScene, ReleaseScene}) {
+        DragWithoutRelease({{10, 10}, {12, 12}});
+        fail([&](Editor& e) { event(e, OnPage(13, 13)); });
+        EXPECT_TRUE(Layer(0).Image.SharesPixelsWith(before));
+        EXPECT_EQ(Steps(), 0);
+    }
     // The undo step of a slider was taken at the press.
     Do(PressOpacity);
     Step(ChangeOpacity, 30);

@@ -59,14 +59,15 @@ TEST_F(ToolPalette, WhatEachButtonChooses) {
     EXPECT_EQ(Tools().InUse, Tool::Move);
 }
 
-TEST_F(ToolPalette, PopupsOpenWithTheirButton) {
+TEST_F(ToolPalette, PopupsOpenWithTheirButtonAndCloseWithTheSecondClick) {
     const struct {
         int Button;
         Popup Opened;
-    } clicks[] = {{5, Popup::FillBar},    {9, Popup::FillBar}, {2, Popup::SelectionBar},
-                  {12, Popup::EraserBar}, {6, Popup::FillBar}, {4, Popup::None},
-                  {8, Popup::FillBar},    {11, Popup::None},   {7, Popup::FillBar},
-                  {1, Popup::None}};
+    } clicks[] = {{5, Popup::FillBar},    {5, Popup::None},         {5, Popup::FillBar},
+                  {9, Popup::FillBar},    {2, Popup::SelectionBar}, {2, Popup::None},
+                  {12, Popup::EraserBar}, {12, Popup::None},        {6, Popup::FillBar},
+                  {4, Popup::None},       {8, Popup::FillBar},      {11, Popup::None},
+                  {7, Popup::FillBar},    {1, Popup::None}};
     for (const auto& c : clicks) {
         Do(ClickToolButton, c.Button);
         EXPECT_EQ(Tools().OpenPopup, c.Opened) << &c - clicks;

@@ -28,8 +28,8 @@
 #include "editing/tool_palette.h"
 #include "editing/undo_commands.h"
 #include "editing/view_commands.h"
-#include "faults/editor_account.h"
 #include "faults/injection.h"
+#include "support/editor_account.h"
 #include "support/temporary_folder.h"
 
 namespace orbelle::testing {
@@ -52,7 +52,7 @@ Bitmap Picture(int width, int height, unsigned seed) {
     for (int y = 0; y < height; ++y) {
         for (int x = 0; x < width; ++x) {
             const unsigned alpha = x == 0 || y == 0 ? 0 : x > y ? 255 : x * 16;
-            picture.SetPixel(x, y, graphics::MakeARGB(alpha, x * 15, y * 15, seed * 50));
+            picture.SetPixel(x, y, graphics::MakeArgb(alpha, x * 15, y * 15, seed * 50));
         }
     }
     return picture;

@@ -43,7 +43,6 @@ TEST_F(ClipboardCommands, WithASelection) {
         {"cut", select + "cut",
          "clipboard/" + selected + ", " + rest +
              ", layers 2, 1/rect 1 1 4 3, selection null, undo 1"},
-        {"undo", select + "cut undo", "1@1,0 FF000001, 1@2,0 FF000002, selection null"},
         {"cutting ends a scale", "open wide.volf tool select-rectangle drag 2 0 3 1 cut",
          "1/rect 1 1 4 3, 1/image 4 3"},
         {"delete", select + "delete",
@@ -54,8 +53,6 @@ TEST_F(ClipboardCommands, WithASelection) {
          "2/" + selected + ", " + rest +
              ", layers 3, selected 2, 2/rect 2 0 2 2, 2/image 2 2, 2/opacity 0.5, 2/hue 0, "
              "2/region 0 1 4 3, page@2,1 80000001, selection null, slider/opacity 50, undo 2"},
-        {"undo", select + "tool move click 2 1 undo", "layers 2, 1@1,0 FF000001, undo 1"},
-        {"undo again", select + "tool move click 2 1 undo undo", "layers 2, undo 0"},
         {"out of the top layer when none is selected",
          "open dots.volf tool move click 7 7 tool select-rectangle drag 2 0 3 1 "
          "tool move click 2 1",
@@ -77,7 +74,6 @@ TEST_F(ClipboardCommands, WholeLayers) {
          "layers 2, selected 1, 1/rect 1 1 4 3, 1/region 0 1 4 3, slider/opacity 50, undo 5, "
          "1@3,2 FF000023"},
         {"cut takes the layer", "open dots.volf cut", "layers 1, undo 1, clipboard/size 4 3"},
-        {"undo", "open dots.volf cut paste undo", "layers 1, undo 1"},
         {"its sliders come with it", "open dots.volf brightness 50 contrast 80 copy paste",
          "2/contrast 80, slider/contrast 80"},
         {"above the selected one", "open dots.volf copy select 0 paste",

@@ -50,9 +50,6 @@ TEST_F(HandOnTheScene, DragsAndKeysMoveALayer) {
         {"one step, the region comes along", "open small.volf drag 11 6 14 8 16 9",
          "0/rect 15 8 4 3, 0/region 14 8 4 3, page@15,8 FF336699, page@10,5 00000000, undo 1, "
          "modified true"},
-        {"undo", "open small.volf drag 11 6 16 9 undo",
-         "0/rect 10 5 4 3, 0/region 9 5 4 3, redo 1"},
-        {"redo", "open small.volf drag 11 6 16 9 undo redo", "0/rect 15 8 4 3"},
         {"back to the start is no step", "open small.volf drag 11 6 20 20 11 6",
          "0/rect 10 5 4 3, undo 0"},
         {"zoomed", "open small.volf zoom 20 drag 11 6 9 7", "0/rect 8 6 4 3, 0/region 7 6 4 3"},

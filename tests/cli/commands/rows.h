@@ -43,8 +43,8 @@ protected:
     RowsTest();
     ~RowsTest() override;
 
-    // Each row in a workspace of its own. What it leaves must be what a composition from nothing
-    // gives, and come back when all steps are undone and done again.
+    // Each row in a workspace of its own. The page must be what a composition from nothing gives,
+    // and the steps lead back to where they began and to their end again.
     void Check(const std::vector<Row>& rows);
     void Check(const Row& row);
 
@@ -61,9 +61,6 @@ private:
 
 // Runs the verbs; the text of the failure, empty when there is none.
 std::string RunScript(Workspace& workspace, const std::string& script);
-
-// The document and the pixels of all layers and of the page in one text, for comparisons.
-std::string Everything(const editing::Editor& editor);
 
 // All pixels, row by row.
 std::string Argbs(const graphics::Bitmap& picture);

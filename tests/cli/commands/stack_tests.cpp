@@ -55,8 +55,6 @@ TEST_F(StackCommands, OrderFlipAndTurn) {
         {"turn and mirror", "open abc.volf rotate cww",
          "0/argb FF00000A FF00000D FF00000B FF00000E 0000000C FF00000F, 0/size 2 3, undo 1, "
          "0/rect 10 20 3 2, 0/image 3 2, 0/runs 20-21: 9-10; 22: 10"},
-        {"undo", "open abc.volf rotate cw undo",
-         "0/argb FF00000A FF00000B 0000000C FF00000D FF00000E FF00000F, 0/size 3 2, redo 1"},
     });
 }
 
@@ -82,8 +80,6 @@ TEST_F(StackCommands, DeleteHideAndMerge) {
          "1/scale 0, 1/hue 0, slider/opacity 100, undo 3, 1/region 0 -1 2 4, "
          "1/argb 00000000 80C0A010 80C0A010 00000000 80C0A010 80C0A010 "
          "80204060 C08B802B 80C0A010 80204060 80204060 00000000"},
-        {"undo", "open merge.volf merge undo", "layers 3, 1/opacity 0.5, selected 2, undo 1"},
-        {"undo again", "open merge.volf merge undo undo", "layers 3, selected 2, undo 0"},
         {"a hidden layer below is seen again",
          "open merge.volf select 1 toggle-visible select 2 merge", "1/visible true, undo 2"},
         {"a layer merged with an empty one can be picked",

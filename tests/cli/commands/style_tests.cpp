@@ -152,7 +152,6 @@ TEST_F(StyleCommands, AdjustmentsStartFromThePress) {
          "0/rect 0 0 20 16, 0/size 20 16, 0/image 20 16, 0/base_rect 0 0 20 16, 0/scale 0, "
          "0@0,0 C0336699, 0@19,15 C0336699, 0/region -1 0 20 16, slider/scale 50, undo 1"},
         {"a tall one", "new 4 8 scale 58", "0/rect 0 0 8 16, 0/size 8 16"},
-        {"undo", open + "scale 60 undo", "0/rect 0 0 10 8, 0/size 10 8, slider/scale 50"},
         // 8 / 10 of 5 is 4 at first; the second step reads the ratio of 15 to 12.
         {"scaled away", open + "scale 55 40", "0/rect 0 0 0 0, 0/image 0 0, 0/size 10 8"},
     });

@@ -1,4 +1,4 @@
-#include "faults/editor_account.h"
+#include "support/editor_account.h"
 
 #include <cstdint>
 #include <sstream>
@@ -49,7 +49,7 @@ std::ostream& operator<<(std::ostream& out, const document::IconLayer& layer) {
 }
 
 std::ostream& operator<<(std::ostream& out, const document::Page& page) {
-    out << page.Width << 'x' << page.Height << " selected " << page.SelectedLayer << '\n';
+    out << "selected " << page.SelectedLayer << '\n';
     for (const document::IconLayer& layer : page.Layers)
         out << "  layer " << layer << '\n';
     return out;
@@ -81,11 +81,18 @@ std::string AccountOf(const graphics::Bitmap& picture) {
     return out.str();
 }
 
+std::string AccountOf(const document::Page& page) {
+    std::ostringstream out;
+    out << page;
+    return out.str();
+}
+
 std::string AccountOf(const editing::Editor& editor) {
     std::ostringstream out;
     out << std::boolalpha << "document " << editor.DocumentExists << ' ' << editor.Document.Path
         << " modified " << editor.Document.Modified << " background " << editor.Document.Background
-        << " title " << editor.Title << "\npage " << editor.Document.Master;
+        << " title " << editor.Title << "\npage " << editor.Page().Width << 'x'
+        << editor.Page().Height << ' ' << editor.Page();
     TellHistory(out, editor.History, editor.Document);
 
     out << "selection " << editor.Selection.Exists() << ' ' << editor.Selection.Region();

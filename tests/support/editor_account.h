@@ -16,4 +16,7 @@ std::string AccountOfPictures(const editing::Editor& editor);
 
 std::string AccountOf(const graphics::Bitmap& picture);
 
+// The layers and which is selected.
+std::string AccountOf(const document::Page& page);
+
 }  // namespace orbelle::testing
