@@ -22,8 +22,8 @@ using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
 constexpr int kOldSide = 16, kNextSide = 7;
-constexpr formats::ExportFormat kPng = formats::kExportFormats[1];
-constexpr formats::ExportFormat kGif = formats::kExportFormats[2];
+constexpr const ExportEntry& kPng = kExportEntries[1];
+constexpr const ExportEntry& kGif = kExportEntries[2];
 
 // An editor and its user, without a window: answers from its fields, and notes in `Told` what was
 // asked and told.
@@ -237,10 +237,10 @@ TEST_F(AskCommandsTest, ARefusedOrFailedSaveAsLeavesPathAndTitle) {
 TEST_F(AskCommandsTest, AnExportWritesOnlyWhatMayBeOverwritten) {
     Desk desk;
     Change(desk);
-    const auto exportTo = [&](const fs::path& path, const formats::ExportFormat& format) {
+    const auto exportTo = [&](const fs::path& path, const ExportEntry& entry) {
         desk.Told.clear();
         desk.ToWrite = path;
-        AskExport(desk.Context, format);
+        AskExport(desk.Context, entry);
         return desk.Told;
     };
     EXPECT_THAT(exportTo({}, kPng), ElementsAre("write?"));
