@@ -10,7 +10,6 @@
 #include "editing/undo_commands.h"
 #include "editing/view_commands.h"
 #include "editing_fixture.h"
-#include "failing_memory.h"
 
 namespace orbelle::editing {
 namespace {
@@ -200,29 +199,6 @@ TEST_F(RunTest, AFailureLeavesEverythingAsItWas) {
     EXPECT_EQ(editor.History.RedoCount(), 0);
     Do(Undo);
     EXPECT_EQ(StackText(editor.Page()), stacks[2]);
-}
-
-// The memory runs out at one place after the other.
-TEST_F(RunTest, RunningOutOfMemoryLeavesEverythingAsItWas) {
-    for (const NamedCommand& command : AllCommands()) {
-        SCOPED_TRACE(command.Name);
-        Open();
-        MakeHistory();
-        const std::string before = StateText(editor);
-        for (int allocations = 0;; ++allocations) {
-            const Command starved = [&](Editor& e) {
-                testing::FailAllocation(allocations);
-                command.Run(e);
-            };
-            const Outcome outcome = editing::Run(editor, starved);
-            if (!testing::HasAllocationFailed())
-                break;
-            ASSERT_TRUE(outcome.Failed()) << allocations;
-            ASSERT_EQ(StateText(editor), before) << allocations;
-            ASSERT_FALSE(IsDragging());
-        }
-        Stacks();
-    }
 }
 
 }  // namespace
