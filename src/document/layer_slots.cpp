@@ -35,8 +35,8 @@ void MakeImageLayer(const Page& page, IconLayer& layer, const graphics::Bitmap& 
     layer.Image = CopyBitmap(image, image.Width(), image.Height());
     layer.ImageWidth = image.Width();
     layer.ImageHeight = image.Height();
-    layer.Rect = {static_cast<float>((page.Width - image.Width()) / 2),
-                  static_cast<float>((page.Height - image.Height()) / 2),
+    const int left = (page.Width - image.Width()) / 2, top = (page.Height - image.Height()) / 2;
+    layer.Rect = {static_cast<float>(left), static_cast<float>(top),
                   static_cast<float>(image.Width()), static_cast<float>(image.Height())};
     layer.BaseRect = layer.Rect;
     filters::RebuildRegion(region, image, {layer.Rect.X, layer.Rect.Y});

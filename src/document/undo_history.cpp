@@ -84,7 +84,8 @@ void UndoHistory::RollBack(const Place& place) noexcept {
         std::ranges::move(dropped_, std::back_inserter(slots_));
         dropped_.clear();
     }
-    const auto kept = static_cast<std::size_t>(place.UndoIndex + place.RedoCount + 1);
+    const auto kept =
+        static_cast<std::size_t>(place.UndoIndex) + static_cast<std::size_t>(place.RedoCount) + 1;
     slots_.resize(std::min(slots_.size(), kept));
     place_ = place;
 }

@@ -13,7 +13,6 @@ namespace orbelle::editing {
 
 using document::IconLayer;
 using graphics::Bitmap;
-using graphics::RectF;
 using graphics::RectI;
 
 namespace {

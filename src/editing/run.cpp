@@ -90,7 +90,7 @@ Outcome Execute(Editor& editor, const Command& command) {
     const Overlays overlays = editor.Overlays;
     // A drag was given up, or there was no memory to paint in.
     const bool unpainted = std::exchange(editor.Changed.Pixels, false);
-    const Outcome outcome = Attempt([&] {
+    Outcome outcome = Attempt([&] {
         before = editor;
         hasBegun = true;
         // The command may read the canvas.

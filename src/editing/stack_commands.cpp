@@ -22,25 +22,24 @@ void ShowStack(Editor& editor) {
     NoteStack(editor.Changed);
 }
 
+int PlaceAfter(LayerOrder order, int from, int top) {
+    switch (order) {
+        case LayerOrder::ToFront:
+            return top;
+        case LayerOrder::ToBack:
+            break;
+        case LayerOrder::BackOne:
+            return std::max(from - 1, 0);
+        case LayerOrder::ForwardOne:
+            return std::min(from + 1, top);
+    }
+    return 0;
+}
+
 void MoveLayer(document::Page& page, LayerOrder order) {
     const auto first = page.Layers.begin();
     const int from = page.SelectedLayer;
-    const int top = page.LayerCount() - 1;
-    int to = from;
-    switch (order) {
-        case LayerOrder::ToFront:
-            to = top;
-            break;
-        case LayerOrder::ToBack:
-            to = 0;
-            break;
-        case LayerOrder::BackOne:
-            to = std::max(from - 1, 0);
-            break;
-        case LayerOrder::ForwardOne:
-            to = std::min(from + 1, top);
-            break;
-    }
+    const int to = PlaceAfter(order, from, page.LayerCount() - 1);
     if (to > from)
         std::rotate(first + from, first + from + 1, first + to + 1);
     else
