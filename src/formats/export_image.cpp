@@ -57,6 +57,7 @@ void ExportIcon(const fs::path& path, const Bitmap& page, const ExportSettings& 
     if (sizes.empty())
         return;
     std::vector<Bitmap> pictures;
+    pictures.reserve(sizes.size());
     for (int size : sizes)
         pictures.push_back(DrawIconPicture(page, size));
     graphics::WriteFile(path, EncodeIcon(pictures, settings.IconPictures));
