@@ -54,8 +54,9 @@ TEST(AntialiasEdge, NeverChangesAPixelThatIsNotTransparent) {
         graphics::Bitmap after = before;
         AntialiasEdge(after);
         for (int i = 0; i < width * height; ++i)
-            if (graphics::AlphaOf(before.Pixels()[i]) != 0)
+            if (graphics::AlphaOf(before.Pixels()[i]) != 0) {
                 ASSERT_EQ(after.Pixels()[i], before.Pixels()[i]);
+            }
     }
 }
 
