@@ -65,9 +65,13 @@ TEST_F(Commands, DoNothingWithoutASelectedLayer) {
 TEST_F(Commands, OrderOfOneLayerIsNoStepAndOneWithoutRoomIsOne) {
     Do(SetLayerOrder, LayerOrder::ToFront);
     EXPECT_EQ(Steps(), 1);
+    Layer(1).ScaleValue = 9;
+    Do(MergeDown);
+    EXPECT_EQ(Layer(1).ScaleValue, 0);
+    EXPECT_EQ(Steps(), 3);
     Do(SelectLayer, 0);
     Do(MergeDown);
-    EXPECT_EQ(Steps(), 1);
+    EXPECT_EQ(Steps(), 3);
     OpenPage(8, 8);
     Do(SetLayerOrder, LayerOrder::ToFront);
     EXPECT_EQ(Steps(), 0);
@@ -124,6 +128,18 @@ TEST_F(Commands, SlidersHaveLabels) {
     EXPECT_EQ(Layer(0).Opacity, 1);
 }
 
+// Also those of a drag that undo gives up.
+TEST_F(Commands, RedoShowsTheSlidersAsTheyStoodAtUndo) {
+    Do(PressAdjustment);
+    Step(ChangeAdjustment, Adjustment::Hue, 70);
+    Do(Undo);
+    EXPECT_EQ(editor.Sliders.Hue.Value, 0);
+    Do(Redo);
+    EXPECT_EQ(Layer(2).Hue, 70);
+    EXPECT_EQ(editor.Sliders.Hue.Value, 70);
+    EXPECT_EQ(editor.Sliders.Hue.Label, 70);
+}
+
 TEST_F(Commands, AnotherProgramsPictureArrivesOpaqueAtThePagesCorner) {
     Do(CopyToClipboard);
     EXPECT_EQ(recorder.Mark, "Orbelle");
@@ -149,6 +165,19 @@ TEST_F(Commands, AnotherProgramsPictureArrivesOpaqueAtThePagesCorner) {
     recorder.Put(row, kClipboardMark);
     Do(PasteFromClipboard);
     EXPECT_EQ(Layer(4).Image.GetPixel(0, 0), 0xFF8F9FAF);
+}
+
+TEST_F(Commands, AnOpenedDocumentLargerThanTheSceneHasScrollBars) {
+    const testing::TemporaryFolder folder;
+    OpenPage(300, 150);
+    Do(SaveTo, folder / "a.volf");
+    Do([&](Editor& e) { OpenFile(e, folder / "a.volf"); });
+    const document::View& view = editor.View;
+    EXPECT_TRUE(view.HorizontalScroll.Visible);
+    EXPECT_EQ(view.HorizontalScroll.Max, 100);
+    EXPECT_EQ(view.HorizontalScroll.Value, 50);
+    EXPECT_EQ(view.HorizontalScroll.LargeChange, 100);
+    EXPECT_FALSE(view.VerticalScroll.Visible);
 }
 
 TEST_F(Commands, ADamagedDocumentOpensWithTheLayersBeforeTheDamage) {

@@ -75,7 +75,8 @@ TEST_F(StackCommands, DeleteHideAndMerge) {
          "3/visible true, page@3,0 66204060"},
         // Alpha 0.5 x 255 rounds to 128; both at once: R = 255 x 128 + 128 x 127 = 48896, which is
         // 192 x 255, and red is (255 x 128 x 192 + 128 x 127 x 32) / R = 139.
-        {"both layers in the box of both, in two steps", "open merge.volf hue 0 merge",
+        {"both layers in the box of both, in two steps",
+         "open merge.volf select 1 hue 100 select 2 merge",
          "layers 2, selected 1, 1/rect 1 -1 3 4, 1/base_rect 1 -1 3 4, 1/image 3 4, 1/opacity 1, "
          "1/scale 0, 1/hue 0, slider/opacity 100, undo 3, 1/region 0 -1 2 4, "
          "1/argb 00000000 80C0A010 80C0A010 00000000 80C0A010 80C0A010 "
