@@ -37,20 +37,26 @@ std::vector<Call> ParseScriptFile(const std::string& name) {
 
 int main(int argc, char** argv) {
     std::ios::sync_with_stdio(false);
-    CLI::App app(
-        "The icon editor without a window:\n"
-        "  orbelle-cli VERB [ARG...] [VERB [ARG...]]...\n"
-        "  orbelle-cli --script FILE\n",
-        "orbelle-cli");
-    app.set_version_flag("--version", "orbelle-cli " ORBELLE_VERSION);
-    std::string script;
-    app.add_option("--script", script, "Read the verbs from FILE, one a line; '-': standard input")
-        ->type_name("FILE");
-    app.footer([] { return "Verbs, run in order:" + VerbHelp(); });
-    // From the first word that is no option on, all words belong to verbs, whatever they look like.
-    app.prefix_command();
     try {
-        app.parse(argc, argv);
+        CLI::App app(
+            "The icon editor without a window:\n"
+            "  orbelle-cli VERB [ARG...] [VERB [ARG...]]...\n"
+            "  orbelle-cli --script FILE\n",
+            "orbelle-cli");
+        app.set_version_flag("--version", "orbelle-cli " ORBELLE_VERSION);
+        std::string script;
+        app.add_option("--script", script,
+                       "Read the verbs from FILE, one a line; '-': standard input")
+            ->type_name("FILE");
+        app.footer([] { return "Verbs, run in order:" + VerbHelp(); });
+        // From the first word that is no option on, all words belong to verbs, whatever they look
+        // like.
+        app.prefix_command();
+        try {
+            app.parse(argc, argv);
+        } catch (const CLI::Success& help) {
+            return app.exit(help);
+        }
         const std::vector<std::string> words = app.remaining();
         if (words.empty() == script.empty())
             throw UsageError("either verbs or --script FILE are needed; see orbelle-cli --help");
@@ -58,8 +64,6 @@ int main(int argc, char** argv) {
             script.empty() ? ParseCalls(words) : ParseScriptFile(script);
         Workspace workspace(std::cout);
         RunCalls(calls, workspace);
-    } catch (const CLI::Success& help) {
-        return app.exit(help);
     } catch (const CLI::ParseError& error) {
         return Report(error, kWrongUsage);
     } catch (const UsageError& error) {
