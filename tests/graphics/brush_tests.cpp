@@ -1,9 +1,8 @@
-#include "graphics/detail/path_gradient.h"
+#include "graphics/brush.h"
 
 #include <gmock/gmock.h>
 
 #include <cmath>
-#include <limits>
 
 #include "graphics/drawing_context.h"
 #include "support/pictures.h"
@@ -13,10 +12,10 @@
 namespace orbelle::graphics {
 namespace {
 
-using testing::AlphaRow;
 using ::testing::Each;
 using ::testing::ElementsAre;
 using testing::EllipsePath;
+using ::testing::IsEmpty;
 using testing::RectanglePath;
 
 // Opaque in the centre, gone at the outline: alpha is 255 (1 - t), rounded.
@@ -33,23 +32,27 @@ Bitmap FilledWith(const Brush& brush, PixelOffsetMode offset = PixelOffsetMode::
     return bitmap;
 }
 
+// Up to the last pixel that is painted.
+std::vector<int> Alphas(const Bitmap& bitmap, int y) {
+    std::vector<int> alphas = testing::AlphaRow(bitmap, y);
+    while (!alphas.empty() && alphas.back() == 0)
+        alphas.pop_back();
+    return alphas;
+}
+
 TEST(PathGradient, LinesOfEqualColorInARectangleAreRectangles) {
     const Brush brush = Fading(RectanglePath({0, 0, 8, 8}), {4, 4});
     // With half, t is 0.875, 0.625, 0.375, 0.125 from the outline inwards.
     const Bitmap half = FilledWith(brush, PixelOffsetMode::HighQuality);
     for (int y : {0, 7})
-        EXPECT_THAT(AlphaRow(half, y),
-                    ElementsAre(32, 32, 32, 32, 32, 32, 32, 32, 0, 0, 0, 0, 0, 0, 0, 0));
+        EXPECT_THAT(Alphas(half, y), ElementsAre(32, 32, 32, 32, 32, 32, 32, 32));
     for (int y : {3, 4})
-        EXPECT_THAT(AlphaRow(half, y),
-                    ElementsAre(32, 96, 159, 223, 223, 159, 96, 32, 0, 0, 0, 0, 0, 0, 0, 0));
+        EXPECT_THAT(Alphas(half, y), ElementsAre(32, 96, 159, 223, 223, 159, 96, 32));
     // With none it is 1, 0.75, ..., 0 in the centre, ..., 0.75.
     const Bitmap none = FilledWith(brush);
-    EXPECT_THAT(AlphaRow(none, 0), Each(0));
-    EXPECT_THAT(AlphaRow(none, 2),
-                ElementsAre(0, 64, 128, 128, 128, 128, 128, 64, 0, 0, 0, 0, 0, 0, 0, 0));
-    EXPECT_THAT(AlphaRow(none, 4),
-                ElementsAre(0, 64, 128, 191, 255, 191, 128, 64, 0, 0, 0, 0, 0, 0, 0, 0));
+    EXPECT_THAT(Alphas(none, 0), IsEmpty());
+    EXPECT_THAT(Alphas(none, 2), ElementsAre(0, 64, 128, 128, 128, 128, 128, 64));
+    EXPECT_THAT(Alphas(none, 4), ElementsAre(0, 64, 128, 191, 255, 191, 128, 64));
 }
 
 TEST(PathGradient, ColorsAreMixedByTheirAlphaAlongTheRay) {
@@ -57,10 +60,9 @@ TEST(PathGradient, ColorsAreMixedByTheirAlphaAlongTheRay) {
     const auto brush =
         CreatePathGradientFromPath(RectanglePath({0, 0, 8, 8}), 0x40FF0000, {2, 4}, 0xC00000FF);
     const Bitmap bitmap = FilledWith(*brush);
-    EXPECT_EQ(bitmap.GetPixel(2, 4), 0x40FF0000U);
-    EXPECT_EQ(bitmap.GetPixel(1, 4), 0x804000BFU);
-    EXPECT_EQ(bitmap.GetPixel(5, 4), 0x804000BFU);
-    EXPECT_EQ(bitmap.GetPixel(0, 4), 0xC00000FFU);
+    for (const auto& [x, color] :
+         {std::pair{2, 0x40FF0000u}, {1, 0x804000BF}, {5, 0x804000BF}, {0, 0xC00000FF}})
+        EXPECT_EQ(bitmap.GetPixel(x, 4), color) << x;
 }
 
 TEST(PathGradient, ACirclePaintsItsOwnPixelsByTheirDistance) {
@@ -72,10 +74,10 @@ TEST(PathGradient, ACirclePaintsItsOwnPixelsByTheirDistance) {
     EXPECT_EQ(PixelRuns(graded), PixelRuns(plain)) << "nothing beyond the outline, no gap inside";
     for (int y = 0; y < 128; ++y) {
         for (int x = 0; x < 128; ++x) {
-            const Argb color = *graded.GetPixel(x, y);
-            if (color == 0)
-                continue;
-            ASSERT_NEAR(BlueOf(color), std::hypot(x - 60, y - 62) * 255 / 50, 1) << x << ", " << y;
+            if (graded.Row(y)[x] != 0) {
+                const double distance = std::hypot(x - 60, y - 62);
+                ASSERT_NEAR(BlueOf(graded.Row(y)[x]), distance * 255 / 50, 1) << x << ", " << y;
+            }
         }
     }
 }
@@ -83,18 +85,15 @@ TEST(PathGradient, ACirclePaintsItsOwnPixelsByTheirDistance) {
 TEST(PathGradient, PartsAndSoftEdgesTakeTheColorsOfTheirPixels) {
     const Brush brush = Fading(EllipsePath({1, 1, 13, 12}), {5, 6});
     const Bitmap whole = FilledWith(brush, PixelOffsetMode::HighQuality);
-    Bitmap part(16, 16);
-    DrawingContext context(part);
+    Bitmap part(16, 16), soft(16, 16);
+    DrawingContext context(part), smooth(soft);
     context.SetPixelOffsetMode(PixelOffsetMode::HighQuality);
     context.FillRectangle(brush, {3, 2, 6, 5});
     for (int y = 0; y < 16; ++y)
         for (int x = 0; x < 16; ++x)
-            EXPECT_EQ(part.GetPixel(x, y),
-                      x >= 3 && x < 9 && y >= 2 && y < 7 ? whole.GetPixel(x, y) : 0U);
+            EXPECT_EQ(part.Row(y)[x], x >= 3 && x < 9 && y >= 2 && y < 7 ? whole.Row(y)[x] : 0U);
 
     // The outer pixels are half covered, in the corners a quarter.
-    Bitmap soft(16, 16);
-    DrawingContext smooth(soft);
     smooth.SetPixelOffsetMode(PixelOffsetMode::HighQuality);
     smooth.SetSmoothingMode(SmoothingMode::AntiAlias);
     smooth.FillPath(brush, RectanglePath({4.5f, 4.5f, 4, 4}));
@@ -105,14 +104,11 @@ TEST(PathGradient, PartsAndSoftEdgesTakeTheColorsOfTheirPixels) {
 }
 
 TEST(PathGradient, ACentreOutsideSeesTheFarEdge) {
-    const Brush brush = Fading(RectanglePath({4, 0, 4, 4}), {0, 2});
-    const Bitmap bitmap = FilledWith(brush);
-    EXPECT_THAT(AlphaRow(bitmap, 2),
-                ElementsAre(0, 0, 0, 0, 128, 96, 64, 32, 0, 0, 0, 0, 0, 0, 0, 0));
+    const Bitmap bitmap = FilledWith(Fading(RectanglePath({4, 0, 4, 4}), {0, 2}));
     // Rays to the upper edge (y = 0) have covered half their way at y = 1.
-    EXPECT_THAT(AlphaRow(bitmap, 1),
-                ElementsAre(0, 0, 0, 0, 128, 96, 64, 32, 0, 0, 0, 0, 0, 0, 0, 0));
-    EXPECT_THAT(AlphaRow(bitmap, 4), Each(0));
+    for (int y : {1, 2})
+        EXPECT_THAT(Alphas(bitmap, y), ElementsAre(0, 0, 0, 0, 128, 96, 64, 32));
+    EXPECT_THAT(Alphas(bitmap, 4), IsEmpty());
 }
 
 TEST(PathGradient, OfSeveralEdgesOnARayTheLastOneCounts) {
@@ -120,28 +116,45 @@ TEST(PathGradient, OfSeveralEdgesOnARayTheLastOneCounts) {
     Path path = RectanglePath(nearer);
     path.AddRectangle(farther);
     // The farther one's left edge, at 8, is the last of all; its right edge is at 11.
-    EXPECT_THAT(AlphaRow(FilledWith(Fading(path, {0, 2})), 2),
-                ElementsAre(0, 0, 0, 0, 128, 96, 64, 0, 70, 46, 23, 0, 0, 0, 0, 0));
+    EXPECT_THAT(Alphas(FilledWith(Fading(path, {0, 2})), 2),
+                ElementsAre(0, 0, 0, 0, 128, 96, 64, 0, 70, 46, 23));
     path = RectanglePath(farther);
     path.AddRectangle(nearer);
     // Now the nearer one's right edge, at 7, comes after.
-    EXPECT_THAT(AlphaRow(FilledWith(Fading(path, {0, 2})), 2),
-                ElementsAre(0, 0, 0, 0, 109, 73, 36, 0, 70, 46, 23, 0, 0, 0, 0, 0));
+    EXPECT_THAT(Alphas(FilledWith(Fading(path, {0, 2})), 2),
+                ElementsAre(0, 0, 0, 0, 109, 73, 36, 0, 70, 46, 23));
 }
 
 TEST(PathGradient, NothingComesOfAnEmptyOrHostilePath) {
     EXPECT_FALSE(CreatePathGradientFromPath(Path(), 0, {}, 0));
     EXPECT_FALSE(CreatePathGradientFromPath(RectanglePath({1, 1, 0, 5}), 0, {}, 0));
-    constexpr float infinity = std::numeric_limits<float>::infinity();
-    const Brush blank[] = {
-        Fading(EllipsePath({4, 4, 0, 0}), {4, 4}),
-        Fading(EllipsePath({4, 4, infinity, 5}), {4, 4}),
-        Fading(EllipsePath({4, 4, 5, 5}), {std::nanf(""), 4}),
-    };
-    for (const Brush& brush : blank)
-        EXPECT_EQ(PixelRuns(FilledWith(brush, PixelOffsetMode::HighQuality)), "");
+    for (const PathGradientBrush& blank : {Fading(EllipsePath({4, 4, 0, 0}), {4, 4}),
+                                           Fading(EllipsePath({4, 4, INFINITY, 5}), {4, 4}),
+                                           Fading(EllipsePath({4, 4, 5, 5}), {NAN, 4})})
+        EXPECT_EQ(PixelRuns(FilledWith(blank, PixelOffsetMode::HighQuality)), "");
     const Brush huge = Fading(RectanglePath({-1e30f, -1e30f, 2e30f, 2e30f}), {4, 4});
-    EXPECT_THAT(AlphaRow(FilledWith(huge, PixelOffsetMode::HighQuality), 9), Each(255));
+    EXPECT_THAT(testing::AlphaRow(FilledWith(huge, PixelOffsetMode::HighQuality), 9), Each(255));
+}
+
+TEST(LineBrush, ColorsAreMixedByTheirAlpha) {
+    const LinearGradientBrush fromNothing{{0, 0, 10, 10}, 0x00FF0000, 0xFF0000FF};
+    EXPECT_EQ(fromNothing.ColorAt(0, 0), 0u);
+    EXPECT_EQ(fromNothing.ColorAt(5, 0), 0x800000FFu);
+    const LinearGradientBrush soft{{0, 0, 10, 10}, 0x40FF0000, 0xC00000FF};
+    // A quarter of the weight is the red end's: 255 x 64 / (64 + 192) = 63.75.
+    EXPECT_EQ(soft.ColorAt(5, 0), 0x804000BFu);
+}
+
+TEST(LineBrush, GoesToAndFroOutsideTheRectangle) {
+    const LinearGradientBrush brush{{10, 0, 10, 10}, 0xFF000000, 0xFF0000FF};
+    const std::pair<double, unsigned> cases[] = {{12, 51}, {20, 255}, {22, 204}, {30, 0},
+                                                 {32, 51}, {8, 51},   {-2, 204}};
+    for (const auto& [x, blue] : cases)
+        EXPECT_EQ(BlueOf(brush.ColorAt(x, 3)), blue) << x;
+    EXPECT_FALSE(CreateLineBrushFromRect({1, 1, 0, 5}, 0, 0, LinearGradientMode::Horizontal));
+    EXPECT_FALSE(CreateLineBrushFromRect({1, 1, 5, 0}, 0, 0, LinearGradientMode::Horizontal));
+    const LinearGradientBrush flat{{10, 0, 0, 0}, 0xFF112233, 0xFF0000FF};
+    EXPECT_EQ(flat.ColorAt(11, 3), 0xFF112233u);
 }
 
 }  // namespace

@@ -3,7 +3,6 @@
 #include <gmock/gmock.h>
 
 #include "graphics/decoding.h"
-#include "graphics/errors.h"
 #include "graphics/file_io.h"
 
 namespace orbelle::graphics {
