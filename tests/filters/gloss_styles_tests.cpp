@@ -37,6 +37,8 @@ TEST(CrystalStyle, IsACapThatFadesFromTheTopAPixelInsideTheEdge) {
     // The ellipse takes the middle away below row 30, not the left end.
     EXPECT_EQ(gloss->Image.GetPixel(85, 36), 0U);
     EXPECT_NE(gloss->Image.GetPixel(3, 36), 0U);
+    // Half of 7 is 3: 75 - 45 sqrt(1 - (7.5 / 10.5)^2) = 43.5.
+    EXPECT_EQ(CrystalStyle(FilledPicture(7, 90, 0xFF204060))->Height, 44);
 }
 
 TEST(CrystalStyle, WithoutASolidBodyThereIsNoGloss) {

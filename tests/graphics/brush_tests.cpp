@@ -63,6 +63,10 @@ TEST(PathGradient, ColorsAreMixedByTheirAlphaAlongTheRay) {
     for (const auto& [x, color] :
          {std::pair{2, 0x40FF0000u}, {1, 0x804000BF}, {5, 0x804000BF}, {0, 0xC00000FF}})
         EXPECT_EQ(bitmap.GetPixel(x, 4), color) << x;
+    // A sixth of the way: 42.5, which takes a place looked up to the nearest.
+    const Brush sixth =
+        *CreatePathGradientFromPath(RectanglePath({0, 0, 12, 12}), 0xFF000000, {6, 6}, 0xFF0000FF);
+    EXPECT_EQ(FilledWith(sixth).GetPixel(7, 6), 0xFF00002BU);
 }
 
 TEST(PathGradient, ACirclePaintsItsOwnPixelsByTheirDistance) {
