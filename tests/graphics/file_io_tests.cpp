@@ -3,7 +3,8 @@
 #include <gmock/gmock.h>
 #include <unistd.h>
 
-#include "graphics/errors.h"
+#include "graphics/codecs/image_files.h"
+#include "support/pictures.h"
 #include "support/temporary_folder.h"
 
 namespace orbelle::graphics {
@@ -83,6 +84,20 @@ TEST_F(FileIo, AReadOnlyFileIsNotReplaced) {
     EXPECT_THAT([&] { WriteFile(file, kNew); },
                 ThrowsMessage<FileError>(EndsWith(": Permission denied")));
     EXPECT_EQ(ReadFile(file), kOld);
+}
+
+TEST_F(FileIo, APictureIsToldByItsContentAndNamedWhenItFails) {
+    const fs::path path = folder_ / "picture.bmp";
+    WriteFile(path, EncodePng(testing::RowOf({0x80102030})));
+    EXPECT_EQ(LoadImageFromFile(path).GetPixel(0, 0), Argb{0x80102030});
+    for (const FileBytes& other :
+         {FileBytes{}, FileBytes{'B'}, FileBytes{0x89, 'P', 'N', 'G'}, FileBytes{0xFF, 0xD8},
+          FileBytes{'G', 'I', 'F', '9', '9'}, FileBytes(100, 0)}) {
+        WriteFile(path, other);
+        EXPECT_THAT(
+            [&] { LoadImageFromFile(path); },
+            ThrowsMessage<FileError>(path.string() + ": not a PNG, JPEG, GIF or BMP picture"));
+    }
 }
 
 }  // namespace
