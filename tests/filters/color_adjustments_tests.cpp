@@ -40,10 +40,8 @@ Bitmap EveryRedAndSum() {
 
 template <class Rule>
 Bitmap PixelByPixel(Bitmap picture, Rule rule) {
-    for (int y = 0; y < picture.Height(); ++y) {
-        Argb* row = picture.MutableRow(y);
-        std::transform(row, row + picture.Width(), row, rule);
-    }
+    Argb* pixels = picture.MutablePixels();
+    std::transform(pixels, picture.MutableRow(picture.Height()), pixels, rule);
     return picture;
 }
 
@@ -69,9 +67,9 @@ TEST(ColorAdjustments, HueExchangesAndMixesInSevenSectors) {
         {275, 0xFF42C807, 0xFF424207},  // -322 / 256 is -1
         {275, 0xFF43C907, 0xFF430007},  // -67 / 256 is 0
     };
-    for (const auto& [hue, color, expected] : cases)
-        EXPECT_EQ(Changed(color, [&](Bitmap& picture) { HueColor(picture, hue); }), expected)
-            << hue;
+    for (const auto& test : cases)
+        EXPECT_EQ(Changed(test.Color, [&](Bitmap& p) { HueColor(p, test.Hue); }), test.Expected)
+            << test.Hue;
 }
 
 // The channels exchanged in each sector, and the two that are mixed into the third.
@@ -123,9 +121,10 @@ TEST(ColorAdjustments, SaturationPullsToTheAverageAndPushesAway) {
         {0x80C86428, INT_MAX, 0x80FF0000},
         {0x80C86428, INT_MIN, 0x8000FFFF},
     };
-    for (const auto& [color, level, expected] : cases)
-        EXPECT_EQ(Changed(color, [&](Bitmap& p) { SaturationColor(p, level); }), expected)
-            << std::hex << color << ' ' << level;
+    for (const auto& test : cases)
+        EXPECT_EQ(Changed(test.Color, [&](Bitmap& p) { SaturationColor(p, test.Level); }),
+                  test.Expected)
+            << std::hex << test.Color << ' ' << test.Level;
 }
 
 TEST(ColorAdjustments, SaturationIsThatOfDoublesAtEverySliderPosition) {
@@ -163,10 +162,11 @@ TEST(ColorAdjustments, BrightnessStretchesAroundTheMiddleAndThenMoves) {
         {0x40FAF9FB, 1, -250, 0x40000001},  // 0, -1 limited, 1
         {0xFF659A80, 5, 10, 0xFF03FF8A},    // 3, 268 limited, 138
     };
-    for (const auto& [color, contrast, brightness, expected] : cases) {
-        const auto change = [&](Bitmap& p) { BrightnessColor(p, contrast, brightness); };
-        EXPECT_EQ(Changed(color, change), expected) << std::hex << color;
-    }
+    for (const auto& test : cases)
+        EXPECT_EQ(Changed(test.Color,
+                          [&](Bitmap& p) { BrightnessColor(p, test.Contrast, test.Brightness); }),
+                  test.Expected)
+            << std::hex << test.Color;
 }
 
 }  // namespace

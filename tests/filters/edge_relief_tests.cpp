@@ -24,8 +24,7 @@ public:
         : width_(std::min(image.Width(), width)), height_(std::min(image.Height(), height)) {
         Picture = Bitmap(width, height);
         graphics::DrawingContext(Picture).DrawImageRect(
-            image,
-            {1, 1, static_cast<float>(image.Width() - 2), static_cast<float>(image.Height() - 2)});
+            image, {1, 1, float(image.Width() - 2), float(image.Height() - 2)});
     }
 
     void Run() {

@@ -70,9 +70,9 @@ TEST_F(FileIo, FailuresNameTheFileAndTheReason) {
         {false, "/dev/null", ": not a regular file"},
         {false, large, ": larger than 256 MiB"},
     };
-    for (const auto& [writes, path, problem] : cases)
-        EXPECT_THAT([&] { writes ? WriteFile(path, kNew) : void(ReadFile(path)); },
-                    ThrowsMessage<FileError>(path.string() + problem));
+    for (const auto& test : cases)
+        EXPECT_THAT([&] { test.Writes ? WriteFile(test.Path, kNew) : void(ReadFile(test.Path)); },
+                    ThrowsMessage<FileError>(test.Path.string() + test.Problem));
 }
 
 TEST_F(FileIo, AReadOnlyFileIsNotReplaced) {

@@ -360,11 +360,11 @@ TEST(Resampling, ColumnsAddUpToLimitedStraightPixels) {
         {{7, 1, 7}, 0},  // alpha 0.4
         {{7, 0, 0}, 0},
     };
-    for (const auto& [taps, pixel] : cases) {
+    for (const auto& test : cases) {
         testing::WithEachInstructionSet([&] {
             Argb drawn = 1;
-            AddUpColumns(sums.data(), 7, {&taps, 1}, weights.data(), &drawn);
-            EXPECT_EQ(drawn, pixel) << taps.First << ", " << taps.Count << ", " << taps.Weights;
+            AddUpColumns(sums.data(), 7, {&test.Columns, 1}, weights.data(), &drawn);
+            EXPECT_EQ(drawn, test.Pixel) << test.Columns.Count << ", " << test.Columns.Weights;
         });
     }
 }

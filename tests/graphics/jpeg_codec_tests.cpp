@@ -66,10 +66,8 @@ FileBytes MakeJpeg(const JpegPicture& picture) {
 // Cells of 8 x 8 pixels, three across and two down: grey levels that spell abc / def.
 JpegPicture Letters() {
     JpegPicture picture = {.Width = 24, .Height = 16};
-    for (int y = 0; y < 16; ++y) {
-        for (int x = 0; x < 24; ++x)
-            picture.Samples.push_back(static_cast<std::uint8_t>((y / 8 * 3 + x / 8) * 50));
-    }
+    for (int i = 0; i < 24 * 16; ++i)
+        picture.Samples.push_back(static_cast<std::uint8_t>((i / 24 / 8 * 3 + i % 24 / 8) * 50));
     return picture;
 }
 
