@@ -53,10 +53,10 @@ TEST(AntialiasEdge, NeverChangesAPixelThatIsNotTransparent) {
         const graphics::Bitmap before = testing::RandomPicture(random, width, height);
         graphics::Bitmap after = before;
         AntialiasEdge(after);
-        for (int i = 0; i < width * height; ++i)
-            if (graphics::AlphaOf(before.Pixels()[i]) != 0) {
-                ASSERT_EQ(after.Pixels()[i], before.Pixels()[i]);
-            }
+        for (int i = 0; i < width * height; ++i) {
+            const graphics::Argb old = before.Pixels()[i];
+            ASSERT_EQ(graphics::AlphaOf(old) != 0 ? after.Pixels()[i] : old, old);
+        }
     }
 }
 

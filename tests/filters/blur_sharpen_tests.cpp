@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <climits>
 #include <cmath>
-#include <functional>
+#include <utility>
 
 #include "support/pictures.h"
 #include "support/random_pictures.h"
@@ -15,7 +15,7 @@ namespace {
 
 using graphics::Bitmap;
 using graphics::MakeArgb;
-using ::testing::ElementsAreArray;
+using ::testing::ElementsAre;
 using namespace testing;
 
 // The operations as they are told, a channel of a pixel at a time.
@@ -57,27 +57,17 @@ void PlainSharpen(Bitmap& image, int level) {
     }
 }
 
-struct Comparison {
-    const char* Name;
-    std::function<void(Bitmap&, int)> Fast, Plain;
-    std::vector<int> Levels;
-};
-
 TEST(BlurSharpen, AgreesWithThePlainForm) {
-    const Comparison comparisons[] = {
-        {"Soften", Soften, PlainSoften, {0, 1, 50, 85, 89, 90, 91, 99, 100}},
-        {"Sharpen", Sharpen, PlainSharpen, {0, 1, 50, 79, 80, 81, 99, 100}},
-    };
     std::mt19937 random(1);
-    for (const Comparison& comparison : comparisons) {
-        for (const int level : comparison.Levels) {
+    for (const auto& [filter, plainFilter] :
+         {std::pair(&Soften, &PlainSoften), {&Sharpen, &PlainSharpen}}) {
+        for (const int level : {0, 1, 50, 79, 80, 81, 85, 89, 90, 91, 99, 100}) {
             for (const auto& [width, height] : SizesToTry(random)) {
-                Bitmap fast = RandomPicture(random, width, height);
-                Bitmap plain = fast;
-                comparison.Fast(fast, level);
-                comparison.Plain(plain, level);
-                ASSERT_TRUE(SamePixels(fast, plain))
-                    << comparison.Name << " " << level << ": " << width << " x " << height;
+                Bitmap fast = RandomPicture(random, width, height), plain = fast;
+                filter(fast, level);
+                plainFilter(plain, level);
+                ASSERT_TRUE(SamePixels(fast, plain)) << (filter == &Soften ? "Soften " : "Sharpen ")
+                                                     << level << ": " << width << " x " << height;
             }
         }
     }
@@ -100,9 +90,8 @@ TEST(Soften, SpreadsIntoTransparentPixelsButNotAlongTheFallingDiagonal) {
     picture.SetPixel(1, 1, MakeArgb(255, 18, 6, 30));
     Soften(picture, kBlurLevel);
     const graphics::Argb tint = MakeArgb(0, 2, 0, 2);
-    const graphics::Argb expected[] = {0,    tint, tint, tint, MakeArgb(255, 18, 6, 30),
-                                       tint, tint, tint, 0};
-    EXPECT_THAT(PixelsOf(picture), ElementsAreArray(expected));
+    EXPECT_THAT(PixelsOf(picture),
+                ElementsAre(0, tint, tint, tint, MakeArgb(255, 18, 6, 30), tint, tint, tint, 0));
 }
 
 // Pairs of visible pixels in a transparent field, one for each two values: the left ones are means

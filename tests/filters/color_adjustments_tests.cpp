@@ -3,8 +3,8 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <climits>
 #include <cmath>
-#include <limits>
 
 #include "support/instruction_sets.h"
 #include "support/pictures.h"
@@ -17,8 +17,10 @@ using graphics::Bitmap;
 
 template <class Change>
 Argb Changed(Argb color, Change change) {
-    Bitmap picture = testing::FilledPicture(1, 1, color);
+    Bitmap picture = testing::FilledPicture(1, 1, color), empty;
     change(picture);
+    change(empty);
+    EXPECT_TRUE(empty.IsEmpty());
     return *picture.GetPixel(0, 0);
 }
 
@@ -38,10 +40,8 @@ Bitmap EveryRedAndSum() {
 
 template <class Rule>
 Bitmap PixelByPixel(Bitmap picture, Rule rule) {
-    for (int y = 0; y < picture.Height(); ++y) {
-        Argb* row = picture.MutableRow(y);
-        std::transform(row, row + picture.Width(), row, rule);
-    }
+    Argb* pixels = picture.MutablePixels();
+    std::transform(pixels, picture.MutableRow(picture.Height()), pixels, rule);
     return picture;
 }
 
@@ -49,32 +49,27 @@ TEST(ColorAdjustments, HueExchangesAndMixesInSevenSectors) {
     constexpr Argb kColor = 0x80C86428;  // red 200, green 100, blue 40
     const struct {
         float Hue;
-        Argb Expected;
+        Argb Color, Expected;
     } cases[] = {
-        {0, kColor},       {25, 0x80C84528},  // 0.5 rounds to sector 0; t 128
-        {50, 0x80C82828},                     // t 0
-        {60, 0x80C82847},                     // t 51
-        {75, 0x80C728C8},   // 1.5 rounds to sector 2; t -128, red mixed with itself
-        {100, 0x80C828C8},  //
-        {145, 0x8028D7C8},  // t -25.6 rounded down
-        {210, 0x802828A7},  //
-        {225, 0x80282877},  // 4.5 rounds to sector 4; t 128
-        {267, 0x805DC828},  // t 17 x 5.11 = 86.87, with 5.12 it would be 87
-        {275, 0x80C8F928},  // 5.5 rounds to sector 6; t -128
-        {325, 0x80C89528},  // t 127.75 rounded down
-        {350, kColor},      // sector 6; t 255
-        {400, kColor},     {-1, kColor},     {std::numeric_limits<float>::quiet_NaN(), kColor},
+        {0, kColor, kColor},
+        {75, kColor, 0x80C728C8},   // 1.5 rounds to sector 2; t -128, red mixed with itself
+        {225, kColor, 0x80282877},  // 4.5 rounds to sector 4; t 128
+        {267, kColor, 0x805DC828},  // t 17 x 5.11 = 86.87, with 5.12 it would be 87
+        {275, kColor, 0x80C8F928},  // 5.5 rounds to sector 6; t -128
+        {325, kColor, 0x80C89528},  // t 127.75 rounded down
+        {350, kColor, kColor},      // sector 6; t 255
+        {400, kColor, kColor},
+        {-1, kColor, kColor},
+        {NAN, kColor, kColor},
+        // A mix that fits no byte is not stored.
+        {275, 0x12FF0007, 0x12FFFF07},  // 381
+        {275, 0x000AC807, 0x000A0A07},  // -85
+        {275, 0xFF42C807, 0xFF424207},  // -322 / 256 is -1
+        {275, 0xFF43C907, 0xFF430007},  // -67 / 256 is 0
     };
-    const auto hued = [](Argb color, float hue) {
-        return Changed(color, [&](Bitmap& picture) { HueColor(picture, hue); });
-    };
-    for (const auto& [hue, expected] : cases)
-        EXPECT_EQ(hued(kColor, hue), expected) << hue;
-    // A mix that fits no byte is not stored.
-    EXPECT_EQ(hued(0x12FF0007, 275), Argb{0x12FFFF07});  // 381
-    EXPECT_EQ(hued(0x000AC807, 275), Argb{0x000A0A07});  // -85
-    EXPECT_EQ(hued(0xFF42C807, 275), Argb{0xFF424207});  // -322 / 256 is -1
-    EXPECT_EQ(hued(0xFF43C907, 275), Argb{0xFF430007});  // -67 / 256 is 0
+    for (const auto& test : cases)
+        EXPECT_EQ(Changed(test.Color, [&](Bitmap& p) { HueColor(p, test.Hue); }), test.Expected)
+            << test.Hue;
 }
 
 // The channels exchanged in each sector, and the two that are mixed into the third.
@@ -123,8 +118,8 @@ TEST(ColorAdjustments, SaturationPullsToTheAverageAndPushesAway) {
         {0xFF1F140A, 50, 0xFF241405},   // 36.5 to the even 36
         {0xFF211409, 50, 0xFF281404},   // 39.5 to the even 40, 3.5 to 4
         {0xFF1D4243, 110, 0xFF014F51},  // 29 + 1.1 x -25: in doubles a little below 1.5
-        {0x80C86428, std::numeric_limits<int>::max(), 0x80FF0000},
-        {0x80C86428, std::numeric_limits<int>::min(), 0x8000FFFF},
+        {0x80C86428, INT_MAX, 0x80FF0000},
+        {0x80C86428, INT_MIN, 0x8000FFFF},
     };
     for (const auto& test : cases)
         EXPECT_EQ(Changed(test.Color, [&](Bitmap& p) { SaturationColor(p, test.Level); }),
@@ -138,17 +133,15 @@ TEST(ColorAdjustments, SaturationIsThatOfDoublesAtEverySliderPosition) {
         const int level = static_cast<int>(
             std::nearbyint(position < 40 ? (position - 40) * 2.5 : position * 2.5 - 100));
         const double k = level / 100.0;
-        const auto rule = [k](Argb color) {
+        const Bitmap expected = PixelByPixel(picture, [k](Argb color) {
             const int r = graphics::RedOf(color), g = graphics::GreenOf(color);
             const int b = graphics::BlueOf(color);
-            const int grey = (r + g + b) / 3;
             const auto pushed = [&](int c) {
-                return static_cast<unsigned>(
-                    std::clamp(std::nearbyint(c + k * (c - grey)), 0.0, 255.0));
+                const double value = std::nearbyint(c + k * (c - (r + g + b) / 3));
+                return static_cast<unsigned>(std::clamp(value, 0.0, 255.0));
             };
             return graphics::MakeArgb(graphics::AlphaOf(color), pushed(r), pushed(g), pushed(b));
-        };
-        const Bitmap expected = PixelByPixel(picture, rule);
+        });
         testing::WithEachInstructionSet([&] {
             Bitmap saturated = picture;
             SaturationColor(saturated, level);
@@ -174,14 +167,6 @@ TEST(ColorAdjustments, BrightnessStretchesAroundTheMiddleAndThenMoves) {
                           [&](Bitmap& p) { BrightnessColor(p, test.Contrast, test.Brightness); }),
                   test.Expected)
             << std::hex << test.Color;
-}
-
-TEST(ColorAdjustments, AnEmptyPictureStaysEmpty) {
-    Bitmap empty;
-    HueColor(empty, 100);
-    SaturationColor(empty, 25);
-    BrightnessColor(empty, 2, 10);
-    EXPECT_TRUE(empty.IsEmpty());
 }
 
 }  // namespace

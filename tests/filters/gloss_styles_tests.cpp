@@ -5,12 +5,15 @@
 #include <map>
 #include <tuple>
 
+#include "filters/round_shape.h"
 #include "support/pictures.h"
+#include "support/pixel_runs.h"
 
 namespace orbelle::filters {
 namespace {
 
 using graphics::MakeArgb;
+using graphics::RectF;
 using testing::FilledPicture;
 
 // The body of a 90 x 90 square is (-1, 0, 90, 90), the ellipse's box (-46, 30, 270, 90). In column
@@ -34,6 +37,8 @@ TEST(CrystalStyle, IsACapThatFadesFromTheTopAPixelInsideTheEdge) {
     // The ellipse takes the middle away below row 30, not the left end.
     EXPECT_EQ(gloss->Image.GetPixel(85, 36), 0U);
     EXPECT_NE(gloss->Image.GetPixel(3, 36), 0U);
+    // Half of 7 is 3: 75 - 45 sqrt(1 - (7.5 / 10.5)^2) = 43.5.
+    EXPECT_EQ(CrystalStyle(FilledPicture(7, 90, 0xFF204060))->Height, 44);
 }
 
 TEST(CrystalStyle, WithoutASolidBodyThereIsNoGloss) {
@@ -65,11 +70,16 @@ TEST(OrigamiStyle, LeavesTheLeftOrTheUpperHalfOfTheBody) {
 }
 
 TEST(IosStyle, IsARoundedPlateInTheColor) {
-    const Plate plate = IosStyle(0x80FF0000, 24, 48, 0, 0);
-    EXPECT_EQ(testing::AlphaRow(plate.Image, 0)[1], 0);
-    EXPECT_EQ(plate.Image.GetPixel(2, 0), 0x80FF0000);
-    EXPECT_EQ(plate.Image.GetPixel(0, 24), 0x80FF0000);
-    EXPECT_EQ(plate.Path.WorldBounds(), (graphics::RectF{0, 0, 24, 48}));
+    const Plate plate = IosStyle(0x80FF0000, 24, 24, 0, 0);
+    EXPECT_EQ(PixelRuns(plate.Image), "0: 2-21; 1: 1-22; 2-21: 0-23; 22: 1-22; 23: 2-21");
+    EXPECT_EQ(plate.Image.GetPixel(0, 12), 0x80FF0000);
+    EXPECT_EQ(plate.Path.WorldBounds(), (RectF{0, 0, 24, 24}));
+}
+
+TEST(RoundShape, SidesShorterThanTwoRadiiAreOvershot) {
+    EXPECT_EQ(RoundShape(1, 2, 30, 20, 6).WorldBounds(), (RectF{1, 2, 30, 20}));
+    EXPECT_EQ(RoundShape(1, 2, 4, 20, 6).WorldBounds(), (RectF{1, 2, 12, 20}));
+    EXPECT_EQ(RoundShape(0, 0, 7, 5, 0).WorldBounds(), (RectF{0, 0, 7, 5}));
 }
 
 }  // namespace

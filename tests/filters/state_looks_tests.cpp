@@ -29,30 +29,22 @@ TEST(StateLooks, DisabledIsGreyAndATenthDarker) {
     }
 }
 
-TEST(StateLooks, HotLightensEachChannelAlone) {
-    Bitmap picture = FilledPicture(1, 1, 0x400A80FF);
-    HotStyle(picture, 1, 1, 0.65F);
-    EXPECT_EQ(picture.GetPixel(0, 0), Argb{0x401FA3FF});
-}
-
 TEST(StateLooks, TheNewPictureHasTheGivenSize) {
-    Bitmap picture = FilledPicture(2, 2, 0xFFFFFFFF);
-    HotStyle(picture, 3, 1, 0.5F);
-    EXPECT_EQ(testing::AlphaRow(picture, 0), (std::vector{255, 255, 0}));
-    EXPECT_EQ(picture.Height(), 1);
+    Bitmap picture = FilledPicture(2, 2, 0x400A80FF);
+    HotStyle(picture, 3, 1, 0.65F);  // lightens each channel alone
+    EXPECT_EQ(testing::PixelsOf(picture), (std::vector<Argb>{0x401FA3FF, 0x401FA3FF, 0}));
     DisabledStyle(picture, 1, 2);
-    EXPECT_EQ(testing::AlphaRow(picture, 0), std::vector{255});
+    EXPECT_EQ(testing::AlphaRow(picture, 0), std::vector{0x40});
     EXPECT_EQ(testing::AlphaRow(picture, 1), std::vector{0});
 }
 
 TEST(StateLooks, ARefusedSizeAndAnEmptyPictureChangeNothing) {
     const Bitmap before = FilledPicture(2, 2, 0x80FF0000);
-    Bitmap picture = before;
+    Bitmap picture = before, empty;
     DisabledStyle(picture, 0, 2);
     HotStyle(picture, 2, -1, 0.5F);
     DisabledStyle(picture, graphics::kMaxBitmapSide + 1, 2);
     EXPECT_TRUE(picture.SharesPixelsWith(before));
-    Bitmap empty;
     HotStyle(empty, 2, 2, 0.5F);
     EXPECT_TRUE(empty.IsEmpty());
 }

@@ -30,35 +30,21 @@ Argb Reference(Argb destination, Argb source) {
 }
 
 TEST(Blend, GivesTheKnownResults) {
-    struct Case {
-        Argb Destination, Source, Result;
-    };
-    const std::vector<Case> cases = {
+    const Argb cases[][3] = {
         {0x00FF8040, 0x10ABCDEF, 0x10ABCDEF}, {0xFF204060, 0x80C0A010, 0xFF707038},
         {0x80204060, 0x80C0A010, 0xC08B802B}, {0x40204060, 0x01C0A010, 0x4122415F},
         {0x01FFFFFF, 0x01000000, 0x027F7F7F}, {0x7F808080, 0x7F808080, 0xBF808080},
-        {0x80204060, 0x00C0A010, 0x80204060}, {0x00204060, 0x00C0A010, 0x00204060},
-        {0x80204060, 0xFFC0A010, 0xFFC0A010}};
-    WithEachInstructionSet([&] {
-        for (const Case& c : cases) {
-            EXPECT_EQ(BlendPixel(c.Destination, c.Source), c.Result);
-            // Long enough for whole vectors and a rest, transparent and opaque ones among them.
-            std::vector<Argb> row(71, c.Destination), color = row;
-            BlendRow(row.data(), std::vector<Argb>(70, c.Source).data(), 70);
-            BlendColor(color.data(), c.Source, 70);
-            std::vector<Argb> expected(70, c.Result);
-            expected.push_back(c.Destination);
-            EXPECT_EQ(row, expected);
-            EXPECT_EQ(color, expected);
-        }
-    });
+        {0x80204060, 0x00C0A010, 0x80204060}, {0x80204060, 0xFFC0A010, 0xFFC0A010}};
+    for (const auto& [destination, source, result] : cases)
+        EXPECT_EQ(BlendPixel(destination, source), result);
 }
 
 TEST(Blend, IsExactForEveryPairOfAlphas) {
     WithEachInstructionSet([] {
         std::mt19937 random(1);
-        constexpr std::size_t count = 3072;  // each destination alpha twelve times
-        std::vector<Argb> source(count), destination(count), blended;
+        // Each destination alpha twelve times, and a rest that fills no vector.
+        constexpr std::size_t count = 3079;
+        std::vector<Argb> source(count), destination(count + 1), blended;
         for (unsigned a1 = 0; a1 < 256; ++a1) {
             for (std::size_t i = 0; i < count; ++i) {
                 source[i] = SetAlphaByte(static_cast<Argb>(random()), a1);
@@ -71,6 +57,7 @@ TEST(Blend, IsExactForEveryPairOfAlphas) {
                 ASSERT_EQ(blended[i], expected) << std::hex << destination[i] << ' ' << source[i];
                 ASSERT_EQ(BlendPixel(destination[i], source[i]), expected);
             }
+            ASSERT_EQ(blended[count], Argb{0});
         }
     });
 }
@@ -79,7 +66,7 @@ TEST(Blend, IsExactForEveryPairOfAlphas) {
 // there are the most of the first, with both large the second come closest.
 TEST(Blend, DecidesTiesExactly) {
     WithEachInstructionSet([] {
-        for (const unsigned a1 : {1u, 2u, 3u, 127u, 128u, 253u, 254u}) {
+        for (const unsigned a1 : {0u, 1u, 2u, 3u, 127u, 128u, 253u, 254u, 255u}) {
             for (const unsigned a0 : {1u, 2u, 85u, 128u, 254u, 255u}) {
                 for (unsigned c1 = 0; c1 < 256; ++c1) {
                     std::vector<Argb> row(256);
@@ -87,50 +74,40 @@ TEST(Blend, DecidesTiesExactly) {
                         row[c0] = MakeArgb(a0, c0, 255 - c0, c0 ^ 0x55);
                     const std::vector<Argb> before = row;
                     const Argb source = MakeArgb(a1, c1, c1, c1);
-                    BlendColor(row.data(), source, row.size());
-                    for (std::size_t i = 0; i < row.size(); ++i)
+                    BlendColor(row.data(), source, 255);
+                    for (std::size_t i = 0; i < 255; ++i)
                         ASSERT_EQ(row[i], Reference(before[i], source)) << std::hex << before[i];
+                    ASSERT_EQ(row[255], before[255]);
                 }
             }
         }
     });
 }
 
-std::vector<float> Opacities() {
+// To the nearest of opacity times alpha.
+TEST(Blend, TakesSourceAlphasThroughAFactor) {
     std::vector<float> opacities = {1e-30F, 1.0F / 512, 1.0F / 511, 0.00196F, 0.999999F, 1};
     for (int percent = 0; percent < 100; ++percent)
         opacities.push_back(static_cast<float>(percent / 100.0));
-    return opacities;
-}
-
-TEST(AlphaFactor, RoundsOpacityTimesAlphaToTheNearest) {
-    for (const float opacity : Opacities()) {
-        const AlphaFactor factor(opacity);
-        for (unsigned alpha = 0; alpha < 256; ++alpha) {
-            ASSERT_EQ(factor.Apply(alpha), std::floor(double{opacity} * alpha + 0.5))
-                << opacity << " x " << alpha;
-        }
-    }
-    EXPECT_EQ(AlphaFactor(-1).Apply(255), 0U);
-    EXPECT_EQ(AlphaFactor(7).Apply(100), 100U);
-    EXPECT_EQ(AlphaFactor(std::nanf("")).Apply(255), 0U);
-}
-
-TEST(Blend, TakesSourceAlphasThroughAFactor) {
     std::vector<Argb> source(1000);
     for (std::size_t i = 0; i < source.size(); ++i)
         source[i] = SetAlphaByte(0x00C0A010, i % 256);
     WithEachInstructionSet([&] {
-        for (const float opacity : Opacities()) {
+        for (const float opacity : opacities) {
             const AlphaFactor factor(opacity);
             std::vector<Argb> row(1000, 0x80204060);
             BlendRow(row.data(), source.data(), row.size(), factor);
-            for (std::size_t i = 0; i < row.size(); ++i) {
-                const Argb faded = SetAlphaByte(source[i], factor.Apply(i % 256));
-                ASSERT_EQ(row[i], Reference(0x80204060, faded)) << i << ", " << opacity;
+            for (unsigned i = 0; i < row.size(); ++i) {
+                const auto alpha = static_cast<unsigned>(double{opacity} * (i % 256) + 0.5);
+                ASSERT_EQ(factor.Apply(i % 256), alpha) << opacity << " x " << i % 256;
+                ASSERT_EQ(row[i], Reference(0x80204060, SetAlphaByte(source[i], alpha)))
+                    << i << ", " << opacity;
             }
         }
     });
+    EXPECT_EQ(AlphaFactor(-1).Apply(255), 0U);
+    EXPECT_EQ(AlphaFactor(7).Apply(100), 100U);
+    EXPECT_EQ(AlphaFactor(std::nanf("")).Apply(255), 0U);
 }
 
 }  // namespace

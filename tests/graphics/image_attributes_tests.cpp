@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include <limits>
+#include <cmath>
 #include <random>
 #include <vector>
 
@@ -13,36 +13,41 @@
 namespace orbelle::graphics {
 namespace {
 
-Argb Recolored(const ImageAttributes& attributes, Argb color) {
-    Recoloring(attributes).Apply({&color, 1});
-    return color;
-}
-
-TEST(ImageAttributes, OpacityRoundsHalvesUpAndKeepsTheColor) {
+TEST(ImageAttributes, RecolorEachPixel) {
     const ImageAttributes half{.Matrix = OpacityMatrix(0.5F)};
-    EXPECT_EQ(Recolored(half, 0xFF102030), Argb{0x80102030});
-    EXPECT_EQ(Recolored(half, 0x01102030), Argb{0x01102030});
-    EXPECT_EQ(Recolored(half, 0x00102030), Argb{0x00102030});
-    EXPECT_EQ(Recolored({.Matrix = OpacityMatrix(0)}, 0xFF102030), Argb{0x00102030});
-    EXPECT_EQ(Recolored({.Matrix = OpacityMatrix(1)}, 0x7F102030), Argb{0x7F102030});
-    // 0.9F lies just below 0.9, so 135 lies below 121.5; 0.3F just above 0.3, so 5 above 1.5.
-    EXPECT_EQ(Recolored({.Matrix = OpacityMatrix(0.9F)}, 135u << 24), Argb{121u << 24});
-    EXPECT_EQ(Recolored({.Matrix = OpacityMatrix(0.3F)}, 5u << 24), Argb{2u << 24});
-}
-
-TEST(ImageAttributes, AnyCellCountsAndResultsAreLimited) {
-    ColorMatrix matrix{};
-    matrix[0][1] = 1;   // green from red
-    matrix[2][0] = 2;   // red from twice the blue
-    matrix[1][2] = -1;  // blue from the negative of green
-    matrix[4][3] = 0.5F;
-    EXPECT_EQ(Recolored({.Matrix = matrix}, 0x12345678), Argb{0x80F03400});
-    matrix[2][0] = 3;
-    EXPECT_EQ(Recolored({.Matrix = matrix}, 0x12345678), Argb{0x80FF3400});
-    matrix[2][0] = std::numeric_limits<float>::quiet_NaN();
-    matrix[0][1] = std::numeric_limits<float>::infinity();
-    EXPECT_EQ(Recolored({.Matrix = matrix}, 0x12345678), Argb{0x8000FF00});
-    EXPECT_EQ(Recolored({}, 0x12345678), Argb{0x12345678});
+    const ImageAttributes root{.Gamma = 0.5F};
+    ImageAttributes halfRed = half;
+    (*halfRed.Matrix)[0][0] = 0.5F;
+    halfRed.Gamma = 0.5F;
+    ColorMatrix hostile{};
+    hostile[2][0] = std::nanf("");
+    hostile[0][1] = INFINITY;
+    const struct {
+        ImageAttributes Attributes;
+        Argb Color, Recolored;
+    } cases[] = {
+        {{}, 0x12345678, 0x12345678},
+        {half, 0xFF102030, 0x80102030},
+        {half, 0x01102030, 0x01102030},
+        {{.Matrix = OpacityMatrix(0)}, 0xFF102030, 0x00102030},
+        {{.Matrix = OpacityMatrix(1)}, 0x7F102030, 0x7F102030},
+        // 0.9F lies just below 0.9, so 135 lies below 121.5; 0.3F just above 0.3.
+        {{.Matrix = OpacityMatrix(0.9F)}, 135u << 24, 121u << 24},
+        {{.Matrix = OpacityMatrix(0.3F)}, 5u << 24, 2u << 24},
+        {{.Matrix = hostile}, 0x12345678, 0x0000FF00},
+        {root, 0x40014080, 0x401080B5},
+        {root, 0x0000FF01, 0x0000FF10},
+        {{.Gamma = 0.65F}, 0xFF000A80, 0xFF001FA3},
+        // Above 1 darkens: 255 (128 / 255)^2 = 64.25, 255 (10 / 255)^2 = 0.39.
+        {{.Gamma = 2.0F}, 0xFFFF800A, 0xFFFF4000},
+        {{.Gamma = -1.0F}, 0x7F00FF01, 0x7FFFFFFF},
+        // The matrix first: half of 3 is 1.5, and 255 sqrt(2 / 255) is 22.6.
+        {halfRed, 0xFF034080, 0x801780B5},
+    };
+    for (auto [attributes, color, recolored] : cases) {
+        Recoloring(attributes).Apply({&color, 1});
+        EXPECT_EQ(color, recolored) << std::hex << color << ' ' << recolored;
+    }
 }
 
 TEST(ImageAttributes, EveryPixelOfARunIsTheRoundedSumOfItsCells) {
@@ -73,24 +78,6 @@ TEST(ImageAttributes, EveryPixelOfARunIsTheRoundedSumOfItsCells) {
             EXPECT_EQ(recolored, expected);
         });
     }
-}
-
-TEST(ImageAttributes, GammaRaisesColorsAndKeepsAlpha) {
-    const ImageAttributes half{.Gamma = 0.5F};
-    EXPECT_EQ(Recolored(half, 0x40014080), Argb{0x401080B5});
-    EXPECT_EQ(Recolored(half, 0x0000FF01), Argb{0x0000FF10});
-    EXPECT_EQ(Recolored({.Gamma = 0.65F}, 0xFF000A80), Argb{0xFF001FA3});
-    // Above 1 darkens: 255 (128 / 255)^2 = 64.25, 255 (10 / 255)^2 = 0.39.
-    EXPECT_EQ(Recolored({.Gamma = 2.0F}, 0xFFFF800A), Argb{0xFFFF4000});
-    // No power is harmful: 0 to the power of -1 has no limit.
-    EXPECT_EQ(Recolored({.Gamma = -1.0F}, 0x7F00FF01), Argb{0x7FFFFFFF});
-}
-
-TEST(ImageAttributes, TheMatrixComesBeforeTheGamma) {
-    // Half of 3 is 1.5, and 255 sqrt(2 / 255) is 22.6; the other way it would be 14.
-    ColorMatrix half = OpacityMatrix(0.5F);
-    half[0][0] = 0.5F;
-    EXPECT_EQ(Recolored({.Matrix = half, .Gamma = 0.5F}, 0xFF034080), Argb{0x801780B5});
 }
 
 }  // namespace

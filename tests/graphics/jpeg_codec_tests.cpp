@@ -8,11 +8,13 @@
 
 #include "graphics/codecs/image_files.h"
 #include "graphics/decoding.h"
+#include "support/random_pictures.h"
 
 namespace orbelle::graphics {
 namespace {
 
 using ::testing::StartsWith;
+using namespace testing;
 
 struct JpegPicture {
     int Width = 8;
@@ -47,12 +49,11 @@ FileBytes MakeJpeg(const JpegPicture& picture) {
     if (!picture.Exif.empty())
         jpeg_write_marker(&jpeg, JPEG_APP0 + 1, picture.Exif.data(), picture.Exif.size());
     std::vector<std::uint8_t> samples = picture.Samples;
-    const std::size_t all = std::size_t(picture.Width) * picture.Height * jpeg.input_components;
-    while (samples.size() < all)
+    const std::size_t stride = std::size_t(picture.Width) * jpeg.input_components;
+    while (samples.size() < stride * picture.Height)
         samples.push_back(samples[samples.size() - jpeg.input_components]);
     while (jpeg.next_scanline < jpeg.image_height) {
-        JSAMPROW row =
-            &samples[std::size_t(jpeg.next_scanline) * picture.Width * jpeg.input_components];
+        JSAMPROW row = &samples[jpeg.next_scanline * stride];
         jpeg_write_scanlines(&jpeg, &row, 1);
     }
     jpeg_finish_compress(&jpeg);
@@ -65,10 +66,8 @@ FileBytes MakeJpeg(const JpegPicture& picture) {
 // Cells of 8 x 8 pixels, three across and two down: grey levels that spell abc / def.
 JpegPicture Letters() {
     JpegPicture picture = {.Width = 24, .Height = 16};
-    for (int y = 0; y < 16; ++y) {
-        for (int x = 0; x < 24; ++x)
-            picture.Samples.push_back(static_cast<std::uint8_t>((y / 8 * 3 + x / 8) * 50));
-    }
+    for (int i = 0; i < 24 * 16; ++i)
+        picture.Samples.push_back(static_cast<std::uint8_t>((i / 24 / 8 * 3 + i % 24 / 8) * 50));
     return picture;
 }
 
@@ -92,6 +91,17 @@ FileBytes MakeExif(int orientation, bool bigEndian) {
             1,   0,   0,   0,   5, 0, 0,   0,   18, 1, 3, 0, 1, 0, 0, 0, value, 0, 0, 0};
 }
 
+// No channel is off by more.
+void ExpectNear(const Bitmap& image, const Bitmap& expected, int tolerance) {
+    ASSERT_EQ(image.Width(), expected.Width());
+    ASSERT_EQ(image.Height(), expected.Height());
+    for (int i = 0; i < image.Width() * image.Height(); ++i)
+        for (int channel : {kBlue, kGreen, kRed, kAlpha})
+            ASSERT_NEAR(image.Pixels()[i] >> channel & 0xFF, expected.Pixels()[i] >> channel & 0xFF,
+                        tolerance)
+                << i;
+}
+
 TEST(JpegDecoder, ReadsEveryColorSpaceAsOpaque) {
     const struct {
         const char* Name;
@@ -108,15 +118,10 @@ TEST(JpegDecoder, ReadsEveryColorSpaceAsOpaque) {
         {"ink", {9, 7, JCS_CMYK, JCS_CMYK, {5, 130, 205, 51}, false, false}, 0xFFC86428},
     };
     for (const auto& [name, picture, color] : kCases) {
-        const Bitmap image = DecodeImage(MakeJpeg(picture));
-        ASSERT_EQ(image.Width(), picture.Width) << name;
-        for (Argb pixel : PixelsOf(image)) {
-            ASSERT_EQ(AlphaOf(pixel), 255u) << name;
-            // Rounding to YCbCr and back may cost 2 levels.
-            ASSERT_NEAR(RedOf(pixel), RedOf(color), 2) << name;
-            ASSERT_NEAR(GreenOf(pixel), GreenOf(color), 2) << name;
-            ASSERT_NEAR(BlueOf(pixel), BlueOf(color), 2) << name;
-        }
+        SCOPED_TRACE(name);
+        // Rounding to YCbCr and back may cost 2 levels.
+        ExpectNear(DecodeImage(MakeJpeg(picture)),
+                   FilledPicture(picture.Width, picture.Height, color), 2);
     }
 }
 
@@ -174,6 +179,43 @@ TEST(JpegDecoder, RefusesSizesAndScansThatOnlyCostTime) {
         file.insert(file.end() - 2, scan.begin(), scan.end());
     EXPECT_EQ(ProblemOf(file),
               "the JPEG picture is cut short or damaged: it has too many scans for its size");
+}
+
+// Every pixel another colour, with hard edges between them.
+Bitmap Checks(int width, int height) {
+    constexpr Argb kColors[] = {0xFFFF0000, 0xFF00FF00, 0xFF0000FF, 0xFFFFFFFF,
+                                0xFF000000, 0xFFFFFF00, 0xFF806040};
+    Bitmap image(width, height);
+    for (int y = 0; y < height; ++y)
+        for (int x = 0; x < width; ++x)
+            image.SetPixel(x, y, kColors[(x + 3 * y) % 7]);
+    return image;
+}
+
+TEST(JpegEncoder, EveryPixelKeepsItsColor) {
+    for (const auto& [width, height] : {std::pair(1, 1), {7, 9}, {16, 16}, {33, 17}}) {
+        const Bitmap image = Checks(width, height);
+        ExpectNear(DecodeImage(EncodeJpeg(image, 99)), image, 6);
+    }
+}
+
+TEST(JpegEncoder, TheFileIsBaselineJfifAt96DpiWithFullColors) {
+    FileBytes file = EncodeJpeg(Checks(300, 200), 99);
+    // Baseline frame: 8 bits, 200 x 300, three components with one sample per pixel each.
+    const FileBytes frame = {0xFF, 0xC0, 0, 17, 8,    0, 200, 1,    44, 3,
+                             1,    0x11, 0, 2,  0x11, 1, 3,   0x11, 1};
+    EXPECT_NE(std::ranges::search(file, frame).begin(), file.end());
+    file.resize(20);
+    EXPECT_EQ(file, (FileBytes{0xFF, 0xD8, 0xFF, 0xE0, 0, 16, 'J', 'F', 'I', 'F',
+                               0,    1,    1,    1,    0, 96, 0,   96,  0,   0}));
+}
+
+TEST(JpegEncoder, AlphaIsDroppedAndQualityKeptInRange) {
+    const Bitmap solid = FilledPicture(8, 8, 0xFF336699);
+    EXPECT_EQ(EncodeJpeg(FilledPicture(8, 8, 0x00336699), 99), EncodeJpeg(solid, 99));
+    EXPECT_EQ(EncodeJpeg(solid, -5), EncodeJpeg(solid, 1));
+    EXPECT_EQ(EncodeJpeg(solid, 1000), EncodeJpeg(solid, 100));
+    EXPECT_TRUE(EncodeJpeg(Bitmap(), 99).empty());
 }
 
 }  // namespace
