@@ -64,15 +64,6 @@ TEST(SliderScaleTest, DragsByTenthsUpToTenAndElseOverTheWholeTrack) {
             << value << " of " << maxValue;
 }
 
-TEST_F(NumberSliderTest, AnOwnersValueIsSilentAndMayLieBeyondTheRange) {
-    slider_.SetValue(300);
-    EXPECT_EQ(field_.text(), "300");
-    EXPECT_EQ(track_.Place(), 100);
-    slider_.SetRange(0, 10);
-    EXPECT_EQ(slider_.Value(), 300);
-    EXPECT_EQ(gestures_.Told(), "");
-}
-
 TEST_F(NumberSliderTest, OneTypedTextIsOneGesture) {
     Enter("102");
     EXPECT_EQ(gestures_.Told(), "pressed 1 10 102");
