@@ -10,7 +10,6 @@
 #include <QStandardPaths>
 #include <algorithm>
 #include <memory>
-#include <utility>
 
 #include "app/main_window.h"
 #include "app/scene_view.h"

@@ -62,6 +62,7 @@ TEST_F(RealWindowTest, EveryToolWorksWhereThePointerIs) {
     Press({"alt+e", "d"});
 
     const QImage drawn = Export();
+    ASSERT_FALSE(drawn.isNull());
     ExpectPixels(
         drawn,
         {{kRed, {{25, 10}, {30, 10}, {50, 10}, {80, 9}, {69, 20}, {99, 9}, {120, 30}, {175, 25}}},
