@@ -1,3 +1,4 @@
+// The window and its parts: what they show of the editor and hand to it, and how it asks and tells.
 #include "app/main_window.h"
 
 #include <gtest/gtest.h>
@@ -6,7 +7,7 @@
 #include <QDropEvent>
 #include <QFile>
 #include <QFileDialog>
-#include <QGuiApplication>
+#include <QLabel>
 #include <QMessageBox>
 #include <QMimeData>
 #include <QPushButton>
@@ -17,39 +18,82 @@
 #include <QWindow>
 #include <stdexcept>
 
+#include "app/bottom_panel.h"
+#include "app/color_well.h"
 #include "app/scene_view.h"
 #include "app/settings.h"
 #include "document/scene_painter.h"
+#include "editing/color_wells.h"
+#include "editing/document_commands.h"
+#include "editing/layer_commands.h"
+#include "editing/tips.h"
+#include "editing/undo_commands.h"
 #include "editing/view_commands.h"
 #include "graphics/codecs/image_files.h"
 #include "graphics/file_io.h"
+#include "support/hands.h"
 #include "support/pictures.h"
 #include "support/temporary_folder.h"
 #include "waiting.h"
+#include "widgets/layer_list.h"
+#include "widgets/number_slider.h"
+#include "widgets/panel_header.h"
+#include "widgets/track_slider.h"
 
 namespace orbelle::app {
 namespace {
 
 using namespace orbelle::testing;
+using widgets::ButtonBar;
 
 constexpr graphics::Argb kRed = 0xFFC02040;
 
 class MainWindowTest : public ::testing::Test {
 protected:
     MainWindowTest() {
-        window.resize(800, 600);
+        window.resize(1100, 760);
         window.show();
     }
 
-    QString Picture(const char* name, int width, int height) {
-        const std::filesystem::path path = folder / name;
-        graphics::WriteFile(path, graphics::EncodePng(FilledPicture(width, height, kRed)));
-        return QString::fromStdString(path.string());
+    QString Path(const char* name) const {
+        return QString::fromStdString((folder / name).string());
     }
-
+    QString Picture(const char* name, int width, int height) {
+        graphics::WriteFile(folder / name, graphics::EncodePng(FilledPicture(width, height, kRed)));
+        return Path(name);
+    }
     void OpenPicture(int width, int height) {
         window.OpenPath(Picture("picture.png", width, height));
-        ASSERT_TRUE(WaitUntil([&] { return !window.IsZoomAnimationRunning(); }));
+        WaitUntil([&] { return !window.IsZoomAnimationRunning(); });
+    }
+
+    void NewPage(int width, int height) {
+        window.Run([=](editing::Editor& editor) { NewDocument(editor, width, height); });
+        WaitUntil([&] { return !window.IsZoomAnimationRunning(); });
+    }
+
+    // The control that has this name, or this name for assistive tools.
+    template <typename Widget>
+    Widget& Part(const std::string& name) {
+        for (Widget* part : window.findChildren<Widget*>())
+            if (part->objectName() == name.c_str() || part->accessibleName() == name.c_str())
+                return *part;
+        throw std::logic_error(name);
+    }
+
+    void ClickBar(const char* name, int button) {
+        auto& bar = Part<ButtonBar>(name);
+        const QPointF at = bar.ButtonRect(button).center();
+        SendMouse(bar, QEvent::MouseMove, at, Qt::NoButton, Qt::NoButton);
+        Click(bar, at);
+    }
+
+    void MouseOnPage(QEvent::Type type, QPointF place, Qt::MouseButton button,
+                     Qt::MouseButtons held, Qt::KeyboardModifiers keys) {
+        const document::View& view = window.Editor().View;
+        const QPointF corner(PageOffsetX(Page(), view), PageOffsetY(Page(), view));
+        SendMouse(Scene(), type, corner + (place + QPointF(0.5, 0.5)) * view.Zoom, button, held,
+                  keys);
     }
 
     SceneView& Scene() { return *window.findChild<SceneView*>(); }
@@ -66,14 +110,10 @@ protected:
 };
 
 TEST_F(MainWindowTest, ShowsTheSceneAndTheFrameAroundTheLayer) {
-    QImage empty = Scene().grab().toImage();
-    EXPECT_EQ(empty.pixel(5, 5), document::kSceneColor);
-
+    EXPECT_EQ(Scene().grab().toImage().pixel(5, 5), document::kSceneColor);
     OpenPicture(100, 60);
     const QImage shown = Scene().grab().toImage();
     EXPECT_EQ(window.windowTitle(), "Varnel Orbelle - Project *");
-    EXPECT_EQ(window.Editor().View.SceneWidth, Scene().width());
-    EXPECT_EQ(window.Editor().View.SceneHeight, Scene().height());
     EXPECT_EQ(shown.pixel(shown.width() / 2, shown.height() / 2), kRed);
     const auto frame = document::ObjectFrame(Page(), window.Editor().View);
     ASSERT_TRUE(frame);
@@ -90,11 +130,11 @@ TEST_F(MainWindowTest, ScrollBarsMirrorTheView) {
     QScrollBar& bar = Bar(Qt::Horizontal);
     EXPECT_TRUE(bar.isVisible());
     EXPECT_FALSE(Bar(Qt::Vertical).isVisible());
-    EXPECT_EQ(bar.maximum(), window.Editor().View.HorizontalScroll.Max);
-    EXPECT_EQ(bar.value(), window.Editor().View.HorizontalScroll.Value);
-
+    const document::View& view = window.Editor().View;
+    EXPECT_EQ(bar.maximum(), view.HorizontalScroll.Max);
+    EXPECT_EQ(bar.value(), view.HorizontalScroll.Value);
     bar.setValue(bar.maximum());
-    EXPECT_EQ(window.Editor().View.HorizontalScroll.Value, bar.maximum());
+    EXPECT_EQ(view.HorizontalScroll.Value, bar.maximum());
 }
 
 TEST_F(MainWindowTest, TakesDroppedLocalFilesAndImportsThemInOrder) {
@@ -105,13 +145,13 @@ TEST_F(MainWindowTest, TakesDroppedLocalFilesAndImportsThemInOrder) {
         QApplication::sendEvent(&Scene(), &enter);
         return enter.isAccepted();
     };
+    const QUrl far("https://example.org/far.png");
     QMimeData data;
     data.setText("some text");
     EXPECT_FALSE(isTaken(data));
-    data.setUrls({QUrl("https://example.org/far.png")});
+    data.setUrls({far});
     EXPECT_FALSE(isTaken(data));
-    data.setUrls({QUrl("https://example.org/far.png"),
-                  QUrl::fromLocalFile(Picture("first.png", 40, 30)),
+    data.setUrls({far, QUrl::fromLocalFile(Picture("first.png", 40, 30)),
                   QUrl::fromLocalFile(Picture("second.png", 20, 10))});
     ASSERT_TRUE(isTaken(data));
     QDropEvent drop(QPointF(50, 50), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
@@ -119,7 +159,6 @@ TEST_F(MainWindowTest, TakesDroppedLocalFilesAndImportsThemInOrder) {
 
     ASSERT_TRUE(WaitUntil([&] { return Page().LayerCount() == 2; }));
     EXPECT_EQ(Page().Width, 40);
-    EXPECT_EQ(Page().Height, 30);
     EXPECT_EQ(Page().Layers[1].ImageWidth, 20);
 }
 
@@ -132,15 +171,13 @@ TEST_F(MainWindowTest, CtrlAndTheWheelZoomInWholeSteps) {
         return window.Editor().View.Zoom;
     };
     EXPECT_EQ(turn(120, Qt::NoModifier), 1);
-    EXPECT_EQ(turn(60, Qt::ControlModifier), 1);
-    EXPECT_EQ(turn(60, Qt::ControlModifier), 3);
-    EXPECT_EQ(turn(240, Qt::ControlModifier), 7);
-    EXPECT_EQ(turn(-120, Qt::ControlModifier), 5);
+    for (const auto& [delta, zoom] : {std::pair(60, 1), {60, 3}, {240, 7}, {-120, 5}})
+        EXPECT_EQ(turn(delta, Qt::ControlModifier), zoom);
 }
 
 TEST_F(MainWindowTest, SavesUnderTheNameThatTheDialogGives) {
     OpenPicture(16, 16);
-    const QString path = QString::fromStdString((folder / "a[*].volf").string());
+    const QString path = Path("a[*].volf");
     AnswerDialog<QFileDialog>([&](QFileDialog& files) {
         EXPECT_EQ(files.windowTitle(), "Open File...");
         EXPECT_EQ(files.acceptMode(), QFileDialog::AcceptSave);
@@ -189,6 +226,158 @@ TEST_F(MainWindowTest, ConfirmIsCancelledByDefault) {
         });
         EXPECT_EQ(window.Confirm("Image already exists, overwrite it?", "Warning"), ok);
     }
+}
+
+TEST_F(MainWindowTest, ToolButtonsChooseAndLatchOneTool) {
+    auto& tools = Part<ButtonBar>("ToolBox");
+    ClickBar("ToolBox", 5);
+    EXPECT_FALSE(tools.IsPressed(5)) << "there is no document yet";
+    NewPage(32, 32);
+    ClickBar("ToolBox", 8);
+    EXPECT_EQ(window.Editor().Tools.InUse, editing::Tool::Rectangle);
+    EXPECT_TRUE(tools.IsPressed(8));
+    EXPECT_FALSE(tools.IsPressed(1));
+    auto& fills = Part<ButtonBar>("FillBar");
+    EXPECT_TRUE(fills.isVisible());
+    EXPECT_EQ(fills.mapTo(window.centralWidget(), QPoint()).x(),
+              tools.mapTo(window.centralWidget(), QPoint()).x() + tools.width() + 1);
+    ClickBar("FillBar", 2);
+    EXPECT_EQ(window.Editor().Tools.FillKind, editing::FillKind::HorizontalGradient);
+    for (const bool shown : {false, true, false}) {
+        EXPECT_EQ(fills.isVisible(), shown);
+        EXPECT_TRUE(tools.IsPressed(8)) << "another click does not release it";
+        ClickBar("ToolBox", 8);
+    }
+}
+
+// A filled rectangle from (4, 4): Shift alone makes its sides equal.
+TEST_F(MainWindowTest, ShiftCountsOnlyWhenItIsHeldAlone) {
+    NewPage(32, 32);
+    window.Run([](editing::Editor& editor) { SetWellColor(editor, 0, 0xFF00A020); });
+    ClickBar("ToolBox", 9);
+    const std::tuple<const char*, Qt::KeyboardModifiers, bool> cases[] = {
+        {"none", Qt::NoModifier, false},
+        {"Shift", Qt::ShiftModifier, true},
+        {"Shift on the number block", Qt::ShiftModifier | Qt::KeypadModifier, true},
+        {"Ctrl", Qt::ControlModifier, false},
+        {"Shift and Ctrl", Qt::ShiftModifier | Qt::ControlModifier, false},
+        {"Shift and Alt", Qt::ShiftModifier | Qt::AltModifier, false},
+    };
+    for (const auto& [name, keys, isSquare] : cases) {
+        MouseOnPage(QEvent::MouseMove, {4, 4}, Qt::NoButton, Qt::NoButton, keys);
+        MouseOnPage(QEvent::MouseButtonPress, {4, 4}, Qt::LeftButton, Qt::LeftButton, keys);
+        MouseOnPage(QEvent::MouseMove, {20, 10}, Qt::NoButton, Qt::LeftButton, keys);
+        MouseOnPage(QEvent::MouseButtonRelease, {20, 10}, Qt::LeftButton, Qt::NoButton, keys);
+        const auto isDrawn = [&](int x, int y) {
+            return window.Editor().Canvas.GetPixel(x, y) == 0xFF00A020;
+        };
+        EXPECT_TRUE(isDrawn(18, 8)) << name;
+        EXPECT_EQ(isDrawn(8, 18), isSquare) << name;
+        EXPECT_EQ(window.Editor().History.UndoIndex(), 1) << name;
+        EXPECT_EQ(Part<QLabel>("PointerPosition").text(), "20, 10") << name;
+        window.Run(editing::Undo);
+    }
+}
+
+TEST_F(MainWindowTest, TheLayerListFollowsAndSelects) {
+    NewPage(32, 32);
+    window.Run([](editing::Editor& editor) { AddEmptyLayer(editor, 32, 32); });
+    auto& list = Part<widgets::LayerList>("Layers");
+    ASSERT_TRUE(WaitUntil([&] { return list.Count() == 2; }));
+    EXPECT_EQ(list.SelectedIndex(), 1);
+    Press(*list.viewport(), {20, 60});
+    EXPECT_EQ(window.Editor().Page().SelectedLayer, 0);
+}
+
+TEST_F(MainWindowTest, SlidersMirrorTheEditor) {
+    auto& width = Part<widgets::NumberSlider>("PageWidth");
+    EXPECT_FALSE(width.isEnabled());
+    NewPage(48, 32);
+    EXPECT_TRUE(width.isEnabled());
+    EXPECT_EQ(width.Value(), 48);
+    EXPECT_EQ(Part<widgets::NumberSlider>("PageHeight").Value(), 32);
+    for (const auto& [tool, enabled] : {std::pair(5, true), {4, false}}) {
+        ClickBar("ToolBox", tool);
+        EXPECT_EQ(Part<widgets::NumberSlider>("LineWidth").isEnabled(), enabled);
+    }
+}
+
+// An adjustment counts from where it changes nothing.
+TEST_F(MainWindowTest, SlidersOfTheRightPanelAreLabelled) {
+    NewPage(32, 32);
+    const std::tuple<std::string, const char*, Qt::Key, const char*> cases[] = {
+        {"Opacity", "100%", Qt::Key_Left, "99%"}, {"Hue", "0", Qt::Key_Right, "1"},
+        {"Saturation", "0", Qt::Key_Right, "1"},  {"Brightness", "0", Qt::Key_Left, "-1"},
+        {"Contrast", "0", Qt::Key_Right, "1"},
+    };
+    for (const auto& [name, neutral, key, stepped] : cases) {
+        const auto& label = Part<QLabel>(name + "Value");
+        EXPECT_EQ(label.text(), neutral) << name;
+        Strike(Part<widgets::TrackSlider>(name), key);
+        EXPECT_EQ(label.text(), stepped) << name;
+        EXPECT_TRUE(window.Editor().History.UndoIndex() > 0) << name;
+    }
+    window.Run(editing::Undo);
+    EXPECT_EQ(Part<QLabel>("ContrastValue").text(), "0");
+}
+
+TEST_F(MainWindowTest, ColourWellsTakeTurns) {
+    window.Run([](editing::Editor& editor) {
+        SetWellColor(editor, 0, 0xFFFF0000);
+        SetWellColor(editor, 1, 0x800000FF);
+    });
+    Press(Part<ColorWell>("ForeColorOLE1"), {10, 10});
+    EXPECT_EQ(window.Editor().Tools.ActiveColor, 1);
+    EXPECT_EQ(Part<widgets::TrackSlider>("ColorOpacity").value(), 50);
+}
+
+TEST_F(MainWindowTest, TipsShowOnlyWhenTheyAreOnAndCloseAtAPress) {
+    NewPage(64, 64);
+    auto& balloon = Part<widgets::Balloon>("FirstBalloon");
+    const auto change = [&] {
+        window.Run([](editing::Editor& editor) { editor.Changed.Tip = {editing::tips::Adjusted}; });
+    };
+    change();
+    EXPECT_FALSE(balloon.isVisible());
+    window.SetTipsEnabled(true);
+    change();
+    EXPECT_TRUE(balloon.isVisible());
+    EXPECT_EQ(balloon.pos().x(), 230);
+    EXPECT_GT(balloon.pos().y(), Part<ButtonBar>("MainBar").geometry().bottom());
+
+    Press(Scene(), {5, 5});
+    EXPECT_TRUE(WaitUntil([&] { return !balloon.isVisible(); }));
+}
+
+TEST_F(MainWindowTest, TheBrushPanelSlidesIn) {
+    NewPage(64, 64);
+    Part<BottomPanel>("BottomTips").SetOpen(true);
+    auto& panel = Part<QWidget>("BrushPanel");
+    EXPECT_FALSE(panel.isVisible());
+    ClickBar("ToolBox", 12);
+    ClickBar("EraserBar", 1);
+    EXPECT_TRUE(WaitUntil([&] { return panel.isVisible() && panel.y() == 0; }));
+    ClickBar("ToolBox", 4);
+    EXPECT_TRUE(WaitUntil([&] { return !panel.isVisible(); }));
+}
+
+// As another hand may have left them; what the program itself stores comes back in the real window.
+TEST_F(MainWindowTest, IncompleteSettingsAreRead) {
+    {
+        Settings settings;
+        settings.clear();
+        settings.setValue("ForeColor0", "255,0,64,128");
+        settings.setValue("ForeColor1", "255,7");
+        settings.setValue("CtlScroll23", 33);
+        settings.setValue("CtlTitle6", -1);
+    }
+    window.RestoreSettings();
+    EXPECT_EQ(window.Editor().Tools.Colors[0], 0xFF004080);
+    EXPECT_EQ(window.Editor().Tools.Colors[1], 0xFF070000) << "what is missing is 0";
+    EXPECT_EQ(window.Editor().Sliders.BrushSize.Value, 33);
+    EXPECT_EQ(window.Editor().Sliders.BrushOpacity.Value, 1) << "0 is out of range";
+    EXPECT_TRUE(Part<widgets::PanelHeader>("ColorPanel").IsClosed());
+    EXPECT_FALSE(Part<widgets::PanelHeader>("LayerPanel").IsClosed());
 }
 
 }  // namespace

@@ -4,7 +4,6 @@
 
 #include <QCursor>
 #include <QElapsedTimer>
-#include <cmath>
 
 #include "app/waiting.h"
 #include "support/hands.h"
@@ -14,7 +13,6 @@ namespace {
 
 using namespace orbelle::testing;
 using ::testing::ElementsAre;
-using ::testing::IsEmpty;
 
 using BarButtons = std::vector<BarButton>;
 
@@ -38,7 +36,7 @@ struct ShownBar {
         QCursor::setPos(Bar.mapToGlobal(Middle(button).toPoint()));
         SendMouse(Bar, QEvent::MouseMove, Middle(button), Qt::NoButton, Qt::NoButton);
     }
-    // The pixel in the middle of a button, which has no icon in these tests.
+    // Buttons have no icon in these tests.
     QColor Face(int button) { return Bar.grab().toImage().pixelColor(Middle(button).toPoint()); }
     // The button with the ring of the focus; 0: none.
     int Ring() {
@@ -62,18 +60,15 @@ TEST(ButtonBarLayoutTest, PlacesButtonsAlongTheBar) {
             [](const QString& text) { return 10 * static_cast<int>(text.size()); });
     };
     const BarButton arrow{.HasArrow = true}, caption{.Caption = "New"};
-    // 15, 34 | 42, 61 | separator 69, 77 | 85, 104
     const auto plain = layOut(Qt::Horizontal, 16, {kPlain, kPlain, kSeparator, kPlain});
     EXPECT_THAT(plain.Places, ElementsAre(QRect(8, 0, 25, 25), QRect(35, 0, 25, 25), QRect(),
                                           QRect(78, 0, 25, 25)));
     EXPECT_THAT(plain.SeparatorLines, ElementsAre(0, 0, 75, 0));
     EXPECT_EQ(plain.Length, 112);
-    // 15, 47, 55, 85, 89 | 97, 129, 132 | after an arrow 148, 180, 183
     const auto captions = layOut(Qt::Horizontal, 32, {caption, arrow, kPlain});
     EXPECT_THAT(captions.Places,
                 ElementsAre(QRect(8, 0, 80, 41), QRect(90, 0, 47, 41), QRect(141, 0, 41, 41)));
     EXPECT_EQ(captions.Length, 191);
-    // 15, 31 | 39, 55 | separator 63, 71 | 79
     const auto vertical = layOut(Qt::Vertical, 16, {caption, arrow, kSeparator, kPlain});
     EXPECT_THAT(vertical.Places, ElementsAre(QRect(0, 8, 25, 23), QRect(0, 32, 25, 23), QRect(),
                                              QRect(0, 72, 25, 23)));
@@ -84,47 +79,40 @@ TEST(ButtonBarLayoutTest, PlacesButtonsAlongTheBar) {
 TEST(ButtonBarLayoutTest, HitsTheButtonUnderThePointer) {
     const ButtonBarLayout layout = {
         .Places = {{8, 0, 25, 25}, {}, {51, 0, 25, 25}}, .SeparatorLines = {}, .Length = 0};
-    const std::pair<QPoint, int> cases[] = {{{7, 0}, -1},  {{8, 0}, 0},   {{32, 24}, 0},
-                                            {{33, 9}, -1}, {{8, 25}, -1}, {{40, 9}, -1},
-                                            {{0, 0}, -1},  {{50, 9}, -1}, {{51, 9}, 2}};
+    const std::pair<QPoint, int> cases[] = {{{7, 0}, -1},  {{8, 0}, 0},  {{32, 24}, 0},
+                                            {{33, 9}, -1}, {{0, 0}, -1}, {{51, 9}, 2},
+                                            {{8, 25}, -1}};
     for (const auto& [point, button] : cases)
         EXPECT_EQ(ButtonAt(layout, point), button) << point.x() << ", " << point.y();
 }
 
-TEST(ButtonBarTest, IgnoresNumbersWithoutAButton) {
-    ButtonBar bar({.Buttons = {kLatching}});
-    for (const int number : {-1, 0, 2, 1 << 30}) {
-        bar.SetPressed(number, true);
-        bar.SetButtonEnabled(number, false);
-        EXPECT_FALSE(bar.IsPressed(number));
-        EXPECT_TRUE(bar.ButtonRect(number).isEmpty());
-    }
-    EXPECT_FALSE(bar.IsPressed(1));
-}
-
 TEST(ButtonBarTest, ClicksAtThePressWithAnyMouseButton) {
     ShownBar shown({kPlain, kSeparator, kPlain}, Qt::Vertical);
-    EXPECT_EQ(shown.Bar.LastButton(), 0);
     Press(shown.Bar, shown.Middle(3));
     EXPECT_THAT(shown.Clicks, ElementsAre(3));
     EXPECT_EQ(shown.Bar.LastButton(), 3);
-    Release(shown.Bar, shown.Middle(3));
     SendMouse(shown.Bar, QEvent::MouseButtonPress, shown.Middle(1), Qt::RightButton,
               Qt::RightButton);
     Click(shown.Bar, {1, 1});
     EXPECT_THAT(shown.Clicks, ElementsAre(3, 1));
 }
 
-TEST(ButtonBarTest, LatchesBeforeItRaisesTheClickUnlessDisabled) {
+TEST(ButtonBarTest, LatchesBeforeItRaisesTheClickUnlessDisabledOrUnknown) {
     ShownBar shown({kLatching});
     std::vector<bool> states;
     QObject::connect(&shown.Bar, &ButtonBar::Clicked,
                      [&] { states.push_back(shown.Bar.IsPressed(1)); });
-    Click(shown.Bar, shown.Middle(1));
-    Click(shown.Bar, shown.Middle(1));
-    shown.Bar.SetButtonEnabled(1, false);
-    Click(shown.Bar, shown.Middle(1));
+    for (const bool enabled : {true, true, false}) {
+        shown.Bar.SetButtonEnabled(1, enabled);
+        Click(shown.Bar, shown.Middle(1));
+    }
     EXPECT_THAT(states, ElementsAre(true, false));
+    for (const int number : {-1, 0, 2, 1 << 30}) {
+        shown.Bar.SetPressed(number, true);
+        shown.Bar.SetButtonEnabled(number, false);
+        EXPECT_FALSE(shown.Bar.IsPressed(number));
+        EXPECT_TRUE(shown.Bar.ButtonRect(number).isEmpty());
+    }
     EXPECT_FALSE(shown.Bar.IsPressed(1));
     EXPECT_EQ(shown.Face(1), kBackground);
 }
@@ -137,9 +125,7 @@ TEST(ButtonBarTest, ShowsTheStatesOfAButton) {
     Press(shown.Bar, shown.Middle(1));
     const QColor down = shown.Face(1);
     Release(shown.Bar, shown.Middle(1));
-    EXPECT_NE(hover, kBackground);
-    EXPECT_NE(down, kBackground);
-    EXPECT_NE(down, hover);
+    EXPECT_TRUE(hover != kBackground && down != kBackground && down != hover);
     EXPECT_EQ(shown.Face(1), hover);
 
     QEvent leave(QEvent::Leave);
@@ -156,7 +142,6 @@ TEST(ButtonBarTest, HoverEndsWithoutAMoveOutside) {
     stay.start();
     WaitUntil([&] { return stay.elapsed() > 150; });
     EXPECT_NE(shown.Face(1), kBackground);
-
     // Moving the pointer raises no event for the bar here.
     shown.Bar.setMouseTracking(false);
     QCursor::setPos(shown.Bar.mapToGlobal(QPoint(0, shown.Bar.height() + 300)));
@@ -167,12 +152,13 @@ TEST(ButtonBarTest, DrawsTheSeparatorLines) {
     ButtonBar bar({.Buttons = {kSeparator}});
     bar.resize(40, 26);
     const QImage image = bar.grab().toImage();
-    // p = 7 + 8 + 8: lines at 20 and 21, from 2 to 22.
-    for (const int y : {2, 21})
-        EXPECT_EQ(image.pixelColor(20, y), QColor(220, 220, 220));
-    EXPECT_EQ(image.pixelColor(21, 2), QColor(253, 253, 253));
-    for (const QPoint& outside : {QPoint(20, 1), QPoint(20, 22), QPoint(19, 10), QPoint(22, 10)})
-        EXPECT_EQ(image.pixelColor(outside), kBackground);
+    // Two lines at 20 and 21, from 2 to 22.
+    const std::pair<QPoint, QColor> pixels[] = {
+        {{20, 2}, {220, 220, 220}}, {{20, 21}, {220, 220, 220}}, {{21, 2}, {253, 253, 253}},
+        {{20, 1}, kBackground},     {{20, 22}, kBackground},     {{19, 10}, kBackground},
+        {{22, 10}, kBackground}};
+    for (const auto& [place, color] : pixels)
+        EXPECT_EQ(image.pixelColor(place), color) << place.x() << ", " << place.y();
 }
 
 TEST(ButtonBarTest, KeysWalkOverEnabledButtonsAndPress) {
@@ -198,15 +184,7 @@ TEST(ButtonBarTest, KeysWalkOverEnabledButtonsAndPress) {
     EXPECT_FALSE(shown.Bar.IsPressed(5)) << "pressed twice";
     shown.Bar.SetButtonEnabled(2, false);
     Strike(shown.Bar, Qt::Key_Space);
-    EXPECT_THAT(shown.Clicks, IsEmpty());
-}
-
-TEST(ButtonBarTest, MeasuresItsCaptions) {
-    const int plain = ButtonBar({.Buttons = {kPlain}}).sizeHint().width();
-    const ButtonBar bar({.Buttons = {{.Caption = "A caption"}}});
-    EXPECT_EQ(
-        bar.sizeHint().width() - plain,
-        9 + static_cast<int>(std::ceil(QFontMetricsF(bar.font()).horizontalAdvance("A caption"))));
+    EXPECT_THAT(shown.Clicks, ElementsAre());
 }
 
 TEST(ButtonBarTest, AssistiveToolsReachTheButtons) {
@@ -226,7 +204,6 @@ TEST(ButtonBarTest, AssistiveToolsReachTheButtons) {
     EXPECT_EQ(undo->text(QAccessible::Name), "Undo");
     EXPECT_TRUE(undo->state().disabled && undo->state().pressed);
     EXPECT_FALSE(first->state().disabled || first->state().pressed);
-
     for (QAccessibleInterface* button : {first, undo})
         button->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
     EXPECT_THAT(shown.Clicks, ElementsAre(1));

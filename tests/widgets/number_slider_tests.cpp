@@ -40,36 +40,50 @@ protected:
     const QPointF up_{65, 6}, down_{65, 18}, open_{83, 12};
 };
 
-TEST_F(NumberSliderTest, AnOwnersValueIsSilentAndMayLieBeyondTheRange) {
-    slider_.SetValue(300);
-    EXPECT_EQ(slider_.Value(), 300);
-    EXPECT_EQ(field_.text(), "300");
-    EXPECT_EQ(track_.Place(), 100);
-    slider_.SetRange(0, 10);
-    EXPECT_EQ(slider_.Value(), 300);
-    EXPECT_EQ(gestures_.Told(), "");
+TEST(SliderScaleTest, DragsByTenthsUpToTenAndElseOverTheWholeTrack) {
+    const struct {
+        int MaxValue;
+        double X;
+        int Value;
+        double Place;
+    } cases[] = {
+        {10, 50, 5, 43},     {10, 5, 0, 0},        {10, 15, 2, 13},      {10, 25, 2, 13},
+        {5, 50, 5, 43},      {5, 56, 5, 100},      {11, 100, 11, 93},    {255, 40, 102, 33},
+        {255, 100, 255, 93}, {255, 101, 255, 100}, {255, 900, 255, 100}, {255, -1, 0, 0},
+    };
+    for (const auto& c : cases) {
+        const SliderScale::Drag drag = SliderScale{c.MaxValue}.DragTo(c.X);
+        EXPECT_EQ(drag.Value, c.Value) << c.MaxValue << " at " << c.X;
+        EXPECT_NEAR(drag.Place, c.Place, 1e-9) << c.MaxValue << " at " << c.X;
+    }
+    const std::tuple<int, int, double> places[] = {
+        {255, 51, 13}, {255, 300, 100},    {255, INT_MIN, 0},     {10, 3, 23},
+        {0, 0, 0},     {10, INT_MAX, 100}, {INT_MAX, INT_MAX, 93}};
+    for (const auto& [maxValue, value, place] : places)
+        EXPECT_NEAR(SliderScale{maxValue}.PlaceFromValue(value), place, 1e-9)
+            << value << " of " << maxValue;
 }
 
 TEST_F(NumberSliderTest, OneTypedTextIsOneGesture) {
     Enter("102");
     EXPECT_EQ(gestures_.Told(), "pressed 1 10 102");
     EXPECT_NEAR(track_.Place(), 33, 1e-9);
-    Strike(field_, Qt::Key_Return, "\r");
-    EXPECT_EQ(gestures_.Told(), "released");
-    Strike(field_, Qt::Key_Return, "\r");
-    EXPECT_EQ(gestures_.Told(), "");
+    for (const char* told : {"released", ""}) {
+        Strike(field_, Qt::Key_Return, "\r");
+        EXPECT_EQ(gestures_.Told(), told);
+    }
     Enter("300");
     slider_.hide();
     EXPECT_EQ(slider_.Value(), 300) << "typed values may lie beyond the range";
 }
 
 TEST_F(NumberSliderTest, TypedTextsThatAreNoNumberChangeNothing) {
+    const auto insert = [&](const char* text) {
+        field_.setText(text);
+        emit field_.textEdited(text);
+    };
     for (const char* text : {"", "x", "- ", "nan", "inf", "99999999999", "-2147483649", "0x10"}) {
-        field_.selectAll();
-        field_.del();
-        field_.insert(text);
-        emit field_.textEdited(field_.text());
-        EXPECT_EQ(gestures_.Told(), "") << text;
+        insert(text);
         Strike(field_, Qt::Key_Return, "\r");
         EXPECT_EQ(field_.text(), "51") << text;
         EXPECT_EQ(gestures_.Told(), "") << text;
@@ -77,20 +91,22 @@ TEST_F(NumberSliderTest, TypedTextsThatAreNoNumberChangeNothing) {
     const std::pair<const char*, int> numbers[] = {
         {" 60 ", 60}, {"-3", -3}, {"2.5", 2}, {"3.5", 4}, {"2147483647", INT_MAX}};
     for (const auto& [text, number] : numbers) {
-        field_.setText(text);
-        emit field_.textEdited(text);
+        insert(text);
         EXPECT_EQ(slider_.Value(), number) << text;
     }
 }
 
-TEST_F(NumberSliderTest, AnOwnerThatAnswersATypedValueDoesNotDisturbTheTyping) {
+TEST_F(NumberSliderTest, AnOwnerMayLimitWhatIsTypedOrDragged) {
     QObject::connect(&slider_, &NumberSlider::Changed, &slider_,
-                     [this](int value) { slider_.SetValue(std::min(value, 200)); });
+                     [this](int value) { slider_.SetValue(std::min(value, 204)); });
+    Press(track_, OnThumb());
+    DragTo(track_, {200, OnThumb().y()});
+    EXPECT_EQ(slider_.Value(), 204);
+    EXPECT_NEAR(track_.Place(), 73, 1e-9);
     Enter("12");
-    EXPECT_EQ(slider_.Value(), 12);
+    EXPECT_EQ(slider_.Value(), 12) << "the typing was disturbed";
     Enter("250");
-    EXPECT_EQ(slider_.Value(), 200);
-    EXPECT_EQ(field_.text(), "200");
+    EXPECT_EQ(field_.text(), "204");
 }
 
 TEST_F(NumberSliderTest, ArrowsStepWithinTheRange) {
@@ -117,8 +133,7 @@ TEST_F(NumberSliderTest, AHeldArrowRepeatsWithinOneGesture) {
         QApplication::processEvents(QEventLoop::WaitForMoreEvents, 100);
     Release(slider_, up_);
     const std::string told = gestures_.Told();
-    EXPECT_TRUE(told.starts_with("pressed 52 53 54")) << told;
-    EXPECT_TRUE(told.ends_with(" released")) << told;
+    EXPECT_TRUE(told.starts_with("pressed 52 53 54") && told.ends_with(" released")) << told;
 }
 
 TEST_F(NumberSliderTest, WhatInterruptsAGestureEndsIt) {
@@ -139,39 +154,34 @@ TEST_F(NumberSliderTest, WhatInterruptsAGestureEndsIt) {
     EXPECT_EQ(gestures_.Told(), "pressed released");
 }
 
+TEST_F(NumberSliderTest, TellsNothingMoreWhenItIsDestroyedInADrag) {
+    auto slider = std::make_unique<NumberSlider>();
+    auto& track = *slider->findChild<SliderTrack*>();
+    Gestures gestures(*slider);
+    Press(track, track.ThumbRect().center());
+    slider.reset();
+    EXPECT_EQ(gestures.Told(), "pressed");
+}
+
 TEST_F(NumberSliderTest, TheTrackOpensAndOnlyItsThumbIsDragged) {
     EXPECT_FALSE(track_.isVisible());
     Click(slider_, open_);
     ASSERT_TRUE(track_.isVisible());
-    const QPointF beside = OnThumb() + QPointF(30, 0);
-    Press(track_, beside);
-    DragTo(track_, beside + QPointF(10, 0));
-    Release(track_, beside);
-    EXPECT_EQ(gestures_.Told(), "");
-
     const double trackStart = track_.ThumbRect().left() - 13;
     const auto at = [&](double x) { return QPointF(trackStart + x, OnThumb().y()); };
-    Press(track_, OnThumb());
-    DragTo(track_, at(40));
-    EXPECT_NEAR(track_.Place(), 33, 1e-9);
-    DragTo(track_, at(140));
-    EXPECT_EQ(track_.Place(), 100);
-    DragTo(track_, at(200));
-    DragTo(track_, at(-20));
-    EXPECT_EQ(track_.Place(), 0);
-    Release(track_, at(-20));
-    EXPECT_EQ(gestures_.Told(), "pressed 102 255 0 released");
-    DragTo(track_, at(40));
+    Press(track_, at(50));
+    DragTo(track_, at(60));
+    Release(track_, at(60));
     EXPECT_EQ(gestures_.Told(), "");
-}
 
-TEST_F(NumberSliderTest, TheThumbFollowsAnOwnerThatLimitsADrag) {
-    QObject::connect(&slider_, &NumberSlider::Changed, &slider_,
-                     [this](int value) { slider_.SetValue(std::min(value, 204)); });
     Press(track_, OnThumb());
-    DragTo(track_, {200, OnThumb().y()});
-    EXPECT_EQ(slider_.Value(), 204);
-    EXPECT_NEAR(track_.Place(), 73, 1e-9);
+    for (const auto& [x, place] : {std::pair(40, 33), {140, 100}, {200, 100}, {-20, 0}}) {
+        DragTo(track_, at(x));
+        EXPECT_NEAR(track_.Place(), place, 1e-9);
+    }
+    Release(track_, at(-20));
+    DragTo(track_, at(40));
+    EXPECT_EQ(gestures_.Told(), "pressed 102 255 0 released");
 }
 
 TEST_F(NumberSliderTest, KeysStepOnTheOpenTrack) {
@@ -185,15 +195,6 @@ TEST_F(NumberSliderTest, KeysStepOnTheOpenTrack) {
         Strike(track_, key);
     EXPECT_EQ(gestures_.Told(),
               "pressed 51 released pressed 52 released pressed 51 released pressed 50 released");
-}
-
-TEST_F(NumberSliderTest, TellsNothingMoreWhenItIsDestroyedInADrag) {
-    auto slider = std::make_unique<NumberSlider>();
-    auto& track = *slider->findChild<SliderTrack*>();
-    Gestures gestures(*slider);
-    Press(track, track.ThumbRect().center());
-    slider.reset();
-    EXPECT_EQ(gestures.Told(), "pressed");
 }
 
 TEST_F(NumberSliderTest, IsOneStopOfTheTabKey) {
@@ -213,16 +214,15 @@ TEST_F(NumberSliderTest, IsOneStopOfTheTabKey) {
 TEST_F(NumberSliderTest, IsASpinBoxToAssistiveTools) {
     slider_.setAccessibleName("Line width");
     QAccessibleInterface* spin = QAccessible::queryAccessibleInterface(&slider_);
-    ASSERT_TRUE(spin);
+    ASSERT_TRUE(spin && spin->valueInterface());
     EXPECT_EQ(spin->role(), QAccessible::SpinBox);
     EXPECT_EQ(spin->text(QAccessible::Name), "Line width");
     EXPECT_EQ(spin->text(QAccessible::Value), "51");
-    QAccessibleValueInterface* value = spin->valueInterface();
-    ASSERT_TRUE(value);
-    EXPECT_EQ(value->minimumValue().toInt(), 5);
-    EXPECT_EQ(value->maximumValue().toInt(), 255);
-    value->setCurrentValue(1000);
-    EXPECT_EQ(value->currentValue().toInt(), 255);
+    QAccessibleValueInterface& value = *spin->valueInterface();
+    EXPECT_EQ(value.minimumValue().toInt(), 5);
+    EXPECT_EQ(value.maximumValue().toInt(), 255);
+    value.setCurrentValue(1000);
+    EXPECT_EQ(value.currentValue().toInt(), 255);
     EXPECT_EQ(gestures_.Told(), "pressed 255 released");
     slider_.activateWindow();
     QApplication::processEvents();

@@ -43,41 +43,33 @@ TEST(FocusTest, IsShownInTheAccentColour) {
     }
 }
 
-TEST(PanelHeaderTest, TurnsAtAClickAndAtSpaceAndReturn) {
+TEST(PanelHeaderTest, TurnsAtAClickAndAtSpaceAndReturnAndShowsIt) {
     PanelHeader header("Icon Opacity");
     header.resize(200, 24);
-    QAccessibleInterface* button = QAccessible::queryAccessibleInterface(&header);
-    ASSERT_TRUE(button);
-    EXPECT_EQ(button->text(QAccessible::Name), "Icon Opacity");
+    const QImage open = header.grab().toImage();
     QList<bool> told;
     QObject::connect(&header, &PanelHeader::Clicked, [&](bool closed) { told << closed; });
-    EXPECT_FALSE(header.IsClosed());
     Click(header, {20, 12});
     EXPECT_TRUE(header.IsClosed());
-    EXPECT_TRUE(button->state().checkable);
-    EXPECT_FALSE(button->state().checked) << "checked while its panel is open";
-    Click(header, {190, 12});
-    Strike(header, Qt::Key_Space, " ");
-    Strike(header, Qt::Key_Return, "\r");
-    Strike(header, Qt::Key_A, "a");
-    EXPECT_EQ(told, QList<bool>({true, false, true, false}));
-    header.SetClosed(true);
-    EXPECT_TRUE(header.IsClosed());
-    EXPECT_EQ(told.size(), 4) << "told of what its owner did";
-}
-
-TEST(PanelHeaderTest, ShowsWhetherItIsClosed) {
-    PanelHeader header("Layer");
-    header.resize(200, 24);
-    const QImage open = header.grab().toImage();
-    header.SetClosed(true);
     const QImage closed = header.grab().toImage();
     const QRect chevron(176, 0, 24, 24);
     EXPECT_NE(open.copy(chevron), closed.copy(chevron));
     EXPECT_EQ(open.copy(0, 0, 176, 24), closed.copy(0, 0, 176, 24));
+    const QAccessibleInterface* button = QAccessible::queryAccessibleInterface(&header);
+    ASSERT_TRUE(button);
+    EXPECT_EQ(button->text(QAccessible::Name), "Icon Opacity");
+    EXPECT_TRUE(button->state().checkable && !button->state().checked) << "checked while open";
+
+    Click(header, {190, 12});
+    Strike(header, Qt::Key_Space, " ");
+    Strike(header, Qt::Key_Return, "\r");
+    Strike(header, Qt::Key_A, "a");
+    header.SetClosed(true);
+    EXPECT_TRUE(header.IsClosed());
+    EXPECT_EQ(told, QList<bool>({true, false, true, false})) << "its owner's doing is not told";
 }
 
-TEST(BalloonTest, HeightFollowsTheTextInAFixedWidth) {
+TEST(BalloonTest, TakesTheHeightOfItsTextAndPointsUpOrDownAtThe35thPixel) {
     Balloon balloon;
     int height = 0;
     for (const char* text :
@@ -87,21 +79,14 @@ TEST(BalloonTest, HeightFollowsTheTextInAFixedWidth) {
         EXPECT_GT(balloon.height(), std::exchange(height, balloon.height())) << text;
         EXPECT_EQ(balloon.width(), 190) << text;
     }
-}
-
-TEST(BalloonTest, PointsUpOrDownAtThe35thPixel) {
-    Balloon balloon;
-    balloon.SetText("Here.");
     const auto isInked = [&](int y) {
         const QImage picture = balloon.grab().toImage();
         return picture.pixel(36, y) != picture.pixel(180, y);
     };
     const int last = balloon.height() - 2;
-    EXPECT_TRUE(isInked(1));
-    EXPECT_FALSE(isInked(last - 2));
+    EXPECT_TRUE(isInked(1) && !isInked(last - 2));
     balloon.SetPointsDown(true);
-    EXPECT_TRUE(isInked(last));
-    EXPECT_FALSE(isInked(3));
+    EXPECT_TRUE(isInked(last) && !isInked(3));
 }
 
 TEST(BalloonTest, ComesUpAboveItsSiblingsAndTellsOfAClick) {
@@ -126,20 +111,16 @@ TEST(BalloonTest, ComesUpAboveItsSiblingsAndTellsOfAClick) {
     EXPECT_EQ(clicks, 1);
 }
 
-TEST(CaptionTextTest, WrapsByWords) {
-    const CaptionText caption("A text block, wrapped by words.");
-    EXPECT_GT(caption.heightForWidth(80), caption.heightForWidth(400));
-}
-
-TEST(AccessibleRoleTest, BalloonsAndCaptionsSpeakTheirTexts) {
+TEST(TextsTest, AreWrappedAndReachAssistiveTools) {
     Balloon balloon;
     balloon.SetText("Click here.");
-    CaptionText caption("A block of text.");
+    CaptionText caption("A block of text, wrapped by words.");
+    EXPECT_GT(caption.heightForWidth(80), caption.heightForWidth(400));
     const std::tuple<QWidget*, QAccessible::Role, const char*> cases[] = {
         {&balloon, QAccessible::AlertMessage, "Click here."},
-        {&caption, QAccessible::StaticText, "A block of text."}};
+        {&caption, QAccessible::StaticText, "A block of text, wrapped by words."}};
     for (const auto& [widget, role, text] : cases) {
-        QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(widget);
+        const QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(widget);
         ASSERT_TRUE(accessible);
         EXPECT_EQ(accessible->role(), role);
         EXPECT_EQ(accessible->text(QAccessible::Name), text);

@@ -22,25 +22,14 @@ QImage Draw(const QRect& place, int ratio) {
 }
 
 TEST(SkinTest, DrawsNinePartsPixelExactAndCrispAtDoubleRatio) {
-    // A place of 30 x 25 gives a face of 31 x 26: parts of 4, 23, 4 and 4, 18, 4 pixels.
+    // A place of 30 x 25 gives a face of 31 x 26: parts of 4, 23, 4 and 4, 18, 4 pixels. Those
+    // between the corners are stretched without mixing neighbours.
     const QImage canvas = Draw(QRect(3, 5, 30, 25), 1);
     const std::pair<QPoint, QPoint> pixels[] = {
-        // The corners, from end to end.
-        {{3, 5}, {0, 0}},
-        {{6, 8}, {3, 3}},
-        {{30, 5}, {22, 0}},
-        {{33, 8}, {25, 3}},
-        {{3, 27}, {0, 36}},
-        {{6, 30}, {3, 39}},
-        {{30, 27}, {22, 36}},
-        {{33, 30}, {25, 39}},
-        // The parts between are stretched without mixing neighbours.
-        {{7, 6}, {4, 1}},
-        {{29, 6}, {7, 1}},
-        {{4, 9}, {1, 4}},
-        {{4, 26}, {1, 35}},
-        {{7, 9}, {4, 4}},
-        {{29, 26}, {7, 35}}};
+        {{3, 5}, {0, 0}},   {{6, 8}, {3, 3}},   {{30, 5}, {22, 0}},   {{33, 8}, {25, 3}},
+        {{3, 27}, {0, 36}}, {{6, 30}, {3, 39}}, {{30, 27}, {22, 36}}, {{33, 30}, {25, 39}},
+        {{7, 6}, {4, 1}},   {{29, 6}, {7, 1}},  {{4, 9}, {1, 4}},     {{4, 26}, {1, 35}},
+        {{7, 9}, {4, 4}},   {{29, 26}, {7, 35}}};
     for (const auto& [place, part] : pixels)
         EXPECT_EQ(canvas.pixelColor(place), QColor(part.x(), part.y(), 200))
             << place.x() << ", " << place.y();
@@ -51,10 +40,8 @@ TEST(SkinTest, DrawsNinePartsPixelExactAndCrispAtDoubleRatio) {
     for (int y = 0; y < 8; ++y)
         for (int x = 0; x < 7; ++x)
             EXPECT_EQ(large.pixelColor(2 * x + 1, 2 * y + 1), canvas.pixelColor(x, y));
-}
-
-TEST(SkinTest, SkipsPlacesTooSmallForItsCorners) {
-    EXPECT_EQ(Draw(QRect(3, 5, 7, 25), 1).pixelColor(4, 6), QColor(Qt::white));
+    EXPECT_EQ(Draw(QRect(3, 5, 7, 25), 1).pixelColor(4, 6), QColor(Qt::white))
+        << "too small for the corners";
 }
 
 }  // namespace
