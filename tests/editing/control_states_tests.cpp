@@ -90,10 +90,6 @@ TEST_F(ControlStatesTest, FollowTheSituation) {
          "+ -+ ++-+ - + - - + + + + + + +"},
         {"deleting undone", [&] { NewStack(2, 1), Do(DeleteLayer), Do(Undo); },
          "+ -+ ++-+ + + +-+- + + + + + + + +"},
-        {"the largest zoom", [&] { NewStack(1, 0), SetZoom(20); },
-         "+ - ++-+ - + - - + + + + -+ + +"},
-        {"the least", [&] { NewStack(1, 0), SetZoom(0.2 + 1e-9); },
-         "+ - ++-+ - + - - + + + + +- + +"},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.Situation);

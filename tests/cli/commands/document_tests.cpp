@@ -67,15 +67,19 @@ TEST_F(DocumentCommands, WhatEachMakes) {
 }
 
 TEST_F(DocumentCommands, WhatFailsLeavesEverythingAsItWas) {
-    std::vector<std::pair<std::string, std::string>> failures{
-        {"import no.png", "No such file or directory"},
-        {"open no.png", "No such file or directory"},
+    const std::string none = "No such file or directory";
+    const std::string size = "Please input a integer from 1 to 512.";
+    const std::pair<std::string, std::string> failures[] = {
+        {"import no.png", none},
+        {"open no.png", none},
+        {"save no/s.volf", none},
         {"open bad.volf", "Invalid File"},
         {"open a.ICO", "there is no image 2; the icon offers 2"},
-        {"save no/s.volf", "No such file or directory"},
+        {"new 0 8", size},
+        {"new 8 513", size},
+        {"new -1 8", size},
+        {"new 99999999999 8", size},
     };
-    for (const char* size : {"0 8", "8 513", "513 8", "-1 8", "8 0", "99999999999 8"})
-        failures.emplace_back(std::string("new ") + size, "Please input a integer from 1 to 512.");
     for (const auto& [verb, reason] : failures)
         Check("open a.png import b.png undo background #112233 icon-entry 2 ",
               "widths 12, selected 0, undo 0, redo 1, modified true, page/width 12, path , title "
@@ -134,11 +138,9 @@ TEST_F(DocumentCommands, AFullHistoryLeavesEverything) {
          "tool brush-eraser click 5 5"},
         {1, "merge,style crystal,style reflection,style shade,style fresh,style origami-vertical"}};
     std::vector<std::pair<int, std::string>> edits;
-    for (const auto& [free, list] : lists) {
-        std::istringstream verbs(list);
-        for (std::string edit; std::getline(verbs, edit, ',');)
+    for (const auto& [free, list] : lists)
+        for (const std::string& edit : Split(list, ","))
             edits.emplace_back(free, edit);
-    }
     for (const auto& [free, edit] : edits) {
         SCOPED_TRACE(edit);
         std::ostringstream output;

@@ -32,11 +32,9 @@ TEST_F(HandOnTheScene, PicksTheTopmostVisibleLayerByItsRegion) {
     } cases[] = {{"9 5,11 8,14 6,16 6", "1"},
                  {"12 6,13 6,17 6,10 4,10 9,-1 6,38 29", "0"},
                  {"39 6,-2 6,10 30", "-1"}};
-    for (const auto& [places, selected] : cases) {
-        std::istringstream list(places);
-        for (std::string place; std::getline(list, place, ',');)
+    for (const auto& [places, selected] : cases)
+        for (const std::string& place : Split(places, ","))
             Check("open two.volf click ", "undo 0, selected ", {{"a pick", place, selected}});
-    }
     Check({
         {"hidden layers are not picked", "open hidden.volf click 10 6", "selected 0"},
         {"with none visible the selection stays", "open none.volf click 39 6", "selected 0"},

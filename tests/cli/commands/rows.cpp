@@ -3,7 +3,6 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
-#include <iterator>
 #include <nlohmann/json.hpp>
 
 #include "cli/document_json.h"
@@ -58,15 +57,13 @@ std::string Channel(const Bitmap& picture, const std::string& question,
     char what = 0, direction = 0;
     int x = 0, y = 0, tolerance = 0;
     std::sscanf(question.c_str(), "/%c%*[a-z]%c%d,%d~%d", &what, &direction, &x, &y, &tolerance);
-    std::istringstream words(expected);
     std::string text;
     bool near = true;
-    for (auto word = std::istream_iterator<int>(words); word != std::istream_iterator<int>();
-         ++word) {
+    for (const std::string& number : Split(expected, " ")) {
         const graphics::Argb pixel = picture.GetPixel(x, y).value_or(0);
         const int red = pixel == 0 ? -1 : static_cast<int>(graphics::RedOf(pixel));
         const int told = what == 'a' ? static_cast<int>(graphics::AlphaOf(pixel)) : red;
-        near &= std::abs(told - *word) <= tolerance;
+        near &= std::abs(told - std::stoi(number)) <= tolerance;
         text.append(text.empty() ? "" : " ").append(std::to_string(told));
         (direction == '@' ? x : y) += 1;
     }
@@ -174,10 +171,7 @@ void RowsTest::Check(const Row& row) {
         error = failure.what();
     }
     bool errorTold = error.empty();
-    std::string facts = row.Facts + ", ";
-    for (std::size_t end = 0; (end = facts.find(", ")) != std::string::npos;
-         facts.erase(0, end + 2)) {
-        const std::string fact = facts.substr(0, end);
+    for (const std::string& fact : Split(row.Facts, ", ")) {
         const std::size_t blank = std::min(fact.find(' '), fact.size());
         const std::string question = fact.substr(0, blank);
         const std::string expected = fact.substr(std::min(blank + 1, fact.size()));
@@ -219,6 +213,16 @@ std::string RunScript(Workspace& workspace, const std::string& script) {
         return failure.what();
     }
     return {};
+}
+
+std::vector<std::string> Split(const std::string& text, const std::string& separator) {
+    std::vector<std::string> parts;
+    std::size_t begin = 0;
+    for (std::size_t end = 0; (end = text.find(separator, begin)) != std::string::npos;
+         begin = end + separator.size())
+        parts.push_back(text.substr(begin, end - begin));
+    parts.push_back(text.substr(begin));
+    return parts;
 }
 
 std::string Argbs(const Bitmap& picture) {

@@ -64,6 +64,8 @@ private:
 // Runs the verbs; the text of the failure, empty when there is none.
 std::string RunScript(Workspace& workspace, const std::string& script);
 
+std::vector<std::string> Split(const std::string& text, const std::string& separator);
+
 // All pixels, row by row.
 std::string Argbs(const graphics::Bitmap& picture);
 

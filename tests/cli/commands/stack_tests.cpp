@@ -89,32 +89,26 @@ TEST_F(StackCommands, DeleteHideAndMerge) {
 
 TEST_F(StackCommands, DisabledEntriesFailWithTheReason) {
     const struct {
-        std::string Reason, Before;
-        std::vector<std::string> Verbs;
+        std::string Reason, Before, Verbs;
     } cases[] = {
-        {"there is no document", "", {"save a.volf",    "export a.png",    "page 8 8",
-                                      "select 0",       "background none", "add-layer",
-                                      "opacity 5",      "style crystal",   "info",
-                                      "region 0",       "selection",       "write-page a",
-                                      "write-scene a",  "write-layer 0 a", "tool pencil",
-                                      "click 1 1",      "key left",        "delete",
-                                      "toggle-visible", "merge",           "paste",
-                                      "hue 3"}},
-        {"the document has no layer", "new 4 4 delete", {"save a.volf", "export a.png"}},
-        {"no layer is selected", "new 4 4 delete", {"copy"}},
-        {"the selected layer is hidden", "new 4 4 toggle-visible", {"cut", "merge", "style fresh"}},
-        {"the selected layer clips the one above it", "new 4 4 style ios", {"flip vertical"}},
-        {"the clipboard holds no picture", "new 4 4", {"paste"}},
-        {"there is no layer below the selected one", "new 4 4", {"merge"}},
-        {"the selected layer is there already", "new 4 4 add-layer", {"order front"}},
-        {"the selected layer is there already", "new 4 4", {"order backward"}},
-        {"there is nothing to undo", "new 4 4", {"undo"}},
-        {"there is nothing to redo", "new 4 4 add-layer", {"redo"}},
-        {"there is no layer 1; the document has 1", "new 4 4", {"select 1"}},
-        {"the tool in use has no line width", "new 4 4 tool pencil", {"line-width 3"}},
-    };
+        {"there is no document", "",
+         "save a.volf,export a.png,page 8 8,select 0,background none,add-layer,opacity 5,"
+         "style crystal,info,region 0,selection,write-page a,write-scene a,write-layer 0 a,"
+         "tool pencil,click 1 1,key left,delete,toggle-visible,merge,paste,hue 3"},
+        {"the document has no layer", "new 4 4 delete", "save a.volf,export a.png"},
+        {"no layer is selected", "new 4 4 delete", "copy"},
+        {"the selected layer is hidden", "new 4 4 toggle-visible", "cut,merge,style fresh"},
+        {"the selected layer clips the one above it", "new 4 4 style ios", "flip vertical"},
+        {"the clipboard holds no picture", "new 4 4", "paste"},
+        {"there is no layer below the selected one", "new 4 4", "merge"},
+        {"the selected layer is there already", "new 4 4 add-layer", "order front,order forward"},
+        {"the selected layer is there already", "new 4 4", "order back,order backward"},
+        {"there is nothing to undo", "new 4 4", "undo"},
+        {"there is nothing to redo", "new 4 4 add-layer", "redo"},
+        {"there is no layer 1; the document has 1", "new 4 4", "select 1"},
+        {"the tool in use has no line width", "new 4 4 tool pencil", "line-width 3"}};
     for (const auto& [reason, before, verbs] : cases)
-        for (const std::string& verb : verbs)
+        for (const std::string& verb : Split(verbs, ","))
             Check({{"disabled", before + " " + verb, "error " + verb + ": " + reason}});
 }
 
