@@ -158,7 +158,8 @@ TEST_F(SceneInput, FramesOfASelection) {
         RectF Frame;  // on the scene
     } cases[] = {{{5, 4}, {9, 8}, {85, 64, 5, 5}},
                  {{9, 8}, {5, 4}, {86, 65, 3, 3}},
-                 {{5, 4}, {-9, 4}, {81, 64, 4, 1}}};
+                 {{5, 4}, {-9, 4}, {81, 64, 4, 1}},
+                 {{5, 4}, {70, 60}, {85, 64, 36, 27}}};
     for (const auto& c : cases) {
         for (const Tool tool : {Tool::SelectRectangle, Tool::SelectEllipse}) {
             Use(tool);

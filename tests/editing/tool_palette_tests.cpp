@@ -108,7 +108,7 @@ TEST_F(ToolPalette, KindsOfSelectionsAndErasersAreRemembered) {
     Do(ChooseSelection, Tool::SelectEllipse);
     EXPECT_TRUE(editor.Selection.Exists());
 
-    // The pencil's opacity is shown for the pencil alone, and not changed by an eraser.
+    // The pencil eraser shows an opacity of 0; the colour keeps its own.
     editor.Tools.Colors[0] = 0x80336699;
     const struct {
         Command Run;

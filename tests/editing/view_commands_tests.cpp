@@ -79,12 +79,15 @@ TEST_F(ViewCommands, OriginalSizeGoesBackToTheZoomBeforeOrToAFit) {
     EXPECT_THAT(Series(OriginalSize, 2), ElementsAre(3, 1));
     Do(ZoomIn);
     EXPECT_FALSE(OriginalSizeButton().Pressed);
-    Page(100, 200);
-    EXPECT_THAT(Series(OriginalSize, 2), ElementsAre(1, 3.8));  // (768 - 4) / 200
+    Page(100, 119);
+    Do(OriginalSize);
+    Do(OriginalSize);
+    EXPECT_EQ(editor.View.Zoom, 6.4);  // (768 - 4) / 119, in tenths
     Do(ZoomOut);
     Do(OriginalSize);
-    Do(ChangePageWidth, 400);
-    EXPECT_THAT(Series(OriginalSize, 1), ElementsAre(2.6));  // (1024 - 4) / 400
+    Do(ChangePageWidth, 417);
+    Do(OriginalSize);
+    EXPECT_EQ(editor.View.Zoom, 2.4);  // (1024 - 4) / 417
     EXPECT_FALSE(editor.Zoom.PageSizeChanged);
 }
 

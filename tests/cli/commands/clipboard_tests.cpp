@@ -87,7 +87,7 @@ TEST_F(ClipboardCommands, WholeLayers) {
         {"others are shown a page of a larger layer", "open large.volf copy paste",
          "clipboard/size 10 9, clipboard@7,7 FF204060, clipboard@8,7 00000000, "
          "clipboard@7,8 00000000, 1@9,8 FF204060"},
-        {"a size that no picture has", "open endless.volf copy",
+        {"a size no picture has", "open endless.volf copy",
          "clipboard/size 0 0, widths 84, undo 0"},
     });
 }

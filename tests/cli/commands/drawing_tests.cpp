@@ -31,10 +31,9 @@ TEST_F(DrawingTools, HardEdges) {
            {"a high square", "filled-rectangle shift-drag 13 5 12 8", "4-8: 11-15"},
            {"beyond the edge", "filled-rectangle drag 38 28 50 50", "27-29: 37-39"},
            {"an outline", "rectangle drag 10 5 13 7", "4: 9-13; 5-6: 9 13; 7: 9-13"},
-           {"a wide one", "rectangle line-width 3 drag 14 9 10 5",
+           {"wide", "rectangle line-width 3 drag 14 9 10 5",
             "3-5: 8-15; 6-7: 8-10 13-15; 8-10: 8-15"},
-           {"the line width is not the pencil's", "line line-width 9 tool pencil click 20 17",
-            "17: 20"},
+           {"the pencil takes no width", "line line-width 9 tool pencil click 20 17", "17: 20"},
            {"one move", "pencil drag 2 2 8 2", ""},
            {"freehand", "pencil drag 1 1 2 2 8 2 8 4", "2: 2-8; 3-4: 8"},
            {"resting moves are dropped", "pencil drag 2 2 5 2 5 2 6 2", "2: 5-6"},
@@ -74,27 +73,22 @@ TEST_F(DrawingTools, SmoothEdges) {
 // From black to a red of 200, over the drag's length from one pixel before the press on, and back.
 TEST_F(DrawingTools, Gradients) {
     Check(
-        "new 40 30 foreground #000000 background-colour #C80000 active background tool ", "",
+        "new 40 30 foreground #000000 background-colour #C80000 active background tool ", "0/reds",
         {{"across", "filled-rectangle fill horizontal drag 10 5 14 7",
-          "0/reds@9,4~2 0 50 100 150 200 150"},
-         {"from the press", "filled-rectangle fill horizontal drag 14 7 10 5",
-          "0/reds@9,4~2 200 150 100 50 0 50"},
-         {"down", "filled-rectangle fill vertical drag 10 5 14 7",
-          "0/reds|9,4~2 0 100 200 100 -1 -1"},
-         {"up", "filled-rectangle fill vertical drag 14 7 10 5",
-          "0/reds|9,4~2 200 100 0 100 -1 -1"},
-         {"an outline", "rectangle fill horizontal drag 10 5 14 7",
-          "0/reds@9,4~2 0 50 100 150 200 150"},
-         {"a line", "line line-width 3 fill horizontal drag 9 4 13 4", "0/reds@10,4~2 100 150 200"},
-         {"a line down", "line line-width 3 fill vertical drag 9 4 9 8",
-          "0/reds|9,5~2 100 150 200"},
+          "@9,4~2 0 50 100 150 200 150"},
+         {"back", "filled-rectangle fill horizontal drag 14 7 10 5", "@9,4~2 200 150 100 50 0 50"},
+         {"down", "filled-rectangle fill vertical drag 10 5 14 7", "|9,4~2 0 100 200 100 -1 -1"},
+         {"up", "filled-rectangle fill vertical drag 14 7 10 5", "|9,4~2 200 100 0 100 -1 -1"},
+         {"outline", "rectangle fill horizontal drag 10 5 14 7", "@9,4~2 0 50 100 150 200 150"},
+         {"a line", "line line-width 3 fill horizontal drag 9 4 13 4", "@10,4~2 100 150 200"},
+         {"a line down", "line line-width 3 fill vertical drag 9 4 9 8", "|9,5~2 100 150 200"},
          // Its ellipse is that of the drag, two pixels smaller than the shape: (9, 9, 8, 8)
          // around (13, 13). Beyond it nothing is painted.
          {"from the middle", "filled-ellipse fill radial drag 10 10 18 18",
-          "0/reds@10,13~3 150 100 50 0 50 100 150, 0/reds|13,10~3 150 100 50 0 50 100 150, "
+          "@10,13~3 150 100 50 0 50 100 150, 0/reds|13,10~3 150 100 50 0 50 100 150, "
           "0@18,13 00000000, 0@13,18 00000000"},
-         {"of a rectangle", "filled-rectangle fill radial drag 10 10 18 18", "0/reds@13,13~3 0"},
-         {"the pencil has none", "pencil fill vertical click 3 3", "0@3,3 FFC80000"}});
+         {"of a rectangle", "filled-rectangle fill radial drag 10 10 18 18", "@13,13~3 0"},
+         {"the pencil has none", "pencil fill vertical click 3 3", "@3,3 200"}});
 }
 
 TEST_F(DrawingTools, ColoursAndPlaces) {
@@ -131,8 +125,7 @@ TEST_F(DrawingTools, Erasers) {
     Check("open blue.png tool brush-eraser brush-size ", "0/alphas@10,10 ",
           {{"R 3, L 250", "2 brush-opacity 100 click 10 10",
             "5 88 172 255, 0/alphas@11,11 123, 0/alphas@10,8 172"},
-           {"R 4: 67.5, 130, 192.5", "3 brush-opacity 100 click 10 10",
-            "5 68 130 192 255, 0/alphas@11,11 93"},
+           {"R 4, L 250", "3 brush-opacity 100 click 10 10", "5 68 130 192 255, 0/alphas@11,11 93"},
            {"R 2, L 100", "1 brush-opacity 41 click 10 10", "155 205 255, 0/alphas@11,11 226"},
            {"L 0", "9 brush-opacity 1 click 10 10", "255 255"}});
     // Stamps lie more than twenty scene pixels apart, whatever the zoom.

@@ -68,8 +68,7 @@ TEST_F(StackCommands, DeleteHideAndMerge) {
          {"and comes back", "new 8 8 delete undo", "widths 8, selected 0, undo 0, redo 1"},
          {"hidden without an undo step", "open four.volf toggle-visible",
           "3/visible false, undo 0, modified false, page@3,0 00000000"},
-         {"shown again", "open four.volf toggle-visible toggle-visible",
-          "3/visible true, page@3,0 66204060"},
+         {"shown again", "open four.volf toggle-visible toggle-visible", "page@3,0 66204060"},
          // Alpha 0.5 x 255 rounds to 128; both at once: R = 255 x 128 + 128 x 127 = 48896, which is
          // 192 x 255, and red is (255 x 128 x 192 + 128 x 127 x 32) / R = 139.
          {"both layers in the box of both, in two steps",

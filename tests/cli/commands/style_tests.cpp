@@ -88,10 +88,9 @@ TEST_F(StyleCommands, WhatTheyDraw) {
         {"folds take the foreground", "foreground #00FF00 open a.volf style origami-vertical",
          "2@0,0 00000000, 2@1,0 0200FF00, 2@1,1 0500FF00"},
         // Grey of 0x33 + 0x66 + 0xCC is 0.3 x 357 = 107.1; then 255 (107 / 255)^0.5 = 165.2.
-        {"disabled, all layers", "open a.volf select 0 style disabled",
-         "1@0,0 FFA5A5A5, 0@0,0 00000000"},
+        {"all disabled", "open a.volf select 0 style disabled", "1@0,0 FFA5A5A5, 0@0,0 00000000"},
         // 255 (51 / 255)^0.65 = 89.6, 255 (102 / 255)^0.65 = 140.6, 255 (204 / 255)^0.65 = 220.6.
-        {"hot, all layers", "open a.volf select 0 style hot", "1@0,0 FF5A8DDD"},
+        {"all hot", "open a.volf select 0 style hot", "1@0,0 FF5A8DDD"},
     });
 }
 
@@ -107,30 +106,30 @@ TEST_F(StyleCommands, AdjustmentsStartFromThePress) {
     const auto light = [](double contrast, double brightness) {
         return [=](Bitmap& image) { BrightnessColor(image, contrast, brightness); };
     };
-    Check("open glass.png ", "undo 1",
-          {{"steps of one drag do not add up", "hue 10 90 40",
-            ", 0/hue 40, slider/hue 40" + adjusted({hue(140)})},
-           // 3.5 and 10.5 are ties: to 4 and to 10.
-           {"a tie up", "hue 1", adjusted({hue(4)})},
-           {"and down", "hue 3", adjusted({hue(10)})},
-           {"none", "saturation 0", ", 0/saturation 0" + adjusted({saturation(-100)})},
-           {"little", "saturation 39", adjusted({saturation(-2)})},
-           {"much", "saturation 41", adjusted({saturation(2)})},
-           {"most", "saturation 100", adjusted({saturation(150)})},
-           {"bright", "brightness 60", ", 0/brightness 60" + adjusted({light(1, 50)})},
-           {"dark", "brightness 0", adjusted({light(1, -250)})},
-           {"even", "contrast 0", ", 0/contrast 0" + adjusted({light(0.2, 0)})},
-           {"hard", "contrast 100", adjusted({light(5, 0)})},
-           {"as it was", "contrast 50", adjusted({light(1, 0)})},
-           {"opacity", "opacity 80 20 50", ", 0/opacity 0.5, page@0,0 60336699, slider/opacity 50"},
-           // The ratio stays, and the drag's end draws the picture.
-           {"scale", "scale 60",
-            ", 0/rect 0 0 20 16, 0/size 20 16, 0/image 20 16, 0/base_rect 0 0 20 16, 0/scale 0, "
-            "0@0,0 C0336699, 0@19,15 C0336699, 0/region -1 0 20 16, slider/scale 50"},
-           // 8 / 10 of 5 is 4 at first; the second step reads the ratio of 15 to 12.
-           {"scaled away", "scale 55 40", ", 0/rect 0 0 0 0, 0/image 0 0, 0/size 10 8"}});
+    Check(
+        "open glass.png ", "undo 1",
+        {{"steps don't add up", "hue 10 90 40", ", 0/hue 40, slider/hue 40" + adjusted({hue(140)})},
+         // 3.5 and 10.5 are ties: to 4 and to 10.
+         {"a tie up", "hue 1", adjusted({hue(4)})},
+         {"and down", "hue 3", adjusted({hue(10)})},
+         {"none", "saturation 0", ", 0/saturation 0" + adjusted({saturation(-100)})},
+         {"little", "saturation 39", adjusted({saturation(-2)})},
+         {"much", "saturation 41", adjusted({saturation(2)})},
+         {"most", "saturation 100", adjusted({saturation(150)})},
+         {"bright", "brightness 60", ", 0/brightness 60" + adjusted({light(1, 50)})},
+         {"dark", "brightness 0", adjusted({light(1, -250)})},
+         {"even", "contrast 0", ", 0/contrast 0" + adjusted({light(0.2, 0)})},
+         {"hard", "contrast 100", adjusted({light(5, 0)})},
+         {"as it was", "contrast 50", adjusted({light(1, 0)})},
+         {"opacity", "opacity 80 20 50", ", 0/opacity 0.5, page@0,0 60336699, slider/opacity 50"},
+         // The ratio stays, and the drag's end draws the picture.
+         {"scale", "scale 60",
+          ", 0/rect 0 0 20 16, 0/size 20 16, 0/image 20 16, 0/base_rect 0 0 20 16, 0/scale 0, "
+          "0@0,0 C0336699, 0@19,15 C0336699, 0/region -1 0 20 16, slider/scale 50"},
+         // 8 / 10 of 5 is 4 at first; the second step reads the ratio of 15 to 12.
+         {"scaled away", "scale 55 40", ", 0/rect 0 0 0 0, 0/image 0 0, 0/size 10 8"}});
     Check({
-        {"drags do add up", "open glass.png hue 40 hue 60",
+        {"drags do", "open glass.png hue 40 hue 60",
          "0/hue 60, undo 2" + adjusted({hue(140), hue(210)})},
         {"undo", "open glass.png hue 40 hue 60 undo",
          "0/hue 40, slider/hue 40" + adjusted({hue(140)})},
