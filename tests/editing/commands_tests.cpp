@@ -2,10 +2,7 @@
 // that nothing happens without a selected layer.
 #include "editing/adjust_sliders.h"
 #include "editing/clipboard_commands.h"
-#include "editing/layer_bar.h"
 #include "editing/layer_commands.h"
-#include "editing/selection_commands.h"
-#include "editing/slider_positions.h"
 #include "editing/stack_commands.h"
 #include "editing/tips.h"
 #include "editing/undo_commands.h"

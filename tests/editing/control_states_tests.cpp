@@ -1,14 +1,10 @@
 #include "editing/control_states.h"
 
 #include "editing/buttons.h"
-#include "editing/clipboard_commands.h"
 #include "editing/layer_bar.h"
 #include "editing/layer_commands.h"
 #include "editing/stack_commands.h"
-#include "editing/style_commands.h"
-#include "editing/tool_palette.h"
 #include "editing/undo_commands.h"
-#include "editing/view_commands.h"
 #include "editing_fixture.h"
 
 namespace orbelle::editing {

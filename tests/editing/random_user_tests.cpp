@@ -75,15 +75,15 @@ protected:
     }
 
     void Command() {
-        using Action = std::function<void()>;
-        const Action actions[] = {
+        using graphics::Argb;
+        const editing::Command plain[] = {PressHideLayer,     PressAddLayer, CopyToClipboard,
+                                          PasteFromClipboard, Redo,          ExchangeColor};
+        const std::function<void()> actions[] = {
             [&] { Do(RandomCommand().Run); },
             [&] { Do(RandomCommand().Run); },
-            [&] { Do(PressHideLayer); },
-            [&] { Do(PressAddLayer); },
-            [&] { Do(CopyToClipboard); },
-            [&] { Do(PasteFromClipboard); },
-            [&] { Do(PasteFromClipboard); },
+            [&] { Do(plain[Below(6)]); },
+            [&] { Do(plain[Below(6)]); },
+            [&] { Do(plain[Below(6)]); },
             [&] {
                 recorder.Put(testing::FilledPicture(9, 7, 0x40FF0000), "another program");
                 Do(PasteFromClipboard);
@@ -92,14 +92,9 @@ protected:
             [&] { SliderDrag(); },
             [&] { View(); },
             [&] { Do(ChangePageWidth, kPageSide - 10 + Below(20)); },
-            [&] { Do(SetPageBackground, graphics::Argb{Chance(50) ? 0 : 0xFF808080}); },
+            [&] { Do(SetPageBackground, Argb{Chance(50) ? 0 : 0xFF808080}); },
             // Never to the very first state: a step from there would replace it.
-            [&] {
-                if (Steps() > 1)
-                    Do(Undo);
-            },
-            [&] { Do(Redo); },
-            [&] { Do(ExchangeColor); },
+            [&] { Steps() > 1 ? Do(Undo) : Do(Redo); },
             [&] { Do(UseColorWell, Below(2)); },
             [&] { Do(ChooseFill, static_cast<FillKind>(Below(4))); },
             [&] { Do(ChangeLineWidth, 1 + Below(Chance(20) ? 255 : 6)); },
