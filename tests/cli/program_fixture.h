@@ -43,10 +43,10 @@ protected:
     // Words as a shell takes them; paths among them are relative to `folder`.
     Outcome Run(const std::string& words, const std::string& input = "") {
         Write("input", {input.begin(), input.end()});
-        const std::string place = folder.Path().string();
-        const std::string command =
-            "cd " + place + " && HOME=" + place + " XDG_CACHE_HOME=" + place +
-            "/cache '" ORBELLE_CLI_PROGRAM "' " + words + " <input >output 2>errors";
+        const std::string command = "cd '" + folder.Path().string() +
+                                    "' && HOME=$PWD XDG_CACHE_HOME=$PWD/cache '" ORBELLE_CLI_PROGRAM
+                                    "' " +
+                                    words + " <input >output 2>errors";
         const int status = std::system(command.c_str());
         return {WEXITSTATUS(status), Text("output"), Text("errors")};
     }
