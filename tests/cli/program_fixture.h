@@ -1,11 +1,10 @@
 // Runs the built program in a folder of its own.
 #pragma once
 
-#include <fcntl.h>
 #include <gmock/gmock.h>
 #include <sys/wait.h>
-#include <unistd.h>
 
+#include <cstdlib>
 #include <string>
 #include <vector>
 
@@ -17,7 +16,7 @@
 namespace orbelle::cli {
 
 struct Outcome {
-    int Status = -1;  // of the exit; -1: the program was killed
+    int Status = -1;  // of the exit
     std::string Output;
     std::string Errors;
 
@@ -31,27 +30,25 @@ inline void PrintTo(const Outcome& outcome, std::ostream* stream) {
 
 inline const Outcome kSuccess{0, "", ""};
 
-inline Outcome Failed(const std::string& message) {
-    return {1, "", "orbelle-cli: " + message + "\n"};
+inline Outcome Failed(const std::string& message, int status = 1) {
+    return {status, "", "orbelle-cli: " + message + "\n"};
 }
 
 inline Outcome WrongUsage(const std::string& message) {
-    return {2, "", "orbelle-cli: " + message + "\n"};
+    return Failed(message, 2);
 }
 
 class ProgramTest : public ::testing::Test {
 protected:
-    // The paths among the words are relative to `folder`.
-    Outcome Run(std::vector<std::string> words, const std::string& input = "") {
-        graphics::WriteFile(folder / "input",
-                            std::vector<std::uint8_t>(input.begin(), input.end()));
-        words.insert(words.begin(), "orbelle-cli");
-        const pid_t child = fork();
-        if (child == 0)
-            BecomeProgram(words);
-        int status = 0;
-        waitpid(child, &status, 0);
-        return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, Text("output"), Text("errors")};
+    // Words as a shell takes them; paths among them are relative to `folder`.
+    Outcome Run(const std::string& words, const std::string& input = "") {
+        Write("input", {input.begin(), input.end()});
+        const std::string command = "cd '" + folder.Path().string() +
+                                    "' && HOME=$PWD XDG_CACHE_HOME=$PWD/cache '" ORBELLE_CLI_PROGRAM
+                                    "' " +
+                                    words + " <input >output 2>errors";
+        const int status = std::system(command.c_str());
+        return {WEXITSTATUS(status), Text("output"), Text("errors")};
     }
 
     void Write(const std::string& name, const graphics::Bitmap& picture) {
@@ -63,37 +60,16 @@ protected:
     std::vector<std::uint8_t> Bytes(const std::string& name) {
         return graphics::ReadFile(folder / name);
     }
+    std::string Text(const std::string& name) {
+        const std::vector<std::uint8_t> bytes = Bytes(name);
+        return {bytes.begin(), bytes.end()};
+    }
     graphics::Bitmap Picture(const std::string& name) {
         return graphics::LoadImageFromFile(folder / name);
     }
     bool Exists(const std::string& name) { return std::filesystem::exists(folder / name); }
 
     testing::TemporaryFolder folder;
-
-private:
-    [[noreturn]] void BecomeProgram(std::vector<std::string>& words) {
-        const auto redirect = [](const char* name, int flags, int target) {
-            dup2(open(name, flags, 0600), target);
-        };
-        std::vector<char*> arguments;
-        for (std::string& word : words)
-            arguments.push_back(word.data());
-        arguments.push_back(nullptr);
-        if (chdir(folder.Path().c_str()) == 0) {
-            redirect("input", O_RDONLY, STDIN_FILENO);
-            redirect("output", O_WRONLY | O_CREAT | O_TRUNC, STDOUT_FILENO);
-            redirect("errors", O_WRONLY | O_CREAT | O_TRUNC, STDERR_FILENO);
-            setenv("HOME", folder.Path().c_str(), 1);
-            setenv("XDG_CACHE_HOME", (folder / "cache").c_str(), 1);
-            execv(ORBELLE_CLI_PROGRAM, arguments.data());
-        }
-        _exit(127);
-    }
-
-    std::string Text(const std::string& name) {
-        const std::vector<std::uint8_t> bytes = Bytes(name);
-        return {bytes.begin(), bytes.end()};
-    }
 };
 
 }  // namespace orbelle::cli

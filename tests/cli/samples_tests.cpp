@@ -7,16 +7,15 @@ namespace {
 class SamplesTest : public ProgramTest, public ::testing::WithParamInterface<std::string> {};
 
 TEST_P(SamplesTest, ScriptDrawsTheDocumentBesideIt) {
-    const std::string sample = std::string(ORBELLE_SAMPLES "/") + GetParam();
+    const std::string samples = ORBELLE_SAMPLES "/", name = GetParam() + ".volf";
     for (const char* picture : {"camera.png", "folder.png", "gear.png", "leaf.png"})
-        std::filesystem::copy_file(std::string(ORBELLE_SAMPLES "/") + picture, folder / picture);
+        std::filesystem::copy_file(samples + picture, folder / picture);
 
-    const std::string name = GetParam() + ".volf";
-    EXPECT_EQ(Run({"--script", sample + ".txt"}), kSuccess);
-    const Outcome drawn = Run({"open", name, "write-page", "drawn.png", "info"});
-    std::filesystem::copy_file(sample + ".volf", folder / name,
+    EXPECT_EQ(Run("--script '" + samples + GetParam() + ".txt'"), kSuccess);
+    const Outcome drawn = Run("open " + name + " write-page drawn.png info");
+    std::filesystem::copy_file(samples + name, folder / name,
                                std::filesystem::copy_options::overwrite_existing);
-    EXPECT_EQ(Run({"open", name, "write-page", "kept.png", "info"}), drawn);
+    EXPECT_EQ(Run("open " + name + " write-page kept.png info"), drawn);
     EXPECT_EQ(Bytes("drawn.png"), Bytes("kept.png")) << "scripts/make-samples.sh makes it again";
 }
 

@@ -4,80 +4,94 @@
 
 #include <sstream>
 
+#include "cli/script.h"
+
 namespace orbelle::cli {
 namespace {
 
 using ::testing::ElementsAre;
+using ::testing::ThrowsMessage;
 
 using TextList = std::vector<std::string>;
 
-TextList CallsOf(const TextList& words) {
+TextList CallsOf(const std::string& line) {
     TextList lines;
-    for (const Call& call : ParseCalls(words))
+    for (const Call& call : ParseCalls(SplitLine(line)))
         lines.push_back(JoinWords(call.Words));
     return lines;
 }
 
 TEST(ParseCallsTest, EachVerbTakesItsArguments) {
     EXPECT_THAT(
-        CallsOf({"new",     "64",    "48",      "background", "none",  "background", "#102030",
-                 "opacity", "10",    "20",      "icon-sizes", "16",    "32",         "zoom",
-                 "0.5",     "style", "crystal", "export",     "a.JPG", "undo"}),
-        ElementsAre("new 64 48", "background none", "background #102030", "opacity 10 20",
-                    "icon-sizes 16 32", "zoom 0.5", "style crystal", "export a.JPG", "undo"));
-}
-
-TEST(ParseCallsTest, CombineTakesFilesUpToTheNextVerb) {
-    EXPECT_THAT(CallsOf({"combine", "o.ico", "undo", "a.png", "./undo", "combine", "p.ico", "1"}),
+        CallsOf("new 0064 48 background none background #1020fF opacity 10 20 undo "
+                "icon-sizes 1 256 zoom 0.5 zoom 20 style crystal export a.JPG"),
+        ElementsAre("new 0064 48", "background none", "background #1020fF", "opacity 10 20", "undo",
+                    "icon-sizes 1 256", "zoom 0.5", "zoom 20", "style crystal", "export a.JPG"));
+    EXPECT_THAT(CallsOf("combine o.ico undo a.png ./undo combine p.ico 1"),
                 ElementsAre("combine o.ico undo a.png ./undo", "combine p.ico 1"));
 }
 
-TEST(ParseCallsTest, WrongUsageNamesTheVerbAndTheWord) {
+TEST(ParseCallsTest, WrongArgumentsAreRefused) {
     const struct {
+        const char* Verb;
         TextList Words;
-        const char* Message;
+        const char* Reason;
     } cases[] = {
-        {{"frobnicate"}, "frobnicate: unknown verb"},
-        {{"Undo"}, "Undo: unknown verb"},
-        {{"undo", "2"}, "2: unknown verb"},
-        {{"new", "64"}, "new 64: H is missing"},
-        {{"new", "64", "x", "undo"}, "new 64 x: H must be a whole number"},
-        {{"select", "-1"}, "select -1: N must be 0 or more"},
-        {{"opacity", "50", "101"}, "opacity 50 101: V must be from 0 to 100"},
-        {{"icon-sizes", "0"}, "icon-sizes 0: N must be from 1 to 256"},
-        {{"icon-format", "gif"}, "icon-format gif: FORMAT must be bmp or png256 or png"},
-        {{"style", "Vista"},
-         "style Vista: NAME must be disabled or hot or fresh or ios or origami-vertical or "
-         "origami-horizontal or mac or vista or crystal or blur or sharpen or irradiation or shade "
-         "or reflection or shadow"},
-        {{"hue", "50", "101"}, "hue 50 101: V must be from 0 to 100"},
-        {{"foreground", "red"}, "foreground red: COLOUR must be a colour: #RRGGBB or #AARRGGBB"},
-        {{"export", "a.tga"},
-         "export a.tga: PATH must end in .ico, .png, .gif, .jpg, .jpeg or .bmp"},
-        {{"export", "png"}, "export png: PATH must end in .ico, .png, .gif, .jpg, .jpeg or .bmp"},
-        {{"combine", "o.ico"}, "combine o.ico: PNG is missing"},
-        {{"combine", "o.ico", "1", "2", "3", "4", "5", "6", "7", "8"},
-         "combine o.ico 1 2 3 4 5 6 7 8: more than seven PNG files"},
-        {{"write-layer", "a.png", "0"}, "write-layer a.png: N must be a whole number"},
-        {{"icon-entry", "-1"}, "icon-entry -1: K must be 0 or more"},
-        {{"order", "top"}, "order top: ORDER must be front or back or forward or backward"},
-        {{"rotate"}, "rotate: DIRECTION is missing"},
-        {{"drag", "1", "1"}, "drag 1 1: X is missing"},
-        {{"drag", "1", "1", "2", "2", "3", "undo"},
-         "drag 1 1 2 2 3 undo: Y must be a whole number"},
-        {{"brush-size", "101"}, "brush-size 101: N must be from 1 to 100"},
-        {{"line-width", "0"}, "line-width 0: N must be from 1 to 255"},
-        {{"gif-threshold", "201"}, "gif-threshold 201: T must be from 0 to 200"},
-        {{"key", "enter"}, "key enter: KEY must be left or right or up or down or delete"},
+        {"icon-sizes",
+         {"", "-", "+5", "5.0", "0x10", "5 ", " 5", "1e2", "five"},
+         "N must be a whole number"},
+        {"icon-sizes", {"0", "-5", "257", "99999999999999999999"}, "N must be from 1 to 256"},
+        {"select", {"-1"}, "N must be 0 or more"},
+        {"opacity", {"-5", "101"}, "V must be from 0 to 100"},
+        {"brush-size", {"0", "101"}, "N must be from 1 to 100"},
+        {"line-width", {"0", "256"}, "N must be from 1 to 255"},
+        {"gif-threshold", {"-1", "201"}, "T must be from 0 to 200"},
+        {"zoom",
+         {"0", "-1", "20.01", "nan", "inf", "1e1", "1x", "", "."},
+         "Z must be a number above 0, up to 20"},
+        {"foreground",
+         {"", "#", "123456", "#12345", "#1234567", "#123456789", "#12345g", "#-12345", "#+12345",
+          "#12 456"},
+         "COLOUR must be a colour: #RRGGBB or #AARRGGBB"},
+        {"export", {"png", "a.tga"}, "PATH must end in .ico, .png, .gif, .jpg, .jpeg or .bmp"},
+        {"icon-format", {"gif"}, "FORMAT must be bmp or png256 or png"},
+        {"order", {"top"}, "ORDER must be front or back or forward or backward"},
+        {"key", {"enter", ""}, "KEY must be left or right or up or down or delete"},
     };
-    for (const auto& [words, message] : cases) {
-        try {
-            ParseCalls(words);
-            ADD_FAILURE() << JoinWords(words) << " was taken";
-        } catch (const UsageError& error) {
-            EXPECT_STREQ(error.what(), message);
+    for (const auto& [verb, words, reason] : cases) {
+        for (const std::string& word : words) {
+            const TextList line{verb, word};
+            EXPECT_THAT([&] { ParseCalls(line); },
+                        ThrowsMessage<UsageError>(JoinWords(line) + ": " + reason));
         }
     }
+}
+
+TEST(ParseCallsTest, WrongUsageNamesTheVerbAndTheWord) {
+    const std::pair<std::string, const char*> cases[] = {
+        {"Undo", "Undo: unknown verb"},
+        {"undo 2", "2: unknown verb"},
+        {"opacity 5 -x", "-x: unknown verb"},
+        {"new 64", "new 64: H is missing"},
+        {"new 64 x undo", "new 64 x: H must be a whole number"},
+        {"opacity info", "opacity info: V must be a whole number"},
+        {"opacity 1 2.5", "opacity 1 2.5: V must be a whole number"},
+        {"opacity 50 101", "opacity 50 101: V must be from 0 to 100"},
+        {"combine o.ico", "combine o.ico: PNG is missing"},
+        {"combine o.ico 1 2 3 4 5 6 7 8",
+         "combine o.ico 1 2 3 4 5 6 7 8: more than seven PNG files"},
+        {"write-layer a.png 0", "write-layer a.png: N must be a whole number"},
+        {"drag 1 1", "drag 1 1: X is missing"},
+        {"drag 1 1 2 2 3 undo", "drag 1 1 2 2 3 undo: Y must be a whole number"},
+    };
+    for (const auto& usage : cases)
+        EXPECT_THAT([&] { CallsOf(usage.first); }, ThrowsMessage<UsageError>(usage.second));
+    std::string sizes = "icon-sizes";
+    for (int i = 0; i < 256; ++i)
+        sizes += " 16";
+    EXPECT_THAT(CallsOf(sizes), ElementsAre(sizes));
+    EXPECT_THAT([&] { CallsOf(sizes + " 16"); },
+                ThrowsMessage<UsageError>(sizes + ": more than 256 numbers"));
 }
 
 TEST(RunCallsTest, WhateverAVerbThrowsBecomesItsFailure) {
@@ -86,12 +100,8 @@ TEST(RunCallsTest, WhateverAVerbThrowsBecomesItsFailure) {
     bool ranOn = false;
     const std::vector<Call> calls{{{"open", "a b"}, [](Workspace&) { throw std::bad_alloc(); }},
                                   {{"undo"}, [&](Workspace&) { ranOn = true; }}};
-    try {
-        RunCalls(calls, workspace);
-        ADD_FAILURE();
-    } catch (const Failure& failure) {
-        EXPECT_STREQ(failure.what(), "open \"a b\": there is not enough memory");
-    }
+    EXPECT_THAT([&] { RunCalls(calls, workspace); },
+                ThrowsMessage<Failure>("open \"a b\": there is not enough memory"));
     EXPECT_FALSE(ranOn);
 }
 

@@ -1,24 +1,17 @@
 // What verbs don't tell of commands: tips, labels, another program's clipboard, damaged files, and
 // that nothing happens without a selected layer.
-#include <fstream>
-
 #include "editing/adjust_sliders.h"
 #include "editing/clipboard_commands.h"
-#include "editing/layer_bar.h"
 #include "editing/layer_commands.h"
-#include "editing/selection_commands.h"
-#include "editing/slider_positions.h"
 #include "editing/stack_commands.h"
 #include "editing/tips.h"
 #include "editing/undo_commands.h"
 #include "editing_fixture.h"
-#include "graphics/file_io.h"
 #include "support/temporary_folder.h"
 
 namespace orbelle::editing {
 namespace {
 
-using graphics::Argb;
 using testing::FilledPicture;
 
 class Commands : public EditingTest {
@@ -68,7 +61,6 @@ TEST_F(Commands, OrderOfOneLayerIsNoStepAndOneWithoutRoomIsOne) {
     Layer(1).ScaleValue = 9;
     Do(MergeDown);
     EXPECT_EQ(Layer(1).ScaleValue, 0);
-    EXPECT_EQ(Steps(), 3);
     Do(SelectLayer, 0);
     Do(MergeDown);
     EXPECT_EQ(Steps(), 3);
@@ -82,13 +74,10 @@ TEST_F(Commands, SlidersHaveLabels) {
         Adjustment Kind;
         const Slider& Shown;
         int Value, Label;
-    } cases[] = {
-        {Adjustment::Hue, editor.Sliders.Hue, 70, 70},
-        {Adjustment::Saturation, editor.Sliders.Saturation, 70, 30},
-        {Adjustment::Brightness, editor.Sliders.Brightness, 70, 20},
-        {Adjustment::Contrast, editor.Sliders.Contrast, 30, -20},
-        {Adjustment::Contrast, editor.Sliders.Contrast, 100, 50},
-    };
+    } cases[] = {{Adjustment::Hue, editor.Sliders.Hue, 70, 70},
+                 {Adjustment::Saturation, editor.Sliders.Saturation, 70, 30},
+                 {Adjustment::Brightness, editor.Sliders.Brightness, 70, 20},
+                 {Adjustment::Contrast, editor.Sliders.Contrast, 30, -20}};
     for (const auto& c : cases) {
         Do(PressAdjustment);
         Step(ChangeAdjustment, c.Kind, c.Value);
@@ -112,13 +101,12 @@ TEST_F(Commands, SlidersHaveLabels) {
     Step(ReleaseScale);
     EXPECT_EQ(editor.Sliders.Scale.Label, 0);
     EXPECT_EQ(Layer(2).Image.Width(), 15);
-    Layer(0).ScaleValue = -7;
-    Do(SelectLayer, 0);
-    EXPECT_EQ(editor.Sliders.Scale.Value, 43);
-    EXPECT_EQ(editor.Sliders.Scale.Label, -7);
-    Layer(0).ScaleValue = -700;
-    Do(SelectLayer, 0);
-    EXPECT_EQ(editor.Sliders.Scale.Value, 0);
+    for (const auto& [scale, shown] : {std::pair{-7, 43}, {-700, 0}}) {
+        Layer(0).ScaleValue = scale;
+        Do(SelectLayer, 0);
+        EXPECT_EQ(editor.Sliders.Scale.Value, shown);
+        EXPECT_EQ(editor.Sliders.Scale.Label, scale);
+    }
 
     const graphics::Bitmap before = Layer(0).Image;
     Step(ChangeAdjustment, Adjustment::Hue, 50);  // no press
@@ -143,9 +131,7 @@ TEST_F(Commands, RedoShowsTheSlidersAsTheyStoodAtUndo) {
 TEST_F(Commands, AnotherProgramsPictureArrivesOpaqueAtThePagesCorner) {
     Do(CopyToClipboard);
     EXPECT_EQ(recorder.Mark, "Orbelle");
-    graphics::Bitmap row(3, 1);
-    std::ranges::copy(std::initializer_list<Argb>{0x80204060, 0x00123456, kBlue},
-                      row.MutablePixels());
+    const graphics::Bitmap row = testing::RowOf({0x80204060, 0x00123456, kBlue});
     recorder.Put(row, "words");
     Do(PasteFromClipboard);
     const document::IconLayer& layer = Layer(3);
@@ -154,12 +140,7 @@ TEST_F(Commands, AnotherProgramsPictureArrivesOpaqueAtThePagesCorner) {
     EXPECT_EQ(layer.Image.GetPixel(1, 0), 0xFFFFFFFF);
     EXPECT_EQ(layer.Image.GetPixel(2, 0), kBlue);
     EXPECT_EQ(layer.Rect, (graphics::RectF{0, 0, 3, 1}));
-    EXPECT_EQ(layer.BaseRect, layer.Rect);
-    EXPECT_EQ(layer.ImageWidth, 3);
-    EXPECT_EQ(layer.Opacity, 1);
     EXPECT_EQ(layer.Region.Bounds(), layer.Rect);
-    EXPECT_EQ(editor.Sliders.Opacity.Value, 100);
-    EXPECT_EQ(Steps(), 1);
 
     editor.ClipboardLayer.reset();  // the mark without a copy of ours
     recorder.Put(row, kClipboardMark);
@@ -167,34 +148,28 @@ TEST_F(Commands, AnotherProgramsPictureArrivesOpaqueAtThePagesCorner) {
     EXPECT_EQ(Layer(4).Image.GetPixel(0, 0), 0xFF8F9FAF);
 }
 
-TEST_F(Commands, AnOpenedDocumentLargerThanTheSceneHasScrollBars) {
+TEST_F(Commands, AnOpenedDocumentHasScrollBarsAndTheLayersBeforeItsDamage) {
     const testing::TemporaryFolder folder;
-    OpenPage(300, 150);
-    Do(SaveTo, folder / "a.volf");
-    Do([&](Editor& e) { OpenFile(e, folder / "a.volf"); });
-    const document::View& view = editor.View;
-    EXPECT_TRUE(view.HorizontalScroll.Visible);
-    EXPECT_EQ(view.HorizontalScroll.Max, 100);
-    EXPECT_EQ(view.HorizontalScroll.Value, 50);
-    EXPECT_EQ(view.HorizontalScroll.LargeChange, 100);
-    EXPECT_FALSE(view.VerticalScroll.Visible);
-}
-
-TEST_F(Commands, ADamagedDocumentOpensWithTheLayersBeforeTheDamage) {
-    const testing::TemporaryFolder folder;
-    Do(SaveTo, folder / "a.volf");
+    const std::filesystem::path path = folder / "a.volf";
+    editor.Page().Width = 300;
+    Do(SaveTo, path);
     EXPECT_TRUE(recorder.Last.Title);
-    std::filesystem::resize_file(folder / "a.volf",
-                                 std::filesystem::file_size(folder / "a.volf") - 30);
+    std::filesystem::resize_file(path, std::filesystem::file_size(path) - 30);
     Do(NewDocument, 3, 3);
-    Do([&](Editor& e) { OpenFile(e, folder / "a.volf"); });
+    Do([&](Editor& e) { OpenFile(e, path); });
     EXPECT_EQ(editor.Page().LayerCount(), 2);
     EXPECT_EQ(editor.Page().SelectedLayer, 1);
-    EXPECT_THAT(recorder.Last.Message, ::testing::StartsWith((folder / "a.volf").string() + ": "));
+    EXPECT_THAT(recorder.Last.Message, ::testing::StartsWith(path.string() + ": "));
     EXPECT_EQ(recorder.LastTip(), -1);
     EXPECT_TRUE(recorder.Last.Title);
     EXPECT_TRUE(editor.Zoom.IsAnimated);
     EXPECT_FALSE(editor.Document.Modified);
+    const document::ScrollBar& bar = editor.View.HorizontalScroll;
+    EXPECT_TRUE(bar.Visible);
+    EXPECT_EQ(bar.Max, 100);
+    EXPECT_EQ(bar.Value, 50);
+    EXPECT_EQ(bar.LargeChange, 100);
+    EXPECT_FALSE(editor.View.VerticalScroll.Visible);
 }
 
 TEST_F(Commands, NamesTellWhatAFileHolds) {

@@ -11,10 +11,11 @@
 
 namespace orbelle::editing {
 std::vector<NamedCommand> LayerCommands() {
-    const auto drag = [](auto press, auto change, auto release) {
+    // A drag of a slider.
+    const auto drag = [](auto press, auto change, int to, auto release) {
         return [=](Editor& editor) {
             press(editor);
-            change(editor);
+            change(editor, to);
             release(editor);
         };
     };
@@ -22,7 +23,7 @@ std::vector<NamedCommand> LayerCommands() {
     const auto turn = [](FlipRotate mode) { return [=](Editor& e) { FlipRotateLayer(e, mode); }; };
     const auto adjustment = [&](Adjustment kind) {
         return drag(
-            PressAdjustment, [=](Editor& e) { ChangeAdjustment(e, kind, 80); },
+            PressAdjustment, [=](Editor& e, int to) { ChangeAdjustment(e, kind, to); }, 80,
             [=](Editor& e) { ReleaseAdjustment(e, kind); });
     };
     const auto fold = [](filters::Fold how) { return [=](Editor& e) { Origami(e, how); }; };
@@ -43,16 +44,10 @@ std::vector<NamedCommand> LayerCommands() {
         {"cut", CutToClipboard},
         {"delete", DeleteSelected},
         {"delete selection", DeleteSelection},
-        {"opacity",
-         drag(
-             PressOpacity, [](Editor& e) { ChangeOpacity(e, 30); }, ReleaseOpacity),
-         tips::Adjusted},
+        {"opacity", drag(PressOpacity, ChangeOpacity, 30, ReleaseOpacity), tips::Adjusted},
         {"hue", adjustment(Adjustment::Hue), tips::Adjusted},
         {"contrast", adjustment(Adjustment::Contrast), tips::Adjusted},
-        {"scale",
-         drag(
-             PressScale, [](Editor& e) { ChangeScale(e, 60); }, ReleaseScale),
-         tips::Adjusted},
+        {"scale", drag(PressScale, ChangeScale, 60, ReleaseScale), tips::Adjusted},
         {"crystal", Crystal, tips::Crystal},
         {"vista", Vista, tips::Vista},
         {"fresh", Fresh, tips::Vista},

@@ -60,12 +60,10 @@ protected:
     }
 
     // A command of the core with its arguments, which goes well.
-    template <typename Routine, typename... Arguments>
-    void Do(const Routine& routine, const Arguments&... arguments) {
+    void Do(const auto& routine, const auto&... arguments) {
         EXPECT_EQ(editing::Run(editor, [&](Editor& e) { routine(e, arguments...); }).Problem(), "");
     }
-    template <typename Routine, typename... Arguments>
-    void Step(const Routine& routine, const Arguments&... arguments) {
+    void Step(const auto& routine, const auto&... arguments) {
         EXPECT_EQ(RunDuringDrag(editor, [&](Editor& e) { routine(e, arguments...); }).Problem(),
                   "");
     }
@@ -80,18 +78,16 @@ protected:
         Do(NewDocument, width, height);
         SetZoom(zoom);
     }
-
     void SetZoom(double zoom) {
         editor.View.Zoom = zoom;
         Show();
     }
 
     // On top and selected; not an undo step.
-    document::IconLayer& PutLayer(const graphics::Bitmap& image, float x, float y) {
+    document::IconLayer& PutLayer(const graphics::Bitmap& image, int x, int y) {
         document::IconLayer& layer = editor.Page().Layers.emplace_back();
         layer.Image = image;
-        document::PlaceAt(
-            layer, {static_cast<int>(x), static_cast<int>(y), image.Width(), image.Height()});
+        document::PlaceAt(layer, {x, y, image.Width(), image.Height()});
         layer.BaseRect = layer.Rect;
         layer.Region = graphics::Region::FromRect(layer.Rect);
         layer.Region.Translate(-1, 0);
@@ -99,9 +95,8 @@ protected:
         Show();
         return layer;
     }
-
     // In place of all layers.
-    document::IconLayer& PutOnlyLayer(const graphics::Bitmap& image, float x, float y) {
+    document::IconLayer& PutOnlyLayer(const graphics::Bitmap& image, int x, int y) {
         editor.Page().Layers.clear();
         return PutLayer(image, x, y);
     }
@@ -136,7 +131,6 @@ protected:
     }
     void Move(const Pointer& pointer) { Step(MoveScene, pointer); }
     void Release(const Pointer& pointer) { Step(ReleaseScene, pointer); }
-
     void Click(float x, float y, Held held = {}) {
         Press(OnPage(x, y, held));
         Release(OnPage(x, y, held));

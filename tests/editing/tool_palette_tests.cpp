@@ -9,7 +9,6 @@
 namespace orbelle::editing {
 namespace {
 
-using document::FrameShape;
 using graphics::Argb;
 using ::testing::ElementsAre;
 
@@ -17,7 +16,9 @@ class ToolPalette : public EditingTest {
 protected:
     ToolPalette() { OpenPage(40, 30); }
 
-    void SelectSomething() { editor.Selection.AddFrame(4, 4, 0, 0, FrameShape::Rectangle); }
+    void SelectSomething() {
+        editor.Selection.AddFrame(4, 4, 0, 0, document::FrameShape::Rectangle);
+    }
     const ToolSettings& Tools() const { return editor.Tools; }
 };
 
@@ -51,11 +52,16 @@ TEST_F(ToolPalette, WhatEachButtonChooses) {
             EXPECT_TRUE(choose != ChooseToolByKey || Tools().OpenPopup == Popup::None);
         }
     }
+    for (const Tool tool : {Tool::Line, Tool::Move}) {
+        SelectSomething();
+        Do(ChooseToolEntry, tool);  // of the menu
+        EXPECT_EQ(Tools().InUse, tool);
+        EXPECT_TRUE(editor.Selection.Exists());
+        EXPECT_EQ(recorder.LastTip(), -1);
+    }
     editor.DocumentExists = false;
     Show();
     Do(ClickToolButton, 4);  // disabled
-    EXPECT_EQ(Tools().InUse, Tool::PencilEraser);
-    Do(ClickToolButton, 1);
     EXPECT_EQ(Tools().InUse, Tool::Move);
 }
 
@@ -67,12 +73,11 @@ TEST_F(ToolPalette, PopupsOpenWithTheirButtonAndCloseWithTheSecondClick) {
                   {9, Popup::FillBar},    {2, Popup::SelectionBar}, {2, Popup::None},
                   {12, Popup::EraserBar}, {12, Popup::None},        {6, Popup::FillBar},
                   {4, Popup::None},       {8, Popup::FillBar},      {11, Popup::None},
-                  {7, Popup::FillBar},    {1, Popup::None}};
+                  {7, Popup::FillBar},    {1, Popup::None},         {5, Popup::FillBar}};
     for (const auto& c : clicks) {
         Do(ClickToolButton, c.Button);
         EXPECT_EQ(Tools().OpenPopup, c.Opened) << &c - clicks;
     }
-    Do(ClickToolButton, 5);
     Do(ChooseFill, FillKind::VerticalGradient);
     EXPECT_EQ(Tools().FillKind, FillKind::VerticalGradient);
     EXPECT_EQ(Tools().OpenPopup, Popup::None);
@@ -103,36 +108,26 @@ TEST_F(ToolPalette, KindsOfSelectionsAndErasersAreRemembered) {
     Do(ChooseSelection, Tool::SelectEllipse);
     EXPECT_TRUE(editor.Selection.Exists());
 
+    // The pencil eraser shows an opacity of 0; the colour keeps its own.
     editor.Tools.Colors[0] = 0x80336699;
-    Do(ClickToolButton, 12);
-    EXPECT_EQ(Tools().InUse, Tool::PencilEraser);
-    EXPECT_EQ(editor.Sliders.ColorOpacity.Value, 0);
-    EXPECT_EQ(Tools().Colors[0], 0x80336699U);
-    Do(ChooseEraser, Tool::BrushEraser);
-    EXPECT_EQ(Tools().InUse, Tool::BrushEraser);
-    EXPECT_EQ(Tools().OpenPopup, Popup::None);
-    EXPECT_TRUE(editor.Overlays.PointerMark.IsOval);
-    EXPECT_EQ(recorder.LastTip(), tips::OtherTool);
-    Do(ClickToolButton, 4);
-    EXPECT_FALSE(editor.Overlays.PointerMark.IsOval);
-    EXPECT_EQ(editor.Sliders.ColorOpacity.Value, 50);
-    Do(ClickToolButton, 12);
-    EXPECT_EQ(Tools().InUse, Tool::BrushEraser);
-    EXPECT_TRUE(editor.Overlays.PointerMark.IsOval);
-    EXPECT_EQ(editor.Sliders.ColorOpacity.Value, 50);
-    Do(ChooseEraser, Tool::PencilEraser);
-    EXPECT_EQ(Tools().EraserKind, Tool::PencilEraser);
-    EXPECT_FALSE(editor.Overlays.PointerMark.IsOval);
-}
-
-TEST_F(ToolPalette, MenuEntriesKeepTheSelectionAndAskForNoTip) {
-    for (const Tool tool : {Tool::Pencil, Tool::Line, Tool::Ellipse, Tool::Rectangle, Tool::Move}) {
-        SelectSomething();
-        Do(ChooseToolEntry, tool);
-        EXPECT_EQ(Tools().InUse, tool);
-        EXPECT_TRUE(editor.Selection.Exists());
-        EXPECT_EQ(recorder.LastTip(), -1);
+    const struct {
+        Command Run;
+        Tool InUse;
+        int OpacityShown;
+    } steps[] = {{[](Editor& e) { ClickToolButton(e, 12); }, Tool::PencilEraser, 0},
+                 {[](Editor& e) { ChooseEraser(e, Tool::BrushEraser); }, Tool::BrushEraser, 0},
+                 {[](Editor& e) { ClickToolButton(e, 4); }, Tool::Pencil, 50},
+                 {[](Editor& e) { ClickToolButton(e, 12); }, Tool::BrushEraser, 50},
+                 {[](Editor& e) { ChooseEraser(e, Tool::PencilEraser); }, Tool::PencilEraser, 50}};
+    for (const auto& step : steps) {
+        Do(step.Run);
+        EXPECT_EQ(Tools().InUse, step.InUse);
+        EXPECT_EQ(editor.Overlays.PointerMark.IsOval, step.InUse == Tool::BrushEraser);
+        EXPECT_EQ(editor.Sliders.ColorOpacity.Value, step.OpacityShown);
+        EXPECT_EQ(recorder.LastTip(), tips::OtherTool);
     }
+    EXPECT_EQ(Tools().Colors[0], 0x80336699U);
+    EXPECT_EQ(Tools().OpenPopup, Popup::None);
 }
 
 TEST_F(ToolPalette, OptionsStopAtTheEndsOfTheirSliders) {
@@ -153,9 +148,7 @@ TEST_F(ToolPalette, OptionsStopAtTheEndsOfTheirSliders) {
     }
 }
 
-class ColorWells : public ToolPalette {};
-
-TEST_F(ColorWells, OpacityIsAlphaInSteps) {
+TEST_F(ToolPalette, OpacityIsAlphaInSteps) {
     editor.Tools.ActiveColor = 1;
     for (const auto& [opacity, alpha] :
          {std::pair{100, 255U}, {0, 0U}, {1, 3U}, {10, 26U}, {33, 84U}, {99, 252U}}) {
@@ -173,16 +166,14 @@ TEST_F(ColorWells, OpacityIsAlphaInSteps) {
     EXPECT_EQ(Tools().ActiveColor, 1);
 }
 
-TEST_F(ColorWells, ChosenAndExchangedColours) {
+TEST_F(ToolPalette, ChosenAndExchangedColours) {
     Do(UseColorWell, 1);
     Do(ChangeColorOpacity, 20);
     Do(ChooseWellColor, 1, Argb{0xFF010203});
     EXPECT_EQ(Tools().Colors[1], 0x33010203U);
     Do(ChooseWellColor, 0, Argb{0xFF040506});  // takes the opacity shown, and is in use
     EXPECT_EQ(Tools().Colors[0], 0x33040506U);
-    EXPECT_EQ(Tools().ActiveColor, 0);
     Do(SetWellColor, 1, Argb{0x80FFFFFF});
-    EXPECT_EQ(Tools().ActiveColor, 0);
     EXPECT_EQ(editor.Sliders.ColorOpacity.Value, 20);
     Do(ExchangeColor);
     EXPECT_EQ(Tools().ActiveColor, 0);
@@ -192,26 +183,26 @@ TEST_F(ColorWells, ChosenAndExchangedColours) {
 
 // The page of 40 x 30 at zoom 2 lies at (60, 45) of the scene; the pointer is rounded to whole
 // scene pixels, ties to even.
-TEST_F(ColorWells, ThePickTakesThePixelUnderThePointer) {
+TEST_F(ToolPalette, ThePickTakesThePixelUnderThePointer) {
     PutLayer(testing::FilledPicture(1, 30, 0x80112233), 0, 0);
     PutLayer(testing::FilledPicture(1, 30, 0xFFFF0000), 1, 0);
+    PutLayer(testing::FilledPicture(2, 30, 0xFF0000FF), 0, 0).Visible = false;
     SetZoom(2);
     editor.Tools.InUse = Tool::ColorPick;
+    Do(UseColorWell, 1);
     const struct {
-        float X;
+        float X, Y;
         Argb Expected;
-    } cases[] = {{60, 0x80112233}, {61.4F, 0x80112233}, {61.5F, 0xFFFF0000},
-                 {63, 0xFFFF0000}, {63.4F, 0xFFFF0000}, {64, 0},
-                 {199.4F, 0}};
+    } cases[] = {{60, 50, 0x80112233}, {61.4F, 50, 0x80112233}, {61.5F, 50, 0xFFFF0000},
+                 {63, 50, 0xFFFF0000}, {63.4F, 50, 0xFFFF0000}, {64, 50, 0},
+                 {199.4F, 50, 0},      {60, 50, 0x80112233},    {200, 50, 0x80112233},
+                 {-1, 50, 0x80112233}, {60, 150, 0x80112233},   {60, -1, 0x80112233}};
     for (const auto& c : cases) {
-        Press(OnScene(c.X, 50));
-        EXPECT_EQ(Tools().Colors[0], c.Expected) << c.X;
+        Press(OnScene(c.X, c.Y));
+        EXPECT_EQ(Tools().Colors[1], c.Expected) << c.X << ", " << c.Y;
     }
-    Press(OnScene(60, 50));
-    for (const auto& [x, y] : {std::pair{200, 50}, {-1, 50}, {60, 150}, {60, -1}}) {
-        Press(OnScene(static_cast<float>(x), static_cast<float>(y)));
-        EXPECT_EQ(Tools().Colors[0], 0x80112233U) << x << ", " << y;
-    }
+    EXPECT_EQ(Tools().Colors[0], kBlue);
+    EXPECT_EQ(editor.Sliders.ColorOpacity.Value, 50);
 }
 
 }  // namespace

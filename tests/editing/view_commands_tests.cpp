@@ -13,8 +13,7 @@ class ViewCommands : public EditingTest {
 protected:
     // A page in a scene of 1024 x 768, with the zoom-in animation over.
     void Page(int width, int height) {
-        editor.View.SceneWidth = 1024;
-        editor.View.SceneHeight = 768;
+        Do(ResizeScene, 1024, 768);
         Do(NewDocument, width, height);
         while (editor.Zoom.IsAnimated)
             Do(TickZoomAnimation);
@@ -29,95 +28,74 @@ protected:
         return series;
     }
 
-    ButtonState MainButton(int number) {
-        return editor.States.MainBar[static_cast<std::size_t>(number)];
+    const ButtonState& OriginalSizeButton() {
+        return editor.States.MainBar[main_buttons::OriginalSize];
     }
 };
 
-TEST_F(ViewCommands, TheAnimationGrowsThePageInFiveTicks) {
+TEST_F(ViewCommands, ZoomStepsUpAndDownAreDifferentSeries) {
     Do(NewDocument, 10, 10);
     EXPECT_EQ(editor.View.Zoom, 0);
     EXPECT_TRUE(editor.Zoom.IsAnimated);
     EXPECT_THAT(Series(TickZoomAnimation, 6), ElementsAre(0.2, 0.4, 0.6, 0.8, 1, 1));
     EXPECT_FALSE(editor.Zoom.IsAnimated);
-}
 
-TEST_F(ViewCommands, ZoomStepsUpAndDownAreDifferentSeries) {
-    Page(10, 10);
     EXPECT_THAT(Series(ZoomIn, 11), ElementsAre(3, 5, 7, 9, 11, 13, 15, 17, 19, 20, 20));
-    EXPECT_FALSE(MainButton(main_buttons::ZoomIn).Enabled);
+    EXPECT_FALSE(editor.States.IsEnabled(CommandId::ZoomIn));
     EXPECT_THAT(Series(ZoomOut, 12), ElementsAre(18, 16, 14, 12, 10, 8, 6, 4, 2, 0, -2, -4));
-    EXPECT_TRUE(MainButton(main_buttons::ZoomIn).Enabled);
+    EXPECT_TRUE(editor.States.IsEnabled(CommandId::ZoomIn));
 }
 
 TEST_F(ViewCommands, ZoomOutStopsAtOneFifth) {
     Page(10, 10);
     EXPECT_THAT(Series(ZoomOut, 5), ElementsAre(0.8, 0.6, 0.4, 0.2, 0.2));
-    EXPECT_FALSE(MainButton(main_buttons::ZoomOut).Enabled);
+    EXPECT_FALSE(editor.States.IsEnabled(CommandId::ZoomOut));
     EXPECT_THAT(Series(ZoomIn, 5), ElementsAre(0.4, 0.6, 0.8, 1, 3));
-    EXPECT_TRUE(MainButton(main_buttons::ZoomOut).Enabled);
+    EXPECT_TRUE(editor.States.IsEnabled(CommandId::ZoomOut));
 }
 
-TEST_F(ViewCommands, BarsAppearForWhatDoesNotFitAndGoWhenZoomingOut) {
-    Page(400, 100);
-    Do(ZoomIn);  // 1200 x 300
-    EXPECT_TRUE(editor.View.HorizontalScroll.Visible);
-    EXPECT_EQ(editor.View.HorizontalScroll.Max, 176);
-    EXPECT_EQ(editor.View.HorizontalScroll.Value, 88);
-    EXPECT_FALSE(editor.View.VerticalScroll.Visible);
-    Do(ZoomOut);
-    EXPECT_FALSE(editor.View.HorizontalScroll.Visible);
-    EXPECT_EQ(editor.View.Zoom, 1);
-}
-
-TEST_F(ViewCommands, ScrollingMovesThePageInTenths) {
+TEST_F(ViewCommands, BarsAppearForWhatDoesNotFitAndScrollInTenths) {
     Page(512, 100);
     Do(ZoomIn);  // 1536 wide: 512 beyond the scene
-    const auto offset = [&] { return document::PageOffsetX(editor.Page(), editor.View); };
-    Do(ScrollHorizontally, 0);
-    EXPECT_DOUBLE_EQ(offset(), 0);
-    Do(ScrollHorizontally, 20);
-    EXPECT_DOUBLE_EQ(offset(), 0);
-    Do(ScrollHorizontally, 9999);
-    EXPECT_DOUBLE_EQ(offset(), -512);
-}
-
-TEST_F(ViewCommands, OriginalSizeTogglesBetweenOneAndTheZoomBefore) {
-    Page(100, 100);
-    Do(ZoomIn);
-    Do(OriginalSize);
+    const document::ScrollBar& bar = editor.View.HorizontalScroll;
+    EXPECT_TRUE(bar.Visible);
+    EXPECT_EQ(bar.Max, 512);
+    EXPECT_EQ(bar.Value, 256);
+    EXPECT_FALSE(editor.View.VerticalScroll.Visible);
+    for (const auto& [value, offset] : {std::pair{0, 0}, {20, 0}, {9999, -512}}) {
+        Do(ScrollHorizontally, value);
+        EXPECT_DOUBLE_EQ(document::PageOffsetX(editor.Page(), editor.View), offset) << value;
+    }
+    Do(ZoomOut);
+    EXPECT_FALSE(bar.Visible);
     EXPECT_EQ(editor.View.Zoom, 1);
-    EXPECT_TRUE(MainButton(main_buttons::OriginalSize).Pressed);
-    Do(OriginalSize);
-    EXPECT_EQ(editor.View.Zoom, 3);
-    EXPECT_FALSE(MainButton(main_buttons::OriginalSize).Pressed);
-    Do(OriginalSize);
-    Do(ZoomIn);
-    EXPECT_FALSE(MainButton(main_buttons::OriginalSize).Pressed);
 }
 
-TEST_F(ViewCommands, OriginalSizeGoesBackToAFitWhenTheZoomBeforeWasOne) {
+TEST_F(ViewCommands, OriginalSizeGoesBackToTheZoomBeforeOrToAFit) {
     Page(100, 200);
+    Do(ZoomIn);
+    EXPECT_THAT(Series(OriginalSize, 1), ElementsAre(1));
+    EXPECT_TRUE(OriginalSizeButton().Pressed);
+    EXPECT_THAT(Series(OriginalSize, 2), ElementsAre(3, 1));
+    Do(ZoomIn);
+    EXPECT_FALSE(OriginalSizeButton().Pressed);
+    Page(100, 119);
     Do(OriginalSize);
     Do(OriginalSize);
-    EXPECT_EQ(editor.View.Zoom, 3.8);  // (768 - 4) / 200
+    EXPECT_EQ(editor.View.Zoom, 6.4);  // (768 - 4) / 119, in tenths
     Do(ZoomOut);
     Do(OriginalSize);
-    Do(ChangePageWidth, 400);
+    Do(ChangePageWidth, 417);
     Do(OriginalSize);
-    EXPECT_EQ(editor.View.Zoom, 2.6);  // (1024 - 4) / 400
+    EXPECT_EQ(editor.View.Zoom, 2.4);  // (1024 - 4) / 417
     EXPECT_FALSE(editor.Zoom.PageSizeChanged);
-}
-
-TEST_F(ViewCommands, TheSceneFollowsTheWindow) {
-    Page(10, 10);
-    Do(ResizeScene, 50, 40);
-    EXPECT_EQ(editor.Scene.Width(), 50);
-    EXPECT_EQ(editor.Scene.Height(), 40);
 }
 
 TEST_F(ViewCommands, TheWheelZoomsAtThePointer) {
     Page(100, 100);
+    Do(ResizeScene, 100, 90);
+    EXPECT_EQ(editor.Scene.Width(), 100);
+    EXPECT_EQ(editor.Scene.Height(), 90);
     Do(ResizeScene, 100, 100);
     Do(ZoomInAt, 95.0F, 5.0F);
     EXPECT_EQ(editor.View.Zoom, 3);

@@ -3,26 +3,24 @@
 #include <cstdint>
 #include <sstream>
 
+#include "support/pictures.h"
+
 namespace orbelle::testing {
 namespace {
 
 using graphics::RectF;
 
-class Sum {
-public:
-    void Add(std::uint64_t number) { value_ = (value_ ^ number) * 0x100000001B3U; }
-    std::uint64_t Value() const { return value_; }
+struct Sum {
+    void Add(std::uint64_t number) { Value = (Value ^ number) * 0x100000001B3U; }
 
-private:
-    std::uint64_t value_ = 0xCBF29CE484222325U;
+    std::uint64_t Value = 0xCBF29CE484222325U;
 };
 
 std::ostream& operator<<(std::ostream& out, const graphics::Bitmap& picture) {
     Sum sum;
-    const std::int64_t count = std::int64_t{picture.Width()} * picture.Height();
-    for (std::int64_t i = 0; i < count; ++i)
-        sum.Add(picture.Pixels()[i]);
-    return out << picture.Width() << 'x' << picture.Height() << ':' << sum.Value();
+    for (const graphics::Argb pixel : PixelsOf(picture))
+        sum.Add(pixel);
+    return out << picture.Width() << 'x' << picture.Height() << ':' << sum.Value;
 }
 
 std::ostream& operator<<(std::ostream& out, const graphics::Region& region) {
@@ -32,7 +30,7 @@ std::ostream& operator<<(std::ostream& out, const graphics::Region& region) {
     for (const graphics::RectI& rect : region.Rects({-100, -100, 1000, 1000}))
         for (const int number : {rect.X, rect.Y, rect.Width, rect.Height})
             sum.Add(static_cast<std::uint64_t>(number));
-    return out << sum.Value();
+    return out << sum.Value;
 }
 
 std::ostream& operator<<(std::ostream& out, const RectF& rect) {

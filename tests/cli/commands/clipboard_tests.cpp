@@ -26,37 +26,36 @@ protected:
 
     // The selection (2, 0) to (4, 2) of the page.
     const std::string select = "open dots.volf tool select-rectangle drag 2 0 3 1 ";
-    const std::string selected = "argb 00000000 00000000 FF000001 FF000002";
+    const std::string selected = "argb 00000000 00000000 FF000001 FF000002, ";
     const std::string rest =
         "1/argb FF000000 00000000 00000000 FF000003 FF000010 FF000011 FF000012 FF000013 "
-        "FF000020 FF000021 FF000022 FF000023";
+        "FF000020 FF000021 FF000022 FF000023, ";
 };
 
 TEST_F(ClipboardCommands, WithASelection) {
+    Check(select, "",
+          {{"copy takes the pixels alone", "copy",
+            "clipboard/" + selected + "selection 2 0 2 2, 1@1,0 FF000001, undo 0"},
+           {"paste brings them back to their place", "copy paste",
+            "2/" + selected +
+                "2/rect 2 0 2 2, 2/base_rect 2 0 2 2, 2/image 2 2, 2/opacity 0.5, "
+                "2/region 1 1 2 1, selected 2, selection null, undo 1"},
+           {"cut", "cut",
+            "clipboard/" + selected + rest + "widths 84, 1/rect 1 1 4 3, selection null, undo 1"},
+           {"delete", "delete", rest + "widths 84, page@2,1 00000000, clipboard/size 0 0, undo 1"},
+           {"delete again", "delete delete", "widths 8, undo 2"},
+           {"the key", "key delete", rest + "widths 84, undo 1"},
+           {"the Move tool lifts it off in two steps", "tool move click 2 1",
+            "2/" + selected + rest +
+                "widths 842, selected 2, 2/rect 2 0 2 2, 2/image 2 2, 2/opacity 0.5, 2/hue 0, "
+                "2/region 0 1 4 3, page@2,1 80000001, selection null, slider/opacity 50, undo 2"}});
     Check({
-        {"copy takes the pixels alone", select + "copy",
-         "clipboard/" + selected + ", selection 2 0 2 2, 1@1,0 FF000001, undo 0"},
-        {"paste brings them back to their place", select + "copy paste",
-         "2/" + selected +
-             ", 2/rect 2 0 2 2, 2/base_rect 2 0 2 2, 2/image 2 2, 2/opacity 0.5, "
-             "2/region 1 1 2 1, selected 2, selection null, undo 1"},
-        {"cut", select + "cut",
-         "clipboard/" + selected + ", " + rest +
-             ", layers 2, 1/rect 1 1 4 3, selection null, undo 1"},
-        {"cutting ends a scale", "open wide.volf tool select-rectangle drag 2 0 3 1 cut",
-         "1/rect 1 1 4 3, 1/image 4 3"},
-        {"delete", select + "delete",
-         rest + ", layers 2, page@2,1 00000000, clipboard/size 0 0, undo 1"},
-        {"delete again", select + "delete delete", "layers 1, undo 2"},
-        {"the key", select + "key delete", rest + ", layers 2, undo 1"},
-        {"the Move tool lifts it off in two steps", select + "tool move click 2 1",
-         "2/" + selected + ", " + rest +
-             ", layers 3, selected 2, 2/rect 2 0 2 2, 2/image 2 2, 2/opacity 0.5, 2/hue 0, "
-             "2/region 0 1 4 3, page@2,1 80000001, selection null, slider/opacity 50, undo 2"},
         {"out of the top layer when none is selected",
          "open dots.volf tool move click 7 7 tool select-rectangle drag 2 0 3 1 "
          "tool move click 2 1",
-         "2/" + selected + ", " + rest + ", layers 3"},
+         "2/" + selected + rest + "widths 842"},
+        {"cutting ends a scale", "open wide.volf tool select-rectangle drag 2 0 3 1 cut",
+         "1/rect 1 1 4 3, 1/image 4 3"},
         // A selection that begins left of the right edge and ends beyond it.
         {"beyond the page nothing is copied",
          "open dots.volf tool select-rectangle drag 3 1 7 1 page 6 8 copy paste",
@@ -68,33 +67,28 @@ TEST_F(ClipboardCommands, WithASelection) {
 }
 
 TEST_F(ClipboardCommands, WholeLayers) {
-    const std::string greys = "open greys.volf copy ";
+    Check("open dots.volf ", "",
+          {{"cut and paste", "opacity 50 hue 0 saturation 40 contrast 80 cut paste",
+            "widths 84, selected 1, 1/rect 1 1 4 3, 1/region 0 1 4 3, 1/contrast 80, "
+            "slider/opacity 50, slider/contrast 80, undo 6"},
+           {"cut takes the layer", "cut", "widths 8, undo 1, clipboard/size 4 3"},
+           {"above the selected one", "copy select 0 paste", "widths 844, selected 1, undo 1"},
+           {"on top when none is selected", "copy tool move click 7 7 paste",
+            "widths 844, selected 2, slider/opacity 50"},
+           {"copies are the layer's own", "copy tool pencil-eraser click 1 1 paste",
+            "2@0,0 FF000000, 1@0,0 00000000"}});
     Check({
-        {"cut and paste", "open dots.volf select 1 opacity 50 hue 0 saturation 40 cut paste",
-         "layers 2, selected 1, 1/rect 1 1 4 3, 1/region 0 1 4 3, slider/opacity 50, undo 5, "
-         "1@3,2 FF000023"},
-        {"cut takes the layer", "open dots.volf cut", "layers 1, undo 1, clipboard/size 4 3"},
-        {"its sliders come with it", "open dots.volf brightness 50 contrast 80 copy paste",
-         "2/contrast 80, slider/contrast 80"},
-        {"above the selected one", "open dots.volf copy select 0 paste",
-         "widths 844, selected 1, undo 1"},
-        {"on top when none is selected", "open dots.volf copy tool move click 7 7 paste",
-         "widths 844, selected 2, slider/opacity 50"},
-        {"paste ends the selection", select + "copy select 0 paste", "selection null, selected 1"},
-        {"copies are the layer's own", "open dots.volf copy tool pencil-eraser click 1 1 paste",
-         "2@0,0 FF000000, 1@0,0 00000000"},
         // Greys drawn twice as wide: smoothly for other programs, as hard pixels here.
-        {"a scaled layer is copied in the size of its place", greys,
-         "clipboard/size 8 1, clipboard/alphas@0,0~0 255 255 255 255 255 255 255 255, "
-         "clipboard/reds@0,0~2 36 47 68 89 107 140 186 207, 0/image 4 1"},
-        {"and pasted", greys + "paste",
+        {"a scaled layer is copied in the size of its place", "open greys.volf copy paste",
+         "clipboard/size 8 1, clipboard/alphas@0,0 255 255 255 255 255 255 255 255, "
+         "clipboard/reds@0,0~2 36 47 68 89 107 140 186 207, 0/image 4 1, "
          "1/argb FF282828 FF282828 FF505050 FF505050 FF787878 FF787878 FFC8C8C8 FFC8C8C8, "
          "1/rect 0 3 8 1, 1/image 8 1"},
         {"others are shown a page of a larger layer", "open large.volf copy paste",
          "clipboard/size 10 9, clipboard@7,7 FF204060, clipboard@8,7 00000000, "
          "clipboard@7,8 00000000, 1@9,8 FF204060"},
-        {"a size that no picture has", "open endless.volf copy",
-         "clipboard/size 0 0, layers 2, undo 0"},
+        {"a size no picture has", "open endless.volf copy",
+         "clipboard/size 0 0, widths 84, undo 0"},
     });
 }
 

@@ -3,7 +3,6 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
-#include <iterator>
 #include <nlohmann/json.hpp>
 
 #include "cli/document_json.h"
@@ -24,14 +23,14 @@ using graphics::Bitmap;
 using testing::AccountOf;
 
 constexpr std::pair<std::string_view, editing::Slider Sliders::*> kSliders[] = {
-    {"opacity", &Sliders::Opacity},
-    {"hue", &Sliders::Hue},
-    {"saturation", &Sliders::Saturation},
-    {"contrast", &Sliders::Contrast},
-    {"scale", &Sliders::Scale},
-    {"page-width", &Sliders::PageWidth},
-    {"page-height", &Sliders::PageHeight},
-    {"colour-opacity", &Sliders::ColorOpacity},
+    {"slider/opacity", &Sliders::Opacity},
+    {"slider/hue", &Sliders::Hue},
+    {"slider/saturation", &Sliders::Saturation},
+    {"slider/contrast", &Sliders::Contrast},
+    {"slider/scale", &Sliders::Scale},
+    {"slider/page-width", &Sliders::PageWidth},
+    {"slider/page-height", &Sliders::PageHeight},
+    {"slider/colour-opacity", &Sliders::ColorOpacity},
 };
 
 std::string Hex(graphics::Argb color) {
@@ -40,106 +39,77 @@ std::string Hex(graphics::Argb color) {
     return text;
 }
 
-// Brackets, commas and quotes left out.
-std::string Plain(const std::string& json) {
-    std::string text;
-    for (const char c : json)
-        if (c == ',')
-            text += ' ';
-        else if (!strchr("[]\"", c))
-            text += c;
-    return text;
-}
-
+// Without brackets, commas and quotes.
 std::string Told(const editing::Editor& editor, const std::string& question) {
     const auto json = nlohmann::ordered_json::parse(DescribeDocument(editor));
-    const std::string path = isdigit(question[0]) ? "/layers/" + question : "/" + question;
-    if (question == "layers")
-        return std::to_string(json["layers"].size());
-    const nlohmann::ordered_json::json_pointer place(path);
-    return json.contains(place) ? Plain(json[place].dump()) : "no such thing";
-}
-
-std::vector<int> Numbers(const std::string& text) {
-    std::istringstream words(text);
-    return {std::istream_iterator<int>(words), {}};
+    const nlohmann::ordered_json::json_pointer place((isdigit(question[0]) ? "/layers/" : "/") +
+                                                     question);
+    std::string text;
+    for (const char c : json.contains(place) ? json[place].dump() : "no such thing")
+        if (!strchr("[]\"", c))
+            text += c == ',' ? ' ' : c;
+    return text;
 }
 
 // "WHAT@X,Y~T": as many numbers as expected; the expected text itself when all are near enough.
 std::string Channel(const Bitmap& picture, const std::string& question,
                     const std::string& expected) {
-    char what[16];
-    char direction = 0;
+    char what = 0, direction = 0;
     int x = 0, y = 0, tolerance = 0;
-    std::sscanf(question.c_str(), "%15[a-z]%c%d,%d~%d", what, &direction, &x, &y, &tolerance);
+    std::sscanf(question.c_str(), "/%c%*[a-z]%c%d,%d~%d", &what, &direction, &x, &y, &tolerance);
     std::string text;
     bool near = true;
-    for (const int number : Numbers(expected)) {
+    for (const std::string& number : Split(expected, " ")) {
         const graphics::Argb pixel = picture.GetPixel(x, y).value_or(0);
-        const int alpha = static_cast<int>(graphics::AlphaOf(pixel));
         const int red = pixel == 0 ? -1 : static_cast<int>(graphics::RedOf(pixel));
-        const int told = std::string_view(what) == "alphas" ? alpha : red;
-        near &= std::abs(told - number) <= tolerance;
+        const int told = what == 'a' ? static_cast<int>(graphics::AlphaOf(pixel)) : red;
+        near &= std::abs(told - std::stoi(number)) <= tolerance;
         text.append(text.empty() ? "" : " ").append(std::to_string(told));
         (direction == '@' ? x : y) += 1;
     }
     return near ? expected : text;
 }
 
-std::string OfPicture(const Bitmap& picture, const std::string& question,
-                      const std::string& expected) {
-    if (question == "argb")
-        return Argbs(picture);
-    if (question == "pixels")
-        return PixelRuns(picture);
-    if (question == "size")
-        return std::to_string(picture.Width()) + " " + std::to_string(picture.Height());
-    return Channel(picture, question, expected);
-}
-
 std::string Answer(Workspace& workspace, const std::string& question, const std::string& expected) {
     const editing::Editor& editor = workspace.Editor;
-    const std::size_t cut = question.find_first_of("/@");
-    const std::string subject = question.substr(0, cut);
-    const std::string topic = cut == std::string::npos ? "" : question.substr(cut + 1);
+    const std::vector<document::IconLayer>& layers = editor.Page().Layers;
     if (question == "title")
         return editor.Title;
-    if (question == "drag")
-        return std::holds_alternative<std::monostate>(editor.Drag) ? "none" : "one";
     if (question == "selection/runs")
         return editor.Selection.Exists() ? PixelRuns(editor.Selection.Region().Rects()) : "none";
     if (question == "widths") {
         std::string widths;
-        for (const document::IconLayer& layer : editor.Page().Layers)
+        for (const document::IconLayer& layer : layers)
             widths += std::to_string(layer.ImageWidth);
         return widths;
     }
-    if (subject == "color")
-        return Hex(editor.Tools.Colors[static_cast<std::size_t>(std::stoi(topic))]);
     for (const auto& [name, slider] : kSliders)
-        if (question == "slider/" + std::string(name))
+        if (question == name)
             return std::to_string((editor.Sliders.*slider).Value);
 
+    const std::size_t cut = std::min(question.find_first_of("/@"), question.size());
+    const std::string subject = question.substr(0, cut), topic = question.substr(cut);
     const bool isLayer = isdigit(question[0]);
     const std::size_t index = isLayer ? std::stoul(subject) : 0;
-    const bool isPixels = topic == "argb" || topic == "pixels" || topic == "size" ||
-                          topic.starts_with("alphas") || topic.starts_with("reds");
-    const bool isPixel = cut != std::string::npos && question[cut] == '@';
-    if (isLayer && index >= editor.Page().Layers.size())
+    if (isLayer && index >= layers.size())
         return "no such layer";
-    if (isLayer && topic == "runs")
-        return PixelRuns(editor.Page().Layers[index].Region.Rects());
-    if (!isPixels && !isPixel)
-        return Told(editor, question);
-    const Bitmap picture = isLayer                  ? editor.Page().Layers[index].Image
+    const Bitmap picture = isLayer                  ? layers[index].Image
                            : subject == "clipboard" ? workspace.Host.Picture()
                                                     : editor.Canvas;
-    if (isPixels)
-        return OfPicture(picture, topic, expected);
+    if (topic == "/runs")
+        return PixelRuns(layers[index].Region.Rects());
+    if (topic == "/argb")
+        return Argbs(picture);
+    if (topic == "/pixels")
+        return PixelRuns(picture);
+    if (topic == "/size")
+        return std::to_string(picture.Width()) + " " + std::to_string(picture.Height());
+    if (topic.starts_with("/alphas") || topic.starts_with("/reds"))
+        return Channel(picture, topic, expected);
     int x = 0, y = 0;
-    std::sscanf(topic.c_str(), "%d,%d", &x, &y);
-    const auto pixel = picture.GetPixel(x, y);
-    return pixel ? Hex(*pixel) : "outside";
+    if (std::sscanf(topic.c_str(), "@%d,%d", &x, &y) == 2)
+        return Hex(picture.GetPixel(x, y).value_or(0));
+    return Told(editor, question);
 }
 
 // Which one is selected is no matter of a step's.
@@ -180,9 +150,10 @@ RowsTest::~RowsTest() {
     std::filesystem::current_path(before_);
 }
 
-void RowsTest::Check(const std::vector<Row>& rows) {
+void RowsTest::Check(const std::string& script, const std::string& facts,
+                     const std::vector<Row>& rows) {
     for (const Row& row : rows)
-        Check(row);
+        Check({row.Behaviour, script + row.Script, facts + row.Facts});
 }
 
 void RowsTest::Check(const Row& row) {
@@ -200,10 +171,7 @@ void RowsTest::Check(const Row& row) {
         error = failure.what();
     }
     bool errorTold = error.empty();
-    std::string facts = row.Facts + ", ";
-    for (std::size_t end = 0; (end = facts.find(", ")) != std::string::npos;
-         facts.erase(0, end + 2)) {
-        const std::string fact = facts.substr(0, end);
+    for (const std::string& fact : Split(row.Facts, ", ")) {
         const std::size_t blank = std::min(fact.find(' '), fact.size());
         const std::string question = fact.substr(0, blank);
         const std::string expected = fact.substr(std::min(blank + 1, fact.size()));
@@ -225,19 +193,15 @@ void RowsTest::WriteDocument(const std::string& name, int width, int height,
     document::Document document;
     document.Master.Width = width;
     document.Master.Height = height;
-    for (const Placed& placed : layers) {
+    for (const auto& [image, rect, opacity, visible] : layers) {
         document::IconLayer& layer = document.Master.Layers.emplace_back();
-        const Bitmap& image = layer.Image = placed.Image;
-        layer.Rect = placed.Rect;
-        layer.ImageWidth = image.Width();
-        layer.ImageHeight = image.Height();
-        if (placed.Rect.Width == 0) {
-            layer.Rect.Width = static_cast<float>(image.Width());
-            layer.Rect.Height = static_cast<float>(image.Height());
-        }
+        layer.Image = image;
+        document::PlaceAt(layer, {0, 0, image.Width(), image.Height()});
+        if (rect.Width > 0)
+            layer.Rect = rect;
         layer.BaseRect = layer.Rect;
-        layer.Opacity = placed.Opacity;
-        layer.Visible = placed.Visible;
+        layer.Opacity = opacity;
+        layer.Visible = visible;
     }
     formats::SaveDocument(name, document);
 }
@@ -251,10 +215,20 @@ std::string RunScript(Workspace& workspace, const std::string& script) {
     return {};
 }
 
+std::vector<std::string> Split(const std::string& text, const std::string& separator) {
+    std::vector<std::string> parts;
+    std::size_t begin = 0;
+    for (std::size_t end = 0; (end = text.find(separator, begin)) != std::string::npos;
+         begin = end + separator.size())
+        parts.push_back(text.substr(begin, end - begin));
+    parts.push_back(text.substr(begin));
+    return parts;
+}
+
 std::string Argbs(const Bitmap& picture) {
     std::string text;
-    for (int i = 0; i < picture.Width() * picture.Height(); ++i)
-        text.append(i > 0 ? " " : "").append(Hex(picture.Pixels()[i]));
+    for (const graphics::Argb pixel : testing::PixelsOf(picture))
+        text.append(text.empty() ? "" : " ").append(Hex(pixel));
     return text;
 }
 

@@ -18,13 +18,13 @@ struct Row {
     std::string Script;  // verbs one after the other, as after the program's name
     // "QUESTION ANSWER, QUESTION ANSWER...". Questions, where N is a layer or `page`:
     //   undo, page/width...         what `info` tells, without brackets; N/rect is layers/N/rect
-    //   layers, widths              their number, and their image widths from the bottom up
+    //   widths                      the layers' image widths from the bottom up
     //   N/argb, N/pixels, N/size    all pixels; runs of pixels that aren't 0; width and height
     //   N@X,Y                       one pixel
     //   N/alphas@X,Y~T              as many alphas as the answer has, T more or less, to the right;
     //   N/reds|X,Y~T                reds, -1 where nothing is painted, downwards
     //   N/runs, selection/runs      a region, as runs
-    //   slider/NAME, color/N, title, drag
+    //   slider/NAME, title
     //   error                       of the last verb; without this question there must be none
     // `clipboard` is a layer, too.
     std::string Facts;
@@ -45,8 +45,9 @@ protected:
 
     // Each row in a workspace of its own. The page must be what a composition from nothing gives,
     // and the steps lead back to where they began and to their end again.
-    void Check(const std::vector<Row>& rows);
-    void Check(const Row& row);
+    void Check(const std::vector<Row>& rows) { Check("", "", rows); }
+    // Their scripts and facts go on from these.
+    void Check(const std::string& script, const std::string& facts, const std::vector<Row>& rows);
 
     // Files for scripts.
     static void Write(const std::string& name, const graphics::Bitmap& picture);
@@ -56,11 +57,15 @@ protected:
     testing::TemporaryFolder folder;  // the current one
 
 private:
+    static void Check(const Row& row);
+
     std::filesystem::path before_;
 };
 
 // Runs the verbs; the text of the failure, empty when there is none.
 std::string RunScript(Workspace& workspace, const std::string& script);
+
+std::vector<std::string> Split(const std::string& text, const std::string& separator);
 
 // All pixels, row by row.
 std::string Argbs(const graphics::Bitmap& picture);

@@ -1,4 +1,4 @@
-// The order of the layers, flips and turns, deleting, hiding, merging.
+// The order of the layers, flips and turns, deleting, hiding, merging; what is disabled.
 #include "rows.h"
 
 namespace orbelle::cli {
@@ -32,92 +32,83 @@ protected:
 };
 
 TEST_F(StackCommands, OrderFlipAndTurn) {
-    Check({
-        {"to the front", "open four.volf select 1 order front", "widths 1342, selected 3, undo 1"},
-        {"to the back", "open four.volf select 2 order back", "widths 3124, selected 0, undo 1"},
-        {"one back", "open four.volf select 2 order backward", "widths 1324, selected 1, undo 1"},
-        {"one forward", "open four.volf select 1 order forward",
-         "widths 1324, selected 2, undo 1, slider/opacity 20"},
-        {"undo", "open four.volf select 1 order front undo",
-         "widths 1234, selected 1, undo 0, redo 1"},
-        {"a step after undo forgets what lay ahead",
-         "open four.volf order back undo select 1 order backward", "widths 2134, undo 1, redo 0"},
-        // Turns leave the place and the size; the region is that of the turned picture.
-        {"flip", "open abc.volf flip horizontal",
-         "0/argb 0000000C FF00000B FF00000A FF00000F FF00000E FF00000D, undo 1, "
-         "0/runs 20: 10-11; 21: 9-11"},
-        {"flip over", "open abc.volf flip vertical",
-         "0/argb FF00000D FF00000E FF00000F FF00000A FF00000B 0000000C, undo 1, "
-         "0/runs 20: 9-11; 21: 9-10"},
-        {"turn", "open abc.volf rotate cw",
-         "0/argb FF00000D FF00000A FF00000E FF00000B FF00000F 0000000C, 0/size 2 3, undo 1, "
-         "0/rect 10 20 3 2, 0/image 3 2, 0/runs 20-21: 9-10; 22: 9"},
-        {"turn and mirror", "open abc.volf rotate cww",
-         "0/argb FF00000A FF00000D FF00000B FF00000E 0000000C FF00000F, 0/size 2 3, undo 1, "
-         "0/rect 10 20 3 2, 0/image 3 2, 0/runs 20-21: 9-10; 22: 10"},
-    });
+    Check("open four.volf ", "undo 1, ",
+          {{"to the front", "select 1 order front", "widths 1342, selected 3"},
+           {"to the back", "select 2 order back", "widths 3124, selected 0"},
+           {"one back", "select 2 order backward", "widths 1324, selected 1"},
+           {"one forward", "select 1 order forward", "widths 1324, selected 2, slider/opacity 20"},
+           {"a step after undo forgets what lay ahead", "order back undo select 1 order backward",
+            "widths 2134, redo 0"}});
+    // Turns leave the place and the size; the region is that of the turned picture.
+    Check("open abc.volf ", "undo 1, 0/rect 10 20 3 2, 0/image 3 2, ",
+          {{"flip", "flip horizontal",
+            "0/argb 0000000C FF00000B FF00000A FF00000F FF00000E FF00000D, "
+            "0/runs 20: 10-11; 21: 9-11"},
+           {"flip over", "flip vertical",
+            "0/argb FF00000D FF00000E FF00000F FF00000A FF00000B 0000000C, "
+            "0/runs 20: 9-11; 21: 9-10"},
+           {"turn", "rotate cw",
+            "0/argb FF00000D FF00000A FF00000E FF00000B FF00000F 0000000C, 0/size 2 3, "
+            "0/runs 20-21: 9-10; 22: 9"},
+           {"turn and mirror", "rotate cww",
+            "0/argb FF00000A FF00000D FF00000B FF00000E 0000000C FF00000F, 0/size 2 3, "
+            "0/runs 20-21: 9-10; 22: 10"}});
 }
 
 TEST_F(StackCommands, DeleteHideAndMerge) {
-    const std::string hues = "open four.volf select 1 hue 33 select 0 hue 9 ";
-    Check({
-        {"the layer below is next", hues + "select 2 delete",
-         "widths 124, selected 1, undo 3, slider/opacity 20, slider/hue 33"},
-        {"below the lowest is the one above", hues + "delete",
-         "widths 234, selected 0, undo 3, slider/opacity 20, slider/hue 33"},
-        {"undo shows the sliders again", hues + "select 2 delete undo",
-         "widths 1234, selected 2, slider/opacity 30, slider/hue 0"},
-        {"no layer is left", "new 8 8 delete", "layers 0, selected -1, undo 1, page@0,0 00000000"},
-        {"and comes back", "new 8 8 delete undo", "layers 1, selected 0, undo 0, redo 1"},
-        {"hidden without an undo step", "open four.volf toggle-visible",
-         "3/visible false, undo 0, modified false, page@3,0 00000000"},
-        {"shown again", "open four.volf toggle-visible toggle-visible",
-         "3/visible true, page@3,0 66204060"},
-        // Alpha 0.5 x 255 rounds to 128; both at once: R = 255 x 128 + 128 x 127 = 48896, which is
-        // 192 x 255, and red is (255 x 128 x 192 + 128 x 127 x 32) / R = 139.
-        {"both layers in the box of both, in two steps",
-         "open merge.volf select 1 hue 100 select 2 merge",
-         "layers 2, selected 1, 1/rect 1 -1 3 4, 1/base_rect 1 -1 3 4, 1/image 3 4, 1/opacity 1, "
-         "1/scale 0, 1/hue 0, slider/opacity 100, undo 3, 1/region 0 -1 2 4, "
-         "1/argb 00000000 80C0A010 80C0A010 00000000 80C0A010 80C0A010 "
-         "80204060 C08B802B 80C0A010 80204060 80204060 00000000"},
-        {"a hidden layer below is seen again",
-         "open merge.volf select 1 toggle-visible select 2 merge", "1/visible true, undo 2"},
-        {"a layer merged with an empty one can be picked",
-         "new 4 4 import red.png merge tool move click 0 0", "selected 0, 0/runs 0: 0-1; 1-2: 0"},
-        {"too far apart", "open far.volf merge",
-         "error merge: The two layers are too far apart to become one picture., widths 12, undo 0"},
-    });
+    Check("open four.volf select 1 hue 33 select 0 hue 9 ", "",
+          {{"the layer below is next", "select 2 delete",
+            "widths 124, selected 1, undo 3, slider/opacity 20, slider/hue 33"},
+           {"below the lowest is the one above", "delete",
+            "widths 234, selected 0, undo 3, slider/opacity 20, slider/hue 33"},
+           {"undo shows the sliders again", "select 2 delete undo",
+            "widths 1234, selected 2, slider/opacity 30, slider/hue 0"}});
+    Check(
+        {{"no layer is left", "new 8 8 delete", "widths , selected -1, undo 1, page@0,0 00000000"},
+         {"and comes back", "new 8 8 delete undo", "widths 8, selected 0, undo 0, redo 1"},
+         {"hidden without an undo step", "open four.volf toggle-visible",
+          "3/visible false, undo 0, modified false, page@3,0 00000000"},
+         {"shown again", "open four.volf toggle-visible toggle-visible", "page@3,0 66204060"},
+         // Alpha 0.5 x 255 rounds to 128; both at once: R = 255 x 128 + 128 x 127 = 48896, which is
+         // 192 x 255, and red is (255 x 128 x 192 + 128 x 127 x 32) / R = 139.
+         {"both layers in the box of both, in two steps",
+          "open merge.volf select 1 hue 100 select 2 merge",
+          "widths 83, selected 1, 1/rect 1 -1 3 4, 1/base_rect 1 -1 3 4, 1/image 3 4, 1/opacity 1, "
+          "1/scale 0, 1/hue 0, slider/opacity 100, undo 3, 1/region 0 -1 2 4, "
+          "1/argb 00000000 80C0A010 80C0A010 00000000 80C0A010 80C0A010 "
+          "80204060 C08B802B 80C0A010 80204060 80204060 00000000"},
+         {"a hidden layer below is seen again",
+          "open merge.volf select 1 toggle-visible select 2 merge", "1/visible true, undo 2"},
+         {"a layer merged with an empty one can be picked",
+          "new 4 4 import red.png merge tool move click 0 0", "selected 0, 0/runs 0: 0-1; 1-2: 0"},
+         {"too far apart", "open far.volf merge",
+          "error merge: The two layers are too far apart to become one picture., widths 12, undo "
+          "0"}});
 }
 
 TEST_F(StackCommands, DisabledEntriesFailWithTheReason) {
     const struct {
-        const char *Before, *Verb, *Reason;
+        std::string Reason, Before, Verbs;
     } cases[] = {
-        {"", "delete", "there is no document"},
-        {"", "toggle-visible", "there is no document"},
-        {"", "merge", "there is no document"},
-        {"", "paste", "there is no document"},
-        {"", "hue 3", "there is no document"},
-        {"new 4 4 delete", "copy", "no layer is selected"},
-        {"new 4 4 toggle-visible", "cut", "the selected layer is hidden"},
-        {"new 4 4 toggle-visible", "merge", "the selected layer is hidden"},
-        {"new 4 4 toggle-visible", "style fresh", "the selected layer is hidden"},
-        {"new 4 4 style ios", "flip vertical", "the selected layer clips the one above it"},
-        {"new 4 4", "paste", "the clipboard holds no picture"},
-        {"new 4 4", "merge", "there is no layer below the selected one"},
-        {"new 4 4", "order back", "the selected layer is there already"},
-        {"new 4 4 add-layer", "order front", "the selected layer is there already"},
-        {"new 4 4 add-layer", "order forward", "the selected layer is there already"},
-        {"new 4 4 add-layer select 0", "order backward", "the selected layer is there already"},
-        {"new 4 4", "undo", "there is nothing to undo"},
-        {"new 4 4 add-layer", "redo", "there is nothing to redo"},
-        {"new 4 4", "select 1", "there is no layer 1; the document has 1"},
-        {"new 4 4 tool pencil", "line-width 3", "the tool in use has no line width"},
-    };
-    for (const auto& [before, verb, reason] : cases)
-        Check({"disabled", std::string(before) + " " + verb,
-               std::string("error ") + verb + ": " + reason});
+        {"there is no document", "",
+         "save a.volf,export a.png,page 8 8,select 0,background none,add-layer,opacity 5,"
+         "style crystal,info,region 0,selection,write-page a,write-scene a,write-layer 0 a,"
+         "tool pencil,click 1 1,key left,delete,toggle-visible,merge,paste,hue 3"},
+        {"the document has no layer", "new 4 4 delete", "save a.volf,export a.png"},
+        {"no layer is selected", "new 4 4 delete", "copy"},
+        {"the selected layer is hidden", "new 4 4 toggle-visible", "cut,merge,style fresh"},
+        {"the selected layer clips the one above it", "new 4 4 style ios", "flip vertical"},
+        {"the clipboard holds no picture", "new 4 4", "paste"},
+        {"there is no layer below the selected one", "new 4 4", "merge"},
+        {"the selected layer is there already", "new 4 4 add-layer", "order front,order forward"},
+        {"the selected layer is there already", "new 4 4", "order back,order backward"},
+        {"there is nothing to undo", "new 4 4", "undo"},
+        {"there is nothing to redo", "new 4 4 add-layer", "redo"},
+        {"there is no layer 1; the document has 1", "new 4 4", "select 1"},
+        {"the tool in use has no line width", "new 4 4 tool pencil", "line-width 3"}};
+    for (const auto& [reason, before, verbs] : cases)
+        for (const std::string& verb : Split(verbs, ","))
+            Check({{"disabled", before + " " + verb, "error " + verb + ": " + reason}});
 }
 
 }  // namespace
