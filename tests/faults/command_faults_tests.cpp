@@ -9,6 +9,7 @@
 #include <fstream>
 #include <iterator>
 #include <map>
+#include <random>
 #include <string>
 #include <tuple>
 #include <vector>
@@ -30,6 +31,7 @@
 #include "editing/view_commands.h"
 #include "faults/injection.h"
 #include "support/editor_account.h"
+#include "support/random_pictures.h"
 #include "support/temporary_folder.h"
 
 namespace orbelle::testing {
@@ -46,16 +48,9 @@ constexpr int kPageSide = 24;
 constexpr int kSceneSide = 40;
 constexpr float kPageOnScene = (kSceneSide - kPageSide) / 2;
 
-// Parts of every alpha; `seed` tells pictures apart.
 Bitmap Picture(int width, int height, unsigned seed) {
-    Bitmap picture(width, height);
-    for (int y = 0; y < height; ++y) {
-        for (int x = 0; x < width; ++x) {
-            const unsigned alpha = x == 0 || y == 0 ? 0 : x > y ? 255 : x * 16;
-            picture.SetPixel(x, y, graphics::MakeArgb(alpha, x * 15, y * 15, seed * 50));
-        }
-    }
-    return picture;
+    std::mt19937 random(seed);
+    return RandomPicture(random, width, height);
 }
 
 // An editor with all that stands around it.

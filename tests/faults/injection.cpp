@@ -148,15 +148,13 @@ static bool MallocFails() {
     return true;
 }
 
-void* malloc(std::size_t size) noexcept {
-    return MallocFails() ? nullptr : __libc_malloc(size);
-}
-void* calloc(std::size_t count, std::size_t size) noexcept {
-    return MallocFails() ? nullptr : __libc_calloc(count, size);
-}
-void* realloc(void* memory, std::size_t size) noexcept {
-    return MallocFails() ? nullptr : __libc_realloc(memory, size);
-}
+#define ORBELLE_ALLOCATING(name, parameters, arguments)           \
+    void* name parameters noexcept {                              \
+        return MallocFails() ? nullptr : __libc_##name arguments; \
+    }
+ORBELLE_ALLOCATING(malloc, (std::size_t size), (size))
+ORBELLE_ALLOCATING(calloc, (std::size_t count, std::size_t size), (count, size))
+ORBELLE_ALLOCATING(realloc, (void* memory, std::size_t size), (memory, size))
 
 #endif
 
