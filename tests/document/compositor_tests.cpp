@@ -1,18 +1,20 @@
 #include "document/compositor.h"
 
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 #include <random>
 
 #include "document/layer_slots.h"
 #include "support/pictures.h"
+#include "support/pixel_runs.h"
+#include "support/random_pictures.h"
 
 namespace orbelle::document {
 namespace {
 
 using graphics::Bitmap;
 using graphics::InterpolationMode;
-using graphics::RectI;
+using ::testing::ElementsAre;
 using testing::FilledPicture;
 using testing::SamePixels;
 
@@ -20,13 +22,14 @@ constexpr auto kNearest = InterpolationMode::NearestNeighbor;
 
 Bitmap Composed(Page& page, InterpolationMode interpolation = kNearest) {
     Compositor compositor;
-    graphics::Bitmap canvas;
+    Bitmap canvas;
     compositor.Compose(page, interpolation, canvas);
     return canvas;
 }
 
-void AddLayer(Page& page, const Bitmap& image) {
+IconLayer& AddLayer(Page& page, const Bitmap& image) {
     MakeImageLayer(page, page.Layers.emplace_back(), image);
+    return page.Layers.back();
 }
 
 Page PageOf(int width, int height) {
@@ -36,51 +39,43 @@ Page PageOf(int width, int height) {
     return page;
 }
 
-TEST(Compositor, APageWithoutSizeBecomesOnePixel) {
-    Page page = PageOf(0, -3);
-    const Bitmap picture = Composed(page);
-    EXPECT_EQ(picture.Width(), 1);
-    EXPECT_EQ(picture.Height(), 1);
-    EXPECT_EQ(page.Width, 1);
-    EXPECT_EQ(page.Height, 1);
-}
-
 TEST(Compositor, BlendsVisibleLayersFromTheBottomWithTheirOpacity) {
     Page page = PageOf(4, 4);
     AddLayer(page, FilledPicture(4, 4, 0xFF000000));
-    AddLayer(page, FilledPicture(2, 2, 0xFFFFFFFF));
-    page.Layers[1].Opacity = 0.5F;
-    AddLayer(page, FilledPicture(4, 4, 0xFFFF0000));
-    page.Layers[2].Visible = false;
-    const Bitmap picture = Composed(page);
-    EXPECT_EQ(picture.GetPixel(0, 0), 0xFF000000);
-    EXPECT_EQ(picture.GetPixel(1, 1), 0xFF808080);  // 255 x 0.5 is 128 of 255
-    page.Layers[1].Rect.X = -1.9F;                  // places are cut toward zero
+    AddLayer(page, FilledPicture(2, 2, 0xFFFFFFFF)).Opacity = 0.5F;
+    AddLayer(page, FilledPicture(4, 4, 0xFFFF0000)).Visible = false;
+    EXPECT_EQ(Composed(page).GetPixel(0, 0), 0xFF000000);
+    EXPECT_EQ(Composed(page).GetPixel(1, 1), 0xFF808080);  // 255 x 0.5 is 128 of 255
+    page.Layers[1].Rect.X = -1.9F;                         // places are cut toward zero
     EXPECT_EQ(Composed(page).GetPixel(0, 1), 0xFF808080);
     EXPECT_EQ(Composed(page).GetPixel(1, 1), 0xFF000000);
+
+    Page none = PageOf(0, -3);
+    EXPECT_TRUE(SamePixels(Composed(none), Bitmap(1, 1)));
+    EXPECT_EQ(std::pair(none.Width, none.Height), std::pair(1, 1));
 }
 
 TEST(Compositor, APlateCutsAllLayersAboveItAlsoWhenItIsHidden) {
     Page page = PageOf(24, 24);
-    AddLayer(page, FilledPicture(24, 24, 0xFF111111));
+    for (const graphics::Argb color : {0xFF111111, 0xFF222222, 0xFF333333})
+        AddLayer(page, FilledPicture(24, 24, color));
     page.Layers[0].ClipNextLayer = true;
     page.Layers[0].Visible = false;
-    AddLayer(page, FilledPicture(24, 24, 0xFF222222));
-    AddLayer(page, FilledPicture(24, 24, 0xFF333333));
-    const Bitmap picture = Composed(page);
-    EXPECT_EQ(picture.GetPixel(1, 0), 0U);
-    EXPECT_EQ(picture.GetPixel(2, 0), 0xFF333333);
-    EXPECT_EQ(picture.GetPixel(0, 1), 0U);
-    EXPECT_EQ(picture.GetPixel(0, 2), 0xFF333333);
+    const auto pixels = [&](std::initializer_list<std::pair<int, int>> places) {
+        const Bitmap picture = Composed(page);
+        std::vector<graphics::Argb> found;
+        for (const auto& [x, y] : places)
+            found.push_back(*picture.GetPixel(x, y));
+        return found;
+    };
+    EXPECT_THAT(pixels({{1, 0}, {2, 0}, {0, 1}, {0, 2}}),
+                ElementsAre(0U, 0xFF333333, 0U, 0xFF333333));
     EXPECT_FALSE(page.Layers[0].Path.IsNull());
 
     // A second plate only narrows.
     page.Layers[1].ClipNextLayer = true;
     page.Layers[1].Rect.X = 12;
-    const Bitmap narrowed = Composed(page);
-    EXPECT_EQ(narrowed.GetPixel(10, 10), 0U);
-    EXPECT_EQ(narrowed.GetPixel(20, 10), 0xFF333333);
-    EXPECT_EQ(narrowed.GetPixel(23, 1), 0U);
+    EXPECT_THAT(pixels({{10, 10}, {20, 10}, {23, 1}}), ElementsAre(0U, 0xFF333333, 0U));
 }
 
 class RandomEdits {
@@ -90,36 +85,39 @@ public:
     void Edit(Page& page) {
         const int choice = Below(11);
         if (page.Layers.empty() || choice == 0) {
-            AddLayer(page, RandomPicture());
+            AddLayer(page, testing::RandomPicture(random_, 1 + Below(30), 1 + Below(30)));
             return;
         }
         IconLayer& layer = page.Layers[static_cast<std::size_t>(Below(page.LayerCount()))];
-        if (choice <= 3) {
+        if (choice <= 3)
             layer.Rect.X += static_cast<float>(Below(9) - 4);
-        } else if (choice == 4) {
+        else if (choice == 4)
             Stroke(layer);
-        } else if (choice == 5) {
+        else if (choice == 5)
             layer.Opacity = static_cast<float>(Below(101)) / 100.0F;
-        } else if (choice == 6) {
+        else if (choice == 6)
             layer.Visible = !layer.Visible;
-        } else if (choice == 7) {
+        else if (choice == 7)
             std::swap(layer, page.Layers.back());
-        } else if (choice == 8) {
+        else if (choice == 8)
             layer.ClipNextLayer = !layer.ClipNextLayer;
-        } else if (choice == 9) {
-            layer.ImageWidth = 1 + Below(30);
-            layer.ImageHeight = 1 + Below(30);
-            layer.Rect.Width = static_cast<float>(Below(3) ? layer.ImageWidth : 1 + Below(30));
-            layer.Rect.Height = static_cast<float>(Below(3) ? layer.ImageHeight : 1 + Below(30));
-        } else if (page.LayerCount() > 6) {
+        else if (choice == 9)
+            Scale(layer);
+        else if (page.LayerCount() > 6)
             page.Layers.erase(page.Layers.begin() + Below(page.LayerCount()));
-        } else {
+        else
             page.Width = 10 + Below(20);
-        }
     }
 
 private:
     int Below(int bound) { return static_cast<int>(random_() % static_cast<unsigned>(bound)); }
+
+    void Scale(IconLayer& layer) {
+        layer.ImageWidth = 1 + Below(30);
+        layer.ImageHeight = 1 + Below(30);
+        layer.Rect.Width = static_cast<float>(Below(3) ? layer.ImageWidth : 1 + Below(30));
+        layer.Rect.Height = static_cast<float>(Below(3) ? layer.ImageHeight : 1 + Below(30));
+    }
 
     // What a tool does: another picture that differs in a box, in several, or nowhere.
     void Stroke(IconLayer& layer) {
@@ -132,14 +130,6 @@ private:
             layer.Rect.X += 1;
     }
 
-    Bitmap RandomPicture() {
-        Bitmap picture(1 + Below(30), 1 + Below(30));
-        for (int y = 0; y < picture.Height(); ++y)
-            for (int x = 0; x < picture.Width(); ++x)
-                picture.SetPixel(x, y, Below(3) ? random_() : 0);
-        return picture;
-    }
-
     std::mt19937 random_;
 };
 
@@ -149,7 +139,7 @@ TEST(Compositor, WhatItRemembersNeverShows) {
         RandomEdits edits(seed);
         Page page = PageOf(24, 20);
         Compositor compositor;
-        graphics::Bitmap canvas;
+        Bitmap canvas;
         for (int step = 0; step < 150; ++step) {
             edits.Edit(page);
             compositor.Compose(page, interpolation, canvas);
@@ -160,45 +150,36 @@ TEST(Compositor, WhatItRemembersNeverShows) {
 }
 
 TEST(Compositor, RepaintsTheBoxAroundTheDotsThatAToolSet) {
-    constexpr graphics::Argb kLayer = 0xFF204060, kDot = 0xFFFFFFFF, kSpoilt = 0xFF00FF00;
-    // Where two dots are set in the lower layer, and the box on the page that is painted again.
+    // Dots in the lower layer, of whose picture so many columns are shown.
     const struct {
         std::vector<std::pair<int, int>> Dots;
-        RectI Repainted;
+        int Columns;
+        const char* Repainted;
     } cases[] = {
-        {{{2, 5}, {7, 3}}, {5, 2, 6, 3}},
-        {{{0, 0}, {9, 9}}, {3, 0, 10, 9}},  // row 0 lies above the page
-        {{{4, 4}}, {7, 3, 1, 1}},
-        {{{8, 2}}, {}},  // beyond what is shown of the picture
-        {{}, {}},
+        {{{2, 5}, {7, 3}}, 10, "2-4: 5-10"},
+        {{{0, 0}, {9, 9}}, 10, "0-8: 3-12"},  // row 0 lies above the page
+        {{{4, 4}}, 10, "3: 7"},
+        {{{8, 2}}, 6, ""},
+        {{}, 10, ""},
     };
-    for (const auto& test : cases) {
+    for (const auto& [dots, columns, repainted] : cases) {
         Page page = PageOf(16, 12);
-        AddLayer(page, FilledPicture(10, 10, kLayer));
+        IconLayer layer = AddLayer(page, FilledPicture(10, 10, 0xFF204060));
         AddLayer(page, FilledPicture(16, 12, 0x40FF0000));
-        IconLayer& layer = page.Layers[0];
-        layer.Rect.X = 3;
-        layer.Rect.Y = -1;
-        if (test.Repainted.IsEmpty())
-            layer.ImageWidth = layer.Rect.Width = 6;
+        layer.ImageWidth = columns;
+        layer.Rect = {3, -1, static_cast<float>(columns), 10};
+        page.Layers[0] = layer;
         Compositor compositor;
-        graphics::Bitmap canvas;
+        Bitmap canvas;
         compositor.Compose(page, kNearest, canvas);
-        canvas = FilledPicture(16, 12, kSpoilt);
+        canvas = Bitmap(16, 12);
 
-        Bitmap drawn = FilledPicture(10, 10, kLayer);
-        for (const auto& [x, y] : test.Dots)
-            drawn.SetPixel(x, y, kDot);
-        layer.Image = drawn;
+        for (const auto& [x, y] : dots)
+            layer.Image.SetPixel(x, y, 0xFFFFFFFF);
+        layer.Image.MutablePixels();
+        page.Layers[0] = layer;
         compositor.Compose(page, kNearest, canvas);
-
-        const Bitmap whole = Composed(page);
-        Bitmap expected = FilledPicture(16, 12, kSpoilt);
-        const RectI& box = test.Repainted;
-        for (int y = box.Y; y < box.Y + box.Height; ++y)
-            for (int x = box.X; x < box.X + box.Width; ++x)
-                expected.SetPixel(x, y, *whole.GetPixel(x, y));
-        EXPECT_TRUE(SamePixels(canvas, expected)) << box.X << ", " << box.Width;
+        EXPECT_EQ(PixelRuns(canvas), repainted);
     }
 }
 

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 #include "support/pictures.h"
 
 namespace orbelle::document {
@@ -12,15 +14,16 @@ using graphics::Bitmap;
 using graphics::RectI;
 using testing::FilledPicture;
 
-constexpr Argb kShadow = 0xFF808080;
+constexpr Argb kShadow = 0xFF808080, kDark = 0xFFF0F0F0, kLight = 0xFFFFFFFF;
+constexpr Argb kBlue = 0xFF0000FF, kGreen = 0xFF00FF00;
 
+// A blank page in the middle of a scene of 100 x 60.
 struct Shown {
     Page page;
     Argb background = 0;
     View view;
     Bitmap canvas;
     Bitmap scene;
-    document::Selection selection;
 
     Shown(int width, int height, double zoom) : canvas(width, height) {
         page.Width = width;
@@ -31,9 +34,12 @@ struct Shown {
         view.ViewActive = true;
     }
 
-    Argb At(int x, int y) {
-        DrawScene(scene, canvas, background, view, selection);
-        return *scene.GetPixel(x, y);
+    void Draw() { DrawScene(scene, canvas, background, view, {}); }
+
+    void ExpectPixels(const std::vector<std::tuple<int, int, Argb>>& pixels) {
+        Draw();
+        for (const auto& [x, y, color] : pixels)
+            EXPECT_EQ(scene.GetPixel(x, y), color) << x << ", " << y;
     }
 };
 
@@ -42,106 +48,60 @@ TEST(View, ScrollRatiosAreTenths) {
              {3, 10, 0.3}, {3, 7, 0.4}, {1, 4, 0.3}, {7, 20, 0.4}, {5, 10, 0.5}, {1, 0, 0}})
         EXPECT_DOUBLE_EQ(ScrollRatio({value, max}), ratio) << value << " of " << max;
     EXPECT_DOUBLE_EQ(RoundToTenth(-0.25), -0.3);
-}
 
-TEST(View, ALargePageMovesLeftAsTheBarMovesRight) {
-    Page page;
-    page.Width = 300;
-    page.Height = 20;
-    View view;
-    view.SceneWidth = 100;
-    view.SceneHeight = 60;
-    view.Zoom = 1;
-    view.HorizontalScroll.Value = 2;
-    EXPECT_DOUBLE_EQ(PageOffsetX(page, view), -40);
-    EXPECT_DOUBLE_EQ(PageOffsetY(page, view), 20);
-}
-
-TEST(DrawScene, NothingHappensWithoutADocument) {
-    Shown shown(4, 2, 1);
-    shown.view.ViewActive = false;
-    DrawScene(shown.scene, shown.canvas, shown.background, shown.view, shown.selection);
-    EXPECT_TRUE(shown.scene.IsEmpty());
+    Shown large(300, 20, 1);
+    large.view.HorizontalScroll.Value = 2;
+    EXPECT_DOUBLE_EQ(PageOffsetX(large.page, large.view), -40);
+    EXPECT_DOUBLE_EQ(PageOffsetY(large.page, large.view), 20);
 }
 
 // The page of 40 x 20 lies at (30, 20) of the scene.
-TEST(DrawScene, ShowsCheckerShadowAndFrameAroundATransparentPage) {
+TEST(DrawScene, ShowsCheckerShadowAndFrameAroundThePage) {
     Shown shown(40, 20, 1);
-    EXPECT_EQ(shown.At(29, 30), kSceneColor);
-    EXPECT_EQ(shown.At(32, 22), 0xFFF0F0F0);  // first cell, beyond the frame's line
-    EXPECT_EQ(shown.At(36, 22), 0xFFFFFFFF);
-    EXPECT_EQ(shown.At(32, 26), 0xFFFFFFFF);
-    EXPECT_EQ(shown.At(36, 26), 0xFFF0F0F0);
-    EXPECT_EQ(shown.At(70, 30), kShadow);
-    EXPECT_EQ(shown.At(89, 30), kShadow);
-    EXPECT_EQ(shown.At(90, 30), kSceneColor);
-    EXPECT_EQ(shown.At(31, 40), kShadow);
-    EXPECT_EQ(shown.At(89, 59), kShadow);
-    EXPECT_EQ(shown.At(80, 19), kSceneColor);
-    // Black at alpha 200 over the checker, (30, 20) to (71, 41).
-    EXPECT_EQ(shown.At(30, 20), 0xFF343434);
-    EXPECT_EQ(shown.At(71, 30), 0xFF1C1C1C);
-    EXPECT_EQ(shown.At(72, 30), kShadow);
-    EXPECT_EQ(shown.At(50, 41), 0xFF1C1C1C);
+    shown.ExpectPixels({{29, 30, kSceneColor}, {90, 30, kSceneColor}, {80, 19, kSceneColor}});
+    shown.ExpectPixels({{32, 22, kDark}, {36, 22, kLight}, {32, 26, kLight}, {36, 26, kDark}});
+    shown.ExpectPixels(
+        {{72, 30, kShadow}, {89, 30, kShadow}, {31, 42, kShadow}, {89, 59, kShadow}});
+    // Black at alpha 200 over the checker and the shadow, (30, 20) to (71, 41).
+    shown.ExpectPixels({{30, 20, 0xFF343434}, {71, 30, 0xFF1C1C1C}, {50, 41, 0xFF1C1C1C}});
+    shown.background = kBlue;
+    shown.canvas = FilledPicture(40, 20, kGreen);
+    shown.canvas.SetPixel(5, 5, 0);
+    shown.ExpectPixels({{30, 20, kGreen}, {35, 25, kBlue}, {69, 39, kGreen}, {70, 39, kShadow}});
 }
 
-// Cells are counted from the page's corner, also where that lies beyond the scene: at (-8, -8).
+// Cells are counted from the page's corner, also where that lies beyond the scene.
 TEST(DrawScene, TheCheckerScrollsWithThePage) {
     Shown shown(116, 76, 1);
-    EXPECT_EQ(shown.At(0, 0), 0xFFF0F0F0);
-    EXPECT_EQ(shown.At(4, 0), 0xFFFFFFFF);
-    shown.view.VerticalScroll.Value = shown.view.HorizontalScroll.Value = 10;  // to (-16, -16)
-    EXPECT_EQ(shown.At(0, 0), 0xFFF0F0F0);
-    shown.view.VerticalScroll.Value = 7;  // 70 % of -16, cut to -11
-    EXPECT_EQ(shown.At(0, 0), 0xFFFFFFFF);
+    shown.ExpectPixels({{0, 0, kDark}, {4, 0, kLight}});  // from (-8, -8)
+    shown.view.VerticalScroll.Value = shown.view.HorizontalScroll.Value = 10;
+    shown.ExpectPixels({{0, 0, kDark}});  // from (-16, -16)
+    shown.view.VerticalScroll.Value = 7;
+    shown.ExpectPixels({{0, 0, kLight}});  // 70 % of -16, cut to -11
 }
 
-TEST(DrawScene, ThePictureCoversTheFrameAndShowsTheBackgroundThrough) {
-    Shown shown(40, 20, 1);
-    shown.background = 0xFF0000FF;
-    shown.canvas = FilledPicture(40, 20, 0xFF00FF00);
-    shown.canvas.SetPixel(5, 5, 0);
-    EXPECT_EQ(shown.At(30, 20), 0xFF00FF00);
-    EXPECT_EQ(shown.At(35, 25), 0xFF0000FF);
-    EXPECT_EQ(shown.At(69, 39), 0xFF00FF00);
-    EXPECT_EQ(shown.At(70, 39), kShadow);
-}
-
-// 10 x 5 at zoom 3 is 30 x 15 at (35, 22.5); half of the zoom, 1.5, is 2 as a whole number.
+// 10 x 5 at zoom 3 is 30 x 15 at (35, 22); half of the zoom, 1.5, is 2 as a whole number.
 TEST(DrawScene, ZoomedPixelsAreSquaresAndTheBackgroundLiesHalfAPixelOff) {
     Shown shown(10, 5, 3);
-    shown.view.SceneHeight = 59;  // the page at (35, 22)
-    shown.background = 0xFF0000FF;
-    shown.canvas.SetPixel(1, 1, 0xFF00FF00);
-    EXPECT_EQ(shown.At(38, 25), 0xFF00FF00);
-    EXPECT_EQ(shown.At(40, 27), 0xFF00FF00);
-    EXPECT_EQ(shown.At(41, 27), 0xFF0000FF);
-    EXPECT_EQ(shown.At(36, 30), kSceneColor);  // left of the shifted background
-    EXPECT_EQ(shown.At(37, 30), 0xFF0000FF);
-    EXPECT_EQ(shown.At(65, 30), kShadow);
-    EXPECT_EQ(shown.At(84, 30), kShadow);
-    EXPECT_EQ(shown.At(85, 30), kSceneColor);
-}
-
-// The page less the selection is darkened by black at alpha 100: 255 x 155 / 255.
-TEST(DrawScene, TheSelectionStaysBright) {
-    Shown shown(40, 20, 1);
-    shown.canvas = FilledPicture(40, 20, 0xFFFFFFFF);
-    shown.selection.Start();
-    shown.selection.AddFrame(20, 10, 10, 5, document::FrameShape::Rectangle);
-    EXPECT_EQ(shown.At(30, 20), 0xFF9B9B9B);
-    EXPECT_EQ(shown.At(40, 25), 0xFFFFFFFF);
-    EXPECT_EQ(shown.At(49, 29), 0xFFFFFFFF);
-    EXPECT_EQ(shown.At(50, 29), 0xFF9B9B9B);
+    shown.view.SceneHeight = 59;
+    shown.background = kBlue;
+    shown.canvas.SetPixel(1, 1, kGreen);
+    shown.ExpectPixels({{38, 25, kGreen}, {40, 27, kGreen}, {41, 27, kBlue}, {37, 30, kBlue}});
+    shown.ExpectPixels({{36, 30, kSceneColor}, {85, 30, kSceneColor}});
+    shown.ExpectPixels({{65, 30, kShadow}, {84, 30, kShadow}});
 }
 
 TEST(DrawScene, StaysInsideTheSceneAtEveryZoom) {
     Shown shown(512, 300, 1);
+    shown.view.ViewActive = false;
+    shown.Draw();
+    EXPECT_TRUE(shown.scene.IsEmpty()) << "there is no document";
+    shown.view.ViewActive = true;
     for (const double zoom : {-2.0, 0.0, 0.2, 20.0}) {
         shown.view.Zoom = zoom;
         for (const int value : {0, 3, 10}) {
             shown.view.HorizontalScroll.Value = shown.view.VerticalScroll.Value = value;
-            DrawScene(shown.scene, shown.canvas, shown.background, shown.view, shown.selection);
+            shown.Draw();
         }
     }
     EXPECT_EQ(shown.scene.Width(), 100);

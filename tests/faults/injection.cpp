@@ -109,66 +109,28 @@ std::atomic<std::FILE*> unreadable = nullptr;
 using namespace orbelle::testing;
 
 // Every form, for a sanitizer's own forms do not call one another.
-void* operator new(std::size_t size) {
-    return Allocate(size);
-}
-void* operator new[](std::size_t size) {
-    return Allocate(size);
-}
-void* operator new(std::size_t size, std::align_val_t alignment) {
-    return Allocate(size, alignment);
-}
-void* operator new[](std::size_t size, std::align_val_t alignment) {
-    return Allocate(size, alignment);
-}
-void* operator new(std::size_t size, const std::nothrow_t&) noexcept {
-    return AllocateOrNull(size);
-}
-void* operator new[](std::size_t size, const std::nothrow_t&) noexcept {
-    return AllocateOrNull(size);
-}
-void* operator new(std::size_t size, std::align_val_t alignment, const std::nothrow_t&) noexcept {
-    return AllocateOrNull(size, alignment);
-}
-void* operator new[](std::size_t size, std::align_val_t alignment, const std::nothrow_t&) noexcept {
-    return AllocateOrNull(size, alignment);
-}
-void operator delete(void* memory) noexcept {
-    std::free(memory);
-}
-void operator delete[](void* memory) noexcept {
-    std::free(memory);
-}
-void operator delete(void* memory, std::size_t) noexcept {
-    std::free(memory);
-}
-void operator delete[](void* memory, std::size_t) noexcept {
-    std::free(memory);
-}
-void operator delete(void* memory, std::align_val_t) noexcept {
-    std::free(memory);
-}
-void operator delete[](void* memory, std::align_val_t) noexcept {
-    std::free(memory);
-}
-void operator delete(void* memory, std::size_t, std::align_val_t) noexcept {
-    std::free(memory);
-}
-void operator delete[](void* memory, std::size_t, std::align_val_t) noexcept {
-    std::free(memory);
-}
-void operator delete(void* memory, const std::nothrow_t&) noexcept {
-    std::free(memory);
-}
-void operator delete[](void* memory, const std::nothrow_t&) noexcept {
-    std::free(memory);
-}
-void operator delete(void* memory, std::align_val_t, const std::nothrow_t&) noexcept {
-    std::free(memory);
-}
-void operator delete[](void* memory, std::align_val_t, const std::nothrow_t&) noexcept {
-    std::free(memory);
-}
+#define ORBELLE_BOTH_FORMS(result, name, parameters, work) \
+    result name parameters {                               \
+        work;                                              \
+    }                                                      \
+    result name[] parameters {                             \
+        work;                                              \
+    }
+#define ORBELLE_NEW(parameters, work) ORBELLE_BOTH_FORMS(void*, operator new, parameters, work)
+#define ORBELLE_DELETE(parameters) \
+    ORBELLE_BOTH_FORMS(void, operator delete, parameters noexcept, std::free(memory))
+
+ORBELLE_NEW((std::size_t size), return Allocate(size))
+ORBELLE_NEW((std::size_t size, std::align_val_t to), return Allocate(size, to))
+ORBELLE_NEW((std::size_t size, const std::nothrow_t&) noexcept, return AllocateOrNull(size))
+ORBELLE_NEW((std::size_t size, std::align_val_t to, const std::nothrow_t&) noexcept,
+            return AllocateOrNull(size, to))
+ORBELLE_DELETE((void* memory))
+ORBELLE_DELETE((void* memory, std::size_t))
+ORBELLE_DELETE((void* memory, std::align_val_t))
+ORBELLE_DELETE((void* memory, std::size_t, std::align_val_t))
+ORBELLE_DELETE((void* memory, const std::nothrow_t&))
+ORBELLE_DELETE((void* memory, std::align_val_t, const std::nothrow_t&))
 
 // The dynamic linker gives the libraries, too, these functions in place of the C library's.
 extern "C" {
@@ -186,22 +148,31 @@ static bool MallocFails() {
     return true;
 }
 
-void* malloc(std::size_t size) noexcept {
-    return MallocFails() ? nullptr : __libc_malloc(size);
-}
-void* calloc(std::size_t count, std::size_t size) noexcept {
-    return MallocFails() ? nullptr : __libc_calloc(count, size);
-}
-void* realloc(void* memory, std::size_t size) noexcept {
-    return MallocFails() ? nullptr : __libc_realloc(memory, size);
-}
+#define ORBELLE_ALLOCATING(name, parameters, arguments)           \
+    void* name parameters noexcept {                              \
+        return MallocFails() ? nullptr : __libc_##name arguments; \
+    }
+ORBELLE_ALLOCATING(malloc, (std::size_t size), (size))
+ORBELLE_ALLOCATING(calloc, (std::size_t count, std::size_t size), (count, size))
+ORBELLE_ALLOCATING(realloc, (void* memory, std::size_t size), (memory, size))
 
 #endif
 
-std::FILE* fopen(const char* path, const char* mode) {
-    static const auto next = Next<decltype(&fopen)>("fopen");
-    return FileOperationFails() ? nullptr : next(path, mode);
-}
+#define ORBELLE_FAILING(result, failure, name, parameters, arguments) \
+    result name parameters {                                          \
+        static const auto next = Next<result(*) parameters>(#name);   \
+        return FileOperationFails() ? (failure) : next arguments;     \
+    }
+
+ORBELLE_FAILING(std::FILE*, nullptr, fopen, (const char* path, const char* mode), (path, mode))
+ORBELLE_FAILING(int, -1, rename, (const char* from, const char* to) noexcept, (from, to))
+ORBELLE_FAILING(int, -1, stat, (const char* path, struct stat* to) noexcept, (path, to))
+ORBELLE_FAILING(int, -1, lstat, (const char* path, struct stat* to) noexcept, (path, to))
+ORBELLE_FAILING(ssize_t, -1, readlink, (const char* path, char* to, std::size_t size) noexcept,
+                (path, to, size))
+ORBELLE_FAILING(int, -1, fchmodat, (int folder, const char* path, mode_t mode, int flags) noexcept,
+                (folder, path, mode, flags))
+ORBELLE_FAILING(int, -1, mkdir, (const char* path, mode_t mode) noexcept, (path, mode))
 
 std::size_t fread(void* to, std::size_t size, std::size_t count, std::FILE* file) {
     static const auto next = Next<decltype(&fread)>("fread");
@@ -232,36 +203,6 @@ int fclose(std::FILE* file) {
         unreadable = nullptr;
     const int result = next(file);
     return FileOperationFails() ? EOF : result;
-}
-
-int rename(const char* from, const char* to) noexcept {
-    static const auto next = Next<decltype(&rename)>("rename");
-    return FileOperationFails() ? -1 : next(from, to);
-}
-
-int stat(const char* path, struct stat* status) noexcept {
-    static const auto next = Next<int (*)(const char*, struct stat*)>("stat");
-    return FileOperationFails() ? -1 : next(path, status);
-}
-
-int lstat(const char* path, struct stat* status) noexcept {
-    static const auto next = Next<int (*)(const char*, struct stat*)>("lstat");
-    return FileOperationFails() ? -1 : next(path, status);
-}
-
-ssize_t readlink(const char* path, char* to, std::size_t size) noexcept {
-    static const auto next = Next<decltype(&readlink)>("readlink");
-    return FileOperationFails() ? -1 : next(path, to, size);
-}
-
-int fchmodat(int folder, const char* path, mode_t mode, int flags) noexcept {
-    static const auto next = Next<decltype(&fchmodat)>("fchmodat");
-    return FileOperationFails() ? -1 : next(folder, path, mode, flags);
-}
-
-int mkdir(const char* path, mode_t mode) noexcept {
-    static const auto next = Next<decltype(&mkdir)>("mkdir");
-    return FileOperationFails() ? -1 : next(path, mode);
 }
 
 }  // extern "C"

@@ -57,30 +57,26 @@ TEST(IconFile, TheFormatDecidesWhichPicturesArePng) {
     const Bitmap pictures[] = {Bitmap(256, 255), Bitmap(16, 16, graphics::PixelFormat::Rgb24)};
     const struct {
         IconFormat Format;
-        bool FirstIsPng;
-        bool SecondIsPng;
-    } cases[] = {{IconFormat::Bmp, false, false},
-                 {IconFormat::Png256, true, false},
-                 {IconFormat::Png, true, true}};
-    for (const auto& [format, firstIsPng, secondIsPng] : cases) {
+        bool IsPng[2];
+    } cases[] = {{IconFormat::Bmp, {false, false}},
+                 {IconFormat::Png256, {true, false}},
+                 {IconFormat::Png, {true, true}}};
+    for (const auto& [format, isPng] : cases) {
         const Bytes icon = EncodeIcon(pictures, format);
-        EXPECT_THAT(Part(icon, 0, kDirectoryBytes), ElementsAre(0, 0, 1, 0, 2, 0));
-        EXPECT_THAT(Part(icon, 6, 2), ElementsAre(0, 255));
+        EXPECT_THAT(Part(icon, 0, 8), ElementsAre(0, 0, 1, 0, 2, 0, 0, 255));
         EXPECT_THAT(Part(icon, 22, 2), ElementsAre(16, 16));
         std::size_t end = kDirectoryBytes + 2 * kEntryBytes;
         for (int i = 0; i < 2; ++i) {
             const std::size_t entry = kDirectoryBytes + i * kEntryBytes;
             const auto size = graphics::NumberAt<std::uint32_t>(icon, entry + 8);
-            const auto start = graphics::NumberAt<std::uint32_t>(icon, entry + 12);
-            EXPECT_EQ(start, end);
-            end = start + size;
-            ASSERT_LE(end, icon.size());
-            const Bytes data = Part(icon, start, size);
-            if (i == 0 ? firstIsPng : secondIsPng) {
+            EXPECT_EQ(graphics::NumberAt<std::uint32_t>(icon, entry + 12), end);
+            ASSERT_LE(end + size, icon.size());
+            const Bytes data = Part(icon, end, size);
+            end += size;
+            EXPECT_EQ(data[0], isPng[i] ? 0x89 : 40);
+            if (isPng[i]) {
                 EXPECT_EQ(graphics::DecodeImage(data).Width(), pictures[i].Width());
                 EXPECT_EQ(data[25], 6) << "32 bits with alpha";
-            } else {
-                EXPECT_EQ(data[0], 40);
             }
         }
         EXPECT_EQ(end, icon.size());
@@ -93,43 +89,34 @@ TEST(IconFile, RefusesWhatNoEntryCanHold) {
         EXPECT_THROW(EncodeIcon(pictures, IconFormat::Bmp), std::invalid_argument);
 }
 
-class PngToIco : public ::testing::Test {
-protected:
-    std::filesystem::path WritePicture(const char* name, const Bitmap& picture) {
-        graphics::WriteFile(folder_ / name, graphics::EncodePng(picture));
-        return folder_ / name;
-    }
-
-    const testing::TemporaryFolder folder_;
-    const std::filesystem::path output_ = folder_ / "out.ico";
-};
-
-TEST_F(PngToIco, PassesOverEmptyNames) {
+TEST(CombinePngs, PassesOverEmptyNamesAndNamesTheFileAtFault) {
+    const testing::TemporaryFolder folder;
+    const auto write = [&](const char* name, const Bytes& bytes) {
+        graphics::WriteFile(folder / name, bytes);
+        return folder / name;
+    };
+    const auto output = folder / "out.ico";
     const Bitmap pictures[] = {Bitmap(3, 2), Bitmap(256, 256)};
-    const std::filesystem::path names[] = {
-        "", WritePicture("1.png", pictures[0]), "", WritePicture("2.png", pictures[1]), "", "", ""};
-    CombinePngs(names, output_);
-    EXPECT_EQ(graphics::ReadFile(output_), EncodeIcon(pictures, IconFormat::Bmp));
-    CombinePngs(names, output_, IconFormat::Png);
-    EXPECT_EQ(graphics::ReadFile(output_), EncodeIcon(pictures, IconFormat::Png));
+    std::vector<std::filesystem::path> names(7);
+    CombinePngs(names, output);
+    EXPECT_FALSE(std::filesystem::exists(output));
 
-    const std::filesystem::path none = folder_ / "none.ico";
-    CombinePngs(std::vector<std::filesystem::path>(7), none);
-    EXPECT_FALSE(std::filesystem::exists(none));
-    EXPECT_THROW(CombinePngs(std::vector<std::filesystem::path>(8), none), std::invalid_argument);
-}
-
-TEST_F(PngToIco, NamesTheFileAtFaultAndWritesNothing) {
-    const auto good = WritePicture("good.png", Bitmap(1, 1));
-    const auto large = WritePicture("large.png", Bitmap(257, 16));
-    const auto text = folder_ / "text.png";
-    graphics::WriteFile(text, Bytes{'t', 'e', 'x', 't'});
-    for (const auto& bad : {large, text, folder_ / "missing.png"}) {
-        const std::filesystem::path names[] = {good, bad};
-        EXPECT_THAT([&] { CombinePngs(names, output_); },
+    names[1] = write("1.png", graphics::EncodePng(pictures[0]));
+    for (const auto& bad : {write("large.png", graphics::EncodePng(Bitmap(257, 16))),
+                            write("text.png", {'t', 'e', 'x', 't'}), folder / "missing.png"}) {
+        names[3] = bad;
+        EXPECT_THAT([&] { CombinePngs(names, output); },
                     ::testing::ThrowsMessage<graphics::FileError>(HasSubstr(bad.string())));
-        EXPECT_FALSE(std::filesystem::exists(output_));
+        EXPECT_FALSE(std::filesystem::exists(output));
     }
+
+    names[3] = write("2.png", graphics::EncodePng(pictures[1]));
+    for (const IconFormat format : {IconFormat::Bmp, IconFormat::Png}) {
+        CombinePngs(names, output, format);
+        EXPECT_EQ(graphics::ReadFile(output), EncodeIcon(pictures, format));
+    }
+    names.emplace_back();
+    EXPECT_THROW(CombinePngs(names, output), std::invalid_argument);
 }
 
 }  // namespace

@@ -4,11 +4,11 @@
 
 #include <bit>
 #include <cstring>
-#include <tuple>
 
 #include "graphics/codecs/image_files.h"
 #include "graphics/errors.h"
 #include "graphics/file_io.h"
+#include "graphics/little_endian.h"
 #include "support/pictures.h"
 #include "support/temporary_folder.h"
 
@@ -22,6 +22,7 @@ using graphics::RectF;
 using ::testing::ElementsAreArray;
 using ::testing::HasSubstr;
 using testing::RowOf;
+using testing::SamePixels;
 using Bytes = std::vector<std::uint8_t>;
 
 constexpr std::size_t kHeaderBytes = 34;
@@ -44,23 +45,33 @@ void Put(Bytes& bytes, std::size_t offset, Number value) {
     std::memcpy(bytes.data() + offset, &value, sizeof value);
 }
 
-IconLayer MakeLayer(const Bitmap& image, float x, float y) {
-    IconLayer layer;
-    layer.Image = image;
-    layer.ImageWidth = image.Width();
-    layer.ImageHeight = image.Height();
-    layer.Rect = {x, y, static_cast<float>(image.Width()), static_cast<float>(image.Height())};
-    layer.BaseRect = layer.Rect;
-    return layer;
+// Every number is its own, and pixel 1 is transparent.
+Document OneLayer() {
+    Document document;
+    document.Master.Width = 300;
+    document.Master.Height = 200;
+    document.Background = 0xFF804020;
+    IconLayer& layer = document.Master.Layers.emplace_back();
+    layer.Image = RowOf({0xFF112233, 0x00445566, 0x01778899});
+    PlaceAt(layer, {10, 20, 3, 1});
+    layer.Hue = 1;
+    layer.Contrast = 2;
+    layer.Brightness = 3;
+    layer.Saturation = 4;
+    layer.Opacity = 0.5f;
+    layer.BaseRect = {-1, 0.5f, 3, 4};
+    layer.ScaleValue = -3;
+    layer.ClipNextLayer = true;
+    layer.Visible = false;
+    layer.Path.AddRectangle({0, 0, 1, 1});
+    return document;
 }
 
 Document TwoLayers() {
-    Document document;
-    document.Master.Width = 64;
-    document.Master.Height = 48;
-    document.Background = 0x80102030;
-    document.Master.Layers = {MakeLayer(RowOf({0xFF112233, 0x00445566, 0x01778899}), 10, 20),
-                              MakeLayer(RowOf({0xFFABCDEF}), -1, 0.5f)};
+    Document document = OneLayer();
+    IconLayer& layer = document.Master.Layers.emplace_back();
+    layer.Image = RowOf({0xFFABCDEF});
+    PlaceAt(layer, {-1, 0, 1, 1});
     return document;
 }
 
@@ -74,22 +85,8 @@ std::string ProblemOf(const Bytes& bytes, Document& document) {
 }
 
 TEST(VolfStore, StandsInTheFileByteForByte) {
-    Document document;
-    document.Master.Width = 300;
-    document.Master.Height = 200;
-    document.Background = 0xFF804020;
-    IconLayer& layer =
-        document.Master.Layers.emplace_back(MakeLayer(RowOf({0x80402010}), -1, 0.5f));
-    layer.Hue = 1;
-    layer.Contrast = 2;
-    layer.Brightness = 3;
-    layer.Saturation = 4;
-    layer.Opacity = 0.5f;
-    layer.BaseRect = {1, 2, 3, 4};
-    layer.ScaleValue = -3;
-    layer.Path.AddRectangle({0, 0, 1, 1});
+    const Document document = OneLayer();
     const Bytes file = EncodeDocument(document);
-
     // clang-format off
     const Bytes start = {
         'v', 'o', 'l', 'f', ' ', 1, 0, 'O', 'r', 'b', 'e', 'l', 'l', 'e', 'W', 'o', 'r', 'k',
@@ -97,30 +94,22 @@ TEST(VolfStore, StandsInTheFileByteForByte) {
         0x20, 0x40, 0x80, 0xFF,  1, 0, 0, 0,                                    // background, count
         1, 0, 0, 0,  2, 0, 0, 0,  3, 0, 0, 0,  4, 0, 0, 0,                      // sliders
         1, 0, 0, 0,  0, 0, 0, 0x3F,                                             // height, opacity
-        0, 0, 0x80, 0x3F,  0, 0, 0, 0x40,  0, 0, 0x40, 0x40,  0, 0, 0x80, 0x40,  // base rectangle
-        1, 0, 0, 0,                                                             // width
-        0, 0, 0x80, 0xBF,  0, 0, 0, 0x3F,  0, 0, 0x80, 0x3F,  0, 0, 0x80, 0x3F,  // rectangle
-        0xFD, 0xFF, 0xFF, 0xFF,  0xFF, 0xFF, 0, 0,  0, 0, 0, 0,                 // scale, flags, path
+        0, 0, 0x80, 0xBF,  0, 0, 0, 0x3F,  0, 0, 0x40, 0x40,  0, 0, 0x80, 0x40,  // base rectangle
+        3, 0, 0, 0,                                                             // width
+        0, 0, 0x20, 0x41,  0, 0, 0xA0, 0x41,  0, 0, 0x40, 0x40,  0, 0, 0x80, 0x3F,  // rectangle
+        0xFD, 0xFF, 0xFF, 0xFF,  0, 0, 0xFF, 0xFF,  0, 0, 0, 0,                 // scale, flags, path
     };
     // clang-format on
-    Bytes picture = graphics::EncodePng(layer.Image);
-    ASSERT_EQ(file.size(), kHeaderBytes + kLayerBytes + picture.size() + 1);
+    Bytes picture = graphics::EncodePng(document.Master.Layers[0].Image);
+    ASSERT_EQ(file.size(), kPictureAt + picture.size() + 1);
     EXPECT_THAT(Bytes(file.begin(), file.begin() + kPictureBytesAt), ElementsAreArray(start));
-    EXPECT_EQ(file[kPictureBytesAt] + 256 * file[kPictureBytesAt + 1],
-              static_cast<int>(picture.size()));
+    EXPECT_EQ(graphics::NumberAt<std::uint32_t>(file, kPictureBytesAt), picture.size());
     picture.push_back(0);
     EXPECT_THAT(Bytes(file.begin() + kPictureAt, file.end()), ElementsAreArray(picture));
 }
 
 TEST(VolfStore, LayersComeBackWithNeutralSliders) {
     Document saved = TwoLayers();
-    IconLayer& layer = saved.Master.Layers[0];
-    layer.Hue = layer.Contrast = layer.Brightness = layer.Saturation = 99;
-    layer.Opacity = 0.25f;
-    layer.BaseRect = {1, 2, 3, 4};
-    layer.ScaleValue = 50;
-    layer.Visible = false;
-    layer.ClipNextLayer = true;
     Bytes file = EncodeDocument(saved);
     Put<std::int32_t>(file, kPathAt, 0x12345678);
     file.push_back(7);
@@ -129,75 +118,59 @@ TEST(VolfStore, LayersComeBackWithNeutralSliders) {
     read.Master.Layers.resize(5);
     read.Master.SelectedLayer = 4;
     DecodeDocument(file, read);
-    ASSERT_EQ(read.Master.LayerCount(), 2);
     EXPECT_EQ(read.Master.SelectedLayer, document::kNoLayer);
-    const IconLayer& first = read.Master.Layers[0];
-    EXPECT_EQ(std::tuple(first.Hue, first.Contrast, first.Brightness, first.Saturation),
-              std::tuple(0, 50, 50, 40));
-    EXPECT_TRUE(first.Path.IsNull());
-    EXPECT_EQ(first.Image.GetPixel(1, 0), 0x00445566u);
-    // All else is what was saved.
-    ResetLayerAdjust(layer);
+    ResetLayerAdjust(saved.Master.Layers[0]);
     EXPECT_EQ(EncodeDocument(read), EncodeDocument(saved));
-    // Pixels 0 and 2 are visible; regions lie one pixel to the left of what they stand for.
+    const IconLayer& first = read.Master.Layers[0];
+    EXPECT_TRUE(first.Path.IsNull());
+    // Regions lie one pixel to the left of what they stand for.
     EXPECT_EQ(first.Region.Bounds(), (RectF{9, 20, 3, 1}));
     EXPECT_FALSE(first.Region.IsVisiblePoint(10, 20));
 }
 
 TEST(VolfStore, ThePictureHasTheSizeOfTheRecordAndOpacityStopsAt1) {
     Document saved = TwoLayers();
-    saved.Master.Layers[0].ImageWidth = 2;
     saved.Master.Layers[1] = IconLayer{};
     Bytes file = EncodeDocument(saved);
     Document read;
-    DecodeDocument(file, read);
-    EXPECT_EQ(read.Master.Layers[0].Image.Width(), 2);
-    EXPECT_TRUE(read.Master.Layers[1].Image.IsEmpty());
-    EXPECT_TRUE(read.Master.Layers[1].Region.IsNull());
-
-    Put<std::int32_t>(file, kImageWidthAt, 4);
+    const std::vector<graphics::Argb> pictures[] = {{0xFF112233, 0x00445566},
+                                                    {0xFF112233, 0x00445566, 0x01778899, 0}};
+    for (const auto& row : pictures) {
+        Put(file, kImageWidthAt, static_cast<std::int32_t>(row.size()));
+        DecodeDocument(file, read);
+        EXPECT_TRUE(SamePixels(read.Master.Layers[0].Image, RowOf(row)));
+        EXPECT_TRUE(read.Master.Layers[1].Image.IsEmpty());
+        EXPECT_TRUE(read.Master.Layers[1].Region.IsNull());
+    }
     Put<float>(file, kOpacityAt, 1e30f);
-    DecodeDocument(file, read);
-    EXPECT_EQ(read.Master.Layers[0].Opacity, 1);
-    EXPECT_EQ(read.Master.Layers[0].Image.GetPixel(0, 0), 0xFF112233);
-    EXPECT_EQ(read.Master.Layers[0].Image.GetPixel(3, 0), 0u);
-
     Put<std::int32_t>(file, kImageHeightAt, -4);
     DecodeDocument(file, read);
+    EXPECT_EQ(read.Master.Layers[0].Opacity, 1);
     EXPECT_TRUE(read.Master.Layers[0].Image.IsEmpty());
     EXPECT_EQ(read.Master.Layers[0].ImageHeight, 0);
     EXPECT_EQ(read.Master.LayerCount(), 2);
 }
 
-TEST(VolfStore, ADamagedPictureLeavesATransparentLayer) {
-    Bytes file = EncodeDocument(TwoLayers());
-    file[kPictureAt] ^= 1;
-    Document read;
-    DecodeDocument(file, read);
-    ASSERT_EQ(read.Master.LayerCount(), 2);
-    EXPECT_EQ(read.Master.Layers[0].Image.GetPixel(2, 0), 0u);
-    EXPECT_TRUE(read.Master.Layers[0].Region.IsNull());
-    EXPECT_EQ(read.Master.Layers[1].Image.GetPixel(0, 0), 0xFFABCDEF);
-}
-
 TEST(VolfStore, OnlyTheMagicMakesADocument) {
-    for (const char* start : {"", "volf", "volf\t1", "Volf 1"}) {
+    for (const std::string start : {"", "volf", "volf\t1", "Volf 1"}) {
         Document document = TwoLayers();
-        const Bytes bytes(start, start + std::strlen(start));
-        EXPECT_THROW(DecodeDocument(bytes, document), InvalidFile) << start;
+        EXPECT_THROW(DecodeDocument(Bytes(start.begin(), start.end()), document), InvalidFile);
         EXPECT_EQ(document.Master.LayerCount(), 2);
     }
     Bytes file = EncodeDocument(TwoLayers());
     std::fill(file.begin() + 5, file.begin() + kPageWidthAt, 0xEE);  // format number and tag
+    file[kPictureAt] ^= 1;  // a damaged picture leaves a transparent layer
     Document document;
     DecodeDocument(file, document);
-    EXPECT_EQ(document.Master.LayerCount(), 2);
+    ASSERT_EQ(document.Master.LayerCount(), 2);
+    EXPECT_TRUE(SamePixels(document.Master.Layers[0].Image, Bitmap(3, 1)));
+    EXPECT_TRUE(document.Master.Layers[0].Region.IsNull());
+    EXPECT_EQ(document.Master.Layers[1].Image.GetPixel(0, 0), 0xFFABCDEF);
 }
 
 TEST(VolfStore, AFileCutShortKeepsItsWholeLayers) {
     const Bytes file = EncodeDocument(TwoLayers());
-    const std::size_t pictureBytes = file[kPictureBytesAt];
-    const std::size_t secondLayerAt = kPictureAt + pictureBytes + 1;
+    const std::size_t secondLayerAt = kPictureAt + file[kPictureBytesAt] + 1;
     for (std::size_t size = 0; size < file.size(); ++size) {
         Document document;
         document.Master.Layers.resize(3);
@@ -210,8 +183,7 @@ TEST(VolfStore, AFileCutShortKeepsItsWholeLayers) {
 }
 
 TEST(VolfStore, HostileNumbersEndTheReading) {
-    constexpr std::int32_t kNoNumber = 0x7FC00000;  // as a float
-    constexpr std::int32_t kInfinity = 0x7F800000;
+    constexpr std::int32_t kNoNumber = 0x7FC00000, kInfinity = 0x7F800000;  // as floats
     const struct {
         std::size_t Offset;
         std::int32_t Value;
@@ -264,14 +236,10 @@ TEST(VolfStore, ProblemsOfFilesNameThem) {
     LoadDocument(path, document);
     EXPECT_EQ(document.Master.LayerCount(), 2);
 
-    Bytes file = graphics::ReadFile(path);
-    file.pop_back();
-    graphics::WriteFile(path, file);
+    std::filesystem::resize_file(path, std::filesystem::file_size(path) - 1);
     EXPECT_THAT([&] { LoadDocument(path, document); },
                 ::testing::ThrowsMessage<graphics::FileError>(path.string() +
                                                               ": layer 1: the file is cut short"));
-    EXPECT_EQ(document.Master.LayerCount(), 1);
-
     graphics::WriteFile(path, Bytes{'B', 'M'});
     EXPECT_THROW(LoadDocument(path, document), InvalidFile);
     EXPECT_THROW(LoadDocument(folder / "missing.volf", document), graphics::FileError);
