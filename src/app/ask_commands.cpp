@@ -38,7 +38,7 @@ using TakePicture = void (*)(Editor&, const graphics::Bitmap&);
 
 void Take(const WindowContext& context, const fs::path& path, TakeFile takeFile,
           TakePicture takePicture) {
-    if (!editing::IsIconName(path)) {
+    if (!editing::IsIconFile(path)) {
         context.Commands.RunBusy([&](Editor& editor) { takeFile(editor, path, 0); });
     } else if (const auto picture = AskIconImage(context, path)) {
         context.Commands.Run([&](Editor& editor) { takePicture(editor, *picture); });
@@ -92,7 +92,7 @@ void AskImport(const WindowContext& context) {
 }
 
 void ImportKnownFile(const WindowContext& context, const fs::path& path) {
-    if (!editing::IsDocumentName(path) || MayGiveUpDocument(context))
+    if (!editing::IsDocumentFile(path) || MayGiveUpDocument(context))
         Take(context, path, editing::ImportFile, editing::ImportPicture);
 }
 
