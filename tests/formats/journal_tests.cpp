@@ -2,7 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <fstream>
+#include <random>
 
 #include "formats/journal_file.h"
 #include "formats/volf_store.h"
@@ -132,6 +134,7 @@ TEST(JournalFile, IsFoundOnceItsProcessIsGoneAndGoesOnAfterBeingMadeSmall) {
     const TemporaryFolder folder;
     Document document = TwoLayers();
     auto journal = std::make_unique<JournalFile>(folder / "journals");
+    std::mt19937 random;
     for (int i = 0; i < 40; ++i) {
         document.Master.Layers[0] = LayerOf(0xFF000000 + static_cast<graphics::Argb>(i) * 999, 4);
         document.Master.Layers[1].Image = orbelle::testing::FilledPicture(1, 1, 0);
