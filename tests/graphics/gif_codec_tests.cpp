@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <stdexcept>
+#include <utility>
 
 #include "graphics/codecs/image_files.h"
 #include "graphics/decoding.h"
