@@ -125,7 +125,7 @@ TEST_F(KilledWindowTest, KeepsForLaterAndDiscards) {
         Press(keys);
     };
     startAndPress({"Escape"});
-    ASSERT_TRUE(FocusMain());
+    ASSERT_TRUE(FocusWindow("^Varnel Orbelle$"));
     EXPECT_EQ(Count(kRed), 0);
     Press({"ctrl+q"});
     EXPECT_TRUE(EndsWell(program));
@@ -133,7 +133,7 @@ TEST_F(KilledWindowTest, KeepsForLaterAndDiscards) {
     startAndPress({"alt+d"});
     ASSERT_TRUE(FocusWindow("^Discard$"));
     Press({"Tab", "Return"});
-    ASSERT_TRUE(FocusMain());
+    ASSERT_TRUE(FocusWindow("^Varnel Orbelle$"));
     Press({"ctrl+q"});
     EXPECT_TRUE(EndsWell(program));
     EXPECT_TRUE(QDir(Path("state/orbelle/journals")).isEmpty());

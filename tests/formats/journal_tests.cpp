@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <fstream>
+#include <functional>
 #include <random>
 
 #include "formats/journal_file.h"
@@ -136,12 +137,8 @@ TEST(JournalFile, IsFoundOnceItsProcessIsGoneAndGoesOnAfterBeingMadeSmall) {
     auto journal = std::make_unique<JournalFile>(folder / "journals");
     std::mt19937 random;
     for (int i = 0; i < 40; ++i) {
-        document.Master.Layers[0] = LayerOf(0xFF000000 + static_cast<graphics::Argb>(i) * 999, 4);
-        document.Master.Layers[1].Image = orbelle::testing::FilledPicture(1, 1, 0);
         graphics::Bitmap noise(150, 150);
-        for (int p = 0; p < 150 * 150; ++p)
-            noise.MutablePixels()[p] =
-                0xFF000000 | static_cast<graphics::Argb>(p * 2654435761u + i);
+        std::generate_n(noise.MutablePixels(), 150 * 150, std::ref(random));
         document.Master.Layers[1].Image = noise;
         PlaceAt(document.Master.Layers[1], {0, 0, 150, 150});
         journal->Keep(document, i);
