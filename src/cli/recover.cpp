@@ -41,15 +41,18 @@ void List(const std::vector<formats::FoundJournal>& journals, std::ostream& outp
 }  // namespace
 
 void Recover(std::span<const std::string> words, std::ostream& output) {
-    const bool isList = words.empty() || (words.size() == 1 && words[0] == "list");
-    Words arguments(words);
+    // An option without a word is an empty one.
+    const bool isList = words.size() == 1 && (words[0].empty() || words[0] == "list");
     int number = 0;
     std::filesystem::path path;
     if (!isList) {
-        number = arguments.Integer("N", 0);
-        path = arguments.Path("PATH");
-        if (!arguments.IsAtEnd())
-            throw UsageError("--recover takes \"list\", or N PATH");
+        try {
+            Words arguments(words);
+            number = arguments.Integer("N", 0);
+            path = arguments.Path("PATH");
+        } catch (const UsageError& error) {
+            throw UsageError(std::string("--recover: ") + error.what());
+        }
     }
     const std::vector<formats::FoundJournal> journals =
         formats::FindJournals(editing::JournalFolder());
