@@ -107,6 +107,7 @@ protected:
     }
 
     orbelle::testing::TemporaryFolder folder;
+    orbelle::testing::TemporaryFolder state;  // where unsaved work is kept
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
 };
 
@@ -123,7 +124,7 @@ protected:
             if (QStandardPaths::findExecutable(tool).isEmpty())
                 GTEST_SKIP() << tool << " is not installed";
         environment.insert("QT_QPA_PLATFORM", "xcb");
-        environment.insert("XDG_STATE_HOME", Path("state"));
+        environment.insert("XDG_STATE_HOME", QString::fromStdString(state.Path().string()));
         StartDisplay();
     }
 

@@ -111,7 +111,7 @@ TEST_F(KilledWindowTest, LosesAtMostTheStepUnderWay) {
     ASSERT_TRUE(FocusWindow("^Save Icon Document"));
     Press({"alt+n"});
     EXPECT_TRUE(EndsWell(program));
-    EXPECT_TRUE(QDir(Path("state/orbelle/journals")).isEmpty());
+    EXPECT_TRUE(std::filesystem::is_empty(state / "orbelle" / "journals"));
 }
 
 TEST_F(KilledWindowTest, KeepsForLaterAndDiscards) {
@@ -136,7 +136,7 @@ TEST_F(KilledWindowTest, KeepsForLaterAndDiscards) {
     ASSERT_TRUE(FocusWindow("^Varnel Orbelle$"));
     Press({"ctrl+q"});
     EXPECT_TRUE(EndsWell(program));
-    EXPECT_TRUE(QDir(Path("state/orbelle/journals")).isEmpty());
+    EXPECT_TRUE(std::filesystem::is_empty(state / "orbelle" / "journals"));
 }
 
 }  // namespace
