@@ -5,6 +5,7 @@
 
 #include "document/page.h"
 #include "graphics/color.h"
+#include "graphics/file_stamp.h"
 
 namespace orbelle::document {
 
@@ -12,6 +13,7 @@ struct Document {
     Page Master;                    // what every size of the icon is made from
     graphics::Argb Background = 0;  // of all pages; 0: transparent
     std::filesystem::path Path;     // of the .volf file; empty until saved or opened
+    graphics::FileStamp Stamp;      // of that file when it was read or written
     bool Modified = false;
 
     // The page that is being edited.
