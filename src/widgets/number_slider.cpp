@@ -122,8 +122,11 @@ NumberSlider::~NumberSlider() {
 }
 
 void NumberSlider::SetRange(int minValue, int maxValue) {
+    const int most = std::max(minValue, maxValue);
+    if (minValue == minValue_ && most == scale_.MaxValue)
+        return;
     minValue_ = minValue;
-    scale_.MaxValue = std::max(minValue, maxValue);
+    scale_.MaxValue = most;
     track_->SetPlace(scale_.PlaceFromValue(value_));
 }
 
@@ -156,12 +159,17 @@ void NumberSlider::TakeText(const QString& text) {
     if (!number || *number == value_)
         return;
     if (!typing_) {
-        typing_ = true;
         emit Pressed();
+        typing_ = true;
     }
     value_ = *number;
     track_->SetPlace(scale_.PlaceFromValue(value_));
     emit Changed(value_);
+}
+
+void NumberSlider::CommitTyping() {
+    if (typing_)
+        CommitText();
 }
 
 void NumberSlider::CommitText() {
@@ -225,6 +233,9 @@ bool NumberSlider::eventFilter(QObject* watched, QEvent* event) {
         // The field has the focus in our place, so it has to go by our name.
         field_->setAccessibleName(accessibleName());
         update();
+        // The field itself stays in its editing while a menu or another window is in front.
+        if (event->type() == QEvent::FocusOut)
+            CommitTyping();
     }
     return QWidget::eventFilter(watched, event);
 }
@@ -235,6 +246,9 @@ void NumberSlider::hideEvent(QHideEvent* event) {
 }
 
 void NumberSlider::changeEvent(QEvent* event) {
+    // A message box takes the release of the button for itself.
+    if (event->type() == QEvent::ActivationChange && !isActiveWindow())
+        EndSpin();
     if (event->type() == QEvent::EnabledChange && !isEnabled()) {
         EndSpin();
         track_->hide();
@@ -254,7 +268,8 @@ void NumberSlider::mousePressEvent(QMouseEvent* event) {
     for (const int direction : {1, -1})
         if (SpinRect(direction).contains(place)) {
             StartSpin(direction);
-            repeat_.start(kRepeatDelay, this);
+            if (spinning_ != 0)
+                repeat_.start(kRepeatDelay, this);
         }
 }
 

@@ -21,6 +21,8 @@ public:
     int Value() const { return value_; }
     // Does not raise Changed. Values beyond the range are taken, as typed ones are.
     void SetValue(int value);
+    // Ends the typing of a number, as leaving the field does.
+    void CommitTyping();
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
@@ -29,7 +31,7 @@ signals:
     // The user typed, spun or dragged the value.
     void Changed(int value);
     // One gesture lies between these two: a drag on the track, a press of a spin arrow, a text
-    // until it is committed with Return or by leaving the field.
+    // until it is committed with Return or by leaving the field or the window.
     void Pressed();
     void Released();
 

@@ -140,6 +140,13 @@ TEST_F(NumberSliderTest, WhatInterruptsAGestureEndsIt) {
     Enter("9");
     Strike(field_, Qt::Key_Up);
     EXPECT_EQ(gestures_.Told(), "pressed 9 released pressed 10 released");
+    for (const Qt::FocusReason reason : {Qt::PopupFocusReason, Qt::ActiveWindowFocusReason}) {
+        Enter("9");
+        QFocusEvent leaves(QEvent::FocusOut, reason);
+        QApplication::sendEvent(&field_, &leaves);
+        EXPECT_EQ(gestures_.Told(), "pressed 9 released");
+        slider_.SetValue(10);
+    }
     Press(slider_, up_);
     slider_.setEnabled(false);
     EXPECT_EQ(gestures_.Told(), "pressed 11 released");
