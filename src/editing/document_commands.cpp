@@ -60,9 +60,14 @@ void ClearStack(Editor& editor) {
     editor.Overlays = {};
 }
 
+// A page that is larger than the sliders go keeps that size as their end.
 void ShowPageSize(Editor& editor) {
-    editor.Sliders.PageWidth.Value = editor.Page().Width;
-    editor.Sliders.PageHeight.Value = editor.Page().Height;
+    const auto show = [](Slider& slider, int side) {
+        slider.Value = side;
+        slider.Maximum = std::max(side, document::kMaxPageSide);
+    };
+    show(editor.Sliders.PageWidth, editor.Page().Width);
+    show(editor.Sliders.PageHeight, editor.Page().Height);
 }
 
 // The state before anything is done with a page of this size, which has no layer.
@@ -111,10 +116,10 @@ void OpenDocument(Editor& editor, const fs::path& path) {
     editor.DocumentExists = true;
     SetTitle(editor, TitleOf(editor.Document.Path));
     ResetView(editor);
+    ShowPageSize(editor);
     document::Page& page = editor.Page();
     if (page.LayerCount() >= 1) {
         page.SelectedLayer = page.LayerCount() - 1;
-        ShowPageSize(editor);
         ShowSelectedLayer(editor);
         ShowScrollBar(editor.View.HorizontalScroll, page.Width, editor.View.SceneWidth);
         ShowScrollBar(editor.View.VerticalScroll, page.Height, editor.View.SceneHeight);
@@ -195,7 +200,7 @@ void OpenPicture(Editor& editor, const graphics::Bitmap& picture) {
 void ImportPicture(Editor& editor, const graphics::Bitmap& picture) {
     if (!editor.DocumentExists)
         return OpenPicture(editor, picture);
-    BeginUndoStep(editor);
+    BeginUndoStep(editor, steps::Import);
     AddPictureLayer(editor, picture);
 }
 
