@@ -159,6 +159,7 @@ void NumberSlider::TakeText(const QString& text) {
     if (!number || *number == value_)
         return;
     if (!typing_) {
+        typedFrom_ = value_;
         emit Pressed();
         typing_ = true;
     }
@@ -228,7 +229,20 @@ void NumberSlider::resizeEvent(QResizeEvent* event) {
     QWidget::resizeEvent(event);
 }
 
+// Escape belongs to a number that is being typed, Undo and Redo only then: the field would take
+// them always. True: the field is not to see it.
+bool NumberSlider::TakeShortcut(QKeyEvent& event) const {
+    if (typing_) {
+        event.setAccepted(event.key() == Qt::Key_Escape);
+        return event.isAccepted();
+    }
+    event.ignore();
+    return event.matches(QKeySequence::Undo) || event.matches(QKeySequence::Redo);
+}
+
 bool NumberSlider::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::ShortcutOverride)
+        return TakeShortcut(*static_cast<QKeyEvent*>(event));
     if (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut) {
         // The field has the focus in our place, so it has to go by our name.
         field_->setAccessibleName(accessibleName());
@@ -287,6 +301,11 @@ void NumberSlider::timerEvent(QTimerEvent* event) {
 
 // What the field has no use for comes here.
 void NumberSlider::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Escape && typing_) {
+        ChangeTo(typedFrom_);
+        CommitText();
+        return;
+    }
     const bool isUp = event->key() == Qt::Key_Up;
     if (!isUp && event->key() != Qt::Key_Down)
         return QWidget::keyPressEvent(event);

@@ -53,6 +53,7 @@ private:
     QRect OpenRect() const;
     void TakeText(const QString& text);
     void CommitText();
+    bool TakeShortcut(QKeyEvent& event) const;
     void StartSpin(int direction);
     void EndSpin();
     void Spin(int direction);
@@ -64,6 +65,7 @@ private:
     int value_ = 0;
     int spinning_ = 0;  // the arrow that is held: +1 or -1, 0 none
     bool typing_ = false;
+    int typedFrom_ = 0;  // the value before the typing, which Escape brings back
     QBasicTimer repeat_;
     QLineEdit* field_;
     SliderTrack* track_;
