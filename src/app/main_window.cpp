@@ -58,6 +58,7 @@ MainWindow::MainWindow() {
 }
 
 bool MainWindow::Run(const editing::Command& command) {
+    bottomPanel_->CommitTyping();
     statusBar()->clearMessage();
     return Tell(editing::Run(editor_, command));
 }
@@ -67,6 +68,7 @@ bool MainWindow::RunBusy(const editing::Command& command) {
 }
 
 editing::Outcome MainWindow::Try(const editing::Command& command) {
+    bottomPanel_->CommitTyping();
     statusBar()->clearMessage();
     QGuiApplication::setOverrideCursor(Qt::WaitCursor);
     editing::Outcome outcome = editing::Run(editor_, command);

@@ -11,6 +11,7 @@
 #include "app/tip_balloons.h"
 #include "app/welcome_sequence.h"
 #include "app/window_actions.h"
+#include "editing/recovery.h"
 
 class QScrollBar;
 
@@ -32,6 +33,7 @@ class MainWindow : public QMainWindow,
 
 public:
     MainWindow();
+    ~MainWindow() override;
 
     // Opens what a command line names: a path between quotation marks.
     void ShellOpen(const QString& commandLine);
@@ -45,6 +47,13 @@ public:
 
     bool TipsEnabled() const { return tips_->TipsEnabled; }
     void SetTipsEnabled(bool enabled);
+
+    // From here on unsaved work is kept safe from an end that does not ask.
+    void StartRecovery();
+    // Offers what a program that ended so has left behind.
+    void OfferRecovery();
+    // The system ends the program: unsaved work is kept, nothing is asked.
+    void EndAtOnce();
 
     // Everything that is remembered between two runs.
     void RestoreSettings();
@@ -120,6 +129,7 @@ private:
     BottomPanel* bottomPanel_ = nullptr;
     CloseTipsTab* closeTips_ = nullptr;
     mutable QPoint lastLayerMiddle_;  // where the last tip about a layer stood
+    std::unique_ptr<editing::Recovery> recovery_;
 };
 
 }  // namespace orbelle::app

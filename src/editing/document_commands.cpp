@@ -29,12 +29,10 @@ void SetTitle(Editor& editor, std::string title) {
     editor.Changed.Title = true;
 }
 
-std::string UnsavedTitle() {
-    return std::string(kProductName) + " - Project *";
-}
-
-// Of a document that has a file.
+// A document without a path has no file yet.
 std::string TitleOf(const fs::path& path) {
+    if (path.empty())
+        return std::string(kProductName) + " - Project *";
     return path.filename().string() + " - " + kProductName;
 }
 
@@ -90,15 +88,20 @@ void ClearStack(Editor& editor) {
     editor.Overlays = {};
 }
 
+// A page that is larger than the sliders go keeps that size as their end.
 void ShowPageSize(Editor& editor) {
-    editor.Sliders.PageWidth.Value = editor.Page().Width;
-    editor.Sliders.PageHeight.Value = editor.Page().Height;
+    const auto show = [](Slider& slider, int side) {
+        slider.Value = side;
+        slider.Maximum = std::max(side, document::kMaxPageSide);
+    };
+    show(editor.Sliders.PageWidth, editor.Page().Width);
+    show(editor.Sliders.PageHeight, editor.Page().Height);
 }
 
 // The state before anything is done with a page of this size, which has no layer.
 void ResetDocument(Editor& editor, int pageWidth, int pageHeight) {
     ClearStack(editor);
-    SetTitle(editor, UnsavedTitle());
+    SetTitle(editor, TitleOf({}));
     ResetView(editor);
     editor.Document.Path.clear();
     editor.Document.Stamp = {};
@@ -125,6 +128,24 @@ void ShowScrollBar(document::ScrollBar& bar, int page, int scene) {
     bar.Visible = true;
 }
 
+// The document takes the place of the present one.
+void ShowDocument(Editor& editor, document::Document&& document) {
+    ClearStack(editor);
+    editor.Document = std::move(document);
+    editor.DocumentExists = true;
+    SetTitle(editor, TitleOf(editor.Document.Path));
+    ResetView(editor);
+    ShowPageSize(editor);
+    const document::Page& page = editor.Page();
+    if (page.LayerCount() >= 1) {
+        ShowSelectedLayer(editor);
+        ShowScrollBar(editor.View.HorizontalScroll, page.Width, editor.View.SceneWidth);
+        ShowScrollBar(editor.View.VerticalScroll, page.Height, editor.View.SceneHeight);
+    }
+    NoteStack(editor.Changed);
+    StartZoomIn(editor);
+}
+
 void OpenDocument(Editor& editor, const fs::path& path) {
     // Of the file before it is read: what is written meanwhile must show.
     const graphics::FileStamp stamp = graphics::StampOf(path);
@@ -135,22 +156,10 @@ void OpenDocument(Editor& editor, const fs::path& path) {
         read.Document.Path = path;
         read.Document.Stamp = stamp;
     }
+    document::Page& page = read.Document.Master;
+    page.SelectedLayer = page.LayerCount() - 1;
     read.Document.Modified = !isWhole;
-    ClearStack(editor);
-    editor.Document = std::move(read.Document);
-    editor.DocumentExists = true;
-    SetTitle(editor, isWhole ? TitleOf(path) : UnsavedTitle());
-    ResetView(editor);
-    document::Page& page = editor.Page();
-    if (page.LayerCount() >= 1) {
-        page.SelectedLayer = page.LayerCount() - 1;
-        ShowPageSize(editor);
-        ShowSelectedLayer(editor);
-        ShowScrollBar(editor.View.HorizontalScroll, page.Width, editor.View.SceneWidth);
-        ShowScrollBar(editor.View.VerticalScroll, page.Height, editor.View.SceneHeight);
-    }
-    NoteStack(editor.Changed);
-    StartZoomIn(editor);
+    ShowDocument(editor, std::move(read.Document));
     if (isWhole)
         editor.Changed.Tip = {tips::NewOrOpened};
     else
@@ -237,8 +246,16 @@ void OpenPicture(Editor& editor, const graphics::Bitmap& picture) {
 void ImportPicture(Editor& editor, const graphics::Bitmap& picture) {
     if (!editor.DocumentExists)
         return OpenPicture(editor, picture);
-    BeginUndoStep(editor);
+    BeginUndoStep(editor, steps::Import);
     AddPictureLayer(editor, picture);
+}
+
+void RestoreDocument(Editor& editor, const document::Document& document) {
+    document::Document restored = document;
+    restored.Modified = true;
+    if (!restored.Master.HasSelection() && !restored.Master.Layers.empty())
+        restored.Master.SelectedLayer = restored.Master.LayerCount() - 1;
+    ShowDocument(editor, std::move(restored));
 }
 
 void SaveTo(Editor& editor, const fs::path& path) {

@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <filesystem>
+#include <span>
 #include <vector>
 
 #include "document/document.h"
@@ -11,6 +12,19 @@ namespace orbelle::formats {
 
 // The whole file as bytes, little-endian, layers from the bottom up.
 std::vector<std::uint8_t> EncodeDocument(const document::Document& document);
+
+// The file without the layers' pictures: small, and quick to make. The pictures belong, in their
+// order, at the places `PictureAt` of the bytes, rising.
+struct DocumentFrame {
+    std::vector<std::uint8_t> Bytes;
+    std::vector<std::uint32_t> PictureAt;
+};
+DocumentFrame EncodeFrame(const document::Document& document);
+// A layer's picture as the file holds it.
+std::vector<std::uint8_t> EncodePicture(const document::IconLayer& layer);
+// The whole file again. Throws Error when frame and pictures do not belong together.
+std::vector<std::uint8_t> FillFrame(const DocumentFrame& frame,
+                                    std::span<const std::vector<std::uint8_t>> pictures);
 
 // Throws Error, with no file touched, for a document that could not be opened again
 // (document_limits.h), and graphics::FileError.

@@ -1,6 +1,7 @@
 #include "graphics/bitmap.h"
 
 #include <algorithm>
+#include <atomic>
 #include <cstdlib>
 #include <new>
 
@@ -46,6 +47,9 @@ Argb* Bitmap::MutablePixels() {
         std::shared_ptr<Argb[]> own = BlankPixels(count);
         std::copy_n(pixels_.get(), count, own.get());
         pixels_ = std::move(own);
+    } else {
+        // What another thread has read of a copy that it let go of comes before what is written.
+        std::atomic_thread_fence(std::memory_order_acquire);
     }
     return pixels_.get();
 }

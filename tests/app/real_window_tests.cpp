@@ -121,6 +121,17 @@ TEST_F(RealWindowTest, StylesAndSlidersChangeThePictureAndAreUndone) {
         }
         Press({"ctrl+z"});
     }
+    // So is a number that is typed, with the focus still in its field.
+    Click(Control("PageWidth"));
+    Press({"ctrl+a"});
+    Do({"type", "150"});
+    Press({"Return"});
+    const QImage narrow = Scene();
+    EXPECT_NE(narrow, before);
+    for (const auto& [key, shown] : {std::pair("ctrl+z", before), {"ctrl+y", narrow}}) {
+        Press({key});
+        EXPECT_EQ(Scene(), shown) << key;
+    }
     Press({"ctrl+q"});
     EXPECT_TRUE(FocusWindow("^Save Icon Document"));
     Press({"alt+n"});
@@ -166,7 +177,7 @@ TEST_F(RealWindowTest, ClosingAsksAndWhatItSavesOpensAgain) {
     ASSERT_TRUE(AnswerFileDialog(Path("kept.volf")));
     ASSERT_TRUE(EndsWell(program));
 
-    StartProgram(Write("other.png", PictureOf(kOther, {30, 20})));
+    StartProgram({Write("other.png", PictureOf(kOther, {30, 20}))});
     ASSERT_TRUE(FocusMain());
     ASSERT_TRUE(WaitUntil([&] { return Count(kOther) > 0; }));
     Press({"ctrl+o"});
@@ -225,7 +236,7 @@ TEST_F(RealWindowTest, RemembersItsUser) {
         "MainWidth=1000 MainHeight=740 MainState=0";
     for (const bool again : {false, true}) {
         if (again)
-            StartProgram(Path("tile.png"));
+            StartProgram({Path("tile.png")});
         ASSERT_TRUE(FocusMain());
         Press({"ctrl+q"});
         ASSERT_TRUE(EndsWell(program));

@@ -7,6 +7,7 @@
 #include <memory>
 
 #include "app/chrome.h"
+#include "app/ending_signals.h"
 #include "app/main_window.h"
 #include "app/single_instance.h"
 #include "app/welcome_window.h"
@@ -49,17 +50,26 @@ int main(int argc, char** argv) {
     QTimer::singleShot(0, [&] {
         window = std::make_unique<orbelle::app::MainWindow>();
         window->RestoreSettings();
+        window->StartRecovery();
         QObject::connect(&instance, &orbelle::app::SingleInstance::Received, window.get(),
                          &orbelle::app::MainWindow::TakeHandOver);
+    });
+    orbelle::app::EndingSignals ending;
+    QObject::connect(&ending, &orbelle::app::EndingSignals::Received, [&] {
+        if (window)
+            window->EndAtOnce();
+        else
+            QApplication::exit();
     });
     QObject::connect(&welcome, &orbelle::app::WelcomeWindow::Finished, [&] {
         window->show();
         // Once the window has its size: the document is placed by it.
         QTimer::singleShot(0, window.get(), [&] {
-            if (commandLine.isEmpty())
-                window->StartWelcome();
-            else
+            window->OfferRecovery();
+            if (!commandLine.isEmpty())
                 window->ShellOpen(commandLine);
+            else if (!window->Editor().DocumentExists)
+                window->StartWelcome();
         });
     });
     return QApplication::exec();

@@ -29,6 +29,9 @@ constexpr std::int64_t kMaxScannedPixels = 16 * kMaxBitmapPixels;
 // Enough for the largest picture with three channels at full resolution.
 constexpr std::int64_t kMaxCoefficientBytes = std::int64_t{320} << 20;
 
+// What cameras put before a picture has a few; the library keeps some of it.
+constexpr std::uint64_t kMaxHeaderBytes = std::uint64_t{32} << 20;
+
 // A Huffman code takes a bit at least, and no coded unit covers more than 32 x 32 pixels: 8 of them
 // to a byte.
 constexpr std::int64_t kMaxPixelsPerByte = 8192;
@@ -130,6 +133,8 @@ public:
         jpeg_.src = &input_;
         jpeg_save_markers(&jpeg_, JPEG_APP0 + 1, 0xFFFF);
         jpeg_read_header(&jpeg_, TRUE);
+        jpeg_save_markers(&jpeg_, JPEG_APP0 + 1, 0);
+        headerIsRead_ = true;
         return true;
     }
 
@@ -214,6 +219,9 @@ private:
         const std::span<const std::uint8_t> piece = self->stream_.NextPiece();
         if (piece.empty())
             WARNMS(jpeg, JWRN_JPEG_EOF);  // which we make an error
+        self->headerBytes_ += self->headerIsRead_ ? 0 : piece.size();
+        if (self->headerBytes_ > kMaxHeaderBytes)
+            self->Fail("its header is too long");
         self->input_.next_input_byte = piece.data();
         self->input_.bytes_in_buffer = piece.size();
         return TRUE;
@@ -234,8 +242,12 @@ private:
         const int scans = self->jpeg_.input_scan_number;
         if (scans <= kMaxScans && scans * self->Width() * self->Height() <= kMaxScannedPixels)
             return;
-        std::snprintf(self->message_, sizeof self->message_, "it has too many scans for its size");
-        std::longjmp(self->jump_, 1);
+        self->Fail("it has too many scans for its size");
+    }
+
+    [[noreturn]] void Fail(const char* problem) {
+        std::snprintf(message_, sizeof message_, "%s", problem);
+        std::longjmp(jump_, 1);
     }
 
     // Cyan, magenta, yellow and black bytes become opaque pixels in place.
@@ -253,6 +265,8 @@ private:
 
     ByteStream stream_;
     std::uint64_t fileBytes_;
+    std::uint64_t headerBytes_ = 0;  // that were read so far
+    bool headerIsRead_ = false;
     jpeg_source_mgr input_ = {};
     jpeg_decompress_struct jpeg_ = {};
     jpeg_error_mgr errors_ = {};
