@@ -76,16 +76,24 @@ def ico(size):
     return head + info + b"".join(row(y) for y in range(height))
 
 
-def volf(page, layers):
+def volf(page, layers, are_plates=0):
     """Layers: (picture, width and height of the picture, box on the page)."""
     parts = [b"volf " + struct.pack("<H", 1) + b"OrbelleWork" +
              struct.pack("<iiIi", page[0], page[1], 0, len(layers))]
     for picture, (width, height), box in layers:
         parts.append(struct.pack("<iiii", 0, 50, 50, 40) + struct.pack("<if", height, 1) +
                      struct.pack("<ffff", *box) + struct.pack("<i", width) +
-                     struct.pack("<ffff", *box) + struct.pack("<ihhii", 0, -1, 0, 0, len(picture)))
+                     struct.pack("<ffff", *box) + struct.pack("<ihhii", 0, -1, are_plates, 0, len(picture)))
         parts += [picture, b"\0"]
     return b"".join(parts)
+
+
+def many_ico(count):
+    """All entries share one picture."""
+    place = 6 + 16 * count
+    head = struct.pack("<HHH", 0, 1, count)
+    entry = struct.pack("<BBBBHHII", 0, 0, 0, 0, 1, 32, 0, place)
+    return head + entry * count + struct.pack("<IiiHH", 40, 27, 54, 1, 32) + random.randbytes(2940)
 
 
 def filling(picture, size):
@@ -107,6 +115,9 @@ def main(folder):
     write("noise.bmp", bmp(LARGEST))
     write("noise.ico", ico(LARGEST))
 
+    write("many.ico", many_ico(65535))
+    write("markers.jpg", b"\xff\xd8" + (b"\xff\xe1\xff\xff" + bytes(65533)) * 7800)
+
     write("page-and-layer.volf", volf(LARGEST, [filling(noise(LARGEST), LARGEST)]))
     write("speckled.volf", volf(LARGEST, [filling(speckles(LARGEST), LARGEST)]))
     side = (5600, 6000)
@@ -122,6 +133,9 @@ def main(folder):
     # What does not fit into its record, covers the page again and again, or is only promised.
     write("hidden-size.volf", volf((9, 9), [(blank(LARGEST), (1, 1), (0, 0, 1, 1))] * 1000))
     write("covering.volf", volf(LARGEST, [(blank((1, 1)), (1, 1), (0, 0, *LARGEST))] * 5001))
+    dot = blank((1, 1))
+    write("plates.volf", volf((100, 100), [(dot, (1, 1), (-2e6, -1e6, 4e6, 4e6))] * 5001, -1))
+    write("tall-plates.volf", volf((1, 16384), [(dot, (1, 1), (0, 0, 1, 16384))] * 5001, -1))
     short = blank(LARGEST)[:-1000]
     write("damaged.volf", volf((9, 9), [(short, LARGEST, (0, 0, 9, 9))] * 1000))
 

@@ -40,7 +40,15 @@ RectI DifferingPixels(const Bitmap& first, const Bitmap& second, const RectI& ar
 
 bool Compositor::Drawn::DiffersAtMostInImage(const Drawn& other) const {
     return Opacity == other.Opacity && Destination == other.Destination && Source == other.Source &&
-           Plates == other.Plates;
+           AreSame(CutBy.get(), other.CutBy.get());
+}
+
+bool Compositor::AreSame(const Plate* plates, const Plate* others) {
+    for (; plates != others; plates = plates->Before.get(), others = others->Before.get()) {
+        if (!plates || !others || plates->Box != others->Box)
+            return false;
+    }
+    return true;
 }
 
 bool Compositor::Drawn::operator==(const Drawn& other) const {
@@ -67,7 +75,7 @@ RectI Compositor::ChangedArea(const Drawn& before, const Drawn& after, const Rec
 
 std::vector<Compositor::Drawn> Compositor::ListLayers(Page& page) {
     std::vector<Drawn> drawn;
-    std::vector<RectF> plates;
+    std::shared_ptr<const Plate> plates;
     for (std::size_t i = 0; i < page.Layers.size(); ++i) {
         const IconLayer& layer = page.Layers[i];
         if (!layer.Visible)
@@ -77,8 +85,9 @@ std::vector<Compositor::Drawn> Compositor::ListLayers(Page& page) {
             const int width = graphics::RoundToEven(plate.Rect.Width);
             const int height = graphics::RoundToEven(plate.Rect.Height);
             plate.Path = filters::IosPlatePath(width, height, plate.Rect.X, plate.Rect.Y);
-            plates.push_back({plate.Rect.X, plate.Rect.Y, static_cast<float>(width),
-                              static_cast<float>(height)});
+            const RectF box{plate.Rect.X, plate.Rect.Y, static_cast<float>(width),
+                            static_cast<float>(height)};
+            plates = std::make_shared<Plate>(Plate{box, plates});
         }
         drawn.push_back({layer.Image,
                          layer.Opacity,
@@ -96,20 +105,19 @@ void Compositor::Draw(Bitmap& page, const std::vector<Drawn>& layers, std::size_
     context.SetPixelOffsetMode(graphics::PixelOffsetMode::HighQuality);
     const auto clip = graphics::Region::FromPixelRects({area});
     context.SetClipRegion(clip, graphics::CombineMode::Replace);
-    const std::vector<RectF>* plates = nullptr;
+    const Plate* cutBy = nullptr;  // those that the clip has been cut to
     for (std::size_t i = first; i < last; ++i) {
         const Drawn& layer = layers[i];
         if (Intersect(layer.Destination, area).IsEmpty())
             continue;
-        if (!plates || layer.Plates != *plates) {
-            plates = &layer.Plates;
-            context.SetClipRegion(clip, graphics::CombineMode::Replace);
-            for (const RectF& plate : *plates)
-                context.SetClipPath(
-                    filters::IosPlatePath(static_cast<int>(plate.Width),
-                                          static_cast<int>(plate.Height), plate.X, plate.Y),
-                    graphics::CombineMode::Intersect);
+        // All that cut a layer cut those above it, too.
+        for (const Plate* plate = layer.CutBy.get(); plate != cutBy; plate = plate->Before.get()) {
+            const RectF& box = plate->Box;
+            context.SetClipPath(filters::IosPlatePath(static_cast<int>(box.Width),
+                                                      static_cast<int>(box.Height), box.X, box.Y),
+                                graphics::CombineMode::Intersect);
         }
+        cutBy = layer.CutBy.get();
         context.DrawImageRectRectI(layer.Image, layer.Destination, layer.Source,
                                    {graphics::OpacityMatrix(layer.Opacity)});
     }

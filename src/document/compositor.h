@@ -1,6 +1,7 @@
 // Stage one of showing a document: the visible layers flattened into one picture of the page.
 #pragma once
 
+#include <memory>
 #include <vector>
 
 #include "document/page.h"
@@ -23,13 +24,20 @@ public:
     void Compose(Page& page, graphics::InterpolationMode interpolation, graphics::Bitmap& canvas);
 
 private:
+    // A plate and all that cut before it. Lists share their beginnings, so that hundreds of plates
+    // take no more than that many.
+    struct Plate {
+        graphics::RectF Box;
+        std::shared_ptr<const Plate> Before;
+    };
+
     // What one visible layer puts on the page; two equal ones put the same pixels there.
     struct Drawn {
         graphics::Bitmap Image;
         float Opacity = 1;
-        graphics::RectI Destination;          // page pixels
-        graphics::RectI Source;               // image pixels
-        std::vector<graphics::RectF> Plates;  // all that cut it
+        graphics::RectI Destination;           // page pixels
+        graphics::RectI Source;                // image pixels
+        std::shared_ptr<const Plate> CutBy{};  // the last plate that cuts it
 
         bool DiffersAtMostInImage(const Drawn& other) const;
         bool operator==(const Drawn& other) const;
@@ -39,6 +47,7 @@ private:
     static graphics::RectI ChangedArea(const Drawn& before, const Drawn& after,
                                        const graphics::RectI& page);
 
+    static bool AreSame(const Plate* plates, const Plate* others);
     static std::vector<Drawn> ListLayers(Page& page);
     void Draw(graphics::Bitmap& page, const std::vector<Drawn>& layers, std::size_t first,
               std::size_t last, const graphics::RectI& area) const;

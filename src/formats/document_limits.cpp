@@ -13,6 +13,9 @@ namespace {
 using document::IconLayer;
 using document::Page;
 
+// A plate's outline is worked out row by row.
+constexpr std::int64_t kPixelsPerPlateRow = 32;
+
 void RequireSize(const std::string& what, int width, int height) {
     if (!graphics::IsBitmapSizeAllowed(width, height))
         throw Error(what + " is too large: " + std::to_string(width) + " x " +
@@ -35,8 +38,10 @@ std::int64_t PagePixels(const Page& page) {
 std::int64_t LayerPixels(const IconLayer& layer, const Page& page) {
     const graphics::RectI drawn = Intersect(
         document::DrawnArea(layer.Rect), {0, 0, std::max(page.Width, 1), std::max(page.Height, 1)});
-    return std::max(std::int64_t{std::max(layer.ImageWidth, 0)} * std::max(layer.ImageHeight, 0),
-                    std::int64_t{drawn.Width} * drawn.Height);
+    const std::int64_t picture =
+        std::int64_t{std::max(layer.ImageWidth, 0)} * std::max(layer.ImageHeight, 0);
+    const std::int64_t outline = layer.ClipNextLayer ? kPixelsPerPlateRow * drawn.Height : 0;
+    return std::max(picture, std::int64_t{drawn.Width} * drawn.Height) + outline;
 }
 
 std::int64_t PixelsOf(const Page& page) {

@@ -23,7 +23,8 @@ inline constexpr float kMaxCoordinate = 4194304;
 std::int64_t PagePixels(const document::Page& page);
 
 // What a layer counts for: the pixels of its picture as they are saved, or those of the page that
-// it is drawn over, which also take their time, where these are more.
+// it is drawn over, which also take their time, where these are more; and something for the outline
+// of a plate.
 std::int64_t LayerPixels(const document::IconLayer& layer, const document::Page& page);
 
 // All of a page.

@@ -20,6 +20,28 @@ constexpr QColor kHiddenRow(230, 230, 230);
 constexpr QColor kRowLine(150, 150, 150);
 constexpr QColor kCheckerColor(0, 0, 0, 30);
 
+// Pictures above this are shrunk row by row of the result: QImage::scaled would make a copy of the
+// whole picture in another format.
+constexpr qsizetype kLargeBytes = 16 << 20;
+
+QImage Shrunk(const QImage& picture, const QSize& size) {
+    const auto scaled = [](const QImage& part, const QSize& to) {
+        return part.scaled(to, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    };
+    if (picture.sizeInBytes() <= kLargeBytes)
+        return scaled(picture, size);
+    QImage result(size, QImage::Format_ARGB32_Premultiplied);
+    for (int y = 0; y < size.height(); ++y) {
+        const int top = y * picture.height() / size.height();
+        const int bottom = std::max((y + 1) * picture.height() / size.height(), top + 1);
+        const QImage band(picture.constScanLine(top), picture.width(), bottom - top,
+                          picture.bytesPerLine(), picture.format());
+        const QImage row = scaled(band, {size.width(), 1}).convertToFormat(result.format());
+        std::copy_n(row.constBits(), qsizetype{size.width()} * 4, result.scanLine(y));
+    }
+    return result;
+}
+
 }  // namespace
 
 QRect FitRect(const QSize& picture, int box) {
@@ -112,7 +134,7 @@ void LayerList::PaintThumbnail(QPainter& painter, const QRect& box, int layer) {
     const bool shrinks = row.Image.width() > pixels.width() || row.Image.height() > pixels.height();
     QImage& thumbnail = thumbnails_[layer];
     if (shrinks && thumbnail.size() != pixels)
-        thumbnail = row.Image.scaled(pixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+        thumbnail = Shrunk(row.Image, pixels);
     // Without smoothing: a small picture that the screen enlarges keeps its hard squares.
     painter.drawImage(place, shrinks ? thumbnail : row.Image);
 }

@@ -27,7 +27,12 @@ constexpr int kMaxScans = 100;
 constexpr std::int64_t kMaxScannedPixels = 16 * kMaxBitmapPixels;
 
 // Enough for the largest picture with three channels at full resolution.
-constexpr std::int64_t kMaxCoefficientBytes = std::int64_t{320} << 20;
+constexpr std::uint64_t kMaxCoefficientBytes = std::uint64_t{320} << 20;
+
+// Several scans are unpacked half as fast as one, arithmetic codes ten times slower. Photographs
+// as large as a bitmap can be have less than half of the first.
+constexpr std::uint64_t kMaxSeveralScansBytes = std::uint64_t{96} << 20;
+constexpr std::uint64_t kMaxArithmeticBytes = std::uint64_t{12} << 20;
 
 // What cameras put before a picture has a few; the library keeps some of it.
 constexpr std::uint64_t kMaxHeaderBytes = std::uint64_t{32} << 20;
@@ -146,13 +151,24 @@ public:
                Width() * Height() / kMaxPixelsPerByte > static_cast<std::int64_t>(fileBytes_);
     }
 
-    // What a picture in several scans takes before its first pixel is made.
-    std::int64_t CoefficientBytes() {
-        std::int64_t blocks = 0;
-        for (int i = 0; jpeg_has_multiple_scans(&jpeg_) && i < jpeg_.num_components; ++i)
-            blocks += std::int64_t{jpeg_.comp_info[i].width_in_blocks} *
+    // Throws ImageError for what would take too much memory or time.
+    void RequireBearable() {
+        const auto require = [](const char* what, std::uint64_t bytes, std::uint64_t most) {
+            if (bytes > most)
+                throw ImageError("the JPEG picture is too large: " + std::to_string(bytes >> 20) +
+                                 " MiB " + what + ", more than " + std::to_string(most >> 20));
+        };
+        if (jpeg_.arith_code)
+            require("of arithmetic coding", fileBytes_, kMaxArithmeticBytes);
+        if (!jpeg_has_multiple_scans(&jpeg_))
+            return;
+        require("in several scans", fileBytes_, kMaxSeveralScansBytes);
+        // What stands in memory before the first pixel is made.
+        std::uint64_t blocks = 0;
+        for (int i = 0; i < jpeg_.num_components; ++i)
+            blocks += std::uint64_t{jpeg_.comp_info[i].width_in_blocks} *
                       jpeg_.comp_info[i].height_in_blocks;
-        return blocks * static_cast<std::int64_t>(sizeof(JBLOCK));
+        require("to put its scans together", blocks * sizeof(JBLOCK), kMaxCoefficientBytes);
     }
 
     int Orientation() const {
@@ -285,11 +301,7 @@ Bitmap DecodeJpeg(const ByteSource& file, PixelBudget& budget) {
     budget.Take(reader.Width(), reader.Height());
     if (reader.HasTooLittleData())
         ThrowDamaged("JPEG", "too little data for its size");
-    if (reader.CoefficientBytes() > kMaxCoefficientBytes)
-        throw ImageError("the JPEG picture needs " +
-                         std::to_string(reader.CoefficientBytes() >> 20) +
-                         " MiB to put its scans together, more than " +
-                         std::to_string(kMaxCoefficientBytes >> 20));
+    reader.RequireBearable();
     const int orientation = reader.Orientation();
     auto width = static_cast<int>(reader.Width()), height = static_cast<int>(reader.Height());
     if (IsTurned(orientation))
