@@ -294,6 +294,12 @@ TEST(VolfStore, ALayerCountsForWhatItTakesToOpenIt) {
                     ::testing::ThrowsMessage<Error>("The page and its layers" + words + "."));
     }
 
+    IconLayer plate;
+    PlaceAt(plate, {-5, 0, 10, 6});
+    EXPECT_EQ(LayerPixels(plate, document.Master), 60);
+    plate.ClipNextLayer = true;
+    EXPECT_EQ(LayerPixels(plate, document.Master), 60 + 6 * 32);
+
     // A picture that is larger than its record says is cut, and counts: it took its time.
     document = {};
     AddLayer(document, 2, {}, Bitmap(6, 1));

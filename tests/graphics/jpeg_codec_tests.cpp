@@ -142,6 +142,26 @@ TEST(JpegDecoder, TurnsPicturesUpright) {
         EXPECT_EQ(Spell(DecodeImage(MakeJpeg(picture))), "abc/def");
 }
 
+// Large enough for its coefficients to be given back before the last row is made.
+TEST(JpegDecoder, ScansComeTogetherInLargePictures) {
+    JpegPicture picture = {.Width = 4096, .Height = 4200};
+    picture.Samples.resize(std::size_t{4096} * 4200);
+    for (std::size_t i = 0; i < picture.Samples.size(); ++i)
+        picture.Samples[i] = static_cast<std::uint8_t>(i / 4096 / 20 + i % 4096 / 100);
+    const Bitmap plain = DecodeImage(MakeJpeg(picture));
+    picture.Progressive = true;
+    EXPECT_TRUE(testing::SamePixels(DecodeImage(MakeJpeg(picture)), plain));
+}
+
+TEST(JpegDecoder, HeadersEnd) {
+    FileBytes file = {0xFF, 0xD8};
+    for (int i = 0; i < 520; ++i) {
+        file.insert(file.end(), {0xFF, 0xE1, 0xFF, 0xFF});
+        file.resize(file.size() + 0xFFFD);
+    }
+    EXPECT_THAT(ProblemOf(file), ::testing::HasSubstr("its header is too long"));
+}
+
 TEST(JpegDecoder, CutOrDamagedFilesThrow) {
     for (bool progressive : {false, true}) {
         JpegPicture picture = Letters();

@@ -133,6 +133,13 @@ TEST_F(LayerListTest, MixesThePixelsOfAPictureThatShrinks) {
     EXPECT_NEAR(middle.blue(), 128, 2);
     list.SetRows({Row(64, 64, Qt::green)});
     ExpectPixels({{{20, 20}, Qt::green}});
+    // One that is shrunk in parts.
+    LayerRow large = Row(2400, 2400, Qt::red);
+    for (int y = 1200; y < 2400; ++y)
+        std::fill_n(reinterpret_cast<QRgb*>(large.Image.scanLine(y)), 2400, qRgb(0, 0, 255));
+    list.SetRows({large});
+    ExpectPixels(
+        {{{20, 5}, Qt::red}, {{20, 18}, Qt::red}, {{20, 22}, Qt::blue}, {{5, 34}, Qt::blue}});
 }
 
 TEST_F(LayerListTest, KeysMoveTheSelectionIntoView) {
