@@ -34,8 +34,7 @@ void List(const std::vector<formats::FoundJournal>& journals, std::ostream& outp
                            {"page", Json::array({document.Master.Width, document.Master.Height})}};
         output << json.dump(-1, ' ', false, Json::error_handler_t::replace) << '\n';
     }
-    if (!output.flush())
-        throw Failure("--recover: the output can't be written");
+    RequirePrinted(output);
 }
 
 }  // namespace
