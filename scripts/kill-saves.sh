@@ -14,20 +14,24 @@ export HOME=$work/home XDG_STATE_HOME=$work/home/state
 mkdir home out old new
 
 # Two pictures, so that the files of one can be told from those of the other.
-"$cli" new 200 200 tool filled-ellipse drag 9 9 190 150 style crystal save old.volf
-"$cli" open old.volf style reflection rotate cw style shadow save new.volf
+cp "$root/samples/envelope.volf" old.volf
+cp "$root/samples/speech-bubble.volf" new.volf
 formats='png ico gif bmp'
-verbs() { # FOLDER
-    echo "save $1/file.volf"
-    for format in $formats; do echo "export $1/file.$format"; done
-    echo "save $1/linked.volf"
+verbs() { # DOCUMENT FOLDER
+    echo "open $1.volf"
+    echo "save $2/file.volf"
+    for format in $formats; do echo "export $2/file.$format"; done
 }
-for which in old new; do
-    { echo "open $which.volf"; verbs $which; } | "$cli" --script -
+in_place() { # DOCUMENT FOLDER
+    echo "open $1.volf"
+    echo "save $2/linked.volf"
+}
+for document in old new; do
+    { verbs $document $document; in_place $document $document; } | "$cli" --script -
 done
-for ((i = 0; i < 200; i++)); do
-    for which in old new; do echo "open $which.volf"; verbs out; done
-done >forever.txt
+for kind in verbs in_place; do
+    for ((i = 0; i < 200; i++)); do $kind old out; $kind new out; done >$kind.txt
+done
 
 cp old/* out
 ln out/linked.volf out/other.volf
@@ -45,11 +49,12 @@ has_copy() {
 }
 
 signals=(KILL TERM INT HUP KILL)
-damaged=0 in_place=0 leftovers=0 unfinished=0
+scripts=(verbs in_place verbs)
+damaged=0 copies=0 leftovers=0 unfinished=0
 for ((round = 0; round < rounds; round++)); do
     signal=${signals[round % ${#signals[@]}]}
     # A shell starts its background programs with SIGINT ignored.
-    env --default-signal=INT "$cli" --script forever.txt &
+    env --default-signal=INT "$cli" --script "${scripts[round % ${#scripts[@]}]}.txt" &
     sleep "0.0$((10 + RANDOM % 50))"
     kill -s "$signal" $!
     status=0
@@ -61,7 +66,7 @@ for ((round = 0; round < rounds; round++)); do
         name=${file#old/}
         is_whole "$name" && continue
         if [[ $name == linked.volf ]] && has_copy; then
-            in_place=$((in_place + 1))
+            copies=$((copies + 1))
         else
             echo "kill-saves: round $round, $signal: $name is damaged" >&2
             damaged=$((damaged + 1))
@@ -76,5 +81,5 @@ for ((round = 0; round < rounds; round++)); do
     rm -rf home/state
 done
 echo "$rounds rounds: $damaged damaged files, $leftovers leftovers;" \
-    "$in_place files whole as a copy only, $unfinished unfinished ones found and removed"
+    "$copies files whole as a copy only, $unfinished unfinished ones found and removed"
 [[ $damaged == 0 && $leftovers == 0 ]]
