@@ -50,9 +50,10 @@ int main(int argc, char** argv) {
             ->type_name("FILE");
         std::vector<std::string> recover;
         const CLI::Option* recovers =
-            app.add_option("--recover", recover,
-                           "List what the window kept safe when it was killed, or write number N to "
-                           "PATH as a document")
+            app.add_option(
+                   "--recover", recover,
+                   "List what the window kept safe when it was killed, or write number N to "
+                   "PATH as a document")
                 ->type_name("[list | N PATH]")
                 ->expected(0, 2);
         app.footer([] { return "Verbs, run in order:" + VerbHelp(); });
