@@ -121,7 +121,7 @@ bool IsRefusal(const std::error_code& error) {
 fs::path NameOfCopy(const fs::path& target) {
     constexpr std::size_t kLongest = 200;
     const std::string name = target.filename().string();
-    const fs::path folder = StateFolder() / "saves";
+    const fs::path folder = SaveCopiesFolder();
     std::error_code error;
     fs::create_directory(folder, error);
     if (error)
