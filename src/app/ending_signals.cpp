@@ -21,12 +21,17 @@ void Wake(int) {
     errno = before;
 }
 
+// One that whoever started the program has it ignore stays ignored.
 void Handle(void (*handler)(int)) {
-    struct sigaction action {};
-    action.sa_handler = handler;
-    action.sa_flags = SA_RESTART;
-    for (const int signal : kSignals)
+    for (const int signal : kSignals) {
+        struct sigaction action {};
+        ::sigaction(signal, nullptr, &action);
+        if (action.sa_handler == SIG_IGN)
+            continue;
+        action.sa_handler = handler;
+        action.sa_flags = SA_RESTART;
         ::sigaction(signal, &action, nullptr);
+    }
 }
 
 }  // namespace

@@ -2,13 +2,16 @@
 
 #include <chrono>
 #include <ctime>
+#include <filesystem>
 #include <nlohmann/json.hpp>
+#include <system_error>
 
 #include "cli/words.h"
 #include "cli/workspace.h"
 #include "editing/recovery.h"
 #include "formats/journal_file.h"
 #include "formats/volf_store.h"
+#include "graphics/state_folder.h"
 
 namespace orbelle::cli {
 namespace {
@@ -34,8 +37,18 @@ void List(const std::vector<formats::FoundJournal>& journals, std::ostream& outp
                            {"page", Json::array({document.Master.Width, document.Master.Height})}};
         output << json.dump(-1, ' ', false, Json::error_handler_t::replace) << '\n';
     }
-    if (!output.flush())
-        throw Failure("--recover: the output can't be written");
+}
+
+// What saves were writing into files that they could not replace when they were killed.
+void ListCopies(std::ostream& output) {
+    std::error_code error;
+    for (const auto& copy :
+         std::filesystem::directory_iterator(graphics::SaveCopiesFolder(), error)) {
+        const nlohmann::ordered_json json = {{"copy", copy.path().string()},
+                                             {"bytes", copy.file_size(error)}};
+        output << json.dump(-1, ' ', false, nlohmann::ordered_json::error_handler_t::replace)
+               << '\n';
+    }
 }
 
 }  // namespace
@@ -56,8 +69,11 @@ void Recover(std::span<const std::string> words, std::ostream& output) {
     }
     const std::vector<formats::FoundJournal> journals =
         formats::FindJournals(editing::JournalFolder());
-    if (isList)
-        return List(journals, output);
+    if (isList) {
+        List(journals, output);
+        ListCopies(output);
+        return RequirePrinted(output);
+    }
     if (number >= static_cast<int>(journals.size()))
         throw Failure("--recover " + std::to_string(number) + ": there are " +
                       std::to_string(journals.size()) + " documents to recover");

@@ -11,11 +11,6 @@ namespace {
 
 using graphics::RectI;
 
-void CheckOutput(Workspace& workspace) {
-    if (!workspace.Output.flush())
-        throw Failure("the output can't be written");
-}
-
 // One line for each run of pixels. The rectangles come in bands that share top and bottom, so all
 // rectangles of a band are told for each of its rows.
 void PrintRuns(std::ostream& output, const std::vector<RectI>& rects) {
@@ -37,13 +32,13 @@ void WritePng(const graphics::Bitmap& image, const std::filesystem::path& path) 
 void Info(Workspace& workspace) {
     RequireDocument(workspace);
     workspace.Output << DescribeDocument(workspace.Editor) << '\n';
-    CheckOutput(workspace);
+    RequirePrinted(workspace.Output);
 }
 
 Action ReadRegion(Words& words) {
     return [layer = words.Integer("N", 0)](Workspace& workspace) {
         PrintRuns(workspace.Output, RequireLayer(workspace, layer).Region.Rects());
-        CheckOutput(workspace);
+        RequirePrinted(workspace.Output);
     };
 }
 
@@ -52,7 +47,7 @@ void PrintSelection(Workspace& workspace) {
     const document::Selection& selection = workspace.Editor.Selection;
     if (selection.Exists())
         PrintRuns(workspace.Output, selection.Region().Rects());
-    CheckOutput(workspace);
+    RequirePrinted(workspace.Output);
 }
 
 Action ReadWriteLayer(Words& words) {

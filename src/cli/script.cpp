@@ -2,12 +2,14 @@
 
 #include <algorithm>
 #include <cctype>
+#include <utility>
 
 namespace orbelle::cli {
 namespace {
 
 constexpr std::size_t kMaxScriptBytes = std::size_t{16} << 20;
 constexpr std::string_view kBlanks = " \t\r";
+constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 
 bool IsBlank(char c) {
     return kBlanks.find(c) != std::string_view::npos;
@@ -36,17 +38,26 @@ std::string TakeWord(std::string_view& line) {
     return word;
 }
 
-std::string ReadText(std::istream& script) {
+std::string ReadText(std::istream& script, const std::string& name) {
     std::string text;
     char part[1 << 14];
     while (script.read(part, sizeof part), script.gcount() > 0) {
         text.append(part, static_cast<std::size_t>(script.gcount()));
         if (text.size() > kMaxScriptBytes)
-            throw UsageError("longer than 16 MiB");
+            throw UsageError(name + ": longer than 16 MiB");
     }
     if (script.bad())
-        throw UsageError("can't be read");
+        throw UsageError(name + ": can't be read");
     return text;
+}
+
+std::vector<Call> ParseLine(std::string_view line) {
+    if (line.find('\0') != std::string_view::npos)
+        throw UsageError("a byte of 0; a script is plain text");
+    std::vector<Call> calls = ParseCalls(SplitLine(line));
+    if (calls.size() > 1)
+        throw UsageError(JoinWords(calls[1].Words) + ": a second verb on the line");
+    return calls;
 }
 
 }  // namespace
@@ -61,20 +72,23 @@ std::vector<std::string> SplitLine(std::string_view line) {
     }
 }
 
-std::vector<Call> ParseScript(std::istream& script) {
-    const std::string text = ReadText(script);
+std::vector<Call> ParseScript(std::istream& script, const std::string& name) {
+    const std::string text = ReadText(script, name);
     std::vector<Call> calls;
     std::string_view rest = text;
+    if (rest.starts_with(kByteOrderMark))
+        rest.remove_prefix(kByteOrderMark.size());
     for (int number = 1; !rest.empty(); ++number) {
         const std::string_view line = rest.substr(0, rest.find('\n'));
         rest.remove_prefix(std::min(line.size() + 1, rest.size()));
+        const std::string place = name + ':' + std::to_string(number) + ": ";
         try {
-            std::vector<Call> parsed = ParseCalls(SplitLine(line));
-            if (parsed.size() > 1)
-                throw UsageError(JoinWords(parsed[1].Words) + ": a second verb on the line");
-            std::ranges::move(parsed, std::back_inserter(calls));
+            for (Call& call : ParseLine(line)) {
+                call.Place = place;
+                calls.push_back(std::move(call));
+            }
         } catch (const UsageError& error) {
-            throw UsageError("line " + std::to_string(number) + ": " + error.what());
+            throw UsageError(place + error.what());
         }
     }
     return calls;

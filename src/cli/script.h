@@ -14,8 +14,9 @@ namespace orbelle::cli {
 // colour and is not the first. Throws UsageError for a quote that is not closed.
 std::vector<std::string> SplitLine(std::string_view line);
 
-// The calls of all lines. Throws UsageError, which begins with the line's number, and for a script
-// that can't be read or is longer than 16 MiB.
-std::vector<Call> ParseScript(std::istream& script);
+// The calls of all lines; `name` is the script's, for messages. A byte order mark is passed over.
+// Throws UsageError, which begins with the script's name and the line, and for a script that can't
+// be read or is longer than 16 MiB.
+std::vector<Call> ParseScript(std::istream& script, const std::string& name);
 
 }  // namespace orbelle::cli

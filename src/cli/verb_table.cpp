@@ -20,7 +20,7 @@ std::string Describe(const Call& call, std::string problem) {
     const std::string path = call.Words.back() + ": ";
     if (problem.starts_with(path))
         problem.erase(0, path.size());
-    return JoinWords(call.Words) + ": " + problem;
+    return call.Place + JoinWords(call.Words) + ": " + problem;
 }
 
 }  // namespace

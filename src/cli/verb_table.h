@@ -55,14 +55,15 @@ std::string VerbHelp();
 struct Call {
     std::vector<std::string> Words;  // as typed, the verb first
     Action Run;
+    std::string Place{};  // in a script: "FILE:LINE: "
 };
 
 // All calls in the words. Throws UsageError, which begins with the verb that it is about.
 std::vector<Call> ParseCalls(std::span<const std::string> words);
 
-// Runs the calls in order. Throws Failure, with the call before what is wrong, at the first that
-// fails. What a call has to tell although it went well goes to `notes` in the same way, a line
-// each.
+// Runs the calls in order. Throws Failure, with the call and its place before what is wrong, at the
+// first that fails. What a call has to tell although it went well goes to `notes` in the same way,
+// a line each.
 void RunCalls(std::span<const Call> calls, Workspace& workspace, std::ostream& notes = std::cerr);
 
 }  // namespace orbelle::cli

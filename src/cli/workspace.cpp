@@ -1,5 +1,8 @@
 #include "cli/workspace.h"
 
+#include <cerrno>
+#include <system_error>
+
 namespace orbelle::cli {
 
 void CliHost::Put(const graphics::Bitmap& picture, const std::string& text) {
@@ -35,6 +38,11 @@ WindowView::WindowView(Workspace& workspace)
     editor_.View = {};
     editor_.View.Zoom = workspace.Zoom;
     editor_.View.ViewActive = true;
+}
+
+void RequirePrinted(std::ostream& output) {
+    if (!output.flush())
+        throw Failure("standard output: " + std::generic_category().message(errno));
 }
 
 void RequireDocument(const Workspace& workspace) {

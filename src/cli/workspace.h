@@ -73,6 +73,9 @@ private:
     document::View before_;
 };
 
+// Throws Failure when what was printed so far could not be written.
+void RequirePrinted(std::ostream& output);
+
 // These throw Failure when there is no such thing.
 void RequireDocument(const Workspace& workspace);
 void RequireSelectedLayer(const Workspace& workspace);

@@ -47,7 +47,7 @@ void LeaveInSizesFolder(const std::vector<Bitmap>& pictures) {
     fs::create_directories(folder);
     for (const Bitmap& picture : pictures) {
         const std::string name = "temp" + std::to_string(picture.Width()) + ".png";
-        graphics::WriteFile(folder / name, graphics::EncodePng(picture));
+        graphics::WriteScratchFile(folder / name, graphics::EncodePng(picture));
     }
 }
 

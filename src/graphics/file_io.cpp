@@ -1,96 +1,191 @@
 #include "graphics/file_io.h"
 
-#include <cerrno>
-#include <cstdio>
-#include <memory>
+#include <algorithm>
+#include <optional>
 #include <random>
 #include <system_error>
 
 #include "graphics/byte_source.h"
+#include "graphics/detail/output_file.h"
+#include "graphics/detail/temporary_names.h"
 #include "graphics/errors.h"
+#include "graphics/state_folder.h"
+#include "graphics/unfinished_files.h"
 
 namespace orbelle::graphics {
 namespace {
 
 namespace fs = std::filesystem;
+using detail::OutputFile;
+using Bytes = std::span<const std::uint8_t>;
+
+enum class Durability { OnDisk, InCache };
+
+// As far as the user's mask leaves them.
+constexpr fs::perms kNewPermissions = fs::perms(0666);
+// Of a copy, which is the user's own affair.
+constexpr fs::perms kCopyPermissions = fs::perms::owner_read | fs::perms::owner_write;
 
 // As many as Linux follows.
 constexpr int kMaxLinks = 40;
 
-struct CloseFile {
-    void operator()(std::FILE* file) const { std::fclose(file); }
-};
-using File = std::unique_ptr<std::FILE, CloseFile>;
-
-[[noreturn]] void ThrowSystemError(const fs::path& path, std::errc reason) {
-    throw FileError(path, std::make_error_code(reason).message());
-}
-
-[[noreturn]] void ThrowLastError(const fs::path& path) {
-    ThrowSystemError(path, static_cast<std::errc>(errno));
-}
-
-// That a file is missing is known, too. What can't be asked about must not be taken for missing.
-fs::file_status RequireKnown(const fs::file_status& status, const std::error_code& error,
-                             const fs::path& name) {
-    if (!fs::status_known(status))
-        throw FileError(name, error.message());
-    return status;
-}
-
-// `name` is the path that the user knows, for the message.
-File Open(const fs::path& path, const char* mode, const fs::path& name) {
-    File file(std::fopen(path.string().c_str(), mode));
-    if (!file)
-        ThrowLastError(name);
-    return file;
-}
-
-void WriteAndClose(File file, std::span<const std::uint8_t> bytes, const fs::path& name) {
-    // A full disk may show only when the last bytes are handed over, at closing.
-    const bool written =
-        bytes.empty() || std::fwrite(bytes.data(), 1, bytes.size(), file.get()) == bytes.size();
-    const int writeError = errno;
-    const bool closed = std::fclose(file.release()) == 0;
-    if (!written)
-        errno = writeError;
-    if (!written || !closed)
-        ThrowLastError(name);
+// Such a link leads to an open file, which may have no name at all.
+bool IsDescriptor(const fs::path& path) {
+    const fs::path folder = path.parent_path();
+    return folder == "/dev/fd" ||
+           (folder.filename() == "fd" && folder.string().starts_with("/proc/"));
 }
 
 // What a chain of links ends at, which need not exist.
 fs::path FollowLinks(const fs::path& path) {
     fs::path target = path;
-    std::error_code error;
-    for (int links = 0;
-         fs::is_symlink(RequireKnown(fs::symlink_status(target, error), error, path)); ++links) {
+    for (int links = 0; !IsDescriptor(target) && fs::is_symlink(fs::symlink_status(target));
+         ++links) {
         if (links == kMaxLinks)
-            ThrowSystemError(path, std::errc::too_many_symbolic_link_levels);
-        const fs::path next = fs::read_symlink(target, error);
-        if (error)
-            throw FileError(path, error.message());
-        target = target.parent_path() / next;
+            throw std::system_error(std::make_error_code(std::errc::too_many_symbolic_link_levels));
+        target = target.parent_path() / fs::read_symlink(target);
     }
     return target;
 }
 
-fs::path UnusedNameBeside(const fs::path& target) {
-    std::random_device random;
-    return target.parent_path() /
-           (".orbelle-" + std::to_string(random()) + std::to_string(random()) + ".tmp");
+void Fill(OutputFile& file, Bytes bytes, const OutputFile* old, Durability durability) {
+    // First who may read it, then what there is to read.
+    if (old)
+        file.TakeAttributesOf(*old);
+    file.Write(bytes);
+    if (durability == Durability::OnDisk)
+        file.Flush();
 }
 
-// Takes the file away again unless it was handed over.
-struct TemporaryFile {
-    fs::path Path;
-    bool HandedOver = false;
+// A file without a name leaves nothing behind, whatever ends us. False where there is no such
+// thing; then nothing has happened.
+bool PutUnnamed(const fs::path& folder, const fs::path& target, Bytes bytes, const OutputFile* old,
+                fs::perms permissions, Durability durability) {
+    std::optional<OutputFile> file = OutputFile::Unnamed(folder, permissions);
+    if (!file)
+        return false;
+    Fill(*file, bytes, old, durability);
+    if (!old && file->LinkTo(target))
+        return true;
+    UnfinishedFile name(detail::TemporaryNameIn(folder));
+    if (!file->LinkTo(name.Path()))
+        return false;
+    fs::rename(name.Path(), target);
+    name.Finish();
+    return true;
+}
 
-    ~TemporaryFile() {
-        std::error_code ignored;
-        if (!HandedOver)
-            fs::remove(Path, ignored);
+void PutNamed(const fs::path& folder, const fs::path& target, Bytes bytes, const OutputFile* old,
+              fs::perms permissions, Durability durability) {
+    UnfinishedFile name(detail::TemporaryNameIn(folder));
+    OutputFile file = OutputFile::New(name.Path(), permissions);
+    Fill(file, bytes, old, durability);
+    file.Close();
+    fs::rename(name.Path(), target);
+    name.Finish();
+}
+
+// A new file under the target's name. `old` is the one that has it now.
+void Put(const fs::path& target, Bytes bytes, const OutputFile* old, fs::perms permissions,
+         Durability durability) {
+    // Nothing may fail once the file has its name.
+    const fs::path folder = target.has_parent_path() ? target.parent_path() : ".";
+    detail::RemoveStaleFiles(folder);
+    if (!PutUnnamed(folder, target, bytes, old, permissions, durability))
+        PutNamed(folder, target, bytes, old, permissions, durability);
+    if (durability == Durability::OnDisk)
+        detail::FlushFolder(folder);
+}
+
+// The folder does not let us, though the file may.
+bool IsRefusal(const std::error_code& error) {
+    constexpr std::errc kRefusals[] = {
+        std::errc::permission_denied, std::errc::operation_not_permitted,
+        std::errc::read_only_file_system, std::errc::device_or_resource_busy,
+        std::errc::cross_device_link};
+    return std::ranges::any_of(kRefusals, [&](std::errc refusal) { return error == refusal; });
+}
+
+// With the old name at its end, so that it can be told and opened.
+fs::path NameOfCopy(const fs::path& target) {
+    constexpr std::size_t kLongest = 200;
+    const std::string name = target.filename().string();
+    const fs::path folder = SaveCopiesFolder();
+    std::error_code error;
+    fs::create_directory(folder, error);
+    if (error)
+        throw FileError(folder, error.message());
+    return folder / (std::to_string(std::random_device()()) + '-' +
+                     name.substr(name.size() - std::min(name.size(), kLongest)));
+}
+
+// What has several names, or may not be replaced. Whatever happens, either the file or a copy in
+// the state folder is whole.
+void WriteInPlace(const fs::path& target, OutputFile& file, Bytes bytes, const std::string& why) {
+    const auto refuse = [&](const std::string& problem) {
+        throw Error(why + ", and a copy for writing in place can't be made: " + problem);
+    };
+    std::optional<UnfinishedFile> copy;
+    try {
+        copy.emplace(NameOfCopy(target));
+        Put(copy->Path(), bytes, nullptr, kCopyPermissions, Durability::OnDisk);
+    } catch (const std::system_error& error) {
+        refuse(error.code().message());
+    } catch (const Error& error) {
+        refuse(error.what());
     }
-};
+    file.Reserve(bytes.size());
+    const HeldSignals held;
+    copy->Finish();
+    try {
+        file.Write(bytes);
+        file.CutTo(bytes.size());
+        file.Flush();
+        file.Close();
+    } catch (const std::system_error& error) {
+        throw Error(error.code().message() + ". What was to be saved is in " +
+                    copy->Path().string());
+    }
+    std::error_code ignored;
+    fs::remove(copy->Path(), ignored);
+}
+
+void Replace(const fs::path& target, Bytes bytes, Durability durability) {
+    // Taking a file's name needs no right to write to the file itself; ask for it all the same.
+    OutputFile old = OutputFile::Existing(target);
+    if (old.HasOtherNames())
+        return WriteInPlace(target, old, bytes, "it has several names");
+    try {
+        Put(target, bytes, &old, old.Permissions(), durability);
+    } catch (const std::system_error& error) {
+        if (!IsRefusal(error.code()))
+            throw;
+        WriteInPlace(target, old, bytes, error.code().message());
+    }
+}
+
+void WriteStream(const fs::path& path, Bytes bytes) {
+    OutputFile stream = OutputFile::Stream(path);
+    stream.Write(bytes);
+    stream.Close();
+}
+
+void Write(const fs::path& path, Bytes bytes, Durability durability) {
+    try {
+        const fs::file_status status = fs::status(path);
+        const fs::path target = FollowLinks(path);
+        if (fs::exists(status) && (!fs::is_regular_file(status) || IsDescriptor(target)))
+            WriteStream(path, bytes);
+        else if (fs::exists(status))
+            Replace(target, bytes, durability);
+        else
+            Put(target, bytes, nullptr, kNewPermissions, durability);
+    } catch (const std::system_error& error) {
+        throw FileError(path, error.code().message());
+    } catch (const Error& error) {
+        throw FileError(path, error.what());
+    }
+}
 
 }  // namespace
 
@@ -103,28 +198,11 @@ std::vector<std::uint8_t> ReadFile(const fs::path& path) {
 }
 
 void WriteFile(const fs::path& path, std::span<const std::uint8_t> bytes) {
-    const fs::path target = FollowLinks(path);
-    std::error_code error;
-    const fs::file_status status = RequireKnown(fs::status(target, error), error, path);
-    if (fs::exists(status)) {
-        // Taking a file's name needs no right to write to the file itself; ask for it all the same.
-        File existing = Open(target, "r+b", path);
-        if (!fs::is_regular_file(status))
-            return WriteAndClose(std::move(existing), bytes, path);
-    }
+    Write(path, bytes, Durability::OnDisk);
+}
 
-    TemporaryFile temporary{UnusedNameBeside(target)};
-    File file = Open(temporary.Path, "wbx", path);
-    if (fs::exists(status)) {
-        fs::permissions(temporary.Path, status.permissions(), error);
-        if (error)
-            throw FileError(path, error.message());
-    }
-    WriteAndClose(std::move(file), bytes, path);
-    fs::rename(temporary.Path, target, error);
-    if (error)
-        throw FileError(path, error.message());
-    temporary.HandedOver = true;
+void WriteScratchFile(const fs::path& path, std::span<const std::uint8_t> bytes) {
+    Write(path, bytes, Durability::InCache);
 }
 
 }  // namespace orbelle::graphics

@@ -39,4 +39,8 @@ fs::path StateFolder() {
     return folder;
 }
 
+fs::path SaveCopiesFolder() {
+    return StateFolder() / "saves";
+}
+
 }  // namespace orbelle::graphics

@@ -9,4 +9,8 @@ namespace orbelle::graphics {
 // when it is missing, for the user alone. Throws FileError.
 std::filesystem::path StateFolder();
 
+// In it: whole copies of what is being written into files that can't be replaced, and what was when
+// such a save was cut short.
+std::filesystem::path SaveCopiesFolder();
+
 }  // namespace orbelle::graphics

@@ -42,11 +42,15 @@ class ProgramTest : public ::testing::Test {
 protected:
     // Words as a shell takes them; paths among them are relative to `folder`.
     Outcome Run(const std::string& words, const std::string& input = "") {
+        return Shell("\"$cli\" " + words, input);
+    }
+    // Commands of a shell, in which $cli is the program.
+    Outcome Shell(const std::string& commands, const std::string& input = "") {
         Write("input", {input.begin(), input.end()});
         const std::string command = "cd '" + folder.Path().string() +
-                                    "' && HOME=$PWD XDG_CACHE_HOME=$PWD/cache "
-                                    "XDG_STATE_HOME=$PWD/state '" ORBELLE_CLI_PROGRAM "' " +
-                                    words + " <input >output 2>errors";
+                                    "' && export HOME=$PWD XDG_CACHE_HOME=$PWD/cache" +
+                                    " XDG_STATE_HOME=$PWD/state cli='" ORBELLE_CLI_PROGRAM "'\n{ " +
+                                    commands + "\n} <input >output 2>errors";
         const int status = std::system(command.c_str());
         return {WEXITSTATUS(status), Text("output"), Text("errors")};
     }

@@ -147,10 +147,16 @@ TEST_F(ProgramTest, ScriptsComeFromFilesAndStandardInput) {
     EXPECT_TRUE(Exists("my page.png"));
 
     EXPECT_EQ(Run("--script -", "new 8 8\nsave a.volf\nselect x"),
-              WrongUsage("standard input: line 3: select x: N must be a whole number"));
+              WrongUsage("-:3: select x: N must be a whole number"));
     EXPECT_FALSE(Exists("a.volf"));
     EXPECT_EQ(Run("--script -", "open \"no page.png\""),
-              Failed("open \"no page.png\": No such file or directory"));
+              Failed("-:1: open \"no page.png\": No such file or directory"));
+    const std::string failing = "new 16 16\n\nselect 9\nsave a.volf";
+    Write("b.txt", {failing.begin(), failing.end()});
+    EXPECT_EQ(Run("--script b.txt"),
+              Failed("b.txt:3: select 9: there is no layer 9; the document has 1"));
+    EXPECT_FALSE(Exists("a.volf"));
+    EXPECT_EQ(Run("--script .").Errors, "orbelle-cli: .: can't be read\n");
     EXPECT_EQ(Run("--script none"), WrongUsage("none: No such file or directory"));
 }
 

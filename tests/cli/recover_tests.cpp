@@ -33,6 +33,9 @@ TEST_F(ProgramTest, RecoverListsAndSavesWhatWasLeftBehind) {
     EXPECT_EQ(Run("--recover 2 x.volf"), Failed("--recover 2: there are 2 documents to recover"));
     EXPECT_EQ(Run("--recover soon x.volf"), WrongUsage("--recover: N must be a whole number"));
     EXPECT_FALSE(Exists("x.volf"));
+    std::filesystem::create_directory(folder / "state" / "orbelle" / "saves");
+    Write("state/orbelle/saves/7-a.png", {1, 2, 3});
+    EXPECT_THAT(Run("--recover").Output, HasSubstr(R"(/state/orbelle/saves/7-a.png","bytes":3})"));
 }
 
 }  // namespace

@@ -36,7 +36,7 @@ TEST(SplitLineTest, WordsCommentsAndQuotes) {
 TextList CallsOf(const std::string& text) {
     std::istringstream script(text);
     TextList lines;
-    for (const Call& call : ParseScript(script))
+    for (const Call& call : ParseScript(script, "a.txt"))
         lines.push_back(JoinWords(call.Words));
     return lines;
 }
@@ -44,14 +44,18 @@ TextList CallsOf(const std::string& text) {
 TEST(ParseScriptTest, EachLineIsOneVerb) {
     EXPECT_THAT(CallsOf("new 8 8\n\n# comment\r\n  opacity 1 2 # half\nopen \"a b.png\""),
                 ElementsAre("new 8 8", "opacity 1 2", "open \"a b.png\""));
+    EXPECT_THAT(CallsOf("\xEF\xBB\xBFundo\r\nredo"), ElementsAre("undo", "redo"));
 
     const std::pair<std::string, const char*> refused[] = {
-        {"undo\n\nfrobnicate 5", "line 3: frobnicate: unknown verb"},
-        {"undo\nnew 5\n6\n", "line 2: new 5: H is missing"},
-        {"new 5 5 undo", "line 1: undo: a second verb on the line"},
-        {"open \"a.png\nundo", "line 1: a double quote is not closed"},
-        {"open \"\"", "line 1: open \"\": PATH must be the name of a file"},
-        {std::string((16 << 20) + 1, '\n'), "longer than 16 MiB"},
+        {"undo\n\nfrobnicate 5", "a.txt:3: frobnicate: unknown verb"},
+        {"undo\nnew 5\n6\n", "a.txt:2: new 5: H is missing"},
+        {"new 5 5 undo", "a.txt:1: undo: a second verb on the line"},
+        {"open \"a.png\nundo", "a.txt:1: a double quote is not closed"},
+        {"open \"\"", "a.txt:1: open \"\": PATH must be the name of a file"},
+        {"undo\n\xEF\xBB\xBFundo", "a.txt:2: \xEF\xBB\xBFundo: unknown verb"},
+        {{"undo\nredo # \0", 14}, "a.txt:2: a byte of 0; a script is plain text"},
+        {{"\xFF\xFEu\0n\0", 6}, "a.txt:1: a byte of 0; a script is plain text"},
+        {std::string((16 << 20) + 1, '\n'), "a.txt: longer than 16 MiB"},
     };
     for (const auto& refusal : refused)
         EXPECT_THAT([&] { CallsOf(refusal.first); },

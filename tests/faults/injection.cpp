@@ -1,11 +1,15 @@
 #include "faults/injection.h"
 
 #include <dlfcn.h>
+#include <fcntl.h>
 #include <sys/stat.h>
+#include <sys/xattr.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <atomic>
 #include <cerrno>
+#include <cstdarg>
 #include <cstdio>
 #include <cstdlib>
 #include <new>
@@ -29,6 +33,7 @@ Fault armedFault = Fault::New;
 Extent armedExtent = Extent::One;
 std::atomic<long> left = 0;  // until the first that fails
 std::atomic<bool> hasFailed = false;
+std::atomic<bool> hasUnnamedFiles = true;
 
 bool ShouldFail(Fault fault) {
     if (!armed || armedFault != fault)
@@ -66,6 +71,14 @@ bool Injection::HasFailedOne() const {
     return hasFailed;
 }
 
+NoUnnamedFiles::NoUnnamedFiles() {
+    hasUnnamedFiles = false;
+}
+
+NoUnnamedFiles::~NoUnnamedFiles() {
+    hasUnnamedFiles = true;
+}
+
 namespace {
 
 void* AllocateOrNull(std::size_t size) noexcept {
@@ -98,6 +111,14 @@ bool FileOperationFails() {
     if (!ShouldFail(Fault::FileOperation))
         return false;
     errno = EIO;
+    return true;
+}
+
+// The same for one that a signal may stop.
+bool InterruptibleFails() {
+    if (!ShouldFail(Fault::Interruption))
+        return FileOperationFails();
+    errno = EINTR;
     return true;
 }
 
@@ -158,11 +179,13 @@ ORBELLE_ALLOCATING(realloc, (void* memory, std::size_t size), (memory, size))
 
 #endif
 
-#define ORBELLE_FAILING(result, failure, name, parameters, arguments) \
-    result name parameters {                                          \
-        static const auto next = Next<result(*) parameters>(#name);   \
-        return FileOperationFails() ? (failure) : next arguments;     \
+#define ORBELLE_FAILING_BY(fails, result, failure, name, parameters, arguments) \
+    result name parameters {                                                    \
+        static const auto next = Next<result(*) parameters>(#name);             \
+        return fails() ? (failure) : next arguments;                            \
     }
+#define ORBELLE_FAILING(...) ORBELLE_FAILING_BY(FileOperationFails, __VA_ARGS__)
+#define ORBELLE_INTERRUPTIBLE(...) ORBELLE_FAILING_BY(InterruptibleFails, __VA_ARGS__)
 
 ORBELLE_FAILING(std::FILE*, nullptr, fopen, (const char* path, const char* mode), (path, mode))
 ORBELLE_FAILING(int, -1, rename, (const char* from, const char* to) noexcept, (from, to))
@@ -173,6 +196,65 @@ ORBELLE_FAILING(ssize_t, -1, readlink, (const char* path, char* to, std::size_t 
 ORBELLE_FAILING(int, -1, fchmodat, (int folder, const char* path, mode_t mode, int flags) noexcept,
                 (folder, path, mode, flags))
 ORBELLE_FAILING(int, -1, mkdir, (const char* path, mode_t mode) noexcept, (path, mode))
+ORBELLE_FAILING(int, -1, fstat, (int file, struct stat* to) noexcept, (file, to))
+ORBELLE_FAILING(int, -1, fchmod, (int file, mode_t mode) noexcept, (file, mode))
+ORBELLE_FAILING(int, -1, fchown, (int file, uid_t user, gid_t group) noexcept, (file, user, group))
+ORBELLE_FAILING(ssize_t, -1, flistxattr, (int file, char* to, std::size_t size) noexcept,
+                (file, to, size))
+ORBELLE_FAILING(ssize_t, -1, fgetxattr,
+                (int file, const char* name, void* to, std::size_t size) noexcept,
+                (file, name, to, size))
+ORBELLE_FAILING(int, -1, fsetxattr,
+                (int file, const char* name, const void* from, std::size_t size,
+                 int flags) noexcept,
+                (file, name, from, size, flags))
+ORBELLE_FAILING(int, -1, fremovexattr, (int file, const char* name) noexcept, (file, name))
+ORBELLE_INTERRUPTIBLE(int, -1, linkat,
+                      (int from, const char* path, int to, const char* name, int flags) noexcept,
+                      (from, path, to, name, flags))
+ORBELLE_INTERRUPTIBLE(int, -1, ftruncate, (int file, off_t size) noexcept, (file, size))
+ORBELLE_INTERRUPTIBLE(int, -1, fallocate, (int file, int mode, off_t from, off_t size),
+                      (file, mode, from, size))
+
+int open(const char* path, int flags, ...) {
+    static const auto next = Next<decltype(&open)>("open");
+    std::va_list rest;
+    va_start(rest, flags);
+    const mode_t mode = (flags & O_CREAT) || (flags & O_TMPFILE) == O_TMPFILE
+                            ? static_cast<mode_t>(va_arg(rest, unsigned))
+                            : 0;
+    va_end(rest);
+    if (InterruptibleFails())
+        return -1;
+    if (!hasUnnamedFiles && (flags & O_TMPFILE) == O_TMPFILE) {
+        errno = EOPNOTSUPP;
+        return -1;
+    }
+    return next(path, flags, mode);
+}
+
+// Of a failing one half is on the disk, too.
+ssize_t write(int file, const void* from, std::size_t size) {
+    static const auto next = Next<decltype(&write)>("write");
+    if (ShouldFail(Fault::Interruption))
+        return next(file, from, std::max<std::size_t>(1, size / 2));
+    if (!FileOperationFails())
+        return next(file, from, size);
+    next(file, from, size / 2);
+    errno = EIO;
+    return -1;
+}
+
+// There is no power cut here.
+int fsync(int) {
+    return InterruptibleFails() ? -1 : 0;
+}
+
+int close(int file) {
+    static const auto next = Next<decltype(&close)>("close");
+    const int result = next(file);
+    return FileOperationFails() ? -1 : result;
+}
 
 std::size_t fread(void* to, std::size_t size, std::size_t count, std::FILE* file) {
     static const auto next = Next<decltype(&fread)>("fread");

@@ -7,6 +7,7 @@ enum class Fault {
     New,            // operator new in all its forms
     Malloc,         // besides, malloc, calloc and realloc, by which C libraries allocate
     FileOperation,  // opening, reading, writing, closing, renaming and asking about a file
+    Interruption,   // no failure: a signal cuts a call short, so that it has to be made again
 };
 
 // The n-th alone, or that one and all after it.
@@ -25,6 +26,15 @@ public:
     Injection& operator=(const Injection&) = delete;
 
     bool HasFailedOne() const;
+};
+
+// While it lives the file system has no files without names.
+class NoUnnamedFiles {
+public:
+    NoUnnamedFiles();
+    ~NoUnnamedFiles();
+    NoUnnamedFiles(const NoUnnamedFiles&) = delete;
+    NoUnnamedFiles& operator=(const NoUnnamedFiles&) = delete;
 };
 
 }  // namespace orbelle::testing

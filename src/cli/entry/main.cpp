@@ -5,6 +5,7 @@
 #include <iostream>
 #include <new>
 
+#include "cli/entry/process.h"
 #include "cli/recover.h"
 #include "cli/script.h"
 #include "cli/verb_table.h"
@@ -22,21 +23,18 @@ int Report(const std::exception& error, int status) {
 }
 
 std::vector<Call> ParseScriptFile(const std::string& name) {
-    try {
-        if (name == "-")
-            return ParseScript(std::cin);
-        std::ifstream file(name, std::ios::binary);
-        if (!file)
-            throw UsageError(std::strerror(errno));
-        return ParseScript(file);
-    } catch (const UsageError& error) {
-        throw UsageError((name == "-" ? "standard input" : name) + ": " + error.what());
-    }
+    if (name == "-")
+        return ParseScript(std::cin, name);
+    std::ifstream file(name, std::ios::binary);
+    if (!file)
+        throw UsageError(name + ": " + std::strerror(errno));
+    return ParseScript(file, name);
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
+    PrepareProcess();
     std::ios::sync_with_stdio(false);
     try {
         CLI::App app(
@@ -52,9 +50,10 @@ int main(int argc, char** argv) {
             ->type_name("FILE");
         std::vector<std::string> recover;
         const CLI::Option* recovers =
-            app.add_option("--recover", recover,
-                           "List what the window kept safe when it was killed, or write number N to "
-                           "PATH as a document")
+            app.add_option(
+                   "--recover", recover,
+                   "List what the window kept safe when it was killed, or write number N to "
+                   "PATH as a document")
                 ->type_name("[list | N PATH]")
                 ->expected(0, 2);
         app.footer([] { return "Verbs, run in order:" + VerbHelp(); });
@@ -64,7 +63,9 @@ int main(int argc, char** argv) {
         try {
             app.parse(argc, argv);
         } catch (const CLI::Success& help) {
-            return app.exit(help);
+            const int status = app.exit(help);
+            RequirePrinted(std::cout);
+            return status;
         }
         const std::vector<std::string> words = app.remaining();
         if (recovers->count() > 0) {

@@ -1,0 +1,11 @@
+// The program as the system starts, signals and ends it.
+#pragma once
+
+namespace orbelle::cli {
+
+// What is written to a pipe that nobody reads, or beyond what the user may write, fails as any
+// other writing does. A program that is told to end leaves no unfinished files. Standard files that
+// are closed stay unusable, so that no other file is taken for them.
+void PrepareProcess();
+
+}  // namespace orbelle::cli
