@@ -26,7 +26,7 @@ def png(size, channels, row_of, level):
 
 
 def noise_rows(size, channels):
-    """Rows that no packer shortens, and different enough to be the worst for a region."""
+    """Rows that no packer shortens."""
     several = [random.randbytes(size[0] * channels) for _ in range(64)]
     return lambda y: several[y % 64]
 
@@ -39,6 +39,20 @@ def speckled_rows(size):
 
 def noise(size, level=0):
     return png(size, 4, noise_rows(size, 4), level)
+
+
+def interlaced(size):
+    """Sixteen bits a channel, the rows in seven passes."""
+    width, height = size
+    packer = zlib.compressobj(9)
+    parts = []
+    for x, y, across, down in ((0, 0, 8, 8), (4, 0, 8, 8), (0, 4, 4, 8), (2, 0, 4, 4), (0, 2, 2, 4),
+                               (1, 0, 2, 2), (0, 1, 1, 2)):
+        row = bytes(1 + 8 * -(-(width - x) // across))
+        parts += [packer.compress(row) for _ in range(y, height, down)]
+    header = struct.pack(">IIBBBBB", width, height, 16, 6, 0, 0, 1)
+    return (b"\x89PNG\r\n\x1a\n" + chunk(b"IHDR", header) +
+            chunk(b"IDAT", b"".join(parts) + packer.flush()) + chunk(b"IEND", b""))
 
 
 def speckles(size):
@@ -112,6 +126,7 @@ def main(folder):
     write("packed-noise.png", noise(LARGEST, 1))
     write("speckles.png", speckles(LARGEST))
     write("blank.png", blank(LARGEST))
+    write("interlaced.png", interlaced(LARGEST))
     write("noise.bmp", bmp(LARGEST))
     write("noise.ico", ico(LARGEST))
 

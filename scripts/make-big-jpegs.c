@@ -40,7 +40,7 @@ static void MakeJpeg(const char* folder, const char* name, int channels, int sca
     jpeg_scan_info many[16];
     if (scans == 1) {
         jpeg_simple_progression(&jpeg);
-    } else if (scans > 1) {  // the last bits of one channel over and over, as far as they go
+    } else if (scans > 1) {  // bit by bit
         memset(many, 0, sizeof many);
         for (int i = 0; i < scans; ++i) {
             many[i].comps_in_scan = i == 0 ? channels : 1;

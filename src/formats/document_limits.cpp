@@ -1,10 +1,11 @@
 #include "formats/document_limits.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
-#include <initializer_list>
 #include <string>
 
+#include "graphics/byte_source.h"
 #include "graphics/errors.h"
 
 namespace orbelle::formats {
@@ -12,6 +13,12 @@ namespace {
 
 using document::IconLayer;
 using document::Page;
+
+// A picture that no packer shortens takes four bytes a pixel and one a row, which may have a single
+// pixel; records and the like take little more.
+constexpr std::int64_t kMaxRecordBytes = std::int64_t{8} << 20;
+static_assert(5 * kMaxDocumentPixels + kMaxRecordBytes <
+              static_cast<std::int64_t>(graphics::kMaxFileBytes));
 
 // A plate's outline is worked out row by row.
 constexpr std::int64_t kPixelsPerPlateRow = 32;
@@ -24,7 +31,8 @@ void RequireSize(const std::string& what, int width, int height) {
 
 bool LiesOnPlane(const graphics::RectF& rect) {
     // Written so that not-a-number fails.
-    return std::ranges::all_of(std::initializer_list{rect.X, rect.Y, rect.Width, rect.Height},
+    const std::array numbers{rect.X, rect.Y, rect.Width, rect.Height};
+    return std::ranges::all_of(numbers,
                                [](float number) { return std::abs(number) <= kMaxCoordinate; });
 }
 
