@@ -259,7 +259,7 @@ TEST_F(RealProgramTest, ScreenshotsAt200PercentHaveHardSquaresAndBrokenFilesHave
     EXPECT_EQ(softSquares, 0);
     EXPECT_EQ(CountOf(shot.copy(0, 200, kSceneEnd, shot.height()), kPictureColor),
               4 * kWholePicture);
-    EXPECT_TRUE(Settings().allKeys().isEmpty()) << "it is not the user's window";
+    EXPECT_TRUE(QSettings("OrbelleWork").allKeys().isEmpty()) << "it is not the user's window";
 }
 
 }  // namespace
