@@ -96,6 +96,7 @@ void ShowScrollBar(document::ScrollBar& bar, int page, int scene) {
 
 void OpenDocument(Editor& editor, const fs::path& path) {
     document::Document read;
+    const graphics::FileStamp stamp = graphics::StampOf(path);
     std::string damage;
     try {
         formats::LoadDocument(path, read);
@@ -107,6 +108,7 @@ void OpenDocument(Editor& editor, const fs::path& path) {
     }
     ClearStack(editor);
     read.Path = path;
+    read.Stamp = stamp;
     editor.Document = std::move(read);
     editor.DocumentExists = true;
     SetTitle(editor, TitleOf(editor.Document.Path));
@@ -205,6 +207,7 @@ void SaveTo(Editor& editor, const fs::path& path) {
     formats::SaveDocument(path, editor.Document);
     // Nothing may fail any more: the old file is gone.
     editor.Document.Path = std::move(saved);
+    editor.Document.Stamp = graphics::StampOf(path);
     editor.Document.Modified = false;
     SetTitle(editor, std::move(title));
 }
