@@ -96,8 +96,8 @@ bool MainWindow::Tell(const Report& report) {
     return !report.Failed;
 }
 
-void MainWindow::ShellOpen(const QString& commandLine) {
-    OpenHandedOver(context_, EncodedName(commandLine));
+void MainWindow::ShellOpen(const QByteArray& commandLine) {
+    OpenHandedOver(context_, commandLine.toStdString());
 }
 
 // What a dialog has led to goes on after it has closed, within the event that closed it: so the
@@ -112,7 +112,7 @@ bool MainWindow::IsFree() const {
            std::holds_alternative<std::monostate>(editor_.Drag);
 }
 
-void MainWindow::TakeHandOver(const QString& commandLine) {
+void MainWindow::TakeHandOver(const QByteArray& commandLine) {
     setWindowState(windowState() & ~Qt::WindowMinimized);
     show();
     raise();
@@ -121,7 +121,7 @@ void MainWindow::TakeHandOver(const QString& commandLine) {
 }
 
 void MainWindow::OpenPath(const QString& path) {
-    ShellOpen('"' + path + '"');
+    ShellOpen(QByteArray::fromStdString('"' + EncodedName(path) + '"'));
 }
 
 // A question may have come up since the drop.

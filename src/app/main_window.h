@@ -39,10 +39,10 @@ public:
     MainWindow();
     ~MainWindow() override;
 
-    // Opens what a command line names: a path between quotation marks.
-    void ShellOpen(const QString& commandLine);
+    // Opens what a command line names: a path, as the system has it, between quotation marks.
+    void ShellOpen(const QByteArray& commandLine);
     // The same from another copy of the program; the window comes to the front.
-    void TakeHandOver(const QString& commandLine);
+    void TakeHandOver(const QByteArray& commandLine);
     // Whether a file may be opened now: the user is neither asked anything nor in a menu, a drag or
     // a command that goes on.
     bool IsFree() const;

@@ -200,15 +200,9 @@ TEST_F(RealWindowTest, ExportsEachFormat) {
 TEST_F(RealWindowTest, ASecondStartHandsItsFileOver) {
     ASSERT_TRUE(StartWith());
     const QImage before = Scene();
-    const auto startAgain = [this](const QStringList& arguments) {
-        QProcess second;
-        Start(second, ORBELLE_PROGRAM, arguments);
-        EXPECT_TRUE(EndsWell(second));
-        WaitUntilIdle();
-    };
-    startAgain({});
+    HandOver({});
     EXPECT_EQ(Scene(), before);
-    startAgain({Write("other.png", PictureOf(kOther, {100, 80}))});
+    HandOver({Write("other.png", PictureOf(kOther, {100, 80}))});
     EXPECT_TRUE(WaitUntil([&] { return Count(kOther) == 100 * 80 && Count() == 0; }));
     EXPECT_EQ(program.state(), QProcess::Running);
 }
