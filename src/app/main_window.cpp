@@ -62,8 +62,6 @@ MainWindow::MainWindow() {
     layersTimer_.start(0);
 }
 
-MainWindow::~MainWindow() = default;
-
 bool MainWindow::Run(const editing::Command& command) {
     statusBar()->clearMessage();
     return Tell(ReportOf(editing::Run(editor_, command)));
@@ -194,6 +192,8 @@ bool MainWindow::MayEndSession(const std::function<bool()>& canAsk) {
         if (!MayGiveUpDocument(context_))
             return false;
     }
+    if (recovery_)
+        recovery_->Flush();
     StoreSettings();
     return true;
 }

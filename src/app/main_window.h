@@ -15,6 +15,7 @@
 #include "app/tip_balloons.h"
 #include "app/welcome_sequence.h"
 #include "app/window_actions.h"
+#include "editing/recovery.h"
 
 class QProgressDialog;
 class QScrollBar;
@@ -58,6 +59,13 @@ public:
 
     bool TipsEnabled() const { return tips_->TipsEnabled; }
     void SetTipsEnabled(bool enabled);
+
+    // From here on unsaved work is kept safe from an end that does not ask.
+    void StartRecovery();
+    // Offers what a program that ended so has left behind.
+    void OfferRecovery();
+    // The system ends the program: unsaved work is kept, nothing is asked.
+    void EndAtOnce();
 
     // Everything that is remembered between two runs.
     void RestoreSettings();
@@ -138,6 +146,7 @@ private:
     BottomPanel* bottomPanel_ = nullptr;
     CloseTipsTab* closeTips_ = nullptr;
     mutable QPoint lastLayerMiddle_;  // where the last tip about a layer stood
+    std::unique_ptr<editing::Recovery> recovery_;
 };
 
 }  // namespace orbelle::app

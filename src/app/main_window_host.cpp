@@ -39,6 +39,8 @@ void MirrorBar(QScrollBar& shown, const document::ScrollBar& bar, int sceneSize)
 }  // namespace
 
 void MainWindow::Changed(const editing::Changes& changes) {
+    if (recovery_)
+        recovery_->Note(editor_, changes);
     if (changes.Pixels || changes.Scene)
         ShowScene();
     if (changes.Stack)

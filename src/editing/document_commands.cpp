@@ -27,8 +27,9 @@ void SetTitle(Editor& editor, std::string title) {
     editor.Changed.Title = true;
 }
 
-// Of a document that has a file.
 std::string TitleOf(const fs::path& path) {
+    if (path.empty())
+        return std::string(kProductName) + " - Project *";
     return path.filename().string() + " - " + kProductName;
 }
 
@@ -68,7 +69,7 @@ void ShowPageSize(Editor& editor) {
 // The state before anything is done with a page of this size, which has no layer.
 void ResetDocument(Editor& editor, int pageWidth, int pageHeight) {
     ClearStack(editor);
-    SetTitle(editor, std::string(kProductName) + " - Project *");
+    SetTitle(editor, TitleOf({}));
     ResetView(editor);
     editor.Document.Path.clear();
     editor.Page().Width = pageWidth;
@@ -94,6 +95,24 @@ void ShowScrollBar(document::ScrollBar& bar, int page, int scene) {
     bar.Visible = true;
 }
 
+// The document takes the place of the present one.
+void ShowDocument(Editor& editor, document::Document&& document) {
+    ClearStack(editor);
+    editor.Document = std::move(document);
+    editor.DocumentExists = true;
+    SetTitle(editor, TitleOf(editor.Document.Path));
+    ResetView(editor);
+    const document::Page& page = editor.Page();
+    if (page.LayerCount() >= 1) {
+        ShowPageSize(editor);
+        ShowSelectedLayer(editor);
+        ShowScrollBar(editor.View.HorizontalScroll, page.Width, editor.View.SceneWidth);
+        ShowScrollBar(editor.View.VerticalScroll, page.Height, editor.View.SceneHeight);
+    }
+    NoteStack(editor.Changed);
+    StartZoomIn(editor);
+}
+
 void OpenDocument(Editor& editor, const fs::path& path) {
     document::Document read;
     const graphics::FileStamp stamp = graphics::StampOf(path);
@@ -106,23 +125,11 @@ void OpenDocument(Editor& editor, const fs::path& path) {
             throw;
         damage = failure.what();
     }
-    ClearStack(editor);
     read.Path = path;
     read.Stamp = stamp;
-    editor.Document = std::move(read);
-    editor.DocumentExists = true;
-    SetTitle(editor, TitleOf(editor.Document.Path));
-    ResetView(editor);
-    document::Page& page = editor.Page();
-    if (page.LayerCount() >= 1) {
-        page.SelectedLayer = page.LayerCount() - 1;
-        ShowPageSize(editor);
-        ShowSelectedLayer(editor);
-        ShowScrollBar(editor.View.HorizontalScroll, page.Width, editor.View.SceneWidth);
-        ShowScrollBar(editor.View.VerticalScroll, page.Height, editor.View.SceneHeight);
-    }
-    NoteStack(editor.Changed);
-    StartZoomIn(editor);
+    if (!read.Master.Layers.empty())
+        read.Master.SelectedLayer = read.Master.LayerCount() - 1;
+    ShowDocument(editor, std::move(read));
     if (damage.empty())
         editor.Changed.Tip = {tips::NewOrOpened};
     else
@@ -199,6 +206,14 @@ void ImportPicture(Editor& editor, const graphics::Bitmap& picture) {
         return OpenPicture(editor, picture);
     BeginUndoStep(editor);
     AddPictureLayer(editor, picture);
+}
+
+void RestoreDocument(Editor& editor, const document::Document& document) {
+    document::Document restored = document;
+    restored.Modified = true;
+    if (!restored.Master.HasSelection() && !restored.Master.Layers.empty())
+        restored.Master.SelectedLayer = restored.Master.LayerCount() - 1;
+    ShowDocument(editor, std::move(restored));
 }
 
 void SaveTo(Editor& editor, const fs::path& path) {

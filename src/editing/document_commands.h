@@ -30,6 +30,10 @@ void ImportFile(Editor& editor, const std::filesystem::path& path, int iconImage
 void OpenPicture(Editor& editor, const graphics::Bitmap& picture);
 void ImportPicture(Editor& editor, const graphics::Bitmap& picture);
 
+// A document that was kept safe takes the place of the present one. It counts as changed, and has
+// the path that it had.
+void RestoreDocument(Editor& editor, const document::Document& document);
+
 // The images of an icon file, in the order in which they are offered. Throws Error when there are
 // none.
 std::vector<formats::IconEntryImage> ReadIconImages(const std::filesystem::path& path);

@@ -45,8 +45,8 @@ void AppendFlag(std::vector<std::uint8_t>& file, bool flag) {
     Append<std::int16_t>(file, flag ? -1 : 0);
 }
 
-void AppendLayer(std::vector<std::uint8_t>& file, const IconLayer& layer,
-                 const std::vector<std::uint8_t>& png) {
+// Up to the picture.
+void AppendLayer(std::vector<std::uint8_t>& file, const IconLayer& layer) {
     for (int slider : {layer.Hue, layer.Contrast, layer.Brightness, layer.Saturation})
         Append<std::int32_t>(file, slider);
     Append<std::int32_t>(file, layer.ImageHeight);
@@ -58,7 +58,9 @@ void AppendLayer(std::vector<std::uint8_t>& file, const IconLayer& layer,
     AppendFlag(file, layer.Visible);
     AppendFlag(file, layer.ClipNextLayer);
     Append<std::int32_t>(file, 0);  // the path's place; paths are not kept
+}
 
+void AppendPicture(std::vector<std::uint8_t>& file, const std::vector<std::uint8_t>& png) {
     Append<std::int32_t>(file, static_cast<std::int32_t>(png.size()));
     file.insert(file.end(), png.begin(), png.end());
     file.push_back(0);
@@ -178,23 +180,53 @@ bool StartsWithMagic(std::span<const std::uint8_t> bytes) {
 
 InvalidFile::InvalidFile() : Error("Invalid File") {}
 
-std::vector<std::uint8_t> EncodeDocument(const Document& document) {
-    // The pictures take nearly all of the time.
-    std::vector<std::vector<std::uint8_t>> pngs(document.Master.Layers.size());
-    ForEachInParallel(pngs.size(), [&](std::size_t i) {
-        const IconLayer& layer = document.Master.Layers[i];
-        pngs[i] = EncodePng(CopyBitmap(layer.Image, layer.ImageWidth, layer.ImageHeight));
-    });
-    std::vector<std::uint8_t> file(kMagic.begin(), kMagic.end());
+std::vector<std::uint8_t> EncodePicture(const IconLayer& layer) {
+    return EncodePng(CopyBitmap(layer.Image, layer.ImageWidth, layer.ImageHeight));
+}
+
+DocumentFrame EncodeFrame(const Document& document) {
+    DocumentFrame frame{{kMagic.begin(), kMagic.end()}, {}};
+    std::vector<std::uint8_t>& file = frame.Bytes;
     Append<std::uint16_t>(file, kFormatNumber);
     file.insert(file.end(), kTag.begin(), kTag.end());
     Append<std::int32_t>(file, document.Master.Width);
     Append<std::int32_t>(file, document.Master.Height);
     Append<graphics::Argb>(file, document.Background);
     Append<std::int32_t>(file, document.Master.LayerCount());
-    for (std::size_t i = 0; i < pngs.size(); ++i)
-        AppendLayer(file, document.Master.Layers[i], pngs[i]);
+    for (const IconLayer& layer : document.Master.Layers) {
+        AppendLayer(file, layer);
+        frame.PictureAt.push_back(static_cast<std::uint32_t>(file.size()));
+    }
+    return frame;
+}
+
+std::vector<std::uint8_t> FillFrame(const DocumentFrame& frame,
+                                    std::span<const std::vector<std::uint8_t>> pictures) {
+    if (pictures.size() != frame.PictureAt.size())
+        throw Error("the pictures of the document are not complete");
+    std::vector<std::uint8_t> file;
+    std::size_t done = 0;
+    const auto copyUpTo = [&](std::size_t end) {
+        if (end < done || end > frame.Bytes.size())
+            throw Error("the pictures of the document have no place");
+        file.insert(file.end(), frame.Bytes.begin() + static_cast<std::ptrdiff_t>(done),
+                    frame.Bytes.begin() + static_cast<std::ptrdiff_t>(end));
+        done = end;
+    };
+    for (std::size_t i = 0; i < pictures.size(); ++i) {
+        copyUpTo(frame.PictureAt[i]);
+        AppendPicture(file, pictures[i]);
+    }
+    copyUpTo(frame.Bytes.size());
     return file;
+}
+
+std::vector<std::uint8_t> EncodeDocument(const Document& document) {
+    // The pictures take nearly all of the time.
+    std::vector<std::vector<std::uint8_t>> pngs(document.Master.Layers.size());
+    ForEachInParallel(pngs.size(),
+                      [&](std::size_t i) { pngs[i] = EncodePicture(document.Master.Layers[i]); });
+    return FillFrame(EncodeFrame(document), pngs);
 }
 
 void DecodeDocument(std::span<const std::uint8_t> bytes, Document& document) {

@@ -20,6 +20,19 @@ public:
 // The whole file as bytes, little-endian, layers from the bottom up.
 std::vector<std::uint8_t> EncodeDocument(const document::Document& document);
 
+// The file without the layers' pictures: small, and quick to make. The pictures belong, in their
+// order, at the places `PictureAt` of the bytes, rising.
+struct DocumentFrame {
+    std::vector<std::uint8_t> Bytes;
+    std::vector<std::uint32_t> PictureAt;
+};
+DocumentFrame EncodeFrame(const document::Document& document);
+// A layer's picture as the file holds it.
+std::vector<std::uint8_t> EncodePicture(const document::IconLayer& layer);
+// The whole file again. Throws Error when frame and pictures do not belong together.
+std::vector<std::uint8_t> FillFrame(const DocumentFrame& frame,
+                                    std::span<const std::vector<std::uint8_t>> pictures);
+
 // Replaces page size, background and layers of `document` with what the bytes hold, none selected.
 // Adjustment sliders come back neutral, each layer's Region is built from its picture and moved to
 // its place; a picture that can't be decoded comes back transparent.

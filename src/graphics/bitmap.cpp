@@ -1,6 +1,7 @@
 #include "graphics/bitmap.h"
 
 #include <algorithm>
+#include <atomic>
 
 namespace orbelle::graphics {
 
@@ -24,6 +25,9 @@ Argb* Bitmap::MutablePixels() {
         return nullptr;
     if (pixels_.use_count() > 1)
         pixels_ = std::make_shared<std::vector<Argb>>(*pixels_);
+    else
+        // What another thread has read of a copy that it let go of comes before what is written.
+        std::atomic_thread_fence(std::memory_order_acquire);
     return pixels_->data();
 }
 

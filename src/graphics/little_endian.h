@@ -46,6 +46,8 @@ public:
         return taken;
     }
 
+    std::span<const std::uint8_t> TakeRest() { return Take(left_.size()); }
+
     template <typename Number>
     Number Read() {
         return NumberAt<Number>(Take(sizeof(Number)), 0);

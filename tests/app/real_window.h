@@ -56,14 +56,15 @@ public:
         if (file_.open(QIODevice::ReadOnly))
             pixels_ = file_.map(file_.size() - kBytes, kBytes);
     }
-    ~Display() {
-        server_.kill();
-        server_.waitForFinished();
-    }
+    ~Display() { Kill(); }
     Display(const Display&) = delete;
     Display& operator=(const Display&) = delete;
 
     bool Works() const { return pixels_; }
+    void Kill() {
+        server_.kill();
+        server_.waitForFinished();
+    }
     qint64 Process() const { return server_.processId(); }
     // As it is now; to be copied.
     QImage Picture() const { return {pixels_, 1280, 900, QImage::Format_RGB32}; }
@@ -106,6 +107,7 @@ protected:
     }
 
     orbelle::testing::TemporaryFolder folder;
+    orbelle::testing::TemporaryFolder state;  // where unsaved work is kept
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
 };
 
@@ -121,12 +123,18 @@ protected:
         for (const char* tool : {"Xvfb", "xdotool"})
             if (QStandardPaths::findExecutable(tool).isEmpty())
                 GTEST_SKIP() << tool << " is not installed";
+        environment.insert("QT_QPA_PLATFORM", "xcb");
+        environment.insert("XDG_STATE_HOME", QString::fromStdString(state.Path().string()));
+        StartDisplay();
+    }
+
+    void StartDisplay() {
         display_ = std::make_unique<Display>();
         ASSERT_TRUE(display_->Works());
         environment.insert("DISPLAY", display_->Name);
-        environment.insert("QT_QPA_PLATFORM", "xcb");
         MoveTo({0, 0});  // the display draws the pointer into its picture
     }
+    void KillDisplay() { display_->Kill(); }
 
     // What the program remembers: all panels open, opaque red and blue as colours.
     void LayOut() {
@@ -147,7 +155,7 @@ protected:
     // have kPictureColor.
     bool StartWith(const QImage& picture = PictureOf(kPictureColor)) {
         LayOut();
-        StartProgram(Write("tile.png", picture));
+        StartProgram({Write("tile.png", picture)});
         const int expected = CountOf(picture, kPictureColor);
         if (!FocusMain() || !testing::WaitUntil([&] { return Count() == expected; }))
             return false;
@@ -160,9 +168,9 @@ protected:
         page += SceneRect().topLeft();
         return true;
     }
-    void StartProgram(const QString& file) {
+    void StartProgram(const QStringList& arguments) {
         program.setProcessChannelMode(QProcess::ForwardedChannels);
-        Start(program, ORBELLE_PROGRAM, {file});
+        Start(program, ORBELLE_PROGRAM, arguments);
     }
 
     // Waits for a window whose title matches and gives it the keyboard: no window manager does.

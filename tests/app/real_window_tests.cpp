@@ -166,7 +166,7 @@ TEST_F(RealWindowTest, ClosingAsksAndWhatItSavesOpensAgain) {
     ASSERT_TRUE(AnswerFileDialog(Path("kept.volf")));
     ASSERT_TRUE(EndsWell(program));
 
-    StartProgram(Write("other.png", PictureOf(kOther, {30, 20})));
+    StartProgram({Write("other.png", PictureOf(kOther, {30, 20}))});
     ASSERT_TRUE(FocusMain());
     ASSERT_TRUE(WaitUntil([&] { return Count(kOther) > 0; }));
     Press({"ctrl+o"});
@@ -219,7 +219,7 @@ TEST_F(RealWindowTest, RemembersItsUser) {
         "MainWidth=1000 MainHeight=740 MainState=0";
     for (const bool again : {false, true}) {
         if (again)
-            StartProgram(Path("tile.png"));
+            StartProgram({Path("tile.png")});
         ASSERT_TRUE(FocusMain());
         Press({"ctrl+q"});
         ASSERT_TRUE(EndsWell(program));

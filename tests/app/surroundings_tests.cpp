@@ -58,7 +58,7 @@ TEST_F(SurroundingsTest, TheProgramStartsWorksAndEnds) {
         environment = usual;
         make();
         const fs::file_status before = fs::symlink_status(settings);
-        StartProgram(picture);
+        StartProgram({picture});
         ASSERT_TRUE(FocusWindow("^Varnel Orbelle - Project"));
         Press({"alt+s", "d"});
         Press({"ctrl+s"});

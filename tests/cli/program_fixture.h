@@ -44,8 +44,8 @@ protected:
     Outcome Run(const std::string& words, const std::string& input = "") {
         Write("input", {input.begin(), input.end()});
         const std::string command = "cd '" + folder.Path().string() +
-                                    "' && HOME=$PWD XDG_CACHE_HOME=$PWD/cache '" ORBELLE_CLI_PROGRAM
-                                    "' " +
+                                    "' && HOME=$PWD XDG_CACHE_HOME=$PWD/cache "
+                                    "XDG_STATE_HOME=$PWD/state '" ORBELLE_CLI_PROGRAM "' " +
                                     words + " <input >output 2>errors";
         const int status = std::system(command.c_str());
         return {WEXITSTATUS(status), Text("output"), Text("errors")};

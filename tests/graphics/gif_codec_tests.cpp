@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <stdexcept>
+#include <utility>
 
 #include "graphics/codecs/image_files.h"
 #include "graphics/decoding.h"
@@ -56,6 +57,8 @@ FileBytes MakeGif(int width, int height, const std::vector<Frame>& frames) {
         GifByteType block[4];
         EGifGCBToExtension(&control, block);
         EGifPutExtension(gif, GRAPHICS_EXT_FUNC_CODE, sizeof block, block);
+        // The library forgets the last frame's without freeing it.
+        GifFreeMapObject(std::exchange(gif->Image.ColorMap, nullptr));
         colors = MakeColorMap(frame.Palette);
         EGifPutImageDesc(gif, frame.Left, frame.Top, frame.Width, frame.Height, frame.Interlaced,
                          colors);

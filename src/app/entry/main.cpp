@@ -12,6 +12,7 @@
 #include <span>
 
 #include "app/chrome.h"
+#include "app/ending_signals.h"
 #include "app/file_dialog.h"
 #include "app/hand_over_queue.h"
 #include "app/main_window.h"
@@ -95,6 +96,7 @@ int main(int argc, char** argv) {
     QTimer::singleShot(0, [&] {
         window = std::make_unique<MainWindow>();
         window->RestoreSettings();
+        window->StartRecovery();
         // Nobody who opens a file waits for the welcome.
         QObject::connect(&handOvers, &HandOverQueue::Added, &welcome, &WelcomeWindow::EndStart);
         QObject::connect(&handOvers, &HandOverQueue::Added, window.get(),
@@ -102,10 +104,18 @@ int main(int argc, char** argv) {
         if (!handOvers.Waiting().isEmpty())
             welcome.EndStart();
     });
+    EndingSignals ending;
+    QObject::connect(&ending, &EndingSignals::Received, [&] {
+        if (window)
+            window->EndAtOnce();
+        else
+            QApplication::exit();
+    });
     QObject::connect(&welcome, &WelcomeWindow::Finished, [&] {
         window->show();
         // Once the window has its size: the document is placed by it.
         QTimer::singleShot(0, window.get(), [&] {
+            window->OfferRecovery();
             if (!commandLine.isEmpty())
                 window->ShellOpen(commandLine);
             else if (handOvers.Waiting().isEmpty())
@@ -122,10 +132,11 @@ int main(int argc, char** argv) {
                              session.cancel();
                          session.release();
                      });
+    bool isClosed = false;  // by the user, not ended by the system
+    QObject::connect(&application, &QGuiApplication::lastWindowClosed, [&] { isClosed = true; });
     const int status = QApplication::exec();
     instance.reset();
-    // Closed by the user, not ended by the system.
-    if (window && !window->isVisible())
+    if (isClosed)
         OpenInAnotherCopy(handOvers.Waiting());
     return status;
 }

@@ -5,6 +5,7 @@
 #include <iostream>
 #include <new>
 
+#include "cli/recover.h"
 #include "cli/script.h"
 #include "cli/verb_table.h"
 
@@ -41,13 +42,21 @@ int main(int argc, char** argv) {
         CLI::App app(
             "The icon editor without a window:\n"
             "  orbelle-cli VERB [ARG...] [VERB [ARG...]]...\n"
-            "  orbelle-cli --script FILE\n",
+            "  orbelle-cli --script FILE\n"
+            "  orbelle-cli --recover [list | N PATH]\n",
             "orbelle-cli");
         app.set_version_flag("--version", "orbelle-cli " ORBELLE_VERSION);
         std::string script;
         app.add_option("--script", script,
                        "Read the verbs from FILE, one a line; '-': standard input")
             ->type_name("FILE");
+        std::vector<std::string> recover;
+        const CLI::Option* recovers =
+            app.add_option("--recover", recover,
+                           "List what the window kept safe when it was killed, or write number N to "
+                           "PATH as a document")
+                ->type_name("[list | N PATH]")
+                ->expected(0, 2);
         app.footer([] { return "Verbs, run in order:" + VerbHelp(); });
         // From the first word that is no option on, all words belong to verbs, whatever they look
         // like.
@@ -58,6 +67,12 @@ int main(int argc, char** argv) {
             return app.exit(help);
         }
         const std::vector<std::string> words = app.remaining();
+        if (recovers->count() > 0) {
+            if (!words.empty() || !script.empty())
+                throw UsageError("--recover stands alone");
+            Recover(recover, std::cout);
+            return 0;
+        }
         if (words.empty() == script.empty())
             throw UsageError("either verbs or --script FILE are needed; see orbelle-cli --help");
         const std::vector<Call> calls =

@@ -1,0 +1,26 @@
+// The signals by which a system ends a program: SIGTERM, SIGHUP and SIGINT.
+#pragma once
+
+#include <QObject>
+
+class QSocketNotifier;
+
+namespace orbelle::app {
+
+// While it lives, those signals arrive in the event loop instead of ending the program. One at a
+// time.
+class EndingSignals : public QObject {
+    Q_OBJECT
+
+public:
+    explicit EndingSignals(QObject* parent = nullptr);
+    ~EndingSignals() override;
+
+signals:
+    void Received();
+
+private:
+    QSocketNotifier* notifier_ = nullptr;
+};
+
+}  // namespace orbelle::app

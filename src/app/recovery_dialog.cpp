@@ -1,0 +1,127 @@
+#include "app/recovery_dialog.h"
+
+#include <QDateTime>
+#include <QDialogButtonBox>
+#include <QFileInfo>
+#include <QLabel>
+#include <QListWidget>
+#include <QLocale>
+#include <QPainter>
+#include <QPushButton>
+#include <QVBoxLayout>
+#include <algorithm>
+
+#include "app/message_boxes.h"
+#include "app/shared_image.h"
+#include "document/compositor.h"
+#include "widgets/chrome.h"
+
+namespace orbelle::app {
+namespace {
+
+constexpr int kPictureSide = 64;  // logical pixels
+constexpr int kVisibleRows = 3;
+constexpr int kListWidth = 420;
+constexpr QColor kCheckerColor(232, 232, 232);
+constexpr char kHead[] = "Your work was not saved when Varnel Orbelle ended.";
+constexpr char kText[] =
+    "It can be restored as it was. What you keep for later is offered again at the next start.";
+
+QImage PictureOf(document::Document document, qreal scale) {
+    const int side = qRound(kPictureSide * scale);
+    QImage picture(side, side, QImage::Format_ARGB32_Premultiplied);
+    picture.fill(Qt::transparent);
+    document::Compositor compositor;
+    graphics::Bitmap canvas;
+    compositor.Compose(document.Master, graphics::InterpolationMode::NearestNeighbor, canvas);
+    const QImage page = SharedImage(canvas);
+    const QSize size = page.size().scaled(picture.size(), Qt::KeepAspectRatio);
+    const QRect place({(side - size.width()) / 2, (side - size.height()) / 2}, size);
+    QPainter painter(&picture);
+    if (graphics::AlphaOf(document.Background) != 0)
+        painter.fillRect(place, QColor::fromRgba(document.Background));
+    else
+        widgets::DrawChecker(painter, place, kCheckerColor);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    painter.drawImage(place, page);
+    painter.end();
+    picture.setDevicePixelRatio(scale);
+    return picture;
+}
+
+QString TextOf(const formats::JournalEntry& entry) {
+    const document::Page& page = entry.Document.Master;
+    const QString name = QFile::decodeName(entry.Document.Path.filename().c_str());
+    const QString time =
+        QLocale().toString(QDateTime::fromMSecsSinceEpoch(entry.Time), QLocale::ShortFormat);
+    return QString("%1\n%2\n%3, %4 x %5 pixels")
+        .arg(name.isEmpty() ? QString("Not saved yet") : name, time,
+             page.LayerCount() == 1 ? QString("1 layer")
+                                    : QString("%1 layers").arg(page.LayerCount()))
+        .arg(page.Width)
+        .arg(page.Height);
+}
+
+}  // namespace
+
+RecoveryDialog::RecoveryDialog(std::vector<formats::FoundJournal>& journals, QWidget* parent)
+    : QDialog(parent), journals_(journals), list_(new QListWidget) {
+    setWindowTitle("Restore Work");
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(20, 20, 20, 16);
+    layout->setSpacing(8);
+    layout->setSizeConstraint(QLayout::SetFixedSize);
+    auto* head = new QLabel(kHead);
+    QFont bold = head->font();
+    bold.setBold(true);
+    head->setFont(bold);
+    layout->addWidget(head);
+    auto* text = new QLabel(kText);
+    text->setWordWrap(true);
+    text->setFixedWidth(kListWidth);
+    layout->addWidget(text);
+    layout->addSpacing(8);
+
+    list_->setAccessibleName("Work that was not saved");
+    list_->setIconSize({kPictureSide, kPictureSide});
+    list_->setSpacing(4);
+    for (const formats::FoundJournal& journal : journals_)
+        new QListWidgetItem(
+            QIcon(QPixmap::fromImage(PictureOf(journal.Entry().Document, devicePixelRatioF()))),
+            TextOf(journal.Entry()), list_);
+    list_->setCurrentRow(0);
+    const int rows = std::min<int>(kVisibleRows, list_->count());
+    list_->setFixedSize(kListWidth, rows * (list_->sizeHintForRow(0) + 2 * list_->spacing()) +
+                                        2 * list_->frameWidth());
+    layout->addWidget(list_);
+    layout->addSpacing(8);
+
+    auto* buttons = new QDialogButtonBox;
+    QPushButton* restore = buttons->addButton("&Restore", QDialogButtonBox::AcceptRole);
+    QPushButton* keep = buttons->addButton("&Keep for Later", QDialogButtonBox::RejectRole);
+    QPushButton* discard = buttons->addButton("&Discard", QDialogButtonBox::DestructiveRole);
+    layout->addWidget(buttons);
+    connect(restore, &QPushButton::clicked, this, &QDialog::accept);
+    connect(keep, &QPushButton::clicked, this, &QDialog::reject);
+    connect(discard, &QPushButton::clicked, this, &RecoveryDialog::Discard);
+    connect(list_, &QListWidget::itemActivated, this, &QDialog::accept);
+    restore->setDefault(true);
+    restore->setFocus();
+}
+
+int RecoveryDialog::Chosen() const {
+    return list_->currentRow();
+}
+
+void RecoveryDialog::Discard() {
+    const int chosen = Chosen();
+    if (!AskOkCancel(this, "Discard this work for good?", "Discard"))
+        return;
+    journals_[static_cast<std::size_t>(chosen)].Remove();
+    journals_.erase(journals_.begin() + chosen);
+    delete list_->takeItem(chosen);
+    if (journals_.empty())
+        reject();
+}
+
+}  // namespace orbelle::app
