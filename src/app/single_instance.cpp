@@ -2,6 +2,7 @@
 
 #include <QDeadlineTimer>
 #include <QLocalSocket>
+#include <QLockFile>
 #include <QStandardPaths>
 #include <QTimer>
 #include <algorithm>
@@ -82,6 +83,10 @@ SingleInstance::SingleInstance(QObject* parent) : QObject(parent) {
 bool SingleInstance::Listen() {
     const QString name = ServerName();
     if (name.isEmpty())
+        return false;
+    // Of two copies that start at once, one would take the name from the other.
+    QLockFile lock(name + ".lock");
+    if (!lock.tryLock(kPatienceMilliseconds))
         return false;
     // Without options for access: with them the toolkit takes the name from whoever has it.
     if (server_.listen(name))

@@ -214,6 +214,23 @@ TEST_F(KeptWorkTest, AHandOverEndsTheWelcome) {
     EXPECT_FALSE(WaitUntil([&] { return Count(kOther) != kWholeOther; }, 1)) << "no text covers it";
 }
 
+TEST_F(KeptWorkTest, OfStartsAtTheSameTimeOneHasAllFiles) {
+    LayOut();
+    const QString other = Other();
+    QProcess copies[4];
+    for (QProcess& copy : copies)
+        Start(copy, ORBELLE_PROGRAM, {other});
+    const auto running = [&] {
+        return std::ranges::count(copies, QProcess::Running, &QProcess::state);
+    };
+    EXPECT_TRUE(ShowsOther() && WaitUntil([&] { return running() <= 1; }));
+    EXPECT_EQ(running(), 1);
+    for (QProcess& copy : copies)
+        copy.kill();
+    for (QProcess& copy : copies)
+        copy.waitForFinished();
+}
+
 TEST_F(KeptWorkTest, AFileThatNobodyTakesOpensInItsOwnWindow) {
     ASSERT_TRUE(StartWith());
     kill(static_cast<pid_t>(program.processId()), SIGSTOP);
