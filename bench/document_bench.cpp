@@ -104,7 +104,7 @@ void Snapshot50Layers(benchmark::State& state) {
     for (auto _ : state) {
         if (history.UndoIndex() == document::UndoHistory::kMaxSnapshots)
             history.ClearHistory();
-        history.PushSnapshot(document);
+        history.PushSnapshot(document, "Crystal");
     }
 }
 BENCHMARK(Snapshot50Layers)->Unit(benchmark::kMicrosecond);

@@ -10,7 +10,7 @@ namespace {
 void AdjustmentStep(benchmark::State& state) {
     EditorPage page(10, static_cast<int>(state.range(1)));
     const auto adjustment = static_cast<editing::Adjustment>(state.range(0));
-    page.Step(editing::PressAdjustment);
+    page.Step([&](editing::Editor& editor) { PressAdjustment(editor, adjustment); });
     int position = 0;
     for (auto _ : state) {
         position = (position + 7) % 101;

@@ -1,6 +1,6 @@
 // How long a hand on the window waits: from a mouse event until what it changed is painted. Drags a
 // layer, draws and moves sliders on a page of ten layers of 512 x 512. Settings are neither read
-// nor written.
+// nor written. With the word "recovery" unsaved work is kept meanwhile, in the user's state folder.
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QMouseEvent>
@@ -80,7 +80,13 @@ int main(int argc, char** argv) {
     app::MainWindow window;
     window.resize(app::kDefaultMainSize);
     window.show();
+    if (QApplication::arguments().contains("recovery"))
+        window.StartRecovery();
     window.Run(FillDocument);
+    window.Run([](editing::Editor& editor) {
+        editor.Document.Modified = true;
+        editor.Changed.Pixels = true;
+    });
     while (window.IsZoomAnimationRunning())
         QApplication::processEvents(QEventLoop::WaitForMoreEvents);
     auto* scene = window.findChild<app::SceneView*>();

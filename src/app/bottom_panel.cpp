@@ -55,6 +55,13 @@ QHBoxLayout* Row(std::initializer_list<QWidget*> widgets) {
     return row;
 }
 
+void Mirror(widgets::NumberSlider& shown, const editing::Slider& slider) {
+    shown.setEnabled(slider.Enabled);
+    shown.SetRange(slider.Minimum, slider.Maximum);
+    if (shown.Value() != slider.Value)
+        shown.SetValue(slider.Value);
+}
+
 QToolButton* PictureButton(const char* artwork, const char* tip) {
     auto* button = new QToolButton;
     QIcon icon;
@@ -93,19 +100,30 @@ BottomPanel::BottomPanel(const WindowContext& context) : context_(context) {
 }
 
 QWidget* BottomPanel::AddPageSize() {
-    const auto side = [this](const char* name, const char* caption, void (*change)(Editor&, int)) {
+    const auto side = [this](const char* name, const char* caption,
+                             editing::Slider editing::Sliders::*state,
+                             void (*change)(Editor&, int)) {
         auto* slider = new widgets::NumberSlider;
         slider->setObjectName(name);
         slider->setAccessibleName(caption);
         slider->setToolTip(caption);
-        slider->SetRange(1, document::kMaxPageSide);
-        connect(slider, &widgets::NumberSlider::Changed, this, [this, change](int value) {
-            context_.Commands.Run([=](Editor& editor) { change(editor, value); });
-        });
+        CommandRunner& commands = context_.Commands;
+        connect(slider, &widgets::NumberSlider::Pressed, this,
+                [&commands] { commands.Run(editing::PressPageSize); });
+        connect(slider, &widgets::NumberSlider::Changed, this,
+                [&commands, slider, state, change](int value) {
+                    commands.RunDuringDrag([=](Editor& editor) { change(editor, value); });
+                    // A drag that was refused or given up leaves the old value.
+                    Mirror(*slider, commands.Editor().Sliders.*state);
+                });
+        connect(slider, &widgets::NumberSlider::Released, this,
+                [&commands] { commands.RunDuringDrag(editing::ReleasePageSize); });
         return slider;
     };
-    pageWidth_ = side("PageWidth", "Page width", editing::ChangePageWidth);
-    pageHeight_ = side("PageHeight", "Page height", editing::ChangePageHeight);
+    pageWidth_ =
+        side("PageWidth", "Page width", &editing::Sliders::PageWidth, editing::ChangePageWidth);
+    pageHeight_ =
+        side("PageHeight", "Page height", &editing::Sliders::PageHeight, editing::ChangePageHeight);
     return Group("Page size", Row({pageWidth_, new QLabel(QString(QChar(0x00D7))), pageHeight_}));
 }
 
@@ -159,8 +177,6 @@ QWidget* BottomPanel::AddOptions() {
     lineWidth_ = new widgets::NumberSlider;
     lineWidth_->setObjectName("LineWidth");
     lineWidth_->setAccessibleName("Line width");
-    const editing::Slider range = editing::Sliders().LineWidth;
-    lineWidth_->SetRange(range.Minimum, range.Maximum);
     connect(lineWidth_, &widgets::NumberSlider::Changed, this, [this](int value) {
         context_.Commands.Run([value](Editor& editor) { ChangeLineWidth(editor, value); });
     });
@@ -178,6 +194,11 @@ void BottomPanel::SetOpen(bool open) {
     content_->setVisible(open);
 }
 
+void BottomPanel::CommitTyping() {
+    pageWidth_->CommitTyping();
+    pageHeight_->CommitTyping();
+}
+
 QWidget& BottomPanel::FirstColorWell() const {
     return *wells_[0];
 }
@@ -189,15 +210,10 @@ bool BottomPanel::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void BottomPanel::ShowStates(const Editor& editor) {
-    const auto mirror = [](widgets::NumberSlider& shown, const editing::Slider& slider) {
-        shown.setEnabled(slider.Enabled);
-        if (shown.Value() != slider.Value)
-            shown.SetValue(slider.Value);
-    };
     const editing::Sliders& sliders = editor.Sliders;
-    mirror(*pageWidth_, sliders.PageWidth);
-    mirror(*pageHeight_, sliders.PageHeight);
-    mirror(*lineWidth_, sliders.LineWidth);
+    Mirror(*pageWidth_, sliders.PageWidth);
+    Mirror(*pageHeight_, sliders.PageHeight);
+    Mirror(*lineWidth_, sliders.LineWidth);
     backgroundSwatch_->Show(editor.Document.Background, 1);
     backgroundSwatch_->setEnabled(editor.States.IsEnabled(editing::CommandId::PageBackground));
     for (int i = 0; i < 2; ++i)

@@ -29,6 +29,8 @@ public:
 
     widgets::PanelHeader& Header() const { return *title_; }
     void SetOpen(bool open);
+    // A page size that is being typed counts from now on.
+    void CommitTyping();
     QWidget& FirstColorWell() const;
 
 protected:

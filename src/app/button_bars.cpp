@@ -5,6 +5,7 @@
 #include "app/ask_commands.h"
 #include "app/links.h"
 #include "app/save_commands.h"
+#include "app/step_caption.h"
 #include "editing/buttons.h"
 #include "editing/layer_bar.h"
 #include "editing/tool_palette.h"
@@ -219,6 +220,8 @@ void ButtonBars::ShowPopup(ButtonBar& popup, bool visible, int button) {
 void ButtonBars::ShowStates(const editing::Editor& editor) {
     const editing::ControlStates& states = editor.States;
     Mirror(*MainBar, states.MainBar);
+    MainBar->SetToolTip(editing::main_buttons::Undo, StepCaption("Undo", states.UndoName));
+    MainBar->SetToolTip(editing::main_buttons::Redo, StepCaption("Redo", states.RedoName));
     Mirror(*ToolBox, states.ToolBox);
     Mirror(*FillBar, states.FillBar);
     Mirror(*LayerBar, states.LayerBar);

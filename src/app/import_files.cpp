@@ -23,7 +23,7 @@ std::string Grouped(std::size_t number) {
 // No further import can succeed.
 bool IsFull(const editing::Editor& editor) {
     using document::UndoHistory;
-    return editor.Page().LayerCount() >= UndoHistory::kMaxSnapshotLayers ||
+    return editor.Page().LayerCount() >= document::kMaxMadeLayers ||
            editor.History.UndoIndex() >= UndoHistory::kMaxSnapshots;
 }
 

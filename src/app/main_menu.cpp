@@ -9,6 +9,7 @@
 #include "app/export_formats.h"
 #include "app/links.h"
 #include "app/save_commands.h"
+#include "app/step_caption.h"
 #include "editing/clipboard_commands.h"
 #include "editing/stack_commands.h"
 #include "editing/style_commands.h"
@@ -21,6 +22,8 @@ namespace {
 using editing::CommandId;
 
 constexpr char kTipsName[] = "Tips";
+constexpr char kUndoCaption[] = "&Undo";
+constexpr char kRedoCaption[] = "&Redo";
 
 using Action = std::function<void(const WindowContext&)>;
 
@@ -126,8 +129,8 @@ std::vector<Entry> EditEntries() {
                      state};
     };
     return {
-        entry("Undo", "&Undo", {Qt::CTRL | Qt::Key_Z}, editing::Undo, CommandId::Undo),
-        entry("Redo", "&Redo", {Qt::CTRL | Qt::Key_Y, Qt::CTRL | Qt::SHIFT | Qt::Key_Z},
+        entry("Undo", kUndoCaption, {Qt::CTRL | Qt::Key_Z}, editing::Undo, CommandId::Undo),
+        entry("Redo", kRedoCaption, {Qt::CTRL | Qt::Key_Y, Qt::CTRL | Qt::SHIFT | Qt::Key_Z},
               editing::Redo, CommandId::Redo),
         {},
         entry("Cut", "Cu&t", {Qt::CTRL | Qt::Key_X}, editing::CutToClipboard, CommandId::Cut),
@@ -293,6 +296,8 @@ MainMenu::MainMenu(QMainWindow& window, const WindowContext& context) {
                          [context] { context.Window.ShowControls(); });
     }
     tips_ = window.findChild<QAction*>(kTipsName);
+    undo_ = window.findChild<QAction*>("Undo");
+    redo_ = window.findChild<QAction*>("Redo");
     orderMenu_ = new QMenu("Right_Layer", &window);
     orderMenu_->setObjectName("OrderMenu");
     for (const char* name : {"BackOne", "ForwardOne", "ToBack", "ToFront"})
@@ -308,6 +313,8 @@ void MainMenu::ShowStates(const editing::Editor& editor) {
         state.Action->setEnabled(editor.States.IsEnabled(state.Command));
     for (const ToolMark& mark : toolMarks_)
         mark.Action->setChecked(mark.Tool == editor.Tools.InUse);
+    undo_->setText(StepCaption(kUndoCaption, editor.States.UndoName));
+    redo_->setText(StepCaption(kRedoCaption, editor.States.RedoName));
 }
 
 }  // namespace orbelle::app

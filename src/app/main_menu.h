@@ -37,6 +37,8 @@ private:
     std::vector<State> states_;
     std::vector<ToolMark> toolMarks_;
     QAction* tips_ = nullptr;
+    QAction* undo_ = nullptr;
+    QAction* redo_ = nullptr;
     QMenu* orderMenu_ = nullptr;
 };
 

@@ -63,6 +63,7 @@ MainWindow::MainWindow() {
 }
 
 bool MainWindow::Run(const editing::Command& command) {
+    bottomPanel_->CommitTyping();
     statusBar()->clearMessage();
     return Tell(ReportOf(editing::Run(editor_, command)));
 }
@@ -72,6 +73,7 @@ bool MainWindow::RunBusy(const editing::Command& command) {
 }
 
 Report MainWindow::Try(const editing::Command& command) {
+    bottomPanel_->CommitTyping();
     statusBar()->clearMessage();
     QGuiApplication::setOverrideCursor(Qt::WaitCursor);
     const editing::Outcome outcome = editing::Run(editor_, command);

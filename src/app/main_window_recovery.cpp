@@ -39,6 +39,9 @@ void MainWindow::StartRecovery() {
 }
 
 MainWindow::~MainWindow() {
+    // A number that is being typed counts when its field disappears, which the editor must live to
+    // see.
+    hide();
     kept = nullptr;
 }
 

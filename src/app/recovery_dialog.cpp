@@ -22,6 +22,7 @@ namespace {
 constexpr int kPictureSide = 64;  // logical pixels
 constexpr int kVisibleRows = 3;
 constexpr int kListWidth = 420;
+constexpr QColor kSelectedColor(204, 235, 255);
 constexpr QColor kCheckerColor(232, 232, 232);
 constexpr char kHead[] = "Your work was not saved when Varnel Orbelle ended.";
 constexpr char kText[] =
@@ -30,7 +31,7 @@ constexpr char kText[] =
 QImage PictureOf(document::Document document, qreal scale) {
     const int side = qRound(kPictureSide * scale);
     QImage picture(side, side, QImage::Format_ARGB32_Premultiplied);
-    picture.fill(Qt::transparent);
+    picture.fill(Qt::white);
     document::Compositor compositor;
     graphics::Bitmap canvas;
     compositor.Compose(document.Master, graphics::InterpolationMode::NearestNeighbor, canvas);
@@ -85,10 +86,17 @@ RecoveryDialog::RecoveryDialog(std::vector<formats::FoundJournal>& journals, QWi
     list_->setAccessibleName("Work that was not saved");
     list_->setIconSize({kPictureSide, kPictureSide});
     list_->setSpacing(4);
-    for (const formats::FoundJournal& journal : journals_)
-        new QListWidgetItem(
-            QIcon(QPixmap::fromImage(PictureOf(journal.Entry().Document, devicePixelRatioF()))),
-            TextOf(journal.Entry()), list_);
+    for (const formats::FoundJournal& journal : journals_) {
+        const QPixmap picture =
+            QPixmap::fromImage(PictureOf(journal.Entry().Document, devicePixelRatioF()));
+        QIcon icon(picture);
+        icon.addPixmap(picture, QIcon::Selected);  // not tinted
+        new QListWidgetItem(icon, TextOf(journal.Entry()), list_);
+    }
+    QPalette palette = list_->palette();
+    palette.setColor(QPalette::Highlight, kSelectedColor);
+    palette.setColor(QPalette::HighlightedText, palette.color(QPalette::Text));
+    list_->setPalette(palette);
     list_->setCurrentRow(0);
     const int rows = std::min<int>(kVisibleRows, list_->count());
     list_->setFixedSize(kListWidth, rows * (list_->sizeHintForRow(0) + 2 * list_->spacing()) +

@@ -25,23 +25,18 @@ constexpr int kMinLayerList = 84;
 
 // One drag of a slider as the three parts of a command.
 template <typename Press, typename Change, typename Release>
-void ConnectDrag(CommandRunner& commands, TrackSlider& slider, Press press, Change change,
-                 Release release) {
+void ConnectDrag(CommandRunner& commands, TrackSlider& slider, editing::Slider Sliders::*state,
+                 Press press, Change change, Release release) {
     QObject::connect(&slider, &TrackSlider::Pressed, &slider,
                      [&commands, press] { commands.Run(press); });
-    QObject::connect(&slider, &TrackSlider::Changed, &slider, [&commands, change](int value) {
-        commands.RunDuringDrag([=](Editor& editor) { change(editor, value); });
-    });
+    QObject::connect(&slider, &TrackSlider::Changed, &slider,
+                     [&commands, &slider, state, change](int value) {
+                         commands.RunDuringDrag([=](Editor& editor) { change(editor, value); });
+                         // A drag that was refused or given up leaves the old value.
+                         slider.SetValue((commands.Editor().Sliders.*state).Value);
+                     });
     QObject::connect(&slider, &TrackSlider::Released, &slider,
                      [&commands, release] { commands.RunDuringDrag(release); });
-}
-
-template <Adjustment kAdjustment>
-void ConnectAdjustment(CommandRunner& commands, TrackSlider& slider) {
-    ConnectDrag(
-        commands, slider, editing::PressAdjustment,
-        [](Editor& editor, int value) { ChangeAdjustment(editor, kAdjustment, value); },
-        [](Editor& editor) { ReleaseAdjustment(editor, kAdjustment); });
 }
 
 // ".50", as layers are labelled.
@@ -61,21 +56,26 @@ RightPanel::RightPanel(CommandRunner& commands, QWidget& layerBar) : commands_(c
 
     QWidget* opacity = AddSection("OpacityPanel", "CtlTitle1", "Icon Opacity");
     opacity_ = AddSlider(*opacity, "Opacity", &Sliders::Opacity);
-    ConnectDrag(commands, *opacity_, editing::PressOpacity, editing::ChangeOpacity,
-                editing::ReleaseOpacity);
+    ConnectDrag(commands, *opacity_, &Sliders::Opacity, editing::PressOpacity,
+                editing::ChangeOpacity, editing::ReleaseOpacity);
 
     QWidget* color = AddSection("ColorPanel", "CtlTitle2", "HUE/Saturation");
-    ConnectAdjustment<Adjustment::Hue>(commands, *AddSlider(*color, "Hue", &Sliders::Hue));
-    ConnectAdjustment<Adjustment::Saturation>(
-        commands, *AddSlider(*color, "Saturation", &Sliders::Saturation));
-    ConnectAdjustment<Adjustment::Brightness>(
-        commands, *AddSlider(*color, "Brightness", &Sliders::Brightness));
-    ConnectAdjustment<Adjustment::Contrast>(commands,
-                                            *AddSlider(*color, "Contrast", &Sliders::Contrast));
+    const auto addAdjustment = [&](const char* caption, editing::Slider Sliders::*state,
+                                   Adjustment kind) {
+        ConnectDrag(
+            commands, *AddSlider(*color, caption, state), state,
+            [kind](Editor& editor) { PressAdjustment(editor, kind); },
+            [kind](Editor& editor, int value) { ChangeAdjustment(editor, kind, value); },
+            [kind](Editor& editor) { ReleaseAdjustment(editor, kind); });
+    };
+    addAdjustment("Hue", &Sliders::Hue, Adjustment::Hue);
+    addAdjustment("Saturation", &Sliders::Saturation, Adjustment::Saturation);
+    addAdjustment("Brightness", &Sliders::Brightness, Adjustment::Brightness);
+    addAdjustment("Contrast", &Sliders::Contrast, Adjustment::Contrast);
 
     QWidget* size = AddSection("SizePanel", "CtlTitle3", "Icon Resize");
-    ConnectDrag(commands, *AddSlider(*size, "Scale", &Sliders::Scale), editing::PressScale,
-                editing::ChangeScale, editing::ReleaseScale);
+    ConnectDrag(commands, *AddSlider(*size, "Scale", &Sliders::Scale), &Sliders::Scale,
+                editing::PressScale, editing::ChangeScale, editing::ReleaseScale);
 
     QWidget* filter = AddSection("FilterPanel", "CtlTitle5", "Icon Filter");
     auto* caption = new widgets::CaptionText;

@@ -94,6 +94,8 @@ void AskExport(const WindowContext& context, const ExportEntry& entry) {
 }
 
 bool MayGiveUpDocument(const WindowContext& context) {
+    // Ends what is under way, as a number that is being typed: it counts, or it does not.
+    context.Commands.Run([](Editor&) {});
     if (!context.Commands.Editor().Document.Modified)
         return true;
     switch (context.User.AskSave()) {

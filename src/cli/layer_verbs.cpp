@@ -75,7 +75,7 @@ Action ReadDrag(Words& words, const SliderDrag& drag) {
 template <editing::Adjustment kAdjustment>
 Action ReadAdjustment(Words& words, editing::Slider Sliders::*slider) {
     return ReadDrag(
-        words, {slider, editing::PressAdjustment,
+        words, {slider, [](Editor& editor) { PressAdjustment(editor, kAdjustment); },
                 [](Editor& editor, int value) { ChangeAdjustment(editor, kAdjustment, value); },
                 [](Editor& editor) { ReleaseAdjustment(editor, kAdjustment); }});
 }

@@ -12,10 +12,7 @@ Action ReadPage(Words& words) {
     const int height = words.Integer("H");
     return [=](Workspace& workspace) {
         RequireDocument(workspace);
-        workspace.Run([=](editing::Editor& editor) {
-            ChangePageWidth(editor, width);
-            ChangePageHeight(editor, height);
-        });
+        workspace.Run([=](editing::Editor& editor) { SetPageSize(editor, width, height); });
     };
 }
 
@@ -38,7 +35,7 @@ Action ReadZoom(Words& words) {
 }
 
 constexpr Verb kVerbs[] = {
-    {"page", "W H", "the page-size sliders", ReadPage},
+    {"page", "W H", "the page-size sliders; an undo step for each side that changes", ReadPage},
     {"background", "COLOUR|none", "the page background: #RRGGBB or #AARRGGBB", ReadBackground},
     {"zoom", "Z", "the view's zoom, above 0 up to 20; 1 if not said", ReadZoom},
 };

@@ -8,8 +8,9 @@
 namespace orbelle::document {
 
 IconLayer& OpenLayerSlot(Page& page, SlotCopySize size) {
-    if (page.LayerCount() >= kMaxLayers)
-        throw Error("A document holds at most " + std::to_string(kMaxLayers) + " layers.");
+    if (page.LayerCount() >= kMaxMadeLayers)
+        throw Error("A document can't have more than " + std::to_string(kMaxMadeLayers) +
+                    " layers.");
     if (!page.HasSelection()) {
         page.SelectedLayer = page.LayerCount();
         return page.Layers.emplace_back();

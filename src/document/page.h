@@ -8,7 +8,8 @@
 namespace orbelle::document {
 
 inline constexpr int kNoLayer = -1;
-inline constexpr int kMaxLayers = 5001;
+inline constexpr int kMaxLayers = 5001;     // that a file may bring
+inline constexpr int kMaxMadeLayers = 101;  // no command makes a stack of more
 // What the New dialog and the page-size sliders allow; files and imports may bring larger pages.
 inline constexpr int kMaxPageSide = 512;
 

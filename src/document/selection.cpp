@@ -52,6 +52,15 @@ void Selection::Clear() {
     }
 }
 
+void Selection::KeepOnPage(int pageWidth, int pageHeight) {
+    if (!Exists())
+        return;
+    region_.CombineRect({0, 0, static_cast<float>(pageWidth), static_cast<float>(pageHeight)},
+                        CombineMode::Intersect);
+    if (region_.IsEmpty())
+        Clear();
+}
+
 RectI Selection::Bounds() const {
     const RectF bounds = region_.Bounds();
     return {RoundToEven(bounds.X), RoundToEven(bounds.Y), RoundToEven(bounds.Width),

@@ -29,6 +29,8 @@ public:
     void Start();
     // Ends the selection when it has a shape.
     void Clear();
+    // Keeps what lies on a page of that size; ends the selection when that is nothing.
+    void KeepOnPage(int pageWidth, int pageHeight);
     // Whether anything was selected; shapes without a pixel count too.
     bool Exists() const { return shapeCount_ >= 1; }
 

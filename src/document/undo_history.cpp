@@ -7,11 +7,18 @@
 
 namespace orbelle::document {
 
-void UndoHistory::CheckRoom(const Document& document) const {
-    if (document.Current().LayerCount() > kMaxSnapshotLayers)
-        throw HistoryLimit("A document with more than " + std::to_string(kMaxSnapshotLayers) +
-                           " layers can't be changed: the undo history holds no more.");
-    if (place_.UndoIndex >= kMaxSnapshots)
+std::string_view UndoHistory::UndoName() const {
+    return place_.UndoIndex == 0 ? std::string_view()
+                                 : slots_[static_cast<std::size_t>(place_.UndoIndex) - 1].Next;
+}
+
+std::string_view UndoHistory::RedoName() const {
+    return place_.RedoCount == 0 ? std::string_view()
+                                 : slots_[static_cast<std::size_t>(place_.UndoIndex)].Next;
+}
+
+void UndoHistory::CheckRoom(int steps) const {
+    if (place_.UndoIndex > kMaxSnapshots - steps)
         throw HistoryLimit("The undo history is full after " + std::to_string(kMaxSnapshots) +
                            " changes. Save the document and open it again to go on.");
 }
@@ -35,12 +42,12 @@ void UndoHistory::TruncateRedo() {
     place_.UndoCount = place_.UndoIndex;
 }
 
-void UndoHistory::PushSnapshot(Document& document) {
-    CheckRoom(document);
+void UndoHistory::PushSnapshot(Document& document, std::string_view name) {
+    CheckRoom();
     const auto slot = static_cast<std::size_t>(place_.UndoIndex);
     if (slots_.size() <= slot)
         slots_.resize(slot + 1);
-    slots_[slot] = {document.Master};
+    slots_[slot] = {document.Master, document.Background, name};
     ++place_.UndoCount;
     ++place_.UndoIndex;
     document.Modified = true;
@@ -52,9 +59,10 @@ bool UndoHistory::Undo(Document& document) {
     const auto slot = static_cast<std::size_t>(place_.UndoIndex);
     // What needs memory comes before what changes anything.
     Snapshot before = slots_[slot - 1];
-    Snapshot present{document.Master};
+    Snapshot present{document.Master, document.Background};
     if (slots_.size() <= slot)
         slots_.resize(slot + 1);
+    present.Next = slots_[slot].Next;
     slots_[slot] = std::move(present);
     --place_.UndoIndex;
     ++place_.RedoCount;
@@ -90,9 +98,9 @@ void UndoHistory::RollBack(const Place& place) noexcept {
     place_ = place;
 }
 
-void UndoHistory::Restore(Document& document, Snapshot& snapshot) const {
-    document.Master.Layers = std::move(snapshot.Master.Layers);
-    document.Master.SelectedLayer = snapshot.Master.SelectedLayer;
+void UndoHistory::Restore(Document& document, Snapshot& snapshot) {
+    document.Master = std::move(snapshot.Master);
+    document.Background = snapshot.Background;
     document.Modified = true;
 }
 

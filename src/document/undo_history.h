@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstddef>
+#include <string_view>
 #include <vector>
 
 #include "document/document.h"
@@ -15,30 +16,33 @@ public:
     using Error::Error;
 };
 
-// A linear history. Page size and background are not part of it. A snapshot shares all pixels with
-// the document until either is written, so it costs a pointer a layer.
+// A linear history of the page, its size and stack, and the background. A snapshot shares all
+// pixels with the document until either is written, so it costs a pointer a layer.
 class UndoHistory {
 public:
     static constexpr int kMaxSnapshots = 5001;
-    static constexpr int kMaxSnapshotLayers = 101;
 
     int UndoIndex() const { return place_.UndoIndex; }  // steps that can be undone
     int RedoCount() const { return place_.RedoCount; }  // steps that can be redone
     // Snapshots, those ahead of the cursor included.
     int UndoCount() const { return place_.UndoCount; }
 
-    // Throws HistoryLimit when PushSnapshot would refuse this document.
-    void CheckRoom(const Document& document) const;
+    // What the step is called that Undo would take back, or Redo do again; empty: there is none.
+    std::string_view UndoName() const;
+    std::string_view RedoName() const;
+
+    // Throws HistoryLimit when so many steps don't fit any more.
+    void CheckRoom(int steps = 1) const;
 
     // Forgets everything ahead of the cursor.
     void TruncateRedo();
 
-    // Stores the pages as they are before an edit and marks the document as changed. Throws
-    // HistoryLimit, with nothing changed, beyond kMaxSnapshots or kMaxSnapshotLayers.
-    void PushSnapshot(Document& document);
+    // Stores the document as it is before an edit and marks it as changed. `name`, what the edit is
+    // called, is not copied: it has to live as long as the program. Throws HistoryLimit, with
+    // nothing changed, beyond kMaxSnapshots.
+    void PushSnapshot(Document& document, std::string_view name);
 
-    // Keeps the present pages for Redo and brings back those before. False: nothing to undo. The
-    // pages kept here are not bounded by kMaxSnapshotLayers: a step can always be taken back.
+    // Keeps the present pages for Redo and brings back those before. False: nothing to undo.
     bool Undo(Document& document);
 
     // Brings back the pages that the last Undo left. False: nothing to redo.
@@ -61,9 +65,11 @@ public:
 private:
     struct Snapshot {
         Page Master;
+        graphics::Argb Background = 0;
+        std::string_view Next = {};  // the step that leads from here to the next one
     };
 
-    void Restore(Document& document, Snapshot& snapshot) const;
+    static void Restore(Document& document, Snapshot& snapshot);
     void Forget(std::size_t from);
 
     std::vector<Snapshot> slots_;

@@ -40,6 +40,7 @@ double BrightnessOf(int slider) {
 struct AdjustmentParts {
     Slider Sliders::*Position;
     int IconLayer::*Field;
+    steps::Name Step;
     void (*Filter)(graphics::Bitmap&, const Sliders&);
 };
 
@@ -51,21 +52,22 @@ void FilterBrightnessContrast(graphics::Bitmap& image, const Sliders& sliders) {
 AdjustmentParts PartsOf(Adjustment adjustment) {
     switch (adjustment) {
         case Adjustment::Hue:
-            return {&Sliders::Hue, &IconLayer::Hue,
+            return {&Sliders::Hue, &IconLayer::Hue, steps::Hue,
                     [](graphics::Bitmap& image, const Sliders& sliders) {
                         filters::HueColor(image, HueOf(sliders.Hue.Value));
                     }};
         case Adjustment::Saturation:
-            return {&Sliders::Saturation, &IconLayer::Saturation,
+            return {&Sliders::Saturation, &IconLayer::Saturation, steps::Saturation,
                     [](graphics::Bitmap& image, const Sliders& sliders) {
                         filters::SaturationColor(image, SaturationOf(sliders.Saturation.Value));
                     }};
         case Adjustment::Brightness:
-            return {&Sliders::Brightness, &IconLayer::Brightness, FilterBrightnessContrast};
+            return {&Sliders::Brightness, &IconLayer::Brightness, steps::Brightness,
+                    FilterBrightnessContrast};
         case Adjustment::Contrast:
             break;
     }
-    return {&Sliders::Contrast, &IconLayer::Contrast, FilterBrightnessContrast};
+    return {&Sliders::Contrast, &IconLayer::Contrast, steps::Contrast, FilterBrightnessContrast};
 }
 
 void EndDrag(Editor& editor) {
@@ -79,7 +81,7 @@ void EndDrag(Editor& editor) {
 void PressOpacity(Editor& editor) {
     if (!editor.Page().HasSelection())
         return;
-    BeginUndoStep(editor);
+    BeginUndoStep(editor, steps::Opacity);
     editor.Drag = OpacityDrag{};
 }
 
@@ -97,10 +99,10 @@ void ReleaseOpacity(Editor& editor) {
         EndDrag(editor);
 }
 
-void PressAdjustment(Editor& editor) {
+void PressAdjustment(Editor& editor, Adjustment adjustment) {
     if (!editor.Page().HasSelection())
         return;
-    BeginUndoStep(editor);
+    BeginUndoStep(editor, PartsOf(adjustment).Step);
     editor.Drag = AdjustmentDrag{editor.Page().Selected().Image};
 }
 

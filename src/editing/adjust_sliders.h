@@ -1,7 +1,7 @@
 // The sliders of the layer panels. A drag is a press, any number of changes and a release, and one
 // undo step, taken at the press. Values are slider positions; others are brought to the nearer end.
-// Nothing happens without a selected layer, nor between a drag that was given up and the next
-// press.
+// Nothing happens without a selected layer, nor between a drag that was given up, or refused for
+// want of room in the history, and the next press.
 #pragma once
 
 #include "editing/editor.h"
@@ -16,7 +16,7 @@ enum class Adjustment { Hue, Saturation, Brightness, Contrast };
 
 // Every change filters the picture as it was at the press, so steps of one drag do not add up; the
 // next drag starts from the changed pixels, so drags do.
-void PressAdjustment(Editor& editor);
+void PressAdjustment(Editor& editor, Adjustment adjustment);
 void ChangeAdjustment(Editor& editor, Adjustment adjustment, int value);
 void ReleaseAdjustment(Editor& editor, Adjustment adjustment);
 

@@ -92,6 +92,13 @@ std::optional<IconLayer> ClipboardContent(Editor& editor) {
     return ForeignLayer(picture);
 }
 
+void RemoveSelected(Editor& editor, steps::Name ofSelection, steps::Name ofLayer) {
+    if (editor.Selection.Exists())
+        RemoveSelection(editor, ofSelection);
+    else
+        RemoveLayer(editor, ofLayer);
+}
+
 }  // namespace
 
 void CopyToClipboard(Editor& editor) {
@@ -103,15 +110,12 @@ void CutToClipboard(Editor& editor) {
     if (!editor.Page().HasSelection())
         return;
     Copied copied = Copy(editor);
-    DeleteSelected(editor);
+    RemoveSelected(editor, steps::Cut, steps::Cut);
     Put(editor, std::move(copied));
 }
 
 void DeleteSelected(Editor& editor) {
-    if (editor.Selection.Exists())
-        DeleteSelection(editor);
-    else
-        DeleteLayer(editor);
+    RemoveSelected(editor, steps::DeleteSelection, steps::DeleteLayer);
 }
 
 void PasteFromClipboard(Editor& editor) {
@@ -120,7 +124,7 @@ void PasteFromClipboard(Editor& editor) {
     std::optional<IconLayer> content = ClipboardContent(editor);
     if (!content)
         return;
-    BeginUndoStep(editor);
+    BeginUndoStep(editor, steps::Paste);
     OpenLayerSlot(editor.Page(), document::SlotCopySize::Image) = std::move(*content);
     editor.Selection.Clear();
     ShowSelectedLayer(editor);

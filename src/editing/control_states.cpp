@@ -43,6 +43,8 @@ private:
         const int index = Page().SelectedLayer, count = Page().LayerCount();
         Enable({CommandId::Undo}, history_.UndoIndex() >= 1);
         Enable({CommandId::Redo}, history_.RedoCount() >= 1);
+        states_.UndoName = history_.UndoName();
+        states_.RedoName = history_.RedoName();
         // A plate that clips the layer above it stays where it is.
         const bool usable = Visible() && !Page().Selected().ClipNextLayer;
         Enable({CommandId::Cut, CommandId::Copy, CommandId::Delete, CommandId::FlipHorizontal,

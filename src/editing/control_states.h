@@ -4,6 +4,7 @@
 
 #include <array>
 #include <cstddef>
+#include <string_view>
 
 #include "document/undo_history.h"
 #include "editing/editor_state.h"
@@ -73,6 +74,10 @@ struct ControlStates {
     std::array<ButtonState, 7> LayerBar;
     std::array<ButtonState, 4> SelectionBar;
     std::array<ButtonState, 3> EraserBar;
+
+    // The steps that Undo and Redo would take (UndoHistory::UndoName); empty: none.
+    std::string_view UndoName;
+    std::string_view RedoName;
 
     bool IsEnabled(CommandId command) const { return Commands[static_cast<std::size_t>(command)]; }
     bool operator==(const ControlStates&) const = default;

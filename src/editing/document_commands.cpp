@@ -61,9 +61,14 @@ void ClearStack(Editor& editor) {
     editor.Overlays = {};
 }
 
+// A page that is larger than the sliders go keeps that size as their end.
 void ShowPageSize(Editor& editor) {
-    editor.Sliders.PageWidth.Value = editor.Page().Width;
-    editor.Sliders.PageHeight.Value = editor.Page().Height;
+    const auto show = [](Slider& slider, int side) {
+        slider.Value = side;
+        slider.Maximum = std::max(side, document::kMaxPageSide);
+    };
+    show(editor.Sliders.PageWidth, editor.Page().Width);
+    show(editor.Sliders.PageHeight, editor.Page().Height);
 }
 
 // The state before anything is done with a page of this size, which has no layer.
@@ -102,9 +107,9 @@ void ShowDocument(Editor& editor, document::Document&& document) {
     editor.DocumentExists = true;
     SetTitle(editor, TitleOf(editor.Document.Path));
     ResetView(editor);
+    ShowPageSize(editor);
     const document::Page& page = editor.Page();
     if (page.LayerCount() >= 1) {
-        ShowPageSize(editor);
         ShowSelectedLayer(editor);
         ShowScrollBar(editor.View.HorizontalScroll, page.Width, editor.View.SceneWidth);
         ShowScrollBar(editor.View.VerticalScroll, page.Height, editor.View.SceneHeight);
@@ -204,7 +209,7 @@ void OpenPicture(Editor& editor, const graphics::Bitmap& picture) {
 void ImportPicture(Editor& editor, const graphics::Bitmap& picture) {
     if (!editor.DocumentExists)
         return OpenPicture(editor, picture);
-    BeginUndoStep(editor);
+    BeginUndoStep(editor, steps::Import);
     AddPictureLayer(editor, picture);
 }
 

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "document/icon_layer.h"
+#include "document/view.h"
 #include "graphics/bitmap.h"
 #include "graphics/geometry.h"
 
@@ -45,7 +46,18 @@ struct ScaleDrag {
     graphics::RectF Before;
 };
 
-using Drag = std::variant<std::monostate, MoveDrag, StrokeDrag, EraserDrag, FrameSelectionDrag,
-                          PolygonSelectionDrag, OpacityDrag, AdjustmentDrag, ScaleDrag>;
+// On a page-size slider: what it changes, as it was at the press.
+struct PageSizeDrag {
+    int Width = 0;
+    int Height = 0;
+    bool Modified = false;
+    bool PageSizeChanged = false;
+    document::ScrollBar HorizontalScroll;
+    document::ScrollBar VerticalScroll;
+};
+
+using Drag =
+    std::variant<std::monostate, MoveDrag, StrokeDrag, EraserDrag, FrameSelectionDrag,
+                 PolygonSelectionDrag, OpacityDrag, AdjustmentDrag, ScaleDrag, PageSizeDrag>;
 
 }  // namespace orbelle::editing

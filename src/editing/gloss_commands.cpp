@@ -24,7 +24,7 @@ void PutGlossOver(const OverlayLayers& layers) {
 void Crystal(Editor& editor) {
     if (!editor.Page().HasSelection())
         return;
-    PutGlossOver(OpenOverlay(editor));
+    PutGlossOver(OpenOverlay(editor, steps::Crystal));
     ShowStyle(editor);
     editor.Changed.Tip = {tips::Crystal};
 }
@@ -33,7 +33,7 @@ void Vista(Editor& editor) {
     constexpr int kSaturation = 25;
     if (!editor.Page().HasSelection())
         return;
-    const OverlayLayers layers = OpenOverlay(editor, OverlayUndo::OneStep);
+    const OverlayLayers layers = OpenOverlay(editor, steps::Vista, OverlayUndo::OneStep);
     PutGlossOver(layers);
     filters::ThreeDStyle(layers.Source.Image, filters::kStrongLight);
     filters::SaturationColor(layers.Source.Image, kSaturation);
@@ -44,7 +44,7 @@ void Vista(Editor& editor) {
 void Fresh(Editor& editor) {
     if (!editor.Page().HasSelection())
         return;
-    const OverlayLayers layers = OpenOverlay(editor);
+    const OverlayLayers layers = OpenOverlay(editor, steps::Fresh);
     PlaceStylePicture(layers.New, filters::FreshStyle(layers.Source.Image, editor.Page().Width,
                                                       editor.Page().Height));
     filters::AntialiasEdge(layers.New.Image);
@@ -56,7 +56,7 @@ void Fresh(Editor& editor) {
 void Origami(Editor& editor, filters::Fold fold) {
     if (!editor.Page().HasSelection())
         return;
-    const OverlayLayers layers = OpenOverlay(editor);
+    const OverlayLayers layers = OpenOverlay(editor, steps::Origami);
     const graphics::Argb foreground = editor.Tools.Colors[0];
     PlaceStylePicture(layers.New,
                       filters::OrigamiStyle(layers.Source.Image, fold,
@@ -70,7 +70,7 @@ void Origami(Editor& editor, filters::Fold fold) {
 void Ios(Editor& editor) {
     if (!editor.Page().HasSelection())
         return;
-    document::IconLayer& plate = OpenUnderlay(editor).New;
+    document::IconLayer& plate = OpenUnderlay(editor, steps::Ios).New;
     const int width = editor.Page().Width;
     const int height = editor.Page().Height;
     plate.Rect = {0, 0, static_cast<float>(width), static_cast<float>(height)};

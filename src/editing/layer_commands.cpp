@@ -15,7 +15,7 @@ void InsertEmptyLayer(Editor& editor, float width, float height) {
 }
 
 void AddEmptyLayer(Editor& editor, float width, float height) {
-    BeginUndoStep(editor);
+    BeginUndoStep(editor, steps::AddLayer);
     InsertEmptyLayer(editor, width, height);
 }
 

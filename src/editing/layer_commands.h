@@ -6,7 +6,8 @@
 namespace orbelle::editing {
 
 // A new transparent layer above the selected one, selected; Rect takes the given size in page
-// pixels, the picture that of the page.
+// pixels, the picture that of the page. Throws Error when the stack takes no further layer
+// (document::OpenLayerSlot), as all that makes a layer does.
 void InsertEmptyLayer(Editor& editor, float width, float height);
 
 // The same with an undo step before it.

@@ -28,7 +28,7 @@ void FillRect(IconLayer& layer, float x, float y) {
 void Reflection(Editor& editor) {
     if (!editor.Page().HasSelection())
         return;
-    const auto [layer, source] = OpenOverlay(editor);
+    const auto [layer, source] = OpenOverlay(editor, steps::Reflection);
     filters::ReflectionPicture picture = filters::Reflection(source.Image);
     graphics::ImageRotateFlip(picture.Image, graphics::RotateFlipType::RotateNoneFlipY);
     if (!picture.Image.IsEmpty())
@@ -46,7 +46,7 @@ void Reflection(Editor& editor) {
 void Shade(Editor& editor) {
     if (!editor.Page().HasSelection())
         return;
-    const auto [layer, source] = OpenOverlay(editor);
+    const auto [layer, source] = OpenOverlay(editor, steps::Shade);
     // The region stays what making room left: that of the source
     // (docs/oddities.md, "Regions of light and shade").
     if (!source.Image.IsEmpty())
@@ -61,7 +61,7 @@ void DropShadow(Editor& editor) {
     constexpr int kRadius = 1;
     if (!editor.Page().HasSelection())
         return;
-    IconLayer& shadow = OpenUnderlay(editor).New;
+    IconLayer& shadow = OpenUnderlay(editor, steps::DropShadow).New;
     const graphics::Bitmap picture = filters::Shadow(shadow.Image, kRadius);
     if (!picture.IsEmpty())
         shadow.Image = picture;

@@ -1,16 +1,30 @@
-// Page size and page background. None of these is an undo step or marks the document as changed
-// (docs/oddities.md, "Without undo").
+// Page size and page background.
 #pragma once
 
 #include "editing/editor.h"
 
 namespace orbelle::editing {
 
-// The page-size sliders; the value is brought into the slider's range. Layers keep their place.
+// A drag of a page-size slider is a press, any number of changes and a release. It is one undo
+// step, taken at the release, or none when the page has its old size again; given up, it leaves the
+// old size. Values are brought into the slider's range. Layers keep their place. The press throws
+// document::HistoryLimit when no step fits; nothing happens between that and the next press.
+void PressPageSize(Editor& editor);
 void ChangePageWidth(Editor& editor, int value);
 void ChangePageHeight(Editor& editor, int value);
+void ReleasePageSize(Editor& editor);
 
-// 0: transparent.
+// Gives that drag up.
+void TakeBackPageSize(Editor& editor, const PageSizeDrag& drag);
+
+// A drag of either slider straight to the value: a step for each side that changes.
+void SetPageSize(Editor& editor, int width, int height);
+
+// What shows the page's size follows it after Undo or Redo; a selection keeps what lies on the
+// page.
+void FollowPageSize(Editor& editor);
+
+// One undo step, none when the page has that background already. 0: transparent.
 void SetPageBackground(Editor& editor, graphics::Argb color);
 
 }  // namespace orbelle::editing

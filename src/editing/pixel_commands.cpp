@@ -16,23 +16,23 @@ namespace {
 
 // One undo step, then the change, then the scene and the panel anew.
 template <typename Change>
-void ChangeInPlace(Editor& editor, Change change) {
-    BeginUndoStep(editor);
+void ChangeInPlace(Editor& editor, steps::Name step, Change change) {
+    BeginUndoStep(editor, step);
     change();
     NoteStack(editor.Changed);
 }
 
 template <typename Change>
-void ChangeSelected(Editor& editor, Change change) {
+void ChangeSelected(Editor& editor, steps::Name step, Change change) {
     if (editor.Page().HasSelection())
-        ChangeInPlace(editor, [&] { change(editor.Page().Selected().Image); });
+        ChangeInPlace(editor, step, [&] { change(editor.Page().Selected().Image); });
 }
 
 template <typename Change>
-void ChangeAll(Editor& editor, Change change) {
+void ChangeAll(Editor& editor, steps::Name step, Change change) {
     if (editor.Page().LayerCount() < 1)
         return;
-    ChangeInPlace(editor, [&] {
+    ChangeInPlace(editor, step, [&] {
         for (document::IconLayer& layer : editor.Page().Layers)
             change(layer);
         editor.Changed.Tip = {tips::Adjusted};
@@ -42,7 +42,7 @@ void ChangeAll(Editor& editor, Change change) {
 }  // namespace
 
 void Mac(Editor& editor) {
-    ChangeSelected(editor, [&](Bitmap& image) {
+    ChangeSelected(editor, steps::Mac, [&](Bitmap& image) {
         filters::SaturationColor(image, -25);
         filters::Soften(image, filters::kBlurLevel);
         filters::ThreeDStyle(image, filters::kGentleLight);
@@ -51,20 +51,21 @@ void Mac(Editor& editor) {
 }
 
 void Irradiation(Editor& editor) {
-    ChangeSelected(editor, [&](Bitmap& image) {
+    ChangeSelected(editor, steps::Irradiation, [&](Bitmap& image) {
         filters::ThreeDStyle(image, filters::kStrongLight);
         editor.Changed.Tip = {tips::Adjusted};
     });
 }
 
 void Blur(Editor& editor) {
-    ChangeSelected(editor, [](Bitmap& image) { filters::Soften(image, filters::kBlurLevel); });
+    ChangeSelected(editor, steps::Blur,
+                   [](Bitmap& image) { filters::Soften(image, filters::kBlurLevel); });
 }
 
 void Sharpen(Editor& editor) {
     if (!editor.Page().HasSelection())
         return;
-    BeginUndoStep(editor);
+    BeginUndoStep(editor, steps::Sharpen);
     FilterLayerPixels(editor, editor.Page().Selected().Image,
                       [](Bitmap& image) { filters::Sharpen(image, filters::kSharpenLevel); });
     editor.Changed.Stack = true;
@@ -72,7 +73,7 @@ void Sharpen(Editor& editor) {
 
 void DisabledState(Editor& editor) {
     constexpr float kLighten = 0.5F;
-    ChangeAll(editor, [](document::IconLayer& layer) {
+    ChangeAll(editor, steps::DisabledState, [](document::IconLayer& layer) {
         filters::DisabledStyle(layer.Image, layer.ImageWidth, layer.ImageHeight);
         filters::HotStyle(layer.Image, layer.ImageWidth, layer.ImageHeight, kLighten);
     });
@@ -80,7 +81,7 @@ void DisabledState(Editor& editor) {
 
 void HotState(Editor& editor) {
     constexpr float kLighten = 0.65F;
-    ChangeAll(editor, [](document::IconLayer& layer) {
+    ChangeAll(editor, steps::HotState, [](document::IconLayer& layer) {
         filters::HotStyle(layer.Image, layer.ImageWidth, layer.ImageHeight, kLighten);
     });
 }

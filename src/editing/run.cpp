@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "document/scene_painter.h"
+#include "editing/page_commands.h"
 #include "editing/tools/polygon.h"
 
 namespace orbelle::editing {
@@ -32,6 +33,8 @@ void GiveUpDrag(Editor& editor) {
         editor.Changed.Pixels = true;
     } else if (std::holds_alternative<FrameSelectionDrag>(editor.Drag)) {
         editor.Overlays.SelectionFrame = {};
+    } else if (const auto* page = std::get_if<PageSizeDrag>(&editor.Drag)) {
+        TakeBackPageSize(editor, *page);
     }
     editor.Drag = {};
 }

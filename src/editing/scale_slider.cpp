@@ -45,7 +45,7 @@ void Resample(document::IconLayer& layer) {
 void PressScale(Editor& editor) {
     if (!editor.Page().HasSelection())
         return;
-    BeginUndoStep(editor);
+    BeginUndoStep(editor, steps::Scale);
     editor.Drag = ScaleDrag{editor.Page().Selected().Rect};
 }
 

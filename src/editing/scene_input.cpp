@@ -16,8 +16,15 @@ bool CanMap(const Editor& editor) {
     return editor.View.Zoom != 0;
 }
 
+template <typename... Kinds>
+bool HoldsOneOf(const Drag& drag) {
+    return (std::holds_alternative<Kinds>(drag) || ...);
+}
+
+// On the scene. While a page size is being typed the pointer goes where it likes.
 bool IsDragging(const Editor& editor) {
-    return !std::holds_alternative<std::monostate>(editor.Drag);
+    return HoldsOneOf<MoveDrag, StrokeDrag, EraserDrag, FrameSelectionDrag, PolygonSelectionDrag>(
+        editor.Drag);
 }
 
 void ShowMarker(Editor& editor, const Pointer& pointer) {
@@ -64,7 +71,7 @@ void PressOther(Editor& editor, const Pointer& pointer) {
 }
 
 void Nudge(Editor& editor, float dx, float dy) {
-    BeginUndoStep(editor);
+    BeginUndoStep(editor, steps::MoveLayer);
     document::IconLayer& layer = editor.Page().Selected();
     layer.Rect.X += dx;
     layer.Rect.Y += dy;
@@ -91,13 +98,14 @@ void MoveScene(Editor& editor, const Pointer& pointer) {
 
 void ReleaseScene(Editor& editor, const Pointer& pointer) {
     AfterRelease after = AfterRelease::Compose;
-    if (IsDragging(editor))
+    if (IsDragging(editor)) {
         after = HandlersOf(editor.Tools.InUse).Release(editor, pointer);
+        editor.Drag = {};
+    }
     if (after == AfterRelease::Compose)
         editor.Changed.Pixels = true;
     if (after == AfterRelease::HideTips || !editor.Page().HasSelection())
         editor.Changed.HideTips = true;
-    editor.Drag = {};
 }
 
 void LeaveScene(Editor& editor) {

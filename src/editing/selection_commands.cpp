@@ -43,12 +43,16 @@ IconLayer CopyOfSelectedPixels(const Editor& editor) {
 }
 
 void DeleteSelection(Editor& editor) {
+    RemoveSelection(editor, steps::DeleteSelection);
+}
+
+void RemoveSelection(Editor& editor, steps::Name step) {
     if (!editor.Page().HasSelection())
         return;
     IconLayer& layer = editor.Page().Selected();
     Bitmap rest = layer.Image;
     TakeOutOf(editor, layer, rest, Crop::Cut);
-    BeginUndoStep(editor);
+    BeginUndoStep(editor, step);
     layer.Image = rest;
     layer.Rect.Width = static_cast<float>(layer.ImageWidth);
     layer.Rect.Height = static_cast<float>(layer.ImageHeight);
@@ -62,8 +66,8 @@ void FloatSelection(Editor& editor) {
     Bitmap rest = source.Image;
     const document::TakenOut floated = TakeOutOf(editor, source, rest, Crop::CopyAndCut);
 
-    BeginUndoStep(editor);
-    AddEmptyLayer(editor, 0, 0);
+    BeginUndoStep(editor, steps::MoveSelection, 2);
+    InsertEmptyLayer(editor, 0, 0);
     IconLayer& layer = page.Selected();
     IconLayer& below = page.Layers[static_cast<std::size_t>(page.SelectedLayer) - 1];
     below.Image = rest;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "editing/editor.h"
+#include "editing/step_names.h"
 
 namespace orbelle::editing {
 
@@ -15,6 +16,9 @@ document::IconLayer CopyOfSelectedPixels(const Editor& editor);
 // An undo step: cuts the selected pixels out of the selected layer and ends the selection. Nothing
 // happens without a selected layer.
 void DeleteSelection(Editor& editor);
+
+// The same as a step of another name.
+void RemoveSelection(Editor& editor, steps::Name step);
 
 // Cuts the selected pixels into a new layer above the selected one, or on top and out of the top
 // layer when none is selected; the selection ends. Needs a selection and a layer. Two undo steps

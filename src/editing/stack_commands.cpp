@@ -36,6 +36,20 @@ int PlaceAfter(LayerOrder order, int from, int top) {
     return 0;
 }
 
+steps::Name StepOf(LayerOrder order) {
+    switch (order) {
+        case LayerOrder::ToFront:
+            return steps::ToFront;
+        case LayerOrder::ToBack:
+            break;
+        case LayerOrder::BackOne:
+            return steps::BackOne;
+        case LayerOrder::ForwardOne:
+            return steps::ForwardOne;
+    }
+    return steps::ToBack;
+}
+
 void MoveLayer(document::Page& page, LayerOrder order) {
     const auto first = page.Layers.begin();
     const int from = page.SelectedLayer;
@@ -45,6 +59,20 @@ void MoveLayer(document::Page& page, LayerOrder order) {
     else
         std::rotate(first + to, first + from, first + from + 1);
     page.SelectedLayer = to;
+}
+
+steps::Name StepOf(FlipRotate mode) {
+    switch (mode) {
+        case FlipRotate::FlipHorizontal:
+            return steps::FlipHorizontal;
+        case FlipRotate::FlipVertical:
+            return steps::FlipVertical;
+        case FlipRotate::Rotate90Cww:
+            return steps::Rotate90Cww;
+        case FlipRotate::Rotate90Cw:
+            break;
+    }
+    return steps::Rotate90Cw;
 }
 
 graphics::RotateFlipType TypeOf(FlipRotate mode) {
@@ -59,6 +87,12 @@ graphics::RotateFlipType TypeOf(FlipRotate mode) {
             break;
     }
     return graphics::RotateFlipType::Rotate90FlipNone;
+}
+
+void EraseSelected(document::Page& page) {
+    page.Layers.erase(page.Layers.begin() + page.SelectedLayer);
+    page.SelectedLayer =
+        page.Layers.empty() ? document::kNoLayer : std::max(page.SelectedLayer - 1, 0);
 }
 
 void DrawLayer(graphics::DrawingContext& context, const IconLayer& layer, const RectF& bounds) {
@@ -107,7 +141,7 @@ IconLayer Merged(const IconLayer& upper, const IconLayer& lower) {
 void SetLayerOrder(Editor& editor, LayerOrder order) {
     if (!editor.Page().HasSelection() || editor.Page().LayerCount() == 1)
         return;
-    BeginUndoStep(editor);
+    BeginUndoStep(editor, StepOf(order));
     MoveLayer(editor.Page(), order);
     ShowStack(editor);
 }
@@ -115,7 +149,7 @@ void SetLayerOrder(Editor& editor, LayerOrder order) {
 void FlipRotateLayer(Editor& editor, FlipRotate mode) {
     if (!editor.Page().HasSelection())
         return;
-    BeginUndoStep(editor);
+    BeginUndoStep(editor, StepOf(mode));
     IconLayer& layer = editor.Page().Selected();
     ImageRotateFlip(layer.Image, TypeOf(mode));
     filters::RebuildRegion(layer.Region, layer.Image, {layer.Rect.X, layer.Rect.Y});
@@ -123,13 +157,14 @@ void FlipRotateLayer(Editor& editor, FlipRotate mode) {
 }
 
 void DeleteLayer(Editor& editor) {
-    document::Page& page = editor.Page();
-    if (!page.HasSelection())
+    RemoveLayer(editor, steps::DeleteLayer);
+}
+
+void RemoveLayer(Editor& editor, steps::Name step) {
+    if (!editor.Page().HasSelection())
         return;
-    BeginUndoStep(editor);
-    page.Layers.erase(page.Layers.begin() + page.SelectedLayer);
-    page.SelectedLayer =
-        page.Layers.empty() ? document::kNoLayer : std::max(page.SelectedLayer - 1, 0);
+    BeginUndoStep(editor, step);
+    EraseSelected(editor.Page());
     ShowStack(editor);
 }
 
@@ -139,8 +174,8 @@ void MergeDown(Editor& editor) {
         return;
     const IconLayer merged =
         Merged(page.Selected(), page.Layers[static_cast<std::size_t>(page.SelectedLayer) - 1]);
-    BeginUndoStep(editor);
-    DeleteLayer(editor);
+    BeginUndoStep(editor, steps::MergeDown, 2);
+    EraseSelected(page);
     page.Selected() = merged;
     ShowStack(editor);
 }

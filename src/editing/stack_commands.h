@@ -3,6 +3,7 @@
 #pragma once
 
 #include "editing/editor.h"
+#include "editing/step_names.h"
 
 namespace orbelle::editing {
 
@@ -20,6 +21,8 @@ void FlipRotateLayer(Editor& editor, FlipRotate mode);
 
 // Removes the selected layer and selects the one below it (the lowest when there is none).
 void DeleteLayer(Editor& editor);
+// The same as a step of another name.
+void RemoveLayer(Editor& editor, steps::Name step);
 
 // The selected layer and the one below it become one. Needs a layer below. Two undo steps
 // (docs/oddities.md, "Two undo steps"). Throws Error for layers too far apart for one picture.

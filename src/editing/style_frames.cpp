@@ -9,12 +9,11 @@ namespace orbelle::editing {
 
 using document::IconLayer;
 
-OverlayLayers OpenOverlay(Editor& editor, OverlayUndo undo) {
-    if (undo == OverlayUndo::TwoSteps)
-        BeginUndoStep(editor);
+OverlayLayers OpenOverlay(Editor& editor, steps::Name step, OverlayUndo undo) {
+    BeginUndoStep(editor, step, undo == OverlayUndo::TwoSteps ? 2 : 1);
     const IconLayer& selected = editor.Page().Selected();
-    AddEmptyLayer(editor, static_cast<float>(selected.ImageWidth),
-                  static_cast<float>(selected.ImageHeight));
+    InsertEmptyLayer(editor, static_cast<float>(selected.ImageWidth),
+                     static_cast<float>(selected.ImageHeight));
     const auto above = static_cast<std::size_t>(editor.Page().SelectedLayer);
     return {editor.Page().Layers[above], editor.Page().Layers[above - 1]};
 }
@@ -41,8 +40,8 @@ void FinishOverlay(const OverlayLayers& layers) {
     layer.Visible = true;
 }
 
-UnderlayLayers OpenUnderlay(Editor& editor) {
-    const OverlayLayers room = OpenOverlay(editor, OverlayUndo::OneStep);
+UnderlayLayers OpenUnderlay(Editor& editor, steps::Name step) {
+    const OverlayLayers room = OpenOverlay(editor, step, OverlayUndo::OneStep);
     room.New = room.Source;
     --editor.Page().SelectedLayer;
     return {room.Source, room.New};

@@ -4,6 +4,7 @@
 #include <optional>
 
 #include "editing/editor.h"
+#include "editing/step_names.h"
 #include "filters/gloss_styles.h"
 
 namespace orbelle::editing {
@@ -17,8 +18,9 @@ struct OverlayLayers {
     document::IconLayer& Source;  // the one below it
 };
 
-// Makes room above the selected layer.
-OverlayLayers OpenOverlay(Editor& editor, OverlayUndo undo = OverlayUndo::TwoSteps);
+// Makes room above the selected layer. `step` is what all its undo steps are called.
+OverlayLayers OpenOverlay(Editor& editor, steps::Name step,
+                          OverlayUndo undo = OverlayUndo::TwoSteps);
 
 // The style's picture, at its place on the source picture, becomes the new layer. Without one the
 // layer stays the blank page that making room left.
@@ -34,7 +36,7 @@ struct UnderlayLayers {
 };
 
 // Makes room below the selected layer.
-UnderlayLayers OpenUnderlay(Editor& editor);
+UnderlayLayers OpenUnderlay(Editor& editor, steps::Name step);
 
 // Shows the new layer's opacity, the scene and the panel.
 void ShowStyle(Editor& editor);

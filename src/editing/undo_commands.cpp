@@ -1,5 +1,6 @@
 #include "editing/undo_commands.h"
 
+#include "editing/page_commands.h"
 #include "editing/slider_positions.h"
 
 namespace orbelle::editing {
@@ -16,8 +17,9 @@ void KeepSliderPositions(Editor& editor) {
     layer.Saturation = editor.Sliders.Saturation.Value;
 }
 
-void ShowRestoredStack(Editor& editor) {
+void ShowRestored(Editor& editor) {
     ShowSelectedLayer(editor);
+    FollowPageSize(editor);
     NoteStack(editor.Changed);
 }
 
@@ -28,12 +30,12 @@ void Undo(Editor& editor) {
         return;
     KeepSliderPositions(editor);
     editor.History.Undo(editor.Document);
-    ShowRestoredStack(editor);
+    ShowRestored(editor);
 }
 
 void Redo(Editor& editor) {
     if (editor.History.Redo(editor.Document))
-        ShowRestoredStack(editor);
+        ShowRestored(editor);
 }
 
 }  // namespace orbelle::editing

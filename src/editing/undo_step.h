@@ -2,14 +2,17 @@
 #pragma once
 
 #include "editing/editor.h"
+#include "editing/step_names.h"
 
 namespace orbelle::editing {
 
-// TruncateRedo, then PushSnapshot. Throws document::HistoryLimit when the history is full.
-inline void BeginUndoStep(Editor& editor) {
-    editor.History.CheckRoom(editor.Document);
+// TruncateRedo, then PushSnapshot, as often as the edit counts. Throws document::HistoryLimit, with
+// nothing changed, when not all of these steps fit.
+inline void BeginUndoStep(Editor& editor, steps::Name name, int count = 1) {
+    editor.History.CheckRoom(count);
     editor.History.TruncateRedo();
-    editor.History.PushSnapshot(editor.Document);
+    for (int i = 0; i < count; ++i)
+        editor.History.PushSnapshot(editor.Document, name);
 }
 
 }  // namespace orbelle::editing

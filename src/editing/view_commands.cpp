@@ -32,6 +32,18 @@ void FitBars(Editor& editor, bool mayHide) {
     FitBar(view.VerticalScroll, editor.Page().Height * view.Zoom, view.SceneHeight, mayHide);
 }
 
+void KeepScrolled(ScrollBar& bar, double page, int scene) {
+    const int room = static_cast<int>(page - scene);
+    if (room < 1) {
+        bar = {};
+        return;
+    }
+    const double ratio = bar.Max == 0 ? 0 : static_cast<double>(bar.Value) / bar.Max;
+    bar.Max = room;
+    bar.Value = graphics::RoundToEven(ratio * room);
+    bar.Visible = true;
+}
+
 void Scroll(Editor& editor, ScrollBar& bar, int value) {
     bar.Value = std::clamp(value, 0, bar.Max);
     editor.Changed.Scene = true;
@@ -106,6 +118,12 @@ void ResizeScene(Editor& editor, int width, int height) {
     editor.View.SceneWidth = width;
     editor.View.SceneHeight = height;
     editor.Changed.Scene = true;
+}
+
+void FitScrollBars(Editor& editor) {
+    document::View& view = editor.View;
+    KeepScrolled(view.HorizontalScroll, editor.Page().Width * view.Zoom, view.SceneWidth);
+    KeepScrolled(view.VerticalScroll, editor.Page().Height * view.Zoom, view.SceneHeight);
 }
 
 void ScrollHorizontally(Editor& editor, int value) {

@@ -8,6 +8,10 @@ namespace orbelle::editing {
 // The scene has a new size in scene pixels (each at least 1).
 void ResizeScene(Editor& editor, int width, int height);
 
+// The bars as the page's size asks for, scrolled as far as before; one of a page that fits is
+// hidden and in its middle.
+void FitScrollBars(Editor& editor);
+
 // The user moved a scroll bar to `value` (0 to its Max).
 void ScrollHorizontally(Editor& editor, int value);
 void ScrollVertically(Editor& editor, int value);

@@ -127,12 +127,24 @@ void ShowPartsToAssistiveTools() {
     Q_UNUSED(installed);
 }
 
-void AnnounceFocus(QWidget& control, int part) {
+namespace {
+
+void Announce(QWidget& control, int part, QAccessible::Event what) {
     if (!QAccessible::isActive() || part < 0)
         return;
-    QAccessibleEvent event(&control, QAccessible::Focus);
+    QAccessibleEvent event(&control, what);
     event.setChild(part);
     QAccessible::updateAccessibility(&event);
+}
+
+}  // namespace
+
+void AnnounceFocus(QWidget& control, int part) {
+    Announce(control, part, QAccessible::Focus);
+}
+
+void AnnounceName(QWidget& control, int part) {
+    Announce(control, part, QAccessible::NameChanged);
 }
 
 void AnnounceState(QWidget& control, int part, QAccessible::State changed) {

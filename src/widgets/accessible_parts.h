@@ -30,8 +30,9 @@ protected:
 // From then on controls with parts show them. Calling it again is harmless.
 void ShowPartsToAssistiveTools();
 
-// Tells assistive tools that a part has the focus now, or has a new state.
+// Tells assistive tools that a part has the focus now, or has a new name or state.
 void AnnounceFocus(QWidget& control, int part);
+void AnnounceName(QWidget& control, int part);
 void AnnounceState(QWidget& control, int part, QAccessible::State changed);
 
 }  // namespace orbelle::widgets

@@ -75,6 +75,14 @@ void ButtonBar::SetButtonEnabled(int button, bool enabled) {
     update();
 }
 
+void ButtonBar::SetToolTip(int button, const QString& text) {
+    const int i = IndexOf(button);
+    if (i < 0 || buttons_[i].ToolTip == text)
+        return;
+    buttons_[i].ToolTip = text;
+    AnnounceName(*this, PartOf(i));
+}
+
 int ButtonBar::LastButton() const {
     return lastIndex_ + 1;
 }

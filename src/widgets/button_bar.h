@@ -33,6 +33,7 @@ public:
     bool IsPressed(int button) const;
     void SetPressed(int button, bool pressed);
     void SetButtonEnabled(int button, bool enabled);
+    void SetToolTip(int button, const QString& text);
 
     // The button that the mouse or the keyboard came to last, 0 before the first.
     int LastButton() const;

@@ -122,8 +122,11 @@ NumberSlider::~NumberSlider() {
 }
 
 void NumberSlider::SetRange(int minValue, int maxValue) {
+    const int most = std::max(minValue, maxValue);
+    if (minValue == minValue_ && most == scale_.MaxValue)
+        return;
     minValue_ = minValue;
-    scale_.MaxValue = std::max(minValue, maxValue);
+    scale_.MaxValue = most;
     track_->SetPlace(scale_.PlaceFromValue(value_));
 }
 
@@ -156,12 +159,18 @@ void NumberSlider::TakeText(const QString& text) {
     if (!number || *number == value_)
         return;
     if (!typing_) {
-        typing_ = true;
+        typedFrom_ = value_;
         emit Pressed();
+        typing_ = true;
     }
     value_ = *number;
     track_->SetPlace(scale_.PlaceFromValue(value_));
     emit Changed(value_);
+}
+
+void NumberSlider::CommitTyping() {
+    if (typing_)
+        CommitText();
 }
 
 void NumberSlider::CommitText() {
@@ -220,11 +229,27 @@ void NumberSlider::resizeEvent(QResizeEvent* event) {
     QWidget::resizeEvent(event);
 }
 
+// Escape belongs to a number that is being typed, Undo and Redo only then: the field would take
+// them always. True: the field is not to see it.
+bool NumberSlider::TakeShortcut(QKeyEvent& event) const {
+    if (typing_) {
+        event.setAccepted(event.key() == Qt::Key_Escape);
+        return event.isAccepted();
+    }
+    event.ignore();
+    return event.matches(QKeySequence::Undo) || event.matches(QKeySequence::Redo);
+}
+
 bool NumberSlider::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::ShortcutOverride)
+        return TakeShortcut(*static_cast<QKeyEvent*>(event));
     if (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut) {
         // The field has the focus in our place, so it has to go by our name.
         field_->setAccessibleName(accessibleName());
         update();
+        // The field itself stays in its editing while a menu or another window is in front.
+        if (event->type() == QEvent::FocusOut)
+            CommitTyping();
     }
     return QWidget::eventFilter(watched, event);
 }
@@ -235,6 +260,9 @@ void NumberSlider::hideEvent(QHideEvent* event) {
 }
 
 void NumberSlider::changeEvent(QEvent* event) {
+    // A message box takes the release of the button for itself.
+    if (event->type() == QEvent::ActivationChange && !isActiveWindow())
+        EndSpin();
     if (event->type() == QEvent::EnabledChange && !isEnabled()) {
         EndSpin();
         track_->hide();
@@ -254,7 +282,8 @@ void NumberSlider::mousePressEvent(QMouseEvent* event) {
     for (const int direction : {1, -1})
         if (SpinRect(direction).contains(place)) {
             StartSpin(direction);
-            repeat_.start(kRepeatDelay, this);
+            if (spinning_ != 0)
+                repeat_.start(kRepeatDelay, this);
         }
 }
 
@@ -272,6 +301,11 @@ void NumberSlider::timerEvent(QTimerEvent* event) {
 
 // What the field has no use for comes here.
 void NumberSlider::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Escape && typing_) {
+        ChangeTo(typedFrom_);
+        CommitText();
+        return;
+    }
     const bool isUp = event->key() == Qt::Key_Up;
     if (!isUp && event->key() != Qt::Key_Down)
         return QWidget::keyPressEvent(event);

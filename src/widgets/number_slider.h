@@ -21,6 +21,8 @@ public:
     int Value() const { return value_; }
     // Does not raise Changed. Values beyond the range are taken, as typed ones are.
     void SetValue(int value);
+    // Ends the typing of a number, as leaving the field does.
+    void CommitTyping();
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
@@ -29,7 +31,7 @@ signals:
     // The user typed, spun or dragged the value.
     void Changed(int value);
     // One gesture lies between these two: a drag on the track, a press of a spin arrow, a text
-    // until it is committed with Return or by leaving the field.
+    // until it is committed with Return or by leaving the field or the window.
     void Pressed();
     void Released();
 
@@ -51,6 +53,7 @@ private:
     QRect OpenRect() const;
     void TakeText(const QString& text);
     void CommitText();
+    bool TakeShortcut(QKeyEvent& event) const;
     void StartSpin(int direction);
     void EndSpin();
     void Spin(int direction);
@@ -62,6 +65,7 @@ private:
     int value_ = 0;
     int spinning_ = 0;  // the arrow that is held: +1 or -1, 0 none
     bool typing_ = false;
+    int typedFrom_ = 0;  // the value before the typing, which Escape brings back
     QBasicTimer repeat_;
     QLineEdit* field_;
     SliderTrack* track_;

@@ -9,6 +9,7 @@
 #include "app/main_window.h"
 #include "editing/document_commands.h"
 #include "editing/layer_commands.h"
+#include "editing/page_commands.h"
 
 namespace orbelle::app {
 namespace {
@@ -104,6 +105,33 @@ TEST_F(MainMenuTest, EntriesRunTheCommandOfTheirName) {
         Entry(entry).trigger();
         EXPECT_EQ(Page().LayerCount(), layers) << entry;
     }
+}
+
+TEST_F(MainMenuTest, UndoAndRedoSayWhatTheyWouldDo) {
+    auto& bar = *window.findChild<widgets::ButtonBar*>("MainBar");
+    const auto told = [&] {
+        // As a screen reader has the buttons.
+        const auto name = [&](const char* verb) {
+            for (int part = 0; part < bar.PartCount(); ++part)
+                if (bar.PartName(part).startsWith(verb))
+                    return bar.PartName(part);
+            return QString();
+        };
+        return (Entry("Undo").text() + ", " + Entry("Redo").text() + "; " + name("Undo") + ", " +
+                name("Redo"))
+            .toStdString();
+    };
+    EXPECT_EQ(told(), "&Undo, &Redo; Undo, Redo");
+    NewPage(16, 16, 0, 0);
+    EXPECT_EQ(told(), "&Undo, &Redo; Undo, Redo");
+    Entry("Crystal").trigger();
+    EXPECT_EQ(told(), "&Undo Crystal, &Redo; Undo Crystal, Redo");
+    window.Run([](editing::Editor& editor) { SetPageSize(editor, 20, 16); });
+    EXPECT_EQ(told(), "&Undo Page Size, &Redo; Undo Page Size, Redo");
+    Entry("Undo").trigger();
+    EXPECT_EQ(told(), "&Undo Crystal, &Redo Page Size; Undo Crystal, Redo Page Size");
+    NewPage(16, 16, 0, 0);
+    EXPECT_EQ(told(), "&Undo, &Redo; Undo, Redo");
 }
 
 TEST_F(MainMenuTest, EveryMnemonicIsUniqueInItsMenu) {

@@ -9,6 +9,7 @@
 #include <QFile>
 #include <QFileDialog>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QMimeData>
 #include <QProgressDialog>
@@ -26,6 +27,7 @@
 #include "app/scene_view.h"
 #include "app/settings.h"
 #include "document/scene_painter.h"
+#include "editing/buttons.h"
 #include "editing/clipboard_commands.h"
 #include "editing/color_wells.h"
 #include "editing/document_commands.h"
@@ -397,6 +399,88 @@ TEST_F(MainWindowTest, SlidersMirrorTheEditor) {
         ClickBar("ToolBox", tool);
         EXPECT_EQ(Part<widgets::NumberSlider>("LineWidth").isEnabled(), enabled);
     }
+}
+
+// Typed, spun or dragged; what is typed counts before any other command, and for the question
+// whether changes are to be saved.
+TEST_F(MainWindowTest, EachNumberOfAPageSliderIsOneStep) {
+    NewPage(48, 32);
+    auto& width = Part<widgets::NumberSlider>("PageWidth");
+    auto& field = *width.findChild<QLineEdit*>();
+    const auto type = [&](const char* text) {
+        field.selectAll();
+        for (const char* letter = text; *letter; ++letter)
+            Strike(field, Qt::Key_unknown, QString(*letter));
+    };
+    const auto steps = [&] { return window.Editor().History.UndoIndex(); };
+    type("128");
+    EXPECT_EQ(Page().Width, 128);
+    EXPECT_TRUE(window.Editor().Document.Modified);
+    EXPECT_EQ(steps(), 0);
+    Strike(field, Qt::Key_Return, "\r");
+    EXPECT_EQ(steps(), 1);
+    type("60");
+    ClickBar("ToolBox", 5);
+    EXPECT_EQ(Page().Width, 60);
+    EXPECT_EQ(steps(), 2);
+    ClickBar("MainBar", editing::main_buttons::Undo);
+    EXPECT_EQ(width.Value(), 128);
+    type("128");
+    Strike(field, Qt::Key_Return, "\r");
+    EXPECT_EQ(window.Editor().History.RedoCount(), 1) << "nothing was changed";
+    Strike(field, Qt::Key_Up);
+    EXPECT_EQ(Page().Width, 129);
+    EXPECT_EQ(steps(), 2);
+
+    NewPage(48, 32);  // so that nothing is to be saved
+    OpenPicture(600, 20);
+    type("9999");
+    EXPECT_EQ(field.text(), "600");
+    NewPage(48, 32);
+    type("600");
+    EXPECT_EQ(Page().Width, 512);
+}
+
+TEST_F(MainWindowTest, ASliderWhosePressIsRefusedShowsItsOldValue) {
+    NewPage(48, 32);
+    window.Run([](editing::Editor& editor) {
+        while (editor.History.UndoIndex() < document::UndoHistory::kMaxSnapshots)
+            editor.History.PushSnapshot(editor.Document, "Step");
+    });
+    int told = 0;
+    const auto refused = [&](const std::function<void()>& gesture) {
+        AnswerDialog<QMessageBox>([&](QMessageBox& box) {
+            ++told;
+            EXPECT_TRUE(box.text().startsWith("The undo history is full"));
+            box.accept();
+        });
+        gesture();
+    };
+    auto& opacity = Part<widgets::TrackSlider>("Opacity");
+    refused([&] {
+        Press(opacity, {20, 10});
+        DragTo(opacity, {40, 10});
+        DragTo(opacity, {50, 10});
+        Release(opacity, {50, 10});
+    });
+    EXPECT_EQ(opacity.value(), 100);
+    refused([&] { Strike(opacity, Qt::Key_Left); });
+    EXPECT_EQ(opacity.value(), 100);
+    auto& width = Part<widgets::NumberSlider>("PageWidth");
+    auto& field = *width.findChild<QLineEdit*>();
+    refused([&] {
+        for (const char* letter : {"7", "8"})
+            Strike(field, Qt::Key_unknown, letter);
+        Strike(field, Qt::Key_Return, "\r");
+    });
+    EXPECT_EQ(width.Value(), 48);
+    EXPECT_EQ(field.text(), "48");
+    refused([&] { Press(width, {65, 6}); });
+    EXPECT_EQ(width.Value(), 48);
+    EXPECT_EQ(told, 4);
+    window.Run(editing::Undo);
+    Strike(opacity, Qt::Key_Left);
+    EXPECT_EQ(window.Editor().Page().Selected().Opacity, 0.99F);
 }
 
 // An adjustment counts from where it changes nothing.

@@ -121,6 +121,17 @@ TEST_F(RealWindowTest, StylesAndSlidersChangeThePictureAndAreUndone) {
         }
         Press({"ctrl+z"});
     }
+    // So is a number that is typed, with the focus still in its field.
+    Click(Control("PageWidth"));
+    Press({"ctrl+a"});
+    Do({"type", "150"});
+    Press({"Return"});
+    const QImage narrow = Scene();
+    EXPECT_NE(narrow, before);
+    for (const auto& [key, shown] : {std::pair("ctrl+z", before), {"ctrl+y", narrow}}) {
+        Press({key});
+        EXPECT_EQ(Scene(), shown) << key;
+    }
     Press({"ctrl+q"});
     EXPECT_TRUE(FocusWindow("^Save Icon Document"));
     Press({"alt+n"});

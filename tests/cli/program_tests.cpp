@@ -20,8 +20,8 @@ TEST_F(ProgramTest, InfoTellsTheDocumentInOneLine) {
         R"("contrast":50,"region":null})";
     const std::string told =
         R"({"page":{"width":64,"height":48,"background":"#80FF0000"},"path":"","modified":true,)"
-        R"("selected":1,"undo":1,"redo":1,"selection":null,"layers":[)";
-    EXPECT_EQ(Run("new 64 48 add-layer opacity 5 30 background '#80ff0000' undo info"),
+        R"("selected":1,"undo":2,"redo":1,"selection":null,"layers":[)";
+    EXPECT_EQ(Run("new 64 48 background '#80ff0000' add-layer opacity 5 30 undo info"),
               (Outcome{0, told + layer + "," + layer + "]}\n", ""}));
 }
 

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "graphics/errors.h"
 #include "support/pictures.h"
 
 namespace orbelle::document {
@@ -42,6 +43,17 @@ TEST(LayerSlots, LayersThatMoveUpAreCopiedInTheSizeThatTheCommandNames) {
         EXPECT_EQ(page.SelectedLayer, 1);
         EXPECT_EQ(page.Layers[2].Image.Width(), copied);
         EXPECT_EQ(page.Layers[2].Image.GetPixel(3, 3), 0xFF000000);
+    }
+}
+
+TEST(LayerSlots, ThereIsRoomFor101Layers) {
+    Page page = TwoSquares();
+    while (page.LayerCount() < 101)
+        OpenLayerSlot(page, SlotCopySize::Image);
+    for (const int layers : {101, 300}) {
+        page.Layers.resize(static_cast<std::size_t>(layers));
+        EXPECT_THROW(OpenLayerSlot(page, SlotCopySize::Image), Error);
+        EXPECT_EQ(page.LayerCount(), layers);
     }
 }
 

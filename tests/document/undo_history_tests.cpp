@@ -3,11 +3,14 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <string>
 
 #include "support/pictures.h"
 
 namespace orbelle::document {
 namespace {
+
+constexpr std::string_view kName = "Style";
 
 // A document of `layers` layers; the lowest one's Hue tells states apart.
 Document DocumentOf(int layers) {
@@ -17,9 +20,9 @@ Document DocumentOf(int layers) {
     return document;
 }
 
-void Step(UndoHistory& history, Document& document, int hue) {
+void Step(UndoHistory& history, Document& document, int hue, std::string_view name = kName) {
     history.TruncateRedo();
-    history.PushSnapshot(document);
+    history.PushSnapshot(document, name);
     document.Master.Layers[0].Hue = hue;
 }
 
@@ -37,10 +40,10 @@ TEST(UndoHistory, GoesBackAndForthThroughWholeStacksAndCopiesNoPixel) {
     Document document = DocumentOf(1);
     document.Master.Layers[0].Image = testing::FilledPicture(2, 2, 0xFF000000);
     UndoHistory history;
-    history.PushSnapshot(document);
+    history.PushSnapshot(document, kName);
     document.Master.Layers.push_back(document.Master.Layers[0]);
     document.Master.SelectedLayer = 1;
-    history.PushSnapshot(document);
+    history.PushSnapshot(document, kName);
     const graphics::Argb* pixels = document.Master.Layers[1].Image.Pixels();
     document.Master.Layers[1].Image.SetPixel(0, 0, 0x12345678);
     document.Master.Layers[0].Visible = false;
@@ -81,7 +84,7 @@ TEST(UndoHistory, AnEditAfterUndoForgetsWhatLayAhead) {
 TEST(UndoHistory, EveryStepMarksTheDocumentAsChanged) {
     Document document = DocumentOf(1);
     UndoHistory history;
-    const std::function<void()> steps[] = {[&] { history.PushSnapshot(document); },
+    const std::function<void()> steps[] = {[&] { history.PushSnapshot(document, kName); },
                                            [&] { history.Undo(document); },
                                            [&] { history.Redo(document); }};
     for (const auto& step : steps) {
@@ -91,26 +94,65 @@ TEST(UndoHistory, EveryStepMarksTheDocumentAsChanged) {
     }
 }
 
-TEST(UndoHistory, RefusesMoreThan101LayersWithNothingLost) {
-    Document document = DocumentOf(101);
+TEST(UndoHistory, HoldsThePagesSizeAndTheBackground) {
+    Document document = DocumentOf(1);
     UndoHistory history;
-    history.PushSnapshot(document);
-    document.Master.Layers.emplace_back();
-    EXPECT_THROW(history.PushSnapshot(document), HistoryLimit);
-    EXPECT_EQ(history.UndoIndex(), 1);
-    // The step that led here can still be taken back and forth.
-    history.Undo(document);
-    EXPECT_EQ(document.Master.LayerCount(), 101);
+    for (const int step : {1, 2, 3}) {
+        history.PushSnapshot(document, kName);
+        document.Master.Width = 10 * step;
+        document.Master.Height = 20 * step;
+        document.Background = static_cast<graphics::Argb>(step);
+    }
+    const auto expect = [&](int step) {
+        EXPECT_EQ(document.Master.Width, 10 * step);
+        EXPECT_EQ(document.Master.Height, 20 * step);
+        EXPECT_EQ(document.Background, static_cast<graphics::Argb>(step));
+    };
+    for (int step = 2; history.Undo(document); --step)
+        expect(step);
+    for (int step = 1; history.Redo(document); ++step)
+        expect(step);
+    expect(3);
+}
+
+TEST(UndoHistory, TellsTheNameOfTheStepOnEitherSide) {
+    Document document = DocumentOf(1);
+    UndoHistory history;
+    const auto sides = [&] {
+        return std::string(history.UndoName()) + '|' + std::string(history.RedoName());
+    };
+    EXPECT_EQ(sides(), "|");
+    for (const char* name : {"a", "b", "c"})
+        Step(history, document, 1, name);
+    EXPECT_EQ(sides(), "c|");
+    for (const char* expected : {"b|c", "a|b", "|a"}) {
+        history.Undo(document);
+        EXPECT_EQ(sides(), expected);
+    }
     history.Redo(document);
-    EXPECT_EQ(document.Master.LayerCount(), 102);
+    EXPECT_EQ(sides(), "a|b");
+    const UndoHistory::Place place = history.Here();
+    Step(history, document, 2, "d");
+    EXPECT_EQ(sides(), "d|");
+    history.RollBack(place);
+    EXPECT_EQ(sides(), "a|b");
+    for (const char* expected : {"b|c", "c|"}) {
+        history.Redo(document);
+        EXPECT_EQ(sides(), expected);
+    }
+    history.ClearHistory();
+    EXPECT_EQ(sides(), "|");
 }
 
 TEST(UndoHistory, Refuses5002SnapshotsWithNothingLost) {
     Document document = DocumentOf(1);
     UndoHistory history;
-    for (int step = 1; step <= 5001; ++step)
+    for (int step = 1; step <= 5000; ++step)
         Step(history, document, step);
-    EXPECT_THROW(history.PushSnapshot(document), HistoryLimit);
+    EXPECT_THROW(history.CheckRoom(2), HistoryLimit);
+    history.CheckRoom();
+    Step(history, document, 5001);
+    EXPECT_THROW(history.PushSnapshot(document, kName), HistoryLimit);
     const std::vector<int> hues = HuesOnTheWay(history, document);
     EXPECT_EQ(hues.size(), 2 * 5001U);
     EXPECT_EQ(hues[5000], 0);

@@ -2,8 +2,11 @@
 // that nothing happens without a selected layer.
 #include "editing/adjust_sliders.h"
 #include "editing/clipboard_commands.h"
+#include "editing/layer_bar.h"
 #include "editing/layer_commands.h"
+#include "editing/page_commands.h"
 #include "editing/stack_commands.h"
+#include "editing/style_commands.h"
 #include "editing/tips.h"
 #include "editing/undo_commands.h"
 #include "editing_fixture.h"
@@ -33,6 +36,98 @@ TEST_F(Commands, GiveATipThatFits) {
         Do(command.Run);
         EXPECT_EQ(recorder.LastTip(), command.Tip) << command.Name;
     }
+}
+
+TEST_F(Commands, NameTheirStepsForUndoAndRedo) {
+    const auto drag = [this](Tool tool) {
+        return [this, tool](Editor& e) {
+            e.Tools.InUse = tool;
+            for (const auto& [handle, x] :
+                 {std::pair(&MoveScene, 7.0F), {PressScene, 7.0F}, {MoveScene, 9.0F}})
+                handle(e, OnPage(x, 8));
+            ReleaseScene(e, OnPage(9, 9));
+        };
+    };
+    const auto selected = [](const Command& command) {
+        return [=](Editor& e) {
+            e.Selection.AddFrame(5, 6, 9, 9, document::FrameShape::Rectangle);
+            command(e);
+        };
+    };
+    std::vector<NamedCommand> commands = LayerCommands();
+    commands.insert(
+        commands.end(),
+        {{"add", PressAddLayer, "Add Layer"},
+         {"import", [](Editor& e) { ImportPicture(e, FilledPicture(3, 3, kBlue)); }, "Import"},
+         {"paste", [](Editor& e) { CopyToClipboard(e), PasteFromClipboard(e); }, "Paste"},
+         {"page size", [](Editor& e) { SetPageSize(e, 9, 8); }, "Page Size"},
+         {"background", [](Editor& e) { SetPageBackground(e, kBlue); }, "Page Background"},
+         {"cut selection", selected(CutToClipboard), "Cut"},
+         {"delete selection", selected(DeleteSelected), "Delete Selection"},
+         {"lift", selected([this](Editor& e) { PressScene(e, OnPage(7, 8)); }), "Move Selection"},
+         {"move", drag(Tool::Move), "Move Layer"},
+         {"pencil", drag(Tool::Pencil), "Pencil"},
+         {"line", drag(Tool::Line), "Line"},
+         {"rectangle", drag(Tool::Rectangle), "Rectangle"},
+         {"ellipse", drag(Tool::Ellipse), "Ellipse"},
+         {"filled rectangle", drag(Tool::FilledRectangle), "Filled Rectangle"},
+         {"filled ellipse", drag(Tool::FilledEllipse), "Filled Ellipse"},
+         {"pencil eraser", drag(Tool::PencilEraser), "Pencil Eraser"},
+         {"brush eraser", drag(Tool::BrushEraser), "Brush Eraser"}});
+    for (const NamedCommand& command : commands) {
+        SCOPED_TRACE(command.Name);
+        editor.Tools.InUse = Tool::Move;
+        OpenPage(24, 20);
+        PutLayer(FilledPicture(6, 4, kBlue), 3, 4);
+        PutLayer(FilledPicture(5, 5, kBlue), 6, 7);
+        Do(command.Run);
+        const std::string name = command.Step;
+        EXPECT_EQ(Steps() == 0, name.empty());
+        for (int steps = Steps(); steps > 0; --steps) {
+            EXPECT_EQ(editor.States.UndoName, name);
+            Do(Undo);
+            EXPECT_EQ(editor.States.RedoName, name);
+        }
+        EXPECT_EQ(editor.States.UndoName, "");
+    }
+}
+
+// Also where a document came with more layers, or the history has no room.
+TEST_F(Commands, A102ndLayerIsRefusedWithNothingChanged) {
+    Do(CopyToClipboard);
+    Do(SetLayerOrder, LayerOrder::ToBack);
+    Do(Undo);
+    const std::pair<const char*, Command> adders[] = {
+        {"add", PressAddLayer},
+        {"paste", PasteFromClipboard},
+        {"import", [](Editor& e) { ImportPicture(e, FilledPicture(3, 3, kBlue)); }},
+        {"lift", [this](Editor& e) { PressScene(e, OnPage(7, 8)); }}};
+    const std::string refusal = "A document can't have more than 101 layers.";
+    for (const int layers : {101, 150}) {
+        editor.Page().Layers.resize(static_cast<std::size_t>(layers), Layer(2));
+        editor.Selection.AddFrame(5, 6, 9, 9, document::FrameShape::Rectangle);
+        Show();
+        const std::string before = testing::AccountOf(editor) + testing::AccountOf(recorder.Copied);
+        for (const auto& [name, run] : adders) {
+            EXPECT_EQ(editing::Run(editor, run).Problem(), refusal) << name;
+            EXPECT_EQ(testing::AccountOf(editor) + testing::AccountOf(recorder.Copied), before)
+                << name;
+        }
+        for (const NamedCommand& command : LayerCommands()) {
+            const int steps = Steps();
+            const std::string problem = editing::Run(editor, command.Run).Problem();
+            EXPECT_TRUE(problem.empty() || problem == refusal) << command.Name << problem;
+            EXPECT_LE(editor.Page().LayerCount(), layers) << command.Name;
+            while (Steps() > steps)
+                Do(Undo);
+            Do(SelectLayer, layers - 1);
+        }
+    }
+    // Room for one: a style that takes two steps makes one layer.
+    editor.Page().Layers.resize(100);
+    Do(SelectLayer, 50);
+    Do(Crystal);
+    EXPECT_EQ(editor.Page().LayerCount(), 101);
 }
 
 TEST_F(Commands, DoNothingWithoutASelectedLayer) {
@@ -79,7 +174,7 @@ TEST_F(Commands, SlidersHaveLabels) {
                  {Adjustment::Brightness, editor.Sliders.Brightness, 70, 20},
                  {Adjustment::Contrast, editor.Sliders.Contrast, 30, -20}};
     for (const auto& c : cases) {
-        Do(PressAdjustment);
+        Do(PressAdjustment, c.Kind);
         Step(ChangeAdjustment, c.Kind, c.Value);
         EXPECT_EQ(c.Shown.Label, c.Label);
         Step(ChangeAdjustment, c.Kind, c.Value + 100);  // brought to the end
@@ -118,7 +213,7 @@ TEST_F(Commands, SlidersHaveLabels) {
 
 // Also those of a drag that undo gives up.
 TEST_F(Commands, RedoShowsTheSlidersAsTheyStoodAtUndo) {
-    Do(PressAdjustment);
+    Do(PressAdjustment, Adjustment::Hue);
     Step(ChangeAdjustment, Adjustment::Hue, 70);
     Do(Undo);
     EXPECT_EQ(editor.Sliders.Hue.Value, 0);

@@ -154,7 +154,8 @@ protected:
 struct NamedCommand {
     const char* Name;
     Command Run;
-    int Tip = -1;  // that it asks for
+    const char* Step = "";  // what its undo steps are called; empty: it has none
+    int Tip = -1;           // that it asks for
 };
 
 // All that work on the selected layer, and undo and redo.

@@ -58,12 +58,17 @@ protected:
         const int to = Below(101);
         const std::vector<editing::Command> drags[] = {
             {PressOpacity, [=](Editor& e) { ChangeOpacity(e, to); }, ReleaseOpacity},
-            {PressAdjustment, [=](Editor& e) { ChangeAdjustment(e, kind, to); },
+            {[=](Editor& e) { PressAdjustment(e, kind); },
+             [=](Editor& e) { ChangeAdjustment(e, kind, to); },
              [=](Editor& e) { ReleaseAdjustment(e, kind); }},
-            {PressScale, [=](Editor& e) { ChangeScale(e, to); }, ReleaseScale}};
-        const auto& drag = drags[Below(3)];
+            {PressScale, [=](Editor& e) { ChangeScale(e, to); }, ReleaseScale},
+            {PressPageSize, [=](Editor& e) { ChangePageHeight(e, kPageSide - 20 + to / 4); },
+             ReleasePageSize}};
+        const auto& drag = drags[Below(4)];
         Do(drag[0]);
         EditingTest::Step(drag[1]);
+        if (Chance(10))
+            Do(Redo);
         EditingTest::Step(drag[2]);
     }
 
@@ -91,7 +96,7 @@ protected:
             [&] { Do(SelectLayer, Below(editor.Page().LayerCount() + 1)); },
             [&] { SliderDrag(); },
             [&] { View(); },
-            [&] { Do(ChangePageWidth, kPageSide - 10 + Below(20)); },
+            [&] { Do(SetPageSize, kPageSide - 10 + Below(20), kPageSide); },
             [&] { Do(SetPageBackground, Argb{Chance(50) ? 0 : 0xFF808080}); },
             // Never to the very first state: a step from there would replace it.
             [&] { Steps() > 1 ? Do(Undo) : Do(Redo); },
@@ -151,6 +156,10 @@ protected:
     void CheckStates() {
         const document::Page& page = editor.Page();
         ASSERT_TRUE(editor.States == StatesOf(editor, editor.History, recorder.HasPicture()));
+        ASSERT_EQ(editor.States.UndoName.empty(), Steps() == 0);
+        ASSERT_EQ(editor.States.RedoName.empty(), editor.History.RedoCount() == 0);
+        ASSERT_EQ(editor.Sliders.PageWidth.Value, page.Width);
+        ASSERT_EQ(editor.Sliders.PageHeight.Value, page.Height);
         ASSERT_EQ(editor.Sliders.Opacity.Enabled, page.HasSelection());
         ASSERT_TRUE(!page.HasSelection() ||
                     editor.Sliders.Opacity.Value ==
@@ -171,7 +180,10 @@ protected:
 };
 
 TEST_P(RandomUser, KeepsTheDocumentWhole) {
-    const std::string first = testing::AccountOf(editor.Page());
+    const auto account = [this] {
+        return testing::AccountOf(editor.Page()) + std::to_string(editor.Document.Background);
+    };
+    const std::string first = account();
     Do(PressAddLayer);
     for (int i = 0; i < kSteps; ++i) {
         SCOPED_TRACE("step " + std::to_string(i));
@@ -183,14 +195,14 @@ TEST_P(RandomUser, KeepsTheDocumentWhole) {
         if (HasFailure())
             return;
     }
-    const std::string last = testing::AccountOf(editor.Page());
+    const std::string last = account();
     const int steps = Steps();
     for (const auto command : {Undo, Redo}) {
         for (int i = 0; i < steps; ++i) {
             Do(command);
             CheckStates();
         }
-        EXPECT_EQ(testing::AccountOf(editor.Page()), command == Undo ? first : last);
+        EXPECT_EQ(account(), command == Undo ? first : last);
     }
     CheckPage();
 }

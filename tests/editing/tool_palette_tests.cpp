@@ -2,7 +2,6 @@
 
 #include "editing/buttons.h"
 #include "editing/color_wells.h"
-#include "editing/page_commands.h"
 #include "editing/tips.h"
 #include "editing_fixture.h"
 
@@ -137,8 +136,7 @@ TEST_F(ToolPalette, OptionsStopAtTheEndsOfTheirSliders) {
         int Most;
     } cases[] = {{ChangeLineWidth, editor.Sliders.LineWidth, 255},
                  {ChangeBrushSize, editor.Sliders.BrushSize, 100},
-                 {ChangeBrushOpacity, editor.Sliders.BrushOpacity, 100},
-                 {ChangePageWidth, editor.Sliders.PageWidth, 512}};
+                 {ChangeBrushOpacity, editor.Sliders.BrushOpacity, 100}};
     for (const auto& c : cases) {
         for (const auto& [value, shown] : {std::pair{7, 7}, {0, 1}, {9999, c.Most}}) {
             Do(c.Change, value);

@@ -85,7 +85,7 @@ TEST_F(ViewCommands, OriginalSizeGoesBackToTheZoomBeforeOrToAFit) {
     EXPECT_EQ(editor.View.Zoom, 6.4);  // (768 - 4) / 119, in tenths
     Do(ZoomOut);
     Do(OriginalSize);
-    Do(ChangePageWidth, 417);
+    Do(SetPageSize, 417, 119);
     Do(OriginalSize);
     EXPECT_EQ(editor.View.Zoom, 2.4);  // (1024 - 4) / 417
     EXPECT_FALSE(editor.Zoom.PageSizeChanged);

@@ -459,11 +459,8 @@ const Scenario kScenarios[] = {
     {"Rotate",
      Simply<[](Editor& editor) { FlipRotateLayer(editor, editing::FlipRotate::Rotate90Cw); }>},
     {"Background", Simply<[](Editor& editor) { SetPageBackground(editor, 0x80FF0000); }>},
-    {"PageSize",
-     [](const fs::path&) {
-         return Steps{{[](Editor& editor) { ChangePageWidth(editor, 17); }},
-                      {[](Editor& editor) { ChangePageHeight(editor, 29); }}};
-     }},
+    {"PageSize", Slide<editing::PressPageSize, [](Editor& editor) { ChangePageWidth(editor, 17); },
+                       editing::ReleasePageSize>},
     {"Nudge", Simply<[](Editor& editor) { KeyDownScene(editor, editing::SceneKey::Right); }>},
     {"ZoomIn", Simply<editing::ZoomIn>},
 
@@ -482,7 +479,7 @@ const Scenario kScenarios[] = {
      "", Use<Tool::SelectPolygon>},
     {"Opacity", Slide<editing::PressOpacity, [](Editor& editor) { ChangeOpacity(editor, 30); },
                       editing::ReleaseOpacity>},
-    {"Hue", Slide<editing::PressAdjustment,
+    {"Hue", Slide<[](Editor& editor) { PressAdjustment(editor, Adjustment::Hue); },
                   [](Editor& editor) { ChangeAdjustment(editor, Adjustment::Hue, 30); },
                   [](Editor& editor) { ReleaseAdjustment(editor, Adjustment::Hue); }>},
     {"Scale", Slide<editing::PressScale, [](Editor& editor) { ChangeScale(editor, 60); },

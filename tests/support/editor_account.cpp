@@ -47,7 +47,7 @@ std::ostream& operator<<(std::ostream& out, const document::IconLayer& layer) {
 }
 
 std::ostream& operator<<(std::ostream& out, const document::Page& page) {
-    out << "selected " << page.SelectedLayer << '\n';
+    out << page.Width << 'x' << page.Height << " selected " << page.SelectedLayer << '\n';
     for (const document::IconLayer& layer : page.Layers)
         out << "  layer " << layer << '\n';
     return out;
@@ -65,10 +65,13 @@ std::ostream& operator<<(std::ostream& out, const document::ScrollBar& bar) {
 void TellHistory(std::ostream& out, document::UndoHistory history, document::Document document) {
     out << "history " << history.UndoIndex() << " and " << history.RedoCount() << " of "
         << history.UndoCount() << '\n';
+    const auto tell = [&](const char* what, std::string_view name) {
+        out << what << name << " background " << document.Background << ' ' << document.Master;
+    };
     while (history.Undo(document))
-        out << " undo " << document.Master;
+        tell(" undo ", history.RedoName());
     while (history.Redo(document))
-        out << " redo " << document.Master;
+        tell(" redo ", history.UndoName());
 }
 
 }  // namespace
@@ -89,8 +92,7 @@ std::string AccountOf(const editing::Editor& editor) {
     std::ostringstream out;
     out << std::boolalpha << "document " << editor.DocumentExists << ' ' << editor.Document.Path
         << " modified " << editor.Document.Modified << " background " << editor.Document.Background
-        << " title " << editor.Title << "\npage " << editor.Page().Width << 'x'
-        << editor.Page().Height << ' ' << editor.Page();
+        << " title " << editor.Title << "\npage " << editor.Page();
     TellHistory(out, editor.History, editor.Document);
 
     out << "selection " << editor.Selection.Exists() << ' ' << editor.Selection.Region();

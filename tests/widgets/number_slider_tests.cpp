@@ -77,6 +77,33 @@ TEST_F(NumberSliderTest, OneTypedTextIsOneGesture) {
     EXPECT_EQ(slider_.Value(), 300) << "typed values may lie beyond the range";
 }
 
+TEST_F(NumberSliderTest, EscapeBringsBackTheNumberBeforeTheTyping) {
+    Enter("102");
+    Strike(field_, Qt::Key_Escape);
+    EXPECT_EQ(gestures_.Told(), "pressed 1 10 102 51 released");
+    EXPECT_EQ(field_.text(), "51");
+}
+
+// While nothing is typed they are the window's.
+TEST_F(NumberSliderTest, TakesUndoAndEscapeOnlyWhileANumberIsTyped) {
+    const auto isTaken = [&](Qt::Key key, Qt::KeyboardModifiers modifiers) {
+        QKeyEvent event(QEvent::ShortcutOverride, key, modifiers);
+        event.ignore();
+        QApplication::sendEvent(&field_, &event);
+        return event.isAccepted();
+    };
+    for (const bool typing : {false, true, false}) {
+        if (typing)
+            Enter("7");
+        else
+            Strike(field_, Qt::Key_Return, "\r");
+        EXPECT_EQ(isTaken(Qt::Key_Z, Qt::ControlModifier), typing);
+        EXPECT_EQ(isTaken(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier), typing);
+        EXPECT_EQ(isTaken(Qt::Key_Escape, Qt::NoModifier), typing);
+        EXPECT_TRUE(isTaken(Qt::Key_C, Qt::ControlModifier));
+    }
+}
+
 TEST_F(NumberSliderTest, TypedTextsThatAreNoNumberChangeNothing) {
     const auto insert = [&](const char* text) {
         field_.setText(text);
@@ -140,6 +167,13 @@ TEST_F(NumberSliderTest, WhatInterruptsAGestureEndsIt) {
     Enter("9");
     Strike(field_, Qt::Key_Up);
     EXPECT_EQ(gestures_.Told(), "pressed 9 released pressed 10 released");
+    for (const Qt::FocusReason reason : {Qt::PopupFocusReason, Qt::ActiveWindowFocusReason}) {
+        Enter("9");
+        QFocusEvent leaves(QEvent::FocusOut, reason);
+        QApplication::sendEvent(&field_, &leaves);
+        EXPECT_EQ(gestures_.Told(), "pressed 9 released");
+        slider_.SetValue(10);
+    }
     Press(slider_, up_);
     slider_.setEnabled(false);
     EXPECT_EQ(gestures_.Told(), "pressed 11 released");

@@ -30,11 +30,11 @@ void Erase(Editor& editor, Eraser eraser, const SceneMapping& mapping, const Poi
     });
 }
 
-template <Eraser kEraser>
+template <Eraser kEraser, const steps::Name& kStep>
 void Press(Editor& editor, const Pointer& pointer) {
     if (!editor.Page().HasSelection())
         return;
-    BeginUndoStep(editor);
+    BeginUndoStep(editor, kStep);
     editor.Drag = EraserDrag{{pointer.X, pointer.Y}};
     Erase(editor, kEraser, MappingAtPress(editor), pointer);
 }
@@ -59,7 +59,8 @@ AfterRelease Release(Editor& editor, const Pointer&) {
 
 }  // namespace
 
-const ToolHandlers kPencilEraserTool = {Press<ErasePixel>, MovePencil, Release};
-const ToolHandlers kBrushEraserTool = {Press<EraseSpot>, MoveBrush, Release};
+const ToolHandlers kPencilEraserTool = {Press<ErasePixel, steps::PencilEraser>, MovePencil,
+                                        Release};
+const ToolHandlers kBrushEraserTool = {Press<EraseSpot, steps::BrushEraser>, MoveBrush, Release};
 
 }  // namespace orbelle::editing

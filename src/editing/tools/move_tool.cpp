@@ -61,7 +61,7 @@ AfterRelease Release(Editor& editor, const Pointer& pointer) {
     // The step to undo holds the place before the drag.
     const graphics::RectF moved = editor.Page().Selected().Rect;
     editor.Page().Selected().Rect = before;
-    BeginUndoStep(editor);
+    BeginUndoStep(editor, steps::MoveLayer);
     document::IconLayer& layer = editor.Page().Selected();
     layer.Rect = moved;
     // A picture without a visible pixel keeps its region, which then moves twice

@@ -6,7 +6,7 @@
 
 namespace orbelle::editing {
 
-// Nothing without a selected layer.
+// Nothing without a selected layer. Throws document::HistoryLimit when no step fits.
 void BeginStroke(Editor& editor, const Pointer& pointer);
 
 // Hard-edged, on the picture of the press; then composes.

@@ -59,7 +59,7 @@ TEST_F(ClipboardCommands, WithASelection) {
         // A selection that begins left of the right edge and ends beyond it.
         {"beyond the page nothing is copied",
          "open dots.volf tool select-rectangle drag 3 1 7 1 page 6 8 copy paste",
-         "clipboard/pixels , 2/size 0 0, 2/rect 3 1 5 1, undo 1"},
+         "clipboard/pixels , 2/size 0 0, 2/rect 3 1 5 1, undo 2"},
         {"and what is lifted off is lost",
          "open dots.volf tool select-rectangle drag 3 1 7 1 page 6 8 tool move click 0 7",
          "2/pixels , 2/size 6 8, 2/rect 3 1 5 1, 2/image 5 1, 1@1,0 FF000001, 1@2,0 00000000"},

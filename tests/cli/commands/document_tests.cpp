@@ -78,23 +78,44 @@ TEST_F(DocumentCommands, WhatFailsLeavesEverythingAsItWas) {
         {"new 99999999999 8", size},
     };
     for (const auto& [verb, reason] : failures)
-        Check("open a.png import b.png undo background #112233 icon-entry 2 ",
-              "widths 12, selected 0, undo 0, redo 1, modified true, page/width 12, path , title "
+        Check("open a.png background #112233 import b.png undo icon-entry 2 ",
+              "widths 12, selected 0, undo 1, redo 1, modified true, page/width 12, path , title "
               "Varnel Orbelle - Project *, error ",
               {{"fails", verb, verb + ": " + reason}});
 }
 
-TEST_F(DocumentCommands, PageAndBackgroundAreNoSteps) {
+TEST_F(DocumentCommands, PageAndBackgroundAreSteps) {
     Check({
         {"the sliders stop at their ends", "new 20 20 page 900 -5",
-         "page/width 512, page/height 1, 0/rect 0 0 20 20, undo 0, modified false, "
+         "page/width 512, page/height 1, 0/rect 0 0 20 20, undo 2, modified true, "
          "slider/page-width 512, slider/page-height 1"},
         {"huge numbers", "new 9 9 page -99999999999 99999999999", "page/width 1, page/height 512"},
+        {"one side", "new 9 9 page 9 7", "page/height 7, undo 1"},
+        {"neither", "new 9 9 page 9 9", "undo 0, modified false"},
+        {"undo takes them back one by one", "new 9 9 page 5 6 undo",
+         "page/width 5, page/height 9, slider/page-height 9, undo 1, redo 1"},
+        {"and redo", "new 9 9 page 5 6 undo undo redo redo",
+         "page/width 5, page/height 6, slider/page-width 5, undo 2, redo 0"},
+        {"a picture larger than the sliders", "open large.png page 9999 9999",
+         "page/width 600, page/height 512, undo 1"},
+        {"small and back", "open large.png page 5 5 page 600 400",
+         "page/width 600, slider/page-width 600, undo 4"},
         {"background", "new 20 20 background #80102030",
-         "page/background #80102030, undo 0, modified false"},
-        {"none", "new 2 2 background none", "page/background #00000000, page@0,0 00000000"},
-        {"undo keeps both", "new 9 9 add-layer page 5 6 background #102030 undo",
-         "widths 9, page/width 5, page/height 6, page/background #FF102030"},
+         "page/background #80102030, undo 1, modified true"},
+        {"none", "new 2 2 background none",
+         "page/background #00000000, page@0,0 00000000, undo 0, modified false"},
+        {"the same twice", "new 2 2 background #102030 background #102030", "undo 1"},
+        {"undo", "new 2 2 background #102030 background none undo",
+         "page/background #FF102030, undo 1, redo 1"},
+        {"redo", "new 2 2 background #102030 undo redo", "page/background #FF102030, redo 0"},
+        {"with layers in between",
+         "new 9 9 page 5 9 add-layer page 5 6 background #102030 undo "
+         "undo undo",
+         "widths 9, page/width 5, page/height 9, page/background #00000000, undo 1, redo 3"},
+        {"a selection keeps what lies on the page",
+         "new 20 20 tool select-rectangle page 9 20 drag 1 1 8 8 page 30 20 drag 1 1 25 8 undo",
+         "selection/runs 1-8: 1-8"},
+        {"a new page has no old steps", "new 9 9 page 5 6 new 8 8", "undo 0, page/width 8"},
     });
 }
 
@@ -112,12 +133,15 @@ TEST_F(DocumentCommands, UndoAndRedoKeepTheSliders) {
 TEST_F(DocumentCommands, AFullHistoryLeavesEverything) {
     const std::pair<int, std::string> lists[] = {
         {0,
-         "add-layer,import b.png,opacity 5,hue 5,contrast 5,scale 60,order back,flip vertical,"
+         "add-layer,import b.png,page 9 10,background #102030,opacity 5,hue 5,contrast 5,scale "
+         "60,order back,flip vertical,"
          "rotate cw,delete,merge,cut,copy paste,style hot,style blur,style mac,style ios,"
          "style shadow,style vista,key left,key delete,tool move drag 5 5 7 7,"
          "tool pencil drag 5 5 7 7,tool filled-ellipse drag 1 1 7 7,tool pencil-eraser click 5 5,"
          "tool brush-eraser click 5 5"},
-        {1, "merge,style crystal,style reflection,style shade,style fresh,style origami-vertical"}};
+        {1,
+         "page 9 9,merge,style crystal,style reflection,style shade,style fresh,style "
+         "origami-vertical"}};
     std::vector<std::pair<int, std::string>> edits;
     for (const auto& [free, list] : lists)
         for (const std::string& edit : Split(list, ","))
@@ -129,7 +153,7 @@ TEST_F(DocumentCommands, AFullHistoryLeavesEverything) {
         ASSERT_EQ(RunScript(workspace, "open a.png foreground #FF0000 import a.png"), "");
         editing::Editor& editor = workspace.Editor;
         while (editor.History.UndoIndex() < document::UndoHistory::kMaxSnapshots - free)
-            editor.History.PushSnapshot(editor.Document);
+            editor.History.PushSnapshot(editor.Document, "Step");
         const auto account = [&] {
             return DescribeDocument(editor) + testing::AccountOf(editor.Page()) +
                    testing::AccountOf(editor.Canvas);
@@ -141,6 +165,23 @@ TEST_F(DocumentCommands, AFullHistoryLeavesEverything) {
         EXPECT_TRUE(std::holds_alternative<std::monostate>(editor.Drag));
         EXPECT_EQ(workspace.Host.HasPicture(), edit == "copy paste");
     }
+}
+
+// A document may come with more; nothing adds another one.
+TEST_F(DocumentCommands, ThereAreAtMost101Layers) {
+    const Placed tile{FilledPicture(12, 10, kBlue), {}};
+    WriteDocument("101.volf", 12, 10, std::vector<Placed>(101, tile));
+    WriteDocument("200.volf", 12, 10, std::vector<Placed>(200, tile));
+    const std::string refusal = ": A document can't have more than 101 layers.";
+    Check({{"one fits", "open 101.volf delete style crystal", "undo 3, selected 100"},
+           {"and no other", "open 101.volf delete add-layer import b.png",
+            "undo 2, selected 100, error import b.png" + refusal},
+           {"too many already", "open 200.volf flip vertical undo style crystal",
+            "undo 0, redo 1, selected 199, error style crystal" + refusal},
+           {"nor lifted", "open 200.volf tool select-rectangle drag 2 2 6 6 tool move click 3 3",
+            "undo 0, selection/runs 2-6: 2-6, error click 3 3" + refusal},
+           {"changed all the same", "open 200.volf opacity 5 merge delete undo page 9 9",
+            "undo 5, selected 198"}});
 }
 
 }  // namespace
