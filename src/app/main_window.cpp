@@ -185,26 +185,36 @@ void MainWindow::PopUpOrderMenu(const QPoint& at) {
 }
 
 bool MainWindow::MayEndSession(const std::function<bool()>& canAsk) {
-    if (editor_.Document.Modified && canAsk()) {
-        // One question at a time: the one that is open has to be answered first.
-        if (QApplication::activeModalWidget()) {
-            QApplication::alert(this);
-            return false;
-        }
-        if (!MayGiveUpDocument(context_))
-            return false;
+    sessionEnd_ = SessionEnd::No;
+    const bool isAsked = editor_.Document.Modified && canAsk();
+    // One question at a time: the one that is open has to be answered first.
+    if (isAsked && QApplication::activeModalWidget()) {
+        QApplication::alert(this);
+        return false;
     }
+    if (isAsked && !MayGiveUpDocument(context_))
+        return false;
+    sessionEnd_ = editor_.Document.Modified && !isAsked ? SessionEnd::Unasked : SessionEnd::Agreed;
     if (recovery_)
         recovery_->Flush();
     StoreSettings();
     return true;
 }
 
+void MainWindow::CloseWindow() {
+    sessionEnd_ = SessionEnd::No;
+    close();
+}
+
+// The window system passes on what the user does; the end of the session comes from within.
 void MainWindow::closeEvent(QCloseEvent* event) {
-    if (!MayGiveUpDocument(context_)) {
+    const bool isSessionEnd = sessionEnd_ != SessionEnd::No && !event->spontaneous();
+    if (!isSessionEnd && !MayGiveUpDocument(context_)) {
         event->ignore();
         return;
     }
+    if (isSessionEnd && sessionEnd_ == SessionEnd::Unasked && recovery_)
+        recovery_->EndAtOnce();
     welcome_->Stop();
     tips_->Stop();
     zoomAnimation_.stop();

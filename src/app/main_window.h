@@ -54,7 +54,7 @@ public:
     void StartWelcome();
 
     // Before the session ends. False: the user wants it to go on. Where he can't be asked, nothing
-    // is.
+    // is, and unsaved work is kept. The end itself asks nothing more.
     bool MayEndSession(const std::function<bool()>& canAsk);
 
     bool TipsEnabled() const { return tips_->TipsEnabled; }
@@ -98,7 +98,7 @@ public:
     graphics::Bitmap Picture() override;
     std::string Text() override;
 
-    void CloseWindow() override { close(); }
+    void CloseWindow() override;
     void FocusScene() override;
     void ShowOrderMenu() override;
     void Paste() override;
@@ -128,6 +128,7 @@ private:
 
     editing::Editor editor_{*this, *this};
     WindowContext context_{*this, *this, *this};
+    enum class SessionEnd { No, Agreed, Unasked } sessionEnd_ = SessionEnd::No;
     std::unique_ptr<QProgressDialog> progress_;
     QElapsedTimer runTime_;  // of a long run over files
     std::string message_;    // what the last command has to tell although it went well

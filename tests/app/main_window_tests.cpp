@@ -259,6 +259,13 @@ TEST_F(MainWindowTest, TheEndOfASessionAsksWhereItMay) {
     });
     window.ShowMessage("a question");
     EXPECT_FALSE(whileAsked) << "no second question over the first";
+
+    EXPECT_TRUE(window.MayEndSession([] { return false; }));
+    AnswerDialog<SavePrompt>([](SavePrompt& prompt) { prompt.reject(); });
+    window.CloseWindow();
+    EXPECT_TRUE(window.isVisible()) << "the user is asked, should the session go on";
+    EXPECT_TRUE(window.MayEndSession([] { return false; }));
+    EXPECT_TRUE(window.close());
 }
 
 TEST_F(MainWindowTest, CtrlAndTheWheelZoomInWholeSteps) {

@@ -128,9 +128,10 @@ int main(int argc, char** argv) {
                      [&](QSessionManager& session) {
                          if (!window)
                              return;
-                         if (!window->MayEndSession([&] { return session.allowsInteraction(); }))
+                         if (window->MayEndSession([&] { return session.allowsInteraction(); }))
+                             session.release();
+                         else
                              session.cancel();
-                         session.release();
                      });
     bool isClosed = false;  // by the user, not ended by the system
     QObject::connect(&application, &QGuiApplication::lastWindowClosed, [&] { isClosed = true; });
