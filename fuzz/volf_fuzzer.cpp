@@ -1,9 +1,9 @@
 #include <cstddef>
 #include <cstdint>
-#include <stdexcept>
 
 #include "document/compositor.h"
-#include "formats/volf_store.h"
+#include "formats/document_limits.h"
+#include "formats/volf_reader.h"
 
 using namespace orbelle;
 
@@ -25,10 +25,12 @@ void Compose(document::Page& page) {
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     document::Document document;
     try {
-        ORBELLE_READER({data, size}, document);
+        document = ORBELLE_READER(graphics::MemorySource({data, size})).Document;
     } catch (const Error&) {
-        // The whole layers before the damage are in the document.
+        return 0;
     }
+    // What was opened can be saved and opened again.
+    formats::RequireCanBeOpened(document);
     Compose(document.Master);
     return 0;
 }

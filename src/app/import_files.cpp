@@ -28,7 +28,7 @@ bool IsFull(const editing::Editor& editor) {
 }
 
 TakeResult Import(const WindowContext& context, const std::filesystem::path& file) {
-    if (editing::IsDocumentName(file) && !MayGiveUpDocument(context))
+    if (editing::IsDocumentFile(file) && !MayGiveUpDocument(context))
         return {TakeEnd::Cancelled, {}};
     return TakeToImport(context, file);
 }

@@ -10,8 +10,8 @@
 #include <new>
 #include <span>
 
-#include "graphics/codecs/image_codecs.h"
 #include "graphics/codecs/image_files.h"
+#include "graphics/codecs/pixel_budget.h"
 #include "graphics/errors.h"
 
 namespace orbelle::app {

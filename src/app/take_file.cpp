@@ -31,7 +31,7 @@ TakeResult TakeIconImage(const WindowContext& context, const fs::path& path,
 
 TakeResult Take(const WindowContext& context, const fs::path& path, TakeFile takeFile,
                 TakePicture takePicture) {
-    if (editing::IsIconName(path))
+    if (editing::IsIconFile(path))
         return TakeIconImage(context, path, takePicture);
     return Ended(context.Commands.Try([&](Editor& editor) { takeFile(editor, path, 0); }));
 }

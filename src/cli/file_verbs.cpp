@@ -36,7 +36,7 @@ Action ReadNew(Words& words) {
 
 // Which image of the file is wanted; the next icon file begins with the first again.
 int TakeIconImage(Workspace& workspace, const fs::path& path) {
-    return editing::IsIconName(path) ? std::exchange(workspace.IconImage, 0) : 0;
+    return editing::IsIconFile(path) ? std::exchange(workspace.IconImage, 0) : 0;
 }
 
 void Open(Workspace& workspace, const fs::path& path) {

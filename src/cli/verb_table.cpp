@@ -68,7 +68,7 @@ std::vector<Call> ParseCalls(std::span<const std::string> words) {
     return calls;
 }
 
-void RunCalls(std::span<const Call> calls, Workspace& workspace) {
+void RunCalls(std::span<const Call> calls, Workspace& workspace, std::ostream& notes) {
     for (const Call& call : calls) {
         std::string problem;
         try {
@@ -80,6 +80,8 @@ void RunCalls(std::span<const Call> calls, Workspace& workspace) {
         }
         if (!problem.empty())
             throw Failure(Describe(call, problem));
+        if (const std::string message = workspace.TakeMessage(); !message.empty())
+            notes << "orbelle-cli: " << Describe(call, message) << std::endl;
     }
 }
 

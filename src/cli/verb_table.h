@@ -3,6 +3,7 @@
 
 #include <filesystem>
 #include <functional>
+#include <iostream>
 #include <span>
 #include <string>
 #include <string_view>
@@ -60,7 +61,8 @@ struct Call {
 std::vector<Call> ParseCalls(std::span<const std::string> words);
 
 // Runs the calls in order. Throws Failure, with the call before what is wrong, at the first that
-// fails.
-void RunCalls(std::span<const Call> calls, Workspace& workspace);
+// fails. What a call has to tell although it went well goes to `notes` in the same way, a line
+// each.
+void RunCalls(std::span<const Call> calls, Workspace& workspace, std::ostream& notes = std::cerr);
 
 }  // namespace orbelle::cli

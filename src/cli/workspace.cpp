@@ -2,18 +2,6 @@
 
 namespace orbelle::cli {
 
-namespace {
-
-void CheckOutcome(const editing::Outcome& outcome, CliHost& host) {
-    const std::string message = host.TakeMessage();
-    if (outcome.Failed())
-        throw Failure(outcome.Problem());
-    if (!message.empty())
-        throw Failure(message);
-}
-
-}  // namespace
-
 void CliHost::Put(const graphics::Bitmap& picture, const std::string& text) {
     picture_ = picture;
     text_ = text;
@@ -26,11 +14,19 @@ Workspace::Workspace(std::ostream& output) : Output(output) {
 }
 
 void Workspace::Run(const editing::Command& command) {
-    CheckOutcome(editing::Run(Editor, command), Host);
+    Keep(editing::Run(Editor, command));
 }
 
 void Workspace::RunDuringDrag(const editing::Command& step) {
-    CheckOutcome(editing::RunDuringDrag(Editor, step), Host);
+    Keep(editing::RunDuringDrag(Editor, step));
+}
+
+void Workspace::Keep(const editing::Outcome& outcome) {
+    std::string message = Host.TakeMessage();
+    if (outcome.Failed())
+        throw Failure(outcome.Problem());
+    if (!message.empty())
+        message_ = std::move(message);
 }
 
 WindowView::WindowView(Workspace& workspace)

@@ -38,16 +38,25 @@ private:
 struct Workspace {
     explicit Workspace(std::ostream& output);
 
-    // Runs a command on the editor. Throws Failure with what it has to tell.
+    // Runs a command on the editor. Throws Failure with what is wrong; what a command that went
+    // well has to tell stays for TakeMessage.
     void Run(const editing::Command& command);
     // The same for a step of a drag.
     void RunDuringDrag(const editing::Command& step);
+
+    // Empty: nothing to tell.
+    std::string TakeMessage() { return std::exchange(message_, {}); }
 
     CliHost Host;
     editing::Editor Editor{Host, Host};
     double Zoom = 1;       // of the view, scene pixels per page pixel
     int IconImage = 0;     // which one the next open or import of an icon file takes
     std::ostream& Output;  // for what verbs print
+
+private:
+    void Keep(const editing::Outcome& outcome);
+
+    std::string message_;
 };
 
 // While it lives the editor has the view of a window: a scene of 1024 by 768 with the page in its

@@ -11,7 +11,9 @@
 #include "editing/tips.h"
 #include "editing/undo_step.h"
 #include "editing/view_commands.h"
+#include "formats/document_limits.h"
 #include "formats/icon_reader.h"
+#include "formats/volf_reader.h"
 #include "formats/volf_store.h"
 #include "graphics/codecs/image_files.h"
 #include "graphics/errors.h"
@@ -27,18 +29,43 @@ void SetTitle(Editor& editor, std::string title) {
     editor.Changed.Title = true;
 }
 
+// A document without a path has no file yet.
 std::string TitleOf(const fs::path& path) {
     if (path.empty())
         return std::string(kProductName) + " - Project *";
     return path.filename().string() + " - " + kProductName;
 }
 
-// In lower case, without the point; a name without one is its own extension.
-std::string FileExtension(const fs::path& path) {
-    std::string name = path.filename().string();
-    name = name.substr(name.rfind('.') + 1);
-    std::ranges::transform(name, name.begin(), [](unsigned char c) { return std::tolower(c); });
-    return name;
+bool IsNamedAsDocument(const fs::path& path) {
+    std::string extension = path.extension().string();
+    std::ranges::transform(extension, extension.begin(),
+                           [](unsigned char c) { return std::tolower(c); });
+    return extension == ".volf";
+}
+
+enum class FileKind { Document, Icon, Picture };
+
+// By the first bytes; a file that is none of these and is named as a document counts as one that is
+// damaged. Throws FileError.
+FileKind KindOf(const fs::path& path) {
+    const graphics::FileSource file(path);
+    FileKind kind = FileKind::Picture;
+    if (formats::IsDocument(file))
+        kind = FileKind::Document;
+    else if (formats::IsIcon(file))
+        kind = FileKind::Icon;
+    else if (IsNamedAsDocument(path) && !graphics::IsPicture(file))
+        kind = FileKind::Document;
+    file.RequireWasRead();
+    return kind;
+}
+
+bool IsOfKind(const fs::path& path, FileKind kind) {
+    try {
+        return KindOf(path) == kind;
+    } catch (const std::exception&) {
+        return false;
+    }
 }
 
 void ResetView(Editor& editor) {
@@ -77,6 +104,7 @@ void ResetDocument(Editor& editor, int pageWidth, int pageHeight) {
     SetTitle(editor, TitleOf({}));
     ResetView(editor);
     editor.Document.Path.clear();
+    editor.Document.Stamp = {};
     editor.Page().Width = pageWidth;
     editor.Page().Height = pageHeight;
     ShowPageSize(editor);
@@ -119,26 +147,23 @@ void ShowDocument(Editor& editor, document::Document&& document) {
 }
 
 void OpenDocument(Editor& editor, const fs::path& path) {
-    document::Document read;
+    // Of the file before it is read: what is written meanwhile must show.
     const graphics::FileStamp stamp = graphics::StampOf(path);
-    std::string damage;
-    try {
-        formats::LoadDocument(path, read);
-    } catch (const Error& failure) {
-        // What was read before the damage is worth keeping.
-        if (read.Master.Layers.empty())
-            throw;
-        damage = failure.what();
+    formats::LoadedDocument read = formats::LoadDocument(path);
+    const bool isWhole = read.Damage.empty();
+    // Saving what is left must not replace the damaged file, from which more may be rescued.
+    if (isWhole) {
+        read.Document.Path = path;
+        read.Document.Stamp = stamp;
     }
-    read.Path = path;
-    read.Stamp = stamp;
-    if (!read.Master.Layers.empty())
-        read.Master.SelectedLayer = read.Master.LayerCount() - 1;
-    ShowDocument(editor, std::move(read));
-    if (damage.empty())
+    document::Page& page = read.Document.Master;
+    page.SelectedLayer = page.LayerCount() - 1;
+    read.Document.Modified = !isWhole;
+    ShowDocument(editor, std::move(read.Document));
+    if (isWhole)
         editor.Changed.Tip = {tips::NewOrOpened};
     else
-        editor.Changed.Message = damage;
+        editor.Changed.Message = read.Damage;
 }
 
 void AddPictureLayer(Editor& editor, const graphics::Bitmap& picture) {
@@ -151,9 +176,11 @@ void AddPictureLayer(Editor& editor, const graphics::Bitmap& picture) {
     editor.Changed.Tip = {tips::Imported, true};
 }
 
-graphics::Bitmap ReadPicture(const fs::path& path, int iconImage) {
-    if (!IsIconName(path))
-        return graphics::LoadImageFromFile(path);
+// The picture that the file holds, of at most so many pixels.
+graphics::Bitmap ReadPicture(const fs::path& path, FileKind kind, int iconImage,
+                             std::int64_t maxPixels) {
+    if (kind == FileKind::Picture)
+        return graphics::LoadImageFromFile(path, {maxPixels});
     const std::vector<formats::IconEntryImage> offered = ReadIconImages(path);
     if (iconImage < 0 || iconImage >= static_cast<int>(offered.size()))
         throw Error("there is no image " + std::to_string(iconImage) + "; the icon offers " +
@@ -161,14 +188,22 @@ graphics::Bitmap ReadPicture(const fs::path& path, int iconImage) {
     return offered[static_cast<std::size_t>(iconImage)].Image;
 }
 
-}  // namespace
-
-bool IsDocumentName(const fs::path& path) {
-    return FileExtension(path) == "volf";
+// What an import may add. One that makes the page counts twice, and two of the largest fit.
+std::int64_t RoomForImport(const Editor& editor) {
+    if (!editor.DocumentExists)
+        return graphics::kMaxBitmapPixels;
+    return std::clamp<std::int64_t>(formats::kMaxDocumentPixels - formats::PixelsOf(editor.Page()),
+                                    0, graphics::kMaxBitmapPixels);
 }
 
-bool IsIconName(const fs::path& path) {
-    return FileExtension(path) == "ico";
+}  // namespace
+
+bool IsDocumentFile(const fs::path& path) {
+    return IsOfKind(path, FileKind::Document);
+}
+
+bool IsIconFile(const fs::path& path) {
+    return IsOfKind(path, FileKind::Icon);
 }
 
 std::vector<formats::IconEntryImage> ReadIconImages(const fs::path& path) {
@@ -188,17 +223,19 @@ void NewDocument(Editor& editor, int pageWidth, int pageHeight) {
 }
 
 void OpenFile(Editor& editor, const fs::path& path, int iconImage) {
-    if (IsDocumentName(path))
+    const FileKind kind = KindOf(path);
+    if (kind == FileKind::Document)
         OpenDocument(editor, path);
     else
-        OpenPicture(editor, ReadPicture(path, iconImage));
+        OpenPicture(editor, ReadPicture(path, kind, iconImage, graphics::kMaxBitmapPixels));
 }
 
 void ImportFile(Editor& editor, const fs::path& path, int iconImage) {
-    if (IsDocumentName(path))
+    const FileKind kind = KindOf(path);
+    if (kind == FileKind::Document)
         OpenDocument(editor, path);
     else
-        ImportPicture(editor, ReadPicture(path, iconImage));
+        ImportPicture(editor, ReadPicture(path, kind, iconImage, RoomForImport(editor)));
 }
 
 void OpenPicture(Editor& editor, const graphics::Bitmap& picture) {

@@ -16,10 +16,10 @@ inline constexpr char kPageSizeMessage[] = "Please input a integer from 1 to 512
 // Error with kPageSizeMessage.
 void NewDocument(Editor& editor, int pageWidth, int pageHeight);
 
-// A document, or a picture that becomes the page, takes the place of the present document; the name
-// tells which. Of an icon file it is the image `iconImage`, its place among those offered. Throws
-// Error when there is no such file or image. A damaged document opens with the layers before the
-// damage and leaves word in Changes::Message.
+// A document, or a picture that becomes the page, takes the place of the present document; the
+// file's first bytes tell which. Of an icon file it is the image `iconImage`, its place among those
+// offered. Throws Error when there is no such file or image. A damaged document opens with the
+// layers that could be read, as a changed one without a path, and leaves word in Changes::Message.
 void OpenFile(Editor& editor, const std::filesystem::path& path, int iconImage = 0);
 
 // A picture as a new layer above the selected one; with no document yet it makes the page. A
@@ -41,8 +41,9 @@ std::vector<formats::IconEntryImage> ReadIconImages(const std::filesystem::path&
 // Writes the document there; its path and the title follow. Throws Error when that fails.
 void SaveTo(Editor& editor, const std::filesystem::path& path);
 
-// What the name of a file says that it holds: a document, or several pictures to choose from.
-bool IsDocumentName(const std::filesystem::path& path);
-bool IsIconName(const std::filesystem::path& path);
+// What a file holds by its first bytes: a document, or several pictures to choose from. Neither
+// when it can't be read.
+bool IsDocumentFile(const std::filesystem::path& path);
+bool IsIconFile(const std::filesystem::path& path);
 
 }  // namespace orbelle::editing

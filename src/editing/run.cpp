@@ -7,6 +7,7 @@
 #include "document/scene_painter.h"
 #include "editing/page_commands.h"
 #include "editing/tools/polygon.h"
+#include "formats/document_limits.h"
 
 namespace orbelle::editing {
 namespace {
@@ -85,6 +86,16 @@ void NoteControls(Editor& editor, const ShownControls& before, const Overlays& o
     editor.States = states;
 }
 
+bool CanBeOpened(const document::Document& document) {
+    return !Attempt([&] { formats::RequireCanBeOpened(document); }).Failed();
+}
+
+// What could not be opened again must not come about; a document that is so already may be changed.
+void RequireCanStillBeOpened(const document::Document& before, const document::Document& after) {
+    if (!CanBeOpened(after) && CanBeOpened(before))
+        formats::RequireCanBeOpened(after);
+}
+
 Outcome Execute(Editor& editor, const Command& command) {
     EditorState before;
     bool hasBegun = false;
@@ -100,6 +111,7 @@ Outcome Execute(Editor& editor, const Command& command) {
         if (unpainted)
             ComposeAndPaint(editor);
         command(editor);
+        RequireCanStillBeOpened(before.Document, editor.Document);
         Show(editor);
     });
     bool shown = true;

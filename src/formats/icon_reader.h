@@ -4,10 +4,10 @@
 
 #include <cstdint>
 #include <filesystem>
-#include <span>
 #include <vector>
 
 #include "graphics/bitmap.h"
+#include "graphics/byte_source.h"
 
 namespace orbelle::formats {
 
@@ -18,6 +18,10 @@ struct IconEntryImage {
     graphics::Bitmap Image;
 };
 
+// Whether the source begins like an icon file. Files of type 0, which the reader takes, too, are
+// not told from others by that.
+bool IsIcon(const graphics::ByteSource& file);
+
 // Every entry, in file order. Whatever BitCount says, the pixels are taken as 32 bits each, bottom
 // row first, right behind the 40 bytes of the header; masks and palettes are ignored. Bytes that
 // the file lacks read as zero. Throws graphics::ImageError for the whole file when the header is
@@ -25,7 +29,7 @@ struct IconEntryImage {
 // entry always looks like that). So that a short file takes little memory, it also throws when the
 // entries have more than graphics::kMaxBitmapPixels in all, or when one above kMaxUnbackedPixels
 // has no pixel in the file.
-std::vector<IconEntryImage> DecodeIcon(std::span<const std::uint8_t> bytes);
+std::vector<IconEntryImage> DecodeIcon(const graphics::ByteSource& file);
 
 inline constexpr std::int64_t kMaxUnbackedPixels = std::int64_t{1024} * 1024;
 

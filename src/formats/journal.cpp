@@ -6,7 +6,9 @@
 #include <string_view>
 #include <utility>
 
+#include "formats/volf_reader.h"
 #include "formats/volf_store.h"
+#include "graphics/byte_source.h"
 #include "graphics/checksum.h"
 #include "graphics/little_endian.h"
 
@@ -145,7 +147,9 @@ JournalEntry ReadState(JournalSource& source, const Record& record,
     }
     const auto rest = state.TakeRest();
     frame.Bytes.assign(rest.begin(), rest.end());
-    DecodeDocument(FillFrame(frame, pngs), entry.Document);
+    const Bytes file = FillFrame(frame, pngs);
+    // Its checksums leave nothing to damage; what is there is better than nothing.
+    entry.Document = DecodeDocument(graphics::MemorySource(file)).Document;
     entry.Document.Path = std::string(path.begin(), path.end());
     entry.Document.Stamp = stamp;
     entry.Document.Modified = true;

@@ -2,8 +2,26 @@
 
 #include <algorithm>
 #include <atomic>
+#include <cstdlib>
+#include <new>
 
 namespace orbelle::graphics {
+namespace {
+
+std::size_t PixelCount(int width, int height) {
+    return static_cast<std::size_t>(width) * static_cast<std::size_t>(height);
+}
+
+// All zero. The system gives large blocks so, and gives their memory only when they are written: a
+// picture that is decoded row by row grows with its rows.
+std::shared_ptr<Argb[]> BlankPixels(std::size_t count) {
+    auto* pixels = static_cast<Argb*>(std::calloc(count, sizeof(Argb)));
+    if (!pixels)
+        throw std::bad_alloc();
+    return {pixels, [](Argb* taken) { std::free(taken); }};
+}
+
+}  // namespace
 
 bool IsBitmapSizeAllowed(std::int64_t width, std::int64_t height) {
     return width >= 1 && height >= 1 && width <= kMaxBitmapSide && height <= kMaxBitmapSide &&
@@ -13,8 +31,9 @@ bool IsBitmapSizeAllowed(std::int64_t width, std::int64_t height) {
 Bitmap::Bitmap(int width, int height, PixelFormat format) {
     if (!IsBitmapSizeAllowed(width, height))
         return;
-    const Argb blank = format == PixelFormat::Rgb24 ? MakeArgb(255, 0, 0, 0) : 0;
-    pixels_ = std::make_shared<std::vector<Argb>>(static_cast<std::size_t>(width) * height, blank);
+    pixels_ = BlankPixels(PixelCount(width, height));
+    if (format == PixelFormat::Rgb24)
+        std::fill_n(pixels_.get(), PixelCount(width, height), MakeArgb(255, 0, 0, 0));
     width_ = width;
     height_ = height;
     format_ = format;
@@ -23,12 +42,16 @@ Bitmap::Bitmap(int width, int height, PixelFormat format) {
 Argb* Bitmap::MutablePixels() {
     if (!pixels_)
         return nullptr;
-    if (pixels_.use_count() > 1)
-        pixels_ = std::make_shared<std::vector<Argb>>(*pixels_);
-    else
+    if (pixels_.use_count() > 1) {
+        const std::size_t count = PixelCount(width_, height_);
+        std::shared_ptr<Argb[]> own = BlankPixels(count);
+        std::copy_n(pixels_.get(), count, own.get());
+        pixels_ = std::move(own);
+    } else {
         // What another thread has read of a copy that it let go of comes before what is written.
         std::atomic_thread_fence(std::memory_order_acquire);
-    return pixels_->data();
+    }
+    return pixels_.get();
 }
 
 std::optional<Argb> Bitmap::GetPixel(int x, int y) const {

@@ -5,7 +5,6 @@
 #include <memory>
 #include <optional>
 #include <utility>
-#include <vector>
 
 #include "graphics/color.h"
 
@@ -48,7 +47,7 @@ public:
     PixelFormat Format() const { return format_; }
 
     // Read access; valid until this object changes. Null when empty.
-    const Argb* Pixels() const { return pixels_ ? pixels_->data() : nullptr; }
+    const Argb* Pixels() const { return pixels_.get(); }
     const Argb* Row(int y) const { return Pixels() + static_cast<std::size_t>(y) * width_; }
 
     // Write access; first makes the pixels this object's own. In Rgb24 keep alpha at 255.
@@ -77,7 +76,7 @@ private:
         std::swap(format_, other.format_);
     }
 
-    std::shared_ptr<std::vector<Argb>> pixels_;
+    std::shared_ptr<Argb[]> pixels_;
     int width_ = 0;
     int height_ = 0;
     PixelFormat format_ = PixelFormat::Argb32;

@@ -6,6 +6,7 @@
 #include <random>
 #include <system_error>
 
+#include "graphics/byte_source.h"
 #include "graphics/errors.h"
 
 namespace orbelle::graphics {
@@ -94,25 +95,10 @@ struct TemporaryFile {
 }  // namespace
 
 std::vector<std::uint8_t> ReadFile(const fs::path& path) {
-    std::error_code error;
-    const fs::file_status status = RequireKnown(fs::status(path, error), error, path);
-    if (fs::is_directory(status))
-        ThrowSystemError(path, std::errc::is_a_directory);
-    if (fs::exists(status) && !fs::is_regular_file(status))
-        throw FileError(path, "not a regular file");
-    const File file = Open(path, "rb", path);
-    const std::uintmax_t size = fs::file_size(path, error);
-    if (error)
-        throw FileError(path, error.message());
-    if (size > kMaxFileBytes)
-        throw FileError(path, "larger than " + std::to_string(kMaxFileBytes >> 20) + " MiB");
-
-    std::vector<std::uint8_t> bytes(size);
-    if (bytes.empty())
-        return bytes;
-    bytes.resize(std::fread(bytes.data(), 1, bytes.size(), file.get()));
-    if (std::ferror(file.get()))
-        ThrowLastError(path);
+    const FileSource file(path);
+    std::vector<std::uint8_t> bytes(file.Size());
+    bytes.resize(file.ReadAt(0, bytes));
+    file.RequireWasRead();
     return bytes;
 }
 

@@ -8,10 +8,8 @@
 
 namespace orbelle::graphics {
 
-// No file that we read is larger: 256 MiB.
-inline constexpr std::uintmax_t kMaxFileBytes = std::uintmax_t{256} << 20;
-
-// Throws FileError when the file is missing, unreadable, no regular file or above kMaxFileBytes.
+// All of it at once, for files that are small; byte_source.h has what reads the others. Throws
+// FileError when the file is missing, unreadable, no regular file or above kMaxFileBytes.
 std::vector<std::uint8_t> ReadFile(const std::filesystem::path& path);
 
 // Replaces the file in one step: the bytes go to a new file beside it that then takes its name, so

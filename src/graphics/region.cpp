@@ -28,6 +28,7 @@ constexpr std::size_t kMaxGatheredRects = 1 << 20;
 struct Everything {};
 
 using Pixels = std::shared_ptr<const PixelSet>;
+using Mask = std::shared_ptr<const PixelMask>;
 
 bool IsWholeMove(const Matrix& matrix) {
     const auto isWhole = [](double offset) {
@@ -109,7 +110,7 @@ struct Region::Node {
     };
     using Combination = std::vector<Part>;
 
-    std::variant<Everything, RectF, Path, Pixels, Combination> Shape;
+    std::variant<Everything, RectF, Path, Pixels, Mask, Combination> Shape;
     Matrix Placement{};  // combinations leave it to their parts
     int ShapeCount = 1;
     int Depth = 0;
@@ -124,6 +125,12 @@ struct Region::Node {
         return std::holds_alternative<Pixels>(Shape) && std::get<Pixels>(Shape)->IsEmpty();
     }
     bool Knows(const RectI& area) const { return Cache && Intersect(CachedWithin, area) == area; }
+
+    // Null unless the shape is a mask that was only moved and lies on the plane with all its
+    // pixels.
+    const PixelMask* MovedMask() const;
+    RectI BoundsOfMask(const PixelMask& mask) const;
+    bool ContainsInMask(const PixelMask& mask, int x, int y) const;
 
     // A set that has the node's pixels in `within`, a part of the plane, and any others outside.
     const Pixels& Covered(const RectI& within) const;
@@ -201,11 +208,41 @@ void CombineInto(std::shared_ptr<Node>& first, const std::shared_ptr<Node>& seco
 
 }  // namespace
 
+const PixelMask* Node::MovedMask() const {
+    const auto* mask = std::get_if<Mask>(&Shape);
+    if (!mask || Placement.ScaleX != 1 || Placement.ScaleY != 1)
+        return nullptr;
+    const RectI whole = BoundsOfMask(**mask);
+    // At the plane's end pixels may have been cut off.
+    return whole.X > kPlane.X && whole.Y > kPlane.Y && whole.Right() < kPlane.Right() &&
+                   whole.Bottom() < kPlane.Bottom()
+               ? mask->get()
+               : nullptr;
+}
+
+RectI Node::BoundsOfMask(const PixelMask& mask) const {
+    const RectI box = mask.Bounds();
+    return PixelsInside(
+        Scaled({double(box.X), double(box.Y), double(box.Right()), double(box.Bottom())},
+               Placement),
+        0, kPlane);
+}
+
+bool Node::ContainsInMask(const PixelMask& mask, int x, int y) const {
+    return mask.Contains(static_cast<std::int64_t>(std::floor(x - Placement.OffsetX)),
+                         static_cast<std::int64_t>(std::floor(y - Placement.OffsetY)));
+}
+
 const Pixels& Node::Covered(const RectI& within) const {
     if (Knows(within))
         return Cache;
     if (const auto* pixels = std::get_if<Pixels>(&Shape)) {
         Cache = PixelsOf(*pixels, Placement);
+        CachedWithin = kPlane;
+        return Cache;
+    }
+    if (const auto* mask = std::get_if<Mask>(&Shape)) {
+        Cache = PixelsOf(MakePixels((*mask)->Rects()), Placement);
         CachedWithin = kPlane;
         return Cache;
     }
@@ -269,6 +306,12 @@ Region Region::FromPixelRects(std::vector<RectI> rects) {
     return Region(MakeNode(MakePixels(rects)));
 }
 
+Region Region::FromMask(PixelMask mask) {
+    return mask.Bounds().IsEmpty()
+               ? Empty()
+               : Region(MakeNode(Mask(std::make_shared<PixelMask>(std::move(mask)))));
+}
+
 void Region::CombineRect(const RectF& rect, CombineMode mode) {
     Combine(FromRect(rect), mode);
 }
@@ -298,6 +341,8 @@ RectF Region::Bounds() const {
     if (const auto* path = std::get_if<Path>(&node_->Shape))
         return path->IsEmpty() ? RectF{}
                                : ToRectF(Scaled(EdgesOf(path->WorldBounds()), node_->Placement));
+    if (const PixelMask* mask = node_->MovedMask())
+        return ToRectF(node_->BoundsOfMask(*mask));
     return ToRectF(node_->Covered(kPlane)->Bounds());
 }
 
@@ -305,12 +350,14 @@ bool Region::IsVisiblePoint(float x, float y) const {
     if (!node_ || node_->IsEverything())
         return node_ != nullptr;
     const RectI pixel{RoundHalfUp(x), RoundHalfUp(y), 1, 1};
+    if (const PixelMask* mask = node_->MovedMask())
+        return node_->ContainsInMask(*mask, pixel.X, pixel.Y);
     // Many points may be asked for: one on its own isn't worth remembering.
     return node_->Covered(node_->Knows(pixel) ? pixel : kPlane)->Contains(pixel.X, pixel.Y);
 }
 
 bool Region::IsEmpty() const {
-    return !node_ || node_->Covered(kPlane)->IsEmpty();
+    return !node_ || (!node_->MovedMask() && node_->Covered(kPlane)->IsEmpty());
 }
 
 std::vector<RectI> Region::Rects(const RectI& within) const {

@@ -8,6 +8,7 @@
 #include "graphics/geometry.h"
 #include "graphics/matrix.h"
 #include "graphics/path.h"
+#include "graphics/pixel_mask.h"
 
 namespace orbelle::graphics {
 
@@ -28,6 +29,9 @@ public:
     // From rectangles of whole pixels that do not overlap, in time linear in their number when they
     // come by rows from the top, left to right.
     static Region FromPixelRects(std::vector<RectI> rects);
+    // The same pixels as those of the mask's rectangles. As long as it is only moved, and asked for
+    // points and its box alone, no rectangle is made of it.
+    static Region FromMask(PixelMask mask);
 
     bool IsNull() const { return !node_; }
 

@@ -2,6 +2,9 @@
 #include <csignal>
 #include <fstream>
 
+#include "desk.h"
+#include "editing/document_commands.h"
+#include "editing/layer_commands.h"
 #include "real_window.h"
 
 namespace orbelle::app {
@@ -155,6 +158,32 @@ TEST_F(KeptWorkTest, ATextOpenedAsADocumentStaysAText) {
     Press({"ctrl+s"});
     ASSERT_TRUE(AnswerBox("^Open File", "Escape")) << "it has no file yet";
     EXPECT_TRUE(IsText("notes.volf"));
+}
+
+TEST_F(KeptWorkTest, ADamagedDocumentIsNotReplacedByWhatIsLeftOfIt) {
+    const std::filesystem::path damaged = folder / "damaged.volf";
+    Desk writer;
+    writer.Run([&](editing::Editor& editor) {
+        NewDocument(editor, 64, 64);
+        for (int i = 0; i < 2; ++i)
+            InsertEmptyLayer(editor, 64, 64);
+        SaveTo(editor, damaged);
+    });
+    std::filesystem::resize_file(damaged, std::filesystem::file_size(damaged) - 10);
+    const auto before = graphics::StampOf(damaged);
+
+    ASSERT_TRUE(StartWith());
+    Press({"ctrl+o"});
+    ASSERT_TRUE(AnswerFileDialog(Path("damaged.volf")) && HearWhyNot());
+    EXPECT_EQ(Count(), 0);
+    EXPECT_TRUE(IsOpen("^Varnel Orbelle - Project"));
+    Press({"ctrl+s"});
+    ASSERT_TRUE(AnswerBox("^Open File", "Escape")) << "it has no file";
+    Press({"ctrl+q"});
+    ASSERT_TRUE(FocusWindow("^Save Icon Document")) << "it is not as its file is";
+    Press({"alt+n"});
+    EXPECT_TRUE(EndsWell(program));
+    EXPECT_EQ(graphics::StampOf(damaged), before);
 }
 
 TEST_F(KeptWorkTest, AHandOverWaitsForDialogsMenusAndDrags) {

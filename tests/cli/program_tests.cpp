@@ -94,14 +94,11 @@ TEST_F(ProgramTest, BadFilesFailWithAReason) {
     Write("empty.png", std::vector<std::uint8_t>{});
     Write("cut.png", {png.begin(), png.begin() + png.size() / 2});
     Write("huge.png", huge);
-    Write("document.png", document);
     Write("empty.volf", std::vector<std::uint8_t>{});
     Write("cut.volf", {document.begin(), document.begin() + document.size() / 2});
-    Write("picture.volf", png);
     Write("cursor.ico", std::vector<std::uint8_t>{0, 0, 2, 0, 1, 0});
-    for (const std::string name :
-         {"missing.png", "empty.png", "cut.png", "huge.png", "document.png", "missing.volf",
-          "empty.volf", "cut.volf", "picture.volf", "cursor.ico", "."}) {
+    for (const std::string name : {"missing.png", "empty.png", "cut.png", "huge.png",
+                                   "missing.volf", "empty.volf", "cut.volf", "cursor.ico", "."}) {
         const Outcome outcome = Run("open " + name + " write-page page.png");
         EXPECT_EQ(outcome.Status, 1) << name;
         EXPECT_EQ(outcome.Output, "");
@@ -112,6 +109,21 @@ TEST_F(ProgramTest, BadFilesFailWithAReason) {
     for (const std::string verb : {"save", "export", "write-page", "write-scene", "write-layer 0"})
         EXPECT_EQ(Run("new 16 16 " + verb + " no/a.png"),
                   Failed(verb + " no/a.png: No such file or directory"));
+}
+
+TEST_F(ProgramTest, ADamagedDocumentIsToldAndTheRunGoesOn) {
+    Write("good.png", FilledPicture(20, 20, kBlue));
+    ASSERT_EQ(Run("open good.png import good.png save d.volf"), kSuccess);
+    std::vector<std::uint8_t> document = Bytes("d.volf");
+    document.pop_back();
+    Write("d.volf", document);
+    const Outcome outcome = Run("open d.volf write-page page.png");
+    EXPECT_EQ(outcome.Status, 0);
+    EXPECT_EQ(outcome.Errors,
+              "orbelle-cli: open d.volf: layer 1: the file is cut short; 1 of 2 layers could be "
+              "read\n");
+    EXPECT_EQ(Picture("page.png").GetPixel(5, 5), kBlue);
+    EXPECT_EQ(Bytes("d.volf"), document);
 }
 
 TEST_F(ProgramTest, NothingRunsWhenAnyWordIsWrong) {

@@ -10,6 +10,7 @@
 #include "editing/tips.h"
 #include "editing/undo_commands.h"
 #include "editing_fixture.h"
+#include "graphics/file_io.h"
 #include "support/temporary_folder.h"
 
 namespace orbelle::editing {
@@ -258,7 +259,6 @@ TEST_F(Commands, AnOpenedDocumentHasScrollBarsAndTheLayersBeforeItsDamage) {
     EXPECT_EQ(recorder.LastTip(), -1);
     EXPECT_TRUE(recorder.Last.Title);
     EXPECT_TRUE(editor.Zoom.IsAnimated);
-    EXPECT_FALSE(editor.Document.Modified);
     const document::ScrollBar& bar = editor.View.HorizontalScroll;
     EXPECT_TRUE(bar.Visible);
     EXPECT_EQ(bar.Max, 100);
@@ -267,12 +267,31 @@ TEST_F(Commands, AnOpenedDocumentHasScrollBarsAndTheLayersBeforeItsDamage) {
     EXPECT_FALSE(editor.View.VerticalScroll.Visible);
 }
 
-TEST_F(Commands, NamesTellWhatAFileHolds) {
-    for (const char* name : {"a.volf", "a.VOLF", "dir.ico/b.volf"})
-        EXPECT_TRUE(IsDocumentName(name) && !IsIconName(name)) << name;
-    for (const char* name : {"a.Ico", "b.volf.ico"})
-        EXPECT_TRUE(IsIconName(name) && !IsDocumentName(name)) << name;
-    EXPECT_FALSE(IsDocumentName("a.volf.png") || IsIconName("a.icon"));
+TEST_F(Commands, WhatAnotherProgramWritesShowsInTheStamp) {
+    const testing::TemporaryFolder folder;
+    const std::filesystem::path path = folder / "a.volf";
+    Do(SaveTo, path);
+    EXPECT_EQ(editor.Document.Stamp, graphics::StampOf(path));
+    Do([&](Editor& e) { OpenFile(e, path); });
+    EXPECT_EQ(editor.Document.Stamp, graphics::StampOf(path));
+    EXPECT_NE(editor.Document.Stamp, graphics::FileStamp());
+    Do(NewDocument, 3, 3);
+    EXPECT_EQ(editor.Document.Stamp, graphics::FileStamp());
+}
+
+TEST_F(Commands, WhatAFileHoldsIsAskedWithoutFailing) {
+    const testing::TemporaryFolder folder;
+    const std::filesystem::path path = folder / "a.ico";
+    const std::pair<std::string, int> files[] = {
+        {"volf 1", 1}, {std::string("\0\0\1\0\1\0", 6), 2}, {"", 0}, {"BM", 0}};
+    for (const auto& [content, kind] : files) {
+        graphics::WriteFile(
+            path, {reinterpret_cast<const std::uint8_t*>(content.data()), content.size()});
+        EXPECT_EQ(IsDocumentFile(path), kind == 1) << content;
+        EXPECT_EQ(IsIconFile(path), kind == 2) << content;
+    }
+    for (const std::filesystem::path& none : {folder / "missing.volf", folder.Path()})
+        EXPECT_FALSE(IsDocumentFile(none) || IsIconFile(none)) << none;
 }
 
 }  // namespace

@@ -42,15 +42,22 @@ protected:
         return pointer;
     }
 
+    // A layer is not dragged off the plane.
+    void Drag(void (*step)(Editor&, const Pointer&)) {
+        const Pointer pointer = RandomPointer();
+        EXPECT_THAT(RunDuringDrag(editor, [&](Editor& e) { step(e, pointer); }).Problem(),
+                    ::testing::AnyOf("", ::testing::HasSubstr("4194304 pixels away")));
+    }
+
     void Gesture() {
-        EditingTest::Step(MoveScene, RandomPointer());
+        Drag(MoveScene);
         Do(PressScene, RandomPointer());
         for (int i = Below(5); i > 0; --i) {
-            EditingTest::Step(MoveScene, RandomPointer());
+            Drag(MoveScene);
             if (Chance(3))
                 Command();
         }
-        EditingTest::Step(ReleaseScene, RandomPointer());
+        Drag(ReleaseScene);
     }
 
     void SliderDrag() {

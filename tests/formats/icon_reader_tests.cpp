@@ -55,9 +55,13 @@ Bytes MakeIcon(const std::vector<Entry>& entries, std::uint16_t reserved = 0,
     return icon;
 }
 
+std::vector<IconEntryImage> Decode(const Bytes& icon) {
+    return DecodeIcon(graphics::MemorySource(icon));
+}
+
 std::string ProblemOf(const Bytes& icon) {
     try {
-        DecodeIcon(icon);
+        Decode(icon);
     } catch (const ImageError& error) {
         return error.what();
     }
@@ -66,8 +70,8 @@ std::string ProblemOf(const Bytes& icon) {
 
 TEST(IconReader, TakesPixelsBottomUpRightBehindTheHeader) {
     const std::vector<IconEntryImage> entries =
-        DecodeIcon(MakeIcon({{2, 5, 32, {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 0}},
-                             {1, 2, 24, {0x33, 0x22, 0x11, 0xFF}}}));
+        Decode(MakeIcon({{2, 5, 32, {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 0}},
+                         {1, 2, 24, {0x33, 0x22, 0x11, 0xFF}}}));
     ASSERT_EQ(entries.size(), 2u);
     EXPECT_EQ(std::tuple(entries[0].Width, entries[0].Height, entries[0].BitCount),
               std::tuple(2, 2, 32));
@@ -79,7 +83,7 @@ TEST(IconReader, TakesPixelsBottomUpRightBehindTheHeader) {
 TEST(IconReader, WrittenIconsComeBack) {
     const Bitmap pictures[] = {testing::PictureOf({"#..", ".##"}, 0x80123456), Bitmap(256, 256),
                                testing::FilledPicture(17, 1, 0x01FFFFFF)};
-    const std::vector<IconEntryImage> entries = DecodeIcon(EncodeIcon(pictures, IconFormat::Bmp));
+    const std::vector<IconEntryImage> entries = Decode(EncodeIcon(pictures, IconFormat::Bmp));
     ASSERT_EQ(entries.size(), 3u);
     for (std::size_t i = 0; i < 3; ++i)
         EXPECT_TRUE(testing::SamePixels(entries[i].Image, pictures[i])) << i;
@@ -120,7 +124,7 @@ TEST(IconReader, RefusesTheWholeFile) {
 
 TEST(IconReader, TakesAsManyEntriesAsTheDirectoryCanCount) {
     const std::vector<IconEntryImage> entries =
-        DecodeIcon(MakeIcon(std::vector<Entry>(0xFFFF, Entry{1, 2, 32, {1, 2, 3, 4}})));
+        Decode(MakeIcon(std::vector<Entry>(0xFFFF, Entry{1, 2, 32, {1, 2, 3, 4}})));
     ASSERT_EQ(entries.size(), 0xFFFFu);
     EXPECT_EQ(entries.back().Image.GetPixel(0, 0), 0x04030201u);
 }
@@ -134,7 +138,7 @@ TEST(IconReader, BytesBeyondTheEndReadAsZero) {
             EXPECT_NE(ProblemOf(cut), "") << length;
             continue;
         }
-        const IconEntryImage entry = DecodeIcon(cut)[0];
+        const IconEntryImage entry = Decode(cut)[0];
         EXPECT_EQ(entry.BitCount, length >= 6 + 16 + 14 + 1 ? 32 : 0) << length;
         const auto* stored = reinterpret_cast<const std::uint8_t*>(entry.Image.Pixels());
         for (std::size_t i = 0; i < 16; ++i)  // the lower row comes first in the file
@@ -156,7 +160,7 @@ TEST(IconReader, OffersWhatHasMoreThan8Bits) {
     for (int bits : {8, 32, 1, 24, 9, 0, 16, -1})
         entries.push_back({1, 2, static_cast<std::int16_t>(bits), {}});
     std::vector<int> offered;
-    for (const IconEntryImage& entry : OfferedEntries(DecodeIcon(MakeIcon(entries))))
+    for (const IconEntryImage& entry : OfferedEntries(Decode(MakeIcon(entries))))
         offered.push_back(entry.BitCount);
     EXPECT_THAT(offered, ElementsAre(32, 24, 9, 16));
 }

@@ -9,6 +9,7 @@
 
 #include "formats/journal_file.h"
 #include "formats/volf_store.h"
+#include "graphics/errors.h"
 #include "support/pictures.h"
 #include "support/temporary_folder.h"
 

@@ -1,10 +1,14 @@
+// The document file: what is written, and what is read of it whole, damaged and hostile.
 #include "formats/volf_store.h"
 
 #include <gmock/gmock.h>
 
 #include <bit>
+#include <cmath>
 #include <cstring>
 
+#include "formats/document_limits.h"
+#include "formats/volf_reader.h"
 #include "graphics/codecs/image_files.h"
 #include "graphics/errors.h"
 #include "graphics/file_io.h"
@@ -75,13 +79,24 @@ Document TwoLayers() {
     return document;
 }
 
-std::string ProblemOf(const Bytes& bytes, Document& document) {
+LoadedDocument Decode(const Bytes& bytes) {
+    // Memory of its own, so that a read past the end shows.
+    const Bytes own(bytes);
+    return DecodeDocument(graphics::MemorySource(own));
+}
+
+// What is missing, or the failure; and how many layers came of it.
+struct Result {
+    std::string Problem;
+    int Layers = 0;
+};
+Result ResultOf(const Bytes& bytes) {
     try {
-        DecodeDocument(bytes, document);
+        const LoadedDocument read = Decode(bytes);
+        return {read.Damage, read.Document.Master.LayerCount()};
     } catch (const Error& error) {
-        return error.what();
+        return {std::string("failed: ") + error.what(), 0};
     }
-    return "none";
 }
 
 TEST(VolfStore, StandsInTheFileByteForByte) {
@@ -114,10 +129,9 @@ TEST(VolfStore, LayersComeBackWithNeutralSliders) {
     Put<std::int32_t>(file, kPathAt, 0x12345678);
     file.push_back(7);
 
-    Document read;
-    read.Master.Layers.resize(5);
-    read.Master.SelectedLayer = 4;
-    DecodeDocument(file, read);
+    const LoadedDocument loaded = Decode(file);
+    const Document& read = loaded.Document;
+    EXPECT_EQ(loaded.Damage, "");
     EXPECT_EQ(read.Master.SelectedLayer, document::kNoLayer);
     ResetLayerAdjust(saved.Master.Layers[0]);
     EXPECT_EQ(EncodeDocument(read), EncodeDocument(saved));
@@ -137,14 +151,14 @@ TEST(VolfStore, ThePictureHasTheSizeOfTheRecordAndOpacityStopsAt1) {
                                                     {0xFF112233, 0x00445566, 0x01778899, 0}};
     for (const auto& row : pictures) {
         Put(file, kImageWidthAt, static_cast<std::int32_t>(row.size()));
-        DecodeDocument(file, read);
+        read = Decode(file).Document;
         EXPECT_TRUE(SamePixels(read.Master.Layers[0].Image, RowOf(row)));
         EXPECT_TRUE(read.Master.Layers[1].Image.IsEmpty());
         EXPECT_TRUE(read.Master.Layers[1].Region.IsNull());
     }
     Put<float>(file, kOpacityAt, 1e30f);
     Put<std::int32_t>(file, kImageHeightAt, -4);
-    DecodeDocument(file, read);
+    read = Decode(file).Document;
     EXPECT_EQ(read.Master.Layers[0].Opacity, 1);
     EXPECT_TRUE(read.Master.Layers[0].Image.IsEmpty());
     EXPECT_EQ(read.Master.Layers[0].ImageHeight, 0);
@@ -152,34 +166,51 @@ TEST(VolfStore, ThePictureHasTheSizeOfTheRecordAndOpacityStopsAt1) {
 }
 
 TEST(VolfStore, OnlyTheMagicMakesADocument) {
-    for (const std::string start : {"", "volf", "volf\t1", "Volf 1"}) {
-        Document document = TwoLayers();
-        EXPECT_THROW(DecodeDocument(Bytes(start.begin(), start.end()), document), InvalidFile);
-        EXPECT_EQ(document.Master.LayerCount(), 2);
-    }
+    for (const std::string start : {"", "volf", "volf\t1", "Volf 1"})
+        EXPECT_THROW(Decode(Bytes(start.begin(), start.end())), InvalidFile);
     Bytes file = EncodeDocument(TwoLayers());
     std::fill(file.begin() + 5, file.begin() + kPageWidthAt, 0xEE);  // format number and tag
-    file[kPictureAt] ^= 1;  // a damaged picture leaves a transparent layer
-    Document document;
-    DecodeDocument(file, document);
-    ASSERT_EQ(document.Master.LayerCount(), 2);
-    EXPECT_TRUE(SamePixels(document.Master.Layers[0].Image, Bitmap(3, 1)));
-    EXPECT_TRUE(document.Master.Layers[0].Region.IsNull());
-    EXPECT_EQ(document.Master.Layers[1].Image.GetPixel(0, 0), 0xFFABCDEF);
+    EXPECT_EQ(ResultOf(file).Layers, 2);
 }
 
 TEST(VolfStore, AFileCutShortKeepsItsWholeLayers) {
     const Bytes file = EncodeDocument(TwoLayers());
     const std::size_t secondLayerAt = kPictureAt + file[kPictureBytesAt] + 1;
     for (std::size_t size = 0; size < file.size(); ++size) {
-        Document document;
-        document.Master.Layers.resize(3);
-        // Memory of its own, so that a read past the end shows.
-        const Bytes cut(file.begin(), file.begin() + static_cast<std::ptrdiff_t>(size));
-        EXPECT_NE(ProblemOf(cut, document), "none") << size;
-        const int whole = size < kHeaderBytes ? 3 : size < secondLayerAt ? 0 : 1;
-        EXPECT_EQ(document.Master.LayerCount(), whole) << size;
+        const auto [problem, layers] =
+            ResultOf({file.begin(), file.begin() + static_cast<std::ptrdiff_t>(size)});
+        EXPECT_EQ(problem, size < 5              ? "failed: Invalid File"
+                           : size < kHeaderBytes ? "failed: the file is cut short"
+                           : size < secondLayerAt
+                               ? "failed: layer 0: the file is cut short"
+                               : "layer 1: the file is cut short; 1 of 2 layers could be read")
+            << size;
+        EXPECT_EQ(layers, size < secondLayerAt ? 0 : 1) << size;
     }
+}
+
+TEST(VolfStore, LayersWithoutAReadablePictureAreLeftOut) {
+    const std::string words = "not a PNG, JPEG, GIF or BMP picture";
+    Bytes file = EncodeDocument(TwoLayers());
+    file[kPictureAt] ^= 1;
+    const LoadedDocument read = Decode(file);
+    EXPECT_EQ(read.Damage, "layer 0: " + words + "; 1 of 2 layers could be read");
+    ASSERT_EQ(read.Document.Master.LayerCount(), 1);
+    EXPECT_EQ(read.Document.Master.Layers[0].Image.GetPixel(0, 0), 0xFFABCDEF);
+
+    file[kPictureAt + file[kPictureBytesAt] + 1 + kLayerBytes] ^= 1;
+    EXPECT_EQ(ResultOf(file).Problem, "failed: layer 0: " + words);
+
+    // Nine more pictures, and the last layer cut short: in few words.
+    Document many = TwoLayers();
+    many.Master.Layers.resize(12, many.Master.Layers[1]);
+    file = EncodeDocument(many);
+    const std::size_t picture = graphics::EncodePng(many.Master.Layers[1].Image).size() + 1;
+    for (std::size_t i = 1; i < 10; ++i)
+        file[file.size() - picture - i * (picture + kLayerBytes)] ^= 1;
+    file.resize(file.size() - 1);
+    EXPECT_EQ(ResultOf(file).Problem, "layer 2: " + words + "; layer 3: " + words + "; layer 4: " +
+                                          words + "; and 7 more; 2 of 12 layers could be read");
 }
 
 TEST(VolfStore, HostileNumbersEndTheReading) {
@@ -190,28 +221,28 @@ TEST(VolfStore, HostileNumbersEndTheReading) {
         const char* Problem;
         int Layers;
     } cases[] = {
-        {kPageWidthAt, graphics::kMaxBitmapSide + 1, "the page is too large", 3},
-        {kPageWidthAt, -5, "none", 2},
-        {kCountAt, 0, "none", 0},
-        {kCountAt, -1, "none", 0},
-        {kCountAt, 3, "layer 2: the file is cut short", 2},
-        {kCountAt, INT32_MAX, "layer 2: the file is cut short", 2},
-        {kImageWidthAt, 20000, "layer 0: its picture is too large: 20000 x 1 pixels", 0},
-        {kPictureBytesAt, -1, "layer 0: the file is cut short", 0},
-        {kPictureBytesAt, INT32_MIN, "layer 0: the file is cut short", 0},
-        {kPictureBytesAt, INT32_MAX, "layer 0: the file is cut short", 0},
-        {kRectAt, kNoNumber, "layer 0: its rectangle", 0},
-        {kRectAt + 12, kInfinity, "layer 0: its rectangle", 0},
-        {kBaseRectAt + 4, std::bit_cast<std::int32_t>(-5e6f), "layer 0: its rectangle", 0},
-        {kOpacityAt, kNoNumber, "layer 0: its opacity", 0},
+        {kPageWidthAt, graphics::kMaxBitmapSide + 1, "failed: the page is too large", 0},
+        {kPageWidthAt, -5, "", 2},
+        {kCountAt, 0, "", 0},
+        {kCountAt, -1, "", 0},
+        {kCountAt, 3, "layer 2: the file is cut short; 2 of 3 layers", 2},
+        {kCountAt, INT32_MAX, "layer 2: the file is cut short; 2 of 2147483647", 2},
+        {kImageWidthAt, 20000, "failed: layer 0: its picture is too large: 20000 x 1 pixels", 0},
+        {kPictureBytesAt, -1, "failed: layer 0: the file is cut short", 0},
+        {kPictureBytesAt, INT32_MIN, "failed: layer 0: the file is cut short", 0},
+        {kPictureBytesAt, INT32_MAX, "failed: layer 0: the file is cut short", 0},
+        {kRectAt, kNoNumber, "failed: layer 0: its rectangle", 0},
+        {kRectAt + 12, kInfinity, "failed: layer 0: its rectangle", 0},
+        {kBaseRectAt + 4, std::bit_cast<std::int32_t>(-5e6f), "failed: layer 0: its rectangle", 0},
+        {kOpacityAt, kNoNumber, "failed: layer 0: its opacity", 0},
     };
     for (const auto& [offset, value, problem, layers] : cases) {
         Bytes file = EncodeDocument(TwoLayers());
         Put(file, offset, value);
-        Document document;
-        document.Master.Layers.resize(3);
-        EXPECT_THAT(ProblemOf(file, document), HasSubstr(problem)) << offset << ": " << value;
-        EXPECT_EQ(document.Master.LayerCount(), layers) << offset << ": " << value;
+        const Result result = ResultOf(file);
+        EXPECT_THAT(result.Problem, ::testing::StartsWith(problem)) << offset << ": " << value;
+        EXPECT_EQ(result.Problem.empty(), *problem == 0) << offset << ": " << value;
+        EXPECT_EQ(result.Layers, layers) << offset << ": " << value;
     }
 }
 
@@ -219,31 +250,116 @@ TEST(VolfStore, ReadsNoMoreLayersThanAStackHolds) {
     Document document;
     document.Master.Layers.resize(document::kMaxLayers);
     Bytes file = EncodeDocument(document);
-    EXPECT_EQ(ProblemOf(file, document), "none");
-    EXPECT_EQ(document.Master.LayerCount(), document::kMaxLayers);
+    EXPECT_EQ(ResultOf(file).Problem, "");
+    EXPECT_EQ(ResultOf(file).Layers, document::kMaxLayers);
 
     Put<std::int32_t>(file, kCountAt, document::kMaxLayers + 1);
     file.resize(file.size() + kLayerBytes + 1);
-    EXPECT_EQ(ProblemOf(file, document), "more than 5001 layers");
-    EXPECT_EQ(document.Master.LayerCount(), document::kMaxLayers);
+    EXPECT_EQ(ResultOf(file).Problem, "more than 5001 layers; 5001 of 5002 layers could be read");
+    EXPECT_EQ(ResultOf(file).Layers, document::kMaxLayers);
+}
+
+void AddLayer(Document& document, int width, const RectF& rect, const Bitmap& picture = {}) {
+    IconLayer& layer = document.Master.Layers.emplace_back();
+    layer.Image = picture;
+    layer.ImageWidth = width;
+    layer.ImageHeight = 1;
+    layer.Rect = rect;
+}
+
+TEST(VolfStore, ALayerCountsForWhatItTakesToOpenIt) {
+    constexpr int kSide = 10240;
+    constexpr float kHeight = 1024;
+    Document document;
+    document.Master.Width = kSide;
+    document.Master.Height = 1024;
+    const RectF page{0, 0, kSide, kHeight};
+    for (int i = 0; i < 9; ++i)
+        AddLayer(document, 1, page, Bitmap(1, 1));
+    EXPECT_EQ(PixelsOf(document.Master), kMaxDocumentPixels);
+    Bytes file = EncodeDocument(document);
+    EXPECT_EQ(ResultOf(file).Problem, "");
+    RequireCanBeOpened(document);
+
+    // A pixel more, by its picture or by what it covers.
+    for (const RectF& rect : {RectF{-5, 0, 1, 1}, RectF{-5, 0, 6, 1}}) {
+        Document more = document;
+        AddLayer(more, 1, rect, Bitmap(1, 1));
+        const std::string words =
+            " have 104857601 pixels together, more than the 104857600 that a document can hold";
+        EXPECT_EQ(ResultOf(EncodeDocument(more)).Problem,
+                  "layer 9: the page and the layers up to here" + words +
+                      "; 9 of 10 layers could be read");
+        EXPECT_THAT([&] { SaveDocument("/missing/folder", more); },
+                    ::testing::ThrowsMessage<Error>("The page and its layers" + words + "."));
+    }
+
+    // A picture that is larger than its record says is cut, and counts: it took its time.
+    document = {};
+    AddLayer(document, 2, {}, Bitmap(6, 1));
+    file = EncodeDocument(document);
+    Put<std::int32_t>(file, kImageWidthAt, 1);
+    EXPECT_EQ(ResultOf(file).Layers, 1);
+    Put<std::int32_t>(file, kPageWidthAt, 8192);
+    Put<std::int32_t>(file, kPageWidthAt + 4, 6144);
+    const Bytes large = graphics::EncodePng(Bitmap(8192, 6144));
+    file.resize(kPictureBytesAt);
+    graphics::Append<std::uint32_t>(file, static_cast<std::uint32_t>(large.size()));
+    file.insert(file.end(), large.begin(), large.end());
+    file.push_back(0);
+    EXPECT_EQ(ResultOf(file).Layers, 1);
+    const Bytes layer(file.begin() + kHeaderBytes, file.end());
+    file.insert(file.end(), layer.begin(), layer.end());
+    Put<std::int32_t>(file, kCountAt, 2);
+    EXPECT_THAT(ResultOf(file).Problem, ::testing::StartsWith("layer 1: the page and the layers"));
+}
+
+TEST(VolfStore, WhatCouldNotBeOpenedIsNotSaved) {
+    const auto problemOf = [](const auto& change) -> std::string {
+        Document document = TwoLayers();
+        change(document.Master);
+        try {
+            RequireCanBeOpened(document);
+        } catch (const Error& error) {
+            return error.what();
+        }
+        EXPECT_EQ(ResultOf(EncodeDocument(document)).Problem, "");
+        return "";
+    };
+    const auto changeLayer = [&](const auto& change) {
+        return problemOf([&](document::Page& page) { change(page.Layers[1]); });
+    };
+    EXPECT_EQ(problemOf([](document::Page&) {}), "");
+    EXPECT_EQ(problemOf([](document::Page& page) { page.Width = -7; }), "");
+    EXPECT_EQ(problemOf([](document::Page& page) { page.Width = 16385; }),
+              "The page is too large: 16385 x 200 pixels.");
+    EXPECT_THAT(problemOf([](document::Page& page) { page.Layers.resize(5002); }),
+                HasSubstr("5002 layers, more than the 5001"));
+    EXPECT_EQ(changeLayer([](IconLayer& layer) { layer.ImageHeight = -5; }), "");
+    EXPECT_EQ(changeLayer([](IconLayer& layer) { layer.ImageWidth = 16385; }),
+              "The layer is too large: 16385 x 1 pixels.");
+    EXPECT_EQ(changeLayer([](IconLayer& layer) { layer.Rect.X = -kMaxCoordinate; }), "");
+    for (const float number : {5e6F, -5e6F, NAN})
+        EXPECT_THAT(changeLayer([=](IconLayer& layer) { layer.BaseRect.Height = number; }),
+                    HasSubstr("more than 4194304 pixels away"));
 }
 
 TEST(VolfStore, ProblemsOfFilesNameThem) {
     const testing::TemporaryFolder folder;
     const auto path = folder / "icon.volf";
     SaveDocument(path, TwoLayers());
-    Document document;
-    LoadDocument(path, document);
-    EXPECT_EQ(document.Master.LayerCount(), 2);
+    EXPECT_EQ(LoadDocument(path).Damage, "");
 
     std::filesystem::resize_file(path, std::filesystem::file_size(path) - 1);
-    EXPECT_THAT([&] { LoadDocument(path, document); },
+    EXPECT_EQ(LoadDocument(path).Damage,
+              path.string() + ": layer 1: the file is cut short; 1 of 2 layers could be read");
+    std::filesystem::resize_file(path, kPictureAt);
+    EXPECT_THAT([&] { LoadDocument(path); },
                 ::testing::ThrowsMessage<graphics::FileError>(path.string() +
-                                                              ": layer 1: the file is cut short"));
+                                                              ": layer 0: the file is cut short"));
     graphics::WriteFile(path, Bytes{'B', 'M'});
-    EXPECT_THROW(LoadDocument(path, document), InvalidFile);
-    EXPECT_THROW(LoadDocument(folder / "missing.volf", document), graphics::FileError);
-    EXPECT_EQ(document.Master.LayerCount(), 1);
+    EXPECT_THROW(LoadDocument(path), InvalidFile);
+    EXPECT_THROW(LoadDocument(folder / "missing.volf"), graphics::FileError);
 }
 
 }  // namespace

@@ -68,7 +68,7 @@ TEST_F(FileIo, FailuresNameTheFileAndTheReason) {
         {false, folder_ / "missing", ": No such file or directory"},
         {false, folder_.Path(), ": Is a directory"},
         {false, "/dev/null", ": not a regular file"},
-        {false, large, ": larger than 256 MiB"},
+        {false, large, ": larger than 512 MiB"},
     };
     for (const auto& test : cases)
         EXPECT_THAT([&] { test.Writes ? WriteFile(test.Path, kNew) : void(ReadFile(test.Path)); },

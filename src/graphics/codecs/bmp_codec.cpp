@@ -2,9 +2,10 @@
 #include <array>
 #include <bit>
 #include <cstdlib>
+#include <span>
+#include <vector>
 
 #include "graphics/codecs/image_codecs.h"
-#include "graphics/codecs/image_files.h"
 #include "graphics/little_endian.h"
 
 namespace orbelle::graphics {
@@ -23,26 +24,41 @@ enum class BmpCompression : std::uint32_t {
     MasksWithAlpha = 6,
 };
 
-// Numbers at absolute places of the file. A read beyond the end throws.
+// The file by absolute places, of which a piece at a time stands in memory. A read beyond the end
+// throws.
 class Bytes {
 public:
-    explicit Bytes(std::span<const std::uint8_t> bytes) : bytes_(bytes) {}
+    explicit Bytes(const ByteSource& file) : file_(file) {}
 
-    std::size_t Size() const { return bytes_.size(); }
-    unsigned Byte(std::size_t at) const { return Number<std::uint8_t>(at); }
-    unsigned Short(std::size_t at) const { return Number<std::uint16_t>(at); }
-    std::uint32_t Long(std::size_t at) const { return Number<std::uint32_t>(at); }
-    const std::uint8_t* At(std::size_t at) const { return bytes_.data() + at; }
+    std::uint64_t Size() const { return file_.Size(); }
+    unsigned Byte(std::uint64_t at) { return Number<std::uint8_t>(at); }
+    unsigned Short(std::uint64_t at) { return Number<std::uint16_t>(at); }
+    std::uint32_t Long(std::uint64_t at) { return Number<std::uint32_t>(at); }
+
+    // So many bytes in a row, until others are asked for.
+    std::span<const std::uint8_t> At(std::uint64_t at, std::size_t count) {
+        if (at > Size() || Size() - at < count)
+            ThrowDamaged("BMP", "the data ends too early");
+        if (at < begin_ || at + count > begin_ + piece_.size()) {
+            constexpr std::size_t kPieceBytes = std::size_t{64} << 10;
+            begin_ = at;
+            piece_.resize(std::min<std::uint64_t>(Size() - at, std::max(count, kPieceBytes)));
+            piece_.resize(file_.ReadAt(at, piece_));
+            if (piece_.size() < count)
+                ThrowDamaged("BMP", "the data can't be read");
+        }
+        return std::span(piece_).subspan(at - begin_, count);
+    }
 
 private:
     template <typename Type>
-    Type Number(std::size_t at) const {
-        if (at > bytes_.size() || bytes_.size() - at < sizeof(Type))
-            ThrowDamaged("BMP", "the data ends too early");
-        return NumberAt<Type>(bytes_, at);
+    Type Number(std::uint64_t at) {
+        return NumberAt<Type>(At(at, sizeof(Type)), 0);
     }
 
-    std::span<const std::uint8_t> bytes_;
+    const ByteSource& file_;
+    std::vector<std::uint8_t> piece_;
+    std::uint64_t begin_ = 0;  // of the piece in the file
 };
 
 struct ChannelMasks {
@@ -59,13 +75,16 @@ struct Header {
     unsigned Bits = 0;
     BmpCompression Compression = BmpCompression::None;
     ChannelMasks Masks;
-    std::size_t PaletteAt = 0;
+    std::uint64_t PaletteAt = 0;
     std::size_t PaletteEntries = 0;
     std::size_t PaletteEntryBytes = 4;
-    std::size_t PixelsAt = 0;
+    std::uint64_t PixelsAt = 0;
 
     // Bytes from one row to the next in an uncompressed file.
     std::int64_t Stride() const { return (Width * Bits + 31) / 32 * 4; }
+
+    // Of a row without its padding, which the last one may lack.
+    std::int64_t RowBytes() const { return (Width * Bits + 7) / 8; }
 
     // Where a row of the file stands in a bitmap of Width x Height pixels.
     Argb* RowIn(Argb* pixels, std::int64_t fileRow) const {
@@ -89,7 +108,7 @@ bool IsKnownCombination(unsigned bits, BmpCompression compression, unsigned head
     return false;
 }
 
-ChannelMasks ReadMasks(const Bytes& bytes, const Header& header, unsigned headerBytes) {
+ChannelMasks ReadMasks(Bytes& bytes, const Header& header, unsigned headerBytes) {
     const std::size_t at = kFileHeaderBytes + kInfoHeaderBytes;
     const bool own = header.Compression != BmpCompression::None;
     ChannelMasks masks = header.Bits == 16 ? ChannelMasks{0x7C00, 0x03E0, 0x001F, 0}
@@ -104,7 +123,7 @@ ChannelMasks ReadMasks(const Bytes& bytes, const Header& header, unsigned header
     return masks;
 }
 
-Header ReadHeader(const Bytes& bytes) {
+Header ReadHeader(Bytes& bytes) {
     Header header;
     const unsigned headerBytes = bytes.Long(kFileHeaderBytes);
     std::uint32_t colorsUsed = 0;
@@ -130,7 +149,7 @@ Header ReadHeader(const Bytes& bytes) {
     if (header.Bits == 16 || header.Bits == 32)
         header.Masks = ReadMasks(bytes, header, headerBytes);
 
-    header.PaletteAt = kFileHeaderBytes + std::size_t{headerBytes};
+    header.PaletteAt = kFileHeaderBytes + std::uint64_t{headerBytes};
     // In the oldest header with masks they follow it.
     if (headerBytes == kInfoHeaderBytes && header.Compression == BmpCompression::Masks)
         header.PaletteAt += 12;
@@ -150,12 +169,12 @@ Header ReadHeader(const Bytes& bytes) {
 }
 
 // Indexes that the file gives no colour for are opaque black.
-std::array<Argb, 256> ReadPalette(const Bytes& bytes, const Header& header) {
+std::array<Argb, 256> ReadPalette(Bytes& bytes, const Header& header) {
     std::array<Argb, 256> palette;
     palette.fill(MakeArgb(255, 0, 0, 0));
-    const std::size_t room = (header.PixelsAt - header.PaletteAt) / header.PaletteEntryBytes;
-    for (std::size_t i = 0; i < std::min(header.PaletteEntries, room); ++i) {
-        const std::uint8_t* entry = bytes.At(header.PaletteAt + i * header.PaletteEntryBytes);
+    const std::uint64_t room = (header.PixelsAt - header.PaletteAt) / header.PaletteEntryBytes;
+    for (std::size_t i = 0; i < std::min<std::uint64_t>(header.PaletteEntries, room); ++i) {
+        const auto entry = bytes.At(header.PaletteAt + i * header.PaletteEntryBytes, 3);
         palette[i] = MakeArgb(255, entry[2], entry[1], entry[0]);
     }
     return palette;
@@ -187,22 +206,22 @@ private:
     unsigned maximum_ = 0;
 };
 
-void CheckRowsAreThere(const Bytes& bytes, const Header& header) {
-    // The last row may lack its padding.
-    const std::int64_t lastRow = (header.Width * header.Bits + 7) / 8;
-    const std::int64_t needed = header.Stride() * (header.Height - 1) + lastRow;
+void CheckRowsAreThere(Bytes& bytes, const Header& header) {
+    const std::int64_t needed = header.Stride() * (header.Height - 1) + header.RowBytes();
     if (needed > static_cast<std::int64_t>(bytes.Size() - header.PixelsAt))
         ThrowDamaged("BMP", "too little data for its size");
 }
 
 // Has `convert` make each row of pixels from the bytes of one row.
 template <typename Convert>
-void ReadRows(const Bytes& bytes, const Header& header, Argb* pixels, Convert convert) {
-    for (std::int64_t y = 0; y < header.Height; ++y)
-        convert(bytes.At(header.PixelsAt + y * header.Stride()), header.RowIn(pixels, y));
+void ReadRows(Bytes& bytes, const Header& header, Argb* pixels, Convert convert) {
+    for (std::int64_t y = 0; y < header.Height; ++y) {
+        const auto row = bytes.At(header.PixelsAt + y * header.Stride(), header.RowBytes());
+        convert(row.data(), header.RowIn(pixels, y));
+    }
 }
 
-void ReadIndexRows(const Bytes& bytes, const Header& header, Argb* pixels) {
+void ReadIndexRows(Bytes& bytes, const Header& header, Argb* pixels) {
     const std::array<Argb, 256> palette = ReadPalette(bytes, header);
     const unsigned bits = header.Bits;
     const unsigned perByte = 8 / bits;
@@ -213,14 +232,14 @@ void ReadIndexRows(const Bytes& bytes, const Header& header, Argb* pixels) {
     });
 }
 
-void ReadTrueColorRows(const Bytes& bytes, const Header& header, Argb* pixels) {
+void ReadTrueColorRows(Bytes& bytes, const Header& header, Argb* pixels) {
     ReadRows(bytes, header, pixels, [&](const std::uint8_t* from, Argb* to) {
         for (std::int64_t x = 0; x < header.Width; ++x, from += 3)
             to[x] = MakeArgb(255, from[2], from[1], from[0]);
     });
 }
 
-void ReadMaskedRows(const Bytes& bytes, const Header& header, Argb* pixels) {
+void ReadMaskedRows(Bytes& bytes, const Header& header, Argb* pixels) {
     const Channel red(header.Masks.Red, 0);
     const Channel green(header.Masks.Green, 0);
     const Channel blue(header.Masks.Blue, 0);
@@ -236,14 +255,14 @@ void ReadMaskedRows(const Bytes& bytes, const Header& header, Argb* pixels) {
 
 // Pixels that the runs leave out get the first colour of the palette; what runs reach beyond a row
 // is dropped.
-void ReadRuns(const Bytes& bytes, const Header& header, Argb* pixels) {
+void ReadRuns(Bytes& bytes, const Header& header, Argb* pixels) {
     const std::array<Argb, 256> palette = ReadPalette(bytes, header);
     std::fill_n(pixels, header.Width * header.Height, palette[0]);
     const bool nibbles = header.Bits == 4;
     std::int64_t x = 0;
     std::int64_t y = 0;
     // Puts `count` indexes that stand from `first` on, over and over when they are `repeated`.
-    const auto put = [&](std::size_t first, unsigned count, bool repeated) {
+    const auto put = [&](std::uint64_t first, unsigned count, bool repeated) {
         Argb* row = header.RowIn(pixels, y);
         const std::int64_t room = std::max<std::int64_t>(header.Width - x, 0);
         for (unsigned i = 0; i < std::min<std::int64_t>(count, room); ++i) {
@@ -252,7 +271,7 @@ void ReadRuns(const Bytes& bytes, const Header& header, Argb* pixels) {
         }
         x += count;
     };
-    std::size_t at = header.PixelsAt;
+    std::uint64_t at = header.PixelsAt;
     while (y < header.Height) {
         const unsigned count = bytes.Byte(at);
         const unsigned escape = bytes.Byte(at + 1);
@@ -278,9 +297,10 @@ void ReadRuns(const Bytes& bytes, const Header& header, Argb* pixels) {
 
 }  // namespace
 
-Bitmap DecodeBmp(std::span<const std::uint8_t> file) {
-    const Bytes bytes(file);
+Bitmap DecodeBmp(const ByteSource& file, PixelBudget& budget) {
+    Bytes bytes(file);
     const Header header = ReadHeader(bytes);
+    budget.Take(header.Width, header.Height);
     const bool runs =
         header.Compression == BmpCompression::Rle8 || header.Compression == BmpCompression::Rle4;
     if (!runs)

@@ -2,13 +2,11 @@
 
 #include <algorithm>
 #include <array>
-#include <cstring>
 #include <new>
 #include <utility>
 #include <vector>
 
 #include "graphics/codecs/image_codecs.h"
-#include "graphics/codecs/image_files.h"
 
 namespace orbelle::graphics {
 namespace {
@@ -22,7 +20,7 @@ namespace {
 
 class GifReader {
 public:
-    explicit GifReader(std::span<const std::uint8_t> bytes) : left_(bytes) {
+    explicit GifReader(const ByteSource& file) : stream_(file) {
         int error = 0;
         gif_ = DGifOpen(this, Read, &error);
         // The library does not tell a lack of memory for the palette from a lack of data.
@@ -35,13 +33,13 @@ public:
     GifReader& operator=(const GifReader&) = delete;
     ~GifReader() { DGifCloseFile(gif_, nullptr); }
 
-    Bitmap ReadFirstFrame() {
+    Bitmap ReadFirstFrame(PixelBudget& budget) {
         FindFirstFrame();
         const GifImageDesc& frame = gif_->Image;
         CheckDeclaredSize(frame.Width, frame.Height);
         const int width = std::max(gif_->SWidth, frame.Left + frame.Width);
         const int height = std::max(gif_->SHeight, frame.Top + frame.Height);
-        CheckDeclaredSize(width, height);
+        budget.Take(width, height);
 
         const std::array<Argb, 256> palette = Palette();
         std::vector<GifByteType> indexes(frame.Width);
@@ -67,11 +65,8 @@ public:
 private:
     static int Read(GifFileType* gif, GifByteType* data, int count) {
         auto* self = static_cast<GifReader*>(gif->UserData);
-        auto& left = self->left_;
-        const std::size_t taken = std::min(left.size(), static_cast<std::size_t>(count));
+        const std::size_t taken = self->stream_.Read({data, static_cast<std::size_t>(count)});
         self->endedEarly_ |= taken < static_cast<std::size_t>(count);
-        std::memcpy(data, left.data(), taken);
-        left = left.subspan(taken);
         return static_cast<int>(taken);
     }
 
@@ -116,7 +111,7 @@ private:
         return palette;
     }
 
-    std::span<const std::uint8_t> left_;
+    ByteStream stream_;
     bool endedEarly_ = false;
     GifFileType* gif_ = nullptr;
     GraphicsControlBlock control_ = {DISPOSAL_UNSPECIFIED, false, 0, NO_TRANSPARENT_COLOR};
@@ -124,8 +119,8 @@ private:
 
 }  // namespace
 
-Bitmap DecodeGif(std::span<const std::uint8_t> bytes) {
-    return GifReader(bytes).ReadFirstFrame();
+Bitmap DecodeGif(const ByteSource& file, PixelBudget& budget) {
+    return GifReader(file).ReadFirstFrame(budget);
 }
 
 }  // namespace orbelle::graphics

@@ -1,18 +1,20 @@
 #include "graphics/codecs/image_files.h"
 
 #include <algorithm>
+#include <array>
+#include <cstring>
+#include <iterator>
 #include <string>
 #include <string_view>
 
 #include "graphics/codecs/image_codecs.h"
-#include "graphics/file_io.h"
 
 namespace orbelle::graphics {
 namespace {
 
 struct Format {
     std::string_view Signature;
-    Bitmap (*Decode)(std::span<const std::uint8_t>);
+    Bitmap (*Decode)(const ByteSource&, PixelBudget&);
 };
 
 constexpr Format kFormats[] = {
@@ -22,42 +24,48 @@ constexpr Format kFormats[] = {
     {"BM", DecodeBmp},
 };
 
-bool StartsWith(std::span<const std::uint8_t> bytes, std::string_view signature) {
-    return bytes.size() >= signature.size() &&
-           std::equal(signature.begin(), signature.end(), bytes.begin(),
-                      [](char a, std::uint8_t b) { return static_cast<std::uint8_t>(a) == b; });
+// Null when the file is of none of them.
+const Format* FindFormat(const ByteSource& file) {
+    std::array<std::uint8_t, 8> start{};
+    const std::size_t there = file.ReadAt(0, start);
+    const auto begins = [&](const Format& format) {
+        return format.Signature.size() <= there &&
+               std::memcmp(start.data(), format.Signature.data(), format.Signature.size()) == 0;
+    };
+    const auto* format = std::ranges::find_if(kFormats, begins);
+    return format == std::end(kFormats) ? nullptr : format;
 }
 
 }  // namespace
-
-void CheckDeclaredSize(std::int64_t width, std::int64_t height) {
-    if (IsBitmapSizeAllowed(width, height))
-        return;
-    const std::string size = std::to_string(width) + " x " + std::to_string(height);
-    if (width < 1 || height < 1)
-        throw ImageError("the picture claims a size of " + size + " pixels");
-    throw ImageError("the picture claims " + size + " pixels, more than " +
-                     std::to_string(kMaxBitmapSide) + " a side or " +
-                     std::to_string(kMaxBitmapPixels) + " in all");
-}
 
 void ThrowDamaged(const std::string& format, const std::string& detail) {
     throw ImageError("the " + format + " picture is cut short or damaged: " + detail);
 }
 
-Bitmap DecodeImage(std::span<const std::uint8_t> bytes) {
-    for (const Format& format : kFormats) {
-        if (StartsWith(bytes, format.Signature))
-            return format.Decode(bytes);
-    }
-    throw ImageError("not a PNG, JPEG, GIF or BMP picture");
+Bitmap DecodeImage(const ByteSource& file, PixelBudget& budget) {
+    const Format* format = FindFormat(file);
+    if (!format)
+        throw ImageError("not a PNG, JPEG, GIF or BMP picture");
+    return format->Decode(file, budget);
 }
 
-Bitmap LoadImageFromFile(const std::filesystem::path& path) {
-    const std::vector<std::uint8_t> bytes = ReadFile(path);
+Bitmap DecodeImage(std::span<const std::uint8_t> file) {
+    PixelBudget budget;
+    return DecodeImage(MemorySource(file), budget);
+}
+
+bool IsPicture(const ByteSource& file) {
+    return FindFormat(file) != nullptr;
+}
+
+Bitmap LoadImageFromFile(const std::filesystem::path& path, PixelBudget budget) {
+    const FileSource file(path);
     try {
-        return DecodeImage(bytes);
+        const Bitmap picture = DecodeImage(file, budget);
+        file.RequireWasRead();
+        return picture;
     } catch (const ImageError& error) {
+        file.RequireWasRead();
         throw FileError(path, error.what());
     }
 }

@@ -7,6 +7,8 @@
 #include <vector>
 
 #include "graphics/bitmap.h"
+#include "graphics/byte_source.h"
+#include "graphics/codecs/pixel_budget.h"
 #include "graphics/errors.h"
 #include "graphics/indexed_bitmap.h"
 
@@ -14,11 +16,15 @@ namespace orbelle::graphics {
 
 // The picture in the file, told by its first bytes, not by its name. Straight alpha; gamma and
 // resolution are ignored. Of an animation the first frame. Throws FileError.
-Bitmap LoadImageFromFile(const std::filesystem::path& path);
+Bitmap LoadImageFromFile(const std::filesystem::path& path, PixelBudget budget = {});
 
-// The same from memory. Declared sizes are checked against IsBitmapSizeAllowed and against the
-// data before memory is taken. Throws ImageError.
-Bitmap DecodeImage(std::span<const std::uint8_t> bytes);
+// The same from a source. Declared sizes are checked against the budget and against the data before
+// memory is taken. Throws ImageError.
+Bitmap DecodeImage(const ByteSource& file, PixelBudget& budget);
+Bitmap DecodeImage(std::span<const std::uint8_t> file);
+
+// Whether the source begins like one of the pictures above.
+bool IsPicture(const ByteSource& file);
 
 // 8-bit RGBA straight from the pixels, colours under alpha 0 kept (Rgb24 bitmaps: 8-bit RGB).
 // An empty bitmap gives no bytes.

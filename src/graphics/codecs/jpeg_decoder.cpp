@@ -1,16 +1,17 @@
+#include <algorithm>
 #include <array>
 #include <csetjmp>
+#include <cstddef>
 #include <cstdio>
 #include <cstring>
 #include <new>
-// The library's headers use std::size_t and FILE without including them.
-#include <jpeglib.h>
-// Needs jpeglib.h before it.
-#include <jerror.h>
+#include <vector>
 
 #include "graphics/codecs/image_codecs.h"
+#include "graphics/codecs/jpeg_coefficients.h"
 #include "graphics/little_endian.h"
-#include "graphics/rotate_flip.h"
+// Needs jpeglib.h before it.
+#include <jerror.h>
 
 // libjpeg leaves its calls by longjmp when something fails. Functions with a setjmp therefore hold
 // no object that would have to be destroyed; they answer false, and their caller throws.
@@ -24,6 +25,12 @@ constexpr int kMaxScans = 100;
 
 // Pixels times scans: 16 scans of the largest picture.
 constexpr std::int64_t kMaxScannedPixels = 16 * kMaxBitmapPixels;
+
+// Enough for the largest picture with three channels at full resolution.
+constexpr std::int64_t kMaxCoefficientBytes = std::int64_t{320} << 20;
+
+// What cameras put before a picture has a few; the library keeps some of it.
+constexpr std::uint64_t kMaxHeaderBytes = std::uint64_t{32} << 20;
 
 // A Huffman code takes a bit at least, and no coded unit covers more than 32 x 32 pixels: 8 of them
 // to a byte.
@@ -64,9 +71,45 @@ private:
     bool bigEndian_;
 };
 
-class JpegReader {
+// How the pixels of a picture that was taken turned or mirrored come to stand upright: each step
+// to the right or down in the file is a step in the picture.
+struct Placement {
+    std::ptrdiff_t Start;
+    std::ptrdiff_t StepRight;
+    std::ptrdiff_t StepDown;
+};
+
+bool IsTurned(int orientation) {
+    return orientation >= 5;
+}
+
+Placement PlacementOf(int orientation, std::int64_t uprightWidth, std::int64_t uprightHeight) {
+    const bool fromRight =
+        orientation == 2 || orientation == 3 || orientation == 6 || orientation == 7;
+    const bool fromBottom =
+        orientation == 3 || orientation == 4 || orientation == 7 || orientation == 8;
+    const std::ptrdiff_t across = fromRight ? -1 : 1;
+    const std::ptrdiff_t down = fromBottom ? -uprightWidth : uprightWidth;
+    return {
+        (fromRight ? uprightWidth - 1 : 0) + (fromBottom ? (uprightHeight - 1) * uprightWidth : 0),
+        IsTurned(orientation) ? down : across, IsTurned(orientation) ? across : down};
+}
+
+// Rows are turned so many at a time: what stands one above the other in the file becomes whole
+// lines of the processor's cache.
+constexpr int kBandRows = 16;
+
+void PlaceBand(const Argb* band, std::int64_t width, int rows, Argb* to, const Placement& place) {
+    for (std::int64_t x = 0; x < width; ++x, to += place.StepRight) {
+        for (int y = 0; y < rows; ++y)
+            to[y * place.StepDown] = band[y * width + x];
+    }
+}
+
+// The library finds the base class by client_data.
+class JpegReader : JpegCoefficients {
 public:
-    explicit JpegReader(std::span<const std::uint8_t> bytes) : bytes_(bytes) {}
+    explicit JpegReader(const ByteSource& file) : stream_(file), fileBytes_(file.Size()) {}
     JpegReader(const JpegReader&) = delete;
     JpegReader& operator=(const JpegReader&) = delete;
     ~JpegReader() { jpeg_destroy_decompress(&jpeg_); }
@@ -75,15 +118,23 @@ public:
         if (setjmp(jump_))
             return false;
         jpeg_.err = jpeg_std_error(&errors_);
-        jpeg_.client_data = this;
+        jpeg_.client_data = static_cast<JpegCoefficients*>(this);
         errors_.error_exit = OnError;
         errors_.emit_message = OnMessage;
         jpeg_create_decompress(&jpeg_);
+        Serve(jpeg_);
         progress_.progress_monitor = OnProgress;
         jpeg_.progress = &progress_;
-        jpeg_mem_src(&jpeg_, bytes_.data(), static_cast<unsigned long>(bytes_.size()));
+        input_.init_source = [](j_decompress_ptr) {};
+        input_.fill_input_buffer = OnInputNeeded;
+        input_.skip_input_data = OnSkip;
+        input_.resync_to_restart = jpeg_resync_to_restart;
+        input_.term_source = [](j_decompress_ptr) {};
+        jpeg_.src = &input_;
         jpeg_save_markers(&jpeg_, JPEG_APP0 + 1, 0xFFFF);
         jpeg_read_header(&jpeg_, TRUE);
+        jpeg_save_markers(&jpeg_, JPEG_APP0 + 1, 0);
+        headerIsRead_ = true;
         return true;
     }
 
@@ -92,7 +143,16 @@ public:
 
     bool HasTooLittleData() const {
         return !jpeg_.arith_code &&
-               Width() * Height() / kMaxPixelsPerByte > static_cast<std::int64_t>(bytes_.size());
+               Width() * Height() / kMaxPixelsPerByte > static_cast<std::int64_t>(fileBytes_);
+    }
+
+    // What a picture in several scans takes before its first pixel is made.
+    std::int64_t CoefficientBytes() {
+        std::int64_t blocks = 0;
+        for (int i = 0; jpeg_has_multiple_scans(&jpeg_) && i < jpeg_.num_components; ++i)
+            blocks += std::int64_t{jpeg_.comp_info[i].width_in_blocks} *
+                      jpeg_.comp_info[i].height_in_blocks;
+        return blocks * static_cast<std::int64_t>(sizeof(JBLOCK));
     }
 
     int Orientation() const {
@@ -106,19 +166,25 @@ public:
         return 1;
     }
 
-    // Fills Width() x Height() pixels.
-    bool ReadPixels(Argb* pixels) {
+    // Fills Width() x Height() pixels: row by row without a band, else by way of the band, which
+    // has room for kBandRows rows.
+    bool ReadPixels(Argb* pixels, Argb* band, const Placement& place) {
         if (setjmp(jump_))
             return false;
         const bool inks = jpeg_.jpeg_color_space == JCS_CMYK || jpeg_.jpeg_color_space == JCS_YCCK;
         jpeg_.out_color_space = inks ? JCS_CMYK : JCS_EXT_BGRA;
         jpeg_start_decompress(&jpeg_);
         while (jpeg_.output_scanline < jpeg_.output_height) {
-            Argb* row = pixels + jpeg_.output_scanline * Width();
+            const std::int64_t y = jpeg_.output_scanline;
+            const std::int64_t rowInBand = y % kBandRows;
+            Argb* row = band ? band + rowInBand * Width() : pixels + y * Width();
             auto* bytes = reinterpret_cast<JSAMPROW>(row);
             jpeg_read_scanlines(&jpeg_, &bytes, 1);
             if (inks)
                 ConvertInks(row);
+            if (band && (rowInBand == kBandRows - 1 || y == Height() - 1))
+                PlaceBand(band, Width(), static_cast<int>(rowInBand) + 1,
+                          pixels + place.Start + (y - rowInBand) * place.StepDown, place);
         }
         return true;
     }
@@ -131,7 +197,7 @@ public:
 
 private:
     static JpegReader* Self(j_common_ptr jpeg) {
-        return static_cast<JpegReader*>(jpeg->client_data);
+        return static_cast<JpegReader*>(static_cast<JpegCoefficients*>(jpeg->client_data));
     }
 
     [[noreturn]] static void OnError(j_common_ptr jpeg) {
@@ -148,13 +214,40 @@ private:
             OnError(jpeg);
     }
 
+    static boolean OnInputNeeded(j_decompress_ptr jpeg) {
+        JpegReader* self = Self(reinterpret_cast<j_common_ptr>(jpeg));
+        const std::span<const std::uint8_t> piece = self->stream_.NextPiece();
+        if (piece.empty())
+            WARNMS(jpeg, JWRN_JPEG_EOF);  // which we make an error
+        self->headerBytes_ += self->headerIsRead_ ? 0 : piece.size();
+        if (self->headerBytes_ > kMaxHeaderBytes)
+            self->Fail("its header is too long");
+        self->input_.next_input_byte = piece.data();
+        self->input_.bytes_in_buffer = piece.size();
+        return TRUE;
+    }
+
+    static void OnSkip(j_decompress_ptr jpeg, long count) {
+        JpegReader* self = Self(reinterpret_cast<j_common_ptr>(jpeg));
+        jpeg_source_mgr& input = self->input_;
+        const std::size_t here =
+            std::min(input.bytes_in_buffer, static_cast<std::size_t>(std::max(count, 0L)));
+        input.next_input_byte += here;
+        input.bytes_in_buffer -= here;
+        self->stream_.Skip(static_cast<std::uint64_t>(std::max(count, 0L)) - here);
+    }
+
     static void OnProgress(j_common_ptr jpeg) {
         JpegReader* self = Self(jpeg);
         const int scans = self->jpeg_.input_scan_number;
         if (scans <= kMaxScans && scans * self->Width() * self->Height() <= kMaxScannedPixels)
             return;
-        std::snprintf(self->message_, sizeof self->message_, "it has too many scans for its size");
-        std::longjmp(self->jump_, 1);
+        self->Fail("it has too many scans for its size");
+    }
+
+    [[noreturn]] void Fail(const char* problem) {
+        std::snprintf(message_, sizeof message_, "%s", problem);
+        std::longjmp(jump_, 1);
     }
 
     // Cyan, magenta, yellow and black bytes become opaque pixels in place.
@@ -170,7 +263,11 @@ private:
         }
     }
 
-    std::span<const std::uint8_t> bytes_;
+    ByteStream stream_;
+    std::uint64_t fileBytes_;
+    std::uint64_t headerBytes_ = 0;  // that were read so far
+    bool headerIsRead_ = false;
+    jpeg_source_mgr input_ = {};
     jpeg_decompress_struct jpeg_ = {};
     jpeg_error_mgr errors_ = {};
     jpeg_progress_mgr progress_ = {};
@@ -179,30 +276,31 @@ private:
     bool outOfMemory_ = false;
 };
 
-void TurnUpright(Bitmap& image, int orientation) {
-    if (orientation == 6 || orientation == 7)
-        ImageRotateFlip(image, RotateFlipType::Rotate90FlipNone);
-    if (orientation == 5 || orientation == 8)
-        ImageRotateFlip(image, RotateFlipType::Rotate90FlipX);
-    if (orientation == 2 || orientation == 3)
-        ImageRotateFlip(image, RotateFlipType::RotateNoneFlipX);
-    if (orientation == 3 || orientation == 4 || orientation == 7 || orientation == 8)
-        ImageRotateFlip(image, RotateFlipType::RotateNoneFlipY);
-}
-
 }  // namespace
 
-Bitmap DecodeJpeg(std::span<const std::uint8_t> bytes) {
-    JpegReader reader(bytes);
+Bitmap DecodeJpeg(const ByteSource& file, PixelBudget& budget) {
+    JpegReader reader(file);
     if (!reader.ReadHeader())
         reader.ThrowProblem();
-    CheckDeclaredSize(reader.Width(), reader.Height());
+    budget.Take(reader.Width(), reader.Height());
     if (reader.HasTooLittleData())
         ThrowDamaged("JPEG", "too little data for its size");
-    Bitmap image(static_cast<int>(reader.Width()), static_cast<int>(reader.Height()));
-    if (!reader.ReadPixels(image.MutablePixels()))
+    if (reader.CoefficientBytes() > kMaxCoefficientBytes)
+        throw ImageError("the JPEG picture needs " +
+                         std::to_string(reader.CoefficientBytes() >> 20) +
+                         " MiB to put its scans together, more than " +
+                         std::to_string(kMaxCoefficientBytes >> 20));
+    const int orientation = reader.Orientation();
+    auto width = static_cast<int>(reader.Width()), height = static_cast<int>(reader.Height());
+    if (IsTurned(orientation))
+        std::swap(width, height);
+    Bitmap image(width, height);
+    std::vector<Argb> band;
+    if (orientation != 1)
+        band.resize(static_cast<std::size_t>(reader.Width()) * kBandRows);
+    if (!reader.ReadPixels(image.MutablePixels(), band.empty() ? nullptr : band.data(),
+                           PlacementOf(orientation, width, height)))
         reader.ThrowProblem();
-    TurnUpright(image, reader.Orientation());
     return image;
 }
 

@@ -5,11 +5,9 @@
 #include <csetjmp>
 #include <cstdio>
 #include <cstdlib>
-#include <cstring>
 #include <new>
 
 #include "graphics/codecs/image_codecs.h"
-#include "graphics/codecs/image_files.h"
 
 // libpng leaves its calls by longjmp when something fails. Functions with a setjmp therefore hold
 // no object that would have to be destroyed; they answer false, and their callers throw.
@@ -48,7 +46,7 @@ void Free(png_structp, png_voidp memory) {
 
 class PngReader {
 public:
-    explicit PngReader(std::span<const std::uint8_t> bytes) : left_(bytes) {
+    explicit PngReader(const ByteSource& file) : stream_(file) {
         png_ = png_create_read_struct_2(PNG_LIBPNG_VER_STRING, &failure_, OnError, OnWarning,
                                         &failure_, Allocate, Free);
         info_ = png_ ? png_create_info_struct(png_) : nullptr;
@@ -104,13 +102,11 @@ public:
 private:
     static void Read(png_structp png, png_bytep data, std::size_t count) {
         auto* self = static_cast<PngReader*>(png_get_io_ptr(png));
-        if (count > self->left_.size())
+        if (self->stream_.Read({data, count}) < count)
             png_error(png, "the data ends too early");
-        std::memcpy(data, self->left_.data(), count);
-        self->left_ = self->left_.subspan(count);
     }
 
-    std::span<const std::uint8_t> left_;
+    ByteStream stream_;
     Failure failure_;
     png_structp png_ = nullptr;
     png_infop info_ = nullptr;
@@ -118,12 +114,12 @@ private:
 
 }  // namespace
 
-Bitmap DecodePng(std::span<const std::uint8_t> bytes) {
-    PngReader reader(bytes);
+Bitmap DecodePng(const ByteSource& file, PixelBudget& budget) {
+    PngReader reader(file);
     if (!reader.ReadHeader())
         reader.ThrowProblem();
-    CheckDeclaredSize(reader.Width(), reader.Height());
-    if (reader.BytesInFile() / kMaxDeflateRatio > static_cast<std::int64_t>(bytes.size()))
+    budget.Take(reader.Width(), reader.Height());
+    if (reader.BytesInFile() / kMaxDeflateRatio > static_cast<std::int64_t>(file.Size()))
         ThrowDamaged("PNG", "too little data for its size");
     Bitmap image(static_cast<int>(reader.Width()), static_cast<int>(reader.Height()));
     if (!reader.ReadPixels(image.MutablePixels()))

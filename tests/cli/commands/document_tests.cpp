@@ -1,6 +1,7 @@
 // Documents: new, opened, imported, saved; page size and background; undo over all of them.
 #include "cli/document_json.h"
 #include "formats/icon_file.h"
+#include "graphics/codecs/image_files.h"
 #include "graphics/file_io.h"
 #include "rows.h"
 #include "support/editor_account.h"
@@ -82,6 +83,98 @@ TEST_F(DocumentCommands, WhatFailsLeavesEverythingAsItWas) {
               "widths 12, selected 0, undo 1, redo 1, modified true, page/width 12, path , title "
               "Varnel Orbelle - Project *, error ",
               {{"fails", verb, verb + ": " + reason}});
+}
+
+// Whatever a file is called.
+TEST_F(DocumentCommands, TheFirstBytesTellWhatAFileIs) {
+    const auto copy = [](const char* from, const char* to) {
+        std::filesystem::copy_file(from, to);
+    };
+    WriteDocument("d.volf", 9, 7, {{FilledPicture(5, 4, kBlue), {}}});
+    graphics::WriteFile("p.bmp", graphics::EncodeBmp(FilledPicture(3, 2, kBlue)));
+    for (const auto& [from, to] : {std::pair("d.volf", "document.png"),
+                                   {"d.volf", "document.ico"},
+                                   {"d.volf", "document"},
+                                   {"a.png", "picture.ico"},
+                                   {"a.png", "picture.volf"},
+                                   {"p.bmp", "bitmap.ico"},
+                                   {"a.ICO", "icon.png"},
+                                   {"a.ICO", "icon.volf"}})
+        copy(from, to);
+    graphics::WriteFile("pointer.ico", std::vector<std::uint8_t>{0, 0, 2, 0, 1, 0, 0, 0, 0, 0});
+    graphics::WriteFile("text.ico", std::vector<std::uint8_t>(100, 'x'));
+    const std::string none = ": not a PNG; JPEG; GIF or BMP picture";
+    Check({
+        {"a document", "open document.png", "widths 5, page/width 9, path document.png"},
+        {"as an icon", "open document.ico", "widths 5, path document.ico"},
+        {"without a name", "open document", "path document, title document - Varnel Orbelle"},
+        {"imported", "new 3 3 import document.png", "widths 5, path document.png"},
+        {"a picture", "open picture.volf", "widths 12, path "},
+        {"as an icon", "icon-entry 1 open picture.ico icon-entry 0 import b.png", "widths 1230"},
+        {"a bitmap", "new 3 3 import bitmap.ico", "widths 33, undo 1"},
+        {"an icon", "icon-entry 1 open icon.png", "widths 40"},
+        {"as a document", "icon-entry 1 open icon.volf", "widths 40, path "},
+        {"a pointer", "open pointer.ico", "error open pointer.ico" + none},
+        {"nothing", "open text.ico", "error open text.ico" + none},
+    });
+}
+
+TEST_F(DocumentCommands, ADamagedDocumentHasNoPath) {
+    const Placed layer{FilledPicture(5, 4, kBlue), {}};
+    WriteDocument("d.volf", 9, 7, {layer, {FilledPicture(6, 4, kBlue), {}}, layer});
+    std::vector<std::uint8_t> whole = graphics::ReadFile("d.volf");
+    const auto write = [&](const char* name, std::size_t bytes) {
+        graphics::WriteFile(name, std::span(whole).first(bytes));
+    };
+    const std::size_t layerBytes = (whole.size() - 34) / 3 + 1;
+    write("two.volf", whole.size() - 1);
+    write("one.volf", 34 + layerBytes + 10);
+    write("none.volf", 34 + 10);
+    whole[34 + 76] ^= 1;
+    write("lost.volf", whole.size());
+    const std::string changed =
+        ", path , modified true, undo 0, title Varnel Orbelle - Project *, notes orbelle-cli: "
+        "open ";
+    const std::string cut = ": the file is cut short; ";
+    Check("open a.png save s.volf ", "",
+          {
+              {"two of three", "open two.volf",
+               "widths 56, selected 1, page/width 9" + changed + "two.volf: layer 2" + cut +
+                   "2 of 3 layers could be read\n"},
+              {"one", "open one.volf",
+               "widths 5" + changed + "one.volf: layer 1" + cut + "1 of 3 layers could be read\n"},
+              {"a picture", "import lost.volf",
+               "widths 65, path , modified true, notes orbelle-cli: import lost.volf: layer 0: not "
+               "a PNG; JPEG; GIF or BMP picture; 2 of 3 layers could be read\n"},
+              {"none", "open none.volf",
+               "widths 12, path s.volf, modified false, error open none.volf: layer 0: the file is "
+               "cut short"},
+              {"saved elsewhere", "open one.volf save new.volf",
+               "path new.volf, modified false, notes orbelle-cli: open one.volf: layer 1" + cut +
+                   "1 of 3 layers could be read\n"},
+          });
+}
+
+// What could not be opened again is refused before it changes anything. There is room for one more
+// layer of the page's size.
+TEST_F(DocumentCommands, ADocumentStaysSmallEnoughToBeOpened) {
+    const Placed covering{graphics::Bitmap(1, 1), {0, 0, 10240, 1024}};
+    WriteDocument("d.volf", 10240, 1024, std::vector<Placed>(8, covering));
+    Write("over.png", graphics::Bitmap(10240, 1025));
+    const std::string pixels =
+        ": The page and its layers have 115343360 pixels together; more than the 104857600 that a "
+        "document can hold.";
+    Check("open d.volf ", "page/width 10240, widths 11111111",
+          {
+              {"a picture", "import over.png",
+               ", undo 0, modified false, error import over.png: the picture of 10240 x 1025 "
+               "pixels is too large: there is room for 10485760 pixels"},
+              {"the last layer", "add-layer", "10240, undo 1"},
+              {"one more", "add-layer add-layer", "10240, undo 1, error add-layer" + pixels},
+              {"a style", "add-layer style shade", "10240, undo 1, error style shade" + pixels},
+              {"a copy", "copy paste paste", "10240, undo 1, error paste" + pixels},
+              {"another", "add-layer delete add-layer", "10240, undo 3"},
+          });
 }
 
 TEST_F(DocumentCommands, PageAndBackgroundAreSteps) {

@@ -3,7 +3,9 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <map>
 #include <nlohmann/json.hpp>
+#include <regex>
 
 #include "cli/document_json.h"
 #include "cli/script.h"
@@ -160,26 +162,30 @@ void RowsTest::Check(const Row& row) {
     SCOPED_TRACE(std::string(row.Behaviour) + ": " + row.Script);
     std::ostringstream output;
     Workspace workspace(output);
+    std::ostringstream notes;
     std::string error, first = LayersOf(workspace.Editor);
     try {
         for (const Call& call : ParseCalls(SplitLine(row.Script))) {
-            RunCalls({&call, 1}, workspace);
+            RunCalls({&call, 1}, workspace, notes);
             if (workspace.Editor.History.UndoIndex() == 0)
                 first = LayersOf(workspace.Editor);
         }
     } catch (const Failure& failure) {
         error = failure.what();
     }
-    bool errorTold = error.empty();
+    std::map<std::string, std::string> told{{"error", error}, {"notes", notes.str()}};
+    for (auto& [question, words] : told)
+        words = std::regex_replace(words, std::regex(", "), "; ");
     for (const std::string& fact : Split(row.Facts, ", ")) {
         const std::size_t blank = std::min(fact.find(' '), fact.size());
         const std::string question = fact.substr(0, blank);
         const std::string expected = fact.substr(std::min(blank + 1, fact.size()));
-        errorTold |= question == "error";
-        EXPECT_EQ(question == "error" ? error : Answer(workspace, question, expected), expected)
+        const auto words = told.extract(question);
+        EXPECT_EQ(words ? words.mapped() : Answer(workspace, question, expected), expected)
             << question;
     }
-    EXPECT_TRUE(errorTold) << error;
+    for (const auto& [question, words] : told)
+        EXPECT_EQ(words, "") << question;
     if (!workspace.Editor.DocumentExists)
         return;
     EXPECT_TRUE(IsComposed(workspace.Editor));

@@ -25,7 +25,8 @@ struct Row {
     //   N/reds|X,Y~T                reds, -1 where nothing is painted, downwards
     //   N/runs, selection/runs      a region, as runs
     //   slider/NAME, title
-    //   error                       of the last verb; without this question there must be none
+    //   error, notes                of the last verb, of all; commas are semicolons there. Without
+    //                               the question there must be none
     // `clipboard` is a layer, too.
     std::string Facts;
 };

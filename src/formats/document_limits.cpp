@@ -1,0 +1,68 @@
+#include "formats/document_limits.h"
+
+#include <algorithm>
+#include <cmath>
+#include <initializer_list>
+#include <string>
+
+#include "graphics/errors.h"
+
+namespace orbelle::formats {
+namespace {
+
+using document::IconLayer;
+using document::Page;
+
+void RequireSize(const std::string& what, int width, int height) {
+    if (!graphics::IsBitmapSizeAllowed(width, height))
+        throw Error(what + " is too large: " + std::to_string(width) + " x " +
+                    std::to_string(height) + " pixels.");
+}
+
+bool LiesOnPlane(const graphics::RectF& rect) {
+    // Written so that not-a-number fails.
+    return std::ranges::all_of(std::initializer_list{rect.X, rect.Y, rect.Width, rect.Height},
+                               [](float number) { return std::abs(number) <= kMaxCoordinate; });
+}
+
+}  // namespace
+
+std::int64_t PagePixels(const Page& page) {
+    // A side below 1 is taken for 1 when the page is composed.
+    return std::int64_t{std::max(page.Width, 1)} * std::max(page.Height, 1);
+}
+
+std::int64_t LayerPixels(const IconLayer& layer, const Page& page) {
+    const graphics::RectI drawn = Intersect(
+        document::DrawnArea(layer.Rect), {0, 0, std::max(page.Width, 1), std::max(page.Height, 1)});
+    return std::max(std::int64_t{std::max(layer.ImageWidth, 0)} * std::max(layer.ImageHeight, 0),
+                    std::int64_t{drawn.Width} * drawn.Height);
+}
+
+std::int64_t PixelsOf(const Page& page) {
+    std::int64_t pixels = PagePixels(page);
+    for (const IconLayer& layer : page.Layers)
+        pixels += LayerPixels(layer, page);
+    return pixels;
+}
+
+void RequireCanBeOpened(const document::Document& document) {
+    const Page& page = document.Master;
+    RequireSize("The page", std::max(page.Width, 1), std::max(page.Height, 1));
+    for (const IconLayer& layer : page.Layers) {
+        if (layer.ImageWidth > 0 && layer.ImageHeight > 0)
+            RequireSize("The layer", layer.ImageWidth, layer.ImageHeight);
+        if (!LiesOnPlane(layer.Rect) || !LiesOnPlane(layer.BaseRect))
+            throw Error("The layer lies more than 4194304 pixels away from the page.");
+    }
+    if (page.LayerCount() > document::kMaxLayers)
+        throw Error("The document has " + std::to_string(page.LayerCount()) +
+                    " layers, more than the " + std::to_string(document::kMaxLayers) +
+                    " that can be opened again.");
+    if (const std::int64_t pixels = PixelsOf(page); pixels > kMaxDocumentPixels)
+        throw Error("The page and its layers have " + std::to_string(pixels) +
+                    " pixels together, more than the " + std::to_string(kMaxDocumentPixels) +
+                    " that a document can hold.");
+}
+
+}  // namespace orbelle::formats
