@@ -50,11 +50,9 @@ enum class FileKind { Document, Icon, Picture };
 FileKind KindOf(const fs::path& path) {
     const graphics::FileSource file(path);
     FileKind kind = FileKind::Picture;
-    if (formats::IsDocument(file))
-        kind = FileKind::Document;
-    else if (formats::IsIcon(file))
+    if (formats::IsIcon(file))
         kind = FileKind::Icon;
-    else if (IsNamedAsDocument(path) && !graphics::IsPicture(file))
+    else if (formats::IsDocument(file) || (IsNamedAsDocument(path) && !graphics::IsPicture(file)))
         kind = FileKind::Document;
     file.RequireWasRead();
     return kind;
