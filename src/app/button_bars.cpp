@@ -4,6 +4,7 @@
 
 #include "app/ask_commands.h"
 #include "app/links.h"
+#include "app/save_commands.h"
 #include "app/step_caption.h"
 #include "editing/buttons.h"
 #include "editing/layer_bar.h"

@@ -8,6 +8,7 @@
 #include "app/ask_commands.h"
 #include "app/export_formats.h"
 #include "app/links.h"
+#include "app/save_commands.h"
 #include "app/step_caption.h"
 #include "editing/clipboard_commands.h"
 #include "editing/stack_commands.h"

@@ -1,28 +1,33 @@
 #include "app/main_window.h"
 
+#include <QApplication>
 #include <QClipboard>
 #include <QCloseEvent>
-#include <QDir>
-#include <QGuiApplication>
 #include <QMenu>
+#include <QProgressDialog>
 #include <QStatusBar>
-#include <QTemporaryFile>
+#include <QThread>
+#include <utility>
 
 #include "app/ask_commands.h"
 #include "app/bottom_panel.h"
 #include "app/close_tips_tab.h"
 #include "app/file_dialog.h"
+#include "app/import_files.h"
 #include "app/right_panel.h"
+#include "app/save_commands.h"
 #include "app/scene_view.h"
 #include "app/system_clipboard.h"
 #include "app/welcome_window.h"
 #include "editing/buttons.h"
 #include "editing/clipboard_commands.h"
+#include "editing/document_commands.h"
 #include "editing/view_commands.h"
 
 namespace orbelle::app {
 namespace {
 
+constexpr int kRetryMilliseconds = 50;
 constexpr int kZoomTickMilliseconds = 1;
 
 }  // namespace
@@ -60,38 +65,54 @@ MainWindow::MainWindow() {
 bool MainWindow::Run(const editing::Command& command) {
     bottomPanel_->CommitTyping();
     statusBar()->clearMessage();
-    return Tell(editing::Run(editor_, command));
+    return Tell(ReportOf(editing::Run(editor_, command)));
 }
 
 bool MainWindow::RunBusy(const editing::Command& command) {
     return Tell(Try(command));
 }
 
-editing::Outcome MainWindow::Try(const editing::Command& command) {
+Report MainWindow::Try(const editing::Command& command) {
     bottomPanel_->CommitTyping();
     statusBar()->clearMessage();
     QGuiApplication::setOverrideCursor(Qt::WaitCursor);
-    editing::Outcome outcome = editing::Run(editor_, command);
+    const editing::Outcome outcome = editing::Run(editor_, command);
     QGuiApplication::restoreOverrideCursor();
-    return outcome;
+    return ReportOf(outcome);
 }
 
 bool MainWindow::RunDuringDrag(const editing::Command& step) {
-    return Tell(editing::RunDuringDrag(editor_, step));
+    return Tell(ReportOf(editing::RunDuringDrag(editor_, step)));
 }
 
-bool MainWindow::Tell(const editing::Outcome& outcome) {
-    const std::string text = outcome.Failed() ? outcome.Problem() : std::exchange(message_, {});
-    if (!text.empty())
-        ShowMessage(text);
-    return !outcome.Failed();
+Report MainWindow::ReportOf(const editing::Outcome& outcome) {
+    std::string said = std::exchange(message_, {});
+    return {outcome.Failed(), outcome.Failed() ? outcome.Problem() : std::move(said)};
 }
 
-void MainWindow::ShellOpen(const QString& commandLine) {
-    OpenHandedOver(context_, EncodedName(commandLine));
+bool MainWindow::Tell(const Report& report) {
+    if (!report.Text.empty())
+        ShowMessage(report.Text);
+    return !report.Failed;
 }
 
-void MainWindow::TakeHandOver(const QString& commandLine) {
+void MainWindow::ShellOpen(const QByteArray& commandLine) {
+    OpenHandedOver(context_, commandLine.toStdString());
+}
+
+// What a dialog has led to goes on after it has closed, within the event that closed it: so the
+// depth of event loops counts, not only what can be seen.
+bool MainWindow::IsInCommand() const {
+    return thread()->loopLevel() > 1 || progress_ || QApplication::activeModalWidget();
+}
+
+bool MainWindow::IsFree() const {
+    return isVisible() && !IsInCommand() && !QApplication::activePopupWidget() &&
+           QGuiApplication::mouseButtons() == Qt::NoButton &&
+           std::holds_alternative<std::monostate>(editor_.Drag);
+}
+
+void MainWindow::TakeHandOver(const QByteArray& commandLine) {
     setWindowState(windowState() & ~Qt::WindowMinimized);
     show();
     raise();
@@ -100,18 +121,27 @@ void MainWindow::TakeHandOver(const QString& commandLine) {
 }
 
 void MainWindow::OpenPath(const QString& path) {
-    ShellOpen('"' + path + '"');
+    ShellOpen(QByteArray::fromStdString('"' + EncodedName(path) + '"'));
 }
 
-void MainWindow::ImportFiles(const QStringList& files) {
-    for (const QString& file : files)
-        ImportKnownFile(context_, EncodedName(file));
+// A question may have come up since the drop.
+void MainWindow::ImportDroppedFiles(const QByteArrayList& files) {
+    if (IsInCommand()) {
+        QTimer::singleShot(kRetryMilliseconds, this, [=, this] { ImportDroppedFiles(files); });
+        return;
+    }
+    std::vector<std::filesystem::path> paths;
+    for (const QByteArray& file : files)
+        paths.emplace_back(file.toStdString());
+    ImportFiles(context_, paths);
 }
 
-void MainWindow::ImportDroppedPicture(const QImage& picture) {
-    QTemporaryFile file(QDir::tempPath() + "/orbelle-XXXXXX.png");
-    if (file.open() && picture.save(&file, "PNG"))
-        ImportFiles({file.fileName()});
+void MainWindow::ImportDroppedPicture(const OfferedPicture& offered) {
+    if (IsInCommand()) {
+        QTimer::singleShot(kRetryMilliseconds, this, [=, this] { ImportDroppedPicture(offered); });
+        return;
+    }
+    RunBusy([&](editing::Editor& editor) { ImportPicture(editor, RequireReadable(offered)); });
 }
 
 void MainWindow::resizeEvent(QResizeEvent* event) {
@@ -120,7 +150,8 @@ void MainWindow::resizeEvent(QResizeEvent* event) {
 }
 
 void MainWindow::StartWelcome() {
-    welcome_->Start();
+    if (!editor_.DocumentExists)
+        welcome_->Start();
 }
 
 void MainWindow::ShowAbout() {
@@ -132,11 +163,11 @@ void MainWindow::ShowAbout() {
 }
 
 void MainWindow::Paste() {
-    const QStringList files = SystemClipboardFiles();
+    const QByteArrayList files = SystemClipboardFiles();
     if (files.isEmpty())
         RunBusy(editing::PasteFromClipboard);
     else
-        ImportFiles(files);
+        ImportDroppedFiles(files);
 }
 
 void MainWindow::FocusScene() {
@@ -153,11 +184,37 @@ void MainWindow::PopUpOrderMenu(const QPoint& at) {
     menu_->OrderMenu().popup(at);
 }
 
+bool MainWindow::MayEndSession(const std::function<bool()>& canAsk) {
+    sessionEnd_ = SessionEnd::No;
+    const bool isAsked = editor_.Document.Modified && canAsk();
+    // One question at a time: the one that is open has to be answered first.
+    if (isAsked && QApplication::activeModalWidget()) {
+        QApplication::alert(this);
+        return false;
+    }
+    if (isAsked && !MayGiveUpDocument(context_))
+        return false;
+    sessionEnd_ = editor_.Document.Modified && !isAsked ? SessionEnd::Unasked : SessionEnd::Agreed;
+    if (recovery_)
+        recovery_->Flush();
+    StoreSettings();
+    return true;
+}
+
+void MainWindow::CloseWindow() {
+    sessionEnd_ = SessionEnd::No;
+    close();
+}
+
+// The window system passes on what the user does; the end of the session comes from within.
 void MainWindow::closeEvent(QCloseEvent* event) {
-    if (!MayGiveUpDocument(context_)) {
+    const bool isSessionEnd = sessionEnd_ != SessionEnd::No && !event->spontaneous();
+    if (!isSessionEnd && !MayGiveUpDocument(context_)) {
         event->ignore();
         return;
     }
+    if (isSessionEnd && sessionEnd_ == SessionEnd::Unasked && recovery_)
+        recovery_->EndAtOnce();
     welcome_->Stop();
     tips_->Stop();
     zoomAnimation_.stop();

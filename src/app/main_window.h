@@ -1,18 +1,23 @@
 // The main window.
 #pragma once
 
+#include <QByteArrayList>
+#include <QElapsedTimer>
 #include <QMainWindow>
 #include <QTimer>
+#include <functional>
 #include <memory>
 
 #include "app/button_bars.h"
 #include "app/main_menu.h"
+#include "app/offered_data.h"
 #include "app/pointer_status.h"
 #include "app/tip_balloons.h"
 #include "app/welcome_sequence.h"
 #include "app/window_actions.h"
 #include "editing/recovery.h"
 
+class QProgressDialog;
 class QScrollBar;
 
 namespace orbelle::app {
@@ -35,15 +40,22 @@ public:
     MainWindow();
     ~MainWindow() override;
 
-    // Opens what a command line names: a path between quotation marks.
-    void ShellOpen(const QString& commandLine);
+    // Opens what a command line names: a path, as the system has it, between quotation marks.
+    void ShellOpen(const QByteArray& commandLine);
     // The same from another copy of the program; the window comes to the front.
-    void TakeHandOver(const QString& commandLine);
+    void TakeHandOver(const QByteArray& commandLine);
+    // Whether a file may be opened now: the user is neither asked anything nor in a menu, a drag or
+    // a command that goes on.
+    bool IsFree() const;
     // An empty path is a file that does not exist.
     void OpenPath(const QString& path);
 
-    // The welcome text of a start without a file.
+    // The welcome text of a start without a file; none over a document.
     void StartWelcome();
+
+    // Before the session ends. False: the user wants it to go on. Where he can't be asked, nothing
+    // is, and unsaved work is kept. The end itself asks nothing more.
+    bool MayEndSession(const std::function<bool()>& canAsk);
 
     bool TipsEnabled() const { return tips_->TipsEnabled; }
     void SetTipsEnabled(bool enabled);
@@ -63,7 +75,7 @@ public:
 
     bool Run(const editing::Command& command) override;
     bool RunBusy(const editing::Command& command) override;
-    editing::Outcome Try(const editing::Command& command) override;
+    Report Try(const editing::Command& command) override;
     bool RunDuringDrag(const editing::Command& step) override;
     const editing::Editor& Editor() const override { return editor_; }
 
@@ -71,6 +83,7 @@ public:
 
     void ShowMessage(const std::string& text) override;
     void ShowStatus(const std::string& text) override;
+    bool GoOn(int done, int count) override;
     SavePromptAnswer AskSave() override;
     bool Confirm(const std::string& text, const std::string& title) override;
     std::optional<PageSize> AskPageSize() override;
@@ -85,7 +98,7 @@ public:
     graphics::Bitmap Picture() override;
     std::string Text() override;
 
-    void CloseWindow() override { close(); }
+    void CloseWindow() override;
     void FocusScene() override;
     void ShowOrderMenu() override;
     void Paste() override;
@@ -103,17 +116,22 @@ private:
     void ConnectScene();
     void AddPanels();
     void AddShortcuts();
-    bool Tell(const editing::Outcome& outcome);
+    bool IsInCommand() const;
+    Report ReportOf(const editing::Outcome& outcome);
+    bool Tell(const Report& report);
     void ShowScene();
     void ShowTitle();
-    void ImportFiles(const QStringList& files);
-    void ImportDroppedPicture(const QImage& picture);
+    void ImportDroppedFiles(const QByteArrayList& files);
+    void ImportDroppedPicture(const OfferedPicture& picture);
     void PopUpOrderMenu(const QPoint& at);
     std::optional<QPoint> TipPlacement(editing::TipPlace place, QSize balloon) const;
 
     editing::Editor editor_{*this, *this};
     WindowContext context_{*this, *this, *this};
-    std::string message_;  // what the last command has to tell although it went well
+    enum class SessionEnd { No, Agreed, Unasked } sessionEnd_ = SessionEnd::No;
+    std::unique_ptr<QProgressDialog> progress_;
+    QElapsedTimer runTime_;  // of a long run over files
+    std::string message_;    // what the last command has to tell although it went well
     SceneView* scene_ = nullptr;
     QScrollBar* horizontalScroll_ = nullptr;
     QScrollBar* verticalScroll_ = nullptr;

@@ -3,6 +3,7 @@
 
 #include <QColorDialog>
 #include <QGuiApplication>
+#include <QProgressDialog>
 #include <QScrollBar>
 #include <QSignalBlocker>
 #include <QStatusBar>
@@ -23,7 +24,8 @@ namespace orbelle::app {
 namespace {
 
 constexpr int kStatusMilliseconds = 8000;
-constexpr int kScrollPositions = 10;  // the scene scrolls in tenths
+constexpr int kPatienceMilliseconds = 500;  // before a long run is shown
+constexpr int kScrollPositions = 10;        // the scene scrolls in tenths
 
 void MirrorBar(QScrollBar& shown, const document::ScrollBar& bar, int sceneSize) {
     const QSignalBlocker notTheUser(&shown);
@@ -93,6 +95,26 @@ void MainWindow::ShowStatus(const std::string& text) {
     statusBar()->showMessage(QString::fromStdString(text), kStatusMilliseconds);
 }
 
+bool MainWindow::GoOn(int done, int count) {
+    if (done >= count) {
+        progress_.reset();
+        return true;
+    }
+    if (done == 0)
+        runTime_.start();
+    // Made only now: it would come up over a question that it waits for.
+    if (!progress_ && runTime_.elapsed() >= kPatienceMilliseconds) {
+        progress_ =
+            std::make_unique<QProgressDialog>("Importing the files...", "&Cancel", 0, count, this);
+        progress_->setWindowTitle(editing::kProductName);
+        progress_->setWindowModality(Qt::ApplicationModal);
+        progress_->setMinimumDuration(0);
+    }
+    if (progress_)
+        progress_->setValue(done);
+    return !progress_ || !progress_->wasCanceled();
+}
+
 SavePromptAnswer MainWindow::AskSave() {
     SavePrompt prompt(this);
     prompt.exec();
@@ -141,7 +163,7 @@ bool MainWindow::HasPicture() {
 }
 
 graphics::Bitmap MainWindow::Picture() {
-    return SystemClipboardPicture();
+    return RequireReadable(SystemClipboardPicture());
 }
 
 std::string MainWindow::Text() {

@@ -121,7 +121,8 @@ void MainWindow::ConnectScene() {
         Run([key](Editor& editor) { KeyDownScene(editor, key); });
     });
     // Queued: the program that the files come from waits until the drop has been taken.
-    connect(scene_, &SceneView::FilesDropped, this, &MainWindow::ImportFiles, Qt::QueuedConnection);
+    connect(scene_, &SceneView::FilesDropped, this, &MainWindow::ImportDroppedFiles,
+            Qt::QueuedConnection);
     connect(scene_, &SceneView::PictureDropped, this, &MainWindow::ImportDroppedPicture,
             Qt::QueuedConnection);
     connect(horizontalScroll_, &QScrollBar::valueChanged, this, [this](int value) {

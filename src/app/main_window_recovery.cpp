@@ -1,4 +1,5 @@
 // Unsaved work: kept while it is made, and offered again after a program that ended without asking.
+#include <QProgressDialog>
 #include <QStatusBar>
 #include <cstdlib>
 

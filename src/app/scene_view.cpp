@@ -1,7 +1,7 @@
 #include "app/scene_view.h"
 
+#include <QApplication>
 #include <QDragEnterEvent>
-#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QMimeData>
 #include <QPainter>
@@ -77,14 +77,6 @@ editing::Pointer PointerOf(const QMouseEvent& event, Qt::MouseButton button) {
 QCursor ToolCursor(const char* artwork, QPoint hotSpot) {
     return QCursor(widgets::Artwork(artwork, {32, 32}, qGuiApp->devicePixelRatio()), hotSpot.x(),
                    hotSpot.y());
-}
-
-QStringList LocalFiles(const QMimeData& data) {
-    QStringList files;
-    for (const QUrl& url : data.urls())
-        if (url.isLocalFile())
-            files += url.toLocalFile();
-    return files;
 }
 
 }  // namespace
@@ -236,17 +228,22 @@ void SceneView::wheelEvent(QWheelEvent* event) {
 }
 
 void SceneView::dragEnterEvent(QDragEnterEvent* event) {
+    // The toolkit lets drops through to a window that a dialog blocks.
+    if (QApplication::activeModalWidget())
+        return;
     if (!LocalFiles(*event->mimeData()).isEmpty() || event->mimeData()->hasImage())
         event->acceptProposedAction();
 }
 
 void SceneView::dropEvent(QDropEvent* event) {
+    if (QApplication::activeModalWidget())
+        return event->ignore();
     event->acceptProposedAction();
-    const QStringList files = LocalFiles(*event->mimeData());
+    const QByteArrayList files = LocalFiles(*event->mimeData());
     if (!files.isEmpty())
         emit FilesDropped(files);
     else
-        emit PictureDropped(qvariant_cast<QImage>(event->mimeData()->imageData()));
+        emit PictureDropped(ReadOffered(*event->mimeData()));
 }
 
 }  // namespace orbelle::app

@@ -1,10 +1,10 @@
 // The scene on the screen.
 #pragma once
 
-#include <QImage>
-#include <QStringList>
+#include <QByteArrayList>
 #include <QWidget>
 
+#include "app/offered_data.h"
 #include "editing/editor.h"
 #include "editing/scene_input.h"
 
@@ -39,8 +39,8 @@ signals:
     void PointerReleased(const editing::Pointer& pointer);
     void PointerLeft();
     void KeyPressed(editing::SceneKey key);
-    void FilesDropped(const QStringList& files);  // local files, in the order given
-    void PictureDropped(const QImage& picture);
+    void FilesDropped(const QByteArrayList& files);  // local paths, in the order given
+    void PictureDropped(const OfferedPicture& picture);
 
 protected:
     void mousePressEvent(QMouseEvent* event) override;

@@ -1,22 +1,63 @@
 #include "app/settings.h"
 
+#include <QFile>
 #include <QGuiApplication>
 #include <QScreen>
+#include <QStandardPaths>
 #include <QStyle>
 #include <QWidget>
 #include <algorithm>
+#include <filesystem>
 
 namespace orbelle::app {
 namespace {
 
-constexpr int kMaximized = 2;  // the stored number of that window state
+namespace fs = std::filesystem;
+
+constexpr char kOrganization[] = "OrbelleWork";  // names the place, too
+constexpr int kMaximized = 2;                    // the stored number of that window state
 
 QRect ScreenFor(const QPoint& point) {
     const QScreen* screen = QGuiApplication::screenAt(point);
     return (screen ? screen : QGuiApplication::primaryScreen())->availableGeometry();
 }
 
+// To open a pipe would wait for somebody to write to it; what is no file must not be replaced by
+// one. `name` of a file in the user's folder of settings.
+bool IsFileOrFree(const QString& name) {
+    const QString folder = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation);
+    std::error_code unreachable;
+    const fs::file_status status =
+        fs::status(QFile::encodeName(folder + '/' + name).toStdString(), unreachable);
+    return !fs::exists(status) || fs::is_regular_file(status);
+}
+
 }  // namespace
+
+Settings::Settings() {
+    if (IsFileOrFree(kOrganization + QString(".conf")) &&
+        IsFileOrFree(kOrganization + QString(".conf.lock")))
+        store_.emplace(QString(kOrganization));
+}
+
+QVariant Settings::value(const QString& name) const {
+    return store_ ? store_->value(name) : QVariant();
+}
+
+void Settings::setValue(const QString& name, const QVariant& value) {
+    if (store_)
+        store_->setValue(name, value);
+}
+
+void Settings::remove(const QString& name) {
+    if (store_)
+        store_->remove(name);
+}
+
+void Settings::clear() {
+    if (store_)
+        store_->clear();
+}
 
 graphics::Argb ReadColor(const Settings& settings, const QString& name) {
     // Without quotation marks the file's form of the text is a list.

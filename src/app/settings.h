@@ -3,6 +3,8 @@
 
 #include <QRect>
 #include <QSettings>
+#include <QVariant>
+#include <optional>
 
 #include "graphics/color.h"
 
@@ -10,10 +12,19 @@ class QWidget;
 
 namespace orbelle::app {
 
-// A missing value reads as 0 or as the empty text.
-class Settings : public QSettings {
+// A missing value reads as 0 or as the empty text. Where a file of another kind (a folder, a pipe)
+// stands in the place of the settings, nothing is remembered and nothing is written.
+class Settings {
 public:
-    Settings() : QSettings(QStringLiteral("OrbelleWork")) {}
+    Settings();
+
+    QVariant value(const QString& name) const;
+    void setValue(const QString& name, const QVariant& value);
+    void remove(const QString& name);
+    void clear();
+
+private:
+    std::optional<QSettings> store_;
 };
 
 // A colour as the text "alpha,red,green,blue" in decimal. Parts that are missing or no number read

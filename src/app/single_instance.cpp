@@ -1,62 +1,130 @@
 #include "app/single_instance.h"
 
+#include <QDeadlineTimer>
 #include <QLocalSocket>
+#include <QLockFile>
 #include <QStandardPaths>
 #include <QTimer>
+#include <algorithm>
 
 namespace orbelle::app {
 namespace {
 
-constexpr int kPatienceMilliseconds = 1000;
-constexpr int kLongestCommandLine = 1 << 16;  // bytes
+constexpr int kPatienceMilliseconds = 2000;
+constexpr int kPeerMilliseconds = 1000;  // that a peer may take to say what it wants
+constexpr int kLongestHead = 64;         // bytes
+constexpr int kLongestCommandLine = 1 << 16;
+constexpr int kMostPeers = 64;
+constexpr QByteArrayView kProtocol = "Orbelle hand-over 1 ";
+constexpr QByteArrayView kAnswer = "Orbelle hand-over 1 queued\n";
 
-// In a folder that only the user can write to, where the system has one.
+// In a folder that only the user can write to; where there is none, copies do not know each other.
 QString ServerName() {
 #ifdef Q_OS_UNIX
-    return QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation) +
-           "/orbelle-main-window";
+    const QString folder = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
+    return folder.isEmpty() ? folder : folder + "/orbelle-main-window";
 #else
-    return kHandOverTopic;
+    return "Orbelle|MainWindow";
 #endif
+}
+
+struct Request {
+    bool IsWrong = false;  // else it is whole, or more of it is to come
+    bool IsWhole = false;
+    QByteArray CommandLine;
+};
+
+Request ReadRequest(const QByteArray& bytes) {
+    const auto wrong = [] { return Request{true, false, {}}; };
+    if (bytes.left(kProtocol.size()) != kProtocol.first(std::min(kProtocol.size(), bytes.size())))
+        return wrong();
+    const qsizetype headEnd = bytes.left(kLongestHead).indexOf('\n');
+    if (headEnd < 0)
+        return bytes.size() < kLongestHead ? Request() : wrong();
+    bool isNumber = false;
+    const int length = bytes.mid(kProtocol.size(), headEnd - kProtocol.size()).toInt(&isNumber);
+    if (!isNumber || length < 0 || length > kLongestCommandLine)
+        return wrong();
+    const QByteArray text = bytes.mid(headEnd + 1);
+    if (text.size() < length)
+        return {};
+    return {false, true, text.left(length)};
+}
+
+bool SomebodyListens() {
+    QLocalSocket socket;
+    socket.connectToServer(ServerName());
+    return socket.waitForConnected(kPatienceMilliseconds);
 }
 
 }  // namespace
 
-bool SingleInstance::HandOver(const QString& commandLine) {
+HandOverEnd SingleInstance::HandOver(const QByteArray& commandLine) {
+    if (ServerName().isEmpty())
+        return HandOverEnd::Nobody;
+    const QDeadlineTimer deadline(kPatienceMilliseconds);
+    const auto left = [&] { return static_cast<int>(deadline.remainingTime()); };
     QLocalSocket socket;
+    socket.setReadBufferSize(kLongestHead);
     socket.connectToServer(ServerName());
-    if (!socket.waitForConnected(kPatienceMilliseconds))
-        return false;
-    socket.write(commandLine.toUtf8());
-    socket.flush();
-    socket.waitForBytesWritten(kPatienceMilliseconds);
-    socket.disconnectFromServer();
-    return true;
+    if (!socket.waitForConnected(left()))
+        return deadline.hasExpired() ? HandOverEnd::NoAnswer : HandOverEnd::Nobody;
+    socket.write(kProtocol.toByteArray() + QByteArray::number(commandLine.size()) + '\n' +
+                 commandLine);
+    while (socket.bytesAvailable() < kAnswer.size() && socket.waitForReadyRead(left())) {
+    }
+    return socket.read(kAnswer.size()) == kAnswer ? HandOverEnd::Taken : HandOverEnd::NoAnswer;
 }
 
 SingleInstance::SingleInstance(QObject* parent) : QObject(parent) {
-    server_.setSocketOptions(QLocalServer::UserAccessOption);
-    connect(&server_, &QLocalServer::newConnection, this, &SingleInstance::Read);
-    if (!server_.listen(ServerName())) {
-        // A copy that crashed leaves its name behind.
-        QLocalServer::removeServer(ServerName());
-        server_.listen(ServerName());
+    connect(&server_, &QLocalServer::newConnection, this, &SingleInstance::Greet);
+}
+
+bool SingleInstance::Listen() {
+    const QString name = ServerName();
+    if (name.isEmpty())
+        return false;
+    // Of two copies that start at once, one would take the name from the other.
+    QLockFile lock(name + ".lock");
+    if (!lock.tryLock(kPatienceMilliseconds))
+        return false;
+    // Without options for access: with them the toolkit takes the name from whoever has it.
+    if (server_.listen(name))
+        return true;
+    if (SomebodyListens())
+        return false;
+    // A copy that crashed leaves its name behind.
+    QLocalServer::removeServer(name);
+    return server_.listen(name);
+}
+
+void SingleInstance::Greet() {
+    while (QLocalSocket* peer = server_.nextPendingConnection()) {
+        if (server_.findChildren<QLocalSocket*>().size() > kMostPeers) {
+            delete peer;
+            continue;
+        }
+        peer->setReadBufferSize(kLongestHead + kLongestCommandLine);
+        connect(peer, &QLocalSocket::disconnected, peer, &QObject::deleteLater);
+        connect(peer, &QLocalSocket::readyRead, this, [this, peer] { Read(*peer); });
+        // One that never says all that it wants is not waited for.
+        QTimer::singleShot(kPeerMilliseconds, peer, &QObject::deleteLater);
+        Read(*peer);
     }
 }
 
-void SingleInstance::Read() {
-    QLocalSocket* socket = server_.nextPendingConnection();
-    const auto finish = [this, socket] {
-        const QByteArray text = socket->read(kLongestCommandLine);
-        socket->deleteLater();
-        if (!text.isEmpty())
-            emit Received(QString::fromUtf8(text));
-    };
-    if (socket->state() == QLocalSocket::UnconnectedState)
-        return finish();
-    connect(socket, &QLocalSocket::disconnected, this, finish);
-    // One that never says that it is done is not waited for.
-    QTimer::singleShot(kPatienceMilliseconds, socket, &QLocalSocket::disconnectFromServer);
+void SingleInstance::Read(QLocalSocket& peer) {
+    const Request request = ReadRequest(peer.peek(kLongestHead + kLongestCommandLine));
+    if (request.IsWrong)
+        return peer.deleteLater();
+    if (!request.IsWhole)
+        return;
+    peer.disconnect(this);
+    peer.write(kAnswer.toByteArray());
+    const bool isThere = peer.flush() && peer.state() == QLocalSocket::ConnectedState;
+    peer.disconnectFromServer();
+    if (isThere && !request.CommandLine.isEmpty())
+        emit Received(request.CommandLine);
 }
 
 }  // namespace orbelle::app

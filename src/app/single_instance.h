@@ -1,30 +1,41 @@
 // One copy of the program for each user: a second one hands over its command line and ends.
 #pragma once
 
+#include <QByteArray>
 #include <QLocalServer>
-#include <QString>
-#include <functional>
 
 namespace orbelle::app {
 
-// What a copy sends to the running one.
-inline constexpr char kHandOverTopic[] = "Orbelle|MainWindow";
+enum class HandOverEnd {
+    Taken,     // the running copy will open it
+    Nobody,    // no copy runs
+    NoAnswer,  // something listens and does not answer: a copy that hangs, another program
+};
 
+// The talk between two copies: the name of the protocol with its version, the number of bytes, a
+// line feed and the bytes; the running copy answers with a line once it has the text. Who gets no
+// answer opens his file himself, and the text of one who has gone away is dropped: it would be
+// opened twice.
 class SingleInstance : public QObject {
     Q_OBJECT
 
 public:
-    // Sends the text to the copy that runs already. False: none does.
-    static bool HandOver(const QString& commandLine);
+    // Hands the text over to the copy that runs already, within two seconds.
+    static HandOverEnd HandOver(const QByteArray& commandLine);
 
-    // Takes what later copies send. Nothing is told for an empty command line.
     explicit SingleInstance(QObject* parent = nullptr);
 
+    // Takes what later copies send from now on. False: another copy does already, or there is no
+    // place to do it in.
+    bool Listen();
+
 signals:
-    void Received(const QString& commandLine);
+    // Not for an empty command line.
+    void Received(const QByteArray& commandLine);
 
 private:
-    void Read();
+    void Greet();
+    void Read(QLocalSocket& peer);
 
     QLocalServer server_;
 };

@@ -4,8 +4,6 @@
 #include <QGuiApplication>
 #include <QImage>
 #include <QMimeData>
-#include <QUrl>
-#include <algorithm>
 
 #include "app/shared_image.h"
 
@@ -19,15 +17,9 @@ void SetSystemClipboard(const graphics::Bitmap& picture, const std::string& text
     QGuiApplication::clipboard()->setMimeData(data);
 }
 
-QStringList SystemClipboardFiles() {
-    QStringList files;
+QByteArrayList SystemClipboardFiles() {
     const QMimeData* data = QGuiApplication::clipboard()->mimeData();
-    if (!data || data->hasImage())
-        return files;
-    for (const QUrl& url : data->urls())
-        if (url.isLocalFile())
-            files += url.toLocalFile();
-    return files;
+    return data && !data->hasImage() ? LocalFiles(*data) : QByteArrayList();
 }
 
 bool SystemClipboardHasPicture() {
@@ -35,16 +27,9 @@ bool SystemClipboardHasPicture() {
     return data && data->hasImage();
 }
 
-graphics::Bitmap SystemClipboardPicture() {
-    const QImage image =
-        QGuiApplication::clipboard()->image().convertToFormat(QImage::Format_ARGB32);
-    if (image.isNull())
-        return {};
-    graphics::Bitmap picture(image.width(), image.height());
-    for (int y = 0; y < picture.Height(); ++y)
-        std::copy_n(reinterpret_cast<const graphics::Argb*>(image.constScanLine(y)),
-                    picture.Width(), picture.MutableRow(y));
-    return picture;
+OfferedPicture SystemClipboardPicture() {
+    const QMimeData* data = QGuiApplication::clipboard()->mimeData();
+    return data && data->hasImage() ? ReadOffered(*data) : OfferedPicture();
 }
 
 std::string SystemClipboardText() {

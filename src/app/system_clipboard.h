@@ -1,9 +1,10 @@
 // The system's clipboard: one picture and a text beside it.
 #pragma once
 
-#include <QStringList>
+#include <QByteArrayList>
 #include <string>
 
+#include "app/offered_data.h"
 #include "graphics/bitmap.h"
 
 namespace orbelle::app {
@@ -12,10 +13,10 @@ namespace orbelle::app {
 void SetSystemClipboard(const graphics::Bitmap& picture, const std::string& text);
 // May take another program to answer.
 bool SystemClipboardHasPicture();
-// Empty: none that can be read, or one too large for a bitmap.
-graphics::Bitmap SystemClipboardPicture();
+// Neither a picture nor a problem when there is none.
+OfferedPicture SystemClipboardPicture();
 std::string SystemClipboardText();
 // Local files that a file manager has copied; none when there is a picture.
-QStringList SystemClipboardFiles();
+QByteArrayList SystemClipboardFiles();
 
 }  // namespace orbelle::app

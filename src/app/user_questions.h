@@ -26,6 +26,10 @@ public:
     // A failure told in the status line, without a box.
     virtual void ShowStatus(const std::string& text) = 0;
 
+    // How far a long run over files has come; after a while a dialog shows it. The run ends with
+    // `done` = `count`. False: the user wants to stop.
+    virtual bool GoOn(int done, int count) = 0;
+
     // "Save Icon Document?": before a changed document is given up.
     virtual SavePromptAnswer AskSave() = 0;
     // A question with OK and Cancel, Cancel the default; true: OK.

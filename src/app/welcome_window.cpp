@@ -4,7 +4,6 @@
 #include <QGuiApplication>
 #include <QPainter>
 #include <QScreen>
-#include <QTimer>
 
 #include "editing/editor.h"
 #include "widgets/artwork.h"
@@ -38,15 +37,19 @@ void WelcomeWindow::RunStart() {
     starting_ = true;
     setCursor(Qt::WaitCursor);
     show();
-    auto* stay = new QTimer(this);
-    connect(stay, &QTimer::timeout, this, [this, stay, count = 0]() mutable {
-        if (++count <= kLastTick)
-            return;
-        stay->stop();
-        emit Finished();
-        close();
+    connect(&stay_, &QTimer::timeout, this, [this] {
+        if (++ticks_ > kLastTick)
+            EndStart();
     });
-    stay->start(kTickMilliseconds);
+    stay_.start(kTickMilliseconds);
+}
+
+void WelcomeWindow::EndStart() {
+    if (!stay_.isActive())
+        return;
+    stay_.stop();
+    emit Finished();
+    close();
 }
 
 void WelcomeWindow::paintEvent(QPaintEvent*) {

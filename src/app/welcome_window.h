@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QPixmap>
+#include <QTimer>
 #include <QWidget>
 
 namespace orbelle::app {
@@ -15,6 +16,8 @@ public:
 
     // Counts up while the wait pointer shows, then closes and tells.
     void RunStart();
+    // The same end at once, for one who does not wait. Nothing happens unless it is the start.
+    void EndStart();
 
 signals:
     void Finished();
@@ -26,6 +29,8 @@ protected:
 
 private:
     QPixmap picture_;
+    QTimer stay_;
+    int ticks_ = 0;
     bool starting_ = false;
 };
 

@@ -12,13 +12,22 @@ std::size_t PixelCount(int width, int height) {
     return static_cast<std::size_t>(width) * static_cast<std::size_t>(height);
 }
 
+std::shared_ptr<Argb[]> Own(void* memory) {
+    if (!memory)
+        throw std::bad_alloc();
+    return {static_cast<Argb*>(memory), [](Argb* taken) { std::free(taken); }};
+}
+
 // All zero. The system gives large blocks so, and gives their memory only when they are written: a
 // picture that is decoded row by row grows with its rows.
 std::shared_ptr<Argb[]> BlankPixels(std::size_t count) {
-    auto* pixels = static_cast<Argb*>(std::calloc(count, sizeof(Argb)));
-    if (!pixels)
-        throw std::bad_alloc();
-    return {pixels, [](Argb* taken) { std::free(taken); }};
+    return Own(std::calloc(count, sizeof(Argb)));
+}
+
+std::shared_ptr<Argb[]> CopyPixels(const Argb* pixels, std::size_t count) {
+    std::shared_ptr<Argb[]> copy = Own(std::malloc(count * sizeof(Argb)));
+    std::copy_n(pixels, count, copy.get());
+    return copy;
 }
 
 }  // namespace
@@ -43,10 +52,7 @@ Argb* Bitmap::MutablePixels() {
     if (!pixels_)
         return nullptr;
     if (pixels_.use_count() > 1) {
-        const std::size_t count = PixelCount(width_, height_);
-        std::shared_ptr<Argb[]> own = BlankPixels(count);
-        std::copy_n(pixels_.get(), count, own.get());
-        pixels_ = std::move(own);
+        pixels_ = CopyPixels(pixels_.get(), PixelCount(width_, height_));
     } else {
         // What another thread has read of a copy that it let go of comes before what is written.
         std::atomic_thread_fence(std::memory_order_acquire);

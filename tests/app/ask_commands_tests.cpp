@@ -2,6 +2,12 @@
 
 #include <gmock/gmock.h>
 
+#include <chrono>
+#include <fstream>
+
+#include "app/import_files.h"
+#include "app/save_commands.h"
+#include "desk.h"
 #include "editing/document_commands.h"
 #include "editing/layer_commands.h"
 #include "editing/page_commands.h"
@@ -21,81 +27,9 @@ using orbelle::testing::FilledPicture;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
-constexpr int kOldSide = 16, kNextSide = 7;
+constexpr int kOldSide = 16, kNextSide = Desk::kNewSide;
 constexpr const ExportEntry& kPng = kExportEntries[1];
 constexpr const ExportEntry& kGif = kExportEntries[2];
-
-// An editor and its user, without a window: answers from its fields, and notes in `Told` what was
-// asked and told.
-class Desk : public CommandRunner,
-             public UserQuestions,
-             public WindowActions,
-             public editing::EditorObserver,
-             public editing::Clipboard {
-public:
-    SavePromptAnswer SaveAnswer = SavePromptAnswer::Cancel;
-    bool OverwriteAnswer = false;
-    fs::path ToRead, ToWrite;
-    std::optional<int> GifThreshold, IconImage;
-    std::optional<graphics::Argb> Color;
-    std::vector<std::string> Told;
-
-    WindowContext Context{*this, *this, *this};
-    editing::Editor State{*this, *this};
-
-    editing::Outcome Try(const editing::Command& command) override {
-        return editing::Run(State, command);
-    }
-    bool Run(const editing::Command& command) override {
-        const editing::Outcome outcome = Try(command);
-        if (outcome.Failed())
-            ShowMessage(outcome.Problem());
-        return !outcome.Failed();
-    }
-    bool RunBusy(const editing::Command& command) override { return Run(command); }
-    bool RunDuringDrag(const editing::Command& step) override { return Run(step); }
-    const editing::Editor& Editor() const override { return State; }
-
-    void ShowMessage(const std::string&) override { Told.emplace_back("message"); }
-    void ShowStatus(const std::string&) override { Told.emplace_back("status"); }
-    SavePromptAnswer AskSave() override { return Answer("save?", SaveAnswer); }
-    bool Confirm(const std::string& text, const std::string& title) override {
-        EXPECT_EQ(title + ": " + text, "Warning: Image already exists, overwrite it?");
-        return Answer("overwrite?", OverwriteAnswer);
-    }
-    std::optional<PageSize> AskPageSize() override { return PageSize{kNextSide, kNextSide}; }
-    fs::path AskFile(const std::string&, bool isOpen) override {
-        return isOpen ? Answer("read?", ToRead) : Answer("write?", ToWrite);
-    }
-    std::optional<int> AskGifThreshold(const graphics::Bitmap&) override {
-        return Answer("threshold?", GifThreshold);
-    }
-    std::optional<int> ChooseIconImage(const std::vector<formats::IconEntryImage>&) override {
-        return Answer("image?", IconImage);
-    }
-    std::optional<graphics::Argb> AskColor(graphics::Argb) override { return Color; }
-
-    void Changed(const editing::Changes&) override {}
-    void Put(const graphics::Bitmap&, const std::string&) override {}
-    bool HasPicture() override { return false; }
-    graphics::Bitmap Picture() override { return {}; }
-    std::string Text() override { return {}; }
-    void CloseWindow() override {}
-    void FocusScene() override {}
-    void ShowOrderMenu() override {}
-    void Paste() override {}
-    void ToggleTips() override {}
-    void CloseTips() override {}
-    void ShowAbout() override {}
-    void ShowControls() override {}
-
-private:
-    template <typename T>
-    T Answer(const char* question, const T& answer) {
-        Told.emplace_back(question);
-        return answer;
-    }
-};
 
 class AskCommandsTest : public ::testing::Test {
 protected:
@@ -132,7 +66,7 @@ TEST_F(AskCommandsTest, AChangedDocumentIsGivenUpOnlyOnceWrittenOrNotWanted) {
              return OpenHandedOver(desk.Context, '"' + desk.ToRead.string() + '"'), true;
          }},
         {"Import", [](Desk& desk) { return AskImport(desk.Context), true; }},
-        {"drop", [](Desk& desk) { return ImportKnownFile(desk.Context, desk.ToRead), true; }},
+        {"drop", [](Desk& desk) { return ImportFiles(desk.Context, {desk.ToRead}), true; }},
         {"close", [](Desk& desk) { return MayGiveUpDocument(desk.Context); }},
     };
     using enum SavePromptAnswer;
@@ -189,7 +123,7 @@ TEST_F(AskCommandsTest, APictureIsImportedWithoutTheSavePrompt) {
     graphics::WriteFile(picture, graphics::EncodePng(FilledPicture(3, 3, 0xFFC02040)));
     Desk desk;
     Change(desk);
-    ImportKnownFile(desk.Context, picture);
+    ImportFiles(desk.Context, {picture});
     EXPECT_THAT(desk.Told, IsEmpty());
     EXPECT_EQ(desk.State.Page().LayerCount(), 3);
 }
@@ -228,25 +162,96 @@ TEST_F(AskCommandsTest, AnExportWritesOnlyWhatMayBeOverwrittenAndAsksForAThresho
         return desk.Told;
     };
     EXPECT_THAT(exportTo({}, kPng), ElementsAre("write?"));
+    const fs::path takenPng = taken.string() + ".png", takenGif = taken.string() + ".gif";
+    for (const fs::path& completed : {takenPng, takenGif})
+        fs::copy(taken, completed);
     EXPECT_THAT(exportTo(taken, kGif), ElementsAre("write?", "overwrite?"));
-    EXPECT_TRUE(TakenIsUntouched());
+    EXPECT_EQ(fs::file_size(takenGif), 3u);
     EXPECT_THAT(exportTo(impossible, kPng), ElementsAre("write?", "status"))
         << "no box, as a save has";
     desk.OverwriteAnswer = true;
     EXPECT_THAT(exportTo(taken, kPng), ElementsAre("write?", "overwrite?"));
-    EXPECT_EQ(graphics::LoadImageFromFile(taken).Width(), kOldSide);
+    EXPECT_EQ(graphics::LoadImageFromFile(takenPng).Width(), kOldSide);
+    EXPECT_TRUE(TakenIsUntouched());
 
-    EXPECT_THAT(exportTo(fresh, kGif), ElementsAre("write?", "threshold?"));
-    EXPECT_FALSE(fs::exists(fresh)) << "cancelled";
+    const fs::path gif = folder / "a.GIF";
+    EXPECT_THAT(exportTo(gif, kGif), ElementsAre("write?", "threshold?"));
+    EXPECT_FALSE(fs::exists(gif)) << "cancelled";
     desk.GifThreshold = 77;
-    exportTo(fresh, kGif);
-    EXPECT_TRUE(fs::exists(fresh));
+    exportTo(gif, kGif);
+    EXPECT_TRUE(fs::exists(gif));
     EXPECT_EQ(desk.State.ExportSettings.GifThreshold, 77);
     EXPECT_TRUE(desk.State.Document.Modified && desk.State.Document.Path.empty())
         << "an export is no save";
     desk.Run([](Editor& editor) { SetPageBackground(editor, 0xFF102030); });
     EXPECT_THAT(exportTo(folder / "b.gif", kGif), ElementsAre("write?"));
     EXPECT_TRUE(fs::exists(folder / "b.gif"));
+}
+
+TEST_F(AskCommandsTest, NamesAreCompletedByTheirExtension) {
+    constexpr char kVolf[] = "Varnel Orbelle File(*.VOLF)|*.volf", kJpeg[] = "J|*.jpg;*.jpeg";
+    const std::tuple<std::string, const char*, std::string> cases[] = {
+        {"a", kVolf, "a.volf"},         {"a.volf", kVolf, "a.volf"},    {"a.VoLF", kVolf, "a.VoLF"},
+        {"a.txt", kVolf, "a.txt.volf"}, {"avolf", kVolf, "avolf.volf"}, {"a.", kVolf, "a..volf"},
+        {"a", kJpeg, "a.jpg"},          {"a.jpeg", kJpeg, "a.jpeg"},    {"a.JPG", kJpeg, "a.JPG"},
+        {"a.png", kJpeg, "a.png.jpg"},  {"\xFF", kVolf, "\xFF.volf"},
+    };
+    for (const auto& [name, filter, completed] : cases)
+        EXPECT_EQ(CompletedName(folder / name, filter), folder / completed);
+
+    Desk desk;
+    Change(desk);
+    desk.ToWrite = folder / "taken";
+    EXPECT_FALSE(AskSave(desk.Context));
+    EXPECT_THAT(desk.Told, ElementsAre("write?", "overwrite?")) << "about the completed name";
+    EXPECT_TRUE(TakenIsUntouched());
+    desk.ToWrite = folder / "fresh";
+    EXPECT_TRUE(AskSave(desk.Context));
+    EXPECT_EQ(desk.State.Document.Path, fresh);
+}
+
+TEST_F(AskCommandsTest, WhatAnotherProgramChangedIsNotOverwrittenUnasked) {
+    using graphics::WriteFile;
+    const std::pair<const char*, void (*)(const fs::path&)> changes[] = {
+        {"replaced", [](const fs::path& path) { WriteFile(path, {}); }},
+        {"written to", [](const fs::path& path) { std::ofstream(path, std::ios::app) << '!'; }},
+        {"touched",
+         [](const fs::path& path) {
+             fs::last_write_time(path, fs::last_write_time(path) + std::chrono::seconds(1));
+         }},
+    };
+    for (const auto& [name, change] : changes) {
+        for (const bool opened : {false, true}) {
+            SCOPED_TRACE(name);
+            Desk desk;
+            Change(desk);
+            fs::remove(fresh);
+            desk.ToWrite = desk.ToRead = fresh;
+            ASSERT_TRUE(AskSave(desk.Context));
+            if (opened)
+                AskOpen(desk.Context);
+            desk.Run([](Editor& editor) { AddEmptyLayer(editor, kOldSide, kOldSide); });
+            change(fresh);
+            const graphics::FileStamp changed = graphics::StampOf(fresh);
+            desk.Told.clear();
+            EXPECT_FALSE(AskSave(desk.Context));
+            EXPECT_THAT(desk.Told, ElementsAre("changed?"));
+            desk.SaveAnswer = SavePromptAnswer::Yes;
+            AskNew(desk.Context);
+            EXPECT_THAT(desk.Told, ElementsAre("changed?", "save?", "changed?"));
+            EXPECT_EQ(graphics::StampOf(fresh), changed);
+            EXPECT_TRUE(desk.State.Document.Modified);
+            EXPECT_EQ(desk.State.Document.Path, fresh);
+
+            desk.OverwriteAnswer = true;
+            EXPECT_TRUE(AskSave(desk.Context));
+            desk.Told.clear();
+            EXPECT_TRUE(AskSave(desk.Context));
+            fs::remove(fresh);
+            EXPECT_TRUE(AskSave(desk.Context));
+            EXPECT_THAT(desk.Told, IsEmpty()) << "our own file, and one that has vanished";
+        }
+    }
 }
 
 TEST_F(AskCommandsTest, OfAnIconFileTheChosenImageIsTaken) {

@@ -136,9 +136,8 @@ protected:
     }
     void KillDisplay() { display_->Kill(); }
 
-    // Starts with a picture open, all panels open, opaque red and blue as colours, at 100 %.
-    // False: the picture did not appear. Its corners are to have kPictureColor.
-    bool StartWith(const QImage& picture = PictureOf(kPictureColor)) {
+    // What the program remembers: all panels open, opaque red and blue as colours.
+    void LayOut() {
         const QString remembered =
             "MainLeft=20 MainTop=20 MainWidth=1100 MainHeight=760 isQuick=-1 CtlTitle1=-1 "
             "CtlTitle2=-1 CtlTitle3=-1 CtlTitle5=-1 CtlTitle6=-1 CtlScroll22=100 CtlScroll23=10 "
@@ -151,6 +150,11 @@ protected:
         twin_->resize(kDefaultMainSize);
         twin_->show();
         QApplication::processEvents();
+    }
+    // Starts with a picture open, at 100 %. False: the picture did not appear. Its corners are to
+    // have kPictureColor.
+    bool StartWith(const QImage& picture = PictureOf(kPictureColor)) {
+        LayOut();
         StartProgram({Write("tile.png", picture)});
         const int expected = CountOf(picture, kPictureColor);
         if (!FocusMain() || !testing::WaitUntil([&] { return Count() == expected; }))
@@ -181,6 +185,9 @@ protected:
         });
         WaitUntilIdle();
         return found;
+    }
+    bool IsOpen(const QString& title) const {
+        return !Xdotool({"search", "--onlyvisible", "--name", title}).isEmpty();
     }
     bool FocusMain() { return FocusWindow("^Varnel Orbelle - Project|. - Varnel Orbelle$"); }
 
@@ -241,6 +248,14 @@ protected:
                 return kWindowPlace + widget->mapTo(twin_.get(), widget->rect().center());
         ADD_FAILURE() << "no control is named " << name.toStdString();
         return {};
+    }
+
+    // A second start, which is to end at once.
+    void HandOver(const QStringList& arguments) {
+        QProcess second;
+        Start(second, ORBELLE_PROGRAM, arguments);
+        EXPECT_TRUE(EndsWell(second));
+        WaitUntilIdle();
     }
 
     // Gives a path to the file dialog that is to open, or is open.

@@ -211,15 +211,9 @@ TEST_F(RealWindowTest, ExportsEachFormat) {
 TEST_F(RealWindowTest, ASecondStartHandsItsFileOver) {
     ASSERT_TRUE(StartWith());
     const QImage before = Scene();
-    const auto startAgain = [this](const QStringList& arguments) {
-        QProcess second;
-        Start(second, ORBELLE_PROGRAM, arguments);
-        EXPECT_TRUE(EndsWell(second));
-        WaitUntilIdle();
-    };
-    startAgain({});
+    HandOver({});
     EXPECT_EQ(Scene(), before);
-    startAgain({Write("other.png", PictureOf(kOther, {100, 80}))});
+    HandOver({Write("other.png", PictureOf(kOther, {100, 80}))});
     EXPECT_TRUE(WaitUntil([&] { return Count(kOther) == 100 * 80 && Count() == 0; }));
     EXPECT_EQ(program.state(), QProcess::Running);
 }
@@ -270,7 +264,7 @@ TEST_F(RealProgramTest, ScreenshotsAt200PercentHaveHardSquaresAndBrokenFilesHave
     EXPECT_EQ(softSquares, 0);
     EXPECT_EQ(CountOf(shot.copy(0, 200, kSceneEnd, shot.height()), kPictureColor),
               4 * kWholePicture);
-    EXPECT_TRUE(Settings().allKeys().isEmpty()) << "it is not the user's window";
+    EXPECT_TRUE(QSettings("OrbelleWork").allKeys().isEmpty()) << "it is not the user's window";
 }
 
 }  // namespace

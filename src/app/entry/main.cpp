@@ -1,23 +1,69 @@
 // The entry point of the window.
 #include <QApplication>
 #include <QCommandLineParser>
-#include <QFileInfo>
+#include <QFile>
 #include <QIcon>
+#include <QProcess>
+#include <QSessionManager>
 #include <QTimer>
+#include <algorithm>
+#include <filesystem>
 #include <memory>
+#include <span>
 
 #include "app/chrome.h"
 #include "app/ending_signals.h"
+#include "app/file_dialog.h"
+#include "app/hand_over_queue.h"
 #include "app/main_window.h"
 #include "app/single_instance.h"
 #include "app/welcome_window.h"
+
+namespace {
+
+using namespace orbelle::app;
+
+// The text that a shell passes on: the path between quotation marks, or nothing.
+QByteArray CommandLineOf(const QString& file, std::span<char*> arguments) {
+    if (file.isEmpty())
+        return {};
+    std::filesystem::path path = EncodedName(file);
+#ifdef Q_OS_UNIX
+    // As the system gave it: it need not be UTF-8.
+    for (const char* argument : arguments)
+        if (QString::fromLocal8Bit(argument) == file)
+            path = argument;
+#endif
+    std::error_code noFolder;
+    if (std::filesystem::path whole = std::filesystem::absolute(path, noFolder); !noFolder)
+        path = std::move(whole);
+    return QByteArray::fromStdString('"' + path.string() + '"');
+}
+
+// Whether another copy of the program takes the file. Of two that start at once one comes too late
+// to be asked by the other, and asks.
+bool IsTakenByAnother(SingleInstance& instance, const QByteArray& commandLine) {
+    const HandOverEnd end = SingleInstance::HandOver(commandLine);
+    if (end == HandOverEnd::Nobody && !instance.Listen())
+        return SingleInstance::HandOver(commandLine) == HandOverEnd::Taken;
+    return end == HandOverEnd::Taken;
+}
+
+// What was handed over while the window was being closed gets a copy of its own.
+void OpenInAnotherCopy(const QByteArrayList& commandLines) {
+    for (const QByteArray& commandLine : commandLines)
+        QProcess::startDetached(QApplication::applicationFilePath(),
+                                {QFile::decodeName(commandLine.mid(1).chopped(1))});
+}
+
+}  // namespace
 
 int main(int argc, char** argv) {
     QApplication application(argc, argv);
     QApplication::setApplicationName("orbelle");
     QApplication::setApplicationVersion(ORBELLE_VERSION);
     QApplication::setDesktopFileName("orbelle");
-    orbelle::app::ApplyChrome();
+    ApplyChrome();
     QIcon icon;
     for (const int size : {16, 24, 32, 48, 64, 128, 256})
         icon.addFile(QString(":/icons/orbelle-%1.png").arg(size), {size, size});
@@ -34,43 +80,64 @@ int main(int argc, char** argv) {
         qCritical("orbelle: only one FILE can be opened");
         return 1;
     }
-    const QString file = files.value(0);
+    const QByteArray commandLine =
+        CommandLineOf(files.value(0), {argv + 1, argv + std::max(argc, 1)});
 
-    // The text that a shell passes on: the path between quotation marks, or nothing.
-    const QString commandLine =
-        file.isEmpty() ? QString() : '"' + QFileInfo(file).absoluteFilePath() + '"';
-    if (orbelle::app::SingleInstance::HandOver(commandLine))
+    auto instance = std::make_unique<SingleInstance>();
+    if (IsTakenByAnother(*instance, commandLine))
         return 0;
+    HandOverQueue handOvers;
+    QObject::connect(instance.get(), &SingleInstance::Received, &handOvers, &HandOverQueue::Add);
 
-    orbelle::app::SingleInstance instance;
-    orbelle::app::WelcomeWindow welcome;
+    WelcomeWindow welcome;
     welcome.RunStart();
     // The window is put together while the welcome stands.
-    std::unique_ptr<orbelle::app::MainWindow> window;
+    std::unique_ptr<MainWindow> window;
     QTimer::singleShot(0, [&] {
-        window = std::make_unique<orbelle::app::MainWindow>();
+        window = std::make_unique<MainWindow>();
         window->RestoreSettings();
         window->StartRecovery();
-        QObject::connect(&instance, &orbelle::app::SingleInstance::Received, window.get(),
-                         &orbelle::app::MainWindow::TakeHandOver);
+        // Nobody who opens a file waits for the welcome.
+        QObject::connect(&handOvers, &HandOverQueue::Added, &welcome, &WelcomeWindow::EndStart);
+        QObject::connect(&handOvers, &HandOverQueue::Added, window.get(),
+                         [&] { QApplication::alert(window.get()); });
+        if (!handOvers.Waiting().isEmpty())
+            welcome.EndStart();
     });
-    orbelle::app::EndingSignals ending;
-    QObject::connect(&ending, &orbelle::app::EndingSignals::Received, [&] {
+    EndingSignals ending;
+    QObject::connect(&ending, &EndingSignals::Received, [&] {
         if (window)
             window->EndAtOnce();
         else
             QApplication::exit();
     });
-    QObject::connect(&welcome, &orbelle::app::WelcomeWindow::Finished, [&] {
+    QObject::connect(&welcome, &WelcomeWindow::Finished, [&] {
         window->show();
         // Once the window has its size: the document is placed by it.
         QTimer::singleShot(0, window.get(), [&] {
             window->OfferRecovery();
             if (!commandLine.isEmpty())
                 window->ShellOpen(commandLine);
-            else if (!window->Editor().DocumentExists)
+            else if (handOvers.Waiting().isEmpty())
                 window->StartWelcome();
+            handOvers.Start([&] { return window->IsFree(); },
+                            [&](const QByteArray& text) { window->TakeHandOver(text); });
         });
     });
-    return QApplication::exec();
+    QObject::connect(&application, &QGuiApplication::commitDataRequest,
+                     [&](QSessionManager& session) {
+                         if (!window)
+                             return;
+                         if (window->MayEndSession([&] { return session.allowsInteraction(); }))
+                             session.release();
+                         else
+                             session.cancel();
+                     });
+    bool isClosed = false;  // by the user, not ended by the system
+    QObject::connect(&application, &QGuiApplication::lastWindowClosed, [&] { isClosed = true; });
+    const int status = QApplication::exec();
+    instance.reset();
+    if (isClosed)
+        OpenInAnotherCopy(handOvers.Waiting());
+    return status;
 }

@@ -1,0 +1,91 @@
+#include "app/offered_data.h"
+
+#include <QBuffer>
+#include <QFile>
+#include <QImage>
+#include <QImageReader>
+#include <QMimeData>
+#include <QUrl>
+#include <algorithm>
+#include <new>
+#include <span>
+
+#include "graphics/codecs/image_files.h"
+#include "graphics/codecs/pixel_budget.h"
+#include "graphics/errors.h"
+
+namespace orbelle::app {
+namespace {
+
+graphics::Bitmap BitmapOf(QImage image) {
+    graphics::CheckDeclaredSize(image.width(), image.height());
+    image.convertTo(QImage::Format_ARGB32);
+    graphics::Bitmap picture(image.width(), image.height());
+    for (int y = 0; y < picture.Height(); ++y)
+        std::copy_n(reinterpret_cast<const graphics::Argb*>(image.constScanLine(y)),
+                    picture.Width(), picture.MutableRow(y));
+    return picture;
+}
+
+// Kinds of ours are read as files are, with the same limits; others by the toolkit.
+graphics::Bitmap Read(const QMimeData& data) {
+    for (const char* kind : {"image/png", "image/bmp", "image/jpeg", "image/gif"}) {
+        const QByteArray bytes = data.hasFormat(kind) ? data.data(kind) : QByteArray();
+        if (!bytes.isEmpty())
+            return graphics::DecodeImage({reinterpret_cast<const std::uint8_t*>(bytes.constData()),
+                                          static_cast<std::size_t>(bytes.size())});
+    }
+    const auto image = qvariant_cast<QImage>(data.imageData());
+    if (!image.isNull())
+        return BitmapOf(image);
+    // The toolkit, too, gives up where a picture is too large.
+    for (const QString& kind : data.formats()) {
+        if (!kind.startsWith("image/"))
+            continue;
+        QByteArray bytes = data.data(kind);
+        QBuffer buffer(&bytes);
+        const QSize size = QImageReader(&buffer).size();
+        if (!size.isEmpty())
+            graphics::CheckDeclaredSize(size.width(), size.height());
+    }
+    throw graphics::ImageError("the picture can't be read");
+}
+
+QByteArray PathOf(const QUrl& url) {
+#ifdef Q_OS_UNIX
+    // Names need not be UTF-8; the address has their bytes.
+    return QByteArray::fromPercentEncoding(url.path(QUrl::FullyEncoded).toLatin1());
+#else
+    return QFile::encodeName(url.toLocalFile());
+#endif
+}
+
+}  // namespace
+
+OfferedPicture ReadOffered(const QMimeData& data) {
+    try {
+        return {Read(data), {}};
+    } catch (const std::bad_alloc&) {
+        return {{}, "There is not enough memory."};
+    } catch (const std::exception& failure) {
+        return {{}, failure.what()};
+    }
+}
+
+const graphics::Bitmap& RequireReadable(const OfferedPicture& offered) {
+    if (!offered.Problem.empty())
+        throw Error(offered.Problem);
+    return offered.Picture;
+}
+
+QByteArrayList LocalFiles(const QMimeData& data) {
+    QByteArrayList files;
+    for (const QUrl& url : data.urls()) {
+        const QByteArray path = url.isLocalFile() ? PathOf(url) : QByteArray();
+        if (!path.isEmpty() && !path.contains('\0'))
+            files += path;
+    }
+    return files;
+}
+
+}  // namespace orbelle::app

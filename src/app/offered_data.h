@@ -1,0 +1,26 @@
+// What another program offers by the clipboard or by a drop.
+#pragma once
+
+#include <QByteArrayList>
+#include <string>
+
+#include "graphics/bitmap.h"
+
+class QMimeData;
+
+namespace orbelle::app {
+
+struct OfferedPicture {
+    graphics::Bitmap Picture;
+    std::string Problem;  // why it could not be read; then there is no picture
+};
+
+OfferedPicture ReadOffered(const QMimeData& data);
+
+// Throws Error with the problem if there is one.
+const graphics::Bitmap& RequireReadable(const OfferedPicture& offered);
+
+// The paths of local files as the system has them, in the order given.
+QByteArrayList LocalFiles(const QMimeData& data);
+
+}  // namespace orbelle::app

@@ -1,0 +1,125 @@
+#include "app/save_commands.h"
+
+#include <algorithm>
+#include <cctype>
+
+#include "editing/document_commands.h"
+#include "editing/export_commands.h"
+
+namespace orbelle::app {
+
+namespace fs = std::filesystem;
+
+using editing::Editor;
+
+namespace {
+
+constexpr char kSaveFilter[] = "Varnel Orbelle File(*.VOLF)|*.volf";
+constexpr char kWarning[] = "Warning";
+
+// In ASCII letters, as extensions are.
+bool EndsWith(std::string_view name, std::string_view ending) {
+    return name.size() >= ending.size() &&
+           std::ranges::equal(
+               name.substr(name.size() - ending.size()), ending,
+               [](unsigned char a, unsigned char b) { return std::tolower(a) == std::tolower(b); });
+}
+
+// Where the user wants a file to be, with its extension; empty: nowhere. A pipe would keep the
+// window waiting until somebody reads from it.
+fs::path AskWhereTo(const WindowContext& context, const char* filter) {
+    fs::path path = context.User.AskFile(filter, false);
+    if (path.empty())
+        return path;
+    path = CompletedName(path, filter);
+    std::error_code unknown;
+    if (!fs::is_fifo(path, unknown))
+        return path;
+    context.User.ShowMessage(path.string() + ": a pipe, not a file");
+    return {};
+}
+
+bool MayOverwrite(const WindowContext& context, const fs::path& path) {
+    std::error_code ignored;
+    return !fs::exists(path, ignored) ||
+           context.User.Confirm("Image already exists, overwrite it?", kWarning);
+}
+
+// What another program has put where the document's file was is not overwritten unasked.
+bool MayReplace(const WindowContext& context, const fs::path& path) {
+    const graphics::FileStamp found = graphics::StampOf(path);
+    return found == graphics::FileStamp() || found == context.Commands.Editor().Document.Stamp ||
+           context.User.Confirm(path.filename().string() +
+                                    " was changed by another program since you opened it. "
+                                    "Overwrite it?",
+                                kWarning);
+}
+
+bool Write(const WindowContext& context, const fs::path& path) {
+    return context.Commands.RunBusy([&](Editor& editor) { SaveTo(editor, path); });
+}
+
+}  // namespace
+
+bool AskSave(const WindowContext& context) {
+    const fs::path path = context.Commands.Editor().Document.Path;
+    if (path.empty())
+        return AskSaveAs(context);
+    return MayReplace(context, path) && Write(context, path);
+}
+
+bool AskSaveAs(const WindowContext& context) {
+    const fs::path path = AskWhereTo(context, kSaveFilter);
+    return !path.empty() && MayOverwrite(context, path) && Write(context, path);
+}
+
+void AskExport(const WindowContext& context, const ExportEntry& entry) {
+    const fs::path path = AskWhereTo(context, entry.Filter);
+    if (path.empty() || !MayOverwrite(context, path))
+        return;
+    const Editor& editor = context.Commands.Editor();
+    std::optional<int> threshold = editor.ExportSettings.GifThreshold;
+    if (entry.Format == formats::ExportFormat::Gif &&
+        graphics::AlphaOf(editor.Document.Background) == 0)
+        threshold = context.User.AskGifThreshold(
+            formats::DrawGifSurface(editor.Canvas, editor.Document.Background));
+    if (!threshold)
+        return;
+    const Report report = context.Commands.Try([&](Editor& toExport) {
+        toExport.ExportSettings.GifThreshold = *threshold;
+        ExportTo(toExport, path, entry.Format);
+    });
+    if (report.Failed)
+        context.User.ShowStatus(report.Text);
+}
+
+bool MayGiveUpDocument(const WindowContext& context) {
+    // Ends what is under way, as a number that is being typed: it counts, or it does not.
+    context.Commands.Run([](Editor&) {});
+    if (!context.Commands.Editor().Document.Modified)
+        return true;
+    switch (context.User.AskSave()) {
+        case SavePromptAnswer::Yes:
+            return AskSave(context);
+        case SavePromptAnswer::No:
+            return true;
+        case SavePromptAnswer::Cancel:
+            break;
+    }
+    return false;
+}
+
+fs::path CompletedName(const fs::path& path, std::string_view filter) {
+    const std::string name = path.filename().string();
+    std::string_view patterns = filter.substr(filter.find('|') + 1);
+    const std::string_view first = patterns.substr(0, patterns.find(';')).substr(1);
+    while (!patterns.empty()) {
+        const std::size_t end = std::min(patterns.find(';'), patterns.size());
+        if (EndsWith(name, patterns.substr(1, end - 1)))
+            return path;
+        patterns.remove_prefix(std::min(end + 1, patterns.size()));
+    }
+    return fs::path(path) += first;
+}
+
+}  // namespace orbelle::app

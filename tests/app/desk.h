@@ -1,0 +1,99 @@
+// An editor and its user, without a window: answers from its fields, and notes in `Told` what was
+// asked and told.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <climits>
+#include <filesystem>
+#include <string>
+#include <vector>
+
+#include "app/window_actions.h"
+
+namespace orbelle::app {
+
+class Desk : public CommandRunner,
+             public UserQuestions,
+             public WindowActions,
+             public editing::EditorObserver,
+             public editing::Clipboard {
+public:
+    static constexpr int kNewSide = 7;  // of the page that it wants
+
+    SavePromptAnswer SaveAnswer = SavePromptAnswer::Cancel;
+    bool OverwriteAnswer = false;  // also of what another program has changed
+    int FilesAtMost = INT_MAX;     // then the user stops a long run
+    std::filesystem::path ToRead, ToWrite;
+    std::optional<int> GifThreshold, IconImage;
+    std::optional<graphics::Argb> Color;
+    std::vector<std::string> Told;
+    std::string Message;  // the last
+
+    WindowContext Context{*this, *this, *this};
+    editing::Editor State{*this, *this};
+
+    Report Try(const editing::Command& command) override {
+        const editing::Outcome outcome = editing::Run(State, command);
+        return {outcome.Failed(), outcome.Problem()};
+    }
+    bool Run(const editing::Command& command) override {
+        const Report report = Try(command);
+        if (report.Failed)
+            ShowMessage(report.Text);
+        return !report.Failed;
+    }
+    bool RunBusy(const editing::Command& command) override { return Run(command); }
+    bool RunDuringDrag(const editing::Command& step) override { return Run(step); }
+    const editing::Editor& Editor() const override { return State; }
+
+    void ShowMessage(const std::string& text) override {
+        Told.emplace_back("message");
+        Message = text;
+    }
+    bool GoOn(int done, int) override { return done < FilesAtMost; }
+    void ShowStatus(const std::string&) override { Told.emplace_back("status"); }
+    SavePromptAnswer AskSave() override { return Answer("save?", SaveAnswer); }
+    bool Confirm(const std::string& text, const std::string& title) override {
+        EXPECT_EQ(title, "Warning");
+        if (text == "Image already exists, overwrite it?")
+            return Answer("overwrite?", OverwriteAnswer);
+        EXPECT_EQ(text, State.Document.Path.filename().string() +
+                            " was changed by another program since you opened it. Overwrite it?");
+        return Answer("changed?", OverwriteAnswer);
+    }
+    std::optional<PageSize> AskPageSize() override { return PageSize{kNewSide, kNewSide}; }
+    std::filesystem::path AskFile(const std::string&, bool isOpen) override {
+        return isOpen ? Answer("read?", ToRead) : Answer("write?", ToWrite);
+    }
+    std::optional<int> AskGifThreshold(const graphics::Bitmap&) override {
+        return Answer("threshold?", GifThreshold);
+    }
+    std::optional<int> ChooseIconImage(const std::vector<formats::IconEntryImage>&) override {
+        return Answer("image?", IconImage);
+    }
+    std::optional<graphics::Argb> AskColor(graphics::Argb) override { return Color; }
+
+    void Changed(const editing::Changes&) override {}
+    void Put(const graphics::Bitmap&, const std::string&) override {}
+    bool HasPicture() override { return false; }
+    graphics::Bitmap Picture() override { return {}; }
+    std::string Text() override { return {}; }
+    void CloseWindow() override {}
+    void FocusScene() override {}
+    void ShowOrderMenu() override {}
+    void Paste() override {}
+    void ToggleTips() override {}
+    void CloseTips() override {}
+    void ShowAbout() override {}
+    void ShowControls() override {}
+
+private:
+    template <typename T>
+    T Answer(const char* question, const T& answer) {
+        Told.emplace_back(question);
+        return answer;
+    }
+};
+
+}  // namespace orbelle::app
