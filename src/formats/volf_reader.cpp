@@ -88,6 +88,8 @@ void DecodePicture(Record& record) {
     } catch (const graphics::ImageError& error) {
         record.Problem = error.what();
     }
+    if (!record.Problem.empty())
+        return;
     layer.Image = CopyBitmap(layer.Image, layer.ImageWidth, layer.ImageHeight);
     filters::RebuildRegion(layer.Region, layer.Image, {layer.Rect.X, layer.Rect.Y});
 }
