@@ -37,6 +37,8 @@ void Handle(void (*handler)(int)) {
 }  // namespace
 
 EndingSignals::EndingSignals(QObject* parent) : QObject(parent) {
+    // An export into a pipe that nobody reads any more fails, with words.
+    std::signal(SIGPIPE, SIG_IGN);
     if (::pipe2(pipeEnds, O_CLOEXEC | O_NONBLOCK) != 0)
         return;
     notifier_ = new QSocketNotifier(pipeEnds[0], QSocketNotifier::Read, this);

@@ -7,8 +7,8 @@ class QSocketNotifier;
 
 namespace orbelle::app {
 
-// While it lives, those signals arrive in the event loop instead of ending the program. One at a
-// time.
+// From here on SIGPIPE ends nothing. While it lives, those signals arrive in the event loop instead
+// of ending the program. One at a time.
 class EndingSignals : public QObject {
     Q_OBJECT
 
