@@ -20,7 +20,6 @@ namespace {
 
 using document::Document;
 using document::IconLayer;
-using graphics::Bitmap;
 using graphics::ByteReader;
 using graphics::ByteSource;
 using graphics::PartOfSource;

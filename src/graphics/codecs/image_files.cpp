@@ -61,7 +61,7 @@ bool IsPicture(const ByteSource& file) {
 Bitmap LoadImageFromFile(const std::filesystem::path& path, PixelBudget budget) {
     const FileSource file(path);
     try {
-        const Bitmap picture = DecodeImage(file, budget);
+        Bitmap picture = DecodeImage(file, budget);
         file.RequireWasRead();
         return picture;
     } catch (const ImageError& error) {

@@ -16,6 +16,12 @@ constexpr std::size_t kStripBytes = std::size_t{32} << 20;
 // What the library's vector code asks of the place of a block.
 constexpr std::size_t kAlignment = 32;
 
+// The decoder's error_exit does not come back.
+[[noreturn]] void LeaveOutOfMemory(j_common_ptr jpeg) {
+    ERREXIT1(jpeg, JERR_OUT_OF_MEMORY, 0);
+    std::abort();
+}
+
 }  // namespace
 
 // Rows of blocks in strips, each of which is there from its first use to the output of what stands
@@ -77,7 +83,7 @@ jvirt_barray_ptr JpegCoefficients::Request(j_common_ptr jpeg, int, boolean, JDIM
                       ? static_cast<Array*>(std::calloc(1, sizeof(Array)))
                       : nullptr;
     if (!array)
-        ERREXIT1(jpeg, JERR_OUT_OF_MEMORY, 0);
+        LeaveOutOfMemory(jpeg);
     self->arrays_[self->count_++] = array;
     array->BlocksPerRow = blocksPerRow;
     array->Rows = rows;
@@ -86,7 +92,7 @@ jvirt_barray_ptr JpegCoefficients::Request(j_common_ptr jpeg, int, boolean, JDIM
     array->RowPlaces = static_cast<JBLOCKROW*>(std::calloc(rows, sizeof(JBLOCKROW)));
     array->Strips = static_cast<void**>(std::calloc(array->StripCount(), sizeof(void*)));
     if (!array->RowPlaces || !array->Strips)
-        ERREXIT1(jpeg, JERR_OUT_OF_MEMORY, 0);
+        LeaveOutOfMemory(jpeg);
     // The library only hands it back.
     return reinterpret_cast<jvirt_barray_ptr>(array);
 }
@@ -102,7 +108,7 @@ JBLOCKARRAY JpegCoefficients::Access(j_common_ptr jpeg, jvirt_barray_ptr handle,
     for (JDIMENSION strip = first / array->RowsPerStrip;
          count > 0 && strip <= (first + count - 1) / array->RowsPerStrip; ++strip) {
         if (!array->Provide(strip))
-            ERREXIT1(jpeg, JERR_OUT_OF_MEMORY, 0);
+            LeaveOutOfMemory(jpeg);
     }
     return array->RowPlaces + first;
 }
