@@ -17,7 +17,7 @@ fs::path FromEnvironment(const char* name) {
 }
 
 fs::path StateHome() {
-    const fs::path told = FromEnvironment("XDG_STATE_HOME");
+    fs::path told = FromEnvironment("XDG_STATE_HOME");
     if (told.is_absolute())
         return told;
     const fs::path home = FromEnvironment("HOME");
@@ -29,7 +29,7 @@ fs::path StateHome() {
 }  // namespace
 
 fs::path StateFolder() {
-    const fs::path folder = StateHome() / "orbelle";
+    fs::path folder = StateHome() / "orbelle";
     std::error_code error;
     const bool isNew = fs::create_directories(folder, error);
     if (error)
