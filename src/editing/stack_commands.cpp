@@ -1,6 +1,8 @@
 #include "editing/stack_commands.h"
 
 #include <algorithm>
+#include <cmath>
+#include <utility>
 
 #include "editing/slider_positions.h"
 #include "editing/undo_step.h"
@@ -89,6 +91,27 @@ graphics::RotateFlipType TypeOf(FlipRotate mode) {
     return graphics::RotateFlipType::Rotate90FlipNone;
 }
 
+bool IsQuarterTurn(FlipRotate mode) {
+    return mode == FlipRotate::Rotate90Cww || mode == FlipRotate::Rotate90Cw;
+}
+
+bool IsSquare(const IconLayer& layer) {
+    return layer.ImageWidth == layer.ImageHeight && layer.Rect.Width == layer.Rect.Height;
+}
+
+// What is drawn turns around the middle of its place. Pixels beyond it would turn into sight.
+void TurnPlace(IconLayer& layer) {
+    const Bitmap drawn = CopyBitmap(layer.Image, layer.ImageWidth, layer.ImageHeight);
+    if (!drawn.IsEmpty())
+        layer.Image = drawn;
+    std::swap(layer.ImageWidth, layer.ImageHeight);
+    const auto [x, y, width, height] = layer.Rect;
+    const double half = (double{width} - height) / 2;
+    layer.Rect = {static_cast<float>(std::floor(x + half)),
+                  static_cast<float>(std::floor(y - half)), height, width};
+    layer.BaseRect = layer.Rect;
+}
+
 void EraseSelected(document::Page& page) {
     page.Layers.erase(page.Layers.begin() + page.SelectedLayer);
     page.SelectedLayer =
@@ -151,6 +174,8 @@ void FlipRotateLayer(Editor& editor, FlipRotate mode) {
         return;
     BeginUndoStep(editor, StepOf(mode));
     IconLayer& layer = editor.Page().Selected();
+    if (IsQuarterTurn(mode) && !IsSquare(layer))
+        TurnPlace(layer);
     ImageRotateFlip(layer.Image, TypeOf(mode));
     filters::RebuildRegion(layer.Region, layer.Image, {layer.Rect.X, layer.Rect.Y});
     NoteStack(editor.Changed);

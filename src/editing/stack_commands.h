@@ -15,8 +15,8 @@ void SetLayerOrder(Editor& editor, LayerOrder order);
 
 enum class FlipRotate { FlipHorizontal = 0, FlipVertical = 1, Rotate90Cww = 2, Rotate90Cw = 3 };
 
-// Rotate90Cww mirrors too, and a rotation leaves Rect, ImageWidth and ImageHeight as they are
-// (docs/oddities.md, "Quarter turns").
+// A picture or place that is not square turns around the middle of Rect, whose corner is rounded
+// down to whole page pixels. Rotate90Cww mirrors too (docs/oddities.md, "Quarter turns").
 void FlipRotateLayer(Editor& editor, FlipRotate mode);
 
 // Removes the selected layer and selects the one below it (the lowest when there is none).
