@@ -143,22 +143,27 @@ TEST(TakeOut, TheCopyAndTheHoleOfAnEllipseAreTheSamePixels) {
     EXPECT_EQ(PixelRuns(image), "0-1: 0-7; 2: 0-1 5-7; 3: 0 5-7; 4: 0-1 5-7; 5-7: 0-7");
 }
 
-TEST(TakeOut, RefusesAnAreaThatLeavesThePage) {
+// A picture that reaches over the page's right and lower edge: only what lies on the page goes.
+TEST(TakeOut, CutsTheSelectionToThePage) {
     const struct {
-        RectI Selection;
-        RectI Area;
-        bool Copied;
+        RectI Selection, Area;
+        const char* Rest;
     } cases[] = {
-        {{5, 5, 3, 3}, {5, 5, 3, 3}, true},    {{0, 0, 30, 30}, {0, 0, 8, 8}, true},
-        {{5, 2, 30, 3}, {5, 2, 8, 3}, false},  {{2, 6, 3, 3}, {2, 6, 3, 3}, false},
-        {{2, -1, 3, 3}, {2, -1, 3, 3}, false}, {{2, 2, 0, 3}, {0, 0, 0, 0}, false},
+        {{5, 5, 3, 3}, {5, 5, 3, 3}, "0-4: 0-9; 5-7: 0-4 8-9; 8-9: 0-9"},
+        {{0, 0, 30, 30}, {0, 0, 8, 8}, "0-7: 8-9; 8-9: 0-9"},
+        {{5, 2, 30, 3}, {5, 2, 3, 3}, "0-1: 0-9; 2-4: 0-4 8-9; 5-9: 0-9"},
+        {{2, 6, 3, 3}, {2, 6, 3, 2}, "0-5: 0-9; 6-7: 0-1 5-9; 8-9: 0-9"},
+        {{2, 8, 3, 3}, {}, "0-9: 0-9"},
+        {{2, 2, 0, 3}, {}, "0-9: 0-9"},
     };
-    for (const auto& test : cases) {
-        Bitmap image = FilledPicture(8, 8, 0xFF336699);
-        const TakenOut copy =
-            RectangleSelection(test.Selection).TakeOut(image, 8, 8, 8, 8, {0, 0}, false, true);
-        EXPECT_EQ(copy.Area, test.Area);
-        EXPECT_EQ(copy.Image.IsEmpty(), !test.Copied);
+    for (const auto& [selected, area, rest] : cases) {
+        const Selection selection = RectangleSelection(selected);
+        Bitmap image = FilledPicture(10, 10, 0xFF336699);
+        const TakenOut copy = selection.TakeOut(image, 10, 10, 8, 8, {0, 0}, true, true);
+        EXPECT_EQ(copy.Area, area);
+        EXPECT_EQ(copy.Image.Height(), area.Height);
+        EXPECT_EQ(PixelRuns(image), rest);
+        EXPECT_EQ(selection.IsOnPage(8, 8), area.Width > 0);
     }
 }
 
