@@ -81,6 +81,8 @@ void FloatSelection(Editor& editor) {
     below.Image = rest;
     layer.Image = floated.Image;
     document::PlaceAt(layer, floated.Area);
+    layer.BaseRect = layer.Rect;
+    filters::RebuildRegion(layer.Region, layer.Image, {layer.Rect.X, layer.Rect.Y});
     layer.Opacity = below.Opacity;
     editor.Selection.Clear();
     ShowSelectedLayer(editor);

@@ -47,8 +47,9 @@ TEST_F(ClipboardCommands, WithASelection) {
            {"the key", "key delete", rest + "widths 84, undo 1"},
            {"the Move tool lifts it off in two steps", "tool move click 2 1",
             "2/" + selected + rest +
-                "widths 842, selected 2, 2/rect 2 0 2 2, 2/image 2 2, 2/opacity 0.5, 2/hue 0, "
-                "2/region 0 1 4 3, page@2,1 80000001, selection null, slider/opacity 50, undo 2"}});
+                "widths 842, selected 2, 2/rect 2 0 2 2, 2/base_rect 2 0 2 2, 2/image 2 2, "
+                "2/opacity 0.5, 2/hue 0, 2/region 1 1 2 1, page@2,1 80000001, selection null, "
+                "slider/opacity 50, undo 2"}});
     Check({
         {"out of the top layer when none is selected",
          "open dots.volf tool move click 7 7 tool select-rectangle drag 2 0 3 1 "

@@ -38,6 +38,7 @@ TEST_F(HandOnTheScene, PicksTheTopmostVisibleLayerByItsRegion) {
     Check({
         {"hidden layers are not picked", "open hidden.volf click 10 6", "selected 0"},
         {"with none visible the selection stays", "open none.volf click 39 6", "selected 0"},
+        {"nor an empty layer", "open two.volf add-layer click 10 6", "selected 1"},
         {"a pick shows the layer's sliders",
          "open two.volf select 0 opacity 25 hue 33 select 1 click 20 20",
          "slider/opacity 25, slider/hue 33, slider/scale 50"},

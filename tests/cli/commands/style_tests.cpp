@@ -77,8 +77,11 @@ TEST_F(StyleCommands, WhatTheyDraw) {
         // now, of alpha 255 x 7 \ 10; the region begins with the second one, 16 x 8 \ 10.
         {"reflection stands on the foot", "open foot.volf style reflection",
          "1/rect 10 17 20 10, 1/opacity 0.4, 1@0,2 B23366CC, 1/region 9 21 20 8"},
-        {"shade keeps the region", "open a.volf style shade",
-         "2/rect 10 10 20 10, 2/opacity 0.3, 2@0,5 7F000000, 2/region 9 10 20 10"},
+        {"shade has no first row", "open a.volf style shade",
+         "2/rect 10 10 20 10, 2/opacity 0.3, 2@0,5 7F000000, 2/region 9 11 20 9"},
+        {"a shadow of nothing can't be picked",
+         "open glass.png tool brush-eraser brush-size 60 brush-opacity 100 click 5 4 style shadow",
+         "1/region -1 0 10 8, 0/region null"},
         {"shadow to the lower right", "open soft.volf style shadow",
          "1/rect 11 11 22 12, 1/base_rect 10 10 20 10, 1/image 22 12, 1/opacity 0.4, "
          "2/opacity 0.8, 2/rect 10 10 20 10"},
