@@ -7,6 +7,7 @@
 #include "editing/slider_positions.h"
 #include "editing/undo_step.h"
 #include "filters/create_region.h"
+#include "filters/round_shape.h"
 #include "graphics/drawing_context.h"
 #include "graphics/errors.h"
 #include "graphics/rotate_flip.h"
@@ -126,6 +127,13 @@ void DrawLayer(graphics::DrawingContext& context, const IconLayer& layer, const 
                                {graphics::OpacityMatrix(layer.Opacity)});
 }
 
+// The plate as the page's composition has it, in the coordinates of `bounds`.
+graphics::Path PlateWithin(const RectF& bounds, const IconLayer& plate) {
+    return filters::IosPlatePath(graphics::RoundToEven(plate.Rect.Width),
+                                 graphics::RoundToEven(plate.Rect.Height), plate.Rect.X - bounds.X,
+                                 plate.Rect.Y - bounds.Y);
+}
+
 // Both layers as they look on the page, the boxes of both as a whole, also where they leave it.
 // Throws Error for boxes too far apart for one picture.
 IconLayer Merged(const IconLayer& upper, const IconLayer& lower) {
@@ -145,11 +153,15 @@ IconLayer Merged(const IconLayer& upper, const IconLayer& lower) {
     context.SetInterpolationMode(graphics::InterpolationMode::NearestNeighbor);
     context.SetPixelOffsetMode(graphics::PixelOffsetMode::HighQuality);
     DrawLayer(context, lower, bounds);
+    if (lower.ClipNextLayer)
+        context.SetClipPath(PlateWithin(bounds, lower), graphics::CombineMode::Intersect);
     DrawLayer(context, upper, bounds);
 
     merged.Opacity = 1;
     merged.ScaleValue = 0;
     merged.Visible = true;
+    merged.Path = {};
+    merged.ClipNextLayer = false;
     // A layer that nothing was drawn on yet has no region to unite with.
     if (merged.Region.IsNull())
         merged.Region = upper.Region;

@@ -24,8 +24,9 @@ void DeleteLayer(Editor& editor);
 // The same as a step of another name.
 void RemoveLayer(Editor& editor, steps::Name step);
 
-// The selected layer and the one below it become one. Needs a layer below. Two undo steps
-// (docs/oddities.md, "Two undo steps"). Throws Error for layers too far apart for one picture.
+// The selected layer and the one below it become one; a plate cuts it a last time. Needs a layer
+// below. Two undo steps (docs/oddities.md, "Two undo steps"). Throws Error for layers too far apart
+// for one picture.
 void MergeDown(Editor& editor);
 
 }  // namespace orbelle::editing

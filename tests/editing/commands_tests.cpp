@@ -92,6 +92,20 @@ TEST_F(Commands, NameTheirStepsForUndoAndRedo) {
     }
 }
 
+TEST_F(Commands, MergingIntoAPlateKeepsWhatIsSeen) {
+    PutOnlyLayer(FilledPicture(24, 20, 0xFFC08040), 5, -3).Opacity = 0.7F;
+    Do(Ios);
+    Layer(0).Rect = {2, -1, 18, 17};
+    Show();
+    Do(SelectLayer, 1);
+    const graphics::Bitmap before = editor.Canvas;
+    EXPECT_EQ(before.GetPixel(21, 5), 0U) << "beside the plate";
+    Do(MergeDown);
+    EXPECT_TRUE(testing::SamePixels(editor.Canvas, before));
+    EXPECT_FALSE(Layer(0).ClipNextLayer);
+    EXPECT_TRUE(editor.States.IsEnabled(CommandId::Cut));
+}
+
 // Also where a document came with more layers, or the history has no room.
 TEST_F(Commands, A102ndLayerIsRefusedWithNothingChanged) {
     Do(CopyToClipboard);
