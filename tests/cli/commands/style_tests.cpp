@@ -129,8 +129,9 @@ TEST_F(StyleCommands, AdjustmentsStartFromThePress) {
          {"scale", "scale 60",
           ", 0/rect 0 0 20 16, 0/size 20 16, 0/image 20 16, 0/base_rect 0 0 20 16, 0/scale 0, "
           "0@0,0 C0336699, 0@19,15 C0336699, 0/region -1 0 20 16, slider/scale 50"},
-         // 8 / 10 of 5 is 4 at first; the second step reads the ratio of 15 to 12.
-         {"scaled away", "scale 55 40", ", 0/rect 0 0 0 0, 0/image 0 0, 0/size 10 8"}});
+         {"through nothing and back", "scale 30 0 60",
+          ", 0/rect 0 0 20 16, 0/image 20 16, 0@19,15 C0336699"},
+         {"a pixel is left", "scale 55 0", ", 0/rect 0 0 1 1, 0/image 1 1, 0@0,0 C0336699"}});
     Check({
         {"drags do", "open glass.png hue 40 hue 60",
          "0/hue 60, undo 2" + adjusted({hue(140), hue(210)})},
@@ -140,6 +141,9 @@ TEST_F(StyleCommands, AdjustmentsStartFromThePress) {
         {"brightness and contrast work together", "open glass.png brightness 60 contrast 75",
          "0/brightness 60, 0/contrast 75, undo 2" + adjusted({light(1, 50), light(3, 50)})},
         {"undo", "open glass.png opacity 80 50 undo", "0/opacity 1, slider/opacity 100, undo 0"},
+        // 10 + 7 / 2 is a tie: to 14.
+        {"an oblong one has whole sides", "open a.volf scale 57",
+         "1/rect 10 10 27 14, 1/base_rect 10 10 27 14, 1/image 27 14, page/pixels 10-23: 10-36"},
         {"a tall one", "new 4 8 scale 58", "0/rect 0 0 8 16, 0/size 8 16"},
     });
 }
