@@ -1,8 +1,5 @@
 #include "document/selection.h"
 
-#include <algorithm>
-#include <cmath>
-
 namespace orbelle::document {
 
 using graphics::Bitmap;
@@ -43,12 +40,6 @@ RectI RoundedBounds(const graphics::Region& region) {
 
 }  // namespace
 
-RectF NormalizeRect(float x2, float y2, float x1, float y1) {
-    x2 = std::max(x2, 0.0F);
-    x1 = std::max(x1, 0.0F);
-    return {std::min(x1, x2), std::min(y1, y2), std::abs(x2 - x1), std::abs(y2 - y1)};
-}
-
 void Selection::Start() {
     shapeCount_ = 0;
     region_ = graphics::Region::Infinite();
@@ -87,9 +78,7 @@ graphics::Region Selection::CutToPage(int pageWidth, int pageHeight) const {
     return onPage;
 }
 
-void Selection::AddFrame(int x, int y, int startX, int startY, FrameShape shape) {
-    const RectF box = NormalizeRect(static_cast<float>(x), static_cast<float>(y),
-                                    static_cast<float>(startX), static_cast<float>(startY));
+void Selection::AddFrame(const RectF& box, FrameShape shape) {
     Path path(graphics::FillMode::Alternate);
     if (shape == FrameShape::Rectangle)
         path.AddRectangle(box);

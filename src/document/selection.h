@@ -10,10 +10,6 @@
 
 namespace orbelle::document {
 
-// The box between the press point (x1, y1) and the pointer (x2, y2) of a drag in any direction.
-// Horizontal coordinates below 0 count as 0; vertical ones don't (docs/oddities.md, "Left of 0").
-graphics::RectF NormalizeRect(float x2, float y2, float x1, float y1);
-
 enum class FrameShape { Rectangle = 0, Ellipse = 1 };
 
 // What TakeOut has copied.
@@ -42,8 +38,8 @@ public:
     // The bounds of the selection, page pixels, each number rounded to nearest, ties to even.
     graphics::RectI Bounds() const;
     // Each adds one shape to the selection, the first one in place of the whole plane. Page pixels.
-    // The corners of a drag: (startX, startY) is where it began. An unknown shape adds no pixels.
-    void AddFrame(int x, int y, int startX, int startY, FrameShape shape);
+    // An unknown shape adds no pixels.
+    void AddFrame(const graphics::RectF& box, FrameShape shape);
     // Fewer than three points add no pixels.
     void AddPolygon(std::span<const graphics::PointF> points);
 

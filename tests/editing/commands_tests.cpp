@@ -50,7 +50,7 @@ TEST_F(Commands, NameTheirStepsForUndoAndRedo) {
     };
     const auto selected = [](const Command& command) {
         return [=](Editor& e) {
-            e.Selection.AddFrame(5, 6, 9, 9, document::FrameShape::Rectangle);
+            e.Selection.AddFrame({5, 6, 4, 3}, document::FrameShape::Rectangle);
             command(e);
         };
     };
@@ -119,7 +119,7 @@ TEST_F(Commands, A102ndLayerIsRefusedWithNothingChanged) {
     const std::string refusal = "A document can't have more than 101 layers.";
     for (const int layers : {101, 150}) {
         editor.Page().Layers.resize(static_cast<std::size_t>(layers), Layer(2));
-        editor.Selection.AddFrame(5, 6, 9, 9, document::FrameShape::Rectangle);
+        editor.Selection.AddFrame({5, 6, 4, 3}, document::FrameShape::Rectangle);
         Show();
         const std::string before = testing::AccountOf(editor) + testing::AccountOf(recorder.Copied);
         for (const auto& [name, run] : adders) {
