@@ -101,8 +101,8 @@ TEST_F(SceneInput, StrokesAreShownHardEdgedFirst) {
         {Tool::Line, 2, {{2, 4}, {8, 4}}, "3-4: 2-7"},
         {Tool::FilledEllipse, 1, {{2, 2}, {4, 4}}, "2: 2-4; 3: 1-4; 4: 2-4"},
         {Tool::FilledRectangle, 1, {{10, 5}, {20, 20}, {13, 7}}, "4-7: 9-13"},
-        {Tool::Pencil, 1, {{1, 1}, {2, 2}, {8, 2}, {8, 4}}, "2: 2-8; 3-4: 8"},
-        {Tool::Pencil, 1, {{5, 5}, {5.2F, 5.2F}}, ""},
+        {Tool::Pencil, 1, {{1, 1}, {2, 2}, {8, 2}, {8, 4}}, "1: 1; 2: 2-8; 3-4: 8"},
+        {Tool::Pencil, 1, {{5, 5}, {5.2F, 5.2F}}, "5: 5"},
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(c.Preview);
@@ -333,7 +333,7 @@ TEST_F(SceneInput, ACommandInMidDragGivesTheDragUp) {
     OpenPage(40, 30);
     Use(Tool::Pencil);
     DragWithoutRelease({{2, 2}, {5, 2}, {9, 2}});
-    EXPECT_EQ(Drawn(), "2: 5-9");
+    EXPECT_EQ(Drawn(), "2: 2-9");
     Do(PressAddLayer);
     EXPECT_EQ(Drawn(), "");
     Release(OnPage(9, 2));
@@ -341,7 +341,7 @@ TEST_F(SceneInput, ACommandInMidDragGivesTheDragUp) {
     Do(Undo);
     EXPECT_EQ(Drawn(), "");
     Drag({{20, 20}, {21, 20}, {25, 20}});  // begins anew
-    EXPECT_EQ(Drawn(), "20: 21-25");
+    EXPECT_EQ(Drawn(), "20: 20-25");
 
     // A press after a release that got lost.
     OpenPage(40, 30);

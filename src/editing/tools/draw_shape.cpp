@@ -1,6 +1,7 @@
 #include "editing/tools/draw_shape.h"
 
 #include <algorithm>
+#include <functional>
 #include <optional>
 
 #include "editing/scene_mapping.h"
@@ -79,6 +80,15 @@ std::optional<Brush> MakeBrush(const Editor& editor, const ShapeBox& box) {
     return SolidBrush{editor.Tools.ActiveColor == 0 ? foreground : background};
 }
 
+// Equal points draw nothing: a stroke that stays on one pixel is drawn to another place on it.
+void DrawFreehand(DrawingContext& context, const Pen& pen, std::vector<PointF> points) {
+    constexpr float kDotLength = 0.449F;
+    if (std::adjacent_find(points.begin(), points.end(), std::not_equal_to()) == points.end() &&
+        !points.empty())
+        points.push_back({points.front().X + kDotLength, points.front().Y + kDotLength});
+    context.DrawLines(pen, points);
+}
+
 }  // namespace
 
 void DrawShape(const Editor& editor, const StrokeDrag& drag, Bitmap& image, const Pointer& pointer,
@@ -102,7 +112,7 @@ void DrawShape(const Editor& editor, const StrokeDrag& drag, Bitmap& image, cons
     const RectF outline{box.Left, box.Top, box.Width - 1, box.Height - 1};
     switch (tool) {
         case Tool::Pencil:
-            return context.DrawLines(pen, drag.Freehand);
+            return DrawFreehand(context, pen, drag.Freehand);
         case Tool::Line:
             return context.DrawLine(pen, box.Start, box.End);
         case Tool::Rectangle:

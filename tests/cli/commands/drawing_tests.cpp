@@ -20,8 +20,7 @@ protected:
     const std::string open = "new 40 30 foreground #336699 background-colour #C08040 tool ";
 };
 
-// A box is one pixel larger, up and to the left, than the drag; the pencil's line begins at the
-// first move, not at the press.
+// A box is one pixel larger, up and to the left, than the drag.
 TEST_F(DrawingTools, HardEdges) {
     Check(open, "undo 1, 0/pixels ",
           {{"a click", "filled-rectangle click 10 5", "4-5: 9-10"},
@@ -34,9 +33,9 @@ TEST_F(DrawingTools, HardEdges) {
            {"wide", "rectangle line-width 3 drag 14 9 10 5",
             "3-5: 8-15; 6-7: 8-10 13-15; 8-10: 8-15"},
            {"the pencil takes no width", "line line-width 9 tool pencil click 20 17", "17: 20"},
-           {"one move", "pencil drag 2 2 8 2", ""},
-           {"freehand", "pencil drag 1 1 2 2 8 2 8 4", "2: 2-8; 3-4: 8"},
-           {"resting moves are dropped", "pencil drag 2 2 5 2 5 2 6 2", "2: 5-6"},
+           {"one move", "pencil drag 2 2 8 2", "2: 2-8"},
+           {"freehand", "pencil drag 1 1 2 2 8 2 8 4", "1: 1; 2: 2-8; 3-4: 8"},
+           {"resting moves are dropped", "pencil drag 2 2 5 2 5 2 6 2", "2: 2-6"},
            {"a line without extent", "line click 5 5", ""},
            {"beside the page", "pencil click -1 3", ""},
            // A gradient without extent draws nothing.
