@@ -41,24 +41,24 @@ bool IsRectangle(Tool tool) {
     return tool == Tool::Rectangle || tool == Tool::FilledRectangle;
 }
 
-std::optional<Brush> RadialBrush(const ShapeBox& box, Tool tool, Argb centre, Argb surround) {
-    const float width = box.Width - 2, height = box.Height - 2;
+// Around the middle of the shape's box, to its edges; a line's to those of a square.
+Brush RadialBrush(const ShapeBox& box, Tool tool, Argb centre, Argb surround) {
     Path outline(FillMode::Winding);
     if (tool == Tool::Line) {
-        const float side = std::max(width, height);
+        const float side = std::max(box.Width, box.Height);
         outline.AddRectangle({box.Left, box.Top, side, side});
     } else if (IsRectangle(tool)) {
-        outline.AddRectangle({box.Anchor.X, box.Anchor.Y, width, height});
+        outline.AddRectangle({box.Left, box.Top, box.Width, box.Height});
     } else {
-        outline.AddEllipse({box.Left, box.Top, width, height});
+        outline.AddEllipse({box.Left, box.Top, box.Width, box.Height});
     }
     const auto half = [](float side) { return static_cast<float>(RoundToEven(side) / 2); };
-    return CreatePathGradientFromPath(
-        outline, centre, {box.Anchor.X + half(width), box.Anchor.Y + half(height)}, surround);
+    return PathGradientBrush{
+        outline, centre, {box.Left + half(box.Width), box.Top + half(box.Height)}, surround};
 }
 
-// The gradients begin at the press and run from the foreground to the background colour, whichever
-// is in use.
+// The gradients run from the foreground to the background colour, whichever is in use, and the
+// linear ones begin at the press.
 std::optional<Brush> MakeBrush(const Editor& editor, const ShapeBox& box) {
     const Argb foreground = editor.Tools.Colors[0], background = editor.Tools.Colors[1];
     const auto linear = [&](RectF rect, LinearGradientMode mode) {
