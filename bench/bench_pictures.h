@@ -70,8 +70,8 @@ inline document::Document MakeDocument(Content content, int size, int layers, fl
 inline document::Selection SelectionOfEllipses(int count) {
     document::Selection selection;
     for (int i = 0; i < count; ++i) {
-        const int x = i * 37 % 400, y = i * 61 % 400;
-        selection.AddFrame(x + 100, y + 90, x, y, document::FrameShape::Ellipse);
+        const auto x = static_cast<float>(i * 37 % 400), y = static_cast<float>(i * 61 % 400);
+        selection.AddFrame({x, y, 100, 90}, document::FrameShape::Ellipse);
     }
     return selection;
 }

@@ -129,7 +129,7 @@ const RectF kBigEllipse{6, 6, 500, 500};
 Brush RadialBrush() {
     Path path(FillMode::Winding);
     path.AddEllipse(kBigEllipse);
-    return *CreatePathGradientFromPath(path, 0x80204060, {256, 256}, 0xFFC0A010);
+    return PathGradientBrush{path, 0x80204060, {256, 256}, 0xFFC0A010};
 }
 
 void FillBigEllipse(benchmark::State& state, const Brush& brush, SmoothingMode smoothing) {

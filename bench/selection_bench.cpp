@@ -60,11 +60,11 @@ BENCHMARK(TakeOut)->ArgName("shapes")->Arg(1)->Arg(200)->Unit(benchmark::kMillis
 void FillWithPathGradient(benchmark::State& state) {
     Path ellipse(FillMode::Winding);
     ellipse.AddEllipse({0, 0, 512, 512});
-    const auto brush = CreatePathGradientFromPath(ellipse, 0xC8FF8040, {256, 256}, 0x402040FF);
+    const Brush brush = PathGradientBrush{ellipse, 0xC8FF8040, {256, 256}, 0x402040FF};
     Bitmap target(512, 512);
     DrawingContext context(target);
     for (auto _ : state) {
-        context.FillPath(*brush, ellipse);
+        context.FillPath(brush, ellipse);
         benchmark::ClobberMemory();
     }
 }

@@ -55,6 +55,7 @@ void MakeEmptyLayer(const Page& page, IconLayer& layer, float width, float heigh
     layer.Path = {};
     layer.ClipNextLayer = false;
     layer.Image = graphics::Bitmap(page.Width, page.Height);
+    layer.Region = {};
     ResetLayerAdjust(layer);
 }
 

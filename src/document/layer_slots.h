@@ -17,12 +17,11 @@ IconLayer& OpenLayerSlot(Page& page, SlotCopySize size);
 // Fills the layer with the picture at its own size in the middle of the page; the offsets truncate,
 // so a picture larger than the page gets a negative place. An empty picture makes a layer of 0 by
 // 0. A picture without a visible pixel leaves the Region that the slot held, moved to the new
-// place.
+// place (docs/oddities.md, "Blank pictures").
 void MakeImageLayer(const Page& page, IconLayer& layer, const graphics::Bitmap& image);
 
 // Fills the layer as a new transparent one: Rect, ImageWidth and ImageHeight follow width and
-// height, the picture is always of the page's size. The Region stays as it was
-// (docs/oddities.md, "Blank pictures").
+// height, the picture is always of the page's size. It has no Region.
 void MakeEmptyLayer(const Page& page, IconLayer& layer, float width, float height);
 
 }  // namespace orbelle::document

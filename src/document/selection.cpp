@@ -1,8 +1,5 @@
 #include "document/selection.h"
 
-#include <algorithm>
-#include <cmath>
-
 namespace orbelle::document {
 
 using graphics::Bitmap;
@@ -18,12 +15,15 @@ namespace {
 
 constexpr graphics::Argb kShade = graphics::MakeArgb(100, 0, 0, 0);
 
+RectF RectOfSize(int width, int height) {
+    return {0, 0, static_cast<float>(width), static_cast<float>(height)};
+}
+
 // The picture on a blank canvas of the given size, clipped to the canvas combined with `selection`.
 Bitmap DrawnWithin(const graphics::Region& selection, CombineMode mode, int width, int height,
                    const Bitmap& image, const RectF& dest) {
     Bitmap canvas(width, height);
-    graphics::Region clip =
-        graphics::Region::FromRect({0, 0, static_cast<float>(width), static_cast<float>(height)});
+    graphics::Region clip = graphics::Region::FromRect(RectOfSize(width, height));
     clip.Combine(selection, mode);
     DrawingContext context(canvas);
     context.SetPixelOffsetMode(graphics::PixelOffsetMode::HighQuality);
@@ -32,13 +32,13 @@ Bitmap DrawnWithin(const graphics::Region& selection, CombineMode mode, int widt
     return canvas;
 }
 
-}  // namespace
-
-RectF NormalizeRect(float x2, float y2, float x1, float y1) {
-    x2 = std::max(x2, 0.0F);
-    x1 = std::max(x1, 0.0F);
-    return {std::min(x1, x2), std::min(y1, y2), std::abs(x2 - x1), std::abs(y2 - y1)};
+RectI RoundedBounds(const graphics::Region& region) {
+    const RectF bounds = region.Bounds();
+    return {RoundToEven(bounds.X), RoundToEven(bounds.Y), RoundToEven(bounds.Width),
+            RoundToEven(bounds.Height)};
 }
+
+}  // namespace
 
 void Selection::Start() {
     shapeCount_ = 0;
@@ -55,21 +55,30 @@ void Selection::Clear() {
 void Selection::KeepOnPage(int pageWidth, int pageHeight) {
     if (!Exists())
         return;
-    region_.CombineRect({0, 0, static_cast<float>(pageWidth), static_cast<float>(pageHeight)},
-                        CombineMode::Intersect);
+    region_.CombineRect(RectOfSize(pageWidth, pageHeight), CombineMode::Intersect);
     if (region_.IsEmpty())
         Clear();
 }
 
 RectI Selection::Bounds() const {
-    const RectF bounds = region_.Bounds();
-    return {RoundToEven(bounds.X), RoundToEven(bounds.Y), RoundToEven(bounds.Width),
-            RoundToEven(bounds.Height)};
+    return RoundedBounds(region_);
 }
 
-void Selection::AddFrame(int x, int y, int startX, int startY, FrameShape shape) {
-    const RectF box = NormalizeRect(static_cast<float>(x), static_cast<float>(y),
-                                    static_cast<float>(startX), static_cast<float>(startY));
+bool Selection::IsOnPage(int pageWidth, int pageHeight) const {
+    return !CutToPage(pageWidth, pageHeight).IsEmpty();
+}
+
+// A selection that lies on the page keeps the bounds of its shape, which the cut would draw tight
+// around the pixels.
+graphics::Region Selection::CutToPage(int pageWidth, int pageHeight) const {
+    const RectI bounds = Bounds();
+    graphics::Region onPage = region_;
+    if (Intersect(bounds, {0, 0, pageWidth, pageHeight}) != bounds)
+        onPage.CombineRect(RectOfSize(pageWidth, pageHeight), CombineMode::Intersect);
+    return onPage;
+}
+
+void Selection::AddFrame(const RectF& box, FrameShape shape) {
     Path path(graphics::FillMode::Alternate);
     if (shape == FrameShape::Rectangle)
         path.AddRectangle(box);
@@ -111,20 +120,15 @@ void Selection::DrawShade(DrawingContext& scene, const RectF& page, PointF offse
 TakenOut Selection::TakeOut(Bitmap& image, int imageWidth, int imageHeight, int pageWidth,
                             int pageHeight, PointF place, bool cut, bool copy) const {
     const auto width = static_cast<float>(imageWidth), height = static_cast<float>(imageHeight);
+    graphics::Region selection = CutToPage(pageWidth, pageHeight);
     TakenOut result;
     if (copy) {
-        const Bitmap selected = DrawnWithin(region_, CombineMode::Intersect, pageWidth, pageHeight,
-                                            image, {place.X, place.Y, width, height});
-        RectI& area = result.Area;
-        area = Bounds();
-        // Without a look at the left and top: a selection that crosses the right or bottom edge of
-        // the page is refused (docs/oddities.md, "Over the page's edge").
-        area.Width = std::min(area.Width, pageWidth);
-        area.Height = std::min(area.Height, pageHeight);
-        result.Image = selected.CloneArea(area.X, area.Y, area.Width, area.Height);
+        const Bitmap selected = DrawnWithin(selection, CombineMode::Intersect, pageWidth,
+                                            pageHeight, image, {place.X, place.Y, width, height});
+        const RectI area = RoundedBounds(selection);
+        result = {selected.CloneArea(area.X, area.Y, area.Width, area.Height), area};
     }
     if (cut) {
-        graphics::Region selection = region_;
         selection.Translate(-place.X, -place.Y);
         const RectF natural{0, 0, static_cast<float>(image.Width()),
                             static_cast<float>(image.Height())};

@@ -10,15 +10,11 @@
 
 namespace orbelle::document {
 
-// The box between the press point (x1, y1) and the pointer (x2, y2) of a drag in any direction.
-// Horizontal coordinates below 0 count as 0; vertical ones don't (docs/oddities.md, "Left of 0").
-graphics::RectF NormalizeRect(float x2, float y2, float x1, float y1);
-
 enum class FrameShape { Rectangle = 0, Ellipse = 1 };
 
 // What TakeOut has copied.
 struct TakenOut {
-    graphics::Bitmap Image;  // empty: nothing was copied, or Area reaches beyond the page
+    graphics::Bitmap Image;  // empty: nothing was copied
     graphics::RectI Area;    // page pixels
 };
 
@@ -33,6 +29,8 @@ public:
     void KeepOnPage(int pageWidth, int pageHeight);
     // Whether anything was selected; shapes without a pixel count too.
     bool Exists() const { return shapeCount_ >= 1; }
+    // Whether a pixel of it lies on a page of that size.
+    bool IsOnPage(int pageWidth, int pageHeight) const;
 
     // What is selected, page pixels. The whole plane before the first shape; null: none was begun.
     const graphics::Region& Region() const { return region_; }
@@ -40,8 +38,8 @@ public:
     // The bounds of the selection, page pixels, each number rounded to nearest, ties to even.
     graphics::RectI Bounds() const;
     // Each adds one shape to the selection, the first one in place of the whole plane. Page pixels.
-    // The corners of a drag: (startX, startY) is where it began. An unknown shape adds no pixels.
-    void AddFrame(int x, int y, int startX, int startY, FrameShape shape);
+    // An unknown shape adds no pixels.
+    void AddFrame(const graphics::RectF& box, FrameShape shape);
     // Fewer than three points add no pixels.
     void AddPolygon(std::span<const graphics::PointF> points);
 
@@ -51,16 +49,15 @@ public:
     void DrawShade(graphics::DrawingContext& scene, const graphics::RectF& page,
                    graphics::PointF offset, double scale) const;
 
-    // Of a picture drawn imageWidth x imageHeight large at `place` on the page (page pixels).
-    // `copy` gives the selected pixels as a picture of the selection's bounds. It is refused, and
-    // the result's Image empty, when these begin off the page or end beyond it; Area is told
-    // anyway, its size limited to the page's. `cut`, done after, leaves in `image`, now imageWidth
-    // x imageHeight large, only what is not selected; nothing changes for a size no bitmap can
-    // have.
+    // Of a picture drawn imageWidth x imageHeight large at `place` on the page (page pixels). What
+    // is selected off the page does not count. `copy` gives the selected pixels as a picture of the
+    // selection's bounds. `cut`, done after, leaves in `image`, now imageWidth x imageHeight large,
+    // only what is not selected; nothing changes for a size no bitmap can have.
     TakenOut TakeOut(graphics::Bitmap& image, int imageWidth, int imageHeight, int pageWidth,
                      int pageHeight, graphics::PointF place, bool cut, bool copy) const;
 
 private:
+    graphics::Region CutToPage(int pageWidth, int pageHeight) const;
     void AddShape(const graphics::Path& path);
 
     graphics::Region region_;

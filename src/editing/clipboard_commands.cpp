@@ -102,12 +102,12 @@ void RemoveSelected(Editor& editor, steps::Name ofSelection, steps::Name ofLayer
 }  // namespace
 
 void CopyToClipboard(Editor& editor) {
-    if (editor.Page().HasSelection())
+    if (editor.Page().HasSelection() && !EndSelectionOffPage(editor))
         Put(editor, Copy(editor));
 }
 
 void CutToClipboard(Editor& editor) {
-    if (!editor.Page().HasSelection())
+    if (!editor.Page().HasSelection() || EndSelectionOffPage(editor))
         return;
     Copied copied = Copy(editor);
     RemoveSelected(editor, steps::Cut, steps::Cut);

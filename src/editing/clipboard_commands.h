@@ -1,5 +1,5 @@
-// Cut, copy, paste and delete. Each does nothing without a selected layer
-// unless said otherwise.
+// Cut, copy, paste and delete. Each does nothing without a selected layer, and only ends a
+// selection that has no pixel on the page, unless said otherwise.
 #pragma once
 
 #include "editing/editor.h"

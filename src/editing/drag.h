@@ -31,9 +31,7 @@ struct FrameSelectionDrag {
     graphics::PointF Press;  // brought onto the page
 };
 
-struct PolygonSelectionDrag {
-    graphics::PointF Press;  // brought onto the page
-};
+struct PolygonSelectionDrag {};
 
 // On a slider of the selected layer.
 struct OpacityDrag {};

@@ -82,6 +82,7 @@ void Ios(Editor& editor) {
     plate.Path = drawn.Path;
     plate.ClipNextLayer = true;
     filters::AntialiasEdge(plate.Image);
+    plate.Region = {};
     filters::RebuildRegion(plate.Region, plate.Image, {});
     editor.Selection.Clear();
     ShowStyle(editor);

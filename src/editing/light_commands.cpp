@@ -35,7 +35,7 @@ void Reflection(Editor& editor) {
         layer.Image = picture.Image;
     const float below = source.Rect.Height + source.Rect.Y;
     // Lower than the picture, which takes the margin into account
-    // (docs/oddities.md, "Regions of light and shade").
+    // (docs/oddities.md, "Region of a reflection").
     filters::RebuildRegion(layer.Region, layer.Image, {source.Rect.X, below});
     layer.Opacity = kReflectionOpacity;
     FillRect(layer, source.Rect.X, below - 2 * static_cast<float>(picture.Margin) + 1);
@@ -47,12 +47,11 @@ void Shade(Editor& editor) {
     if (!editor.Page().HasSelection())
         return;
     const auto [layer, source] = OpenOverlay(editor, steps::Shade);
-    // The region stays what making room left: that of the source
-    // (docs/oddities.md, "Regions of light and shade").
     if (!source.Image.IsEmpty())
         layer.Image = filters::GradientBlack(source.Image);
     layer.Opacity = kShadeOpacity;
     FillRect(layer, source.Rect.X, source.Rect.Y);
+    filters::RebuildRegion(layer.Region, layer.Image, {layer.Rect.X, layer.Rect.Y});
     ShowStyle(editor);
     editor.Changed.Tip = {tips::Shade};
 }
@@ -65,6 +64,7 @@ void DropShadow(Editor& editor) {
     const graphics::Bitmap picture = filters::Shadow(shadow.Image, kRadius);
     if (!picture.IsEmpty())
         shadow.Image = picture;
+    shadow.Region = {};
     shadow.Rect.X += 1;
     shadow.Rect.Y += 1;
     filters::RebuildRegion(shadow.Region, shadow.Image, {shadow.Rect.X, shadow.Rect.Y});

@@ -1,4 +1,6 @@
 // The scale slider.
+#include <algorithm>
+
 #include "editing/adjust_sliders.h"
 #include "editing/tips.h"
 #include "editing/undo_step.h"
@@ -12,11 +14,12 @@ using graphics::RectF;
 
 namespace {
 
-// The shorter side follows the longer one by the ratio of the present Rect, which drifts a little
-// over a long drag (docs/oddities.md, "Drifting proportions").
+constexpr int kSmallestSide = 1;
+
+// The longer side grows by `step`, the shorter one follows in proportion.
 void ScaleRect(RectF& rect, const RectF& start, int step) {
-    const double width = rect.Width;
-    const double height = rect.Height;
+    const double width = start.Width;
+    const double height = start.Height;
     if (width <= height && height != 0) {
         rect.Width = static_cast<float>(step * (width / height) + start.Width);
         rect.Height = static_cast<float>(step) + start.Height;
@@ -24,19 +27,21 @@ void ScaleRect(RectF& rect, const RectF& start, int step) {
         rect.Height = static_cast<float>(step * (height / width) + start.Height);
         rect.Width = static_cast<float>(step) + start.Width;
     }
+    rect.Width = std::max(rect.Width, float{kSmallestSide});
+    rect.Height = std::max(rect.Height, float{kSmallestSide});
 }
 
-// The picture drawn in the size of Rect; a size that no bitmap has leaves it as it is.
-void Resample(document::IconLayer& layer) {
-    Bitmap scaled(graphics::RoundToEven(layer.Rect.Width),
-                  graphics::RoundToEven(layer.Rect.Height));
+// The picture drawn anew, as large as the layer is now; a size that no bitmap has leaves it as it
+// is.
+void Resample(document::IconLayer& layer, int width, int height) {
+    Bitmap scaled(width, height);
     if (scaled.IsEmpty())
         return;
     graphics::DrawingContext context(scaled);
     context.SetInterpolationMode(graphics::InterpolationMode::HighQuality);
     context.SetPixelOffsetMode(graphics::PixelOffsetMode::HighQuality);
     context.DrawImageRect(CopyBitmap(layer.Image, layer.ImageWidth, layer.ImageHeight),
-                          {0, 0, layer.Rect.Width, layer.Rect.Height});
+                          {0, 0, static_cast<float>(width), static_cast<float>(height)});
     layer.Image = scaled;
 }
 
@@ -64,9 +69,13 @@ void ReleaseScale(Editor& editor) {
     if (!std::holds_alternative<ScaleDrag>(editor.Drag))
         return;
     document::IconLayer& layer = editor.Page().Selected();
-    Resample(layer);
-    layer.ImageWidth = graphics::RoundToEven(layer.Rect.Width);
-    layer.ImageHeight = graphics::RoundToEven(layer.Rect.Height);
+    const int width = std::max(graphics::RoundToEven(layer.Rect.Width), kSmallestSide);
+    const int height = std::max(graphics::RoundToEven(layer.Rect.Height), kSmallestSide);
+    Resample(layer, width, height);
+    layer.ImageWidth = width;
+    layer.ImageHeight = height;
+    layer.Rect.Width = static_cast<float>(width);
+    layer.Rect.Height = static_cast<float>(height);
     layer.ScaleValue = 0;
     layer.BaseRect = layer.Rect;
     Slider& slider = editor.Sliders.Scale;

@@ -29,6 +29,14 @@ void EndSelection(Editor& editor) {
     editor.Changed.Scene = true;
 }
 
+bool EndSelectionOffPage(Editor& editor) {
+    const document::Page& page = editor.Page();
+    if (!editor.Selection.Exists() || editor.Selection.IsOnPage(page.Width, page.Height))
+        return false;
+    EndSelection(editor);
+    return true;
+}
+
 IconLayer CopyOfSelectedPixels(const Editor& editor) {
     const IconLayer& source = editor.Page().Selected();
     Bitmap image = source.Image;
@@ -47,7 +55,7 @@ void DeleteSelection(Editor& editor) {
 }
 
 void RemoveSelection(Editor& editor, steps::Name step) {
-    if (!editor.Page().HasSelection())
+    if (!editor.Page().HasSelection() || EndSelectionOffPage(editor))
         return;
     IconLayer& layer = editor.Page().Selected();
     Bitmap rest = layer.Image;
@@ -71,11 +79,10 @@ void FloatSelection(Editor& editor) {
     IconLayer& layer = page.Selected();
     IconLayer& below = page.Layers[static_cast<std::size_t>(page.SelectedLayer) - 1];
     below.Image = rest;
-    // What lies partly off the page is lost: the layer stays blank
-    // (docs/oddities.md, "Over the page's edge").
-    if (!floated.Image.IsEmpty())
-        layer.Image = floated.Image;
+    layer.Image = floated.Image;
     document::PlaceAt(layer, floated.Area);
+    layer.BaseRect = layer.Rect;
+    filters::RebuildRegion(layer.Region, layer.Image, {layer.Rect.X, layer.Rect.Y});
     layer.Opacity = below.Opacity;
     editor.Selection.Clear();
     ShowSelectedLayer(editor);

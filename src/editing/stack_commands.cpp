@@ -1,10 +1,13 @@
 #include "editing/stack_commands.h"
 
 #include <algorithm>
+#include <cmath>
+#include <utility>
 
 #include "editing/slider_positions.h"
 #include "editing/undo_step.h"
 #include "filters/create_region.h"
+#include "filters/round_shape.h"
 #include "graphics/drawing_context.h"
 #include "graphics/errors.h"
 #include "graphics/rotate_flip.h"
@@ -89,6 +92,27 @@ graphics::RotateFlipType TypeOf(FlipRotate mode) {
     return graphics::RotateFlipType::Rotate90FlipNone;
 }
 
+bool IsQuarterTurn(FlipRotate mode) {
+    return mode == FlipRotate::Rotate90Cww || mode == FlipRotate::Rotate90Cw;
+}
+
+bool IsSquare(const IconLayer& layer) {
+    return layer.ImageWidth == layer.ImageHeight && layer.Rect.Width == layer.Rect.Height;
+}
+
+// What is drawn turns around the middle of its place. Pixels beyond it would turn into sight.
+void TurnPlace(IconLayer& layer) {
+    const Bitmap drawn = CopyBitmap(layer.Image, layer.ImageWidth, layer.ImageHeight);
+    if (!drawn.IsEmpty())
+        layer.Image = drawn;
+    std::swap(layer.ImageWidth, layer.ImageHeight);
+    const auto [x, y, width, height] = layer.Rect;
+    const double half = (double{width} - height) / 2;
+    layer.Rect = {static_cast<float>(std::floor(x + half)),
+                  static_cast<float>(std::floor(y - half)), height, width};
+    layer.BaseRect = layer.Rect;
+}
+
 void EraseSelected(document::Page& page) {
     page.Layers.erase(page.Layers.begin() + page.SelectedLayer);
     page.SelectedLayer =
@@ -101,6 +125,13 @@ void DrawLayer(graphics::DrawingContext& context, const IconLayer& layer, const 
     context.DrawImageRectRectI(layer.Image, document::DrawnArea(place),
                                {0, 0, layer.ImageWidth, layer.ImageHeight},
                                {graphics::OpacityMatrix(layer.Opacity)});
+}
+
+// The plate as the page's composition has it, in the coordinates of `bounds`.
+graphics::Path PlateWithin(const RectF& bounds, const IconLayer& plate) {
+    return filters::IosPlatePath(graphics::RoundToEven(plate.Rect.Width),
+                                 graphics::RoundToEven(plate.Rect.Height), plate.Rect.X - bounds.X,
+                                 plate.Rect.Y - bounds.Y);
 }
 
 // Both layers as they look on the page, the boxes of both as a whole, also where they leave it.
@@ -122,11 +153,15 @@ IconLayer Merged(const IconLayer& upper, const IconLayer& lower) {
     context.SetInterpolationMode(graphics::InterpolationMode::NearestNeighbor);
     context.SetPixelOffsetMode(graphics::PixelOffsetMode::HighQuality);
     DrawLayer(context, lower, bounds);
+    if (lower.ClipNextLayer)
+        context.SetClipPath(PlateWithin(bounds, lower), graphics::CombineMode::Intersect);
     DrawLayer(context, upper, bounds);
 
     merged.Opacity = 1;
     merged.ScaleValue = 0;
     merged.Visible = true;
+    merged.Path = {};
+    merged.ClipNextLayer = false;
     // A layer that nothing was drawn on yet has no region to unite with.
     if (merged.Region.IsNull())
         merged.Region = upper.Region;
@@ -151,6 +186,8 @@ void FlipRotateLayer(Editor& editor, FlipRotate mode) {
         return;
     BeginUndoStep(editor, StepOf(mode));
     IconLayer& layer = editor.Page().Selected();
+    if (IsQuarterTurn(mode) && !IsSquare(layer))
+        TurnPlace(layer);
     ImageRotateFlip(layer.Image, TypeOf(mode));
     filters::RebuildRegion(layer.Region, layer.Image, {layer.Rect.X, layer.Rect.Y});
     NoteStack(editor.Changed);

@@ -15,8 +15,8 @@ void SetLayerOrder(Editor& editor, LayerOrder order);
 
 enum class FlipRotate { FlipHorizontal = 0, FlipVertical = 1, Rotate90Cww = 2, Rotate90Cw = 3 };
 
-// Rotate90Cww mirrors too, and a rotation leaves Rect, ImageWidth and ImageHeight as they are
-// (docs/oddities.md, "Quarter turns").
+// A picture or place that is not square turns around the middle of Rect, whose corner is rounded
+// down to whole page pixels. Rotate90Cww mirrors too (docs/oddities.md, "Quarter turns").
 void FlipRotateLayer(Editor& editor, FlipRotate mode);
 
 // Removes the selected layer and selects the one below it (the lowest when there is none).
@@ -24,8 +24,9 @@ void DeleteLayer(Editor& editor);
 // The same as a step of another name.
 void RemoveLayer(Editor& editor, steps::Name step);
 
-// The selected layer and the one below it become one. Needs a layer below. Two undo steps
-// (docs/oddities.md, "Two undo steps"). Throws Error for layers too far apart for one picture.
+// The selected layer and the one below it become one; a plate cuts it a last time. Needs a layer
+// below. Two undo steps (docs/oddities.md, "Two undo steps"). Throws Error for layers too far apart
+// for one picture.
 void MergeDown(Editor& editor);
 
 }  // namespace orbelle::editing

@@ -51,7 +51,7 @@ TEST_F(Commands, NameTheirStepsForUndoAndRedo) {
     };
     const auto selected = [](const Command& command) {
         return [=](Editor& e) {
-            e.Selection.AddFrame(5, 6, 9, 9, document::FrameShape::Rectangle);
+            e.Selection.AddFrame({5, 6, 4, 3}, document::FrameShape::Rectangle);
             command(e);
         };
     };
@@ -93,6 +93,20 @@ TEST_F(Commands, NameTheirStepsForUndoAndRedo) {
     }
 }
 
+TEST_F(Commands, MergingIntoAPlateKeepsWhatIsSeen) {
+    PutOnlyLayer(FilledPicture(24, 20, 0xFFC08040), 5, -3).Opacity = 0.7F;
+    Do(Ios);
+    Layer(0).Rect = {2, -1, 18, 17};
+    Show();
+    Do(SelectLayer, 1);
+    const graphics::Bitmap before = editor.Canvas;
+    EXPECT_EQ(before.GetPixel(21, 5), 0U) << "beside the plate";
+    Do(MergeDown);
+    EXPECT_TRUE(testing::SamePixels(editor.Canvas, before));
+    EXPECT_FALSE(Layer(0).ClipNextLayer);
+    EXPECT_TRUE(editor.States.IsEnabled(CommandId::Cut));
+}
+
 // Also where a document came with more layers, or the history has no room.
 TEST_F(Commands, A102ndLayerIsRefusedWithNothingChanged) {
     Do(CopyToClipboard);
@@ -106,7 +120,7 @@ TEST_F(Commands, A102ndLayerIsRefusedWithNothingChanged) {
     const std::string refusal = "A document can't have more than 101 layers.";
     for (const int layers : {101, 150}) {
         editor.Page().Layers.resize(static_cast<std::size_t>(layers), Layer(2));
-        editor.Selection.AddFrame(5, 6, 9, 9, document::FrameShape::Rectangle);
+        editor.Selection.AddFrame({5, 6, 4, 3}, document::FrameShape::Rectangle);
         Show();
         const std::string before = testing::AccountOf(editor) + testing::AccountOf(recorder.Copied);
         for (const auto& [name, run] : adders) {

@@ -129,7 +129,7 @@ TEST_F(PageCommands, ALargePageThatWasOpenedKeepsItsSizeAsTheSlidersEnd) {
 
 TEST_F(PageCommands, ScrollBarsAndSelectionFollowThePage) {
     SetZoom(1);
-    editor.Selection.AddFrame(20, 18, 4, 6, document::FrameShape::Rectangle);
+    editor.Selection.AddFrame({4, 6, 16, 12}, document::FrameShape::Rectangle);
     const auto selected = [this] { return PixelRuns(editor.Selection.Region().Rects()); };
     Do(SetPageSize, 10, 12);
     Do(SetPageSize, 400, 12);
@@ -149,7 +149,7 @@ TEST_F(PageCommands, ScrollBarsAndSelectionFollowThePage) {
     Do(Redo);
     EXPECT_EQ(selected(), "6-11: 4-9");
     editor.Selection.Start();
-    editor.Selection.AddFrame(300, 9, 200, 6, document::FrameShape::Rectangle);
+    editor.Selection.AddFrame({200, 6, 100, 3}, document::FrameShape::Rectangle);
     Do(Undo);
     EXPECT_FALSE(editor.Selection.Exists());
 }

@@ -78,7 +78,7 @@ TEST_F(RunTest, AFailureLeavesEverythingAsItWas) {
          {FlipRotate::FlipHorizontal, FlipRotate::Rotate90Cw, FlipRotate::FlipVertical})
         Do(FlipRotateLayer, mode);
     Do(Undo);
-    editor.Selection.AddFrame(8, 9, 4, 5, document::FrameShape::Rectangle);
+    editor.Selection.AddFrame({4, 5, 4, 4}, document::FrameShape::Rectangle);
     Show();
     std::vector<NamedCommand> commands = LayerCommands();
     commands.insert(

@@ -16,7 +16,7 @@ protected:
     ToolPalette() { OpenPage(40, 30); }
 
     void SelectSomething() {
-        editor.Selection.AddFrame(4, 4, 0, 0, document::FrameShape::Rectangle);
+        editor.Selection.AddFrame({0, 0, 4, 4}, document::FrameShape::Rectangle);
     }
     const ToolSettings& Tools() const { return editor.Tools; }
 };

@@ -388,7 +388,7 @@ void Use(Desk& desk) {
 void SelectPixels(Desk& desk) {
     desk.Do([](Editor& editor) {
         editor.Selection.Start();
-        editor.Selection.AddFrame(8, 9, 2, 3, document::FrameShape::Ellipse);
+        editor.Selection.AddFrame({2, 3, 6, 6}, document::FrameShape::Ellipse);
     });
 }
 

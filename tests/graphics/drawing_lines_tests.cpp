@@ -195,12 +195,13 @@ TEST_F(DrawingLinesTest, ClipsCutPixelByPixel) {
     }
 }
 
-// Along the edge of its own path only the inner half, and of that not the right and bottom rim.
 TEST_F(DrawingLinesTest, AGradientOutlinesItsOwnPath) {
-    const Brush around = *CreatePathGradientFromPath(testing::RectanglePath({4, 4, 8, 8}), kBlack,
-                                                     {8, 8}, 0xFF0000FF);
-    EXPECT_EQ(Polygon({around, 1}, {{4, 4}, {12, 4}, {12, 12}, {4, 12}}), "4: 4-11; 5-11: 4");
-    EXPECT_EQ(bitmap_.GetPixel(6, 4), 0xFF0000FFU);
+    const Brush around =
+        PathGradientBrush{testing::RectanglePath({4, 4, 8, 8}), kBlack, {8, 8}, 0xFF0000FF};
+    EXPECT_EQ(Polygon({around, 1}, {{4, 4}, {12, 4}, {12, 12}, {4, 12}}),
+              "4: 4-12; 5-11: 4 12; 12: 4-12");
+    for (const auto& [x, y] : {std::pair{6, 4}, {4, 6}, {12, 6}, {6, 12}})
+        EXPECT_EQ(bitmap_.GetPixel(x, y), 0xFF0000FFU);
 }
 
 // The pixels from which a line goes on to no more than one neighbour; a closed one has none.

@@ -1,6 +1,7 @@
 #include "editing/tools/draw_shape.h"
 
 #include <algorithm>
+#include <functional>
 #include <optional>
 
 #include "editing/scene_mapping.h"
@@ -40,24 +41,24 @@ bool IsRectangle(Tool tool) {
     return tool == Tool::Rectangle || tool == Tool::FilledRectangle;
 }
 
-std::optional<Brush> RadialBrush(const ShapeBox& box, Tool tool, Argb centre, Argb surround) {
-    const float width = box.Width - 2, height = box.Height - 2;
+// Around the middle of the shape's box, to its edges; a line's to those of a square.
+Brush RadialBrush(const ShapeBox& box, Tool tool, Argb centre, Argb surround) {
     Path outline(FillMode::Winding);
     if (tool == Tool::Line) {
-        const float side = std::max(width, height);
+        const float side = std::max(box.Width, box.Height);
         outline.AddRectangle({box.Left, box.Top, side, side});
     } else if (IsRectangle(tool)) {
-        outline.AddRectangle({box.Anchor.X, box.Anchor.Y, width, height});
+        outline.AddRectangle({box.Left, box.Top, box.Width, box.Height});
     } else {
-        outline.AddEllipse({box.Left, box.Top, width, height});
+        outline.AddEllipse({box.Left, box.Top, box.Width, box.Height});
     }
     const auto half = [](float side) { return static_cast<float>(RoundToEven(side) / 2); };
-    return CreatePathGradientFromPath(
-        outline, centre, {box.Anchor.X + half(width), box.Anchor.Y + half(height)}, surround);
+    return PathGradientBrush{
+        outline, centre, {box.Left + half(box.Width), box.Top + half(box.Height)}, surround};
 }
 
-// The gradients begin at the press and run from the foreground to the background colour, whichever
-// is in use.
+// The gradients run from the foreground to the background colour, whichever is in use, and the
+// linear ones begin at the press.
 std::optional<Brush> MakeBrush(const Editor& editor, const ShapeBox& box) {
     const Argb foreground = editor.Tools.Colors[0], background = editor.Tools.Colors[1];
     const auto linear = [&](RectF rect, LinearGradientMode mode) {
@@ -77,6 +78,15 @@ std::optional<Brush> MakeBrush(const Editor& editor, const ShapeBox& box) {
             return RadialBrush(box, editor.Tools.InUse, foreground, background);
     }
     return SolidBrush{editor.Tools.ActiveColor == 0 ? foreground : background};
+}
+
+// Equal points draw nothing: a stroke that stays on one pixel is drawn to another place on it.
+void DrawFreehand(DrawingContext& context, const Pen& pen, std::vector<PointF> points) {
+    constexpr float kDotLength = 0.449F;
+    if (std::adjacent_find(points.begin(), points.end(), std::not_equal_to()) == points.end() &&
+        !points.empty())
+        points.push_back({points.front().X + kDotLength, points.front().Y + kDotLength});
+    context.DrawLines(pen, points);
 }
 
 }  // namespace
@@ -102,7 +112,7 @@ void DrawShape(const Editor& editor, const StrokeDrag& drag, Bitmap& image, cons
     const RectF outline{box.Left, box.Top, box.Width - 1, box.Height - 1};
     switch (tool) {
         case Tool::Pencil:
-            return context.DrawLines(pen, drag.Freehand);
+            return DrawFreehand(context, pen, drag.Freehand);
         case Tool::Line:
             return context.DrawLine(pen, box.Start, box.End);
         case Tool::Rectangle:

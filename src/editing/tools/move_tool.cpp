@@ -34,7 +34,7 @@ void Pick(Editor& editor, const Pointer& pointer) {
 }
 
 void Press(Editor& editor, const Pointer& pointer) {
-    if (editor.Selection.Exists())
+    if (editor.Selection.Exists() && !EndSelectionOffPage(editor))
         FloatSelection(editor);
     if (editor.Page().HasSelection())
         StartDrag(editor, pointer);

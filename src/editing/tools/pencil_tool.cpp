@@ -1,18 +1,21 @@
-// Draws freehand, one pixel wide. The line through all points is drawn anew at each move.
+// Draws freehand, one pixel wide. The line from the press through all points is drawn anew at each
+// move.
 #include "editing/scene_mapping.h"
 #include "editing/tools/stroke.h"
 
 namespace orbelle::editing {
 namespace {
 
-// Makes the second point of a click: two equal ones would draw nothing.
-constexpr double kClickLength = 0.449;
+void AddPoint(Editor& editor, const Pointer& pointer) {
+    std::get<StrokeDrag>(editor.Drag)
+        .Freehand.push_back(
+            ScreenToLayer(MappingOf(editor), editor.Page().Selected().Rect, pointer.X, pointer.Y));
+}
 
-graphics::PointF AddPoint(Editor& editor, const Pointer& pointer) {
-    const graphics::PointF pixel =
-        ScreenToLayer(MappingOf(editor), editor.Page().Selected().Rect, pointer.X, pointer.Y);
-    std::get<StrokeDrag>(editor.Drag).Freehand.push_back(pixel);
-    return pixel;
+void Press(Editor& editor, const Pointer& pointer) {
+    BeginStroke(editor, pointer);
+    if (editor.Page().HasSelection())
+        AddPoint(editor, pointer);
 }
 
 void Move(Editor& editor, Pointer& pointer) {
@@ -21,16 +24,12 @@ void Move(Editor& editor, Pointer& pointer) {
 }
 
 AfterRelease Release(Editor& editor, const Pointer& pointer) {
-    const graphics::PointF pixel = AddPoint(editor, pointer);
-    auto& points = std::get<StrokeDrag>(editor.Drag).Freehand;
-    if (points.size() == 1)
-        points.push_back({static_cast<float>(pixel.X + kClickLength),
-                          static_cast<float>(pixel.Y + kClickLength)});
+    AddPoint(editor, pointer);
     return CommitStroke(editor, pointer);
 }
 
 }  // namespace
 
-const ToolHandlers kPencilTool = {BeginStroke, Move, Release};
+const ToolHandlers kPencilTool = {Press, Move, Release};
 
 }  // namespace orbelle::editing

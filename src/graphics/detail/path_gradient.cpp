@@ -52,24 +52,26 @@ private:
     bool isFlat_;
 };
 
-// Sets the pixels of `area` that no run covers to 0; the runs come by y and then x.
-void ClearOutside(std::vector<Argb>& colors, const RectI& area, const std::vector<RectI>& runs) {
-    auto cleared = colors.begin();
+// Sets the pixels of `area` that no run covers to `color`; the runs come by y and then x.
+void FillOutside(std::vector<Argb>& colors, Argb color, const RectI& area,
+                 const std::vector<RectI>& runs) {
+    auto filled = colors.begin();
     for (const RectI& run : runs) {
         const auto first = colors.begin() +
                            static_cast<std::ptrdiff_t>(run.Y - area.Y) * area.Width +
                            (run.X - area.X);
-        std::fill(cleared, first, 0);
-        cleared = first + run.Width;
+        std::fill(filled, first, color);
+        filled = first + run.Width;
     }
-    std::fill(cleared, colors.end(), 0);
+    std::fill(filled, colors.end(), color);
 }
 
 }  // namespace
 
 std::vector<Argb> PathGradientBrush::ColorsOf(const RectI& area, double offset) const {
-    std::vector<Argb> colors(static_cast<std::size_t>(area.Width) * area.Height);
     const std::vector<Argb> table = ColorTable(CenterColor, SurroundColor);
+    const Argb surround = table.back();
+    std::vector<Argb> colors(static_cast<std::size_t>(area.Width) * area.Height, surround);
     const std::vector<FlatFigure> figures = Outline.Flatten();
     std::vector<RectI> runs;
     for (const FlatFigure& figure : figures) {
@@ -92,16 +94,8 @@ std::vector<Argb> PathGradientBrush::ColorsOf(const RectI& area, double offset) 
         }
     }
     // Triangles to a centre outside the outline reach beyond it.
-    ClearOutside(colors, area, PixelsInside(figures, Outline.Fill(), offset, area));
+    FillOutside(colors, surround, area, PixelsInside(figures, Outline.Fill(), offset, area));
     return colors;
-}
-
-std::optional<PathGradientBrush> CreatePathGradientFromPath(const Path& path, Argb centerColor,
-                                                            PointF centerPoint,
-                                                            Argb surroundColor) {
-    if (path.IsEmpty())
-        return std::nullopt;
-    return PathGradientBrush{path, centerColor, centerPoint, surroundColor};
 }
 
 }  // namespace orbelle::graphics

@@ -1,7 +1,6 @@
 // A gradient from a point to the outline around it.
 #pragma once
 
-#include <optional>
 #include <vector>
 
 #include "graphics/color.h"
@@ -11,8 +10,8 @@
 namespace orbelle::graphics {
 
 // At a point P of the ray from CenterPoint C to the outline's point Q, |CP| / |CQ| of the way from
-// CenterColor to SurroundColor, premultiplied. Nothing is painted outside the outline, whose right
-// and bottom edges count as outside.
+// CenterColor to SurroundColor, premultiplied. Outside the outline, whose right and bottom edges
+// count as outside, SurroundColor goes on.
 struct PathGradientBrush {
     Path Outline;
     Argb CenterColor = 0;
@@ -20,14 +19,9 @@ struct PathGradientBrush {
     Argb SurroundColor = 0;
 
     // The straight colours of the pixels of `area`, row by row: at the pixel's centre (x + offset,
-    // y + offset), 0 where nothing is painted. Where a ray meets the outline more than once, the
-    // last edge in the outline's order counts. Figures or centres that are not finite paint
-    // nothing.
+    // y + offset). Where a ray meets the outline more than once, the last edge in the outline's
+    // order counts. Figures or centres that are not finite count as an empty outline.
     std::vector<Argb> ColorsOf(const RectI& area, double offset) const;
 };
-
-// No brush when the path is empty.
-std::optional<PathGradientBrush> CreatePathGradientFromPath(const Path& path, Argb centerColor,
-                                                            PointF centerPoint, Argb surroundColor);
 
 }  // namespace orbelle::graphics

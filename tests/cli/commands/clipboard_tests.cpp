@@ -47,8 +47,9 @@ TEST_F(ClipboardCommands, WithASelection) {
            {"the key", "key delete", rest + "widths 84, undo 1"},
            {"the Move tool lifts it off in two steps", "tool move click 2 1",
             "2/" + selected + rest +
-                "widths 842, selected 2, 2/rect 2 0 2 2, 2/image 2 2, 2/opacity 0.5, 2/hue 0, "
-                "2/region 0 1 4 3, page@2,1 80000001, selection null, slider/opacity 50, undo 2"}});
+                "widths 842, selected 2, 2/rect 2 0 2 2, 2/base_rect 2 0 2 2, 2/image 2 2, "
+                "2/opacity 0.5, 2/hue 0, 2/region 1 1 2 1, page@2,1 80000001, selection null, "
+                "slider/opacity 50, undo 2"}});
     Check({
         {"out of the top layer when none is selected",
          "open dots.volf tool move click 7 7 tool select-rectangle drag 2 0 3 1 "
@@ -56,14 +57,19 @@ TEST_F(ClipboardCommands, WithASelection) {
          "2/" + selected + rest + "widths 842"},
         {"cutting ends a scale", "open wide.volf tool select-rectangle drag 2 0 3 1 cut",
          "1/rect 1 1 4 3, 1/image 4 3"},
-        // A selection that begins left of the right edge and ends beyond it.
-        {"beyond the page nothing is copied",
-         "open dots.volf tool select-rectangle drag 3 1 7 1 page 6 8 copy paste",
-         "clipboard/pixels , 2/size 0 0, 2/rect 3 1 5 1, undo 2"},
-        {"and what is lifted off is lost",
-         "open dots.volf tool select-rectangle drag 3 1 7 1 page 6 8 tool move click 0 7",
-         "2/pixels , 2/size 6 8, 2/rect 3 1 5 1, 2/image 5 1, 1@1,0 FF000001, 1@2,0 00000000"},
     });
+    const std::string across = "open dots.volf tool select-rectangle drag 3 1 7 1 page 4 8 ";
+    Check(across, "1@1,0 FF000001, 1@3,0 FF000003, ",
+          {{"of a selection over the page's edge what lies on it is copied", "copy paste",
+            "clipboard/argb FF000002, 2/argb FF000002, 2/rect 3 1 1 1, 1@2,0 FF000002, undo 2"},
+           {"cut", "cut", "clipboard/argb FF000002, 1@2,0 00000000, undo 2"},
+           {"and lifted off", "tool move click 0 7",
+            "2/argb FF000002, 2/rect 3 1 1 1, 2/image 1 1, 1@2,0 00000000, undo 3"}});
+    Check(across + "page 2 8 ", "widths 84, selection null, undo 2, clipboard/size 0 0, selected ",
+          {{"off the page nothing is copied", "copy", "1"},
+           {"nor cut", "cut", "1"},
+           {"nor deleted", "delete", "1"},
+           {"nor lifted off", "tool move click 0 7", "-1"}});
 }
 
 TEST_F(ClipboardCommands, WholeLayers) {

@@ -20,8 +20,7 @@ protected:
     const std::string open = "new 40 30 foreground #336699 background-colour #C08040 tool ";
 };
 
-// A box is one pixel larger, up and to the left, than the drag; the pencil's line begins at the
-// first move, not at the press.
+// A box is one pixel larger, up and to the left, than the drag.
 TEST_F(DrawingTools, HardEdges) {
     Check(open, "undo 1, 0/pixels ",
           {{"a click", "filled-rectangle click 10 5", "4-5: 9-10"},
@@ -34,17 +33,18 @@ TEST_F(DrawingTools, HardEdges) {
            {"wide", "rectangle line-width 3 drag 14 9 10 5",
             "3-5: 8-15; 6-7: 8-10 13-15; 8-10: 8-15"},
            {"the pencil takes no width", "line line-width 9 tool pencil click 20 17", "17: 20"},
-           {"one move", "pencil drag 2 2 8 2", ""},
-           {"freehand", "pencil drag 1 1 2 2 8 2 8 4", "2: 2-8; 3-4: 8"},
-           {"resting moves are dropped", "pencil drag 2 2 5 2 5 2 6 2", "2: 5-6"},
+           {"one move", "pencil drag 2 2 8 2", "2: 2-8"},
+           {"freehand", "pencil drag 1 1 2 2 8 2 8 4", "1: 1; 2: 2-8; 3-4: 8"},
+           {"resting moves are dropped", "pencil drag 2 2 5 2 5 2 6 2", "2: 2-6"},
            {"a line without extent", "line click 5 5", ""},
            {"beside the page", "pencil click -1 3", ""},
-           // A gradient without extent draws nothing.
+           // A linear gradient without extent draws nothing.
            {"no width", "filled-rectangle fill horizontal drag 10 5 10 9", ""},
            {"no width", "line fill horizontal drag 10 5 10 9", ""},
            {"no height", "rectangle fill vertical drag 10 5 15 5", ""},
-           {"no height", "filled-rectangle fill radial drag 10 5 15 5", ""},
-           {"neither", "filled-ellipse fill radial click 10 5", ""}});
+           {"a radial one does", "filled-rectangle fill radial drag 10 5 15 5", "4-5: 9-15"},
+           {"all round", "rectangle fill radial drag 18 18 10 10",
+            "9: 9-18; 10-17: 9 18; 18: 9-18"}});
 }
 
 TEST_F(DrawingTools, SmoothEdges) {
@@ -82,12 +82,18 @@ TEST_F(DrawingTools, Gradients) {
          {"outline", "rectangle fill horizontal drag 10 5 14 7", "@9,4~2 0 50 100 150 200 150"},
          {"a line", "line line-width 3 fill horizontal drag 9 4 13 4", "@10,4~2 100 150 200"},
          {"a line down", "line line-width 3 fill vertical drag 9 4 9 8", "|9,5~2 100 150 200"},
-         // Its ellipse is that of the drag, two pixels smaller than the shape: (9, 9, 8, 8)
-         // around (13, 13). Beyond it nothing is painted.
+         // The shape's box is (9, 9, 10, 10) and its middle (14, 14), whichever way it is dragged.
          {"from the middle", "filled-ellipse fill radial drag 10 10 18 18",
-          "@10,13~3 150 100 50 0 50 100 150, 0/reds|13,10~3 150 100 50 0 50 100 150, "
-          "0@18,13 00000000, 0@13,18 00000000"},
-         {"of a rectangle", "filled-rectangle fill radial drag 10 10 18 18", "@13,13~3 0"},
+          "@9,14~3 200 160 120 80 40 0 40 80 120 160 200, "
+          "0/reds|14,9~3 200 160 120 80 40 0 40 80 120 160 200"},
+         {"and back", "filled-ellipse fill radial drag 18 18 10 10",
+          "@9,14~3 200 160 120 80 40 0 40 80 120 160 200"},
+         {"of a rectangle", "filled-rectangle fill radial drag 18 10 10 18",
+          "@9,14~3 200 160 120 80 40 0 40 80 120 160 -1, 0/reds@9,9~3 200 200 200 200"},
+         {"the outline lies half beyond", "ellipse line-width 4 fill radial drag 10 10 18 18",
+          "@7,14~3 200 200 200 160"},
+         {"of a line", "line line-width 3 fill radial drag 17 4 9 4",
+          "@9,4~3 160 120 80 40 0 40 80 120 160"},
          {"the pencil has none", "pencil fill vertical click 3 3", "@3,3 200"}});
 }
 

@@ -38,6 +38,7 @@ TEST_F(HandOnTheScene, PicksTheTopmostVisibleLayerByItsRegion) {
     Check({
         {"hidden layers are not picked", "open hidden.volf click 10 6", "selected 0"},
         {"with none visible the selection stays", "open none.volf click 39 6", "selected 0"},
+        {"nor an empty layer", "open two.volf add-layer click 10 6", "selected 1"},
         {"a pick shows the layer's sliders",
          "open two.volf select 0 opacity 25 hue 33 select 1 click 20 20",
          "slider/opacity 25, slider/hue 33, slider/scale 50"},
@@ -80,20 +81,19 @@ TEST_F(HandOnTheScene, DragsAndKeysMoveALayer) {
            {"the other button is the menu's", "tool pencil right-click 1 1", "0, selected 1"}});
 }
 
-// The end of a drag has 1 added: a drag to the left or up begins one pixel further, and leaves out
-// the pixel of the press.
+// Both corners included, whichever way the drag goes.
 TEST_F(HandOnTheScene, Selects) {
     Check("new 40 30 tool select-rectangle ", "undo 0, selection/runs ",
           {{"to the lower right", "drag 5 4 9 8", "4-8: 5-9"},
-           {"to the upper left", "drag 9 8 5 4", "5-7: 6-8"},
-           {"to the upper right", "drag 5 8 9 4", "5-7: 5-9"},
-           {"to the lower left", "drag 9 4 5 8", "4-8: 6-8"},
-           {"beyond the left", "drag 5 4 -9 4", "4: 1-4"},
+           {"to the upper left", "drag 9 8 5 4", "4-8: 5-9"},
+           {"to the upper right", "drag 5 8 9 4", "4-8: 5-9"},
+           {"to the lower left", "drag 9 4 5 8", "4-8: 5-9"},
+           {"beyond the left", "drag 5 4 -9 4", "4: 0-5"},
            {"from beyond", "drag -9 -9 2 1", "0-1: 0-2"},
-           {"from beyond the right: column 40", "drag 70 4 30 5", "4-5: 31-39"},
+           {"beyond the top", "drag 5 4 5 -9", "0-4: 5"},
+           {"from beyond the right", "drag 70 4 30 5", "4-5: 30-39"},
            {"to the page's end", "drag 5 4 70 60", "4-29: 5-39"},
-           // Below the page a press begins as far from its top as the page is wide.
-           {"from below", "drag 5 35 9 8", "9-39: 5-9"},
+           {"from below", "drag 5 35 9 8", "8-29: 5-9"},
            {"zoomed", "zoom 4 drag 1 1 3 2", "1-2: 1-3"},
            {"again", "drag 5 4 9 8 drag 1 1 2 2", "1-2: 1-2"},
            {"united", "drag 5 4 9 8 shift-drag 10 4 12 8 shift-drag 20 10 22 12",
@@ -106,6 +106,8 @@ TEST_F(HandOnTheScene, Selects) {
     Check("new 40 30 tool select-rectangle drag 0 0 3 3 tool select-polygon ", "selection/runs ",
           {{"a polygon in place of the selection",
             "click 5 5 click 15 5 click 15 12 right-click 30 20",
+            "5: 5-14; 6: 7-14; 7: 8-14; 8: 10-14; 9: 11-14; 10: 13-14; 11: 14"},
+           {"dragged", "drag 5 5 15 5 15 12 right-click 30 20",
             "5: 5-14; 6: 7-14; 7: 8-14; 8: 10-14; 9: 11-14; 10: 13-14; 11: 14"},
            {"and united",
             "shift-click 5 5 shift-click 8 5 shift-click 8 8 shift-click 5 8 right-click 1 1",

@@ -19,6 +19,9 @@ protected:
         for (unsigned i = 0; i < 6; ++i)
             abc.SetPixel(i % 3, i / 3, i == 2 ? 0x0000000C : 0xFF00000A + i);
         WriteDocument("abc.volf", 32, 32, {{abc, {10, 20, 3, 2}}});
+        WriteDocument("scaled.volf", 32, 32,
+                      {{abc.CloneArea(0, 0, 2, 1), {0.25F, 0.25F, 5.5F, 3}}});
+        WriteDocument("square.volf", 32, 32, {{FilledPicture(2, 2, kBlue), {4.5F, 4, 2, 2}}});
         // One pixel drawn as 2 x 3, partly above the page, over a square.
         WriteDocument("merge.volf", 8, 8,
                       {{FilledPicture(8, 8, 0), {}},
@@ -39,20 +42,32 @@ TEST_F(StackCommands, OrderFlipAndTurn) {
            {"one forward", "select 1 order forward", "widths 1324, selected 2, slider/opacity 20"},
            {"a step after undo forgets what lay ahead", "order back undo select 1 order backward",
             "widths 2134, redo 0"}});
-    // Turns leave the place and the size; the region is that of the turned picture.
     Check("open abc.volf ", "undo 1, 0/rect 10 20 3 2, 0/image 3 2, ",
           {{"flip", "flip horizontal",
             "0/argb 0000000C FF00000B FF00000A FF00000F FF00000E FF00000D, "
             "0/runs 20: 10-11; 21: 9-11"},
            {"flip over", "flip vertical",
             "0/argb FF00000D FF00000E FF00000F FF00000A FF00000B 0000000C, "
-            "0/runs 20: 9-11; 21: 9-10"},
-           {"turn", "rotate cw",
-            "0/argb FF00000D FF00000A FF00000E FF00000B FF00000F 0000000C, 0/size 2 3, "
-            "0/runs 20-21: 9-10; 22: 9"},
+            "0/runs 20: 9-11; 21: 9-10"}});
+    // Around the middle of (10, 20, 3, 2): 10 + 0.5 and 20 - 0.5, fractions dropped downwards.
+    Check("open abc.volf ", "0/rect 10 19 2 3, 0/base_rect 10 19 2 3, 0/image 2 3, 0/size 2 3, ",
+          {{"turn", "rotate cw",
+            "0/argb FF00000D FF00000A FF00000E FF00000B FF00000F 0000000C, undo 1, "
+            "0/runs 19-20: 9-10; 21: 9, page@11,19 FF00000A, page@10,21 FF00000F"},
            {"turn and mirror", "rotate cww",
-            "0/argb FF00000A FF00000D FF00000B FF00000E 0000000C FF00000F, 0/size 2 3, "
-            "0/runs 20-21: 9-10; 22: 10"}});
+            "0/argb FF00000A FF00000D FF00000B FF00000E 0000000C FF00000F, "
+            "0/runs 19-20: 9-10; 21: 10"},
+           {"whole after what follows", "rotate cw contrast 50",
+            "page@11,19 FF00000A, page@10,21 FF00000F"},
+           {"copied as the page shows it", "rotate cw copy",
+            "clipboard/argb FF00000D FF00000A FF00000E FF00000B FF00000F 00000000"},
+           {"cut where the page shows it", "rotate cw tool select-rectangle drag 10 20 11 21 cut",
+            "clipboard/argb FF00000E FF00000B FF00000F 00000000, 0/pixels 0: 0-1"}});
+    Check({{"turned back", "open abc.volf rotate cw rotate cw", "0/rect 9 19 3 2, 0/image 3 2"},
+           {"in another size", "open scaled.volf rotate cw",
+            "0/rect 1 -1 3 5.5, 0/image 1 2, 0/argb FF00000A FF00000B"},
+           {"a square stays where it is", "open square.volf key left rotate cw",
+            "0/rect 3.5 4 2 2, 0/base_rect 4.5 4 2 2"}});
 }
 
 TEST_F(StackCommands, DeleteHideAndMerge) {

@@ -77,8 +77,11 @@ TEST_F(StyleCommands, WhatTheyDraw) {
         // now, of alpha 255 x 7 \ 10; the region begins with the second one, 16 x 8 \ 10.
         {"reflection stands on the foot", "open foot.volf style reflection",
          "1/rect 10 17 20 10, 1/opacity 0.4, 1@0,2 B23366CC, 1/region 9 21 20 8"},
-        {"shade keeps the region", "open a.volf style shade",
-         "2/rect 10 10 20 10, 2/opacity 0.3, 2@0,5 7F000000, 2/region 9 10 20 10"},
+        {"shade has no first row", "open a.volf style shade",
+         "2/rect 10 10 20 10, 2/opacity 0.3, 2@0,5 7F000000, 2/region 9 11 20 9"},
+        {"a shadow of nothing can't be picked",
+         "open glass.png tool brush-eraser brush-size 60 brush-opacity 100 click 5 4 style shadow",
+         "1/region -1 0 10 8, 0/region null"},
         {"shadow to the lower right", "open soft.volf style shadow",
          "1/rect 11 11 22 12, 1/base_rect 10 10 20 10, 1/image 22 12, 1/opacity 0.4, "
          "2/opacity 0.8, 2/rect 10 10 20 10"},
@@ -126,8 +129,9 @@ TEST_F(StyleCommands, AdjustmentsStartFromThePress) {
          {"scale", "scale 60",
           ", 0/rect 0 0 20 16, 0/size 20 16, 0/image 20 16, 0/base_rect 0 0 20 16, 0/scale 0, "
           "0@0,0 C0336699, 0@19,15 C0336699, 0/region -1 0 20 16, slider/scale 50"},
-         // 8 / 10 of 5 is 4 at first; the second step reads the ratio of 15 to 12.
-         {"scaled away", "scale 55 40", ", 0/rect 0 0 0 0, 0/image 0 0, 0/size 10 8"}});
+         {"through nothing and back", "scale 30 0 60",
+          ", 0/rect 0 0 20 16, 0/image 20 16, 0@19,15 C0336699"},
+         {"a pixel is left", "scale 55 0", ", 0/rect 0 0 1 1, 0/image 1 1, 0@0,0 C0336699"}});
     Check({
         {"drags do", "open glass.png hue 40 hue 60",
          "0/hue 60, undo 2" + adjusted({hue(140), hue(210)})},
@@ -137,6 +141,9 @@ TEST_F(StyleCommands, AdjustmentsStartFromThePress) {
         {"brightness and contrast work together", "open glass.png brightness 60 contrast 75",
          "0/brightness 60, 0/contrast 75, undo 2" + adjusted({light(1, 50), light(3, 50)})},
         {"undo", "open glass.png opacity 80 50 undo", "0/opacity 1, slider/opacity 100, undo 0"},
+        // 10 + 7 / 2 is a tie: to 14.
+        {"an oblong one has whole sides", "open a.volf scale 57",
+         "1/rect 10 10 27 14, 1/base_rect 10 10 27 14, 1/image 27 14, page/pixels 10-23: 10-36"},
         {"a tall one", "new 4 8 scale 58", "0/rect 0 0 8 16, 0/size 8 16"},
     });
 }
