@@ -69,8 +69,9 @@ editing::Pointer PointerOf(const QMouseEvent& event, Qt::MouseButton button) {
     const Qt::KeyboardModifiers keys =
         event.modifiers() & (Qt::ShiftModifier | Qt::ControlModifier | Qt::AltModifier);
     pointer.Shift = keys == Qt::ShiftModifier ? 1 : keys == Qt::NoModifier ? 0 : 2;
-    pointer.X = static_cast<float>(event.position().x());
-    pointer.Y = static_cast<float>(event.position().y());
+    // In the middle of its scene pixel, so that it hits what is shown there at every zoom.
+    pointer.X = static_cast<float>(std::floor(event.position().x()) + 0.5);
+    pointer.Y = static_cast<float>(std::floor(event.position().y()) + 0.5);
     return pointer;
 }
 
@@ -214,8 +215,7 @@ void SceneView::DrawWelcome(QPainter& painter) const {
 }
 
 void SceneView::resizeEvent(QResizeEvent*) {
-    // An odd side would put a page of even sides between two pixels, beside its own pointer.
-    emit Resized(std::max(width() & ~1, 1), std::max(height() & ~1, 1));
+    emit Resized(std::max(width(), 1), std::max(height(), 1));
 }
 
 void SceneView::wheelEvent(QWheelEvent* event) {

@@ -179,8 +179,7 @@ TEST_F(ToolPalette, ChosenAndExchangedColours) {
     EXPECT_EQ(editor.Sliders.ColorOpacity.Value, 50);
 }
 
-// The page of 40 x 30 at zoom 2 lies at (60, 45) of the scene; the pointer is rounded to whole
-// scene pixels, ties to even.
+// The page of 40 x 30 at zoom 2 lies at (60, 45) of the scene.
 TEST_F(ToolPalette, ThePickTakesThePixelUnderThePointer) {
     PutLayer(testing::FilledPicture(1, 30, 0x80112233), 0, 0);
     PutLayer(testing::FilledPicture(1, 30, 0xFFFF0000), 1, 0);
@@ -191,9 +190,9 @@ TEST_F(ToolPalette, ThePickTakesThePixelUnderThePointer) {
     const struct {
         float X, Y;
         Argb Expected;
-    } cases[] = {{60, 50, 0x80112233}, {61.4F, 50, 0x80112233}, {61.5F, 50, 0xFFFF0000},
-                 {63, 50, 0xFFFF0000}, {63.4F, 50, 0xFFFF0000}, {64, 50, 0},
-                 {199.4F, 50, 0},      {60, 50, 0x80112233},    {200, 50, 0x80112233},
+    } cases[] = {{60, 50, 0x80112233}, {61.9F, 50, 0x80112233}, {62, 50, 0xFFFF0000},
+                 {63, 50, 0xFFFF0000}, {63.9F, 50, 0xFFFF0000}, {64, 50, 0},
+                 {199.9F, 50, 0},      {60, 50, 0x80112233},    {200, 50, 0x80112233},
                  {-1, 50, 0x80112233}, {60, 150, 0x80112233},   {60, -1, 0x80112233}};
     for (const auto& c : cases) {
         Press(OnScene(c.X, c.Y));

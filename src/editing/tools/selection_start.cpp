@@ -5,7 +5,7 @@
 namespace orbelle::editing {
 
 graphics::PointF StartOnPage(const Editor& editor, const Pointer& pointer) {
-    const SceneMapping mapping = MappingAtPress(editor);
+    const SceneMapping mapping = MappingOf(editor);
     const double left = mapping.PageOffsetX, top = mapping.PageOffsetY;
     const double width = editor.Page().Width * mapping.Zoom;
     const double height = editor.Page().Height * mapping.Zoom;
