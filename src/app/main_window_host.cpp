@@ -28,7 +28,7 @@ constexpr int kScrollPositions = 10;  // the scene scrolls in tenths
 void MirrorBar(QScrollBar& shown, const document::ScrollBar& bar, int sceneSize) {
     const QSignalBlocker notTheUser(&shown);
     shown.setRange(0, bar.Max);
-    shown.setPageStep(std::max(bar.LargeChange, sceneSize));
+    shown.setPageStep(sceneSize);
     shown.setSingleStep(std::max(bar.Max / kScrollPositions, 1));
     shown.setValue(bar.Value);
     shown.setVisible(bar.Visible);

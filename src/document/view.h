@@ -9,14 +9,13 @@ namespace orbelle::document {
 struct ScrollBar {
     int Value = 5;
     int Max = 10;
-    int LargeChange = 0;
     bool Visible = false;
 };
 
 struct View {
     int SceneWidth = 1024;  // scene pixels
     int SceneHeight = 768;
-    double Zoom = 0;             // scene pixels per page pixel
+    double Zoom = 1;             // scene pixels per page pixel
     ScrollBar HorizontalScroll;  // horizontal
     ScrollBar VerticalScroll;    // vertical
     bool ViewActive = false;     // set once a document exists; nothing is painted before

@@ -271,7 +271,7 @@ TEST_F(SceneInput, WhatIsSeenIsWhatIsHit) {
     for (const auto& c : cases) {
         SCOPED_TRACE(::testing::Message() << c.Width << " at " << c.Zoom << ", " << c.Scroll);
         OpenPage(c.Width, c.Height);
-        editor.View.HorizontalScroll = editor.View.VerticalScroll = {c.Scroll, 10, 0, true};
+        editor.View.HorizontalScroll = editor.View.VerticalScroll = {c.Scroll, 10, true};
         graphics::Bitmap picture(c.Width, c.Height);
         for (int y = 0; y < c.Height; ++y)
             for (int x = 0; x < c.Width; ++x)
