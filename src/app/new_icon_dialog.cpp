@@ -14,8 +14,6 @@
 namespace orbelle::app {
 namespace {
 
-constexpr char kWidthSetting[] = "Width";
-constexpr char kHeightSetting[] = "Height";
 constexpr int kSideWidth = 140;
 
 }  // namespace
@@ -31,8 +29,8 @@ NewIconDialog::NewIconDialog(QWidget* parent) : QDialog(parent) {
     rows->setHorizontalSpacing(12);
     rows->setVerticalSpacing(12);
     layout->addLayout(rows);
-    pageWidth_ = AddSide(*rows, "PageWidth", "&Width:", kWidthSetting);
-    pageHeight_ = AddSide(*rows, "PageHeight", "&Height:", kHeightSetting);
+    pageWidth_ = AddSide(*rows, "PageWidth", "&Width:", kNewWidth);
+    pageHeight_ = AddSide(*rows, "PageHeight", "&Height:", kNewHeight);
 
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
     layout->addWidget(buttons);
@@ -54,8 +52,8 @@ void NewIconDialog::accept() {
         return;
     }
     Settings settings;
-    settings.setValue(kWidthSetting, size.Width);
-    settings.setValue(kHeightSetting, size.Height);
+    settings.setValue(kNewWidth, size.Width);
+    settings.setValue(kNewHeight, size.Height);
     QDialog::accept();
 }
 

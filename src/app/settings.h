@@ -16,6 +16,10 @@ public:
     Settings() : QSettings(QStringLiteral("OrbelleWork")) {}
 };
 
+// The side that New offers, by its name in the settings.
+inline constexpr char kNewWidth[] = "Width";
+inline constexpr char kNewHeight[] = "Height";
+
 // A colour as the text "alpha,red,green,blue" in decimal. Parts that are missing or no number read
 // as 0.
 graphics::Argb ReadColor(const Settings& settings, const QString& name);

@@ -21,6 +21,7 @@
 
 #include "app/bottom_panel.h"
 #include "app/color_well.h"
+#include "app/new_icon_dialog.h"
 #include "app/scene_view.h"
 #include "app/settings.h"
 #include "document/scene_painter.h"
@@ -443,6 +444,32 @@ TEST_F(MainWindowTest, TheBrushPanelSlidesIn) {
     EXPECT_TRUE(WaitUntil([&] { return panel.isVisible() && panel.y() == 0; }));
     ClickBar("ToolBox", 4);
     EXPECT_TRUE(WaitUntil([&] { return !panel.isVisible(); }));
+}
+
+TEST_F(MainWindowTest, AFirstStartFindsAStartingSetWhichIsWrittenOnce) {
+    Settings().clear();
+    window.RestoreSettings();
+    const editing::Editor& editor = window.Editor();
+    EXPECT_EQ(editor.Tools.Colors[0], 0xFF000000);
+    EXPECT_EQ(editor.Tools.Colors[1], 0xFFFFFFFF);
+    EXPECT_EQ(editor.Sliders.BrushSize.Value, 10);
+    EXPECT_EQ(editor.Sliders.BrushOpacity.Value, 100);
+    EXPECT_TRUE(window.TipsEnabled());
+    for (const auto& [panel, closed] : {std::pair("OpacityPanel", false),
+                                        {"ColorPanel", false},
+                                        {"LayerPanel", false},
+                                        {"Properties", false},
+                                        {"SizePanel", true},
+                                        {"FilterPanel", true}})
+        EXPECT_EQ(Part<widgets::PanelHeader>(panel).IsClosed(), closed) << panel;
+    EXPECT_EQ(NewIconDialog().Size().Width, 256);
+    EXPECT_EQ(NewIconDialog().Size().Height, 256);
+
+    Settings().clear();
+    Settings().setValue("Height", 5);
+    window.RestoreSettings();
+    EXPECT_EQ(NewIconDialog().Size().Width, 0) << "there are settings";
+    EXPECT_FALSE(window.TipsEnabled());
 }
 
 // As another hand may have left them; what the program itself stores comes back in the real window.
