@@ -108,6 +108,11 @@ void LeaveScene(Editor& editor) {
 }
 
 void KeyDownScene(Editor& editor, SceneKey key) {
+    if (key == SceneKey::Delete) {
+        if (editor.States.IsEnabled(CommandId::Delete))
+            DeleteSelected(editor);
+        return;
+    }
     if (!editor.Page().HasSelection()) {
         editor.Changed.Tip = {tips::NothingToMove};
         return;
@@ -119,12 +124,8 @@ void KeyDownScene(Editor& editor, SceneKey key) {
             return Nudge(editor, 0, -1);
         case SceneKey::Right:
             return Nudge(editor, 1, 0);
-        case SceneKey::Down:
+        default:
             return Nudge(editor, 0, 1);
-        case SceneKey::Delete:
-            if (editor.States.IsEnabled(CommandId::Delete))
-                DeleteSelected(editor);
-            return;
     }
 }
 

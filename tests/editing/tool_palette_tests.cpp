@@ -58,9 +58,21 @@ TEST_F(ToolPalette, WhatEachButtonChooses) {
         EXPECT_TRUE(editor.Selection.Exists());
         EXPECT_EQ(recorder.LastTip(), -1);
     }
+    // The menu's entry shows what goes with the tool, too.
+    Do(ChooseEraser, Tool::PencilEraser);
+    Do(ClickToolButton, 12);
+    EXPECT_EQ(editor.Sliders.ColorOpacity.Value, 0);
+    Do(ChooseToolEntry, Tool::Pencil);
+    EXPECT_EQ(editor.Sliders.ColorOpacity.Value, 100);
+    EXPECT_EQ(Tools().OpenPopup, Popup::None);
+    Do(MoveScene, OnPage(3, 3));
+    Do(ChooseToolEntry, Tool::Move);
+    EXPECT_FALSE(editor.Overlays.PointerMark.Visible);
+
     editor.DocumentExists = false;
     Show();
     Do(ClickToolButton, 4);  // disabled
+    Do(ChooseToolEntry, Tool::Pencil);
     EXPECT_EQ(Tools().InUse, Tool::Move);
 }
 

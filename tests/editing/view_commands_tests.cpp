@@ -104,6 +104,12 @@ TEST_F(ViewCommands, OriginalSizeGoesBackToTheZoomBeforeOrToAFit) {
     EXPECT_THAT(Series(OriginalSize, 1), ElementsAre(1));
     EXPECT_TRUE(OriginalSizeButton().Pressed);
     EXPECT_THAT(Series(OriginalSize, 2), ElementsAre(3, 1));
+    SetZoom(20);
+    EXPECT_FALSE(editor.States.IsEnabled(CommandId::ZoomIn));
+    Do(OriginalSize);
+    Do(OriginalSize);
+    EXPECT_TRUE(editor.States.IsEnabled(CommandId::ZoomIn));
+    EXPECT_TRUE(editor.States.IsEnabled(CommandId::ZoomOut));
     Do(ZoomIn);
     EXPECT_FALSE(OriginalSizeButton().Pressed);
     Page(100, 119);
