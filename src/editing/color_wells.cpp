@@ -32,8 +32,10 @@ void UseColorWell(Editor& editor, int well) {
 }
 
 void ChooseWellColor(Editor& editor, int well, Argb color) {
-    WellColor(editor, well) = graphics::SetAlphaByte(color, AlphaOfOpacity(editor));
     UseColorWell(editor, well);
+    if (editor.Sliders.ColorOpacity.Value == 0)
+        editor.Sliders.ColorOpacity.Value = editor.Sliders.ColorOpacity.Maximum;
+    WellColor(editor, well) = graphics::SetAlphaByte(color, AlphaOfOpacity(editor));
 }
 
 void SetWellColor(Editor& editor, int well, Argb color) {

@@ -181,7 +181,13 @@ TEST_F(ToolPalette, ChosenAndExchangedColours) {
     Do(ChangeColorOpacity, 20);
     Do(ChooseWellColor, 1, Argb{0xFF010203});
     EXPECT_EQ(Tools().Colors[1], 0x33010203U);
-    Do(ChooseWellColor, 0, Argb{0xFF040506});  // takes the opacity shown, and is in use
+    Do(ChangeColorOpacity, 0);
+    Do(ChooseWellColor, 1, Argb{0xFF010203});  // chosen to be seen
+    EXPECT_EQ(Tools().Colors[1], 0xFF010203U);
+    EXPECT_EQ(editor.Sliders.ColorOpacity.Value, 100);
+    Do(ChangeColorOpacity, 40);
+    Do(SetWellColor, 0, Argb{0x33000000});
+    Do(ChooseWellColor, 0, Argb{0xFF040506});  // in its own opacity, and in use
     EXPECT_EQ(Tools().Colors[0], 0x33040506U);
     Do(SetWellColor, 1, Argb{0x80FFFFFF});
     EXPECT_EQ(editor.Sliders.ColorOpacity.Value, 20);
