@@ -127,6 +127,8 @@ void AskExport(const WindowContext& context, const ExportEntry& entry) {
 }
 
 bool MayGiveUpDocument(const WindowContext& context) {
+    // What is being typed counts.
+    context.Commands.Run([](Editor&) {});
     if (!context.Commands.Editor().Document.Modified)
         return true;
     switch (context.User.AskSave()) {

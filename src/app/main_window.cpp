@@ -57,9 +57,15 @@ MainWindow::MainWindow() {
     layersTimer_.start(0);
 }
 
-bool MainWindow::Run(const editing::Command& command) {
+// What fields and sliders still have to say comes first.
+void MainWindow::BeginCommand() {
     bottomPanel_->CommitTyping();
+    rightPanel_->EndRuns();
     statusBar()->clearMessage();
+}
+
+bool MainWindow::Run(const editing::Command& command) {
+    BeginCommand();
     return Tell(editing::Run(editor_, command));
 }
 
@@ -68,8 +74,7 @@ bool MainWindow::RunBusy(const editing::Command& command) {
 }
 
 editing::Outcome MainWindow::Try(const editing::Command& command) {
-    bottomPanel_->CommitTyping();
-    statusBar()->clearMessage();
+    BeginCommand();
     QGuiApplication::setOverrideCursor(Qt::WaitCursor);
     editing::Outcome outcome = editing::Run(editor_, command);
     QGuiApplication::restoreOverrideCursor();

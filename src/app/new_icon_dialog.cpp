@@ -46,6 +46,8 @@ PageSize NewIconDialog::Size() const {
 
 void NewIconDialog::accept() {
     const auto allowed = [](int side) { return side >= 1 && side <= document::kMaxPageSide; };
+    pageWidth_->CommitTyping();
+    pageHeight_->CommitTyping();
     const PageSize size = Size();
     if (!allowed(size.Width) || !allowed(size.Height)) {
         ShowPlainMessage(this, editing::kPageSizeMessage);

@@ -22,6 +22,8 @@ public:
     RightPanel(CommandRunner& commands, QWidget& layerBar);
 
     void ShowStates(const editing::Sliders& sliders);
+    // Another command follows: what keys and wheel do to the sliders ends.
+    void EndRuns();
     // The layer list anew.
     void ShowLayers(const editing::Editor& editor);
 

@@ -29,6 +29,7 @@
 #include "editing/color_wells.h"
 #include "editing/document_commands.h"
 #include "editing/layer_commands.h"
+#include "editing/page_commands.h"
 #include "editing/tips.h"
 #include "editing/undo_commands.h"
 #include "editing/view_commands.h"
@@ -288,8 +289,52 @@ TEST_F(MainWindowTest, TheLayerListFollowsAndSelects) {
     auto& list = Part<widgets::LayerList>("Layers");
     ASSERT_TRUE(WaitUntil([&] { return list.Count() == 2; }));
     EXPECT_EQ(list.SelectedIndex(), 1);
+    window.show();
+    window.activateWindow();
+    QApplication::processEvents();
+    Part<widgets::NumberSlider>("PageWidth").setFocus();
     Press(*list.viewport(), {20, 60});
     EXPECT_EQ(window.Editor().Page().SelectedLayer, 0);
+    Part<widgets::NumberSlider>("PageWidth").setFocus();
+    Strike(*QApplication::focusWidget(), Qt::Key_Return, "\r");
+    EXPECT_EQ(QApplication::focusWidget(), &Scene());
+}
+
+// However the wheel comes back, the picture does; Escape leaves no step.
+TEST_F(MainWindowTest, ARunOfTheWheelIsOneDragFromOneSnapshot) {
+    NewPage(4, 4);
+    window.Run([](editing::Editor& editor) {
+        editor.Page().Selected().Image = FilledPicture(4, 4, 0xFFF08010);
+        editor.Changed.Pixels = true;
+    });
+    window.show();
+    window.activateWindow();
+    QApplication::processEvents();
+    auto& slider = Part<widgets::TrackSlider>("Brightness");
+    const auto turn = [&](std::initializer_list<int> angles) {
+        for (const int angle : angles) {
+            QWheelEvent wheel({9, 9}, slider.mapToGlobal(QPointF(9, 9)), {}, {0, angle},
+                              Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+            QApplication::sendEvent(&slider, &wheel);
+        }
+    };
+    const auto color = [&] { return *Page().Selected().Image.GetPixel(1, 1); };
+    slider.setFocus();
+    turn({120, 120, 120});
+    EXPECT_EQ(Part<QLabel>("BrightnessValue").text(), "3");
+    EXPECT_NE(color(), 0xFFF08010);
+    turn({-120, -120, -120});
+    EXPECT_EQ(color(), 0xFFF08010);
+    Scene().setFocus();
+    EXPECT_EQ(window.Editor().History.UndoIndex(), 1);
+    window.Run(editing::Undo);
+    slider.setFocus();
+    turn({-120, -120});
+    Strike(slider, Qt::Key_Escape);
+    EXPECT_EQ(color(), 0xFFF08010);
+    EXPECT_EQ(slider.value(), 50);
+    EXPECT_EQ(window.Editor().History.UndoIndex(), 0);
+    EXPECT_TRUE(std::holds_alternative<std::monostate>(window.Editor().Drag));
 }
 
 TEST_F(MainWindowTest, SlidersMirrorTheEditor) {
@@ -318,10 +363,11 @@ TEST_F(MainWindowTest, EachNumberOfAPageSliderIsOneStep) {
     };
     const auto steps = [&] { return window.Editor().History.UndoIndex(); };
     type("128");
-    EXPECT_EQ(Page().Width, 128);
-    EXPECT_TRUE(window.Editor().Document.Modified);
+    EXPECT_EQ(Page().Width, 48) << "not digit by digit";
     EXPECT_EQ(steps(), 0);
     Strike(field, Qt::Key_Return, "\r");
+    EXPECT_EQ(Page().Width, 128);
+    EXPECT_TRUE(window.Editor().Document.Modified);
     EXPECT_EQ(steps(), 1);
     type("60");
     ClickBar("ToolBox", 5);
@@ -333,15 +379,19 @@ TEST_F(MainWindowTest, EachNumberOfAPageSliderIsOneStep) {
     Strike(field, Qt::Key_Return, "\r");
     EXPECT_EQ(window.Editor().History.RedoCount(), 1) << "nothing was changed";
     Strike(field, Qt::Key_Up);
-    EXPECT_EQ(Page().Width, 129);
+    Strike(field, Qt::Key_Up);
+    EXPECT_EQ(Page().Width, 130);
+    ClickBar("ToolBox", 4);
     EXPECT_EQ(steps(), 2);
 
     NewPage(48, 32);  // so that nothing is to be saved
     OpenPicture(600, 20);
     type("9999");
+    Strike(field, Qt::Key_Return, "\r");
     EXPECT_EQ(field.text(), "600");
     NewPage(48, 32);
     type("600");
+    Strike(field, Qt::Key_Return, "\r");
     EXPECT_EQ(Page().Width, 512);
 }
 
@@ -393,7 +443,7 @@ TEST_F(MainWindowTest, SlidersOfTheRightPanelAreLabelled) {
     const std::tuple<std::string, const char*, Qt::Key, const char*> cases[] = {
         {"Opacity", "100%", Qt::Key_Left, "99%"}, {"Hue", "0", Qt::Key_Right, "1"},
         {"Saturation", "0", Qt::Key_Right, "1"},  {"Brightness", "0", Qt::Key_Left, "-1"},
-        {"Contrast", "0", Qt::Key_Right, "1"},
+        {"Contrast", "0", Qt::Key_Right, "1"},    {"Scale", "0", Qt::Key_Left, "-1"},
     };
     for (const auto& [name, neutral, key, stepped] : cases) {
         const auto& label = Part<QLabel>(name + "Value");
