@@ -101,7 +101,8 @@ void MainWindow::TakeHandOver(const QString& commandLine) {
     show();
     raise();
     activateWindow();
-    ShellOpen(commandLine);
+    if (!commandLine.isEmpty())
+        ShellOpen(commandLine);
 }
 
 void MainWindow::OpenPath(const QString& path) {

@@ -99,6 +99,7 @@ RightPanel::RightPanel(CommandRunner& commands, QWidget& layerBar) : commands_(c
         const int index = layers_->SelectedIndex();
         commands_.Run([index](Editor& editor) { SelectLayer(editor, index); });
     });
+    connect(layers_, &widgets::LayerList::Picked, this, &RightPanel::LayerPicked);
 }
 
 QWidget* RightPanel::AddSection(const char* name, const char* storedAs, const char* title) {

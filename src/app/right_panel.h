@@ -38,6 +38,9 @@ public:
     const std::vector<Header>& Headers() const { return headers_; }
     void SetOpen(const Header& header, bool open);
 
+signals:
+    void LayerPicked();  // by the mouse, in the list
+
 private:
     struct Adjuster {
         widgets::TrackSlider* Slider;

@@ -131,16 +131,31 @@ void SceneView::ShowWelcome(int strength) {
     update();
 }
 
+// While the left button holds a drag the others do nothing: a menu would swallow its release.
 void SceneView::mousePressEvent(QMouseEvent* event) {
+    const bool isLeft = event->button() == Qt::LeftButton;
+    if (!isLeft && isHeld_)
+        return;
     setFocus();
+    isHeld_ = isLeft;
     emit PointerPressed(PointerOf(*event, event->button()));
 }
 
 void SceneView::mouseMoveEvent(QMouseEvent* event) {
-    emit PointerMoved(PointerOf(*event, Qt::LeftButton));
+    const editing::Pointer pointer = PointerOf(*event, Qt::LeftButton);
+    // A message box that comes up in a drag takes the release for itself.
+    if (isHeld_ && !(event->buttons() & Qt::LeftButton)) {
+        isHeld_ = false;
+        emit PointerReleased(pointer);
+    }
+    emit PointerMoved(pointer);
 }
 
 void SceneView::mouseReleaseEvent(QMouseEvent* event) {
+    const bool isLeft = event->button() == Qt::LeftButton;
+    if (!isLeft && isHeld_)
+        return;
+    isHeld_ = false;
     emit PointerReleased(PointerOf(*event, event->button()));
 }
 

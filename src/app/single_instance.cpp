@@ -49,8 +49,7 @@ void SingleInstance::Read() {
     const auto finish = [this, socket] {
         const QByteArray text = socket->read(kLongestCommandLine);
         socket->deleteLater();
-        if (!text.isEmpty())
-            emit Received(QString::fromUtf8(text));
+        emit Received(QString::fromUtf8(text));
     };
     if (socket->state() == QLocalSocket::UnconnectedState)
         return finish();

@@ -9,6 +9,7 @@
 #include <QFileDialog>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenu>
 #include <QMessageBox>
 #include <QMimeData>
 #include <QPushButton>
@@ -295,6 +296,7 @@ TEST_F(MainWindowTest, TheLayerListFollowsAndSelects) {
     Part<widgets::NumberSlider>("PageWidth").setFocus();
     Press(*list.viewport(), {20, 60});
     EXPECT_EQ(window.Editor().Page().SelectedLayer, 0);
+    EXPECT_EQ(QApplication::focusWidget(), &Scene()) << "Delete and the arrows are its keys";
     Part<widgets::NumberSlider>("PageWidth").setFocus();
     Strike(*QApplication::focusWidget(), Qt::Key_Return, "\r");
     EXPECT_EQ(QApplication::focusWidget(), &Scene());
@@ -335,6 +337,45 @@ TEST_F(MainWindowTest, ARunOfTheWheelIsOneDragFromOneSnapshot) {
     EXPECT_EQ(slider.value(), 50);
     EXPECT_EQ(window.Editor().History.UndoIndex(), 0);
     EXPECT_TRUE(std::holds_alternative<std::monostate>(window.Editor().Drag));
+}
+
+TEST_F(MainWindowTest, ADragHasOneButton) {
+    NewPage(64, 64);
+    window.Run([](editing::Editor& editor) {
+        editor.Page().Selected().Image = FilledPicture(64, 64, 0xFFF08010);
+        editor.Page().Selected().Region = graphics::Region::FromRect({0, 0, 64, 64});
+    });
+    const auto mouse = [&](QEvent::Type type, QPointF place, Qt::MouseButton button,
+                           Qt::MouseButtons held) {
+        MouseOnPage(type, place, button, held, Qt::NoModifier);
+    };
+    const auto x = [&] { return Page().Layers[0].Rect.X; };
+    mouse(QEvent::MouseButtonPress, {9, 9}, Qt::LeftButton, Qt::LeftButton);
+    mouse(QEvent::MouseMove, {14, 9}, Qt::NoButton, Qt::LeftButton);
+    mouse(QEvent::MouseButtonPress, {14, 9}, Qt::RightButton, Qt::LeftButton | Qt::RightButton);
+    mouse(QEvent::MouseButtonRelease, {14, 9}, Qt::RightButton, Qt::LeftButton);
+    EXPECT_FALSE(window.findChild<QMenu*>("OrderMenu")->isVisible());
+    mouse(QEvent::MouseMove, {16, 9}, Qt::NoButton, Qt::LeftButton);
+    EXPECT_EQ(x(), 7);
+    // The release was lost.
+    mouse(QEvent::MouseMove, {20, 9}, Qt::NoButton, Qt::NoButton);
+    mouse(QEvent::MouseMove, {30, 9}, Qt::NoButton, Qt::NoButton);
+    EXPECT_EQ(x(), 7);
+    EXPECT_EQ(window.Editor().History.UndoIndex(), 1);
+}
+
+TEST_F(MainWindowTest, TheStatusLineFollowsWhatLiesUnderThePointer) {
+    NewPage(64, 64);
+    MouseOnPage(QEvent::MouseMove, {9, 5}, Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+    EXPECT_EQ(Part<QLabel>("PointerPosition").text(), "9, 5");
+    EXPECT_EQ(Part<QLabel>("PointerColor").text(), "#00000000");
+    window.Run([](editing::Editor& editor) {
+        editor.Page().Selected().Image = FilledPicture(64, 64, 0xFFF08010);
+        editor.Changed.Pixels = true;
+    });
+    EXPECT_EQ(Part<QLabel>("PointerColor").text(), "#FFF08010");
+    window.Run([](editing::Editor& editor) { SetPageSize(editor, 44, 64); });
+    EXPECT_EQ(Part<QLabel>("PointerPosition").text(), "-1, 5");
 }
 
 TEST_F(MainWindowTest, SlidersMirrorTheEditor) {
