@@ -118,6 +118,7 @@ QWidget* BottomPanel::AddPageSize() {
                 });
         connect(slider, &widgets::NumberSlider::Released, this,
                 [&commands] { commands.RunDuringDrag(editing::ReleasePageSize); });
+        GiveFocusBack(*slider);
         return slider;
     };
     pageWidth_ =
@@ -125,6 +126,11 @@ QWidget* BottomPanel::AddPageSize() {
     pageHeight_ =
         side("PageHeight", "Page height", &editing::Sliders::PageHeight, editing::ChangePageHeight);
     return Group("Page size", Row({pageWidth_, new QLabel(QString(QChar(0x00D7))), pageHeight_}));
+}
+
+void BottomPanel::GiveFocusBack(widgets::NumberSlider& slider) {
+    connect(&slider, &widgets::NumberSlider::Finished, this,
+            [this] { context_.Window.FocusScene(); });
 }
 
 QWidget* BottomPanel::AddBackground() {
@@ -180,6 +186,7 @@ QWidget* BottomPanel::AddOptions() {
     connect(lineWidth_, &widgets::NumberSlider::Changed, this, [this](int value) {
         context_.Commands.Run([value](Editor& editor) { ChangeLineWidth(editor, value); });
     });
+    GiveFocusBack(*lineWidth_);
     auto* both = new QWidget;
     auto* row = new QHBoxLayout(both);
     row->setContentsMargins(0, 0, 0, 0);
@@ -197,6 +204,7 @@ void BottomPanel::SetOpen(bool open) {
 void BottomPanel::CommitTyping() {
     pageWidth_->CommitTyping();
     pageHeight_->CommitTyping();
+    lineWidth_->CommitTyping();
 }
 
 QWidget& BottomPanel::FirstColorWell() const {

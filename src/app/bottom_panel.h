@@ -38,6 +38,8 @@ protected:
 
 private:
     QWidget* AddPageSize();
+    // Return and Escape in its field go back to the page.
+    void GiveFocusBack(widgets::NumberSlider& slider);
     QWidget* AddBackground();
     QWidget* AddColors();
     QWidget* AddOptions();

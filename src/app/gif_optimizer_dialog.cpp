@@ -83,6 +83,7 @@ GifOptimizerDialog::GifOptimizerDialog(const graphics::Bitmap& surface, QWidget*
     threshold_->setObjectName("Threshold");
     threshold_->setAccessibleName("Transparency Adjustment");
     threshold_->SetRange(0, kSliderEnd);
+    threshold_->SetFollowsTyping(true);
     label->setBuddy(threshold_);
     row->addWidget(label);
     row->addWidget(threshold_);
@@ -111,6 +112,7 @@ int GifOptimizerDialog::OptimizeValue() const {
 }
 
 void GifOptimizerDialog::done(int result) {
+    threshold_->CommitTyping();
     Settings().setValue(kSetting, OptimizeValue());
     QDialog::done(result);
 }

@@ -198,12 +198,20 @@ std::vector<Entry> StyleEntries() {
     };
 }
 
+// The Move tool needs no document.
+std::optional<CommandId> CommandOf(editing::Tool tool) {
+    if (tool == editing::Tool::Move)
+        return std::nullopt;
+    return CommandId::ChooseTool;
+}
+
 std::vector<Entry> ToolEntries() {
     const auto entry = [](const char* name, const char* caption, editing::Tool tool) {
         return Entry{
             .Name = name,
             .Caption = caption,
             .Run = Edit([tool](editing::Editor& editor) { ChooseToolEntry(editor, tool); }),
+            .Command = CommandOf(tool),
             .Checks = true,
             .Tool = tool};
     };

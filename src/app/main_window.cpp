@@ -62,9 +62,15 @@ MainWindow::MainWindow() {
     layersTimer_.start(0);
 }
 
-bool MainWindow::Run(const editing::Command& command) {
+// What fields and sliders still have to say comes first.
+void MainWindow::BeginCommand() {
     bottomPanel_->CommitTyping();
+    rightPanel_->EndRuns();
     statusBar()->clearMessage();
+}
+
+bool MainWindow::Run(const editing::Command& command) {
+    BeginCommand();
     return Tell(ReportOf(editing::Run(editor_, command)));
 }
 
@@ -73,8 +79,7 @@ bool MainWindow::RunBusy(const editing::Command& command) {
 }
 
 Report MainWindow::Try(const editing::Command& command) {
-    bottomPanel_->CommitTyping();
-    statusBar()->clearMessage();
+    BeginCommand();
     QGuiApplication::setOverrideCursor(Qt::WaitCursor);
     const editing::Outcome outcome = editing::Run(editor_, command);
     QGuiApplication::restoreOverrideCursor();
@@ -117,7 +122,8 @@ void MainWindow::TakeHandOver(const QByteArray& commandLine) {
     show();
     raise();
     activateWindow();
-    ShellOpen(commandLine);
+    if (!commandLine.isEmpty())
+        ShellOpen(commandLine);
 }
 
 void MainWindow::OpenPath(const QString& path) {

@@ -112,6 +112,7 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
+    void BeginCommand();
     QWidget* MakeScene();
     void ConnectScene();
     void AddPanels();

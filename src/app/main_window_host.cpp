@@ -30,7 +30,7 @@ constexpr int kScrollPositions = 10;        // the scene scrolls in tenths
 void MirrorBar(QScrollBar& shown, const document::ScrollBar& bar, int sceneSize) {
     const QSignalBlocker notTheUser(&shown);
     shown.setRange(0, bar.Max);
-    shown.setPageStep(std::max(bar.LargeChange, sceneSize));
+    shown.setPageStep(sceneSize);
     shown.setSingleStep(std::max(bar.Max / kScrollPositions, 1));
     shown.setValue(bar.Value);
     shown.setVisible(bar.Visible);
@@ -69,6 +69,7 @@ void MainWindow::ShowScene() {
     if (editor_.DocumentExists)
         welcome_->Stop();
     pointerStatus_->ShowZoom(editor_.DocumentExists ? editor_.View.Zoom : 0);
+    pointerStatus_->Refresh(editor_);
     MirrorBar(*horizontalScroll_, editor_.View.HorizontalScroll, editor_.View.SceneWidth);
     MirrorBar(*verticalScroll_, editor_.View.VerticalScroll, editor_.View.SceneHeight);
     scene_->update();

@@ -38,6 +38,7 @@ void MainWindow::AddPanels() {
     middle->addWidget(bars_->ToolBox, 0, Qt::AlignTop);
     middle->addWidget(MakeScene(), 1);
     rightPanel_ = new RightPanel(*this, *bars_->LayerBar);
+    connect(rightPanel_, &RightPanel::LayerPicked, this, &MainWindow::FocusScene);
     auto* scroller = new QScrollArea;
     scroller->setObjectName("RightScroller");
     scroller->setWidget(rightPanel_);

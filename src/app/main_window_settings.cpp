@@ -13,17 +13,40 @@ namespace {
 constexpr char kBrushOpacity[] = "CtlScroll22";
 constexpr char kBrushSize[] = "CtlScroll23";
 constexpr char kColor[] = "ForeColor%1";
+constexpr char kTips[] = "TipsControl";
+constexpr char kBottomPanel[] = "isQuick";
+constexpr int kOpen = -1;
+
+// What a first start finds: once, when nothing is stored at all.
+void StoreStartingSet() {
+    constexpr int kNewSide = 256;
+    Settings settings;
+    if (!settings.isEmpty())
+        return;
+    settings.setValue(kTips, 1);
+    for (const char* panel : {"CtlTitle1", "CtlTitle2", "CtlTitle6", kBottomPanel})
+        settings.setValue(panel, kOpen);
+    settings.setValue(kNewWidth, kNewSide);
+    settings.setValue(kNewHeight, kNewSide);
+    const editing::Sliders sliders;
+    settings.setValue(kBrushOpacity, sliders.BrushOpacity.Value);
+    settings.setValue(kBrushSize, sliders.BrushSize.Value);
+    const editing::ToolSettings tools;
+    for (std::size_t i = 0; i < tools.Colors.size(); ++i)
+        WriteColor(settings, QString(kColor).arg(i), tools.Colors[i]);
+}
 
 }  // namespace
 
 void MainWindow::RestoreSettings() {
+    StoreStartingSet();
     RestoreMainWindow(*this);
     const Settings settings;
     const auto number = [&](const char* name) { return settings.value(name).toInt(); };
-    bottomPanel_->SetOpen(number("isQuick") != 0);
+    bottomPanel_->SetOpen(number(kBottomPanel) != 0);
     for (const RightPanel::Header& header : rightPanel_->Headers())
         rightPanel_->SetOpen(header, number(header.StoredAs) != 0);
-    SetTipsEnabled(number("TipsControl") == 1);
+    SetTipsEnabled(number(kTips) == 1);
     Run([&](editing::Editor& editor) {
         // What is missing reads as 0, which the sliders do not have.
         ChangeBrushOpacity(editor, number(kBrushOpacity));
@@ -36,9 +59,9 @@ void MainWindow::RestoreSettings() {
 void MainWindow::StoreSettings() const {
     StoreMainWindow(*this);
     Settings settings;
-    const auto flag = [](bool open) { return open ? -1 : 0; };
-    settings.setValue("isQuick", flag(!bottomPanel_->Header().IsClosed()));
-    settings.setValue("TipsControl", TipsEnabled() ? 1 : 0);
+    const auto flag = [](bool open) { return open ? kOpen : 0; };
+    settings.setValue(kBottomPanel, flag(!bottomPanel_->Header().IsClosed()));
+    settings.setValue(kTips, TipsEnabled() ? 1 : 0);
     for (const RightPanel::Header& header : rightPanel_->Headers())
         settings.setValue(header.StoredAs, flag(!header.Title->IsClosed()));
     settings.setValue(kBrushOpacity, editor_.Sliders.BrushOpacity.Value);

@@ -33,8 +33,8 @@ std::optional<QPoint> MainWindow::TipPlacement(editing::TipPlace place, QSize ba
     const int belowBar = bars_->MainBar->geometry().bottom() + 4;
     const bool layers = rightPanel_->IsLayerListVisible();
     const QPoint scene = at(*scene_);
-    const QPoint page(graphics::RoundToEven(document::PageOffsetX(editor_.Page(), editor_.View)),
-                      graphics::RoundToEven(document::PageOffsetY(editor_.Page(), editor_.View)));
+    const QPoint page(document::PageOffsetX(editor_.Page(), editor_.View),
+                      document::PageOffsetY(editor_.Page(), editor_.View));
     switch (place) {
         case TipPlace::NewAndOpenButtons:
             return QPoint(8, belowBar);

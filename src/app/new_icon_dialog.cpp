@@ -14,8 +14,6 @@
 namespace orbelle::app {
 namespace {
 
-constexpr char kWidthSetting[] = "Width";
-constexpr char kHeightSetting[] = "Height";
 constexpr int kSideWidth = 140;
 
 }  // namespace
@@ -31,8 +29,8 @@ NewIconDialog::NewIconDialog(QWidget* parent) : QDialog(parent) {
     rows->setHorizontalSpacing(12);
     rows->setVerticalSpacing(12);
     layout->addLayout(rows);
-    pageWidth_ = AddSide(*rows, "PageWidth", "&Width:", kWidthSetting);
-    pageHeight_ = AddSide(*rows, "PageHeight", "&Height:", kHeightSetting);
+    pageWidth_ = AddSide(*rows, "PageWidth", "&Width:", kNewWidth);
+    pageHeight_ = AddSide(*rows, "PageHeight", "&Height:", kNewHeight);
 
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
     layout->addWidget(buttons);
@@ -48,14 +46,16 @@ PageSize NewIconDialog::Size() const {
 
 void NewIconDialog::accept() {
     const auto allowed = [](int side) { return side >= 1 && side <= document::kMaxPageSide; };
+    pageWidth_->CommitTyping();
+    pageHeight_->CommitTyping();
     const PageSize size = Size();
     if (!allowed(size.Width) || !allowed(size.Height)) {
         ShowPlainMessage(this, editing::kPageSizeMessage);
         return;
     }
     Settings settings;
-    settings.setValue(kWidthSetting, size.Width);
-    settings.setValue(kHeightSetting, size.Height);
+    settings.setValue(kNewWidth, size.Width);
+    settings.setValue(kNewHeight, size.Height);
     QDialog::accept();
 }
 

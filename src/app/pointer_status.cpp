@@ -26,9 +26,16 @@ PointerStatus::PointerStatus(QStatusBar& line)
       zoom_(AddField(line, "Zoom", 64)) {}
 
 void PointerStatus::ShowPointer(const editing::Editor& editor, float x, float y) {
-    if (!editor.DocumentExists || editor.View.Zoom <= 0)
-        return ClearPointer();
-    const graphics::PointF page = ScreenToPage(editing::MappingOf(editor), x, y);
+    pointer_ = {x, y};
+    Refresh(editor);
+}
+
+void PointerStatus::Refresh(const editing::Editor& editor) {
+    if (!pointer_ || !editor.DocumentExists)
+        return;
+    const graphics::PointF page =
+        ScreenToPage(editing::MappingOf(editor), static_cast<float>(pointer_->x()),
+                     static_cast<float>(pointer_->y()));
     const int column = graphics::RoundToEven(page.X), row = graphics::RoundToEven(page.Y);
     position_->setText(QString("%1, %2").arg(column).arg(row));
     const auto color = editor.Canvas.GetPixel(column, row);
@@ -36,6 +43,7 @@ void PointerStatus::ShowPointer(const editing::Editor& editor, float x, float y)
 }
 
 void PointerStatus::ClearPointer() {
+    pointer_.reset();
     position_->clear();
     color_->clear();
 }

@@ -2,7 +2,9 @@
 #pragma once
 
 #include <QLabel>
+#include <QPointF>
 #include <QStatusBar>
+#include <optional>
 
 #include "editing/editor.h"
 
@@ -15,10 +17,13 @@ public:
 
     // The pointer in scene pixels.
     void ShowPointer(const editing::Editor& editor, float x, float y);
+    // What lies under the pointer where it is, anew.
+    void Refresh(const editing::Editor& editor);
     void ClearPointer();
     void ShowZoom(double zoom);
 
 private:
+    std::optional<QPointF> pointer_;  // scene pixels; none: not over the scene
     QLabel* position_;
     QLabel* color_;
     QLabel* zoom_;

@@ -37,6 +37,8 @@ void ConnectDrag(CommandRunner& commands, TrackSlider& slider, editing::Slider S
                      });
     QObject::connect(&slider, &TrackSlider::Released, &slider,
                      [&commands, release] { commands.RunDuringDrag(release); });
+    QObject::connect(&slider, &TrackSlider::GivenUp, &slider,
+                     [&commands] { commands.RunDuringDrag(editing::GiveUpSlider); });
 }
 
 // ".50", as layers are labelled.
@@ -97,6 +99,7 @@ RightPanel::RightPanel(CommandRunner& commands, QWidget& layerBar) : commands_(c
         const int index = layers_->SelectedIndex();
         commands_.Run([index](Editor& editor) { SelectLayer(editor, index); });
     });
+    connect(layers_, &widgets::LayerList::Picked, this, &RightPanel::LayerPicked);
 }
 
 QWidget* RightPanel::AddSection(const char* name, const char* storedAs, const char* title) {
@@ -149,6 +152,11 @@ void RightPanel::ShowStates(const Sliders& sliders) {
         adjuster.Value->setText(adjuster.Slider == opacity_ ? QString::number(state.Value) + "%"
                                                             : QString::number(state.Label));
     }
+}
+
+void RightPanel::EndRuns() {
+    for (const Adjuster& adjuster : adjusters_)
+        adjuster.Slider->EndRun();
 }
 
 void RightPanel::ShowLayers(const Editor& editor) {

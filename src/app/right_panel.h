@@ -22,6 +22,8 @@ public:
     RightPanel(CommandRunner& commands, QWidget& layerBar);
 
     void ShowStates(const editing::Sliders& sliders);
+    // Another command follows: what keys and wheel do to the sliders ends.
+    void EndRuns();
     // The layer list anew.
     void ShowLayers(const editing::Editor& editor);
 
@@ -35,6 +37,9 @@ public:
     };
     const std::vector<Header>& Headers() const { return headers_; }
     void SetOpen(const Header& header, bool open);
+
+signals:
+    void LayerPicked();  // by the mouse, in the list
 
 private:
     struct Adjuster {

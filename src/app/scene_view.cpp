@@ -69,8 +69,9 @@ editing::Pointer PointerOf(const QMouseEvent& event, Qt::MouseButton button) {
     const Qt::KeyboardModifiers keys =
         event.modifiers() & (Qt::ShiftModifier | Qt::ControlModifier | Qt::AltModifier);
     pointer.Shift = keys == Qt::ShiftModifier ? 1 : keys == Qt::NoModifier ? 0 : 2;
-    pointer.X = static_cast<float>(event.position().x());
-    pointer.Y = static_cast<float>(event.position().y());
+    // In the middle of its scene pixel, so that it hits what is shown there at every zoom.
+    pointer.X = static_cast<float>(std::floor(event.position().x()) + 0.5);
+    pointer.Y = static_cast<float>(std::floor(event.position().y()) + 0.5);
     return pointer;
 }
 
@@ -122,16 +123,31 @@ void SceneView::ShowWelcome(int strength) {
     update();
 }
 
+// While the left button holds a drag the others do nothing: a menu would swallow its release.
 void SceneView::mousePressEvent(QMouseEvent* event) {
+    const bool isLeft = event->button() == Qt::LeftButton;
+    if (!isLeft && isHeld_)
+        return;
     setFocus();
+    isHeld_ = isLeft;
     emit PointerPressed(PointerOf(*event, event->button()));
 }
 
 void SceneView::mouseMoveEvent(QMouseEvent* event) {
-    emit PointerMoved(PointerOf(*event, Qt::LeftButton));
+    const editing::Pointer pointer = PointerOf(*event, Qt::LeftButton);
+    // A message box that comes up in a drag takes the release for itself.
+    if (isHeld_ && !(event->buttons() & Qt::LeftButton)) {
+        isHeld_ = false;
+        emit PointerReleased(pointer);
+    }
+    emit PointerMoved(pointer);
 }
 
 void SceneView::mouseReleaseEvent(QMouseEvent* event) {
+    const bool isLeft = event->button() == Qt::LeftButton;
+    if (!isLeft && isHeld_)
+        return;
+    isHeld_ = false;
     emit PointerReleased(PointerOf(*event, event->button()));
 }
 
@@ -206,8 +222,7 @@ void SceneView::DrawWelcome(QPainter& painter) const {
 }
 
 void SceneView::resizeEvent(QResizeEvent*) {
-    // An odd side would put a page of even sides between two pixels, beside its own pointer.
-    emit Resized(std::max(width() & ~1, 1), std::max(height() & ~1, 1));
+    emit Resized(std::max(width(), 1), std::max(height(), 1));
 }
 
 void SceneView::wheelEvent(QWheelEvent* event) {

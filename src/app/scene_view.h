@@ -58,6 +58,7 @@ private:
     void DrawWelcome(QPainter& painter) const;
 
     const editing::Editor& editor_;
+    bool isHeld_ = false;  // the left button
     int welcome_ = -1;
     int wheelDelta_ = 0;  // what is left of a step
 };

@@ -40,6 +40,10 @@ Settings::Settings() {
         store_.emplace(QString(kOrganization));
 }
 
+bool Settings::isEmpty() const {
+    return store_ && store_->allKeys().isEmpty();
+}
+
 QVariant Settings::value(const QString& name) const {
     return store_ ? store_->value(name) : QVariant();
 }
@@ -96,10 +100,13 @@ void RestoreMainWindow(QWidget& window) {
     const auto number = [&](const char* name) { return settings.value(name).toInt(); };
     const QRect stored(number("MainLeft"), number("MainTop"), number("MainWidth"),
                        number("MainHeight"));
-    // The frame that the window system will add belongs on the screen too.
+    const QRect screen = ScreenFor(stored.topLeft());
+    // The frame that the window system will add belongs on the screen too; where it stood before it
+    // has its place.
     const int titleBar = window.style()->pixelMetric(QStyle::PM_TitleBarHeight);
+    const bool stood = !stored.isEmpty() && !stored.topLeft().isNull() && screen.contains(stored);
     const QRect place =
-        MainWindowPlace(stored, ScreenFor(stored.topLeft()).adjusted(0, 0, 0, -titleBar));
+        stood ? stored : MainWindowPlace(stored, screen.adjusted(0, 0, 0, -titleBar));
     window.resize(place.size());
     window.move(place.topLeft());
     if (number("MainState") == kMaximized)

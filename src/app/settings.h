@@ -18,6 +18,9 @@ class Settings {
 public:
     Settings();
 
+    // Nothing has been remembered yet.
+    bool isEmpty() const;
+
     QVariant value(const QString& name) const;
     void setValue(const QString& name, const QVariant& value);
     void remove(const QString& name);
@@ -26,6 +29,10 @@ public:
 private:
     std::optional<QSettings> store_;
 };
+
+// The side that New offers, by its name in the settings.
+inline constexpr char kNewWidth[] = "Width";
+inline constexpr char kNewHeight[] = "Height";
 
 // A colour as the text "alpha,red,green,blue" in decimal. Parts that are missing or no number read
 // as 0.

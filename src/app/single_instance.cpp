@@ -123,7 +123,7 @@ void SingleInstance::Read(QLocalSocket& peer) {
     peer.write(kAnswer.toByteArray());
     const bool isThere = peer.flush() && peer.state() == QLocalSocket::ConnectedState;
     peer.disconnectFromServer();
-    if (isThere && !request.CommandLine.isEmpty())
+    if (isThere)
         emit Received(request.CommandLine);
 }
 

@@ -30,7 +30,7 @@ public:
     bool Listen();
 
 signals:
-    // Not for an empty command line.
+    // Empty: only the window is wanted.
     void Received(const QByteArray& commandLine);
 
 private:

@@ -5,8 +5,6 @@
 namespace orbelle::cli {
 namespace {
 
-constexpr double kMaxZoom = 20;
-
 Action ReadPage(Words& words) {
     const int width = words.Integer("W");
     const int height = words.Integer("H");
@@ -29,7 +27,8 @@ Action ReadBackground(Words& words) {
 }
 
 Action ReadZoom(Words& words) {
-    return [zoom = words.PositiveNumber("Z", kMaxZoom)](Workspace& workspace) {
+    constexpr editing::ZoomState kRange;
+    return [zoom = words.Number("Z", kRange.Minimum, kRange.Maximum)](Workspace& workspace) {
         workspace.Zoom = zoom;
     };
 }
@@ -37,7 +36,7 @@ Action ReadZoom(Words& words) {
 constexpr Verb kVerbs[] = {
     {"page", "W H", "the page-size sliders; an undo step for each side that changes", ReadPage},
     {"background", "COLOUR|none", "the page background: #RRGGBB or #AARRGGBB", ReadBackground},
-    {"zoom", "Z", "the view's zoom, above 0 up to 20; 1 if not said", ReadZoom},
+    {"zoom", "Z", "the view's zoom, 0.2 to 20; 1 if not said", ReadZoom},
 };
 
 }  // namespace

@@ -2,8 +2,8 @@
 
 #include <algorithm>
 #include <charconv>
-#include <cmath>
 #include <optional>
+#include <sstream>
 
 namespace orbelle::cli {
 namespace {
@@ -76,14 +76,17 @@ std::vector<int> Words::Integers(const char* name, int least, int most, std::siz
     return values;
 }
 
-double Words::PositiveNumber(const char* name, double most) {
+double Words::Number(const char* name, double least, double most) {
     const std::string& word = Text(name);
     double value = 0;
     const char* const end = word.data() + word.size();
     const auto result = std::from_chars(word.data(), end, value, std::chars_format::fixed);
     // Written so that not-a-number is refused, too.
-    if (result.ec != std::errc() || result.ptr != end || !(value > 0 && value <= most))
-        Refuse(name, "a number above 0, up to " + std::to_string(std::lround(most)));
+    if (result.ec != std::errc() || result.ptr != end || !(value >= least && value <= most)) {
+        std::ostringstream range;
+        range << "a number from " << least << " to " << most;
+        Refuse(name, range.str());
+    }
     return value;
 }
 

@@ -46,8 +46,8 @@ public:
     std::vector<int> Integers(const char* name, int least, int most,
                               std::size_t maxCount = std::numeric_limits<std::size_t>::max());
 
-    // A number above 0, up to `most`; decimals allowed.
-    double PositiveNumber(const char* name, double most);
+    // Decimals allowed.
+    double Number(const char* name, double least, double most);
 
     // #RRGGBB (alpha 255) or #AARRGGBB.
     graphics::Argb Color(const char* name);

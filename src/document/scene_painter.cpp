@@ -1,9 +1,5 @@
 #include "document/scene_painter.h"
 
-#include <algorithm>
-#include <cmath>
-#include <vector>
-
 #include "graphics/checkerboard.h"
 #include "graphics/drawing_context.h"
 
@@ -19,35 +15,22 @@ constexpr Argb kPageShadow = MakeArgb(255, 128, 128, 128);
 constexpr float kShadowWidth = 20;
 constexpr Argb kPageFrame = MakeArgb(200, 0, 0, 0);
 
-struct PagePlace {
-    float Left = 0;  // scene pixels
-    float Top = 0;
-    int Width = 0;
-    int Height = 0;
-};
-
-PagePlace PlaceOnScene(const Bitmap& canvas, const View& view) {
-    const int width = static_cast<int>(canvas.Width() * view.Zoom);
-    const int height = static_cast<int>(canvas.Height() * view.Zoom);
-    return {static_cast<float>((view.SceneWidth - width) * ScrollRatio(view.HorizontalScroll)),
-            static_cast<float>((view.SceneHeight - height) * ScrollRatio(view.VerticalScroll)),
-            width, height};
+RectF ToRectF(const RectI& rect) {
+    return {static_cast<float>(rect.X), static_cast<float>(rect.Y), static_cast<float>(rect.Width),
+            static_cast<float>(rect.Height)};
 }
 
-void DrawPageBackground(Bitmap& scene, Argb background, const RectF& page, float halfZoom) {
+void DrawPageBackground(Bitmap& scene, Argb background, const RectI& page) {
     DrawingContext context(scene);
+    const RectF rect = ToRectF(page);
     if (background != 0)
-        context.FillRectangle(SolidBrush{background}, page);
+        context.FillRectangle(SolidBrush{background}, rect);
     else
-        DrawCheckerboard(scene,
-                         {static_cast<int>(std::ceil(page.X)), static_cast<int>(std::ceil(page.Y)),
-                          static_cast<int>(page.Width), static_cast<int>(page.Height)},
-                         kCheckerDark, kCheckerLight);
+        DrawCheckerboard(scene, page, kCheckerDark, kCheckerLight);
     const SolidBrush shadow{kPageShadow};
+    context.FillRectangle(shadow, {rect.X + rect.Width, rect.Y, kShadowWidth, rect.Height});
     context.FillRectangle(shadow,
-                          {page.X + page.Width - halfZoom, page.Y, kShadowWidth, page.Height});
-    context.FillRectangle(shadow, {page.X, page.Y + page.Height - halfZoom,
-                                   page.Width + kShadowWidth - halfZoom, kShadowWidth});
+                          {rect.X, rect.Y + rect.Height, rect.Width + kShadowWidth, kShadowWidth});
 }
 
 }  // namespace
@@ -62,26 +45,22 @@ void DrawScene(Bitmap& scene, const Bitmap& canvas, Argb background, const View&
     context.SetInterpolationMode(InterpolationMode::NearestNeighbor);
     context.Clear(kSceneColor);
 
-    const auto [left, top, width, height] = PlaceOnScene(canvas, view);
-    const auto pageWidth = static_cast<float>(width);
-    const auto pageHeight = static_cast<float>(height);
-
-    // The background lies half a page pixel to the lower right of the picture
-    // (docs/oddities.md, "Half a pixel").
-    const auto halfZoom = static_cast<float>(RoundToEven(view.Zoom / 2));
-    DrawPageBackground(scene, background, {left + halfZoom, top + halfZoom, pageWidth, pageHeight},
-                       halfZoom);
-    context.DrawRectangle({SolidBrush{kPageFrame}, 1}, {left, top, pageWidth + 1, pageHeight + 1});
+    const RectI page = PageOnScene(canvas, view);
+    const RectF rect = ToRectF(page);
+    DrawPageBackground(scene, background, page);
+    context.DrawRectangle({SolidBrush{kPageFrame}, 1},
+                          {rect.X - 1, rect.Y - 1, rect.Width + 1, rect.Height + 1});
 
     context.SetPixelOffsetMode(PixelOffsetMode::HighQuality);
-    context.DrawImageRectRectI(canvas, PageOnScene(canvas, view),
-                               {0, 0, canvas.Width(), canvas.Height()});
-    selection.DrawShade(context, {left, top, pageWidth, pageHeight}, {}, view.Zoom);
+    context.DrawImageRectRectI(canvas, page, {0, 0, canvas.Width(), canvas.Height()});
+    selection.DrawShade(context, rect, {}, view.Zoom);
 }
 
 RectI PageOnScene(const Bitmap& canvas, const View& view) {
-    const PagePlace page = PlaceOnScene(canvas, view);
-    return {static_cast<int>(page.Left), static_cast<int>(page.Top), page.Width, page.Height};
+    return {PageOffset(view.HorizontalScroll, view.SceneWidth, canvas.Width(), view.Zoom),
+            PageOffset(view.VerticalScroll, view.SceneHeight, canvas.Height(), view.Zoom),
+            static_cast<int>(canvas.Width() * view.Zoom),
+            static_cast<int>(canvas.Height() * view.Zoom)};
 }
 
 std::optional<RectI> ObjectFrame(const Page& page, const View& view) {

@@ -20,7 +20,7 @@ inline constexpr graphics::Argb kSceneColor = graphics::MakeArgb(255, 110, 110, 
 void DrawScene(graphics::Bitmap& scene, const graphics::Bitmap& canvas, graphics::Argb background,
                const View& view, const Selection& selection);
 
-// Where the composed page lies on the scene, scene pixels; its corner truncated to whole ones.
+// Where the composed page lies on the scene, scene pixels; its sides truncated to whole ones.
 graphics::RectI PageOnScene(const graphics::Bitmap& canvas, const View& view);
 
 // Where the outline around the selected layer stands, in scene pixels: two pixels outside the layer

@@ -47,7 +47,7 @@ void UndoHistory::PushSnapshot(Document& document, std::string_view name) {
     const auto slot = static_cast<std::size_t>(place_.UndoIndex);
     if (slots_.size() <= slot)
         slots_.resize(slot + 1);
-    slots_[slot] = {document.Master, document.Background, name};
+    slots_[slot] = {document.Master, document.Background, name, document.Modified};
     ++place_.UndoCount;
     ++place_.UndoIndex;
     document.Modified = true;
@@ -78,6 +78,17 @@ bool UndoHistory::Redo(Document& document) {
     --place_.RedoCount;
     Restore(document, after);
     return true;
+}
+
+void UndoHistory::TakeBack(Document& document) {
+    if (place_.UndoIndex == 0)
+        return;
+    const auto slot = static_cast<std::size_t>(place_.UndoIndex) - 1;
+    Snapshot before = slots_[slot];
+    Restore(document, before);
+    document.Modified = before.Modified;
+    --place_.UndoIndex;
+    TruncateRedo();
 }
 
 void UndoHistory::ClearHistory() {

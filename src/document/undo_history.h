@@ -48,6 +48,10 @@ public:
     // Brings back the pages that the last Undo left. False: nothing to redo.
     bool Redo(Document& document);
 
+    // The last step, which has only begun, never was: brings back the document as it was before it,
+    // marked as changed or not as it was then. Nothing is kept for Redo.
+    void TakeBack(Document& document);
+
     void ClearHistory();
 
     // For a command that fails halfway: `Place` is where the history stood before it, RollBack goes
@@ -67,6 +71,7 @@ private:
         Page Master;
         graphics::Argb Background = 0;
         std::string_view Next = {};  // the step that leads from here to the next one
+        bool Modified = false;       // when that step began
     };
 
     static void Restore(Document& document, Snapshot& snapshot);

@@ -14,12 +14,16 @@ double ScrollRatio(const ScrollBar& bar) {
     return bar.Max == 0 ? 0 : RoundToTenth(static_cast<double>(bar.Value) / bar.Max);
 }
 
-double PageOffsetX(const Page& page, const View& view) {
-    return ScrollRatio(view.HorizontalScroll) * (view.SceneWidth - page.Width * view.Zoom);
+int PageOffset(const ScrollBar& bar, int scene, int page, double zoom) {
+    return static_cast<int>(ScrollRatio(bar) * (scene - page * zoom));
 }
 
-double PageOffsetY(const Page& page, const View& view) {
-    return ScrollRatio(view.VerticalScroll) * (view.SceneHeight - page.Height * view.Zoom);
+int PageOffsetX(const Page& page, const View& view) {
+    return PageOffset(view.HorizontalScroll, view.SceneWidth, page.Width, view.Zoom);
+}
+
+int PageOffsetY(const Page& page, const View& view) {
+    return PageOffset(view.VerticalScroll, view.SceneHeight, page.Height, view.Zoom);
 }
 
 }  // namespace orbelle::document

@@ -9,14 +9,13 @@ namespace orbelle::document {
 struct ScrollBar {
     int Value = 5;
     int Max = 10;
-    int LargeChange = 0;
     bool Visible = false;
 };
 
 struct View {
     int SceneWidth = 1024;  // scene pixels
     int SceneHeight = 768;
-    double Zoom = 0;             // scene pixels per page pixel
+    double Zoom = 1;             // scene pixels per page pixel
     ScrollBar HorizontalScroll;  // horizontal
     ScrollBar VerticalScroll;    // vertical
     bool ViewActive = false;     // set once a document exists; nothing is painted before
@@ -29,9 +28,12 @@ double RoundToTenth(double value);
 // when Max is 0.
 double ScrollRatio(const ScrollBar& bar);
 
-// Where the page's top left corner lies, in scene pixels:
-// ScrollRatio x (scene size - page size x Zoom).
-double PageOffsetX(const Page& page, const View& view);
-double PageOffsetY(const Page& page, const View& view);
+// Where the page's top left corner lies, in scene pixels: ScrollRatio x (scene size - page size x
+// Zoom), truncated. All that is painted or hit on the scene goes by this corner.
+int PageOffsetX(const Page& page, const View& view);
+int PageOffsetY(const Page& page, const View& view);
+
+// The same along one side, for a page of that length on a scene of that length.
+int PageOffset(const ScrollBar& bar, int scene, int page, double zoom);
 
 }  // namespace orbelle::document

@@ -1,6 +1,7 @@
 #include "editing/adjust_sliders.h"
 
 #include "editing/layer_pixels.h"
+#include "editing/slider_positions.h"
 #include "editing/tips.h"
 #include "editing/undo_step.h"
 #include "filters/color_adjustments.h"
@@ -124,6 +125,17 @@ void ReleaseAdjustment(Editor& editor, Adjustment adjustment) {
     const AdjustmentParts parts = PartsOf(adjustment);
     editor.Page().Selected().*parts.Field = (editor.Sliders.*parts.Position).Value;
     EndDrag(editor);
+}
+
+void GiveUpSlider(Editor& editor) {
+    if (!std::holds_alternative<OpacityDrag>(editor.Drag) &&
+        !std::holds_alternative<AdjustmentDrag>(editor.Drag) &&
+        !std::holds_alternative<ScaleDrag>(editor.Drag))
+        return;
+    editor.History.TakeBack(editor.Document);
+    editor.Drag = {};
+    ShowSelectedLayer(editor);
+    NoteStack(editor.Changed);
 }
 
 }  // namespace orbelle::editing

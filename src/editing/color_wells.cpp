@@ -1,7 +1,6 @@
 #include "editing/color_wells.h"
 
-#include "document/scene_painter.h"
-#include "graphics/drawing_context.h"
+#include "editing/scene_mapping.h"
 
 namespace orbelle::editing {
 
@@ -33,8 +32,10 @@ void UseColorWell(Editor& editor, int well) {
 }
 
 void ChooseWellColor(Editor& editor, int well, Argb color) {
-    WellColor(editor, well) = graphics::SetAlphaByte(color, AlphaOfOpacity(editor));
     UseColorWell(editor, well);
+    if (editor.Sliders.ColorOpacity.Value == 0)
+        editor.Sliders.ColorOpacity.Value = editor.Sliders.ColorOpacity.Maximum;
+    WellColor(editor, well) = graphics::SetAlphaByte(color, AlphaOfOpacity(editor));
 }
 
 void SetWellColor(Editor& editor, int well, Argb color) {
@@ -54,20 +55,14 @@ void ExchangeColor(Editor& editor) {
 }
 
 void PickColor(Editor& editor, float x, float y) {
-    const int column = graphics::RoundToEven(x), row = graphics::RoundToEven(y);
-    if (column < 0 || row < 0 || column >= editor.View.SceneWidth || row >= editor.View.SceneHeight)
+    const document::View& view = editor.View;
+    if (x < 0 || y < 0 || x >= static_cast<float>(view.SceneWidth) ||
+        y >= static_cast<float>(view.SceneHeight))
         return;
-    // Only the one pixel of the scene is drawn.
-    graphics::Bitmap pixel(1, 1);
-    graphics::DrawingContext context(pixel);
-    context.SetInterpolationMode(graphics::InterpolationMode::NearestNeighbor);
-    context.SetPixelOffsetMode(graphics::PixelOffsetMode::HighQuality);
-    const graphics::Bitmap& canvas = editor.Canvas;
-    graphics::RectI page = document::PageOnScene(canvas, editor.View);
-    page.X -= column;
-    page.Y -= row;
-    context.DrawImageRectRectI(canvas, page, {0, 0, canvas.Width(), canvas.Height()});
-    SetWellColor(editor, editor.Tools.ActiveColor, *pixel.GetPixel(0, 0));
+    const graphics::PointF pixel = ScreenToPage(MappingOf(editor), x, y);
+    const auto color =
+        editor.Canvas.GetPixel(graphics::RoundToEven(pixel.X), graphics::RoundToEven(pixel.Y));
+    SetWellColor(editor, editor.Tools.ActiveColor, color.value_or(0));
 }
 
 }  // namespace orbelle::editing

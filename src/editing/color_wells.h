@@ -8,7 +8,8 @@ namespace orbelle::editing {
 // A click: the well is in use.
 void UseColorWell(Editor& editor, int well);
 
-// A colour from the colour dialog: the opacity slider gives its alpha, and the well is in use.
+// A colour from the colour dialog, in the well's own opacity, or opaque where that is 0. The well
+// is in use.
 void ChooseWellColor(Editor& editor, int well, graphics::Argb color);
 
 // Puts a colour with its alpha into a well.

@@ -1,14 +1,11 @@
 #include "editing/control_states.h"
 
-#include <cmath>
 #include <initializer_list>
 
 #include "editing/buttons.h"
 
 namespace orbelle::editing {
 namespace {
-
-constexpr int kLeastZoomPercent = 20;
 
 // Fills the table of states, topic by topic.
 class StateTable {
@@ -74,8 +71,7 @@ private:
         Enable({CommandId::ChooseTool, CommandId::OriginalSize, CommandId::PageBackground},
                editor_.DocumentExists);
         Enable({CommandId::ZoomIn}, editor_.DocumentExists && zoom < editor_.Zoom.Maximum);
-        Enable({CommandId::ZoomOut},
-               editor_.DocumentExists && std::lround(zoom * 100) != kLeastZoomPercent);
+        Enable({CommandId::ZoomOut}, editor_.DocumentExists && zoom > editor_.Zoom.Minimum);
     }
 
     template <std::size_t kCount>

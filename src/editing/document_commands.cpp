@@ -68,13 +68,8 @@ bool IsOfKind(const fs::path& path, FileKind kind) {
 
 void ResetView(Editor& editor) {
     editor.View.ViewActive = true;
-    editor.View.Zoom = 0;
-    editor.View.HorizontalScroll = {};
-    editor.View.VerticalScroll = {};
-    editor.Zoom.Maximum = ZoomState().Maximum;
-    editor.Zoom.SavedZoom = 1;
-    editor.Zoom.SavedHorizontal = {};
-    editor.Zoom.SavedVertical = {};
+    editor.Zoom = {};
+    StartZoomIn(editor);
 }
 
 void ClearStack(Editor& editor) {
@@ -100,11 +95,11 @@ void ShowPageSize(Editor& editor) {
 void ResetDocument(Editor& editor, int pageWidth, int pageHeight) {
     ClearStack(editor);
     SetTitle(editor, TitleOf({}));
-    ResetView(editor);
     editor.Document.Path.clear();
     editor.Document.Stamp = {};
     editor.Page().Width = pageWidth;
     editor.Page().Height = pageHeight;
+    ResetView(editor);
     ShowPageSize(editor);
     editor.Sliders.Opacity.Value = 0;
     editor.Sliders.Scale.Value = editor.Sliders.Scale.Neutral;
@@ -113,17 +108,6 @@ void ResetDocument(Editor& editor, int pageWidth, int pageHeight) {
     editor.DocumentExists = true;
     NoteStack(editor.Changed);
     editor.Changed.Tip = {tips::NewOrOpened};
-    StartZoomIn(editor);
-}
-
-void ShowScrollBar(document::ScrollBar& bar, int page, int scene) {
-    bar = {};
-    if (page <= scene)
-        return;
-    bar.Max = page - scene;
-    bar.Value = graphics::RoundToEven(bar.Max / 2.0);
-    bar.LargeChange = bar.Max;
-    bar.Visible = true;
 }
 
 // The document takes the place of the present one.
@@ -134,14 +118,8 @@ void ShowDocument(Editor& editor, document::Document&& document) {
     SetTitle(editor, TitleOf(editor.Document.Path));
     ResetView(editor);
     ShowPageSize(editor);
-    const document::Page& page = editor.Page();
-    if (page.LayerCount() >= 1) {
-        ShowSelectedLayer(editor);
-        ShowScrollBar(editor.View.HorizontalScroll, page.Width, editor.View.SceneWidth);
-        ShowScrollBar(editor.View.VerticalScroll, page.Height, editor.View.SceneHeight);
-    }
+    ShowSelectedLayer(editor);
     NoteStack(editor.Changed);
-    StartZoomIn(editor);
 }
 
 void OpenDocument(Editor& editor, const fs::path& path) {

@@ -20,6 +20,7 @@ inline constexpr char kProductName[] = "Varnel Orbelle";
 
 // What the zoom commands and the zoom animation remember; the zoom itself stands in the view.
 struct ZoomState {
+    double Minimum = 0.2;
     double Maximum = 20;
     bool IsOriginalSize = false;  // the button Original Size is pressed
     // The view that Original Size goes back to.

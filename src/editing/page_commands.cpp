@@ -95,6 +95,7 @@ void TakeBackPageSize(Editor& editor, const PageSizeDrag& drag) {
     editor.Zoom.PageSizeChanged = drag.PageSizeChanged;
     editor.View.HorizontalScroll = drag.HorizontalScroll;
     editor.View.VerticalScroll = drag.VerticalScroll;
+    FitScrollBars(editor);
     editor.Changed.Pixels = true;
     editor.Changed.Controls = true;
 }

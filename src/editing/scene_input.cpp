@@ -11,11 +11,6 @@ namespace {
 
 constexpr int kLeftButton = 1;
 
-// A page without extent on the scene has no pixel under the pointer.
-bool CanMap(const Editor& editor) {
-    return editor.View.Zoom != 0;
-}
-
 template <typename... Kinds>
 bool HoldsOneOf(const Drag& drag) {
     return (std::holds_alternative<Kinds>(drag) || ...);
@@ -54,7 +49,7 @@ void FollowPointer(Editor& editor, const Pointer& pointer) {
 }
 
 void PressLeft(Editor& editor, const Pointer& pointer) {
-    if (editor.Page().LayerCount() == 0 || !CanMap(editor))
+    if (editor.Page().LayerCount() == 0)
         return;
     HandlersOf(editor.Tools.InUse).Press(editor, pointer);
     // A polygon's point comes in as with a move.
@@ -92,7 +87,7 @@ void PressScene(Editor& editor, const Pointer& pointer) {
 
 void MoveScene(Editor& editor, const Pointer& pointer) {
     const bool stayed = graphics::PointF{pointer.X, pointer.Y} == editor.LastPointer;
-    if ((!stayed || editor.Tools.InUse == Tool::SelectPolygon) && CanMap(editor))
+    if (!stayed || editor.Tools.InUse == Tool::SelectPolygon)
         FollowPointer(editor, pointer);
 }
 
@@ -113,6 +108,11 @@ void LeaveScene(Editor& editor) {
 }
 
 void KeyDownScene(Editor& editor, SceneKey key) {
+    if (key == SceneKey::Delete) {
+        if (editor.States.IsEnabled(CommandId::Delete))
+            DeleteSelected(editor);
+        return;
+    }
     if (!editor.Page().HasSelection()) {
         editor.Changed.Tip = {tips::NothingToMove};
         return;
@@ -124,12 +124,8 @@ void KeyDownScene(Editor& editor, SceneKey key) {
             return Nudge(editor, 0, -1);
         case SceneKey::Right:
             return Nudge(editor, 1, 0);
-        case SceneKey::Down:
+        default:
             return Nudge(editor, 0, 1);
-        case SceneKey::Delete:
-            if (editor.States.IsEnabled(CommandId::Delete))
-                DeleteSelected(editor);
-            return;
     }
 }
 

@@ -1,5 +1,6 @@
 #include "editing/scene_mapping.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "document/view.h"
@@ -14,32 +15,16 @@ double PixelAt(double scene, double pageOffset, double layer, double zoom) {
     return std::floor((scene - pageOffset - layer * zoom) / zoom);
 }
 
-float ClampAxis(float value, int scene, int page, double ratio, double zoom) {
-    const double first = (scene - page * zoom) * ratio;
-    if (value < first)
-        return static_cast<float>(first);
-    const double last = page * zoom + first;
-    return value > last ? static_cast<float>(last) : value;
+float ClampAxis(float value, double first, double length) {
+    return static_cast<float>(std::clamp<double>(value, first, first + length));
 }
 
 }  // namespace
 
-SceneMapping MappingAtPress(const Editor& editor) {
-    return {
-        static_cast<double>(
-            graphics::RoundToEven(document::PageOffsetX(editor.Page(), editor.View))),
-        static_cast<double>(
-            graphics::RoundToEven(document::PageOffsetY(editor.Page(), editor.View))),
-        editor.View.Zoom,
-    };
-}
-
 SceneMapping MappingOf(const Editor& editor) {
-    return {
-        static_cast<float>(document::PageOffsetX(editor.Page(), editor.View)),
-        static_cast<float>(document::PageOffsetY(editor.Page(), editor.View)),
-        editor.View.Zoom,
-    };
+    return {static_cast<double>(document::PageOffsetX(editor.Page(), editor.View)),
+            static_cast<double>(document::PageOffsetY(editor.Page(), editor.View)),
+            editor.View.Zoom};
 }
 
 PointF ScreenToPage(const SceneMapping& mapping, float x, float y) {
@@ -52,11 +37,9 @@ PointF ScreenToLayer(const SceneMapping& mapping, const graphics::RectF& layer, 
 }
 
 PointF ClampToScene(const Editor& editor, float x, float y) {
-    const document::View& view = editor.View;
-    return {ClampAxis(x, view.SceneWidth, editor.Page().Width,
-                      document::ScrollRatio(view.HorizontalScroll), view.Zoom),
-            ClampAxis(y, view.SceneHeight, editor.Page().Height,
-                      document::ScrollRatio(view.VerticalScroll), view.Zoom)};
+    const SceneMapping mapping = MappingOf(editor);
+    return {ClampAxis(x, mapping.PageOffsetX, editor.Page().Width * mapping.Zoom),
+            ClampAxis(y, mapping.PageOffsetY, editor.Page().Height * mapping.Zoom)};
 }
 
 double Distance(PointF a, PointF b) {

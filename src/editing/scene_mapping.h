@@ -14,10 +14,6 @@ struct SceneMapping {
     double Zoom = 1;
 };
 
-// For a press: the corner rounded to whole scene pixels, ties to even
-// (docs/oddities.md, "Press and move").
-SceneMapping MappingAtPress(const Editor& editor);
-// For all other events: the corner as a 32-bit float.
 SceneMapping MappingOf(const Editor& editor);
 
 // The page pixel under a scene point; it may lie outside the page.

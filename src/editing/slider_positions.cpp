@@ -20,24 +20,16 @@ void SetAdjustSlidersNeutral(Editor& editor) {
                      document::kNeutralSaturation, document::kNeutralContrast);
 }
 
-void ShowLayerOpacity(Editor& editor) {
-    editor.Sliders.Opacity.Value = graphics::RoundToEven(editor.Page().Selected().Opacity * 100.0);
-}
-
-void ShowLayerSliders(Editor& editor) {
-    ShowLayerOpacity(editor);
-    Slider& scale = editor.Sliders.Scale;
-    scale.Label = editor.Page().Selected().ScaleValue;
-    // A file may hold any scale.
-    scale.Value =
-        scale.Clamped(std::clamp(scale.Label, -scale.Neutral, scale.Neutral) + scale.Neutral);
-}
-
 void ShowSelectedLayer(Editor& editor) {
     if (!editor.Page().HasSelection())
         return;
-    ShowLayerSliders(editor);
     const document::IconLayer& layer = editor.Page().Selected();
+    editor.Sliders.Opacity.Value = graphics::RoundToEven(layer.Opacity * 100.0);
+    Slider& scale = editor.Sliders.Scale;
+    scale.Label = layer.ScaleValue;
+    // A file may hold any scale.
+    scale.Value =
+        scale.Clamped(std::clamp(scale.Label, -scale.Neutral, scale.Neutral) + scale.Neutral);
     SetAdjustSliders(editor, layer.Hue, layer.Brightness, layer.Saturation, layer.Contrast);
 }
 

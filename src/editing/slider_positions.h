@@ -10,13 +10,7 @@ namespace orbelle::editing {
 void SetAdjustSliders(Editor& editor, int hue, int brightness, int saturation, int contrast);
 void SetAdjustSlidersNeutral(Editor& editor);
 
-// Opacity and scale from the selected layer.
-void ShowLayerSliders(Editor& editor);
-
 // All six from the selected layer; with none selected they keep their places.
 void ShowSelectedLayer(Editor& editor);
-
-// Opacity alone: what a style shows of its layer.
-void ShowLayerOpacity(Editor& editor);
 
 }  // namespace orbelle::editing

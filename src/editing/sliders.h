@@ -33,10 +33,10 @@ struct Sliders {
     Slider PageWidth{1, 1, document::kMaxPageSide, 1};  // page pixels
     Slider PageHeight{1, 1, document::kMaxPageSide, 1};
 
-    Slider ColorOpacity{0, 0, 100, 100};  // of the colour in use
-    Slider LineWidth{1, 1, 255, 1};       // pixels
-    Slider BrushOpacity{1, 1, 100, 100};
-    Slider BrushSize{1, 1, 100, 1};
+    Slider ColorOpacity{100, 0, 100, 100};  // of the colour in use
+    Slider LineWidth{1, 1, 255, 1};         // pixels
+    Slider BrushOpacity{100, 1, 100, 100};
+    Slider BrushSize{10, 1, 100, 1};
 
     bool operator==(const Sliders&) const = default;
 };

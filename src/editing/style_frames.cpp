@@ -48,7 +48,7 @@ UnderlayLayers OpenUnderlay(Editor& editor, steps::Name step) {
 }
 
 void ShowStyle(Editor& editor) {
-    ShowLayerOpacity(editor);
+    ShowSelectedLayer(editor);
     NoteStack(editor.Changed);
 }
 

@@ -47,8 +47,10 @@ struct ToolSettings {
     Tool SelectionKind = Tool::SelectRectangle;  // that the Selection button stands for
     Tool EraserKind = Tool::PencilEraser;        // that the Erase button stands for
     editing::FillKind FillKind = editing::FillKind::Solid;
-    std::array<graphics::Argb, 2> Colors{};  // foreground, background
-    int ActiveColor = 0;                     // the one in use
+    // Foreground, background: black and white.
+    std::array<graphics::Argb, 2> Colors{graphics::MakeArgb(255, 0, 0, 0),
+                                         graphics::MakeArgb(255, 255, 255, 255)};
+    int ActiveColor = 0;  // the one in use
     Popup OpenPopup = Popup::None;
 
     bool operator==(const ToolSettings&) const = default;

@@ -47,6 +47,10 @@ void UseTool(Editor& editor, Tool tool) {
     editor.Overlays.RubberBand.Visible = false;
     editor.Tools.InUse = tool;
     editor.Overlays.PointerMark.IsOval = tool == Tool::BrushEraser;
+    if (tool == Tool::Move)
+        editor.Overlays.PointerMark.Visible = false;
+    if (!IsSelectionTool(tool))
+        editor.Overlays.SelectionFrame.Visible = false;
     editor.Changed.Scene |= editor.Page().LayerCount() > 0;
 }
 
@@ -58,14 +62,10 @@ void UseSelectionTool(Editor& editor) {
 
 void ChooseTool(Editor& editor, Tool tool) {
     UseTool(editor, tool);
-    if (tool == Tool::Move) {
-        editor.Overlays.SelectionFrame.Visible = false;
-        editor.Overlays.PointerMark.Visible = false;
-    } else if (IsSelectionTool(tool)) {
+    if (IsSelectionTool(tool))
         UseSelectionTool(editor);
-    } else {
+    else if (tool != Tool::Move)
         editor.Selection.Clear();
-    }
     if (IsEraser(tool))
         editor.Sliders.ColorOpacity.Value = 0;
     if (tool != Tool::PencilEraser)
@@ -117,7 +117,11 @@ void ChooseEraser(Editor& editor, Tool tool) {
 }
 
 void ChooseToolEntry(Editor& editor, Tool tool) {
+    if (!editor.States.ToolBox[static_cast<std::size_t>(ButtonOf(tool))].Enabled)
+        return;
     UseTool(editor, tool);
+    ShowColorOpacity(editor);
+    editor.Tools.OpenPopup = Popup::None;
 }
 
 void ChangeLineWidth(Editor& editor, int value) {

@@ -11,28 +11,8 @@ using document::ScrollBar;
 
 namespace {
 
-void Centre(ScrollBar& bar) {
-    bar.Value = graphics::RoundToEven(bar.Max / 2.0);
-}
-
-// A bar for a page that is larger than the scene; one for a page that fits stays, or is hidden.
-void FitBar(ScrollBar& bar, double page, int scene, bool mayHide) {
-    if (page > scene) {
-        bar.Max = static_cast<int>(page - scene);
-        bar.Visible = true;
-    } else if (mayHide) {
-        bar.Visible = false;
-    }
-    Centre(bar);
-}
-
-void FitBars(Editor& editor, bool mayHide) {
-    document::View& view = editor.View;
-    FitBar(view.HorizontalScroll, editor.Page().Width * view.Zoom, view.SceneWidth, mayHide);
-    FitBar(view.VerticalScroll, editor.Page().Height * view.Zoom, view.SceneHeight, mayHide);
-}
-
-void KeepScrolled(ScrollBar& bar, double page, int scene) {
+// A bar for a page that is larger than the scene, as far along as before.
+void FitBar(ScrollBar& bar, double page, int scene) {
     const int room = static_cast<int>(page - scene);
     if (room < 1) {
         bar = {};
@@ -44,7 +24,24 @@ void KeepScrolled(ScrollBar& bar, double page, int scene) {
     bar.Visible = true;
 }
 
+// The page's middle in the middle of the scene.
+void CentrePage(Editor& editor) {
+    editor.View.HorizontalScroll = editor.View.VerticalScroll = {};
+    FitScrollBars(editor);
+}
+
+void ZoomTo(Editor& editor, double zoom) {
+    // Steps of a fifth must not drift.
+    constexpr double kExact = 1000;
+    editor.View.Zoom =
+        std::clamp(std::round(zoom * kExact) / kExact, editor.Zoom.Minimum, editor.Zoom.Maximum);
+    CentrePage(editor);
+    editor.Changed.Scene = true;
+}
+
 void Scroll(Editor& editor, ScrollBar& bar, int value) {
+    if (!bar.Visible)
+        return;
     bar.Value = std::clamp(value, 0, bar.Max);
     editor.Changed.Scene = true;
 }
@@ -60,8 +57,8 @@ void ScrollTo(ScrollBar& bar, double pagePlace, double scenePlace, double page, 
 
 void ZoomAt(Editor& editor, float x, float y, void (*zoomStep)(Editor&)) {
     document::View& view = editor.View;
-    if (!editor.DocumentExists || view.Zoom <= 0)
-        return zoomStep(editor);
+    if (!editor.DocumentExists)
+        return;
     const document::Page& page = editor.Page();
     const double pageX = (x - document::PageOffsetX(page, view)) / view.Zoom;
     const double pageY = (y - document::PageOffsetY(page, view)) / view.Zoom;
@@ -71,32 +68,24 @@ void ZoomAt(Editor& editor, float x, float y, void (*zoomStep)(Editor&)) {
     editor.Changed.Scene = true;
 }
 
-// The zoom at which the page's larger side fills the scene, in tenths.
+// The zoom at which the page fills the scene along the side that is tighter, in tenths.
 double FitZoom(const Editor& editor) {
     constexpr double kMargin = 4;
-    const document::Page& page = editor.Page();
-    const double zoom = page.Width <= page.Height
-                            ? (editor.View.SceneHeight - kMargin) / page.Height
-                            : (editor.View.SceneWidth - kMargin) / page.Width;
-    return std::min<double>(document::RoundToTenth(zoom), editor.Zoom.Maximum);
+    const double width = (editor.View.SceneWidth - kMargin) / editor.Page().Width;
+    const double height = (editor.View.SceneHeight - kMargin) / editor.Page().Height;
+    return std::clamp(document::RoundToTenth(std::min(width, height)), editor.Zoom.Minimum,
+                      editor.Zoom.Maximum);
 }
 
 void EnterOriginalSize(Editor& editor) {
-    document::View& view = editor.View;
     ZoomState& zoom = editor.Zoom;
-    zoom.SavedZoom = view.Zoom;
-    zoom.SavedHorizontal = view.HorizontalScroll;
-    zoom.SavedVertical = view.VerticalScroll;
-    view.Zoom = 1;
-    view.HorizontalScroll.Visible = view.SceneWidth < editor.Page().Width;
-    view.VerticalScroll.Visible = view.SceneHeight < editor.Page().Height;
-    Centre(view.HorizontalScroll);
-    Centre(view.VerticalScroll);
-    editor.Changed.Scene = true;
+    zoom.SavedZoom = editor.View.Zoom;
+    zoom.SavedHorizontal = editor.View.HorizontalScroll;
+    zoom.SavedVertical = editor.View.VerticalScroll;
+    ZoomTo(editor, 1);
 }
 
 void LeaveOriginalSize(Editor& editor) {
-    document::View& view = editor.View;
     ZoomState& zoom = editor.Zoom;
     if (zoom.SavedZoom == 1 || zoom.PageSizeChanged) {
         zoom.SavedZoom = FitZoom(editor);
@@ -106,9 +95,10 @@ void LeaveOriginalSize(Editor& editor) {
     }
     if (zoom.SavedZoom == 1)
         return;
-    view.HorizontalScroll = zoom.SavedHorizontal;
-    view.VerticalScroll = zoom.SavedVertical;
-    view.Zoom = zoom.SavedZoom;
+    editor.View.Zoom = zoom.SavedZoom;
+    editor.View.HorizontalScroll = zoom.SavedHorizontal;
+    editor.View.VerticalScroll = zoom.SavedVertical;
+    FitScrollBars(editor);
     editor.Changed.Scene = true;
 }
 
@@ -117,13 +107,14 @@ void LeaveOriginalSize(Editor& editor) {
 void ResizeScene(Editor& editor, int width, int height) {
     editor.View.SceneWidth = width;
     editor.View.SceneHeight = height;
+    FitScrollBars(editor);
     editor.Changed.Scene = true;
 }
 
 void FitScrollBars(Editor& editor) {
     document::View& view = editor.View;
-    KeepScrolled(view.HorizontalScroll, editor.Page().Width * view.Zoom, view.SceneWidth);
-    KeepScrolled(view.VerticalScroll, editor.Page().Height * view.Zoom, view.SceneHeight);
+    FitBar(view.HorizontalScroll, editor.Page().Width * view.Zoom, view.SceneWidth);
+    FitBar(view.VerticalScroll, editor.Page().Height * view.Zoom, view.SceneHeight);
 }
 
 void ScrollHorizontally(Editor& editor, int value) {
@@ -138,26 +129,17 @@ void ZoomIn(Editor& editor) {
     if (!editor.States.IsEnabled(CommandId::ZoomIn))
         return;
     editor.Zoom.IsOriginalSize = false;
-    double& zoom = editor.View.Zoom;
-    zoom += zoom < 1 ? 0.2 : 2;
-    if (zoom >= editor.Zoom.Maximum) {
-        // The last step shows with the next change (docs/oddities.md, "The last zoom step").
-        zoom = editor.Zoom.Maximum;
-        return;
-    }
-    FitBars(editor, false);
-    editor.Changed.Scene = true;
+    const double zoom = editor.View.Zoom;
+    ZoomTo(editor, zoom + (zoom < 1 ? 0.2 : 2));
 }
 
 void ZoomOut(Editor& editor) {
     if (!editor.States.IsEnabled(CommandId::ZoomOut))
         return;
     editor.Zoom.IsOriginalSize = false;
-    double& zoom = editor.View.Zoom;
-    // Reaches 0 and goes below it; the page is then empty (docs/oddities.md, "Zoom 0").
-    zoom -= zoom >= 2 || zoom <= 0 ? 2 : 0.2;
-    FitBars(editor, true);
-    editor.Changed.Scene = true;
+    const double zoom = editor.View.Zoom;
+    const double next = zoom - (zoom >= 2 ? 2 : 0.2);
+    ZoomTo(editor, zoom > 1 ? std::max(next, 1.0) : next);
 }
 
 void OriginalSize(Editor& editor) {
@@ -179,19 +161,15 @@ void ZoomOutAt(Editor& editor, float x, float y) {
 }
 
 void StartZoomIn(Editor& editor) {
-    editor.View.Zoom = 0;
     editor.Zoom.IsAnimated = true;
+    editor.Zoom.IsOriginalSize = false;
+    ZoomTo(editor, editor.Zoom.Minimum);
 }
 
 void TickZoomAnimation(Editor& editor) {
     constexpr double kStep = 0.2, kTarget = 1;
-    double& zoom = editor.View.Zoom;
-    zoom = document::RoundToTenth(zoom + kStep);
-    if (zoom >= kTarget) {
-        zoom = kTarget;
-        editor.Zoom.IsAnimated = false;
-    }
-    editor.Changed.Scene = true;
+    ZoomTo(editor, std::min(editor.View.Zoom + kStep, kTarget));
+    editor.Zoom.IsAnimated = editor.View.Zoom < kTarget;
 }
 
 }  // namespace orbelle::editing

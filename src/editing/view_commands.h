@@ -5,24 +5,25 @@
 
 namespace orbelle::editing {
 
-// The scene has a new size in scene pixels (each at least 1).
+// The scene has a new size in scene pixels (each at least 1). The page stays scrolled as far as
+// before.
 void ResizeScene(Editor& editor, int width, int height);
 
 // The bars as the page's size asks for, scrolled as far as before; one of a page that fits is
 // hidden and in its middle.
 void FitScrollBars(Editor& editor);
 
-// The user moved a scroll bar to `value` (0 to its Max).
+// The user moved a scroll bar to `value` (0 to its Max). Nothing happens to a page that fits.
 void ScrollHorizontally(Editor& editor, int value);
 void ScrollVertically(Editor& editor, int value);
 
-// Each only while it is enabled. Zoom In: 0.2 more below 1, else 2 more, up to the maximum, which
-// is set without a redraw. Zoom Out: 2 less from 2 on and at 0 or below, else 0.2 less, down to
-// 0.2.
+// Each only while it is enabled. Zoom In: 0.2 more below 1, else 2 more, up to the maximum. Zoom
+// Out: 2 less from 2 on, else 0.2 less, down to the minimum; on the way it stops at 1. The page's
+// middle comes into the middle.
 void ZoomIn(Editor& editor);
 void ZoomOut(Editor& editor);
-// A toggle: to zoom 1; back to the zoom before, or to one that fits the page to the window when
-// that was 1 or the page was resized since.
+// A toggle: to zoom 1; back to the zoom before, or to one at which the whole page fits the window
+// when that was 1 or the page was resized since.
 void OriginalSize(Editor& editor);
 
 // Zoom In or Out with the page pixel under a scene point staying there as near as scrolling in
@@ -30,10 +31,10 @@ void OriginalSize(Editor& editor);
 void ZoomInAt(Editor& editor, float x, float y);
 void ZoomOutAt(Editor& editor, float x, float y);
 
-// Sets Zoom to 0 and begins the animation up to 1.
+// Sets the least zoom and begins the animation up to 1.
 void StartZoomIn(Editor& editor);
 
-// One tick of the zoom animation.
+// One tick of the zoom animation, 0.2 more.
 void TickZoomAnimation(Editor& editor);
 
 }  // namespace orbelle::editing

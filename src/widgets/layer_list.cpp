@@ -68,9 +68,23 @@ LayerList::LayerList(QWidget* parent) : QAbstractScrollArea(parent) {
     FitScrollBar();
 }
 
-void LayerList::SetSelectedIndex(int index) {
-    selectedIndex_ = std::max(index, -1);
+void LayerList::Select(int layer) {
+    selectedIndex_ = std::max(layer, -1);
     viewport()->update();
+}
+
+void LayerList::SetSelectedIndex(int index) {
+    const bool changes = index != selectedIndex_;
+    Select(index);
+    const int row = FocusedPart();
+    if (!changes || row < 0)
+        return;
+    const QRect place = RowPlace(row);
+    QScrollBar& bar = *verticalScrollBar();
+    if (place.top() < 0)
+        bar.setValue(bar.value() + place.top());
+    else if (place.bottom() >= viewport()->height())
+        bar.setValue(bar.value() + place.bottom() + 1 - viewport()->height());
 }
 
 void LayerList::SetRows(std::vector<LayerRow> rows) {
@@ -159,9 +173,10 @@ void LayerList::resizeEvent(QResizeEvent*) {
 void LayerList::mousePressEvent(QMouseEvent* event) {
     for (int row = 0; row < Count(); ++row)
         if (RowPlace(row).contains(event->pos()))
-            SetSelectedIndex(LayerOfRow(row));
+            Select(LayerOfRow(row));
     AnnounceFocus(*this, FocusedPart());
     emit Clicked(event->button(), event->modifiers(), event->pos());
+    emit Picked();
 }
 
 void LayerList::mouseDoubleClickEvent(QMouseEvent* event) {
@@ -173,12 +188,6 @@ void LayerList::SelectRow(int row) {
     if (LayerOfRow(row) == selectedIndex_)
         return;
     SetSelectedIndex(LayerOfRow(row));
-    const QRect place = RowPlace(row);
-    QScrollBar& bar = *verticalScrollBar();
-    if (place.top() < 0)
-        bar.setValue(bar.value() + place.top());
-    else if (place.bottom() >= viewport()->height())
-        bar.setValue(bar.value() + place.bottom() + 1 - viewport()->height());
     AnnounceFocus(*this, row);
     emit Clicked(Qt::LeftButton, Qt::NoModifier, RowPlace(row).center());
 }

@@ -28,6 +28,7 @@ public:
     explicit LayerList(QWidget* parent = nullptr);
 
     int SelectedIndex() const { return selectedIndex_; }  // a layer's index, 0 the bottom; -1: none
+    // Scrolls to a row that was not selected before.
     void SetSelectedIndex(int index);
 
     // One for each layer, from the bottom up.
@@ -49,6 +50,8 @@ signals:
     // A press on the list, after the selection has followed it; also below the last row. Keys that
     // move the selection raise it as a left press in the middle of the row.
     void Clicked(Qt::MouseButton button, Qt::KeyboardModifiers modifiers, const QPoint& position);
+    // After Clicked, by the mouse alone: the keys may go elsewhere.
+    void Picked();
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -68,6 +71,7 @@ private:
     void PaintText(QPainter& painter, const QRect& row, const QString& name,
                    const QString& opacity) const;
     void SelectRow(int row);
+    void Select(int layer);
 
     // By layer index. Thumbnails are the images that shrink, in screen pixels; null until painted.
     std::vector<LayerRow> rows_;

@@ -5,10 +5,9 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPainterPath>
+#include <QRegularExpressionValidator>
 #include <algorithm>
-#include <climits>
-#include <cmath>
-#include <optional>
+#include <utility>
 
 #include "widgets/chrome.h"
 
@@ -20,15 +19,8 @@ constexpr QSize kSize(92, 24);
 constexpr int kButtonWidth = 18;
 constexpr int kRepeatDelay = 400;    // milliseconds
 constexpr int kRepeatInterval = 60;  // milliseconds
-
-// Nothing when the text is no number, or one beyond the whole numbers that we count with.
-std::optional<int> NumberIn(const QString& text) {
-    bool isNumber = false;
-    const double number = std::nearbyint(text.trimmed().toDouble(&isNumber));
-    if (!isNumber || !(number >= INT_MIN && number <= INT_MAX))
-        return std::nullopt;
-    return static_cast<int>(number);
-}
+constexpr int kPause = 1000;         // milliseconds; ends a run of keys
+constexpr int kMostDigits = 9;       // so many fit into an int
 
 void DrawTriangle(QPainter& painter, const QPointF& middle, double height) {
     QPainterPath triangle;
@@ -84,6 +76,8 @@ NumberSlider::NumberSlider(QWidget* parent)
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     field_->installEventFilter(this);
     field_->setFrame(false);
+    field_->setValidator(new QRegularExpressionValidator(
+        QRegularExpression(QString("[0-9]{0,%1}").arg(kMostDigits)), field_));
     field_->setAlignment(Qt::AlignCenter);
     field_->setAttribute(Qt::WA_MacShowFocusRect, false);
     QPalette colors = field_->palette();
@@ -97,9 +91,18 @@ NumberSlider::NumberSlider(QWidget* parent)
 
     connect(field_, &QLineEdit::textEdited, this, &NumberSlider::TakeText);
     connect(field_, &QLineEdit::editingFinished, this, &NumberSlider::CommitText);
+    connect(field_, &QLineEdit::returnPressed, this, [this] {
+        CommitText();
+        emit Finished();
+    });
     connect(track_, &SliderTrack::Pressed, this, [this] {
         CommitText();
+        valueBefore_ = value_;
         emit Pressed();
+    });
+    connect(track_, &SliderTrack::GivenUp, this, [this] {
+        ChangeTo(valueBefore_);
+        emit Released();
     });
     connect(track_, &SliderTrack::Dragged, this, [this](double x) {
         const SliderScale::Drag drag = scale_.DragTo(x);
@@ -109,10 +112,7 @@ NumberSlider::NumberSlider(QWidget* parent)
             track_->SetPlace(drag.Place);
     });
     connect(track_, &SliderTrack::Released, this, &NumberSlider::Released);
-    connect(track_, &SliderTrack::Stepped, this, [this](int direction) {
-        StartSpin(direction);
-        EndSpin();
-    });
+    connect(track_, &SliderTrack::Stepped, this, &NumberSlider::StepByKey);
 }
 
 NumberSlider::~NumberSlider() {
@@ -128,6 +128,7 @@ void NumberSlider::SetRange(int minValue, int maxValue) {
     minValue_ = minValue;
     scale_.MaxValue = most;
     track_->SetPlace(scale_.PlaceFromValue(value_));
+    update();
 }
 
 void NumberSlider::SetValue(int value) {
@@ -143,6 +144,7 @@ void NumberSlider::Store(int value) {
     if (field_->hasFocus())
         field_->selectAll();
     track_->SetPlace(scale_.PlaceFromValue(value));
+    update();  // an arrow that has come to its end
     QAccessibleValueChangeEvent event(this, value);
     QAccessible::updateAccessibility(&event);
 }
@@ -154,31 +156,51 @@ void NumberSlider::ChangeTo(int value) {
         emit Changed(value);
 }
 
-void NumberSlider::TakeText(const QString& text) {
-    const std::optional<int> number = NumberIn(text);
-    if (!number || *number == value_)
+void NumberSlider::TakeText() {
+    EndSteps();
+    typing_ = true;
+    bool isNumber = false;
+    const int number = field_->text().toInt(&isNumber);
+    if (!followsTyping_ || !isNumber || number == value_)
         return;
-    if (!typing_) {
-        typedFrom_ = value_;
-        emit Pressed();
-        typing_ = true;
-    }
-    value_ = *number;
-    track_->SetPlace(scale_.PlaceFromValue(value_));
-    emit Changed(value_);
+    value_ = number;
+    track_->SetPlace(scale_.PlaceFromValue(number));
+    emit Changed(number);
 }
 
 void NumberSlider::CommitTyping() {
-    if (typing_)
+    if (typing_ || stepping_)
         CommitText();
 }
 
 void NumberSlider::CommitText() {
-    field_->setText(QString::number(value_));
-    if (typing_) {
-        typing_ = false;
-        emit Released();
+    EndSteps();
+    bool isNumber = false;
+    const int number = field_->text().toInt(&isNumber);
+    if (!std::exchange(typing_, false) || !isNumber || number == value_) {
+        field_->setText(QString::number(value_));
+        return;
     }
+    emit Pressed();
+    ChangeTo(number);
+    emit Released();
+}
+
+void NumberSlider::StepByKey(int direction) {
+    if (!stepping_) {
+        CommitText();
+        valueBefore_ = value_;
+        emit Pressed();
+        stepping_ = true;
+    }
+    Spin(direction);
+    pause_.start(kPause, this);
+}
+
+void NumberSlider::EndSteps() {
+    pause_.stop();
+    if (std::exchange(stepping_, false))
+        emit Released();
 }
 
 void NumberSlider::StartSpin(int direction) {
@@ -229,15 +251,14 @@ void NumberSlider::resizeEvent(QResizeEvent* event) {
     QWidget::resizeEvent(event);
 }
 
-// Escape belongs to a number that is being typed, Undo and Redo only then: the field would take
-// them always. True: the field is not to see it.
+// The field would take them all. Escape is ours; letters are never its own, Undo and Redo only
+// while a number is typed. True: the field is not to see it.
 bool NumberSlider::TakeShortcut(QKeyEvent& event) const {
-    if (typing_) {
-        event.setAccepted(event.key() == Qt::Key_Escape);
-        return event.isAccepted();
-    }
-    event.ignore();
-    return event.matches(QKeySequence::Undo) || event.matches(QKeySequence::Redo);
+    const bool isEscape = event.key() == Qt::Key_Escape;
+    const bool isLetter = !event.text().isEmpty() && event.text()[0].isLetter();
+    const bool isUndo = event.matches(QKeySequence::Undo) || event.matches(QKeySequence::Redo);
+    event.setAccepted(isEscape);
+    return isEscape || isLetter || (isUndo && !typing_);
 }
 
 bool NumberSlider::eventFilter(QObject* watched, QEvent* event) {
@@ -256,6 +277,7 @@ bool NumberSlider::eventFilter(QObject* watched, QEvent* event) {
 
 void NumberSlider::hideEvent(QHideEvent* event) {
     EndSpin();
+    EndSteps();
     QWidget::hideEvent(event);
 }
 
@@ -265,6 +287,7 @@ void NumberSlider::changeEvent(QEvent* event) {
         EndSpin();
     if (event->type() == QEvent::EnabledChange && !isEnabled()) {
         EndSpin();
+        EndSteps();
         track_->hide();
         update();
     }
@@ -293,6 +316,8 @@ void NumberSlider::mouseReleaseEvent(QMouseEvent* event) {
 }
 
 void NumberSlider::timerEvent(QTimerEvent* event) {
+    if (event->timerId() == pause_.timerId())
+        return EndSteps();
     if (event->timerId() != repeat_.timerId())
         return QWidget::timerEvent(event);
     Spin(spinning_);
@@ -301,9 +326,14 @@ void NumberSlider::timerEvent(QTimerEvent* event) {
 
 // What the field has no use for comes here.
 void NumberSlider::keyPressEvent(QKeyEvent* event) {
-    if (event->key() == Qt::Key_Escape && typing_) {
-        ChangeTo(typedFrom_);
+    if (event->key() == Qt::Key_Escape) {
+        // A dialog closes by the one that finds nothing to bring back.
+        event->setAccepted(typing_ || stepping_);
+        typing_ = false;
+        if (stepping_)
+            ChangeTo(valueBefore_);
         CommitText();
+        emit Finished();
         return;
     }
     const bool isUp = event->key() == Qt::Key_Up;
@@ -313,8 +343,7 @@ void NumberSlider::keyPressEvent(QKeyEvent* event) {
         track_->OpenAt(*this);
         return;
     }
-    StartSpin(isUp ? 1 : -1);
-    EndSpin();
+    StepByKey(isUp ? 1 : -1);
 }
 
 void NumberSlider::paintEvent(QPaintEvent*) {

@@ -21,19 +21,24 @@ public:
     int Value() const { return value_; }
     // Does not raise Changed. Values beyond the range are taken, as typed ones are.
     void SetValue(int value);
-    // Ends the typing of a number, as leaving the field does.
+    // Whether each digit that is typed counts at once, as for a preview.
+    void SetFollowsTyping(bool follows) { followsTyping_ = follows; }
+    // Ends the typing of a number and a run of keys, as leaving the field does.
     void CommitTyping();
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
 signals:
-    // The user typed, spun or dragged the value.
+    // The user typed, spun or dragged the value. A typed one counts when it is committed with
+    // Return or by leaving the field or the window.
     void Changed(int value);
-    // One gesture lies between these two: a drag on the track, a press of a spin arrow, a text
-    // until it is committed with Return or by leaving the field or the window.
+    // One gesture lies between these two: a drag on the track, a press of a spin arrow, keys that
+    // follow each other, a typed number.
     void Pressed();
     void Released();
+    // Return or Escape: the keys may go elsewhere.
+    void Finished();
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -51,8 +56,10 @@ private:
 
     QRect SpinRect(int direction) const;
     QRect OpenRect() const;
-    void TakeText(const QString& text);
+    void TakeText();
     void CommitText();
+    void StepByKey(int direction);
+    void EndSteps();
     bool TakeShortcut(QKeyEvent& event) const;
     void StartSpin(int direction);
     void EndSpin();
@@ -64,9 +71,12 @@ private:
     int minValue_ = 0;
     int value_ = 0;
     int spinning_ = 0;  // the arrow that is held: +1 or -1, 0 none
+    bool followsTyping_ = false;
     bool typing_ = false;
-    int typedFrom_ = 0;  // the value before the typing, which Escape brings back
+    bool stepping_ = false;  // by keys
+    int valueBefore_ = 0;    // a gesture, which Escape brings back
     QBasicTimer repeat_;
+    QBasicTimer pause_;
     QLineEdit* field_;
     SliderTrack* track_;
 };

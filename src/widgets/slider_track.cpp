@@ -4,6 +4,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QScreen>
+#include <utility>
 
 #include "widgets/chrome.h"
 #include "widgets/slider_scale.h"
@@ -100,6 +101,13 @@ void SliderTrack::keyPressEvent(QKeyEvent* event) {
         case Qt::Key_Up:
             emit Stepped(1);
             break;
+        case Qt::Key_Escape:
+            if (std::exchange(dragging_, false)) {
+                update();
+                emit GivenUp();
+                break;
+            }
+            [[fallthrough]];
         default:
             QWidget::keyPressEvent(event);
     }

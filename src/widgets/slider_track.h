@@ -25,6 +25,7 @@ signals:
     void Pressed();
     void Dragged(double x);
     void Released();
+    void GivenUp();  // by Escape, in place of the release
     // An arrow key: +1 or -1.
     void Stepped(int direction);
 

@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <climits>
 #include <cmath>
+#include <utility>
 
 #include "widgets/chrome.h"
 
@@ -19,6 +20,7 @@ constexpr QSize kThumbSize(10, 16);
 // How far a drag keeps the thumb away from the end of the track.
 constexpr int kDragStop = 5;
 constexpr int kWheelNotch = 120;
+constexpr int kPauseMilliseconds = 1000;  // ends a run
 
 }  // namespace
 
@@ -78,8 +80,10 @@ void TrackSlider::mousePressEvent(QMouseEvent* event) {
         return;
     }
     EndDrag();
+    EndRun();
     const QPoint place = event->position().toPoint();
     dragging_ = true;
+    valueBefore_ = value();
     emit Pressed();
     if (!ThumbRect().contains(place))
         DragThumb(place.x() - kThumbSize.width() / 2, place.x() < thumbLeft_ ? -1 : 1);
@@ -117,6 +121,24 @@ void TrackSlider::EndDrag() {
     emit Released();
 }
 
+// Also the release of a button that is still held tells nothing more.
+void TrackSlider::GiveUp() {
+    dragging_ = running_ = isOverThumb_ = false;
+    pause_.stop();
+    if (value() != valueBefore_) {
+        SetValue(valueBefore_);
+        emit Changed(valueBefore_);
+    }
+    emit GivenUp();
+    PlaceThumb();
+}
+
+void TrackSlider::EndRun() {
+    pause_.stop();
+    if (std::exchange(running_, false))
+        emit Released();
+}
+
 void TrackSlider::Step(int step) {
     const int before = value();
     if (dragging_)
@@ -125,10 +147,24 @@ void TrackSlider::Step(int step) {
         std::clamp(before + static_cast<long long>(step), 0LL + minimum(), 0LL + maximum()));
     if (next == before)
         return;
-    emit Pressed();
+    if (!running_) {
+        valueBefore_ = before;
+        emit Pressed();
+        running_ = true;
+    }
     SetValue(next);
     emit Changed(next);
-    emit Released();
+    pause_.start(kPauseMilliseconds, this);
+}
+
+// Escape belongs to a drag first.
+bool TrackSlider::event(QEvent* event) {
+    if (event->type() == QEvent::ShortcutOverride && (dragging_ || running_) &&
+        static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape) {
+        event->accept();
+        return true;
+    }
+    return QSlider::event(event);
 }
 
 void TrackSlider::keyPressEvent(QKeyEvent* event) {
@@ -147,12 +183,21 @@ void TrackSlider::keyPressEvent(QKeyEvent* event) {
             return Step(-INT_MAX);
         case Qt::Key_End:
             return Step(INT_MAX);
+        case Qt::Key_Escape:
+            if (dragging_ || running_)
+                return GiveUp();
+            [[fallthrough]];
         default:
             event->ignore();
     }
 }
 
 void TrackSlider::wheelEvent(QWheelEvent* event) {
+    // A page of sliders is scrolled by the wheel, not changed.
+    if (!hasFocus()) {
+        event->ignore();
+        return;
+    }
     // Fine wheels send parts of a notch.
     wheelRest_ += event->angleDelta().y();
     for (; wheelRest_ >= kWheelNotch; wheelRest_ -= kWheelNotch)
@@ -162,14 +207,33 @@ void TrackSlider::wheelEvent(QWheelEvent* event) {
     event->accept();
 }
 
+void TrackSlider::focusOutEvent(QFocusEvent* event) {
+    EndRun();
+    QSlider::focusOutEvent(event);
+}
+
+void TrackSlider::hideEvent(QHideEvent* event) {
+    EndRun();
+    QSlider::hideEvent(event);
+}
+
+void TrackSlider::timerEvent(QTimerEvent* event) {
+    if (event->timerId() == pause_.timerId())
+        EndRun();
+    else
+        QSlider::timerEvent(event);
+}
+
 void TrackSlider::resizeEvent(QResizeEvent* event) {
     QSlider::resizeEvent(event);
     PlaceThumb();
 }
 
 void TrackSlider::changeEvent(QEvent* event) {
-    if (event->type() == QEvent::EnabledChange && !isEnabled())
+    if (event->type() == QEvent::EnabledChange && !isEnabled()) {
         EndDrag();
+        EndRun();
+    }
     QSlider::changeEvent(event);
 }
 

@@ -318,7 +318,7 @@ TEST_F(AskCommandsTest, ChosenColorsArriveAndACancelledWellIsInUseAllTheSame) {
 
     AskWellColor(desk.Context, 1);
     EXPECT_EQ(desk.State.Tools.ActiveColor, 1);
-    EXPECT_EQ(desk.State.Tools.Colors[1], 0u);
+    EXPECT_EQ(desk.State.Tools.Colors[1], 0xFFFFFFFF);
     desk.Color = 0x00204060;
     AskWellColor(desk.Context, 0);
     EXPECT_EQ(desk.State.Tools.ActiveColor, 0);

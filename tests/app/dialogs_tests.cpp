@@ -2,11 +2,13 @@
 #include <gtest/gtest.h>
 
 #include <QDialogButtonBox>
+#include <QGuiApplication>
 #include <QImage>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QScreen>
 
 #include "app/color_well.h"
 #include "app/file_dialog.h"
@@ -238,6 +240,21 @@ TEST(SettingsTest, AMaximizedWindowLeavesTheStoredPlace) {
     QWidget next;
     RestoreMainWindow(next);
     EXPECT_TRUE(next.windowState() & Qt::WindowMaximized);
+}
+
+// Also at the screen's lower edge, where no room is left for a title bar that it has already.
+TEST(SettingsTest, AWindowComesBackToWhereItStood) {
+    const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+    const QRect stood(screen.right() - 499, screen.bottom() - 399, 500, 400);
+    Settings().clear();
+    for (const auto& [name, value] : {std::pair("MainLeft", stood.left()),
+                                      {"MainTop", stood.top()},
+                                      {"MainWidth", stood.width()},
+                                      {"MainHeight", stood.height()}})
+        Settings().setValue(name, value);
+    QWidget window;
+    RestoreMainWindow(window);
+    EXPECT_EQ(QRect(window.pos(), window.size()), stood);
 }
 
 TEST(FileDialogTest, FiltersTakeTheFormOfTheDialog) {

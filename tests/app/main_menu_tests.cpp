@@ -40,10 +40,21 @@ TEST_F(MainMenuTest, EntriesShowTheStatesOfTheirCommands) {
         for (const char* name : names)
             EXPECT_EQ(Entry(name).isEnabled(), enabled) << name;
     };
-    expect(false, {"Save", "SaveAs", "Export", "Undo", "Cut", "Crystal", "Origami"});
-    expect(true, {"New", "Open", "Import", "Exit", "Samples", "PencilTool"});
+    const auto& bar = *window.findChild<widgets::ButtonBar*>("MainBar");
+    const auto isEnabled = [&bar](const char* button) {
+        for (int part = 0; part < bar.PartCount(); ++part)
+            if (bar.PartName(part) == button)
+                return !bar.PartState(part).disabled;
+        return false;
+    };
+    expect(false, {"Save", "SaveAs", "Export", "Undo", "Cut", "Crystal", "Origami", "Fresh"});
+    expect(false, {"PencilTool", "LineTool", "EllipseTool", "RectangleTool"});
+    expect(true, {"New", "Open", "Import", "Exit", "Samples", "SelectionTool"});
+    EXPECT_FALSE(isEnabled("Save"));
+    EXPECT_TRUE(isEnabled("Import"));
     NewPage(16, 16, 0, 0);
-    expect(true, {"Save", "SaveAs", "Export", "Cut", "Crystal", "Origami"});
+    expect(true, {"Save", "SaveAs", "Export", "Cut", "Crystal", "Origami", "PencilTool"});
+    EXPECT_TRUE(isEnabled("Save"));
     expect(false, {"Undo", "Redo", "MergeDown", "ToBack", "ImageOpacity", "Grey"});
     window.Run([](editing::Editor& editor) { AddEmptyLayer(editor, 16, 16); });
     expect(true, {"Undo", "MergeDown", "ToBack"});

@@ -10,6 +10,7 @@
 #include <QFileDialog>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenu>
 #include <QMessageBox>
 #include <QMimeData>
 #include <QProgressDialog>
@@ -23,6 +24,7 @@
 
 #include "app/bottom_panel.h"
 #include "app/color_well.h"
+#include "app/new_icon_dialog.h"
 #include "app/save_prompt.h"
 #include "app/scene_view.h"
 #include "app/settings.h"
@@ -32,6 +34,7 @@
 #include "editing/color_wells.h"
 #include "editing/document_commands.h"
 #include "editing/layer_commands.h"
+#include "editing/page_commands.h"
 #include "editing/tips.h"
 #include "editing/undo_commands.h"
 #include "editing/view_commands.h"
@@ -391,8 +394,92 @@ TEST_F(MainWindowTest, TheLayerListFollowsAndSelects) {
     auto& list = Part<widgets::LayerList>("Layers");
     ASSERT_TRUE(WaitUntil([&] { return list.Count() == 2; }));
     EXPECT_EQ(list.SelectedIndex(), 1);
+    window.show();
+    window.activateWindow();
+    QApplication::processEvents();
+    Part<widgets::NumberSlider>("PageWidth").setFocus();
     Press(*list.viewport(), {20, 60});
     EXPECT_EQ(window.Editor().Page().SelectedLayer, 0);
+    EXPECT_EQ(QApplication::focusWidget(), &Scene()) << "Delete and the arrows are its keys";
+    Part<widgets::NumberSlider>("PageWidth").setFocus();
+    Strike(*QApplication::focusWidget(), Qt::Key_Return, "\r");
+    EXPECT_EQ(QApplication::focusWidget(), &Scene());
+}
+
+// However the wheel comes back, the picture does; Escape leaves no step.
+TEST_F(MainWindowTest, ARunOfTheWheelIsOneDragFromOneSnapshot) {
+    NewPage(4, 4);
+    window.Run([](editing::Editor& editor) {
+        editor.Page().Selected().Image = FilledPicture(4, 4, 0xFFF08010);
+        editor.Changed.Pixels = true;
+    });
+    window.show();
+    window.activateWindow();
+    QApplication::processEvents();
+    auto& slider = Part<widgets::TrackSlider>("Brightness");
+    const auto turn = [&](std::initializer_list<int> angles) {
+        for (const int angle : angles) {
+            QWheelEvent wheel({9, 9}, slider.mapToGlobal(QPointF(9, 9)), {}, {0, angle},
+                              Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+            QApplication::sendEvent(&slider, &wheel);
+        }
+    };
+    const auto color = [&] { return *Page().Selected().Image.GetPixel(1, 1); };
+    slider.setFocus();
+    turn({120, 120, 120});
+    EXPECT_EQ(Part<QLabel>("BrightnessValue").text(), "3");
+    EXPECT_NE(color(), 0xFFF08010);
+    turn({-120, -120, -120});
+    EXPECT_EQ(color(), 0xFFF08010);
+    Scene().setFocus();
+    EXPECT_EQ(window.Editor().History.UndoIndex(), 1);
+    window.Run(editing::Undo);
+    slider.setFocus();
+    turn({-120, -120});
+    Strike(slider, Qt::Key_Escape);
+    EXPECT_EQ(color(), 0xFFF08010);
+    EXPECT_EQ(slider.value(), 50);
+    EXPECT_EQ(window.Editor().History.UndoIndex(), 0);
+    EXPECT_TRUE(std::holds_alternative<std::monostate>(window.Editor().Drag));
+}
+
+TEST_F(MainWindowTest, ADragHasOneButton) {
+    NewPage(64, 64);
+    window.Run([](editing::Editor& editor) {
+        editor.Page().Selected().Image = FilledPicture(64, 64, 0xFFF08010);
+        editor.Page().Selected().Region = graphics::Region::FromRect({0, 0, 64, 64});
+    });
+    const auto mouse = [&](QEvent::Type type, QPointF place, Qt::MouseButton button,
+                           Qt::MouseButtons held) {
+        MouseOnPage(type, place, button, held, Qt::NoModifier);
+    };
+    const auto x = [&] { return Page().Layers[0].Rect.X; };
+    mouse(QEvent::MouseButtonPress, {9, 9}, Qt::LeftButton, Qt::LeftButton);
+    mouse(QEvent::MouseMove, {14, 9}, Qt::NoButton, Qt::LeftButton);
+    mouse(QEvent::MouseButtonPress, {14, 9}, Qt::RightButton, Qt::LeftButton | Qt::RightButton);
+    mouse(QEvent::MouseButtonRelease, {14, 9}, Qt::RightButton, Qt::LeftButton);
+    EXPECT_FALSE(window.findChild<QMenu*>("OrderMenu")->isVisible());
+    mouse(QEvent::MouseMove, {16, 9}, Qt::NoButton, Qt::LeftButton);
+    EXPECT_EQ(x(), 7);
+    // The release was lost.
+    mouse(QEvent::MouseMove, {20, 9}, Qt::NoButton, Qt::NoButton);
+    mouse(QEvent::MouseMove, {30, 9}, Qt::NoButton, Qt::NoButton);
+    EXPECT_EQ(x(), 7);
+    EXPECT_EQ(window.Editor().History.UndoIndex(), 1);
+}
+
+TEST_F(MainWindowTest, TheStatusLineFollowsWhatLiesUnderThePointer) {
+    NewPage(64, 64);
+    MouseOnPage(QEvent::MouseMove, {9, 5}, Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+    EXPECT_EQ(Part<QLabel>("PointerPosition").text(), "9, 5");
+    EXPECT_EQ(Part<QLabel>("PointerColor").text(), "#00000000");
+    window.Run([](editing::Editor& editor) {
+        editor.Page().Selected().Image = FilledPicture(64, 64, 0xFFF08010);
+        editor.Changed.Pixels = true;
+    });
+    EXPECT_EQ(Part<QLabel>("PointerColor").text(), "#FFF08010");
+    window.Run([](editing::Editor& editor) { SetPageSize(editor, 44, 64); });
+    EXPECT_EQ(Part<QLabel>("PointerPosition").text(), "-1, 5");
 }
 
 TEST_F(MainWindowTest, SlidersMirrorTheEditor) {
@@ -421,10 +508,11 @@ TEST_F(MainWindowTest, EachNumberOfAPageSliderIsOneStep) {
     };
     const auto steps = [&] { return window.Editor().History.UndoIndex(); };
     type("128");
-    EXPECT_EQ(Page().Width, 128);
-    EXPECT_TRUE(window.Editor().Document.Modified);
+    EXPECT_EQ(Page().Width, 48) << "not digit by digit";
     EXPECT_EQ(steps(), 0);
     Strike(field, Qt::Key_Return, "\r");
+    EXPECT_EQ(Page().Width, 128);
+    EXPECT_TRUE(window.Editor().Document.Modified);
     EXPECT_EQ(steps(), 1);
     type("60");
     ClickBar("ToolBox", 5);
@@ -436,15 +524,19 @@ TEST_F(MainWindowTest, EachNumberOfAPageSliderIsOneStep) {
     Strike(field, Qt::Key_Return, "\r");
     EXPECT_EQ(window.Editor().History.RedoCount(), 1) << "nothing was changed";
     Strike(field, Qt::Key_Up);
-    EXPECT_EQ(Page().Width, 129);
+    Strike(field, Qt::Key_Up);
+    EXPECT_EQ(Page().Width, 130);
+    ClickBar("ToolBox", 4);
     EXPECT_EQ(steps(), 2);
 
     NewPage(48, 32);  // so that nothing is to be saved
     OpenPicture(600, 20);
     type("9999");
+    Strike(field, Qt::Key_Return, "\r");
     EXPECT_EQ(field.text(), "600");
     NewPage(48, 32);
     type("600");
+    Strike(field, Qt::Key_Return, "\r");
     EXPECT_EQ(Page().Width, 512);
 }
 
@@ -496,7 +588,7 @@ TEST_F(MainWindowTest, SlidersOfTheRightPanelAreLabelled) {
     const std::tuple<std::string, const char*, Qt::Key, const char*> cases[] = {
         {"Opacity", "100%", Qt::Key_Left, "99%"}, {"Hue", "0", Qt::Key_Right, "1"},
         {"Saturation", "0", Qt::Key_Right, "1"},  {"Brightness", "0", Qt::Key_Left, "-1"},
-        {"Contrast", "0", Qt::Key_Right, "1"},
+        {"Contrast", "0", Qt::Key_Right, "1"},    {"Scale", "0", Qt::Key_Left, "-1"},
     };
     for (const auto& [name, neutral, key, stepped] : cases) {
         const auto& label = Part<QLabel>(name + "Value");
@@ -547,6 +639,32 @@ TEST_F(MainWindowTest, TheBrushPanelSlidesIn) {
     EXPECT_TRUE(WaitUntil([&] { return panel.isVisible() && panel.y() == 0; }));
     ClickBar("ToolBox", 4);
     EXPECT_TRUE(WaitUntil([&] { return !panel.isVisible(); }));
+}
+
+TEST_F(MainWindowTest, AFirstStartFindsAStartingSetWhichIsWrittenOnce) {
+    Settings().clear();
+    window.RestoreSettings();
+    const editing::Editor& editor = window.Editor();
+    EXPECT_EQ(editor.Tools.Colors[0], 0xFF000000);
+    EXPECT_EQ(editor.Tools.Colors[1], 0xFFFFFFFF);
+    EXPECT_EQ(editor.Sliders.BrushSize.Value, 10);
+    EXPECT_EQ(editor.Sliders.BrushOpacity.Value, 100);
+    EXPECT_TRUE(window.TipsEnabled());
+    for (const auto& [panel, closed] : {std::pair("OpacityPanel", false),
+                                        {"ColorPanel", false},
+                                        {"LayerPanel", false},
+                                        {"Properties", false},
+                                        {"SizePanel", true},
+                                        {"FilterPanel", true}})
+        EXPECT_EQ(Part<widgets::PanelHeader>(panel).IsClosed(), closed) << panel;
+    EXPECT_EQ(NewIconDialog().Size().Width, 256);
+    EXPECT_EQ(NewIconDialog().Size().Height, 256);
+
+    Settings().clear();
+    Settings().setValue("Height", 5);
+    window.RestoreSettings();
+    EXPECT_EQ(NewIconDialog().Size().Width, 0) << "there are settings";
+    EXPECT_FALSE(window.TipsEnabled());
 }
 
 // As another hand may have left them; what the program itself stores comes back in the real window.

@@ -48,7 +48,7 @@ TEST(ParseCallsTest, WrongArgumentsAreRefused) {
         {"gif-threshold", {"-1", "201"}, "T must be from 0 to 200"},
         {"zoom",
          {"0", "-1", "20.01", "nan", "inf", "1e1", "1x", "", "."},
-         "Z must be a number above 0, up to 20"},
+         "Z must be a number from 0.2 to 20"},
         {"foreground",
          {"", "#", "123456", "#12345", "#1234567", "#123456789", "#12345g", "#-12345", "#+12345",
           "#12 456"},

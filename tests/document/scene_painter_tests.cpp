@@ -51,23 +51,31 @@ TEST(View, ScrollRatiosAreTenths) {
 
     Shown large(300, 20, 1);
     large.view.HorizontalScroll.Value = 2;
-    EXPECT_DOUBLE_EQ(PageOffsetX(large.page, large.view), -40);
-    EXPECT_DOUBLE_EQ(PageOffsetY(large.page, large.view), 20);
+    EXPECT_EQ(PageOffsetX(large.page, large.view), -40);
+    EXPECT_EQ(PageOffsetY(large.page, large.view), 20);
+    large.view.HorizontalScroll.Value = 7;
+    large.page.Width = 103;
+    EXPECT_EQ(PageOffsetX(large.page, large.view), -2);  // 0.7 x -3, towards 0
+    large.view.Zoom = 0.7;
+    EXPECT_EQ(PageOffsetX(large.page, large.view), 19);  // 0.7 x 27.9
 }
 
 // The page of 40 x 20 lies at (30, 20) of the scene.
 TEST(DrawScene, ShowsCheckerShadowAndFrameAroundThePage) {
     Shown shown(40, 20, 1);
-    shown.ExpectPixels({{29, 30, kSceneColor}, {90, 30, kSceneColor}, {80, 19, kSceneColor}});
+    shown.ExpectPixels({{28, 30, kSceneColor}, {90, 30, kSceneColor}, {80, 19, kSceneColor}});
     shown.ExpectPixels({{32, 22, kDark}, {36, 22, kLight}, {32, 26, kLight}, {36, 26, kDark}});
     shown.ExpectPixels(
         {{72, 30, kShadow}, {89, 30, kShadow}, {31, 42, kShadow}, {89, 59, kShadow}});
-    // Black at alpha 200 over the checker and the shadow, (30, 20) to (71, 41).
-    shown.ExpectPixels({{30, 20, 0xFF343434}, {71, 30, 0xFF1C1C1C}, {50, 41, 0xFF1C1C1C}});
+    // Black at alpha 200 over the scene and the shadow, just outside (30, 20) to (69, 39).
+    shown.ExpectPixels({{29, 19, 0xFF181818}, {29, 39, 0xFF181818}, {69, 19, 0xFF181818}});
+    shown.ExpectPixels({{70, 30, 0xFF1C1C1C}, {50, 40, 0xFF1C1C1C}, {70, 40, 0xFF1C1C1C}});
+    shown.ExpectPixels({{28, 30, kSceneColor}, {71, 30, kShadow}, {50, 41, kShadow}});
+    shown.ExpectPixels({{30, 20, kDark}, {69, 39, kDark}, {69, 34, kLight}});
     shown.background = kBlue;
     shown.canvas = FilledPicture(40, 20, kGreen);
     shown.canvas.SetPixel(5, 5, 0);
-    shown.ExpectPixels({{30, 20, kGreen}, {35, 25, kBlue}, {69, 39, kGreen}, {70, 39, kShadow}});
+    shown.ExpectPixels({{30, 20, kGreen}, {35, 25, kBlue}, {69, 39, kGreen}, {71, 39, kShadow}});
 }
 
 // Cells are counted from the page's corner, also where that lies beyond the scene.
@@ -80,15 +88,17 @@ TEST(DrawScene, TheCheckerScrollsWithThePage) {
     shown.ExpectPixels({{0, 0, kLight}});  // 70 % of -16, cut to -11
 }
 
-// 10 x 5 at zoom 3 is 30 x 15 at (35, 22); half of the zoom, 1.5, is 2 as a whole number.
-TEST(DrawScene, ZoomedPixelsAreSquaresAndTheBackgroundLiesHalfAPixelOff) {
-    Shown shown(10, 5, 3);
+// 9 x 5 at zoom 3 is 27 x 15; its corner, at 36.5 and 22 of the way, is (36, 22).
+TEST(DrawScene, BackgroundPictureAndOutlineOfAZoomedPageHaveOneCorner) {
+    Shown shown(9, 5, 3);
     shown.view.SceneHeight = 59;
     shown.background = kBlue;
     shown.canvas.SetPixel(1, 1, kGreen);
-    shown.ExpectPixels({{38, 25, kGreen}, {40, 27, kGreen}, {41, 27, kBlue}, {37, 30, kBlue}});
-    shown.ExpectPixels({{36, 30, kSceneColor}, {85, 30, kSceneColor}});
-    shown.ExpectPixels({{65, 30, kShadow}, {84, 30, kShadow}});
+    shown.ExpectPixels({{39, 25, kGreen}, {41, 27, kGreen}, {42, 27, kBlue}, {38, 25, kBlue}});
+    shown.ExpectPixels({{36, 22, kBlue}, {62, 22, kBlue}, {36, 36, kBlue}, {62, 36, kBlue}});
+    shown.ExpectPixels({{35, 30, 0xFF181818}, {63, 30, 0xFF1C1C1C}, {34, 30, kSceneColor}});
+    shown.ExpectPixels({{40, 21, 0xFF181818}, {40, 37, 0xFF1C1C1C}, {40, 20, kSceneColor}});
+    shown.ExpectPixels({{64, 22, kShadow}, {82, 56, kShadow}, {83, 30, kSceneColor}});
 }
 
 TEST(DrawScene, StaysInsideTheSceneAtEveryZoom) {

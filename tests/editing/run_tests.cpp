@@ -34,8 +34,7 @@ TEST_F(RunTest, WhatIsToldIsWhatChanged) {
         {[](Editor& e) { SelectLayer(e, 0); }, "scene stack controls "},
         {PressHideLayer, "pixels scene stack controls "},
         {[](Editor& e) { SetPageBackground(e, kBlue); }, "pixels stack controls "},
-        {[](Editor& e) { NewDocument(e, 3, 3); }, "pixels stack controls title "},
-        {TickZoomAnimation, "scene controls "},  // from 0 to the least zoom
+        {[](Editor& e) { NewDocument(e, 3, 3); }, "pixels scene stack controls title "},
         {TickZoomAnimation, "scene controls "},
         {TickZoomAnimation, "scene "},
         {[](Editor& e) { ClickToolButton(e, 5); }, "scene controls "},

@@ -58,9 +58,21 @@ TEST_F(ToolPalette, WhatEachButtonChooses) {
         EXPECT_TRUE(editor.Selection.Exists());
         EXPECT_EQ(recorder.LastTip(), -1);
     }
+    // The menu's entry shows what goes with the tool, too.
+    Do(ChooseEraser, Tool::PencilEraser);
+    Do(ClickToolButton, 12);
+    EXPECT_EQ(editor.Sliders.ColorOpacity.Value, 0);
+    Do(ChooseToolEntry, Tool::Pencil);
+    EXPECT_EQ(editor.Sliders.ColorOpacity.Value, 100);
+    EXPECT_EQ(Tools().OpenPopup, Popup::None);
+    Do(MoveScene, OnPage(3, 3));
+    Do(ChooseToolEntry, Tool::Move);
+    EXPECT_FALSE(editor.Overlays.PointerMark.Visible);
+
     editor.DocumentExists = false;
     Show();
     Do(ClickToolButton, 4);  // disabled
+    Do(ChooseToolEntry, Tool::Pencil);
     EXPECT_EQ(Tools().InUse, Tool::Move);
 }
 
@@ -169,7 +181,13 @@ TEST_F(ToolPalette, ChosenAndExchangedColours) {
     Do(ChangeColorOpacity, 20);
     Do(ChooseWellColor, 1, Argb{0xFF010203});
     EXPECT_EQ(Tools().Colors[1], 0x33010203U);
-    Do(ChooseWellColor, 0, Argb{0xFF040506});  // takes the opacity shown, and is in use
+    Do(ChangeColorOpacity, 0);
+    Do(ChooseWellColor, 1, Argb{0xFF010203});  // chosen to be seen
+    EXPECT_EQ(Tools().Colors[1], 0xFF010203U);
+    EXPECT_EQ(editor.Sliders.ColorOpacity.Value, 100);
+    Do(ChangeColorOpacity, 40);
+    Do(SetWellColor, 0, Argb{0x33000000});
+    Do(ChooseWellColor, 0, Argb{0xFF040506});  // in its own opacity, and in use
     EXPECT_EQ(Tools().Colors[0], 0x33040506U);
     Do(SetWellColor, 1, Argb{0x80FFFFFF});
     EXPECT_EQ(editor.Sliders.ColorOpacity.Value, 20);
@@ -179,8 +197,7 @@ TEST_F(ToolPalette, ChosenAndExchangedColours) {
     EXPECT_EQ(editor.Sliders.ColorOpacity.Value, 50);
 }
 
-// The page of 40 x 30 at zoom 2 lies at (60, 45) of the scene; the pointer is rounded to whole
-// scene pixels, ties to even.
+// The page of 40 x 30 at zoom 2 lies at (60, 45) of the scene.
 TEST_F(ToolPalette, ThePickTakesThePixelUnderThePointer) {
     PutLayer(testing::FilledPicture(1, 30, 0x80112233), 0, 0);
     PutLayer(testing::FilledPicture(1, 30, 0xFFFF0000), 1, 0);
@@ -191,9 +208,9 @@ TEST_F(ToolPalette, ThePickTakesThePixelUnderThePointer) {
     const struct {
         float X, Y;
         Argb Expected;
-    } cases[] = {{60, 50, 0x80112233}, {61.4F, 50, 0x80112233}, {61.5F, 50, 0xFFFF0000},
-                 {63, 50, 0xFFFF0000}, {63.4F, 50, 0xFFFF0000}, {64, 50, 0},
-                 {199.4F, 50, 0},      {60, 50, 0x80112233},    {200, 50, 0x80112233},
+    } cases[] = {{60, 50, 0x80112233}, {61.9F, 50, 0x80112233}, {62, 50, 0xFFFF0000},
+                 {63, 50, 0xFFFF0000}, {63.9F, 50, 0xFFFF0000}, {64, 50, 0},
+                 {199.9F, 50, 0},      {60, 50, 0x80112233},    {200, 50, 0x80112233},
                  {-1, 50, 0x80112233}, {60, 150, 0x80112233},   {60, -1, 0x80112233}};
     for (const auto& c : cases) {
         Press(OnScene(c.X, c.Y));

@@ -33,25 +33,26 @@ protected:
     }
 };
 
-TEST_F(ViewCommands, ZoomStepsUpAndDownAreDifferentSeries) {
+TEST_F(ViewCommands, ZoomStepsStayBetweenTheirEndsAndStopAtOne) {
     Do(NewDocument, 10, 10);
-    EXPECT_EQ(editor.View.Zoom, 0);
+    EXPECT_EQ(editor.View.Zoom, 0.2);
     EXPECT_TRUE(editor.Zoom.IsAnimated);
-    EXPECT_THAT(Series(TickZoomAnimation, 6), ElementsAre(0.2, 0.4, 0.6, 0.8, 1, 1));
+    EXPECT_THAT(Series(TickZoomAnimation, 5), ElementsAre(0.4, 0.6, 0.8, 1, 1));
     EXPECT_FALSE(editor.Zoom.IsAnimated);
 
-    EXPECT_THAT(Series(ZoomIn, 11), ElementsAre(3, 5, 7, 9, 11, 13, 15, 17, 19, 20, 20));
+    EXPECT_THAT(Series(ZoomIn, 10), ElementsAre(3, 5, 7, 9, 11, 13, 15, 17, 19, 20));
+    EXPECT_TRUE(recorder.Last.Scene) << "the last step is seen";
     EXPECT_FALSE(editor.States.IsEnabled(CommandId::ZoomIn));
-    EXPECT_THAT(Series(ZoomOut, 12), ElementsAre(18, 16, 14, 12, 10, 8, 6, 4, 2, 0, -2, -4));
+    EXPECT_THAT(Series(ZoomOut, 16),
+                ElementsAre(18, 16, 14, 12, 10, 8, 6, 4, 2, 1, 0.8, 0.6, 0.4, 0.2, 0.2, 0.2));
     EXPECT_TRUE(editor.States.IsEnabled(CommandId::ZoomIn));
-}
-
-TEST_F(ViewCommands, ZoomOutStopsAtOneFifth) {
-    Page(10, 10);
-    EXPECT_THAT(Series(ZoomOut, 5), ElementsAre(0.8, 0.6, 0.4, 0.2, 0.2));
     EXPECT_FALSE(editor.States.IsEnabled(CommandId::ZoomOut));
     EXPECT_THAT(Series(ZoomIn, 5), ElementsAre(0.4, 0.6, 0.8, 1, 3));
     EXPECT_TRUE(editor.States.IsEnabled(CommandId::ZoomOut));
+    for (const auto& [before, after] : {std::pair{2.4, 1.0}, {1.1, 1.0}, {1.5, 1.3}, {0.3, 0.2}}) {
+        SetZoom(before);
+        EXPECT_THAT(Series(ZoomOut, 1), ElementsAre(after));
+    }
 }
 
 TEST_F(ViewCommands, BarsAppearForWhatDoesNotFitAndScrollInTenths) {
@@ -64,11 +65,37 @@ TEST_F(ViewCommands, BarsAppearForWhatDoesNotFitAndScrollInTenths) {
     EXPECT_FALSE(editor.View.VerticalScroll.Visible);
     for (const auto& [value, offset] : {std::pair{0, 0}, {20, 0}, {9999, -512}}) {
         Do(ScrollHorizontally, value);
-        EXPECT_DOUBLE_EQ(document::PageOffsetX(editor.Page(), editor.View), offset) << value;
+        EXPECT_EQ(document::PageOffsetX(editor.Page(), editor.View), offset) << value;
     }
     Do(ZoomOut);
     EXPECT_FALSE(bar.Visible);
     EXPECT_EQ(editor.View.Zoom, 1);
+
+    Do(ScrollHorizontally, 0);
+    EXPECT_EQ(document::PageOffsetX(editor.Page(), editor.View), 256) << "it fits";
+
+    const auto bars = [&] { return std::vector{bar.Visible, editor.View.VerticalScroll.Visible}; };
+    Do(ResizeScene, 400, 90);
+    EXPECT_THAT(bars(), ElementsAre(true, true));
+    EXPECT_EQ(bar.Max, 112);
+    Do(ScrollHorizontally, 112);
+    Do(ResizeScene, 500, 200);
+    EXPECT_THAT(bars(), ElementsAre(true, false));
+    EXPECT_EQ(bar.Value, 12) << "as far along as before";
+    Do(OpenPicture, graphics::Bitmap(100, 600));
+    EXPECT_THAT(bars(), ElementsAre(false, false)) << "the page begins small";
+    while (editor.Zoom.IsAnimated)
+        Do(TickZoomAnimation);
+    EXPECT_THAT(bars(), ElementsAre(false, true));
+    EXPECT_EQ(editor.View.VerticalScroll.Max, 400);
+    Do(ZoomIn);
+    Do(OriginalSize);
+    EXPECT_THAT(bars(), ElementsAre(false, true));
+    Do(ResizeScene, 1024, 768);
+    EXPECT_THAT(bars(), ElementsAre(false, false));
+    Do(OriginalSize);
+    EXPECT_THAT(bars(), ElementsAre(false, true)) << "300 x 1800";
+    EXPECT_EQ(editor.View.VerticalScroll.Max, 1032);
 }
 
 TEST_F(ViewCommands, OriginalSizeGoesBackToTheZoomBeforeOrToAFit) {
@@ -77,6 +104,12 @@ TEST_F(ViewCommands, OriginalSizeGoesBackToTheZoomBeforeOrToAFit) {
     EXPECT_THAT(Series(OriginalSize, 1), ElementsAre(1));
     EXPECT_TRUE(OriginalSizeButton().Pressed);
     EXPECT_THAT(Series(OriginalSize, 2), ElementsAre(3, 1));
+    SetZoom(20);
+    EXPECT_FALSE(editor.States.IsEnabled(CommandId::ZoomIn));
+    Do(OriginalSize);
+    Do(OriginalSize);
+    EXPECT_TRUE(editor.States.IsEnabled(CommandId::ZoomIn));
+    EXPECT_TRUE(editor.States.IsEnabled(CommandId::ZoomOut));
     Do(ZoomIn);
     EXPECT_FALSE(OriginalSizeButton().Pressed);
     Page(100, 119);
@@ -88,6 +121,10 @@ TEST_F(ViewCommands, OriginalSizeGoesBackToTheZoomBeforeOrToAFit) {
     Do(SetPageSize, 417, 119);
     Do(OriginalSize);
     EXPECT_EQ(editor.View.Zoom, 2.4);  // (1024 - 4) / 417
+    Page(200, 190);
+    Do(OriginalSize);
+    Do(OriginalSize);
+    EXPECT_EQ(editor.View.Zoom, 4);  // (768 - 4) / 190, the tighter side
     EXPECT_FALSE(editor.Zoom.PageSizeChanged);
 }
 

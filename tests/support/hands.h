@@ -49,6 +49,10 @@ public:
         QObject::connect(&slider, &Slider::Changed,
                          [this](int value) { told_ << QString::number(value); });
         QObject::connect(&slider, &Slider::Released, [this] { told_ << "released"; });
+        if constexpr (requires { &Slider::GivenUp; })
+            QObject::connect(&slider, &Slider::GivenUp, [this] { told_ << "given-up"; });
+        if constexpr (requires { &Slider::Finished; })
+            QObject::connect(&slider, &Slider::Finished, [this] { told_ << "finished"; });
     }
 
     // Since the last call.

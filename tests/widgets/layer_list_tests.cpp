@@ -81,6 +81,11 @@ TEST_F(LayerListTest, ScrollsRowsThatDoNotFit) {
     bar.setValue(100);
     EXPECT_EQ(PressAt(19), 6);
     EXPECT_EQ(PressAt(20), 5);
+    EXPECT_EQ(bar.value(), 100) << "what is pressed stays under the pointer";
+    for (const auto& [layer, value] : {std::pair(8, 0), {0, 240}, {1, 240}}) {
+        list.SetSelectedIndex(layer);
+        EXPECT_EQ(bar.value(), value) << layer;
+    }
     Fill(2);
     EXPECT_EQ(bar.maximum(), 0);
     EXPECT_EQ(bar.value(), 0);

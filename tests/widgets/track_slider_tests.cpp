@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QDeadlineTimer>
 #include <QImage>
 #include <QWheelEvent>
 
@@ -97,28 +98,70 @@ TEST_F(TrackSliderTest, APressBesideTheThumbTakesItThere) {
     EXPECT_EQ(gestures_.Told(), "pressed 0 released");
 }
 
-TEST_F(TrackSliderTest, AKeyIsAGestureOfOneStep) {
+TEST_F(TrackSliderTest, KeysThatFollowEachOtherAreOneGesture) {
     const std::pair<Qt::Key, const char*> cases[] = {
-        {Qt::Key_Right, "51"},  {Qt::Key_Up, "52"},     {Qt::Key_Left, "51"},
-        {Qt::Key_Down, "50"},   {Qt::Key_PageUp, "60"}, {Qt::Key_PageDown, "50"},
-        {Qt::Key_End, "100"},   {Qt::Key_Right, ""},    {Qt::Key_Home, "0"},
-        {Qt::Key_PageDown, ""}, {Qt::Key_A, ""}};
-    for (const auto& [key, value] : cases) {
+        {Qt::Key_Right, "pressed 51"}, {Qt::Key_Up, "52"},     {Qt::Key_Left, "51"},
+        {Qt::Key_Down, "50"},          {Qt::Key_PageUp, "60"}, {Qt::Key_PageDown, "50"},
+        {Qt::Key_End, "100"},          {Qt::Key_Right, ""},    {Qt::Key_Home, "0"},
+        {Qt::Key_PageDown, ""},        {Qt::Key_A, ""}};
+    for (const auto& [key, told] : cases) {
         Strike(slider_, key);
-        EXPECT_EQ(gestures_.Told(), *value ? std::string("pressed ") + value + " released" : "")
-            << key;
+        EXPECT_EQ(gestures_.Told(), told) << key;
     }
+    const QDeadlineTimer deadline(10000);
+    std::string told;
+    while ((told = gestures_.Told()).empty() && !deadline.hasExpired())
+        QApplication::processEvents(QEventLoop::WaitForMoreEvents, 100);
+    EXPECT_EQ(told, "released") << "after a pause";
+    Strike(slider_, Qt::Key_Right);
+    Press(slider_, At(5));
+    EXPECT_EQ(gestures_.Told(), "pressed 1 released pressed");
 }
 
-TEST_F(TrackSliderTest, ANotchOfTheWheelIsAGesture) {
-    const std::pair<int, const char*> turns[] = {
-        {240, "pressed 51 released pressed 52 released"}, {-60, ""}, {-60, "pressed 51 released"}};
-    for (const auto& [angle, told] : turns) {
+TEST_F(TrackSliderTest, TheWheelTurnsOnlyASliderThatHasTheFocus) {
+    const auto turn = [&](int angle) {
         QWheelEvent wheel(At(50), slider_.mapToGlobal(At(50)), {}, {0, angle}, Qt::NoButton,
                           Qt::NoModifier, Qt::NoScrollPhase, false);
+        wheel.accept();
         QApplication::sendEvent(&slider_, &wheel);
+        return wheel.isAccepted();
+    };
+    slider_.clearFocus();
+    EXPECT_FALSE(turn(120)) << "it belongs to what lies below";
+    EXPECT_EQ(gestures_.Told(), "");
+    slider_.activateWindow();
+    QApplication::processEvents();
+    slider_.setFocus();
+    ASSERT_TRUE(slider_.hasFocus());
+    for (const auto& [angle, told] :
+         {std::pair(240, "pressed 51 52"), {-60, ""}, {-60, "51"}, {-240, "50 49"}}) {
+        EXPECT_TRUE(turn(angle));
         EXPECT_EQ(gestures_.Told(), told);
     }
+    slider_.clearFocus();
+    EXPECT_EQ(gestures_.Told(), "released");
+}
+
+TEST_F(TrackSliderTest, EscapeGivesADragUp) {
+    const auto isTaken = [&] {
+        QKeyEvent event(QEvent::ShortcutOverride, Qt::Key_Escape, Qt::NoModifier);
+        event.ignore();
+        QApplication::sendEvent(&slider_, &event);
+        return event.isAccepted();
+    };
+    EXPECT_FALSE(isTaken());
+    Press(slider_, At(105));
+    DragTo(slider_, At(125));
+    EXPECT_TRUE(isTaken());
+    Strike(slider_, Qt::Key_Escape);
+    EXPECT_EQ(ThumbLeft(), 100);
+    DragTo(slider_, At(150));
+    Release(slider_, At(150));
+    EXPECT_EQ(gestures_.Told(), "pressed 60 50 given-up");
+    Strike(slider_, Qt::Key_Right);
+    EXPECT_TRUE(isTaken());
+    Strike(slider_, Qt::Key_Escape);
+    EXPECT_EQ(gestures_.Told(), "pressed 51 50 given-up");
 }
 
 TEST_F(TrackSliderTest, ADragEndsWhenDisabledOrWhenItsReleaseIsLost) {

@@ -51,9 +51,11 @@ bool IsTakenByAnother(SingleInstance& instance, const QByteArray& commandLine) {
 
 // What was handed over while the window was being closed gets a copy of its own.
 void OpenInAnotherCopy(const QByteArrayList& commandLines) {
-    for (const QByteArray& commandLine : commandLines)
-        QProcess::startDetached(QApplication::applicationFilePath(),
-                                {QFile::decodeName(commandLine.mid(1).chopped(1))});
+    for (const QByteArray& commandLine : commandLines) {
+        if (!commandLine.isEmpty())
+            QProcess::startDetached(QApplication::applicationFilePath(),
+                                    {QFile::decodeName(commandLine.mid(1).chopped(1))});
+    }
 }
 
 }  // namespace

@@ -36,7 +36,7 @@ void Press(Editor& editor, const Pointer& pointer) {
         return;
     BeginUndoStep(editor, kStep);
     editor.Drag = EraserDrag{{pointer.X, pointer.Y}};
-    Erase(editor, kEraser, MappingAtPress(editor), pointer);
+    Erase(editor, kEraser, MappingOf(editor), pointer);
 }
 
 void MovePencil(Editor& editor, Pointer& pointer) {

@@ -16,7 +16,7 @@ void StartDrag(Editor& editor, const Pointer& pointer) {
 // The topmost visible layer with a pixel there. With no visible layer at all the selected layer
 // stays so (docs/oddities.md, "Nothing to pick").
 void Pick(Editor& editor, const Pointer& pointer) {
-    const graphics::PointF pixel = ScreenToPage(MappingAtPress(editor), pointer.X, pointer.Y);
+    const graphics::PointF pixel = ScreenToPage(MappingOf(editor), pointer.X, pointer.Y);
     document::Page& page = editor.Page();
     for (int i = page.LayerCount() - 1; i >= 0; --i) {
         const document::IconLayer& layer = page.Layers[static_cast<std::size_t>(i)];

@@ -47,6 +47,15 @@ TEST_F(DrawingTools, HardEdges) {
             "9: 9-18; 10-17: 9 18; 18: 9-18"}});
 }
 
+// Size 10 takes 250 x (1 - distance / 15) of the alpha.
+TEST_F(DrawingTools, BeginWithBlackAndWhiteAndABrushOfTen) {
+    const std::string square = "tool filled-rectangle drag 2 2 4 4";
+    Check({{"black", "new 9 9 " + square, "page@3,3 FF000000"},
+           {"white", "new 9 9 active background " + square, "page@3,3 FFFFFFFF"},
+           {"the brush", "open blue.png tool brush-eraser click 10 10",
+            "0/alphas@10,10~0 5, 0/alphas@13,10~0 55"}});
+}
+
 TEST_F(DrawingTools, SmoothEdges) {
     Check(open + "line ", "",
           {{"a line", "drag 10 5 14 7",

@@ -85,6 +85,11 @@ TEST_F(StyleCommands, WhatTheyDraw) {
         {"shadow to the lower right", "open soft.volf style shadow",
          "1/rect 11 11 22 12, 1/base_rect 10 10 20 10, 1/image 22 12, 1/opacity 0.4, "
          "2/opacity 0.8, 2/rect 10 10 20 10"},
+        {"a shadow is shown with the record it has",
+         "open soft.volf hue 33 contrast 60 style shadow",
+         "1/hue 33, slider/hue 33, 1/contrast 60, slider/contrast 60"},
+        {"undone and redone, too", "open soft.volf hue 33 style shadow undo redo",
+         "1/hue 33, slider/hue 33, 2/hue 33"},
         {"a plate cuts the picture", "foreground #00FF00 open corner.volf style ios",
          "0/clip_next true, 0/rect 0 0 40 30, 0/image 40 30, 0/region -1 0 40 30, "
          "1/clip_next false, page@0,0 00000000, page@10,5 FF3366CC, page@10,20 FF00FF00"},
