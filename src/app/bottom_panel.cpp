@@ -165,7 +165,8 @@ QWidget* BottomPanel::AddColors() {
     exchange->setObjectName("ExchangeColor");
     connect(exchange, &QToolButton::clicked, this,
             [this] { context_.Commands.Run(editing::ExchangeColor); });
-    return Group("Colours", Row({wells_[0], exchange, wells_[1]}));
+    colors_ = Group("Colours", Row({wells_[0], exchange, wells_[1]}));
+    return colors_;
 }
 
 QWidget* BottomPanel::AddOptions() {
@@ -207,8 +208,8 @@ void BottomPanel::CommitTyping() {
     lineWidth_->CommitTyping();
 }
 
-QWidget& BottomPanel::FirstColorWell() const {
-    return *wells_[0];
+const QWidget& BottomPanel::BrushOptions() const {
+    return *brush_;
 }
 
 bool BottomPanel::eventFilter(QObject* watched, QEvent* event) {

@@ -31,7 +31,8 @@ public:
     void SetOpen(bool open);
     // A page size that is being typed counts from now on.
     void CommitTyping();
-    QWidget& FirstColorWell() const;
+    const QWidget& Colors() const { return *colors_; }
+    const QWidget& BrushOptions() const;
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -50,6 +51,7 @@ private:
     widgets::NumberSlider* pageWidth_ = nullptr;
     widgets::NumberSlider* pageHeight_ = nullptr;
     ColorWell* backgroundSwatch_ = nullptr;
+    QWidget* colors_ = nullptr;
     std::array<ColorWell*, 2> wells_{};
     widgets::TrackSlider* colorOpacity_ = nullptr;
     QLabel* opacityValue_ = nullptr;

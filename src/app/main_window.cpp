@@ -150,11 +150,6 @@ void MainWindow::ImportDroppedPicture(const OfferedPicture& offered) {
     RunBusy([&](editing::Editor& editor) { ImportPicture(editor, RequireReadable(offered)); });
 }
 
-void MainWindow::resizeEvent(QResizeEvent* event) {
-    QMainWindow::resizeEvent(event);
-    closeTips_->Place();
-}
-
 void MainWindow::StartWelcome() {
     if (!editor_.DocumentExists)
         welcome_->Start();

@@ -54,10 +54,10 @@ void MainWindow::AddPanels() {
 
     for (widgets::ButtonBar* popup : {bars_->FillBar, bars_->SelectionBar, bars_->EraserBar})
         popup->setParent(central);
-    closeTips_ = new CloseTipsTab(*bottomPanel_);
-    tips_ = std::make_unique<TipBalloons>(
-        editor_, *central,
-        [this](editing::TipPlace place, QSize size) { return TipPlacement(place, size); });
+    closeTips_ = new CloseTipsTab(*bottomPanel_, *horizontalScroll_);
+    tips_ = std::make_unique<TipBalloons>(editor_, *central, *this);
+    connect(tips_.get(), &TipBalloons::Placed, closeTips_,
+            [this] { closeTips_->StepAsideFor(tips_->OpenBalloons()); });
     connect(tips_.get(), &TipBalloons::BalloonClicked, closeTips_, &CloseTipsTab::SlideUp);
     welcome_ = std::make_unique<WelcomeSequence>(*scene_);
     connect(welcome_.get(), &WelcomeSequence::Read, this,
