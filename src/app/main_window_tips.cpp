@@ -93,26 +93,22 @@ std::optional<TipSurroundings::Target> MainWindow::TargetOf(editing::TipPlace pl
                                   {editing::main_buttons::Undo, editing::main_buttons::Redo}),
                           {Below});
         case TipPlace::LayerMiddle:
-            return target(SeenPart(*scene_, LayerOnScene(editor_), central),
-                          {Right, Left, Below, Above});
+            return target(SeenPart(*scene_, LayerOnScene(editor_), central), {Right, Left});
         case TipPlace::PageCorner:
-            return target(SeenPart(*scene_, PageOnScene(editor_), central),
-                          {Right, Left, Below, Above});
+            return target(SeenPart(*scene_, PageOnScene(editor_), central), {Right, Left});
         case TipPlace::OpacitySlider: {
             const QWidget& slider = rightPanel_->OpacitySlider();
             const QRect withCaption(0, slider.y(), slider.geometry().right() + 1, slider.height());
-            return target(SeenPart(*slider.parentWidget(), withCaption, central),
-                          {Left, Below, Above});
+            return target(SeenPart(*slider.parentWidget(), withCaption, central), {Left});
         }
         case TipPlace::ToolColumn:
             return target(buttons(*bars_->ToolBox, {editing::tool_buttons::Rectangle}), {Right});
         case TipPlace::AddLayerButton:
-            return target(buttons(*bars_->LayerBar, {editing::layer_buttons::Add}),
-                          {Left, Above, Below});
+            return target(buttons(*bars_->LayerBar, {editing::layer_buttons::Add}), {Left});
         case TipPlace::ColorWells:
             return target(SeenPart(bottomPanel_->Colors(), central), {Above});
         case TipPlace::BrushOptions:
-            return target(SeenPart(bottomPanel_->BrushOptions(), central), {Above, Left});
+            return target(SeenPart(bottomPanel_->BrushOptions(), central), {Above});
     }
     return std::nullopt;
 }
