@@ -12,7 +12,7 @@ namespace orbelle::widgets {
 
 namespace {
 
-constexpr int kTextWidth = 180;  // at the most
+constexpr QSize kTextRoom(180, 10000);  // at the most
 constexpr int kPadding = 10;
 
 // From the tip, which is at the origin, to the body's edge.
@@ -46,8 +46,9 @@ void Balloon::SetText(const QString& text) {
 }
 
 QSize Balloon::BodySize() const {
-    const QRect room(0, 0, kTextWidth, QWIDGETSIZE_MAX);
-    return fontMetrics().boundingRect(room, Qt::TextWordWrap, text_).size() +
+    return fontMetrics()
+               .boundingRect(QRect(QPoint(0, 0), kTextRoom), Qt::TextWordWrap, text_)
+               .size() +
            QSize(2 * kPadding, 2 * kPadding);
 }
 
@@ -104,7 +105,8 @@ void Balloon::paintEvent(QPaintEvent*) {
     painter.setPen(QPen(kTipEdgeColor, 1));
     painter.drawPath(body.united(arrow));
     painter.setPen(Qt::black);
-    painter.drawText(place_.Body.adjusted(kPadding, kPadding, -kPadding, -kPadding),
+    // Wrapped as it was measured: in a box of the text's own width words may fall otherwise.
+    painter.drawText(QRect(place_.Body.topLeft() + QPoint(kPadding, kPadding), kTextRoom),
                      Qt::TextWordWrap, text_);
 }
 

@@ -35,7 +35,6 @@
 #include "editing/document_commands.h"
 #include "editing/layer_commands.h"
 #include "editing/page_commands.h"
-#include "editing/tips.h"
 #include "editing/undo_commands.h"
 #include "editing/view_commands.h"
 #include "graphics/codecs/image_files.h"
@@ -609,24 +608,6 @@ TEST_F(MainWindowTest, ColourWellsTakeTurns) {
     Press(Part<ColorWell>("ForeColorOLE1"), {10, 10});
     EXPECT_EQ(window.Editor().Tools.ActiveColor, 1);
     EXPECT_EQ(Part<widgets::TrackSlider>("ColorOpacity").value(), 50);
-}
-
-TEST_F(MainWindowTest, TipsShowOnlyWhenTheyAreOnAndCloseAtAPress) {
-    NewPage(64, 64);
-    auto& balloon = Part<widgets::Balloon>("FirstBalloon");
-    const auto change = [&] {
-        window.Run([](editing::Editor& editor) { editor.Changed.Tip = {editing::tips::Adjusted}; });
-    };
-    change();
-    EXPECT_FALSE(balloon.isVisible());
-    window.SetTipsEnabled(true);
-    change();
-    EXPECT_TRUE(balloon.isVisible());
-    EXPECT_EQ(balloon.pos().x(), 230);
-    EXPECT_GT(balloon.pos().y(), Part<ButtonBar>("MainBar").geometry().bottom());
-
-    Press(Scene(), {5, 5});
-    EXPECT_TRUE(WaitUntil([&] { return !balloon.isVisible(); }));
 }
 
 TEST_F(MainWindowTest, TheBrushPanelSlidesIn) {
