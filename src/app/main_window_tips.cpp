@@ -117,9 +117,11 @@ std::vector<QRect> MainWindow::TipObstacles() const {
     const QWidget& central = *centralWidget();
     std::vector<QRect> obstacles;
     for (const QWidget* part : std::initializer_list<const QWidget*>{
-             bars_->MainBar, bars_->ToolBox, bars_->FillBar, bars_->SelectionBar, bars_->EraserBar,
-             rightPanel_, bottomPanel_, horizontalScroll_, verticalScroll_, closeTips_})
+             bars_->ToolBox, bars_->FillBar, bars_->SelectionBar, bars_->EraserBar, rightPanel_,
+             bottomPanel_, horizontalScroll_, verticalScroll_, closeTips_})
         obstacles.push_back(SeenPart(*part, central));
+    // The whole row: a balloon has not much to do up there, where no button is.
+    obstacles.emplace_back(0, 0, central.width(), bars_->MainBar->height());
     obstacles.push_back(SeenPart(*scene_, LayerOnScene(editor_), central));
     std::erase_if(obstacles, [](const QRect& rect) { return rect.isEmpty(); });
     return obstacles;

@@ -1,15 +1,14 @@
 #include "widgets/balloon_place.h"
 
 #include <algorithm>
-#include <array>
 #include <cstdlib>
-#include <tuple>
+#include <utility>
 
 namespace orbelle::widgets {
 namespace {
 
-constexpr int kGap = 4;         // to what is kept off
-constexpr int kLongArrow = 26;  // reaches across a scroll bar
+constexpr int kGap = 4;            // to what is kept off
+constexpr int kLongestArrow = 56;  // reaches across a scroll bar and a header
 constexpr int kArrowFromCorner = kBalloonCorner + kBalloonArrowWidth / 2 + 1;
 
 bool IsUpOrDown(BalloonSide side) {
@@ -66,6 +65,21 @@ std::vector<int> StartsOn(const BalloonRoom& room, BalloonSide side) {
     return starts;
 }
 
+// The usual arrow, and those that reach across a thing to keep off.
+std::vector<int> ArrowLengthsOn(const BalloonRoom& room, BalloonSide side) {
+    std::vector<int> lengths = {kBalloonArrowLength};
+    for (const QRect& rect : room.KeepOff) {
+        const int across = side == BalloonSide::Below   ? rect.bottom() - room.Target.bottom()
+                           : side == BalloonSide::Above ? room.Target.top() - rect.top()
+                           : side == BalloonSide::Right ? rect.right() - room.Target.right()
+                                                        : room.Target.left() - rect.left();
+        const int length = across + kGap;
+        if (length > kBalloonArrowLength && length <= kLongestArrow)
+            lengths.push_back(length);
+    }
+    return lengths;
+}
+
 int Area(const QRect& rect) {
     return rect.isEmpty() ? 0 : rect.width() * rect.height();
 }
@@ -85,8 +99,7 @@ QRect ArrowOf(const BalloonPlace& place) {
     return {place.Tip - QPoint(length, half), QSize(length, 2 * half)};
 }
 
-// What is covered of the things to keep off. An arrow covers half of where it lies, and may cross
-// a scroll bar when the balloon would cover more.
+// What is covered of the things to keep off. Of where an arrow lies it covers half.
 int CoveredBy(const BalloonRoom& room, const BalloonPlace& place) {
     int covered = 0;
     for (const QRect& rect : room.KeepOff) {
@@ -96,30 +109,30 @@ int CoveredBy(const BalloonRoom& room, const BalloonPlace& place) {
     return covered;
 }
 
-// How far the tip is from the edge that it is to touch, and from the edge's middle.
-std::tuple<int, int> MissOf(const BalloonRoom& room, const BalloonPlace& place) {
+// How far the tip is from the edge that it is to touch; and what else speaks against a place, as
+// pixels covered.
+std::pair<int, int> CostOf(const BalloonRoom& room, const BalloonPlace& place, int rank) {
     const bool upOrDown = IsUpOrDown(place.Side);
     const Span edge = upOrDown ? Horizontal(room.Target) : Vertical(room.Target);
     const int along = upOrDown ? place.Tip.x() : place.Tip.y();
-    return {std::max({edge.Start - along, along - edge.End, 0}), std::abs(along - edge.Middle())};
+    const QPoint fromBody = place.Tip - place.Body.center();
+    return {std::max({edge.Start - along, along - edge.End, 0}),
+            CoveredBy(room, place) + rank * Area(place.Body) / 20 +
+                8 * std::abs(along - edge.Middle()) +
+                4 * (place.ArrowLength - kBalloonArrowLength) +
+                std::abs(upOrDown ? fromBody.x() : fromBody.y())};
 }
 
 std::optional<BalloonPlace> BestOn(const BalloonRoom& room, const std::vector<BalloonSide>& sides) {
     std::optional<BalloonPlace> best;
-    // Miss, covered, rank of the side, arrow's length, from the edge's middle, from the balloon's.
-    std::tuple<int, int, int, int, int, int> bestCost;
+    std::pair<int, int> bestCost;
     int rank = 0;
     for (const BalloonSide side : sides) {
         for (const int start : StartsOn(room, side)) {
-            for (const int arrowLength : {kBalloonArrowLength, kLongArrow}) {
+            for (const int arrowLength : ArrowLengthsOn(room, side)) {
                 const BalloonPlace place = PlaceOn(room, side, start, arrowLength);
-                if (!room.Window.contains(place.Body))
-                    continue;
-                const auto [miss, fromMiddle] = MissOf(room, place);
-                const QPoint off = place.Tip - place.Body.center();
-                const std::tuple cost(miss, CoveredBy(room, place), rank, arrowLength, fromMiddle,
-                                      std::abs(IsUpOrDown(side) ? off.x() : off.y()));
-                if (!best || cost < bestCost) {
+                const std::pair cost = CostOf(room, place, rank);
+                if (room.Window.contains(place.Body) && (!best || cost < bestCost)) {
                     best = place;
                     bestCost = cost;
                 }

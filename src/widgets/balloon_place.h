@@ -31,9 +31,9 @@ struct BalloonPlace {
     bool operator==(const BalloonPlace&) const = default;
 };
 
-// Inside the window and never over the target: of such places one that keeps off the most, on the
-// best side, with the arrow as near to the middle of the target's edge as can be. Another side is
-// taken only when no wanted one has room; no value: none has.
+// Inside the window and never over the target: of such places one that covers little, on a good
+// side, with the arrow near to the middle of the target's edge. A side that is not wanted is taken
+// only when no other has room; no value: none has.
 std::optional<BalloonPlace> PlaceBalloon(const BalloonRoom& room);
 
 }  // namespace orbelle::widgets

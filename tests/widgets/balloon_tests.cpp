@@ -67,8 +67,15 @@ TEST(BalloonPlaceTest, IsBesideTheTargetInsideTheWindowAndKeepsOffWhatItCan) {
          {Right},
          {{200, 0, 16, 300}},
          Right,
-         {226, 130},
+         {220, 130},
          {200, 150}},
+        {"where all is covered it stays in the middle",
+         {0, 40, 200, 260},
+         {Right},
+         {{0, 0, 400, 37}, {200, 40, 200, 260}},
+         Right,
+         {210, 150},
+         {200, 170}},
     };
     const QRect window(0, 0, 400, 300);
     for (const auto& c : cases) {
