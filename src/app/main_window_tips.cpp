@@ -116,9 +116,12 @@ std::optional<TipSurroundings::Target> MainWindow::TargetOf(editing::TipPlace pl
 std::vector<QRect> MainWindow::TipObstacles() const {
     const QWidget& central = *centralWidget();
     std::vector<QRect> obstacles;
-    for (const QWidget* part : std::initializer_list<const QWidget*>{
-             bars_->ToolBox, bars_->FillBar, bars_->SelectionBar, bars_->EraserBar, rightPanel_,
-             bottomPanel_, horizontalScroll_, verticalScroll_, closeTips_})
+    // The scroll bars count more than a strip of the picture beside them.
+    const std::initializer_list<const QWidget*> parts = {
+        bars_->ToolBox,  bars_->FillBar,  bars_->SelectionBar, bars_->EraserBar,  rightPanel_,
+        bottomPanel_,    closeTips_,      horizontalScroll_,   horizontalScroll_, horizontalScroll_,
+        verticalScroll_, verticalScroll_, verticalScroll_};
+    for (const QWidget* part : parts)
         obstacles.push_back(SeenPart(*part, central));
     // The whole row: a balloon has not much to do up there, where no button is.
     obstacles.emplace_back(0, 0, central.width(), bars_->MainBar->height());

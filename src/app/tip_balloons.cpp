@@ -79,7 +79,7 @@ void TipBalloons::PlaceOne(Tip& tip, std::vector<QRect>& obstacles) {
         balloon.show();
         balloon.raise();
     }
-    obstacles.push_back(balloon.geometry());
+    obstacles.push_back(place->Body);
     obstacles.push_back(target->Rect);
 }
 

@@ -56,21 +56,11 @@ void Balloon::Stand(const BalloonPlace& place) {
     if (place == place_)
         return;
     place_ = place;
-    const int length = place.ArrowLength;
-    switch (place.Side) {
-        case BalloonSide::Below:
-            setGeometry(place.Body.adjusted(0, -length, 0, 0));
-            break;
-        case BalloonSide::Above:
-            setGeometry(place.Body.adjusted(0, 0, 0, length));
-            break;
-        case BalloonSide::Right:
-            setGeometry(place.Body.adjusted(-length, 0, 0, 0));
-            break;
-        case BalloonSide::Left:
-            setGeometry(place.Body.adjusted(0, 0, length, 0));
-            break;
-    }
+    const QRect arrow = ArrowRect(place);
+    setGeometry(place.Body | arrow);
+    // Beside the arrow a press goes through to what lies below.
+    setMask(QRegion(place.Body.translated(-pos())) |
+            arrow.adjusted(-1, -1, 1, 1).translated(-pos()));
     update();
 }
 

@@ -84,27 +84,12 @@ int Area(const QRect& rect) {
     return rect.isEmpty() ? 0 : rect.width() * rect.height();
 }
 
-QRect ArrowOf(const BalloonPlace& place) {
-    const int half = kBalloonArrowWidth / 2, length = place.ArrowLength;
-    switch (place.Side) {
-        case BalloonSide::Below:
-            return {place.Tip - QPoint(half, 0), QSize(2 * half, length)};
-        case BalloonSide::Above:
-            return {place.Tip - QPoint(half, length), QSize(2 * half, length)};
-        case BalloonSide::Right:
-            return {place.Tip - QPoint(0, half), QSize(length, 2 * half)};
-        case BalloonSide::Left:
-            break;
-    }
-    return {place.Tip - QPoint(length, half), QSize(length, 2 * half)};
-}
-
 // What is covered of the things to keep off. Of where an arrow lies it covers half.
 int CoveredBy(const BalloonRoom& room, const BalloonPlace& place) {
     int covered = 0;
     for (const QRect& rect : room.KeepOff) {
         if (!rect.contains(room.Target))
-            covered += Area(rect & place.Body) + Area(rect & ArrowOf(place)) / 2;
+            covered += Area(rect & place.Body) + Area(rect & ArrowRect(place)) / 2;
     }
     return covered;
 }
@@ -144,6 +129,21 @@ std::optional<BalloonPlace> BestOn(const BalloonRoom& room, const std::vector<Ba
 }
 
 }  // namespace
+
+QRect ArrowRect(const BalloonPlace& place) {
+    const int half = kBalloonArrowWidth / 2, length = place.ArrowLength;
+    switch (place.Side) {
+        case BalloonSide::Below:
+            return {place.Tip - QPoint(half, 0), QSize(2 * half, length)};
+        case BalloonSide::Above:
+            return {place.Tip - QPoint(half, length), QSize(2 * half, length)};
+        case BalloonSide::Right:
+            return {place.Tip - QPoint(0, half), QSize(length, 2 * half)};
+        case BalloonSide::Left:
+            break;
+    }
+    return {place.Tip - QPoint(length, half), QSize(length, 2 * half)};
+}
 
 std::optional<BalloonPlace> PlaceBalloon(const BalloonRoom& room) {
     if (const auto best = BestOn(room, room.Sides))

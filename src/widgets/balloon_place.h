@@ -31,6 +31,8 @@ struct BalloonPlace {
     bool operator==(const BalloonPlace&) const = default;
 };
 
+QRect ArrowRect(const BalloonPlace& place);
+
 // Inside the window and never over the target: of such places one that covers little, on a good
 // side, with the arrow near to the middle of the target's edge. A side that is not wanted is taken
 // only when no other has room; no value: none has.

@@ -119,7 +119,7 @@ TEST(BalloonTest, ComesUpAboveItsSiblingsAndTellsOfAClick) {
     window.resize(300, 200);
     Balloon balloon(&window);
     balloon.SetText("Click here.");
-    balloon.Stand({QRect({20, 10}, balloon.BodySize()), Below, {40, 0}});
+    balloon.Stand({QRect({20, 20}, balloon.BodySize()), Below, {40, 0}, 20});
     QWidget later(&window);
     later.resize(300, 200);
     window.show();
@@ -127,12 +127,14 @@ TEST(BalloonTest, ComesUpAboveItsSiblingsAndTellsOfAClick) {
     later.raise();
     balloon.show();
     EXPECT_EQ(window.childAt(50, 30), &balloon);
+    EXPECT_EQ(window.childAt(40, 12), &balloon);
+    EXPECT_EQ(window.childAt(60, 12), &later) << "beside the arrow";
 
     int clicks = 0;
     QObject::connect(&balloon, &Balloon::Clicked, [&] { ++clicks; });
-    Click(balloon, {30, 20});
+    Click(balloon, {30, 30});
     EXPECT_EQ(clicks, 1);
-    Press(balloon, {30, 20});
+    Press(balloon, {30, 30});
     Release(balloon, {-5, 20});
     EXPECT_EQ(clicks, 1);
 }
