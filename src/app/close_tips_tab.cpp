@@ -110,7 +110,9 @@ void CloseTipsTab::Place() {
         return;
     move(LeftEdge(), Floor() - shown_);
     // Nothing of it is seen below the edge that it comes up from.
-    setMask(QRect(0, 0, width(), std::max(shown_, 1)));
+    const QRect seen(0, 0, width(), std::max(shown_, 1));
+    if (mask().boundingRect() != seen)
+        setMask(seen);
 }
 
 void CloseTipsTab::Step() {

@@ -44,7 +44,8 @@ QRect LayerOnScene(const editing::Editor& editor) {
 }
 
 bool NeedsLayerList(editing::TipPlace place) {
-    return place == editing::TipPlace::OpacitySlider || place == editing::TipPlace::ToolColumn ||
+    return place == editing::TipPlace::OpacitySlider ||
+           place == editing::TipPlace::RectangleButton ||
            place == editing::TipPlace::AddLayerButton;
 }
 
@@ -92,16 +93,16 @@ std::optional<TipSurroundings::Target> MainWindow::TargetOf(editing::TipPlace pl
             return target(buttons(*bars_->MainBar,
                                   {editing::main_buttons::Undo, editing::main_buttons::Redo}),
                           {Below});
-        case TipPlace::LayerMiddle:
+        case TipPlace::SelectedLayer:
             return target(SeenPart(*scene_, LayerOnScene(editor_), central), {Right, Left});
-        case TipPlace::PageCorner:
+        case TipPlace::Page:
             return target(SeenPart(*scene_, PageOnScene(editor_), central), {Right, Left});
         case TipPlace::OpacitySlider: {
             const QWidget& slider = rightPanel_->OpacitySlider();
             const QRect withCaption(0, slider.y(), slider.geometry().right() + 1, slider.height());
             return target(SeenPart(*slider.parentWidget(), withCaption, central), {Left});
         }
-        case TipPlace::ToolColumn:
+        case TipPlace::RectangleButton:
             return target(buttons(*bars_->ToolBox, {editing::tool_buttons::Rectangle}), {Right});
         case TipPlace::AddLayerButton:
             return target(buttons(*bars_->LayerBar, {editing::layer_buttons::Add}), {Left});

@@ -58,7 +58,7 @@ private:
     // Wanted, but without a text or with a target out of sight, it is hidden.
     struct Tip {
         widgets::Balloon* Balloon;
-        editing::TipPlace Place = editing::TipPlace::PageCorner;
+        editing::TipPlace Place = editing::TipPlace::Page;
         bool Wanted = false;
     };
 
