@@ -165,8 +165,7 @@ QWidget* BottomPanel::AddColors() {
     exchange->setObjectName("ExchangeColor");
     connect(exchange, &QToolButton::clicked, this,
             [this] { context_.Commands.Run(editing::ExchangeColor); });
-    colors_ = Group("Colours", Row({wells_[0], exchange, wells_[1]}));
-    return colors_;
+    return Group("Colours", Row({wells_[0], exchange, wells_[1]}));
 }
 
 QWidget* BottomPanel::AddOptions() {
@@ -206,6 +205,10 @@ void BottomPanel::CommitTyping() {
     pageWidth_->CommitTyping();
     pageHeight_->CommitTyping();
     lineWidth_->CommitTyping();
+}
+
+const QWidget& BottomPanel::Colors() const {
+    return *wells_[0]->parentWidget();
 }
 
 const QWidget& BottomPanel::BrushOptions() const {

@@ -31,7 +31,7 @@ public:
     void SetOpen(bool open);
     // A page size that is being typed counts from now on.
     void CommitTyping();
-    const QWidget& Colors() const { return *colors_; }
+    const QWidget& Colors() const;  // the wells and their caption
     const QWidget& BrushOptions() const;
 
 protected:
@@ -51,7 +51,6 @@ private:
     widgets::NumberSlider* pageWidth_ = nullptr;
     widgets::NumberSlider* pageHeight_ = nullptr;
     ColorWell* backgroundSwatch_ = nullptr;
-    QWidget* colors_ = nullptr;
     std::array<ColorWell*, 2> wells_{};
     widgets::TrackSlider* colorOpacity_ = nullptr;
     QLabel* opacityValue_ = nullptr;

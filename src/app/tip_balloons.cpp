@@ -98,6 +98,14 @@ void TipBalloons::HideFirst() {
     Place();
 }
 
+bool TipBalloons::Close() {
+    const bool wasOpen = !OpenBalloons().empty();
+    first_.Wanted = second_.Wanted = false;
+    aging_.stop();
+    Place();
+    return wasOpen;
+}
+
 void TipBalloons::Expire() {
     age_ = kOldest;
 }
@@ -107,12 +115,10 @@ void TipBalloons::Stop() {
 }
 
 void TipBalloons::Grow() {
-    if (++age_ > kOldest) {
-        age_ = 0;
-        first_.Wanted = second_.Wanted = false;
-        aging_.stop();
-    }
-    Place();
+    if (++age_ <= kOldest)
+        return Place();
+    age_ = 0;
+    Close();
 }
 
 }  // namespace orbelle::app

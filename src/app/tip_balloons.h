@@ -44,6 +44,7 @@ public:
 
     void Show(const editing::TipRequest& request);
     void HideFirst();
+    bool Close();   // both; whether one was open
     void Expire();  // the next tick closes them
     void Stop();
 
