@@ -4,28 +4,77 @@
 #include <QClipboard>
 #include <QMessageBox>
 #include <QProgressDialog>
+#include <QPushButton>
+#include <QStatusBar>
 #include <QUrl>
 
+#include "app/save_prompt.h"
 #include "editing/clipboard_commands.h"
 
 namespace orbelle::app {
 namespace {
 
-TEST_F(MainWindowTest, TakesDroppedLocalFilesAndImportsThemInOrder) {
-    const QUrl far("https://example.org/far.png");
+// The first of several opens an empty window, the others become layers.
+TEST_F(MainWindowTest, DroppedFilesOpenOrBecomeLayers) {
+    const QString first = Picture("first.png", 40, 30), second = Picture("second.png", 20, 10);
     QMimeData data;
-    data.setText("some text");
-    EXPECT_FALSE(IsTaken(data));
-    data.setUrls({far});
-    EXPECT_FALSE(IsTaken(data));
-    data.setUrls({far, QUrl::fromLocalFile(Picture("first.png", 40, 30)),
-                  QUrl::fromLocalFile(Picture("second.png", 20, 10))});
-    ASSERT_TRUE(IsTaken(data));
+    data.setUrls({QUrl("https://example.org/far.png"), QUrl::fromLocalFile(first),
+                  QUrl::fromLocalFile(second)});
+    EXPECT_EQ(Hover(data), Qt::LinkAction);
     Drop(data);
-
     ASSERT_TRUE(WaitUntil([&] { return Page().LayerCount() == 2; }));
     EXPECT_EQ(Page().Width, 40);
     EXPECT_EQ(Page().Layers[1].ImageWidth, 20);
+    EXPECT_TRUE(window.statusBar()->currentMessage().startsWith("https://example.org/far.png "));
+
+    data.setUrls({QUrl::fromLocalFile(second)});
+    EXPECT_EQ(Hover(data, Qt::ControlModifier), Qt::LinkAction);
+    EXPECT_EQ(Hover(data, Qt::ControlModifier, Qt::CopyAction), Qt::CopyAction);
+    EXPECT_EQ(Hover(data, Qt::NoModifier, Qt::MoveAction), Qt::IgnoreAction);
+    EXPECT_EQ(Hover(data), Qt::CopyAction);
+    Drop(data);
+    ASSERT_TRUE(WaitUntil([&] { return Page().LayerCount() == 3; }));
+
+    Hover(data, Qt::ControlModifier);
+    AnswerDialog<SavePrompt>(
+        [](SavePrompt& prompt) { prompt.findChildren<QPushButton*>()[1]->click(); });
+    Drop(data, Qt::ControlModifier);
+    ASSERT_TRUE(WaitUntil([&] { return Page().LayerCount() == 1; }));
+    EXPECT_EQ(Page().Width, 20);
+}
+
+TEST_F(MainWindowTest, DroppedTextsAreAddressesOrPaths) {
+    const QString picture = Picture("a \u00e4%.png", 4, 4), none = Path("none.png");
+    const std::tuple<QString, int, const char*> cases[] = {
+        {"some text", -1, ""},
+        {"first.png", -1, ""},
+        {picture + "\nand more", -1, ""},
+        {"", -1, ""},
+        {picture, 1, ""},
+        {picture + "\r\n \n" + QUrl::fromLocalFile(picture).toEncoded() + '\n', 2, ""},
+        {none, 0, "none.png: No such file or directory"},
+        {Path(""), 0, ": Is a directory"},
+        {"https://example.org/a.png", 0, "only files that are can be opened."},
+        {"https:", -1, ""},
+    };
+    for (const auto& [text, layers, told] : cases) {
+        SCOPED_TRACE(text.toStdString());
+        NewPage(8, 8);
+        QMimeData data;
+        data.setText(text);
+        EXPECT_EQ(IsTaken(data), layers >= 0);
+        if (layers < 0)
+            continue;
+        QString message = "";
+        if (*told)
+            AnswerDialog<QMessageBox>([&](QMessageBox& box) {
+                message = box.text();
+                box.accept();
+            });
+        Drop(data);
+        EXPECT_TRUE(WaitUntil([&] { return Page().LayerCount() == 1 + layers; }));
+        EXPECT_TRUE(WaitUntil([&] { return message.endsWith(told); })) << message.toStdString();
+    }
 }
 
 TEST_F(MainWindowTest, NothingIsDroppedBehindADialog) {

@@ -75,15 +75,18 @@ protected:
                   keys);
     }
 
-    bool IsTaken(const QMimeData& data) {
-        QDragEnterEvent enter(QPoint(50, 50), Qt::CopyAction, &data, Qt::LeftButton,
-                              Qt::NoModifier);
+    // What would be done with a drop; IgnoreAction: it is not taken.
+    Qt::DropAction Hover(const QMimeData& data, Qt::KeyboardModifiers keys = Qt::NoModifier,
+                         Qt::DropActions offered = Qt::CopyAction | Qt::MoveAction |
+                                                   Qt::LinkAction) {
+        QDragEnterEvent enter(QPoint(50, 50), offered, &data, Qt::LeftButton, keys);
         enter.ignore();
         QApplication::sendEvent(&Scene(), &enter);
-        return enter.isAccepted();
+        return enter.isAccepted() ? enter.dropAction() : Qt::IgnoreAction;
     }
-    void Drop(const QMimeData& data) {
-        QDropEvent drop(QPointF(50, 50), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    bool IsTaken(const QMimeData& data) { return Hover(data) != Qt::IgnoreAction; }
+    void Drop(const QMimeData& data, Qt::KeyboardModifiers keys = Qt::NoModifier) {
+        QDropEvent drop(QPointF(50, 50), Qt::CopyAction, &data, Qt::LeftButton, keys);
         QApplication::sendEvent(&Scene(), &drop);
     }
 
