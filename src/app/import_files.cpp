@@ -59,7 +59,8 @@ public:
             text += std::string(stopped_) + ": " + Grouped(done_) + " of " + Grouped(files_) +
                     " files were " + verb_ + ".\n";
         if (files_ > 1 && failed_ > 0)
-            text += Grouped(failed_) + " of " + Grouped(files_) + " files could not be " + verb_ + ":\n";
+            text += Grouped(failed_) + " of " + Grouped(files_) + " files could not be " + verb_ +
+                    ":\n";
         for (std::size_t i = 0; i < std::min(lines_.size(), kMostLines); ++i)
             text += lines_[i] + '\n';
         if (lines_.size() > kMostLines)
@@ -96,7 +97,8 @@ void TakeFiles(const WindowContext& context, const std::vector<fs::path>& files,
             summary.End("Cancelled");
             break;
         }
-        if (end == TakeEnd::Failed && !opens && i + 1 < count && IsFull(context.Commands.Editor())) {
+        if (end == TakeEnd::Failed && !opens && i + 1 < count &&
+            IsFull(context.Commands.Editor())) {
             summary.End("Stopped");
             break;
         }

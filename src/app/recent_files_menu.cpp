@@ -30,13 +30,14 @@ void RecentFilesMenu::Fill() {
     clear();
     // Queued: an entry that is chosen may change the list that it stands in.
     for (const std::filesystem::path& path : context_.Recent.Paths()) {
-        const QString name = fontMetrics().elidedText(ShownPath(path.filename()), Qt::ElideMiddle,
-                                                      kWidestName);
+        const QString name =
+            fontMetrics().elidedText(ShownPath(path.filename()), Qt::ElideMiddle, kWidestName);
         QAction* entry = addAction(Numbered(actions().size() + 1, name));
         entry->setToolTip(ShownPath(path));
         entry->setStatusTip(ShownPath(path));
-        connect(entry, &QAction::triggered, this, [this, path] { OpenRecent(context_, path); },
-                Qt::QueuedConnection);
+        connect(
+            entry, &QAction::triggered, this, [this, path] { OpenRecent(context_, path); },
+            Qt::QueuedConnection);
     }
     menuAction()->setEnabled(!isEmpty());
     addSeparator();

@@ -18,6 +18,7 @@ constexpr int kRowHeight = 24;
 constexpr int kWidth = 350;
 constexpr int kWelcomeLeft = 140;   // of the scene's middle, as its text stands
 constexpr int kWelcomeBottom = 90;  // below the scene's middle
+constexpr int kInset = 2;           // of the texts in a row
 constexpr int kGap = 12;            // between name and folder
 constexpr QColor kHeadColor(200, 200, 200);
 constexpr QColor kNameColor(255, 255, 255);
@@ -40,7 +41,7 @@ public:
 protected:
     void paintEvent(QPaintEvent*) override {
         QPainter painter(this);
-        const QRect place = rect().adjusted(2, 0, -2, 0);
+        const QRect place = rect().adjusted(kInset, 0, -kInset, 0);
         const auto draw = [&](int left, const QString& text) {
             const int room = place.right() + 1 - left;
             const QString shown = painter.fontMetrics().elidedText(text, Qt::ElideMiddle, room);
@@ -104,7 +105,7 @@ void RecentFilesView::Place() {
     const int shown = std::clamp(room, 0, static_cast<int>(rows_.size()));
     for (int i = 0; i < rows_.size(); ++i)
         rows_[i]->setVisible(i < shown);
-    const int left = std::max(scene_.width() / 2 - kWelcomeLeft, 0);
+    const int left = std::max(scene_.width() / 2 - kWelcomeLeft - kInset, 0);
     setGeometry(left, top, kWidth, shown > 0 ? kRowHeight * (shown + 1) : 0);
 }
 
@@ -118,7 +119,7 @@ void RecentFilesView::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setFont(widgets::ChromeFont(9));
     painter.setPen(kHeadColor);
-    painter.drawText(QRect(2, 0, width(), kRowHeight), Qt::AlignLeft | Qt::AlignVCenter,
+    painter.drawText(QRect(kInset, 0, width(), kRowHeight), Qt::AlignLeft | Qt::AlignVCenter,
                      "Recent files");
 }
 

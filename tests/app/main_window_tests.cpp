@@ -6,6 +6,7 @@
 #include <QFileDialog>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QScreen>
 #include <QStatusBar>
 #include <QWindow>
 
@@ -160,6 +161,38 @@ TEST_F(MainWindowTest, TheBrushPanelSlidesIn) {
     EXPECT_TRUE(WaitUntil([&] { return panel.isVisible() && panel.y() == 0; }));
     ClickBar("ToolBox", 4);
     EXPECT_TRUE(WaitUntil([&] { return !panel.isVisible(); }));
+}
+
+// Also at its smallest, whatever the panels add to that, and at the end of the screen.
+TEST_F(MainWindowTest, ComesBackToWhereItStood) {
+    const QRect screen = window.screen()->availableGeometry();
+    for (const bool open : {true, false}) {
+        Settings().clear();
+        window.RestoreSettings();
+        Part<BottomPanel>("BottomTips").SetOpen(open);
+        QApplication::processEvents();
+        window.resize(1, 1);
+        window.move(screen.bottomRight() - window.rect().bottomRight());
+        QApplication::processEvents();
+        const QRect stood = window.geometry();
+        window.StoreSettings();
+        MainWindow next;
+        next.RestoreSettings();
+        next.show();
+        QApplication::processEvents();
+        EXPECT_EQ(next.geometry(), stood) << open;
+    }
+}
+
+TEST_F(MainWindowTest, ASecondStartWithoutAFileRaisesTheWindow) {
+    for (const Qt::WindowStates before : {Qt::WindowNoState, Qt::WindowMaximized}) {
+        window.setWindowState(before | Qt::WindowMinimized);
+        EXPECT_TRUE(window.isMinimized());
+        window.TakeHandOver({});
+        EXPECT_TRUE(window.isVisible());
+        EXPECT_EQ(window.windowState() & ~Qt::WindowActive, before);
+        EXPECT_TRUE(WaitUntil([&] { return window.isActiveWindow(); }));
+    }
 }
 
 TEST_F(MainWindowTest, AFirstStartFindsAStartingSetWhichIsWrittenOnce) {
