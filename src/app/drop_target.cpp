@@ -4,10 +4,20 @@
 #include <QDropEvent>
 #include <QMimeData>
 #include <QWidget>
+#include <algorithm>
 #include <utility>
 
 namespace orbelle::app {
 namespace {
+
+// By the names: what comes of it is told by what the files hold.
+bool HasDocument(const OfferedFiles& files) {
+    return std::ranges::any_of(files.Local, [](const QByteArray& file) {
+        return QByteArrayView(file)
+                   .last(std::min<qsizetype>(file.size(), 5))
+                   .compare(".volf", Qt::CaseInsensitive) == 0;
+    });
+}
 
 bool IsCtrlHeld(const QDropEvent& event) {
     return event.modifiers() & Qt::ControlModifier;
@@ -25,7 +35,7 @@ DropTarget::DropTarget(QWidget& window, std::function<bool()> isEmpty)
 bool DropTarget::Answer(QDropEvent& event) const {
     // The toolkit lets drops through to a window that a dialog blocks.
     const bool isTaken = isWanted_ && !QApplication::activeModalWidget();
-    const bool opens = isEmpty_() || IsCtrlHeld(event);
+    const bool opens = isEmpty_() || hasDocument_ || IsCtrlHeld(event);
     const Qt::DropActions offered = event.possibleActions() & (Qt::CopyAction | Qt::LinkAction);
     event.setAccepted(isTaken && offered);
     if (event.isAccepted()) {
@@ -40,7 +50,9 @@ bool DropTarget::eventFilter(QObject* watched, QEvent* event) {
     switch (event->type()) {
         case QEvent::DragEnter: {
             auto& enter = *static_cast<QDropEvent*>(event);
-            isWanted_ = !FilesIn(*enter.mimeData()).IsEmpty() || enter.mimeData()->hasImage();
+            const OfferedFiles files = FilesIn(*enter.mimeData());
+            isWanted_ = !files.IsEmpty() || enter.mimeData()->hasImage();
+            hasDocument_ = HasDocument(files);
             Answer(enter);
             return true;
         }

@@ -37,7 +37,9 @@ private:
     bool Answer(QDropEvent& event) const;
 
     std::function<bool()> isEmpty_;
-    bool isWanted_ = false;  // what hovers over the window
+    // What hovers over the window.
+    bool isWanted_ = false;
+    bool hasDocument_ = false;
 };
 
 }  // namespace orbelle::app

@@ -31,6 +31,9 @@ TEST_F(MainWindowTest, DroppedFilesOpenOrBecomeLayers) {
     EXPECT_EQ(Hover(data, Qt::ControlModifier), Qt::LinkAction);
     EXPECT_EQ(Hover(data, Qt::ControlModifier, Qt::CopyAction), Qt::CopyAction);
     EXPECT_EQ(Hover(data, Qt::NoModifier, Qt::MoveAction), Qt::IgnoreAction);
+    data.setUrls({QUrl::fromLocalFile(second), QUrl("file:///a.Volf")});
+    EXPECT_EQ(Hover(data), Qt::LinkAction) << "a document opens in any case";
+    data.setUrls({QUrl::fromLocalFile(second)});
     EXPECT_EQ(Hover(data), Qt::CopyAction);
     Drop(data);
     ASSERT_TRUE(WaitUntil([&] { return Page().LayerCount() == 3; }));
