@@ -1,40 +1,24 @@
 // Tips in the window: beside what they stand, that they follow it, and how they close.
-#include <gtest/gtest.h>
-
-#include <QScrollBar>
 #include <QToolButton>
 
 #include "app/bottom_panel.h"
-#include "app/main_window.h"
-#include "app/scene_view.h"
 #include "editing/buttons.h"
-#include "editing/document_commands.h"
 #include "editing/tips.h"
-#include "editing/tool_palette.h"
 #include "editing/view_commands.h"
-#include "support/hands.h"
-#include "waiting.h"
+#include "main_window_fixture.h"
+#include "widgets/balloon.h"
 #include "widgets/panel_header.h"
 
 namespace orbelle::app {
 namespace {
 
-using namespace orbelle::testing;
 namespace tips = editing::tips;
 using editing::Tool;
 
-class TipsTest : public ::testing::Test {
+class TipsTest : public MainWindowTest {
 protected:
-    TipsTest() {
-        window.resize(1100, 760);
-        window.show();
-        window.SetTipsEnabled(true);
-    }
+    TipsTest() { window.SetTipsEnabled(true); }
 
-    void NewPage(int side) {
-        window.Run([=](editing::Editor& editor) { NewDocument(editor, side, side); });
-        WaitUntil([&] { return !window.IsZoomAnimationRunning(); });
-    }
     void Tell(int tip, bool aboutLayers = false) {
         window.Run([=](editing::Editor& editor) { editor.Changed.Tip = {tip, aboutLayers}; });
         // Panels that a tool has opened are laid out; the balloons follow.
@@ -46,10 +30,6 @@ protected:
         Tell(tips::OtherTool);
     }
 
-    template <typename Widget>
-    Widget& Part(const char* name) {
-        return *window.findChild<Widget*>(name);
-    }
     widgets::Balloon& Balloon(bool isSecond = false) {
         return Part<widgets::Balloon>(isSecond ? "SecondBalloon" : "FirstBalloon");
     }
@@ -58,30 +38,26 @@ protected:
     }
     QRect PlaceOf(const QWidget& widget) { return PlaceOf(widget, widget.rect()); }
     QRect Button(const char* bar, int number) {
-        const auto& buttons = Part<widgets::ButtonBar>(bar);
+        const auto& buttons = Part<ButtonBar>(bar);
         return PlaceOf(buttons, buttons.ButtonRect(number));
     }
     QRect PageOnScene() {
         const document::View& view = window.Editor().View;
-        const document::Page& page = window.Editor().Page();
-        return PlaceOf(*window.findChild<SceneView*>(),
-                       QRect(PageOffsetX(page, view), PageOffsetY(page, view),
-                             static_cast<int>(page.Width * view.Zoom),
-                             static_cast<int>(page.Height * view.Zoom)));
+        return PlaceOf(Scene(), QRect(PageOffsetX(Page(), view), PageOffsetY(Page(), view),
+                                      static_cast<int>(Page().Width * view.Zoom),
+                                      static_cast<int>(Page().Height * view.Zoom)));
     }
     // Beside, with nothing but an arrow's length between.
     static bool Touches(const QRect& balloon, const QRect& target) {
         return !balloon.intersects(target) && balloon.adjusted(-3, -3, 3, 3).intersects(target);
     }
-
-    MainWindow window;
 };
 
 TEST_F(TipsTest, StandBesideWhatTheyAreAbout) {
     using namespace editing;
     for (const int side : {16, 64, 256, 512}) {
         SCOPED_TRACE(side);
-        NewPage(side);
+        NewPage(side, side);
         const std::pair<int, QRect> cases[] = {
             {tips::Welcome,
              Button("MainBar", main_buttons::New) | Button("MainBar", main_buttons::Open)},
@@ -104,7 +80,7 @@ TEST_F(TipsTest, StandBesideWhatTheyAreAbout) {
 }
 
 TEST_F(TipsTest, OfToolsLeaveTheWellsAndTheBrushThatTheyNameFree) {
-    NewPage(512);
+    NewPage(512, 512);
     Part<BottomPanel>("BottomTips").SetOpen(false);
     Use(Tool::Pencil);
     EXPECT_FALSE(Balloon(true).isVisible()) << "there is nothing to point at in a folded panel";
@@ -126,7 +102,7 @@ TEST_F(TipsTest, OfToolsLeaveTheWellsAndTheBrushThatTheyNameFree) {
 }
 
 TEST_F(TipsTest, FollowTheirTargetsAndHideWithThem) {
-    NewPage(64);
+    NewPage(64, 64);
     Tell(tips::MoveTool);
     const QPoint before = Balloon().pos();
     window.resize(1200, 800);
@@ -140,7 +116,7 @@ TEST_F(TipsTest, FollowTheirTargetsAndHideWithThem) {
 
 TEST_F(TipsTest, ShowOnlyWhenTheyAreOnAndHaveAText) {
     window.SetTipsEnabled(false);
-    NewPage(64);
+    NewPage(64, 64);
     EXPECT_FALSE(Balloon().isVisible());
     window.SetTipsEnabled(true);
     // Has no text of its own, and there was none before.
@@ -151,16 +127,16 @@ TEST_F(TipsTest, ShowOnlyWhenTheyAreOnAndHaveAText) {
 }
 
 TEST_F(TipsTest, CloseTheSecondToAfterATapOnThePage) {
-    NewPage(64);
+    NewPage(64, 64);
     Part<BottomPanel>("BottomTips").SetOpen(true);
     Use(Tool::Pencil);
     ASSERT_TRUE(WaitUntil([&] { return Balloon(true).isVisible(); }));
-    Click(*window.findChild<SceneView*>(), {5, 5});
+    Click(Scene(), {5, 5});
     EXPECT_TRUE(WaitUntil([&] { return !Balloon(true).isVisible(); }));
 }
 
 TEST_F(TipsTest, TheTabThatTurnsThemOffStandsClearOfBalloonsAndScrollBar) {
-    NewPage(64);
+    NewPage(64, 64);
     auto& panel = Part<BottomPanel>("BottomTips");
     panel.SetOpen(true);
     Use(Tool::Pencil);
@@ -171,14 +147,10 @@ TEST_F(TipsTest, TheTabThatTurnsThemOffStandsClearOfBalloonsAndScrollBar) {
     EXPECT_TRUE(WaitUntil([&] { return isUp(panel.y()); }));
     EXPECT_FALSE(tab.geometry().intersects(Balloon(true).geometry()));
 
-    window.Run(editing::ZoomIn);
     for (int i = 0; i < 12; ++i)
         window.Run(editing::ZoomIn);
-    QScrollBar* bar = nullptr;
-    for (QScrollBar* any : window.findChildren<QScrollBar*>())
-        if (any->accessibleName() == "Horizontal position")
-            bar = any;
-    EXPECT_TRUE(WaitUntil([&] { return bar->isVisible() && isUp(PlaceOf(*bar).top()); }));
+    QScrollBar& bar = Bar(Qt::Horizontal);
+    EXPECT_TRUE(WaitUntil([&] { return bar.isVisible() && isUp(PlaceOf(bar).top()); }));
 
     Click(Part<QToolButton>("CloseTips"), {5, 5});
     EXPECT_FALSE(tab.isVisible());
