@@ -207,8 +207,12 @@ void BottomPanel::CommitTyping() {
     lineWidth_->CommitTyping();
 }
 
-QWidget& BottomPanel::FirstColorWell() const {
-    return *wells_[0];
+const QWidget& BottomPanel::Colors() const {
+    return *wells_[0]->parentWidget();
+}
+
+const QWidget& BottomPanel::BrushOptions() const {
+    return *brush_;
 }
 
 bool BottomPanel::eventFilter(QObject* watched, QEvent* event) {

@@ -31,7 +31,8 @@ public:
     void SetOpen(bool open);
     // A page size that is being typed counts from now on.
     void CommitTyping();
-    QWidget& FirstColorWell() const;
+    const QWidget& Colors() const;  // the wells and their caption
+    const QWidget& BrushOptions() const;
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;

@@ -3,6 +3,7 @@
 
 #include <QTimer>
 #include <QWidget>
+#include <vector>
 
 namespace orbelle::app {
 
@@ -10,20 +11,29 @@ class CloseTipsTab : public QWidget {
     Q_OBJECT
 
 public:
-    // A child of the same widget as `panel`, from behind which it slides up.
-    explicit CloseTipsTab(QWidget& panel);
+    // A child of the same widget as `panel`, from behind which it slides up; from the upper edge of
+    // the scroll bar that lies on the panel, while that can be seen.
+    CloseTipsTab(QWidget& panel, QWidget& scrollBar);
 
     // Unless it stands there already, or the user has closed it.
     void SlideUp();
-    void Place();
+    // Makes room for what lies there, in pixels of its parent.
+    void StepAsideFor(const std::vector<QRect>& others);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void Step();
+    void Place();
+    int Floor() const;
+    int LeftEdge() const;
 
     QWidget& panel_;
+    QWidget& scrollBar_;
+    std::vector<QRect> others_;
+    int shown_ = 0;  // rows of it, from the top
     QTimer slide_;
     bool closed_ = false;
 };

@@ -140,11 +140,6 @@ void MainWindow::TakeDrop(const Drop& drop) {
         TakeDropped(context_, drop);
 }
 
-void MainWindow::resizeEvent(QResizeEvent* event) {
-    QMainWindow::resizeEvent(event);
-    closeTips_->Place();
-}
-
 void MainWindow::StartWelcome() {
     if (!editor_.DocumentExists)
         welcome_->Start();

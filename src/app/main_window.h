@@ -34,6 +34,7 @@ class MainWindow : public QMainWindow,
                    public CommandRunner,
                    public UserQuestions,
                    public WindowActions,
+                   public TipSurroundings,
                    public editing::EditorObserver,
                    public editing::Clipboard {
     Q_OBJECT
@@ -111,7 +112,6 @@ public:
 
 protected:
     void closeEvent(QCloseEvent* event) override;
-    void resizeEvent(QResizeEvent* event) override;
 
 private:
     void BeginCommand();
@@ -126,7 +126,8 @@ private:
     void ShowTitle();
     void TakeDrop(const Drop& drop);
     void PopUpOrderMenu(const QPoint& at);
-    std::optional<QPoint> TipPlacement(editing::TipPlace place, QSize balloon) const;
+    std::optional<Target> TargetOf(editing::TipPlace place) const override;
+    std::vector<QRect> TipObstacles() const override;
 
     editing::Editor editor_{*this, *this};
     RecentFiles recent_;
@@ -150,7 +151,6 @@ private:
     RightPanel* rightPanel_ = nullptr;
     BottomPanel* bottomPanel_ = nullptr;
     CloseTipsTab* closeTips_ = nullptr;
-    mutable QPoint lastLayerMiddle_;  // where the last tip about a layer stood
     std::unique_ptr<editing::Recovery> recovery_;
 };
 

@@ -57,10 +57,10 @@ void MainWindow::AddPanels() {
 
     for (widgets::ButtonBar* popup : {bars_->FillBar, bars_->SelectionBar, bars_->EraserBar})
         popup->setParent(central);
-    closeTips_ = new CloseTipsTab(*bottomPanel_);
-    tips_ = std::make_unique<TipBalloons>(
-        editor_, *central,
-        [this](editing::TipPlace place, QSize size) { return TipPlacement(place, size); });
+    closeTips_ = new CloseTipsTab(*bottomPanel_, *horizontalScroll_);
+    tips_ = std::make_unique<TipBalloons>(editor_, *central, *this);
+    connect(tips_.get(), &TipBalloons::Placed, closeTips_,
+            [this] { closeTips_->StepAsideFor(tips_->OpenBalloons()); });
     connect(tips_.get(), &TipBalloons::BalloonClicked, closeTips_, &CloseTipsTab::SlideUp);
     recentView_ = new RecentFilesView(recent_, *scene_);
     // Queued: the file that is opened may take the row away that was clicked.

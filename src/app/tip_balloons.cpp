@@ -9,18 +9,16 @@ constexpr int kOldest = 300;  // ticks
 
 }  // namespace
 
-TipBalloons::TipBalloons(const editing::Editor& editor, QWidget& central, Placement placement)
+TipBalloons::TipBalloons(const editing::Editor& editor, QWidget& central,
+                         const TipSurroundings& surroundings)
     : editor_(editor),
-      placement_(std::move(placement)),
-      first_(new widgets::Balloon(&central)),
-      second_(new widgets::Balloon(&central)) {
-    first_->setObjectName("FirstBalloon");
-    second_->setObjectName("SecondBalloon");
-    second_->SetPointsDown(true);
-    for (widgets::Balloon* balloon : {first_, second_}) {
-        balloon->hide();
-        connect(balloon, &widgets::Balloon::Clicked, this, [this, balloon] {
-            balloon->hide();
+      surroundings_(surroundings),
+      first_(MakeTip(central, "FirstBalloon")),
+      second_(MakeTip(central, "SecondBalloon")) {
+    for (Tip* tip : {&first_, &second_}) {
+        connect(tip->Balloon, &widgets::Balloon::Clicked, this, [this, tip] {
+            tip->Wanted = false;
+            Place();
             emit BalloonClicked();
         });
     }
@@ -28,18 +26,11 @@ TipBalloons::TipBalloons(const editing::Editor& editor, QWidget& central, Placem
     connect(&aging_, &QTimer::timeout, this, &TipBalloons::Grow);
 }
 
-bool TipBalloons::Put(widgets::Balloon& balloon, const std::optional<editing::Tip>& tip) {
-    if (!tip)
-        return true;
-    balloon.SetText(QString::fromStdString(tip->Text));
-    const std::optional<QPoint> place = placement_(tip->Place, balloon.size());
-    if (!place)
-        return false;
-    // A balloon that would leave the window moves in.
-    const QSize room = balloon.parentWidget()->size() - balloon.size();
-    balloon.move(std::clamp(place->x(), 0, std::max(room.width(), 0)),
-                 std::clamp(place->y(), 0, std::max(room.height(), 0)));
-    return true;
+TipBalloons::Tip TipBalloons::MakeTip(QWidget& central, const char* name) {
+    auto* balloon = new widgets::Balloon(&central);
+    balloon->setObjectName(name);
+    balloon->hide();
+    return {balloon};
 }
 
 void TipBalloons::Show(const editing::TipRequest& request) {
@@ -49,21 +40,70 @@ void TipBalloons::Show(const editing::TipRequest& request) {
     const int pick = std::uniform_int_distribution<int>(1, 2)(random_);
     const editing::TipChoice choice =
         ChooseTips(editor_, request.Number, request.AboutLayers, pick);
-    const bool seesFirst = Put(*first_, choice.FirstBalloon);
-    first_->setVisible(choice.FirstVisible && seesFirst);
-    const bool seesSecond = Put(*second_, choice.SecondBalloon);
+    const auto set = [](Tip& tip, const std::optional<editing::Tip>& chosen) {
+        if (!chosen)
+            return;
+        tip.Balloon->SetText(QString::fromStdString(chosen->Text));
+        tip.Place = chosen->Place;
+    };
+    set(first_, choice.FirstBalloon);
+    set(second_, choice.SecondBalloon);
+    first_.Wanted = choice.FirstVisible;
     if (choice.SecondVisible)
-        second_->setVisible(*choice.SecondVisible && seesSecond);
-    for (widgets::Balloon* balloon : {first_, second_})
-        balloon->raise();
+        second_.Wanted = *choice.SecondVisible;
+    Place();
     aging_.start();
 }
 
+// The second has fewer places to stand in, and the first keeps off its target too.
+void TipBalloons::Place() {
+    std::vector<QRect> obstacles = surroundings_.TipObstacles();
+    PlaceOne(second_, obstacles);
+    PlaceOne(first_, obstacles);
+    emit Placed();
+}
+
+void TipBalloons::PlaceOne(Tip& tip, std::vector<QRect>& obstacles) {
+    widgets::Balloon& balloon = *tip.Balloon;
+    std::optional<TipSurroundings::Target> target;
+    if (tip.Wanted && !balloon.Text().isEmpty())
+        target = surroundings_.TargetOf(tip.Place);
+    std::optional<widgets::BalloonPlace> place;
+    if (target)
+        place = widgets::PlaceBalloon({target->Rect, balloon.BodySize(),
+                                       balloon.parentWidget()->rect(), obstacles, target->Sides});
+    if (!place)
+        return balloon.hide();
+    balloon.Stand(*place);
+    if (balloon.isHidden()) {
+        balloon.show();
+        balloon.raise();
+    }
+    obstacles.push_back(place->Body);
+    obstacles.push_back(target->Rect);
+}
+
+std::vector<QRect> TipBalloons::OpenBalloons() const {
+    std::vector<QRect> places;
+    for (const Tip* tip : {&first_, &second_})
+        if (!tip->Balloon->isHidden())
+            places.push_back(tip->Balloon->geometry());
+    return places;
+}
+
 void TipBalloons::HideFirst() {
-    if (first_->isHidden())
+    if (!first_.Wanted)
         return;
-    first_->hide();
+    first_.Wanted = false;
+    Place();
+}
+
+bool TipBalloons::Close() {
+    const bool wasOpen = !OpenBalloons().empty();
+    first_.Wanted = second_.Wanted = false;
     aging_.stop();
+    Place();
+    return wasOpen;
 }
 
 void TipBalloons::Expire() {
@@ -76,11 +116,9 @@ void TipBalloons::Stop() {
 
 void TipBalloons::Grow() {
     if (++age_ <= kOldest)
-        return;
+        return Place();
     age_ = 0;
-    first_->hide();
-    second_->hide();
-    aging_.stop();
+    Close();
 }
 
 }  // namespace orbelle::app

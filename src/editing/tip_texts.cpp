@@ -31,9 +31,8 @@ constexpr FixedTip kFixedTips[] = {
     {tips::Ios,
      "Click here, you could try to draw a rectangle, or click File/Import to import a picture. it "
      "will look more perfect.",
-     TipPlace::ToolColumn},
-    {tips::NothingToMove, "To move the icon, you must to choose an icon object.",
-     TipPlace::PageCorner},
+     TipPlace::RectangleButton},
+    {tips::NothingToMove, "To move the icon, you must to choose an icon object.", TipPlace::Page},
 };
 
 TipChoice MoveTips(const Editor& editor, bool showLayerTips, int pick) {
@@ -42,7 +41,7 @@ TipChoice MoveTips(const Editor& editor, bool showLayerTips, int pick) {
         pick == 1 ? "Click right-click to rotate, flip or adjust the order the selected icon."
                   : "Using the mouse Drag & Drop or direction key to move the selected icon. Click "
                     "\"Style\" menu to ornament your icon.",
-        TipPlace::LayerMiddle};
+        TipPlace::SelectedLayer};
     choice.FirstVisible = editor.Page().LayerCount() > 0;
     if (showLayerTips) {
         choice.SecondBalloon =
@@ -108,7 +107,7 @@ TipChoice ToolTips(const Editor& editor) {
     choice.FirstVisible = editor.Page().LayerCount() > 0;
     choice.SecondVisible = tool != Tool::PencilEraser && tool != Tool::SelectRectangle;
     if (const std::string text = DrawingText(tool); !text.empty())
-        choice.FirstBalloon = Tip{text, TipPlace::LayerMiddle};
+        choice.FirstBalloon = Tip{text, TipPlace::SelectedLayer};
     if (const std::string text = OptionsText(tool); !text.empty())
         choice.SecondBalloon =
             Tip{text, tool == Tool::BrushEraser ? TipPlace::BrushOptions : TipPlace::ColorWells};

@@ -13,10 +13,10 @@ enum class TipPlace {
     NewAndOpenButtons,  // of MainBar
     ImportButton,
     UndoButtons,
-    LayerMiddle,  // of the selected layer, on the scene
-    PageCorner,   // on the scene
+    SelectedLayer,  // on the scene
+    Page,           // on the scene
     OpacitySlider,
-    ToolColumn,
+    RectangleButton,  // of the tools
     AddLayerButton,
     ColorWells,
     BrushOptions,
@@ -24,7 +24,7 @@ enum class TipPlace {
 
 struct Tip {
     std::string Text;
-    TipPlace Place = TipPlace::PageCorner;
+    TipPlace Place = TipPlace::Page;
 };
 
 // Both balloons after a tip was asked for. A balloon without a value stays as it is; one whose tip

@@ -3,6 +3,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPainterPath>
+#include <QPolygonF>
 
 #include "widgets/accessible_role.h"
 #include "widgets/chrome.h"
@@ -11,17 +12,24 @@ namespace orbelle::widgets {
 
 namespace {
 
-constexpr double kCornerRadius = 6;
-constexpr int kWidth = 190;
-constexpr int kTextWidth = 180;
-constexpr int kTextLeft = 5;
-constexpr int kTextTopPointingUp = 18;
-constexpr int kTextTopPointingDown = 10;
-constexpr int kArrowHeight = 10;
-// The owners of balloons place them so that this pixel is over what they are about.
-constexpr int kArrowTip = 35;
-constexpr int kArrowWidth = 14;
-constexpr int kHeightAroundText = 28;
+constexpr QSize kTextRoom(180, 10000);  // at the most
+constexpr int kPadding = 10;
+
+// From the tip, which is at the origin, to the body's edge.
+QPolygonF Arrow(const BalloonPlace& place) {
+    const double half = kBalloonArrowWidth / 2.0, length = place.ArrowLength + 1;
+    switch (place.Side) {
+        case BalloonSide::Below:
+            return QPolygonF({{0, 0.5}, {half, length}, {-half, length}});
+        case BalloonSide::Above:
+            return QPolygonF({{0, -0.5}, {half, -length}, {-half, -length}});
+        case BalloonSide::Right:
+            return QPolygonF({{0.5, 0}, {length, half}, {length, -half}});
+        case BalloonSide::Left:
+            break;
+    }
+    return QPolygonF({{-0.5, 0}, {-length, half}, {-length, -half}});
+}
 
 }  // namespace
 
@@ -33,15 +41,26 @@ Balloon::Balloon(QWidget* parent) : QWidget(parent) {
 
 void Balloon::SetText(const QString& text) {
     text_ = text;
-    const QRect room(0, 0, kTextWidth, QWIDGETSIZE_MAX);
-    setFixedSize(kWidth, kHeightAroundText +
-                             fontMetrics().boundingRect(room, Qt::TextWordWrap, text).height());
     setAccessibleName(text);
     update();
 }
 
-void Balloon::SetPointsDown(bool pointsDown) {
-    pointsDown_ = pointsDown;
+QSize Balloon::BodySize() const {
+    return fontMetrics()
+               .boundingRect(QRect(QPoint(0, 0), kTextRoom), Qt::TextWordWrap, text_)
+               .size() +
+           QSize(2 * kPadding, 2 * kPadding);
+}
+
+void Balloon::Stand(const BalloonPlace& place) {
+    if (place == place_)
+        return;
+    place_ = place;
+    const QRect arrow = ArrowRect(place);
+    setGeometry(place.Body | arrow);
+    // Beside the arrow a press goes through to what lies below.
+    setMask(QRegion(place.Body.translated(-pos())) |
+            arrow.adjusted(-1, -1, 1, 1).translated(-pos()));
     update();
 }
 
@@ -65,28 +84,20 @@ void Balloon::mouseReleaseEvent(QMouseEvent* event) {
 void Balloon::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.save();
-    // One outline, pointing up, serves both ways.
-    if (pointsDown_) {
-        painter.translate(0, height());
-        painter.scale(1, -1);
-    }
+    painter.translate(-pos());
     QPainterPath body;
-    body.addRoundedRect(QRectF(rect()).adjusted(0.5, kArrowHeight + 0.5, -0.5, -0.5), kCornerRadius,
-                        kCornerRadius);
+    body.addRoundedRect(QRectF(place_.Body).adjusted(0.5, 0.5, -0.5, -0.5), kBalloonCorner,
+                        kBalloonCorner);
     QPainterPath arrow;
-    arrow.moveTo(kArrowTip + 0.5, 0.5);
-    arrow.lineTo(kArrowTip + kArrowWidth + 0.5, kArrowHeight + 1.5);
-    arrow.lineTo(kArrowTip + 0.5, kArrowHeight + 1.5);
+    arrow.addPolygon(Arrow(place_).translated(place_.Tip));
     arrow.closeSubpath();
     painter.setBrush(kTipColor);
     painter.setPen(QPen(kTipEdgeColor, 1));
     painter.drawPath(body.united(arrow));
-    painter.restore();
-
     painter.setPen(Qt::black);
-    const int top = pointsDown_ ? kTextTopPointingDown : kTextTopPointingUp;
-    painter.drawText(QRect(kTextLeft, top, kTextWidth, height() - top), Qt::TextWordWrap, text_);
+    // Wrapped as it was measured: in a box of the text's own width words may fall otherwise.
+    painter.drawText(QRect(place_.Body.topLeft() + QPoint(kPadding, kPadding), kTextRoom),
+                     Qt::TextWordWrap, text_);
 }
 
 }  // namespace orbelle::widgets

@@ -3,17 +3,22 @@
 
 #include <QWidget>
 
+#include "widgets/balloon_place.h"
+
 namespace orbelle::widgets {
 
-// Points up at what it is about, or down. Comes up above its siblings.
+// Its arrow points at what it is about. Comes up above its siblings.
 class Balloon : public QWidget {
     Q_OBJECT
 
 public:
     explicit Balloon(QWidget* parent = nullptr);
 
-    void SetText(const QString& text);  // the height follows the text
-    void SetPointsDown(bool pointsDown);
+    void SetText(const QString& text);
+    const QString& Text() const { return text_; }
+    // Without the arrow, by the text.
+    QSize BodySize() const;
+    void Stand(const BalloonPlace& place);
 
 signals:
     void Clicked();
@@ -26,7 +31,7 @@ protected:
 
 private:
     QString text_;
-    bool pointsDown_ = false;
+    BalloonPlace place_;
 };
 
 }  // namespace orbelle::widgets

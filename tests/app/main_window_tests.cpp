@@ -15,9 +15,7 @@
 #include "app/save_prompt.h"
 #include "app/settings.h"
 #include "editing/layer_commands.h"
-#include "editing/tips.h"
 #include "editing/view_commands.h"
-#include "widgets/balloon.h"
 #include "widgets/panel_header.h"
 
 namespace orbelle::app {
@@ -131,24 +129,6 @@ TEST_F(MainWindowTest, ConfirmIsCancelledByDefault) {
         });
         EXPECT_EQ(window.Confirm("Image already exists, overwrite it?", "Warning"), ok);
     }
-}
-
-TEST_F(MainWindowTest, TipsShowOnlyWhenTheyAreOnAndCloseAtAPress) {
-    NewPage(64, 64);
-    auto& balloon = Part<widgets::Balloon>("FirstBalloon");
-    const auto change = [&] {
-        window.Run([](editing::Editor& editor) { editor.Changed.Tip = {editing::tips::Adjusted}; });
-    };
-    change();
-    EXPECT_FALSE(balloon.isVisible());
-    window.SetTipsEnabled(true);
-    change();
-    EXPECT_TRUE(balloon.isVisible());
-    EXPECT_EQ(balloon.pos().x(), 230);
-    EXPECT_GT(balloon.pos().y(), Part<ButtonBar>("MainBar").geometry().bottom());
-
-    Press(Scene(), {5, 5});
-    EXPECT_TRUE(WaitUntil([&] { return !balloon.isVisible(); }));
 }
 
 TEST_F(MainWindowTest, TheBrushPanelSlidesIn) {

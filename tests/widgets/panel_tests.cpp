@@ -1,4 +1,4 @@
-// Headers, captions and balloons; and how controls show the focus.
+// Headers and captions; and how controls show the focus.
 #include <gtest/gtest.h>
 
 #include <QAccessible>
@@ -67,48 +67,6 @@ TEST(PanelHeaderTest, TurnsAtAClickAndAtSpaceAndReturnAndShowsIt) {
     header.SetClosed(true);
     EXPECT_TRUE(header.IsClosed());
     EXPECT_EQ(told, QList<bool>({true, false, true, false})) << "its owner's doing is not told";
-}
-
-TEST(BalloonTest, TakesTheHeightOfItsTextAndPointsUpOrDownAtThe35thPixel) {
-    Balloon balloon;
-    int height = 0;
-    for (const char* text :
-         {"One line.", "Two\nlines.",
-          "Not satisfied with the current results? Undo restores, and Redo repeats."}) {
-        balloon.SetText(text);
-        EXPECT_GT(balloon.height(), std::exchange(height, balloon.height())) << text;
-        EXPECT_EQ(balloon.width(), 190) << text;
-    }
-    const auto isInked = [&](int y) {
-        const QImage picture = balloon.grab().toImage();
-        return picture.pixel(36, y) != picture.pixel(180, y);
-    };
-    const int last = balloon.height() - 2;
-    EXPECT_TRUE(isInked(1) && !isInked(last - 2));
-    balloon.SetPointsDown(true);
-    EXPECT_TRUE(isInked(last) && !isInked(3));
-}
-
-TEST(BalloonTest, ComesUpAboveItsSiblingsAndTellsOfAClick) {
-    QWidget window;
-    window.resize(300, 200);
-    Balloon balloon(&window);
-    balloon.SetText("Click here.");
-    QWidget later(&window);
-    later.resize(300, 200);
-    window.show();
-    balloon.hide();
-    later.raise();
-    balloon.show();
-    EXPECT_EQ(window.childAt(50, 20), &balloon);
-
-    int clicks = 0;
-    QObject::connect(&balloon, &Balloon::Clicked, [&] { ++clicks; });
-    Click(balloon, {50, 20});
-    EXPECT_EQ(clicks, 1);
-    Press(balloon, {50, 20});
-    Release(balloon, {-5, 20});
-    EXPECT_EQ(clicks, 1);
 }
 
 TEST(TextsTest, AreWrappedAndReachAssistiveTools) {
