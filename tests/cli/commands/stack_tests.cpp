@@ -108,12 +108,14 @@ TEST_F(StackCommands, DisabledEntriesFailWithTheReason) {
         {"there is no document", "",
          "save a.volf,export a.png,page 8 8,select 0,background none,add-layer,opacity 5,"
          "style crystal,info,region 0,selection,write-page a,write-scene a,write-layer 0 a,"
-         "tool pencil,click 1 1,key left,delete,toggle-visible,merge,paste,hue 3"},
+         "tool pencil,click 1 1,key left,delete,toggle-visible,merge,paste,hue 3,select-all,"
+         "deselect,invert-selection"},
         {"the document has no layer", "new 4 4 delete", "save a.volf,export a.png"},
         {"no layer is selected", "new 4 4 delete", "copy"},
         {"the selected layer is hidden", "new 4 4 toggle-visible", "cut,merge,style fresh"},
         {"the selected layer clips the one above it", "new 4 4 style ios", "flip vertical"},
         {"the clipboard holds no picture", "new 4 4", "paste"},
+        {"nothing is selected", "new 4 4 select-all deselect", "deselect,invert-selection"},
         {"there is no layer below the selected one", "new 4 4", "merge"},
         {"the selected layer is there already", "new 4 4 add-layer", "order front,order forward"},
         {"the selected layer is there already", "new 4 4", "order back,order backward"},
