@@ -113,6 +113,7 @@ protected:
 
 private:
     void BeginCommand();
+    void GiveUp();  // Escape on the page
     QWidget* MakeScene();
     void ConnectScene();
     void AddPanels();

@@ -142,6 +142,10 @@ void MainWindow::AddShortcuts() {
                 [this, command = shortcut.Command] { Run(command); });
         addAction(action);
     }
+    auto* escape = new QAction("Give up", this);
+    escape->setShortcut(Qt::Key_Escape);
+    connect(escape, &QAction::triggered, this, &MainWindow::GiveUp);
+    addAction(escape);
 }
 
 }  // namespace orbelle::app

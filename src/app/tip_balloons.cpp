@@ -66,6 +66,14 @@ void TipBalloons::HideFirst() {
     aging_.stop();
 }
 
+bool TipBalloons::Close() {
+    const bool wasOpen = !first_->isHidden() || !second_->isHidden();
+    first_->hide();
+    second_->hide();
+    aging_.stop();
+    return wasOpen;
+}
+
 void TipBalloons::Expire() {
     age_ = kOldest;
 }
@@ -78,9 +86,7 @@ void TipBalloons::Grow() {
     if (++age_ <= kOldest)
         return;
     age_ = 0;
-    first_->hide();
-    second_->hide();
-    aging_.stop();
+    Close();
 }
 
 }  // namespace orbelle::app

@@ -29,6 +29,7 @@ public:
 
     void Show(const editing::TipRequest& request);
     void HideFirst();  // and lets the balloons grow no older
+    bool Close();      // both; whether one was open
     void Expire();     // the next tick closes them
     void Stop();
 

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "document/icon_layer.h"
+#include "document/selection.h"
 #include "document/view.h"
 #include "graphics/bitmap.h"
 #include "graphics/geometry.h"
@@ -29,6 +30,7 @@ struct EraserDrag {
 
 struct FrameSelectionDrag {
     graphics::PointF Press;  // brought onto the page
+    document::Selection Before;
 };
 
 struct PolygonSelectionDrag {};

@@ -129,9 +129,4 @@ void KeyDownScene(Editor& editor, SceneKey key) {
     }
 }
 
-void CancelInput(Editor& editor) {
-    DropPolygon(editor);
-    editor.Changed.Scene = true;
-}
-
 }  // namespace orbelle::editing

@@ -21,7 +21,4 @@ enum class SceneKey { Left, Up, Right, Down, Delete };
 // what the Edit menu's entry does, and nothing where that is disabled.
 void KeyDownScene(Editor& editor, SceneKey key);
 
-// Gives up an open polygon, as running any command gives up a drag.
-void CancelInput(Editor& editor);
-
 }  // namespace orbelle::editing

@@ -629,6 +629,32 @@ TEST_F(MainWindowTest, TipsShowOnlyWhenTheyAreOnAndCloseAtAPress) {
     EXPECT_TRUE(WaitUntil([&] { return !balloon.isVisible(); }));
 }
 
+TEST_F(MainWindowTest, EscapeGivesUpOneThingAtATime) {
+    NewPage(64, 64);
+    window.SetTipsEnabled(true);
+    window.activateWindow();
+    Scene().setFocus();
+    QApplication::processEvents();
+    auto& balloon = Part<widgets::Balloon>("FirstBalloon");
+    window.Run([](editing::Editor& editor) {
+        editor.Tools.InUse = editing::Tool::SelectRectangle;
+        editor.Selection.AddFrame({2, 3, 4, 5}, document::FrameShape::Rectangle);
+    });
+    MouseOnPage(QEvent::MouseButtonPress, {9, 9}, Qt::LeftButton, Qt::LeftButton, {});
+    MouseOnPage(QEvent::MouseMove, {14, 9}, Qt::NoButton, Qt::LeftButton, {});
+    window.RunDuringDrag(
+        [](editing::Editor& editor) { editor.Changed.Tip = {editing::tips::Adjusted}; });
+    Strike(Scene(), Qt::Key_Escape);
+    EXPECT_TRUE(std::holds_alternative<std::monostate>(window.Editor().Drag));
+    EXPECT_EQ(window.Editor().Selection.Bounds(), (graphics::RectI{2, 3, 4, 5}));
+    EXPECT_TRUE(balloon.isVisible());
+    Strike(Scene(), Qt::Key_Escape);
+    EXPECT_FALSE(balloon.isVisible());
+    EXPECT_TRUE(window.Editor().Selection.Exists());
+    Strike(Scene(), Qt::Key_Escape);
+    EXPECT_FALSE(window.Editor().Selection.Exists());
+}
+
 TEST_F(MainWindowTest, TheBrushPanelSlidesIn) {
     NewPage(64, 64);
     Part<BottomPanel>("BottomTips").SetOpen(true);

@@ -3,6 +3,7 @@
 #include "editing/scene_input.h"
 
 #include "editing/adjust_sliders.h"
+#include "editing/give_up.h"
 #include "editing/layer_bar.h"
 #include "editing/tips.h"
 #include "editing/undo_commands.h"

@@ -31,7 +31,7 @@ void Press(Editor& editor, const Pointer& pointer) {
     if (editor.Tools.OpenPopup == Popup::SelectionBar)
         editor.Tools.OpenPopup = Popup::None;
     editor.Overlays.SelectionFrame = {true, editor.Tools.InUse == Tool::SelectEllipse, {}};
-    editor.Drag = FrameSelectionDrag{ClampToScene(editor, pointer.X, pointer.Y)};
+    editor.Drag = FrameSelectionDrag{ClampToScene(editor, pointer.X, pointer.Y), editor.Selection};
     if (!pointer.IsShiftAlone())
         editor.Selection.Start();
 }
