@@ -22,6 +22,7 @@ struct StrokeDrag {
     graphics::PointF Press;
     graphics::Bitmap Before;                 // the layer's picture
     std::vector<graphics::PointF> Freehand;  // the pencil's points, layer pixels
+    graphics::RectF Shape{};                 // drawn last, page pixels; the pencil has none
 };
 
 struct EraserDrag {
@@ -31,6 +32,7 @@ struct EraserDrag {
 struct FrameSelectionDrag {
     graphics::PointF Press;  // brought onto the page
     document::Selection Before;
+    graphics::RectF Box{};  // since the first move, page pixels
 };
 
 struct PolygonSelectionDrag {};

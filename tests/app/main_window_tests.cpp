@@ -482,6 +482,27 @@ TEST_F(MainWindowTest, TheStatusLineFollowsWhatLiesUnderThePointer) {
     EXPECT_EQ(Part<QLabel>("PointerPosition").text(), "-1, 5");
 }
 
+TEST_F(MainWindowTest, TheStatusLineTellsPlaceAndSizeOfADrag) {
+    NewPage(64, 64);
+    const auto& readout = Part<QLabel>("DragReadout");
+    const auto drag = [&](editing::Tool tool) {
+        window.Run([tool](editing::Editor& editor) { editor.Tools.InUse = tool; });
+        MouseOnPage(QEvent::MouseMove, {9, 9}, Qt::NoButton, Qt::NoButton, {});
+        MouseOnPage(QEvent::MouseButtonPress, {9, 9}, Qt::LeftButton, Qt::LeftButton, {});
+        MouseOnPage(QEvent::MouseMove, {14, 7}, Qt::NoButton, Qt::LeftButton, {});
+        const std::string told = readout.text().toStdString();
+        MouseOnPage(QEvent::MouseButtonRelease, {14, 7}, Qt::LeftButton, Qt::NoButton, {});
+        EXPECT_EQ(readout.text(), "");
+        return told;
+    };
+    EXPECT_EQ(drag(editing::Tool::SelectEllipse), "6 \u00D7 3 at 9, 7");
+    window.Run([](editing::Editor& editor) {
+        editor.Selection.Clear();
+        editor.Page().Selected().Region = graphics::Region::FromRect({0, 0, 64, 64});
+    });
+    EXPECT_EQ(drag(editing::Tool::Move), "at 5, -2, moved by 5, -2");
+}
+
 TEST_F(MainWindowTest, SlidersMirrorTheEditor) {
     auto& width = Part<widgets::NumberSlider>("PageWidth");
     EXPECT_FALSE(width.isEnabled());

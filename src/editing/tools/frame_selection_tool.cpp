@@ -41,6 +41,7 @@ void Move(Editor& editor, Pointer& pointer) {
     pointer.X = onPage.X;
     pointer.Y = onPage.Y;
     const RectF box = BoxTo(editor, pointer);
+    std::get<FrameSelectionDrag>(editor.Drag).Box = box;
     const SceneMapping mapping = MappingOf(editor);
     editor.Overlays.SelectionFrame.Rect = {
         static_cast<float>(mapping.PageOffsetX + box.X * mapping.Zoom),
