@@ -121,6 +121,9 @@ void MainWindow::ConnectScene() {
     connect(scene_, &SceneView::KeyPressed, this, [this](editing::SceneKey key) {
         Run([key](Editor& editor) { KeyDownScene(editor, key); });
     });
+    connect(scene_, &SceneView::ShiftHeld, this, [this](bool isHeld) {
+        RunDuringDrag([=](Editor& editor) { HoldShift(editor, isHeld); });
+    });
     // Queued: the program that the files come from waits until the drop has been taken.
     connect(scene_, &SceneView::FilesDropped, this, &MainWindow::ImportDroppedFiles,
             Qt::QueuedConnection);

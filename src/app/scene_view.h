@@ -39,6 +39,7 @@ signals:
     void PointerReleased(const editing::Pointer& pointer);
     void PointerLeft();
     void KeyPressed(editing::SceneKey key);
+    void ShiftHeld(bool isHeld);                     // alone, with the left button
     void FilesDropped(const QByteArrayList& files);  // local paths, in the order given
     void PictureDropped(const OfferedPicture& picture);
 
@@ -48,6 +49,7 @@ protected:
     void mouseReleaseEvent(QMouseEvent* event) override;
     void leaveEvent(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void keyReleaseEvent(QKeyEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;

@@ -12,6 +12,9 @@ void PressScene(Editor& editor, const Pointer& pointer);
 void MoveScene(Editor& editor, const Pointer& pointer);
 void ReleaseScene(Editor& editor, const Pointer& pointer);  // any button ends a drag
 
+// Shift went down or up, alone, while a shape is drawn: its preview follows at once.
+void HoldShift(Editor& editor, bool isHeld);
+
 // The pointer is no longer over the scene.
 void LeaveScene(Editor& editor);
 

@@ -386,6 +386,16 @@ TEST_F(MainWindowTest, ShiftCountsOnlyWhenItIsHeldAlone) {
         EXPECT_EQ(Part<QLabel>("PointerPosition").text(), "20, 10") << name;
         window.Run(editing::Undo);
     }
+    const auto isSquare = [&] { return window.Editor().Canvas.GetPixel(8, 18) == 0xFF00A020; };
+    MouseOnPage(QEvent::MouseMove, {4, 4}, Qt::NoButton, Qt::NoButton, {});
+    MouseOnPage(QEvent::MouseButtonPress, {4, 4}, Qt::LeftButton, Qt::LeftButton, {});
+    MouseOnPage(QEvent::MouseMove, {20, 10}, Qt::NoButton, Qt::LeftButton, {});
+    QKeyEvent down(QEvent::KeyPress, Qt::Key_Shift, Qt::ShiftModifier);
+    QApplication::sendEvent(&Scene(), &down);
+    EXPECT_TRUE(isSquare());
+    QKeyEvent up(QEvent::KeyRelease, Qt::Key_Shift, Qt::NoModifier);
+    QApplication::sendEvent(&Scene(), &up);
+    EXPECT_FALSE(isSquare());
 }
 
 TEST_F(MainWindowTest, TheLayerListFollowsAndSelects) {

@@ -127,6 +127,24 @@ TEST_F(SceneInput, StrokesAreShownHardEdgedFirst) {
     EXPECT_EQ(Drawn(), "4-8: 9-13");
 }
 
+// A preview shows what a release would leave.
+TEST_F(SceneInput, ShiftCountsWithoutAMove) {
+    Use(Tool::FilledRectangle);
+    DragWithoutRelease({{10, 5}, {13, 7}});
+    Step(HoldShift, true);
+    EXPECT_EQ(Drawn(), "4-8: 9-13");
+    EXPECT_EQ(ReadoutOf(editor)->Area, (graphics::RectI{9, 4, 5, 5}));
+    Step(HoldShift, false);
+    EXPECT_EQ(Drawn(), "4-7: 9-13");
+    Release(OnPage(13, 7));
+    Step(HoldShift, true);
+    EXPECT_EQ(Drawn(), "4-7: 9-13");
+    Use(Tool::Pencil);
+    DragWithoutRelease({{1, 1}, {2, 1}});
+    Step(HoldShift, true);
+    EXPECT_EQ(std::get<StrokeDrag>(editor.Drag).Freehand.size(), 2U);
+}
+
 // Shapes lie one pixel to the upper left and are one pixel larger.
 TEST_F(SceneInput, ADragIsReadOutInPagePixelsUntilItsRelease) {
     const struct {
