@@ -1,6 +1,7 @@
 #include "app/ask_commands.h"
 
 #include "app/import_files.h"
+#include "app/recent_files.h"
 #include "app/save_commands.h"
 #include "app/take_file.h"
 #include "editing/color_wells.h"
@@ -44,6 +45,17 @@ void AskOpen(const WindowContext& context) {
         return;
     const fs::path path = context.User.AskFile(std::string(kOpenFilter) + kPictureFilters, true);
     if (!path.empty())
+        OpenPath(context, path);
+}
+
+void OpenRecent(const WindowContext& context, const fs::path& path) {
+    std::error_code unknown;
+    if (fs::status(path, unknown).type() == fs::file_type::not_found) {
+        context.Recent.Forget(path);
+        context.User.ShowMessage(path.string() + ": the file is not there any more");
+        return;
+    }
+    if (MayGiveUpDocument(context))
         OpenPath(context, path);
 }
 

@@ -1,6 +1,7 @@
 // Commands that ask the user first: for a size, a file, a colour. Failures are told.
 #pragma once
 
+#include <filesystem>
 #include <string_view>
 
 #include "app/window_actions.h"
@@ -10,6 +11,8 @@ namespace orbelle::app {
 // After the save prompt.
 void AskNew(const WindowContext& context);
 void AskOpen(const WindowContext& context);
+// A file of the list of recent ones; one that is not there any more leaves the list.
+void OpenRecent(const WindowContext& context, const std::filesystem::path& path);
 // What a command line or another copy of the program hands over: the first and last characters,
 // meant to be quotation marks, are cut unseen (docs/oddities.md, "Quotation marks").
 void OpenHandedOver(const WindowContext& context, std::string_view command);

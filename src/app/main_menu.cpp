@@ -70,6 +70,7 @@ std::vector<Entry> FileEntries() {
     return {
         {"New", "&New", {Qt::CTRL | Qt::Key_N}, AskNew},
         {"Open", "&Open", {Qt::CTRL | Qt::Key_O}, AskOpen},
+        {"OpenRecent", "Open &Recent"},
         {},
         {"Save",
          "&Save",

@@ -14,6 +14,7 @@
 #include "app/close_tips_tab.h"
 #include "app/file_dialog.h"
 #include "app/import_files.h"
+#include "app/recent_files_menu.h"
 #include "app/right_panel.h"
 #include "app/save_commands.h"
 #include "app/scene_view.h"
@@ -37,6 +38,7 @@ constexpr int kZoomTickMilliseconds = 1;
 MainWindow::MainWindow() {
     setObjectName("MainWindow");
     menu_ = std::make_unique<MainMenu>(*this, context_);
+    (new RecentFilesMenu(context_, this))->Join(*findChild<QAction*>("OpenRecent"));
     bars_ = std::make_unique<ButtonBars>(context_);
     pointerStatus_ = std::make_unique<PointerStatus>(*statusBar());
     AddPanels();
@@ -141,23 +143,11 @@ void MainWindow::OpenPath(const QString& path) {
 }
 
 // A question may have come up since the drop.
-void MainWindow::ImportDroppedFiles(const QByteArrayList& files) {
-    if (IsInCommand()) {
-        QTimer::singleShot(kRetryMilliseconds, this, [=, this] { ImportDroppedFiles(files); });
-        return;
-    }
-    std::vector<std::filesystem::path> paths;
-    for (const QByteArray& file : files)
-        paths.emplace_back(file.toStdString());
-    ImportFiles(context_, paths);
-}
-
-void MainWindow::ImportDroppedPicture(const OfferedPicture& offered) {
-    if (IsInCommand()) {
-        QTimer::singleShot(kRetryMilliseconds, this, [=, this] { ImportDroppedPicture(offered); });
-        return;
-    }
-    RunBusy([&](editing::Editor& editor) { ImportPicture(editor, RequireReadable(offered)); });
+void MainWindow::TakeDrop(const Drop& drop) {
+    if (IsInCommand())
+        QTimer::singleShot(kRetryMilliseconds, this, [=, this] { TakeDrop(drop); });
+    else
+        TakeDropped(context_, drop);
 }
 
 void MainWindow::resizeEvent(QResizeEvent* event) {
@@ -183,7 +173,7 @@ void MainWindow::Paste() {
     if (files.isEmpty())
         RunBusy(editing::PasteFromClipboard);
     else
-        ImportDroppedFiles(files);
+        ImportFiles(context_, PathsOf(files));
 }
 
 void MainWindow::FocusScene() {

@@ -10,8 +10,8 @@
 
 #include "app/button_bars.h"
 #include "app/main_menu.h"
-#include "app/offered_data.h"
 #include "app/pointer_status.h"
+#include "app/recent_files.h"
 #include "app/tip_balloons.h"
 #include "app/welcome_sequence.h"
 #include "app/window_actions.h"
@@ -24,6 +24,8 @@ namespace orbelle::app {
 
 class BottomPanel;
 class CloseTipsTab;
+struct Drop;
+class RecentFilesView;
 class RightPanel;
 class SceneView;
 
@@ -123,18 +125,19 @@ private:
     bool Tell(const Report& report);
     void ShowScene();
     void ShowTitle();
-    void ImportDroppedFiles(const QByteArrayList& files);
-    void ImportDroppedPicture(const OfferedPicture& picture);
+    void TakeDrop(const Drop& drop);
     void PopUpOrderMenu(const QPoint& at);
     std::optional<QPoint> TipPlacement(editing::TipPlace place, QSize balloon) const;
 
     editing::Editor editor_{*this, *this};
-    WindowContext context_{*this, *this, *this};
+    RecentFiles recent_;
+    WindowContext context_{*this, *this, *this, recent_};
     enum class SessionEnd { No, Agreed, Unasked } sessionEnd_ = SessionEnd::No;
     std::unique_ptr<QProgressDialog> progress_;
     QElapsedTimer runTime_;  // of a long run over files
     std::string message_;    // what the last command has to tell although it went well
     SceneView* scene_ = nullptr;
+    RecentFilesView* recentView_ = nullptr;
     QScrollBar* horizontalScroll_ = nullptr;
     QScrollBar* verticalScroll_ = nullptr;
     QTimer zoomAnimation_;

@@ -15,6 +15,7 @@
 #include "app/icon_images_dialog.h"
 #include "app/message_boxes.h"
 #include "app/new_icon_dialog.h"
+#include "app/recent_files_view.h"
 #include "app/right_panel.h"
 #include "app/save_prompt.h"
 #include "app/scene_view.h"
@@ -67,8 +68,10 @@ void MainWindow::Changed(const editing::Changes& changes) {
 }
 
 void MainWindow::ShowScene() {
-    if (editor_.DocumentExists)
+    if (editor_.DocumentExists) {
         welcome_->Stop();
+        recentView_->hide();
+    }
     pointerStatus_->ShowZoom(editor_.DocumentExists ? editor_.View.Zoom : 0);
     pointerStatus_->Refresh(editor_);
     MirrorBar(*horizontalScroll_, editor_.View.HorizontalScroll, editor_.View.SceneWidth);

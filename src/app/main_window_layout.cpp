@@ -8,8 +8,11 @@
 #include <QScrollBar>
 #include <QVBoxLayout>
 
+#include "app/ask_commands.h"
 #include "app/bottom_panel.h"
 #include "app/close_tips_tab.h"
+#include "app/drop_target.h"
+#include "app/recent_files_view.h"
 #include "app/right_panel.h"
 #include "app/scene_view.h"
 #include "app/shortcuts.h"
@@ -59,6 +62,15 @@ void MainWindow::AddPanels() {
         editor_, *central,
         [this](editing::TipPlace place, QSize size) { return TipPlacement(place, size); });
     connect(tips_.get(), &TipBalloons::BalloonClicked, closeTips_, &CloseTipsTab::SlideUp);
+    recentView_ = new RecentFilesView(recent_, *scene_);
+    // Queued: the file that is opened may take the row away that was clicked.
+    connect(
+        recentView_, &RecentFilesView::Wanted, this,
+        [this](const std::filesystem::path& path) {
+            FocusScene();
+            OpenRecent(context_, path);
+        },
+        Qt::QueuedConnection);
     welcome_ = std::make_unique<WelcomeSequence>(*scene_);
     connect(welcome_.get(), &WelcomeSequence::Read, this,
             [this] { tips_->Show({editing::tips::Welcome}); });
@@ -125,10 +137,8 @@ void MainWindow::ConnectScene() {
         RunDuringDrag([=](Editor& editor) { HoldShift(editor, isHeld); });
     });
     // Queued: the program that the files come from waits until the drop has been taken.
-    connect(scene_, &SceneView::FilesDropped, this, &MainWindow::ImportDroppedFiles,
-            Qt::QueuedConnection);
-    connect(scene_, &SceneView::PictureDropped, this, &MainWindow::ImportDroppedPicture,
-            Qt::QueuedConnection);
+    auto* drops = new DropTarget(*this, [this] { return !editor_.DocumentExists; });
+    connect(drops, &DropTarget::Dropped, this, &MainWindow::TakeDrop, Qt::QueuedConnection);
     connect(horizontalScroll_, &QScrollBar::valueChanged, this, [this](int value) {
         RunDuringDrag([=](Editor& editor) { ScrollHorizontally(editor, value); });
     });

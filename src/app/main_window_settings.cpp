@@ -41,6 +41,7 @@ void StoreStartingSet() {
 void MainWindow::RestoreSettings() {
     StoreStartingSet();
     RestoreMainWindow(*this);
+    recent_.Restore();
     const Settings settings;
     const auto number = [&](const char* name) { return settings.value(name).toInt(); };
     bottomPanel_->SetOpen(number(kBottomPanel) != 0);

@@ -1,6 +1,7 @@
 #include "app/offered_data.h"
 
 #include <QBuffer>
+#include <QDir>
 #include <QFile>
 #include <QImage>
 #include <QImageReader>
@@ -60,6 +61,37 @@ QByteArray PathOf(const QUrl& url) {
 #endif
 }
 
+OfferedFiles Sorted(const QList<QUrl>& urls) {
+    OfferedFiles files;
+    for (const QUrl& url : urls) {
+        const QByteArray path = url.isLocalFile() ? PathOf(url) : QByteArray();
+        if (!path.isEmpty() && !path.contains('\0'))
+            files.Local += path;
+        else if (!url.isLocalFile() && !url.isEmpty())
+            files.Far += url.toDisplayString();
+    }
+    return files;
+}
+
+// None if any line is something else.
+QList<QUrl> AddressesIn(const QString& text) {
+    QList<QUrl> addresses;
+    for (const QStringView line : QStringView(text).tokenize(u'\n', Qt::SkipEmptyParts)) {
+        const QString address = line.trimmed().toString();
+        if (address.isEmpty())
+            continue;
+        const QUrl url = QDir::isAbsolutePath(address) ? QUrl::fromLocalFile(address)
+                                                       : QUrl(address, QUrl::StrictMode);
+        const bool isKnown =
+            url.isLocalFile() ||
+            ((url.scheme() == "http" || url.scheme() == "https") && !url.host().isEmpty());
+        if (!isKnown)
+            return {};
+        addresses += url;
+    }
+    return addresses;
+}
+
 }  // namespace
 
 OfferedPicture ReadOffered(const QMimeData& data) {
@@ -79,13 +111,12 @@ const graphics::Bitmap& RequireReadable(const OfferedPicture& offered) {
 }
 
 QByteArrayList LocalFiles(const QMimeData& data) {
-    QByteArrayList files;
-    for (const QUrl& url : data.urls()) {
-        const QByteArray path = url.isLocalFile() ? PathOf(url) : QByteArray();
-        if (!path.isEmpty() && !path.contains('\0'))
-            files += path;
-    }
-    return files;
+    return Sorted(data.urls()).Local;
+}
+
+OfferedFiles FilesIn(const QMimeData& data) {
+    const QList<QUrl> urls = data.urls();
+    return Sorted(urls.isEmpty() ? AddressesIn(data.text()) : urls);
 }
 
 }  // namespace orbelle::app

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QByteArrayList>
+#include <QStringList>
 #include <string>
 
 #include "graphics/bitmap.h"
@@ -22,5 +23,16 @@ const graphics::Bitmap& RequireReadable(const OfferedPicture& offered);
 
 // The paths of local files as the system has them, in the order given.
 QByteArrayList LocalFiles(const QMimeData& data);
+
+struct OfferedFiles {
+    QByteArrayList Local;  // as above
+    QStringList Far;       // addresses of what is not on this computer
+
+    bool IsEmpty() const { return Local.isEmpty() && Far.isEmpty(); }
+};
+
+// The files that addresses name or, where there are none, a text of which each line is an address
+// or a whole path.
+OfferedFiles FilesIn(const QMimeData& data);
 
 }  // namespace orbelle::app

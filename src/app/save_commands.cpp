@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cctype>
 
+#include "app/recent_files.h"
 #include "editing/document_commands.h"
 #include "editing/export_commands.h"
 
@@ -56,7 +57,10 @@ bool MayReplace(const WindowContext& context, const fs::path& path) {
 }
 
 bool Write(const WindowContext& context, const fs::path& path) {
-    return context.Commands.RunBusy([&](Editor& editor) { SaveTo(editor, path); });
+    if (!context.Commands.RunBusy([&](Editor& editor) { SaveTo(editor, path); }))
+        return false;
+    context.Recent.Note(path);
+    return true;
 }
 
 }  // namespace

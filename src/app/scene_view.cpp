@@ -1,9 +1,7 @@
 #include "app/scene_view.h"
 
 #include <QApplication>
-#include <QDragEnterEvent>
 #include <QKeyEvent>
-#include <QMimeData>
 #include <QPainter>
 #include <QWheelEvent>
 #include <algorithm>
@@ -86,7 +84,6 @@ SceneView::SceneView(const editing::Editor& editor, QWidget* parent)
     : QWidget(parent), editor_(editor) {
     setAccessibleName("Scene");
     setFocusPolicy(Qt::StrongFocus);
-    setAcceptDrops(true);
     setAttribute(Qt::WA_OpaquePaintEvent);
     setMinimumSize(160, 120);
     setMouseTracking(true);
@@ -250,25 +247,6 @@ void SceneView::wheelEvent(QWheelEvent* event) {
     for (; wheelDelta_ <= -QWheelEvent::DefaultDeltasPerStep;
          wheelDelta_ += QWheelEvent::DefaultDeltasPerStep)
         emit ZoomOutWanted(event->position());
-}
-
-void SceneView::dragEnterEvent(QDragEnterEvent* event) {
-    // The toolkit lets drops through to a window that a dialog blocks.
-    if (QApplication::activeModalWidget())
-        return;
-    if (!LocalFiles(*event->mimeData()).isEmpty() || event->mimeData()->hasImage())
-        event->acceptProposedAction();
-}
-
-void SceneView::dropEvent(QDropEvent* event) {
-    if (QApplication::activeModalWidget())
-        return event->ignore();
-    event->acceptProposedAction();
-    const QByteArrayList files = LocalFiles(*event->mimeData());
-    if (!files.isEmpty())
-        emit FilesDropped(files);
-    else
-        emit PictureDropped(ReadOffered(*event->mimeData()));
 }
 
 }  // namespace orbelle::app

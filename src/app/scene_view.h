@@ -1,10 +1,8 @@
 // The scene on the screen.
 #pragma once
 
-#include <QByteArrayList>
 #include <QWidget>
 
-#include "app/offered_data.h"
 #include "editing/editor.h"
 #include "editing/scene_input.h"
 
@@ -16,7 +14,6 @@ inline constexpr int kWelcomeStrongest = 250;
 
 // Shows Editor::Scene from the top left corner, one scene pixel for each logical pixel, and over it
 // the outline around the selected layer and the overlay shapes. Hands on the mouse and the keys.
-// Takes files dropped on it.
 class SceneView : public QWidget {
     Q_OBJECT
 
@@ -39,9 +36,7 @@ signals:
     void PointerReleased(const editing::Pointer& pointer);
     void PointerLeft();
     void KeyPressed(editing::SceneKey key);
-    void ShiftHeld(bool isHeld);                     // alone, with the left button
-    void FilesDropped(const QByteArrayList& files);  // local paths, in the order given
-    void PictureDropped(const OfferedPicture& picture);
+    void ShiftHeld(bool isHeld);  // alone, with the left button
 
 protected:
     void mousePressEvent(QMouseEvent* event) override;
@@ -53,8 +48,6 @@ protected:
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
-    void dragEnterEvent(QDragEnterEvent* event) override;
-    void dropEvent(QDropEvent* event) override;
 
 private:
     void DrawWelcome(QPainter& painter) const;

@@ -1,5 +1,6 @@
 #include "app/take_file.h"
 
+#include "app/recent_files.h"
 #include "editing/document_commands.h"
 
 namespace orbelle::app {
@@ -39,7 +40,10 @@ TakeResult Take(const WindowContext& context, const fs::path& path, TakeFile tak
 }  // namespace
 
 TakeResult TakeToOpen(const WindowContext& context, const fs::path& path) {
-    return Take(context, path, editing::OpenFile, editing::OpenPicture);
+    TakeResult result = Take(context, path, editing::OpenFile, editing::OpenPicture);
+    if (result.End == TakeEnd::Done)
+        context.Recent.Note(path);
+    return result;
 }
 
 TakeResult TakeToImport(const WindowContext& context, const fs::path& path) {

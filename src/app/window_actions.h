@@ -6,6 +6,8 @@
 
 namespace orbelle::app {
 
+class RecentFiles;
+
 class WindowActions {
 public:
     virtual void CloseWindow() = 0;
@@ -29,6 +31,7 @@ struct WindowContext {
     CommandRunner& Commands;
     UserQuestions& User;
     WindowActions& Window;
+    RecentFiles& Recent;
 };
 
 }  // namespace orbelle::app

@@ -79,6 +79,7 @@ NumberSlider::NumberSlider(QWidget* parent)
     field_->setValidator(new QRegularExpressionValidator(
         QRegularExpression(QString("[0-9]{0,%1}").arg(kMostDigits)), field_));
     field_->setAlignment(Qt::AlignCenter);
+    field_->setAcceptDrops(false);  // the window takes them
     field_->setAttribute(Qt::WA_MacShowFocusRect, false);
     QPalette colors = field_->palette();
     colors.setColor(QPalette::Base, Qt::transparent);

@@ -9,6 +9,7 @@
 #include <string>
 #include <vector>
 
+#include "app/recent_files.h"
 #include "app/window_actions.h"
 
 namespace orbelle::app {
@@ -30,7 +31,16 @@ public:
     std::vector<std::string> Told;
     std::string Message;  // the last
 
-    WindowContext Context{*this, *this, *this};
+    // "save? message"
+    std::string AllTold() const {
+        std::string all;
+        for (const std::string& told : Told)
+            all += (all.empty() ? "" : " ") + told;
+        return all;
+    }
+
+    RecentFiles Recent;
+    WindowContext Context{*this, *this, *this, Recent};
     editing::Editor State{*this, *this};
 
     Report Try(const editing::Command& command) override {

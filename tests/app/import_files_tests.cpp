@@ -3,6 +3,8 @@
 #include <gmock/gmock.h>
 
 #include "desk.h"
+#include "editing/document_commands.h"
+#include "editing/layer_commands.h"
 #include "formats/icon_file.h"
 #include "graphics/codecs/image_files.h"
 #include "graphics/file_io.h"
@@ -72,6 +74,57 @@ TEST(ImportFilesTest, OfManyFilesOneSummaryTells) {
     ImportFiles(asked.Context, {picture, folder / "b.ico", picture});
     EXPECT_THAT(asked.Told, ElementsAre("image?", "message"));
     EXPECT_EQ(asked.Message, "Cancelled: 1 of 3 files were imported.");
+}
+
+// What is given up is asked for, once.
+TEST(TakeDroppedTest, OpensWhereThereIsNothingOrItIsWanted) {
+    const orbelle::testing::TemporaryFolder folder;
+    const auto write = [&](const char* name, int side) {
+        graphics::WriteFile(folder / name,
+                            graphics::EncodePng(FilledPicture(side, side, 0xFFC02040)));
+        return QByteArray::fromStdString((folder / name).string());
+    };
+    const QByteArray a = write("a.png", 3), b = write("b.png", 2),
+                     none = QByteArray::fromStdString((folder / "none.png").string());
+    const OfferedPicture picture{FilledPicture(5, 5, 0xFFC02040), {}};
+    const OfferedPicture wrong{{}, "the picture can't be read"};
+    constexpr auto kCancel = SavePromptAnswer::Cancel, kNo = SavePromptAnswer::No;
+    const struct {
+        const char* Name;
+        Drop Dropped;
+        bool HasDocument;
+        SavePromptAnswer Answer;
+        int Side, Layers, Steps;  // 8, 2 and 1 as it was
+        const char* Told;
+    } cases[] = {
+        {"empty", {{{a, b}, {}}, {}}, false, kCancel, 3, 2, 1, ""},
+        {"empty, one missing", {{{none, b, a}, {}}, {}}, false, kCancel, 2, 2, 1, "message"},
+        {"empty, a picture", {{}, picture}, false, kCancel, 5, 1, 0, ""},
+        {"layers", {{{a, b}, {}}, {}}, true, kCancel, 8, 4, 3, ""},
+        {"a picture as layer", {{}, picture}, true, kCancel, 8, 3, 2, ""},
+        {"open, refused", {{{a, b}, {}}, {}, true}, true, kCancel, 8, 2, 1, "save?"},
+        {"open", {{{a, b}, {}}, {}, true}, true, kNo, 3, 2, 1, "save?"},
+        {"open what is missing", {{{none}, {}}, {}, true}, true, kNo, 8, 2, 1, "save? message"},
+        {"open a picture", {{}, picture, true}, true, kNo, 5, 1, 0, "save?"},
+        {"open a wrong picture", {{}, wrong, true}, true, kNo, 8, 2, 1, "save? message"},
+        {"far", {{{}, {"http://a/b"}}, {}}, true, kNo, 8, 2, 1, "message"},
+        {"far, but here", {{{}, {"http://a/b"}}, picture}, true, kNo, 8, 3, 2, ""},
+        {"far and near", {{{a}, {"http://a/b"}}, {}}, true, kNo, 8, 3, 2, "status"},
+    };
+    for (const auto& [name, dropped, hasDocument, answer, side, layers, steps, told] : cases) {
+        SCOPED_TRACE(name);
+        Desk desk;
+        desk.SaveAnswer = answer;
+        if (hasDocument) {
+            desk.Run([](editing::Editor& editor) { NewDocument(editor, 8, 8); });
+            desk.Run([](editing::Editor& editor) { AddEmptyLayer(editor, 8, 8); });
+        }
+        TakeDropped(desk.Context, dropped);
+        EXPECT_EQ(desk.State.Page().Width, side);
+        EXPECT_EQ(desk.State.Page().LayerCount(), layers);
+        EXPECT_EQ(desk.State.History.UndoIndex(), steps);
+        EXPECT_EQ(desk.AllTold(), told);
+    }
 }
 
 }  // namespace

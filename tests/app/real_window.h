@@ -241,14 +241,15 @@ protected:
         return display_->Picture().copy(SceneRect()).convertToFormat(QImage::Format_ARGB32);
     }
     int Count(QRgb color = kPictureColor) const { return CountOf(Scene(), color); }
-    // The middle of the control that has this name, or this name for assistive tools.
-    QPoint Control(const QString& name) const {
+    // Of the control that has this name, or this name for assistive tools.
+    QRect Place(const QString& name) const {
         for (QWidget* widget : twin_->findChildren<QWidget*>())
             if (widget->objectName() == name || widget->accessibleName() == name)
-                return kWindowPlace + widget->mapTo(twin_.get(), widget->rect().center());
+                return {kWindowPlace + widget->mapTo(twin_.get(), QPoint()), widget->size()};
         ADD_FAILURE() << "no control is named " << name.toStdString();
         return {};
     }
+    QPoint Control(const QString& name) const { return Place(name).center(); }
 
     // A second start, which is to end at once.
     void HandOver(const QStringList& arguments) {

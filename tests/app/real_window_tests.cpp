@@ -160,6 +160,67 @@ TEST_F(RealWindowTest, PicturesGoToAndComeFromOtherPrograms) {
     peer.waitForFinished();
 }
 
+TEST_F(RealWindowTest, WhatAnotherProgramDragsHereBecomesALayerOrOpens) {
+    ASSERT_TRUE(StartWith());
+    QProcess peer;
+    Start(peer, ORBELLE_CLIPBOARD_PEER, {"drag", Write("o.png", PictureOf(kOther, {60, 40}))});
+    ASSERT_TRUE(WaitUntil([&] { return peer.waitForReadyRead(100) || peer.canReadLine(); }));
+    constexpr QPoint kPeer(1200, 100);
+    // Anywhere on the window.
+    Drag(kPeer, Control("Opacity"));
+    EXPECT_TRUE(WaitUntil([&] { return Count(kOther) == 60 * 40 && Count() > 0; }));
+    ASSERT_TRUE(FocusMain());
+    Press({"ctrl+z"});
+    EXPECT_EQ(Count(), kWholePicture);
+    Do({"keydown", "ctrl"});
+    Drag(kPeer, page);
+    Do({"keyup", "ctrl"});
+    ASSERT_TRUE(FocusWindow("^Save Icon Document"));
+    Press({"alt+n"});
+    EXPECT_TRUE(WaitUntil([&] { return Count(kOther) == 60 * 40 && Count() == 0; }));
+    peer.kill();
+    peer.waitForFinished();
+}
+
+// From a number field and from the list of layers.
+TEST_F(RealWindowTest, TheKeysReturnToThePage) {
+    ASSERT_TRUE(StartWith());
+    const QImage before = Scene();
+    const auto type = [&](const char* last) {
+        Click(Control("PageWidth"));
+        Press({"ctrl+a"});
+        Do({"type", "a150"});
+        Press({last});
+    };
+    type("Escape");
+    EXPECT_EQ(Scene(), before);
+    Press({"Left"});
+    const QImage moved = Scene();
+    EXPECT_NE(moved, before) << "the arrow is the page's";
+    type("Return");
+    const QImage narrow = Scene();
+    EXPECT_NE(narrow, moved);
+    Press({"Left"});
+    EXPECT_NE(Scene(), narrow);
+    // In the field: its letters and, while nothing is typed, Undo are the editor's.
+    Click(Control("PageWidth"));
+    Press({"ctrl+z", "ctrl+z", "ctrl+z", "b"});
+    EXPECT_EQ(Scene(), before);
+    Drag(page + QPoint(20, 20), page + QPoint(40, 20));
+    EXPECT_GT(Count(kRed), 5) << "the pencil draws";
+    Press({"ctrl+z", "v"});
+    // The only row of the list.
+    Click(Place("Layers").topLeft() + QPoint(90, 20));
+    Press({"Right"});
+    EXPECT_NE(Scene(), before);
+    Press({"ctrl+z"});
+    EXPECT_EQ(Scene(), before);
+    Press({"Delete"});
+    EXPECT_EQ(Count(), 0);
+    Press({"ctrl+z"});
+    EXPECT_EQ(Scene(), before);
+}
+
 TEST_F(RealWindowTest, ClosingAsksAndWhatItSavesOpensAgain) {
     ASSERT_TRUE(StartWith());
     Press({"alt+s", "d"});
@@ -239,6 +300,7 @@ TEST_F(RealWindowTest, RemembersItsUser) {
             EXPECT_EQ(settings.value(setting.section('=', 0, 0)).toStringList().join(','),
                       setting.section('=', 1))
                 << setting.toStdString() << ' ' << again;
+        EXPECT_EQ(settings.value("RecentFiles").toString(), Path("tile.png"));
     }
 }
 

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <QAccessible>
+#include <QBackingStore>
 #include <QDeadlineTimer>
 #include <QPushButton>
 #include <climits>
@@ -161,6 +162,31 @@ TEST_F(NumberSliderTest, ArrowsStepWithinTheRange) {
         slider_.CommitTyping();
         EXPECT_EQ(gestures_.Told(), told) << from;
     }
+}
+
+TEST_F(NumberSliderTest, AnArrowIsShownPaleWhileItCanGoNoFurther) {
+    const auto shown = [this] {
+        QApplication::processEvents();
+        // What is on the screen; a grab would paint.
+        const auto& screen = *static_cast<QImage*>(slider_.backingStore()->paintDevice());
+        std::string arrows;
+        for (const QPointF& arrow : {up_, down_})
+            arrows += screen.pixelColor(arrow.toPoint()).red() > 200 ? "pale " : "dark ";
+        return arrows;
+    };
+    EXPECT_EQ(shown(), "dark dark ");
+    Enter("254");
+    Click(slider_, up_);
+    EXPECT_EQ(shown(), "pale dark ");
+    Strike(field_, Qt::Key_Down);
+    EXPECT_EQ(shown(), "dark dark ");
+    Enter("5");
+    slider_.CommitTyping();
+    EXPECT_EQ(shown(), "dark pale ");
+    slider_.SetRange(0, 5);
+    EXPECT_EQ(shown(), "pale dark ");
+    slider_.SetValue(3);
+    EXPECT_EQ(shown(), "dark dark ");
 }
 
 TEST_F(NumberSliderTest, AHeldArrowRepeatsWithinOneGesture) {
