@@ -11,6 +11,7 @@
 #include "app/save_commands.h"
 #include "app/step_caption.h"
 #include "editing/clipboard_commands.h"
+#include "editing/selection_commands.h"
 #include "editing/stack_commands.h"
 #include "editing/style_commands.h"
 #include "editing/tool_palette.h"
@@ -142,6 +143,13 @@ std::vector<Entry> EditEntries() {
          [](const WindowContext& context) { context.Window.Paste(); },
          CommandId::Paste},
         entry("Delete", "&Delete", {}, editing::DeleteSelected, CommandId::Delete),
+        {},
+        entry("SelectAll", "Select &All", {Qt::CTRL | Qt::Key_A}, editing::SelectAll,
+              CommandId::SelectAll),
+        entry("Deselect", "D&eselect", {Qt::CTRL | Qt::Key_D}, editing::EndSelection,
+              CommandId::Deselect),
+        entry("InvertSelection", "&Invert Selection", {Qt::CTRL | Qt::SHIFT | Qt::Key_I},
+              editing::InvertSelection, CommandId::InvertSelection),
         {},
         entry("MergeDown", "&Merge Down", {}, editing::MergeDown, CommandId::MergeDown),
         {},

@@ -23,6 +23,8 @@
 #include "editing/buttons.h"
 #include "editing/clipboard_commands.h"
 #include "editing/document_commands.h"
+#include "editing/give_up.h"
+#include "editing/selection_commands.h"
 #include "editing/view_commands.h"
 
 namespace orbelle::app {
@@ -74,6 +76,14 @@ void MainWindow::BeginCommand() {
 bool MainWindow::Run(const editing::Command& command) {
     BeginCommand();
     return Tell(ReportOf(editing::Run(editor_, command)));
+}
+
+// One thing at a time: what is going on, then the tips, then the selection.
+void MainWindow::GiveUp() {
+    RunDuringDrag([this](editing::Editor& editor) {
+        if (!CancelInput(editor) && !tips_->Close() && editor.Selection.Exists())
+            EndSelection(editor);
+    });
 }
 
 bool MainWindow::RunBusy(const editing::Command& command) {

@@ -115,6 +115,7 @@ protected:
 
 private:
     void BeginCommand();
+    void GiveUp();  // Escape on the page
     QWidget* MakeScene();
     void ConnectScene();
     void AddPanels();

@@ -44,6 +44,7 @@ void MainWindow::Changed(const editing::Changes& changes) {
         recovery_->Note(editor_, changes);
     if (changes.Pixels || changes.Scene)
         ShowScene();
+    pointerStatus_->ShowDrag(editor_);
     if (changes.Stack)
         layersTimer_.start(0);
     if (changes.Controls)

@@ -133,6 +133,9 @@ void MainWindow::ConnectScene() {
     connect(scene_, &SceneView::KeyPressed, this, [this](editing::SceneKey key) {
         Run([key](Editor& editor) { KeyDownScene(editor, key); });
     });
+    connect(scene_, &SceneView::ShiftHeld, this, [this](bool isHeld) {
+        RunDuringDrag([=](Editor& editor) { HoldShift(editor, isHeld); });
+    });
     // Queued: the program that the files come from waits until the drop has been taken.
     auto* drops = new DropTarget(*this, [this] { return !editor_.DocumentExists; });
     connect(drops, &DropTarget::Dropped, this, &MainWindow::TakeDrop, Qt::QueuedConnection);
@@ -152,6 +155,10 @@ void MainWindow::AddShortcuts() {
                 [this, command = shortcut.Command] { Run(command); });
         addAction(action);
     }
+    auto* escape = new QAction("Give up", this);
+    escape->setShortcut(Qt::Key_Escape);
+    connect(escape, &QAction::triggered, this, &MainWindow::GiveUp);
+    addAction(escape);
 }
 
 }  // namespace orbelle::app

@@ -3,6 +3,7 @@
 #include <QColor>
 #include <cmath>
 
+#include "editing/drag_readout.h"
 #include "editing/scene_mapping.h"
 
 namespace orbelle::app {
@@ -21,7 +22,8 @@ QLabel* AddField(QStatusBar& line, const char* name, int width) {
 }  // namespace
 
 PointerStatus::PointerStatus(QStatusBar& line)
-    : position_(AddField(line, "PointerPosition", 96)),
+    : drag_(AddField(line, "DragReadout", 160)),
+      position_(AddField(line, "PointerPosition", 96)),
       color_(AddField(line, "PointerColor", 96)),
       zoom_(AddField(line, "Zoom", 64)) {}
 
@@ -50,6 +52,24 @@ void PointerStatus::ClearPointer() {
 
 void PointerStatus::ShowZoom(double zoom) {
     zoom_->setText(zoom > 0 ? QString::number(std::lround(zoom * 100)) + "%" : QString());
+}
+
+void PointerStatus::ShowDrag(const editing::Editor& editor) {
+    const auto readout = ReadoutOf(editor);
+    if (!readout)
+        return drag_->clear();
+    const auto& [x, y, width, height] = readout->Area;
+    drag_->setText(readout->IsMove ? QString("at %1, %2, moved by %3, %4")
+                                         .arg(x)
+                                         .arg(y)
+                                         .arg(readout->MovedX)
+                                         .arg(readout->MovedY)
+                                   : QString("%1 %2 %3 at %4, %5")
+                                         .arg(width)
+                                         .arg(QChar(0x00D7))
+                                         .arg(height)
+                                         .arg(x)
+                                         .arg(y));
 }
 
 }  // namespace orbelle::app

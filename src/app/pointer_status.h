@@ -1,4 +1,4 @@
-// Tells in the status line where the pointer is on the page, and what lies there.
+// Tells in the status line where the pointer is on the page, what lies there and what it drags.
 #pragma once
 
 #include <QLabel>
@@ -21,9 +21,12 @@ public:
     void Refresh(const editing::Editor& editor);
     void ClearPointer();
     void ShowZoom(double zoom);
+    // Place and size of what is being dragged; nothing without a drag.
+    void ShowDrag(const editing::Editor& editor);
 
 private:
     std::optional<QPointF> pointer_;  // scene pixels; none: not over the scene
+    QLabel* drag_;
     QLabel* position_;
     QLabel* color_;
     QLabel* zoom_;

@@ -7,6 +7,7 @@
 
 #include "app/shared_image.h"
 #include "editing/adjust_sliders.h"
+#include "editing/give_up.h"
 #include "editing/layer_commands.h"
 
 namespace orbelle::app {
@@ -38,7 +39,7 @@ void ConnectDrag(CommandRunner& commands, TrackSlider& slider, editing::Slider S
     QObject::connect(&slider, &TrackSlider::Released, &slider,
                      [&commands, release] { commands.RunDuringDrag(release); });
     QObject::connect(&slider, &TrackSlider::GivenUp, &slider,
-                     [&commands] { commands.RunDuringDrag(editing::GiveUpSlider); });
+                     [&commands] { commands.RunDuringDrag(editing::CancelDrag); });
 }
 
 // ".50", as layers are labelled.

@@ -165,9 +165,19 @@ void SceneView::keyPressEvent(QKeyEvent* event) {
             return emit KeyPressed(SceneKey::Down);
         case Qt::Key_Delete:
             return emit KeyPressed(SceneKey::Delete);
+        case Qt::Key_Shift:
+            if (isHeld_)
+                emit ShiftHeld(!(event->modifiers() & (Qt::ControlModifier | Qt::AltModifier)));
+            return;
         default:
             QWidget::keyPressEvent(event);
     }
+}
+
+void SceneView::keyReleaseEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Shift && isHeld_)
+        emit ShiftHeld(false);
+    QWidget::keyReleaseEvent(event);
 }
 
 void SceneView::paintEvent(QPaintEvent*) {

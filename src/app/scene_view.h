@@ -36,6 +36,7 @@ signals:
     void PointerReleased(const editing::Pointer& pointer);
     void PointerLeft();
     void KeyPressed(editing::SceneKey key);
+    void ShiftHeld(bool isHeld);  // alone, with the left button
 
 protected:
     void mousePressEvent(QMouseEvent* event) override;
@@ -43,6 +44,7 @@ protected:
     void mouseReleaseEvent(QMouseEvent* event) override;
     void leaveEvent(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void keyReleaseEvent(QKeyEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;

@@ -2,7 +2,6 @@
 
 #include "editing/buttons.h"
 #include "editing/color_wells.h"
-#include "editing/scene_input.h"
 #include "editing/tool_palette.h"
 #include "editing/view_commands.h"
 
@@ -22,7 +21,6 @@ std::vector<Shortcut> WindowShortcuts() {
         {"Zoom In", {Qt::CTRL | Qt::Key_Plus, Qt::CTRL | Qt::Key_Equal}, editing::ZoomIn},
         {"Zoom Out", {Qt::CTRL | Qt::Key_Minus}, editing::ZoomOut},
         {"Original Size", {Qt::CTRL | Qt::Key_0}, editing::OriginalSize},
-        {"Give up", {Qt::Key_Escape}, editing::CancelInput},
         {"Move tool", {Qt::Key_V}, Tool(tool_buttons::Move)},
         {"Selection tool", {Qt::Key_M}, Tool(tool_buttons::Selection)},
         {"Pencil tool", {Qt::Key_B}, Tool(tool_buttons::Pencil)},

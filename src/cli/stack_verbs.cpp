@@ -2,6 +2,7 @@
 #include "cli/verb_table.h"
 #include "editing/clipboard_commands.h"
 #include "editing/layer_bar.h"
+#include "editing/selection_commands.h"
 #include "editing/stack_commands.h"
 
 namespace orbelle::cli {
@@ -50,6 +51,19 @@ void Merge(Workspace& workspace) {
         throw Failure("there is no layer below the selected one");
     }
     workspace.Run(editing::MergeDown);
+}
+
+void SelectAll(Workspace& workspace) {
+    RequireDocument(workspace);
+    workspace.Run(editing::SelectAll);
+}
+
+template <CommandId kId, void (*kCommand)(Editor&)>
+void RunOnSelection(Workspace& workspace) {
+    RequireDocument(workspace);
+    if (!IsEnabled(workspace, kId))
+        throw Failure("nothing is selected");
+    workspace.Run(kCommand);
 }
 
 void Paste(Workspace& workspace) {
@@ -108,6 +122,11 @@ constexpr Verb kVerbs[] = {
     {"copy", "", "the selection or the selected layer to the clipboard",
      ReadNothing<RunEnabled<CommandId::Copy, editing::CopyToClipboard>>},
     {"paste", "", "what was cut or copied as a new layer", ReadNothing<Paste>},
+    {"select-all", "", "select the whole page", ReadNothing<SelectAll>},
+    {"deselect", "", "end the selection",
+     ReadNothing<RunOnSelection<CommandId::Deselect, editing::EndSelection>>},
+    {"invert-selection", "", "select what is not selected of the page",
+     ReadNothing<RunOnSelection<CommandId::InvertSelection, editing::InvertSelection>>},
 };
 
 }  // namespace

@@ -52,6 +52,21 @@ void Selection::Clear() {
     }
 }
 
+void Selection::SelectAll(int pageWidth, int pageHeight) {
+    Start();
+    AddFrame(RectOfSize(pageWidth, pageHeight), FrameShape::Rectangle);
+}
+
+void Selection::Invert(int pageWidth, int pageHeight) {
+    if (!Exists())
+        return;
+    graphics::Region rest = graphics::Region::FromRect(RectOfSize(pageWidth, pageHeight));
+    rest.Combine(region_, CombineMode::Exclude);
+    region_ = rest;
+    if (region_.IsEmpty())
+        Clear();
+}
+
 void Selection::KeepOnPage(int pageWidth, int pageHeight) {
     if (!Exists())
         return;

@@ -25,6 +25,11 @@ public:
     void Start();
     // Ends the selection when it has a shape.
     void Clear();
+    // The whole of a page of that size in place of what was selected.
+    void SelectAll(int pageWidth, int pageHeight);
+    // What is not selected of a page of that size; ends the selection when that is nothing. Nothing
+    // happens without a selection.
+    void Invert(int pageWidth, int pageHeight);
     // Keeps what lies on a page of that size; ends the selection when that is nothing.
     void KeepOnPage(int pageWidth, int pageHeight);
     // Whether anything was selected; shapes without a pixel count too.

@@ -37,6 +37,8 @@ void UndoHistory::Forget(std::size_t from) {
 }
 
 void UndoHistory::TruncateRedo() {
+    ahead_.clear();
+    beforeStep_ = place_;
     Forget(static_cast<std::size_t>(place_.UndoIndex));
     place_.RedoCount = 0;
     place_.UndoCount = place_.UndoIndex;
@@ -84,16 +86,29 @@ void UndoHistory::TakeBack(Document& document) {
     if (place_.UndoIndex == 0)
         return;
     const auto slot = static_cast<std::size_t>(place_.UndoIndex) - 1;
+    // What needs memory comes before what changes anything.
     Snapshot before = slots_[slot];
+    slots_.reserve(slot + ahead_.size());
+    Forget(slot);
+    std::ranges::move(ahead_, std::back_inserter(slots_));
     Restore(document, before);
     document.Modified = before.Modified;
-    --place_.UndoIndex;
-    TruncateRedo();
+    const int undoIndex = place_.UndoIndex - 1;
+    place_ = ahead_.empty() ? Place{undoIndex, 0, undoIndex} : beforeStep_;
+    ahead_.clear();
 }
 
 void UndoHistory::ClearHistory() {
     Forget(0);
     place_ = {};
+}
+
+void UndoHistory::Settle(bool lastStepHasEnded) {
+    if (lastStepHasEnded)
+        ahead_.clear();
+    else if (!dropped_.empty())
+        ahead_ = std::exchange(dropped_, {});
+    dropped_.clear();
 }
 
 void UndoHistory::RollBack(const Place& place) noexcept {

@@ -49,14 +49,14 @@ public:
     bool Redo(Document& document);
 
     // The last step, which has only begun, never was: brings back the document as it was before it,
-    // marked as changed or not as it was then. Nothing is kept for Redo.
+    // marked as changed or not as it was then, and what lay ahead of the cursor, if that was kept.
     void TakeBack(Document& document);
 
     void ClearHistory();
 
     // For a command that fails halfway: `Place` is where the history stood before it, RollBack goes
     // back there, whatever was forgotten meanwhile included. Settle, once a command has ended, lets
-    // go of what RollBack would need.
+    // go of what RollBack would need, but keeps it for TakeBack while the last step has only begun.
     struct Place {
         int UndoIndex = 0;
         int RedoCount = 0;
@@ -64,7 +64,7 @@ public:
     };
     Place Here() const { return place_; }
     void RollBack(const Place& place) noexcept;
-    void Settle() { dropped_.clear(); }
+    void Settle(bool lastStepHasEnded = true);
 
 private:
     struct Snapshot {
@@ -81,6 +81,9 @@ private:
     // Forgotten since the last Settle: what then stood in the slots from `droppedFrom_` on.
     std::vector<Snapshot> dropped_;
     std::size_t droppedFrom_ = 0;
+    // What the last step forgot, and where the history stood before it, until that step has ended.
+    std::vector<Snapshot> ahead_;
+    Place beforeStep_;
     Place place_;
 };
 

@@ -127,15 +127,4 @@ void ReleaseAdjustment(Editor& editor, Adjustment adjustment) {
     EndDrag(editor);
 }
 
-void GiveUpSlider(Editor& editor) {
-    if (!std::holds_alternative<OpacityDrag>(editor.Drag) &&
-        !std::holds_alternative<AdjustmentDrag>(editor.Drag) &&
-        !std::holds_alternative<ScaleDrag>(editor.Drag))
-        return;
-    editor.History.TakeBack(editor.Document);
-    editor.Drag = {};
-    ShowSelectedLayer(editor);
-    NoteStack(editor.Changed);
-}
-
 }  // namespace orbelle::editing

@@ -26,7 +26,4 @@ void PressScale(Editor& editor);
 void ChangeScale(Editor& editor, int value);
 void ReleaseScale(Editor& editor);
 
-// The drag never was: its undo step goes with it, and what could have been redone is gone already.
-void GiveUpSlider(Editor& editor);
-
 }  // namespace orbelle::editing

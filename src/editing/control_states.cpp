@@ -49,6 +49,8 @@ private:
                usable);
         Enable({CommandId::ToBack, CommandId::BackOne}, usable && index >= 1);
         Enable({CommandId::ToFront, CommandId::ForwardOne}, usable && index < count - 1);
+        Enable({CommandId::SelectAll}, editor_.DocumentExists);
+        Enable({CommandId::Deselect, CommandId::InvertSelection}, editor_.Selection.Exists());
         Enable({CommandId::Paste}, editor_.DocumentExists && clipboardHasPicture);
 
         Enable({CommandId::AddLayer}, editor_.DocumentExists);

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "document/icon_layer.h"
+#include "document/selection.h"
 #include "document/view.h"
 #include "graphics/bitmap.h"
 #include "graphics/geometry.h"
@@ -21,6 +22,7 @@ struct StrokeDrag {
     graphics::PointF Press;
     graphics::Bitmap Before;                 // the layer's picture
     std::vector<graphics::PointF> Freehand;  // the pencil's points, layer pixels
+    graphics::RectF Shape{};                 // drawn last, page pixels; the pencil has none
 };
 
 struct EraserDrag {
@@ -29,6 +31,8 @@ struct EraserDrag {
 
 struct FrameSelectionDrag {
     graphics::PointF Press;  // brought onto the page
+    document::Selection Before;
+    graphics::RectF Box{};  // since the first move, page pixels
 };
 
 struct PolygonSelectionDrag {};

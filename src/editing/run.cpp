@@ -5,7 +5,7 @@
 #include <utility>
 
 #include "document/scene_painter.h"
-#include "editing/page_commands.h"
+#include "editing/give_up.h"
 #include "editing/tools/polygon.h"
 #include "formats/document_limits.h"
 
@@ -20,24 +20,6 @@ Outcome Attempt(Work&& work) {
         return Outcome(std::current_exception());
     }
     return {};
-}
-
-// Takes back what the drag in progress has done since its last undo step.
-void GiveUpDrag(Editor& editor) {
-    if (std::holds_alternative<std::monostate>(editor.Drag))
-        return;
-    if (const auto* move = std::get_if<MoveDrag>(&editor.Drag)) {
-        editor.Page().Selected().Rect = move->Before;
-        editor.Changed.Pixels = true;
-    } else if (const auto* stroke = std::get_if<StrokeDrag>(&editor.Drag)) {
-        editor.Page().Selected().Image = stroke->Before;
-        editor.Changed.Pixels = true;
-    } else if (std::holds_alternative<FrameSelectionDrag>(editor.Drag)) {
-        editor.Overlays.SelectionFrame = {};
-    } else if (const auto* page = std::get_if<PageSizeDrag>(&editor.Drag)) {
-        TakeBackPageSize(editor, *page);
-    }
-    editor.Drag = {};
 }
 
 void PaintScene(Editor& editor) {
@@ -126,7 +108,7 @@ Outcome Execute(Editor& editor, const Command& command) {
         GiveUpDrag(editor);
         shown = !Attempt([&] { Show(editor); }).Failed();
     }
-    editor.History.Settle();
+    editor.History.Settle(std::holds_alternative<std::monostate>(editor.Drag));
     NoteControls(editor, controls, overlays);
     editor.Changed.Pixels |= unpainted;
     editor.Observer.Changed(std::exchange(editor.Changed, {}));

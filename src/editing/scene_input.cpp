@@ -103,6 +103,13 @@ void ReleaseScene(Editor& editor, const Pointer& pointer) {
         editor.Changed.HideTips = true;
 }
 
+void HoldShift(Editor& editor, bool isHeld) {
+    if (!std::holds_alternative<StrokeDrag>(editor.Drag) || editor.Tools.InUse == Tool::Pencil)
+        return;
+    Pointer pointer{kLeftButton, isHeld ? 1 : 0, editor.LastPointer.X, editor.LastPointer.Y};
+    HandlersOf(editor.Tools.InUse).Move(editor, pointer);
+}
+
 void LeaveScene(Editor& editor) {
     editor.Overlays.PointerMark.Visible = false;
 }
@@ -127,11 +134,6 @@ void KeyDownScene(Editor& editor, SceneKey key) {
         default:
             return Nudge(editor, 0, 1);
     }
-}
-
-void CancelInput(Editor& editor) {
-    DropPolygon(editor);
-    editor.Changed.Scene = true;
 }
 
 }  // namespace orbelle::editing

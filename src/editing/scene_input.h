@@ -12,6 +12,9 @@ void PressScene(Editor& editor, const Pointer& pointer);
 void MoveScene(Editor& editor, const Pointer& pointer);
 void ReleaseScene(Editor& editor, const Pointer& pointer);  // any button ends a drag
 
+// Shift went down or up, alone, while a shape is drawn: its preview follows at once.
+void HoldShift(Editor& editor, bool isHeld);
+
 // The pointer is no longer over the scene.
 void LeaveScene(Editor& editor);
 
@@ -20,8 +23,5 @@ enum class SceneKey { Left, Up, Right, Down, Delete };
 // An arrow moves the selected layer by one page pixel, an undo step for each press; Delete does
 // what the Edit menu's entry does, and nothing where that is disabled.
 void KeyDownScene(Editor& editor, SceneKey key);
-
-// Gives up an open polygon, as running any command gives up a drag.
-void CancelInput(Editor& editor);
 
 }  // namespace orbelle::editing

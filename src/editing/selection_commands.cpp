@@ -2,6 +2,7 @@
 
 #include "editing/layer_commands.h"
 #include "editing/slider_positions.h"
+#include "editing/tools/polygon.h"
 #include "editing/undo_step.h"
 #include "filters/create_region.h"
 
@@ -23,6 +24,20 @@ document::TakenOut TakeOutOf(const Editor& editor, const IconLayer& layer, Bitma
 }
 
 }  // namespace
+
+void SelectAll(Editor& editor) {
+    if (!editor.DocumentExists)
+        return;
+    DropPolygon(editor);
+    editor.Selection.SelectAll(editor.Page().Width, editor.Page().Height);
+    editor.Changed.Scene = true;
+}
+
+void InvertSelection(Editor& editor) {
+    DropPolygon(editor);
+    editor.Selection.Invert(editor.Page().Width, editor.Page().Height);
+    editor.Changed.Scene = true;
+}
 
 void EndSelection(Editor& editor) {
     editor.Selection.Clear();

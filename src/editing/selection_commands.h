@@ -6,6 +6,13 @@
 
 namespace orbelle::editing {
 
+// Selecting is no undo step. These two give up an open polygon and leave the tool in use as it is.
+
+// The whole page. Nothing without a document.
+void SelectAll(Editor& editor);
+// What is not selected of the page; the whole page inverted is no selection.
+void InvertSelection(Editor& editor);
+
 // Ends the selection, if there is one.
 void EndSelection(Editor& editor);
 

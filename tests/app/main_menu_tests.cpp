@@ -59,6 +59,11 @@ TEST_F(MainMenuTest, EntriesShowTheStatesOfTheirCommands) {
     window.Run([](editing::Editor& editor) { AddEmptyLayer(editor, 16, 16); });
     expect(true, {"Undo", "MergeDown", "ToBack"});
     expect(false, {"ToFront"});
+    expect(false, {"Deselect", "InvertSelection"});
+    Entry("SelectAll").trigger();
+    expect(true, {"SelectAll", "Deselect", "InvertSelection"});
+    Entry("InvertSelection").trigger();
+    expect(false, {"Deselect", "InvertSelection"});
 }
 
 TEST_F(MainMenuTest, TheToolInUseIsMarkedEvenAfterAClickOnItsOwnEntry) {

@@ -70,6 +70,7 @@ TEST_F(MainWindowTest, ARunOfTheWheelIsOneDragFromOneSnapshot) {
     EXPECT_EQ(color(), 0xFFF08010);
     EXPECT_EQ(slider.value(), 50);
     EXPECT_EQ(window.Editor().History.UndoIndex(), 0);
+    EXPECT_EQ(window.Editor().History.RedoCount(), 1);
     EXPECT_TRUE(std::holds_alternative<std::monostate>(window.Editor().Drag));
 }
 

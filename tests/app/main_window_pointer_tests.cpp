@@ -7,7 +7,9 @@
 
 #include "editing/color_wells.h"
 #include "editing/page_commands.h"
+#include "editing/tips.h"
 #include "editing/undo_commands.h"
+#include "widgets/balloon.h"
 
 namespace orbelle::app {
 namespace {
@@ -74,6 +76,16 @@ TEST_F(MainWindowTest, ShiftCountsOnlyWhenItIsHeldAlone) {
         EXPECT_EQ(Part<QLabel>("PointerPosition").text(), "20, 10") << name;
         window.Run(editing::Undo);
     }
+    const auto isSquare = [&] { return window.Editor().Canvas.GetPixel(8, 18) == 0xFF00A020; };
+    MouseOnPage(QEvent::MouseMove, {4, 4}, Qt::NoButton, Qt::NoButton, {});
+    MouseOnPage(QEvent::MouseButtonPress, {4, 4}, Qt::LeftButton, Qt::LeftButton, {});
+    MouseOnPage(QEvent::MouseMove, {20, 10}, Qt::NoButton, Qt::LeftButton, {});
+    QKeyEvent down(QEvent::KeyPress, Qt::Key_Shift, Qt::ShiftModifier);
+    QApplication::sendEvent(&Scene(), &down);
+    EXPECT_TRUE(isSquare());
+    QKeyEvent up(QEvent::KeyRelease, Qt::Key_Shift, Qt::NoModifier);
+    QApplication::sendEvent(&Scene(), &up);
+    EXPECT_FALSE(isSquare());
 }
 
 TEST_F(MainWindowTest, ADragHasOneButton) {
@@ -113,6 +125,53 @@ TEST_F(MainWindowTest, TheStatusLineFollowsWhatLiesUnderThePointer) {
     EXPECT_EQ(Part<QLabel>("PointerColor").text(), "#FFF08010");
     window.Run([](editing::Editor& editor) { SetPageSize(editor, 44, 64); });
     EXPECT_EQ(Part<QLabel>("PointerPosition").text(), "-1, 5");
+}
+
+TEST_F(MainWindowTest, TheStatusLineTellsPlaceAndSizeOfADrag) {
+    NewPage(64, 64);
+    const auto& readout = Part<QLabel>("DragReadout");
+    const auto drag = [&](editing::Tool tool) {
+        window.Run([tool](editing::Editor& editor) { editor.Tools.InUse = tool; });
+        MouseOnPage(QEvent::MouseMove, {9, 9}, Qt::NoButton, Qt::NoButton, {});
+        MouseOnPage(QEvent::MouseButtonPress, {9, 9}, Qt::LeftButton, Qt::LeftButton, {});
+        MouseOnPage(QEvent::MouseMove, {14, 7}, Qt::NoButton, Qt::LeftButton, {});
+        const std::string told = readout.text().toStdString();
+        MouseOnPage(QEvent::MouseButtonRelease, {14, 7}, Qt::LeftButton, Qt::NoButton, {});
+        EXPECT_EQ(readout.text(), "");
+        return told;
+    };
+    EXPECT_EQ(drag(editing::Tool::SelectEllipse), "6 \u00D7 3 at 9, 7");
+    window.Run([](editing::Editor& editor) {
+        editor.Selection.Clear();
+        editor.Page().Selected().Region = graphics::Region::FromRect({0, 0, 64, 64});
+    });
+    EXPECT_EQ(drag(editing::Tool::Move), "at 5, -2, moved by 5, -2");
+}
+
+TEST_F(MainWindowTest, EscapeGivesUpOneThingAtATime) {
+    NewPage(64, 64);
+    window.SetTipsEnabled(true);
+    window.activateWindow();
+    Scene().setFocus();
+    QApplication::processEvents();
+    auto& balloon = Part<widgets::Balloon>("FirstBalloon");
+    window.Run([](editing::Editor& editor) {
+        editor.Tools.InUse = editing::Tool::SelectRectangle;
+        editor.Selection.AddFrame({2, 3, 4, 5}, document::FrameShape::Rectangle);
+    });
+    MouseOnPage(QEvent::MouseButtonPress, {9, 9}, Qt::LeftButton, Qt::LeftButton, {});
+    MouseOnPage(QEvent::MouseMove, {14, 9}, Qt::NoButton, Qt::LeftButton, {});
+    window.RunDuringDrag(
+        [](editing::Editor& editor) { editor.Changed.Tip = {editing::tips::Adjusted}; });
+    Strike(Scene(), Qt::Key_Escape);
+    EXPECT_TRUE(std::holds_alternative<std::monostate>(window.Editor().Drag));
+    EXPECT_EQ(window.Editor().Selection.Bounds(), (graphics::RectI{2, 3, 4, 5}));
+    EXPECT_TRUE(balloon.isVisible());
+    Strike(Scene(), Qt::Key_Escape);
+    EXPECT_FALSE(balloon.isVisible());
+    EXPECT_TRUE(window.Editor().Selection.Exists());
+    Strike(Scene(), Qt::Key_Escape);
+    EXPECT_FALSE(window.Editor().Selection.Exists());
 }
 
 }  // namespace

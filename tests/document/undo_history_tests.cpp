@@ -81,6 +81,41 @@ TEST(UndoHistory, AnEditAfterUndoForgetsWhatLayAhead) {
     EXPECT_EQ(HuesOnTheWay(history, document), (std::vector<int>{1, 0, 1, 9}));
 }
 
+TEST(UndoHistory, AStepTakenBackLeavesWhatLayAheadOfIt) {
+    Document document = DocumentOf(1);
+    UndoHistory history;
+    for (const int hue : {1, 2, 3})
+        Step(history, document, hue);
+    history.Undo(document);
+    history.Undo(document);
+    history.Settle();
+    document.Modified = false;
+    const auto begin = [&] {
+        Step(history, document, 9);
+        for (int command = 0; command < 3; ++command)
+            history.Settle(false);
+    };
+    begin();
+    history.TakeBack(document);
+    EXPECT_EQ(history.RedoCount(), 2);
+    EXPECT_EQ(history.UndoCount(), 3);
+    EXPECT_FALSE(document.Modified);
+    EXPECT_EQ(HuesOnTheWay(history, document), (std::vector<int>{0, 1, 2, 3}));
+    history.Undo(document);
+    history.Settle();
+
+    begin();
+    const UndoHistory::Place place = history.Here();
+    history.TakeBack(document);
+    history.RollBack(place);
+    EXPECT_EQ(HuesOnTheWay(history, document), (std::vector<int>{2, 1, 0, 1, 2, 2}))
+        << "the document was not rolled back";
+    history.Settle();
+    history.TakeBack(document);
+    EXPECT_EQ(history.RedoCount(), 0) << "the step had ended";
+    EXPECT_EQ(history.UndoIndex(), 2);
+}
+
 TEST(UndoHistory, EveryStepMarksTheDocumentAsChanged) {
     Document document = DocumentOf(1);
     UndoHistory history;

@@ -2,6 +2,7 @@
 #include "editing/page_commands.h"
 
 #include "editing/adjust_sliders.h"
+#include "editing/give_up.h"
 #include "editing/layer_bar.h"
 #include "editing/undo_commands.h"
 #include "editing/view_commands.h"

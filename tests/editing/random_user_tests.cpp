@@ -6,10 +6,12 @@
 #include "editing/buttons.h"
 #include "editing/clipboard_commands.h"
 #include "editing/color_wells.h"
+#include "editing/give_up.h"
 #include "editing/layer_bar.h"
 #include "editing/layer_commands.h"
 #include "editing/page_commands.h"
 #include "editing/scene_input.h"
+#include "editing/selection_commands.h"
 #include "editing/stack_commands.h"
 #include "editing/tool_palette.h"
 #include "editing/undo_commands.h"
@@ -56,6 +58,8 @@ protected:
             Drag(MoveScene);
             if (Chance(3))
                 Command();
+            if (Chance(3))
+                EditingTest::Step(CancelInput);
         }
         Drag(ReleaseScene);
     }
@@ -76,6 +80,8 @@ protected:
         EditingTest::Step(drag[1]);
         if (Chance(10))
             Do(Redo);
+        if (Chance(10))
+            EditingTest::Step(CancelDrag);
         EditingTest::Step(drag[2]);
     }
 
@@ -88,14 +94,15 @@ protected:
 
     void Command() {
         using graphics::Argb;
-        const editing::Command plain[] = {PressHideLayer,     PressAddLayer, CopyToClipboard,
-                                          PasteFromClipboard, Redo,          ExchangeColor};
+        const editing::Command plain[] = {PressHideLayer,     PressAddLayer,  CopyToClipboard,
+                                          PasteFromClipboard, Redo,           ExchangeColor,
+                                          SelectAll,          InvertSelection};
         const std::function<void()> actions[] = {
             [&] { Do(RandomCommand().Run); },
             [&] { Do(RandomCommand().Run); },
-            [&] { Do(plain[Below(6)]); },
-            [&] { Do(plain[Below(6)]); },
-            [&] { Do(plain[Below(6)]); },
+            [&] { Do(plain[Below(8)]); },
+            [&] { Do(plain[Below(8)]); },
+            [&] { Do(plain[Below(8)]); },
             [&] {
                 recorder.Put(testing::FilledPicture(9, 7, 0x40FF0000), "another program");
                 Do(PasteFromClipboard);

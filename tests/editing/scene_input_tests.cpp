@@ -3,6 +3,8 @@
 #include "editing/scene_input.h"
 
 #include "editing/adjust_sliders.h"
+#include "editing/drag_readout.h"
+#include "editing/give_up.h"
 #include "editing/layer_bar.h"
 #include "editing/tips.h"
 #include "editing/undo_commands.h"
@@ -123,6 +125,55 @@ TEST_F(SceneInput, StrokesAreShownHardEdgedFirst) {
     EXPECT_EQ(Drawn(), "4-7: 9-13");
     Release(OnPage(13, 7, kShift));  // Shift is read anew
     EXPECT_EQ(Drawn(), "4-8: 9-13");
+}
+
+// A preview shows what a release would leave.
+TEST_F(SceneInput, ShiftCountsWithoutAMove) {
+    Use(Tool::FilledRectangle);
+    DragWithoutRelease({{10, 5}, {13, 7}});
+    Step(HoldShift, true);
+    EXPECT_EQ(Drawn(), "4-8: 9-13");
+    EXPECT_EQ(ReadoutOf(editor)->Area, (graphics::RectI{9, 4, 5, 5}));
+    Step(HoldShift, false);
+    EXPECT_EQ(Drawn(), "4-7: 9-13");
+    Release(OnPage(13, 7));
+    Step(HoldShift, true);
+    EXPECT_EQ(Drawn(), "4-7: 9-13");
+    Use(Tool::Pencil);
+    DragWithoutRelease({{1, 1}, {2, 1}});
+    Step(HoldShift, true);
+    EXPECT_EQ(std::get<StrokeDrag>(editor.Drag).Freehand.size(), 2U);
+}
+
+// Shapes lie one pixel to the upper left and are one pixel larger.
+TEST_F(SceneInput, ADragIsReadOutInPagePixelsUntilItsRelease) {
+    const struct {
+        Tool Chosen;
+        Held Keys;
+        DragReadout Expected;
+    } cases[] = {
+        {Tool::Move, {}, {{12, 1, 20, 10}, true, 7, -2}},
+        {Tool::Line, {}, {{9, 4, 8, 3}}},
+        {Tool::Rectangle, {}, {{8, 3, 9, 4}}},
+        {Tool::FilledEllipse, kShift, {{8, 3, 9, 9}}},
+        {Tool::SelectRectangle, {}, {{9, 4, 8, 3}}},
+    };
+    for (const double zoom : {0.2, 1.0, 3.0}) {
+        for (const auto& c : cases) {
+            SCOPED_TRACE(::testing::Message() << static_cast<int>(c.Chosen) << " at " << zoom);
+            OpenPage(40, 30, zoom);
+            PutOnlyLayer(testing::FilledPicture(20, 10, kBlue), 5, 3);
+            Use(c.Chosen);
+            EXPECT_FALSE(ReadoutOf(editor));
+            DragWithoutRelease({{9, 6}, {3, 3}, {16, 4}}, c.Keys);
+            EXPECT_EQ(ReadoutOf(editor), c.Expected);
+            Release(OnPage(16, 4, c.Keys));
+            EXPECT_FALSE(ReadoutOf(editor));
+        }
+    }
+    Use(Tool::Pencil);
+    DragWithoutRelease({{9, 6}, {16, 4}});
+    EXPECT_FALSE(ReadoutOf(editor));
 }
 
 // The layer stays on whole page pixels, with halves to the even one.

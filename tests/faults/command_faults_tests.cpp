@@ -18,6 +18,7 @@
 #include "editing/clipboard_commands.h"
 #include "editing/document_commands.h"
 #include "editing/export_commands.h"
+#include "editing/give_up.h"
 #include "editing/layer_bar.h"
 #include "editing/layer_commands.h"
 #include "editing/page_commands.h"
@@ -450,6 +451,7 @@ const Scenario kScenarios[] = {
     {"PasteOwn", Simply<editing::PasteFromClipboard>, "", CopyLayer},
     {"PasteForeign", Simply<editing::PasteFromClipboard>, "", CopyElsewhere},
     {"DeleteSelection", Simply<editing::DeleteSelection>, "", SelectPixels},
+    {"InvertSelection", Simply<editing::InvertSelection>, "", SelectPixels},
 
     {"AddLayer", Simply<editing::PressAddLayer>},
     {"RemoveLayer", Simply<editing::PressRemoveLayer>},
@@ -482,6 +484,8 @@ const Scenario kScenarios[] = {
     {"Hue", Slide<[](Editor& editor) { PressAdjustment(editor, Adjustment::Hue); },
                   [](Editor& editor) { ChangeAdjustment(editor, Adjustment::Hue, 30); },
                   [](Editor& editor) { ReleaseAdjustment(editor, Adjustment::Hue); }>},
+    {"Cancel", Slide<editing::PressOpacity, [](Editor& editor) { ChangeOpacity(editor, 30); },
+                     editing::CancelDrag>},
     {"Scale", Slide<editing::PressScale, [](Editor& editor) { ChangeScale(editor, 60); },
                     editing::ReleaseScale>},
 };

@@ -37,6 +37,13 @@ ShapeBox BoxBetween(PointF start, PointF end, bool square) {
     return box;
 }
 
+ShapeBox BoxOf(const Editor& editor, const StrokeDrag& drag, const Pointer& pointer) {
+    const SceneMapping mapping = MappingOf(editor);
+    const RectF& layer = editor.Page().Selected().Rect;
+    return BoxBetween(ScreenToLayer(mapping, layer, drag.Press.X, drag.Press.Y),
+                      ScreenToLayer(mapping, layer, pointer.X, pointer.Y), pointer.IsShiftAlone());
+}
+
 bool IsRectangle(Tool tool) {
     return tool == Tool::Rectangle || tool == Tool::FilledRectangle;
 }
@@ -94,11 +101,7 @@ void DrawFreehand(DrawingContext& context, const Pen& pen, std::vector<PointF> p
 void DrawShape(const Editor& editor, const StrokeDrag& drag, Bitmap& image, const Pointer& pointer,
                SmoothingMode smoothing) {
     const Tool tool = editor.Tools.InUse;
-    const SceneMapping mapping = MappingOf(editor);
-    const RectF& layer = editor.Page().Selected().Rect;
-    const ShapeBox box =
-        BoxBetween(ScreenToLayer(mapping, layer, drag.Press.X, drag.Press.Y),
-                   ScreenToLayer(mapping, layer, pointer.X, pointer.Y), pointer.IsShiftAlone());
+    const ShapeBox box = BoxOf(editor, drag, pointer);
     const std::optional<Brush> brush = MakeBrush(editor, box);
     if (!brush)
         return;
@@ -126,6 +129,18 @@ void DrawShape(const Editor& editor, const StrokeDrag& drag, Bitmap& image, cons
         default:
             return;
     }
+}
+
+RectF ShapeArea(const Editor& editor, const StrokeDrag& drag, const Pointer& pointer) {
+    if (editor.Tools.InUse == Tool::Pencil)
+        return {};
+    const ShapeBox box = BoxOf(editor, drag, pointer);
+    const RectF& layer = editor.Page().Selected().Rect;
+    if (editor.Tools.InUse != Tool::Line)
+        return {layer.X + box.Left, layer.Y + box.Top, box.Width, box.Height};
+    const auto [left, right] = std::minmax(box.Start.X, box.End.X);
+    const auto [top, bottom] = std::minmax(box.Start.Y, box.End.Y);
+    return {layer.X + left, layer.Y + top, right - left + 1, bottom - top + 1};
 }
 
 }  // namespace orbelle::editing

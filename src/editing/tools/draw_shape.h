@@ -14,4 +14,8 @@ namespace orbelle::editing {
 void DrawShape(const Editor& editor, const StrokeDrag& drag, graphics::Bitmap& image,
                const Pointer& pointer, graphics::SmoothingMode smoothing);
 
+// The box of that shape, page pixels; a line's from its first to its last pixel. The pencil has
+// none.
+graphics::RectF ShapeArea(const Editor& editor, const StrokeDrag& drag, const Pointer& pointer);
+
 }  // namespace orbelle::editing

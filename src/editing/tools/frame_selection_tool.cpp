@@ -31,7 +31,7 @@ void Press(Editor& editor, const Pointer& pointer) {
     if (editor.Tools.OpenPopup == Popup::SelectionBar)
         editor.Tools.OpenPopup = Popup::None;
     editor.Overlays.SelectionFrame = {true, editor.Tools.InUse == Tool::SelectEllipse, {}};
-    editor.Drag = FrameSelectionDrag{ClampToScene(editor, pointer.X, pointer.Y)};
+    editor.Drag = FrameSelectionDrag{ClampToScene(editor, pointer.X, pointer.Y), editor.Selection};
     if (!pointer.IsShiftAlone())
         editor.Selection.Start();
 }
@@ -41,6 +41,7 @@ void Move(Editor& editor, Pointer& pointer) {
     pointer.X = onPage.X;
     pointer.Y = onPage.Y;
     const RectF box = BoxTo(editor, pointer);
+    std::get<FrameSelectionDrag>(editor.Drag).Box = box;
     const SceneMapping mapping = MappingOf(editor);
     editor.Overlays.SelectionFrame.Rect = {
         static_cast<float>(mapping.PageOffsetX + box.X * mapping.Zoom),

@@ -37,7 +37,8 @@ void BeginStroke(Editor& editor, const Pointer& pointer) {
 }
 
 void PreviewStroke(Editor& editor, Pointer& pointer) {
-    const auto& drag = std::get<StrokeDrag>(editor.Drag);
+    auto& drag = std::get<StrokeDrag>(editor.Drag);
+    drag.Shape = ShapeArea(editor, drag, pointer);
     graphics::Bitmap& image = editor.Page().Selected().Image;
     image = drag.Before;
     DrawShape(editor, drag, image, pointer, SmoothingMode::None);

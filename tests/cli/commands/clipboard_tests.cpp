@@ -50,7 +50,12 @@ TEST_F(ClipboardCommands, WithASelection) {
                 "widths 842, selected 2, 2/rect 2 0 2 2, 2/base_rect 2 0 2 2, 2/image 2 2, "
                 "2/opacity 0.5, 2/hue 0, 2/region 1 1 2 1, page@2,1 80000001, selection null, "
                 "slider/opacity 50, undo 2"}});
+    Check(select + "tool move click 2 1 ", "widths 842, undo 2, selected ",
+          {{"beside the piece lies what it was lifted off", "click 3 3", "1"},
+           {"the piece is picked by its own pixels", "click 3 3 click 2 1", "2"}});
     Check({
+        {"a new empty layer hides neither", select + "tool move click 2 1 add-layer click 2 1",
+         "widths 8428, selected 2, 3/region null"},
         {"out of the top layer when none is selected",
          "open dots.volf tool move click 7 7 tool select-rectangle drag 2 0 3 1 "
          "tool move click 2 1",

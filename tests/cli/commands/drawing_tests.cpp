@@ -27,6 +27,7 @@ TEST_F(DrawingTools, HardEdges) {
            {"a drag back", "filled-rectangle drag 13 7 10 5", "4-7: 9-13"},
            {"a square", "filled-rectangle shift-drag 10 5 13 7", "4-8: 9-13"},
            {"a square back", "filled-rectangle shift-drag 13 7 10 5", "4-8: 9-13"},
+           {"a square up", "filled-rectangle shift-drag 10 7 13 5", "4-8: 9-13"},
            {"a high square", "filled-rectangle shift-drag 13 5 12 8", "4-8: 11-15"},
            {"beyond the edge", "filled-rectangle drag 38 28 50 50", "27-29: 37-39"},
            {"an outline", "rectangle drag 10 5 13 7", "4: 9-13; 5-6: 9 13; 7: 9-13"},

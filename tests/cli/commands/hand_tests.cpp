@@ -116,6 +116,22 @@ TEST_F(HandOnTheScene, Selects) {
            {"no polygon", "right-click 1 1", "0-3: 0-3"},
            {"a polygon left open",
             "shift-click 5 5 shift-click 8 8 tool select-rectangle right-click 1 1", "0-3: 0-3"}});
+    Check(
+        "new 40 30 tool select-rectangle ", "undo 0, modified false, selection/runs ",
+        {{"all", "select-all", "0-29: 0-39"},
+         {"all in place of some", "drag 5 4 9 8 select-all", "0-29: 0-39"},
+         {"all with a drawing tool", "tool pencil select-all", "0-29: 0-39"},
+         {"none", "drag 5 4 9 8 deselect", "none"},
+         {"the others", "drag 1 1 38 28 invert-selection", "0: 0-39; 1-28: 0 39; 29: 0-39"},
+         {"the others of the others", "drag 1 2 3 4 invert-selection invert-selection", "2-4: 1-3"},
+         {"and more", "drag 0 1 39 29 invert-selection shift-drag 0 3 0 4", "0: 0-39; 3-4: 0"},
+         {"all others of all are none", "select-all invert-selection", "none"},
+         {"of shapes that cover all", "drag 0 0 39 9 shift-drag 0 10 39 29 invert-selection",
+          "none"},
+         // A circle one pixel wide has none.
+         {"of none at all", "tool select-ellipse drag 5 5 5 9 invert-selection", "0-29: 0-39"},
+         {"an open polygon goes",
+          "tool select-polygon click 1 1 click 9 9 select-all right-click 3 3", "0-29: 0-39"}});
     for (const char* command :
          {"toggle-visible", "add-layer", "paste", "delete", "cut", "style ios", "import a.png"})
         Check("open two.volf copy tool select-rectangle drag 5 4 9 8 ", "selection null",

@@ -63,6 +63,19 @@ TEST_F(StackCommands, OrderFlipAndTurn) {
             "clipboard/argb FF00000D FF00000A FF00000E FF00000B FF00000F 00000000"},
            {"cut where the page shows it", "rotate cw tool select-rectangle drag 10 20 11 21 cut",
             "clipboard/argb FF00000E FF00000B FF00000F 00000000, 0/pixels 0: 0-1"}});
+    // Turned: d a, e b, f c.
+    Check("open abc.volf rotate cw ", "clipboard/",
+          {{"half off the page", "page 11 21 select-all cut",
+            "pixels 19-20: 10, clipboard@10,20 FF00000E, "
+            "0/argb 00000000 FF00000A 00000000 FF00000B FF00000F 00000000"},
+           {"flipped", "flip horizontal page 11 21 select-all cut",
+            "pixels 19-20: 10, clipboard@10,20 FF00000B, "
+            "0/argb 00000000 FF00000D 00000000 FF00000E 00000000 FF00000F"},
+           {"off the upper left", "tool move drag 10 19 -1 -1 select-all cut",
+            "pixels 0: 0, clipboard@0,0 FF00000B, 0/rect -1 -1 2 3, "
+            "0/argb FF00000D FF00000A FF00000E 00000000 FF00000F 00000000"},
+           {"all but a part", "tool select-rectangle drag 11 19 11 20 invert-selection cut",
+            "pixels 19-21: 10, 0/argb 00000000 FF00000A 00000000 FF00000B 00000000 00000000"}});
     Check({{"turned back", "open abc.volf rotate cw rotate cw", "0/rect 9 19 3 2, 0/image 3 2"},
            {"in another size", "open scaled.volf rotate cw",
             "0/rect 1 -1 3 5.5, 0/image 1 2, 0/argb FF00000A FF00000B"},
@@ -108,12 +121,14 @@ TEST_F(StackCommands, DisabledEntriesFailWithTheReason) {
         {"there is no document", "",
          "save a.volf,export a.png,page 8 8,select 0,background none,add-layer,opacity 5,"
          "style crystal,info,region 0,selection,write-page a,write-scene a,write-layer 0 a,"
-         "tool pencil,click 1 1,key left,delete,toggle-visible,merge,paste,hue 3"},
+         "tool pencil,click 1 1,key left,delete,toggle-visible,merge,paste,hue 3,select-all,"
+         "deselect,invert-selection"},
         {"the document has no layer", "new 4 4 delete", "save a.volf,export a.png"},
         {"no layer is selected", "new 4 4 delete", "copy"},
         {"the selected layer is hidden", "new 4 4 toggle-visible", "cut,merge,style fresh"},
         {"the selected layer clips the one above it", "new 4 4 style ios", "flip vertical"},
         {"the clipboard holds no picture", "new 4 4", "paste"},
+        {"nothing is selected", "new 4 4 select-all deselect", "deselect,invert-selection"},
         {"there is no layer below the selected one", "new 4 4", "merge"},
         {"the selected layer is there already", "new 4 4 add-layer", "order front,order forward"},
         {"the selected layer is there already", "new 4 4", "order back,order backward"},

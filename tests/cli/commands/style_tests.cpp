@@ -102,6 +102,21 @@ TEST_F(StyleCommands, WhatTheyDraw) {
     });
 }
 
+// It is a layer like any other then.
+TEST_F(StyleCommands, APictureMergedIntoItsPlate) {
+    Check("foreground #00FF00 open corner.volf style ios select 1 merge ", "",
+          {{"looks the same", "copy",
+            "widths 40, 0/clip_next false, 0/rect 0 0 40 30, 0@0,0 00000000, 0@10,5 FF3366CC, "
+            "0@10,20 FF00FF00, clipboard@0,0 00000000, clipboard@10,5 FF3366CC, undo 3"},
+           {"is mirrored", "flip horizontal",
+            "page@29,5 FF3366CC, page@10,5 FF00FF00, page@39,0 00000000, undo 4"},
+           {"is cut", "cut", "widths , clipboard/size 40 30, undo 4"},
+           {"is cut in part", "tool select-rectangle drag 0 0 19 9 cut",
+            "clipboard/size 20 10, page@10,5 00000000, page@10,20 FF00FF00"},
+           {"changes its place", "import glass.png select 0 order front",
+            "widths 1040, selected 1, page@10,5 FF3366CC"}});
+}
+
 TEST_F(StyleCommands, AdjustmentsStartFromThePress) {
     using namespace filters;
     const auto adjusted = [](const std::vector<Filter>& filters) {
