@@ -94,7 +94,7 @@ public:
     std::optional<int> AskGifThreshold(const graphics::Bitmap& surface) override;
     std::optional<int> ChooseIconImage(
         const std::vector<formats::IconEntryImage>& offered) override;
-    std::optional<graphics::Argb> AskColor(graphics::Argb initial) override;
+    std::optional<graphics::Argb> AskColor(const ColorQuestion& question) override;
 
     void Put(const graphics::Bitmap& picture, const std::string& text) override;
     bool HasPicture() override;

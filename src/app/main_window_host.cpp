@@ -1,7 +1,6 @@
 // What the editor tells the main window, and what is asked of the user.
 #include "app/main_window.h"
 
-#include <QColorDialog>
 #include <QGuiApplication>
 #include <QProgressDialog>
 #include <QScrollBar>
@@ -10,6 +9,7 @@
 #include <algorithm>
 
 #include "app/bottom_panel.h"
+#include "app/color_dialog.h"
 #include "app/file_dialog.h"
 #include "app/gif_optimizer_dialog.h"
 #include "app/icon_images_dialog.h"
@@ -152,11 +152,11 @@ std::optional<int> MainWindow::ChooseIconImage(
     return dialog.SelectedIndex();
 }
 
-std::optional<graphics::Argb> MainWindow::AskColor(graphics::Argb initial) {
-    const QColor color = QColorDialog::getColor(QColor::fromRgb(initial), this);
-    if (!color.isValid())
+std::optional<graphics::Argb> MainWindow::AskColor(const ColorQuestion& question) {
+    ColorDialog dialog(question, this);
+    if (dialog.exec() != QDialog::Accepted)
         return std::nullopt;
-    return color.rgb();
+    return dialog.Color();
 }
 
 void MainWindow::Put(const graphics::Bitmap& picture, const std::string& text) {

@@ -19,6 +19,13 @@ struct PageSize {
     int Height = 0;
 };
 
+struct ColorQuestion {
+    const char* Title = "";
+    graphics::Argb Old = 0;    // what is there, shown beside the choice
+    graphics::Argb Start = 0;  // what the dialog begins with
+    bool HasAlpha = false;     // else colours are opaque
+};
+
 class UserQuestions {
 public:
     // A plain message box with one button.
@@ -44,8 +51,8 @@ public:
     // Which image of an icon file to take, as its place among those offered. No value: cancelled.
     virtual std::optional<int> ChooseIconImage(
         const std::vector<formats::IconEntryImage>& offered) = 0;
-    // The colour dialog; no value: cancelled. The alpha of both means nothing.
-    virtual std::optional<graphics::Argb> AskColor(graphics::Argb initial) = 0;
+    // The colour dialog; no value: cancelled.
+    virtual std::optional<graphics::Argb> AskColor(const ColorQuestion& question) = 0;
 
 protected:
     ~UserQuestions() = default;

@@ -29,7 +29,9 @@ public:
     std::optional<int> GifThreshold, IconImage;
     std::optional<graphics::Argb> Color;
     std::vector<std::string> Told;
-    std::string Message;  // the last
+    std::string Message, Status;  // the last
+    std::filesystem::path Proposed;
+    ColorQuestion Question;
 
     // "save? message"
     std::string AllTold() const {
@@ -82,7 +84,10 @@ public:
     std::optional<int> ChooseIconImage(const std::vector<formats::IconEntryImage>&) override {
         return Answer("image?", IconImage);
     }
-    std::optional<graphics::Argb> AskColor(graphics::Argb) override { return Color; }
+    std::optional<graphics::Argb> AskColor(const ColorQuestion& question) override {
+        Question = question;
+        return Color;
+    }
 
     void Changed(const editing::Changes&) override {}
     void Put(const graphics::Bitmap&, const std::string&) override {}
