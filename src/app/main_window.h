@@ -85,6 +85,7 @@ public:
     void Changed(const editing::Changes& changes) override;
 
     void ShowMessage(const std::string& text) override;
+    void ShowAddress(const std::string& text, const std::string& address) override;
     void ShowStatus(const std::string& text) override;
     bool GoOn(int done, int count) override;
     SavePromptAnswer AskSave() override;

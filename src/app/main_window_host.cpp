@@ -96,6 +96,10 @@ void MainWindow::ShowMessage(const std::string& text) {
     ShowPlainMessage(this, text);
 }
 
+void MainWindow::ShowAddress(const std::string& text, const std::string& address) {
+    ShowMessageToCopy(this, text, address);
+}
+
 void MainWindow::ShowStatus(const std::string& text) {
     statusBar()->showMessage(QString::fromStdString(text), kStatusMilliseconds);
 }

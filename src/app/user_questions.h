@@ -30,7 +30,9 @@ class UserQuestions {
 public:
     // A plain message box with one button.
     virtual void ShowMessage(const std::string& text) = 0;
-    // A failure told in the status line, without a box.
+    // The same about an address or a path, which the user may want to copy.
+    virtual void ShowAddress(const std::string& text, const std::string& address) = 0;
+    // Told in the status line, without a box, until the next command.
     virtual void ShowStatus(const std::string& text) = 0;
 
     // How far a long run over files has come; after a while a dialog shows it. The run ends with

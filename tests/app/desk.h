@@ -65,6 +65,7 @@ public:
     }
     bool GoOn(int done, int) override { return done < FilesAtMost; }
     void ShowStatus(const std::string&) override { Told.emplace_back("status"); }
+    void ShowAddress(const std::string& text, const std::string&) override { ShowMessage(text); }
     SavePromptAnswer AskSave() override { return Answer("save?", SaveAnswer); }
     bool Confirm(const std::string& text, const std::string& title) override {
         EXPECT_EQ(title, "Warning");
