@@ -43,7 +43,7 @@ void AskNew(const WindowContext& context) {
 void AskOpen(const WindowContext& context) {
     if (!MayGiveUpDocument(context))
         return;
-    const fs::path path = context.User.AskFile(std::string(kOpenFilter) + kPictureFilters, true);
+    const fs::path path = context.User.AskFile(std::string(kOpenFilter) + kPictureFilters);
     if (!path.empty())
         OpenPath(context, path);
 }
@@ -68,7 +68,7 @@ void OpenHandedOver(const WindowContext& context, std::string_view command) {
 }
 
 void AskImport(const WindowContext& context) {
-    const fs::path path = context.User.AskFile(std::string(kImportFilter) + kPictureFilters, true);
+    const fs::path path = context.User.AskFile(std::string(kImportFilter) + kPictureFilters);
     if (!path.empty())
         ImportFiles(context, {path});
 }

@@ -91,7 +91,9 @@ public:
     SavePromptAnswer AskSave() override;
     bool Confirm(const std::string& text, const std::string& title) override;
     std::optional<PageSize> AskPageSize() override;
-    std::filesystem::path AskFile(const std::string& filter, bool isOpen) override;
+    std::filesystem::path AskFile(const std::string& filter) override;
+    std::filesystem::path AskFileToWrite(const std::string& filter,
+                                         const std::filesystem::path& proposed) override;
     std::optional<int> AskGifThreshold(const graphics::Bitmap& surface) override;
     std::optional<int> ChooseIconImage(
         const std::vector<formats::IconEntryImage>& offered) override;

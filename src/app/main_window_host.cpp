@@ -137,8 +137,13 @@ std::optional<PageSize> MainWindow::AskPageSize() {
     return page.Size();
 }
 
-std::filesystem::path MainWindow::AskFile(const std::string& filter, bool isOpen) {
-    return AskForFile(this, filter, isOpen);
+std::filesystem::path MainWindow::AskFile(const std::string& filter) {
+    return AskForFile(this, filter);
+}
+
+std::filesystem::path MainWindow::AskFileToWrite(const std::string& filter,
+                                                 const std::filesystem::path& proposed) {
+    return AskForFileToWrite(this, filter, proposed);
 }
 
 std::optional<int> MainWindow::AskGifThreshold(const graphics::Bitmap& surface) {

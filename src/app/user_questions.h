@@ -45,8 +45,11 @@ public:
     virtual bool Confirm(const std::string& text, const std::string& title) = 0;
     // The New dialog. No value: cancelled. The window remembers the last size.
     virtual std::optional<PageSize> AskPageSize() = 0;
-    // A file dialog with a filter of "text|patterns|text|patterns..."; empty: cancelled.
-    virtual std::filesystem::path AskFile(const std::string& filter, bool isOpen) = 0;
+    // A file dialog with a filter of "text|patterns|text|patterns..."; empty: cancelled. To read,
+    // or to write, which begins with a name, in a folder if it has one.
+    virtual std::filesystem::path AskFile(const std::string& filter) = 0;
+    virtual std::filesystem::path AskFileToWrite(const std::string& filter,
+                                                 const std::filesystem::path& proposed) = 0;
     // At which alpha (0 to 200) a pixel of the surface counts as opaque in a GIF. No value:
     // cancelled.
     virtual std::optional<int> AskGifThreshold(const graphics::Bitmap& surface) = 0;

@@ -38,7 +38,7 @@ public:
         std::string all;
         for (const std::string& told : Told)
             all += (all.empty() ? "" : " ") + told;
-        return all;
+        return Status.empty() ? all : all + "status";
     }
 
     RecentFiles Recent;
@@ -64,7 +64,7 @@ public:
         Message = text;
     }
     bool GoOn(int done, int) override { return done < FilesAtMost; }
-    void ShowStatus(const std::string&) override { Told.emplace_back("status"); }
+    void ShowStatus(const std::string& text) override { Status = text; }
     void ShowAddress(const std::string& text, const std::string&) override { ShowMessage(text); }
     SavePromptAnswer AskSave() override { return Answer("save?", SaveAnswer); }
     bool Confirm(const std::string& text, const std::string& title) override {
@@ -76,8 +76,11 @@ public:
         return Answer("changed?", OverwriteAnswer);
     }
     std::optional<PageSize> AskPageSize() override { return PageSize{kNewSide, kNewSide}; }
-    std::filesystem::path AskFile(const std::string&, bool isOpen) override {
-        return isOpen ? Answer("read?", ToRead) : Answer("write?", ToWrite);
+    std::filesystem::path AskFile(const std::string&) override { return Answer("read?", ToRead); }
+    std::filesystem::path AskFileToWrite(const std::string&,
+                                         const std::filesystem::path& proposed) override {
+        Proposed = proposed;
+        return Answer("write?", ToWrite);
     }
     std::optional<int> AskGifThreshold(const graphics::Bitmap&) override {
         return Answer("threshold?", GifThreshold);
