@@ -43,7 +43,7 @@ void AskNew(const WindowContext& context) {
 void AskOpen(const WindowContext& context) {
     if (!MayGiveUpDocument(context))
         return;
-    const fs::path path = context.User.AskFile(std::string(kOpenFilter) + kPictureFilters, true);
+    const fs::path path = context.User.AskFile(std::string(kOpenFilter) + kPictureFilters);
     if (!path.empty())
         OpenPath(context, path);
 }
@@ -68,7 +68,7 @@ void OpenHandedOver(const WindowContext& context, std::string_view command) {
 }
 
 void AskImport(const WindowContext& context) {
-    const fs::path path = context.User.AskFile(std::string(kImportFilter) + kPictureFilters, true);
+    const fs::path path = context.User.AskFile(std::string(kImportFilter) + kPictureFilters);
     if (!path.empty())
         ImportFiles(context, {path});
 }
@@ -77,7 +77,9 @@ void AskPageBackground(const WindowContext& context) {
     const Editor& editor = context.Commands.Editor();
     if (!editor.States.IsEnabled(editing::CommandId::PageBackground))
         return;
-    if (const auto color = context.User.AskColor(editor.Document.Background))
+    const graphics::Argb old = editor.Document.Background;
+    const ColorQuestion question{"Page Background", old, graphics::SetAlphaByte(old, 255)};
+    if (const auto color = context.User.AskColor(question))
         context.Commands.Run([&](Editor& changed) {
             SetPageBackground(changed, graphics::SetAlphaByte(*color, 255));
         });
@@ -86,7 +88,9 @@ void AskPageBackground(const WindowContext& context) {
 void AskWellColor(const WindowContext& context, int well) {
     const graphics::Argb present =
         context.Commands.Editor().Tools.Colors[static_cast<std::size_t>(well)];
-    const std::optional<graphics::Argb> chosen = context.User.AskColor(present);
+    const std::optional<graphics::Argb> chosen =
+        context.User.AskColor({well == 0 ? "Foreground Color" : "Background Color", present,
+                               editing::ColorToChoose(present), true});
     context.Commands.Run([&](Editor& editor) {
         if (chosen)
             ChooseWellColor(editor, well, *chosen);

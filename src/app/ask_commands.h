@@ -21,7 +21,8 @@ void AskImport(const WindowContext& context);
 
 // A click on the page's colour well: the chosen colour, opaque.
 void AskPageBackground(const WindowContext& context);
-// A double click on the foreground (0) or background (1) well, which is in use then either way.
+// A double click on the foreground (0) or background (1) well, which is in use then either way. An
+// alpha that was chosen in the dialog is the well's from then on.
 void AskWellColor(const WindowContext& context, int well);
 
 }  // namespace orbelle::app

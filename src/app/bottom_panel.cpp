@@ -150,7 +150,7 @@ QWidget* BottomPanel::AddBackground() {
 }
 
 QWidget* BottomPanel::AddColors() {
-    const char* const names[] = {"Foreground colour", "Background colour"};
+    const char* const names[] = {"Foreground color", "Background color"};
     for (int i = 0; i < 2; ++i) {
         auto* well = new ColorWell(names[i]);
         well->setObjectName(QString("ForeColorOLE%1").arg(i));
@@ -161,17 +161,17 @@ QWidget* BottomPanel::AddColors() {
         connect(well, &ColorWell::DoubleClicked, this, [this, i] { AskWellColor(context_, i); });
         wells_[static_cast<std::size_t>(i)] = well;
     }
-    QToolButton* exchange = PictureButton("tools/swap", "Exchange the colours");
+    QToolButton* exchange = PictureButton("tools/swap", "Exchange the colors");
     exchange->setObjectName("ExchangeColor");
     connect(exchange, &QToolButton::clicked, this,
             [this] { context_.Commands.Run(editing::ExchangeColor); });
-    return Group("Colours", Row({wells_[0], exchange, wells_[1]}));
+    return Group("Colors", Row({wells_[0], exchange, wells_[1]}));
 }
 
 QWidget* BottomPanel::AddOptions() {
     colorOpacity_ = new widgets::TrackSlider;
     colorOpacity_->setObjectName("ColorOpacity");
-    colorOpacity_->setAccessibleName("Colour opacity");
+    colorOpacity_->setAccessibleName("Color opacity");
     const editing::Slider opacity = editing::Sliders().ColorOpacity;
     colorOpacity_->setRange(opacity.Minimum, opacity.Maximum);
     colorOpacity_->setFixedWidth(kSliderWidth);
@@ -191,7 +191,7 @@ QWidget* BottomPanel::AddOptions() {
     auto* row = new QHBoxLayout(both);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(kGroupGap);
-    row->addWidget(Group("Colour opacity", Row({colorOpacity_, opacityValue_})));
+    row->addWidget(Group("Color opacity", Row({colorOpacity_, opacityValue_})));
     row->addWidget(Group("Line width", Row({lineWidth_})));
     return both;
 }

@@ -127,7 +127,7 @@ void ClickMain(const WindowContext& context, int button) {
             commands.Run(OriginalSize);
             return;
         case main_buttons::Website:
-            return OpenLink(kWebsite);
+            return OpenLink(context, kWebsite);
         default:
             return;
     }

@@ -1,5 +1,6 @@
 #include "app/file_dialog.h"
 
+#include <QDir>
 #include <QFile>
 #include <QFileDialog>
 #include <QFileInfo>
@@ -7,6 +8,29 @@
 #include "app/settings.h"
 
 namespace orbelle::app {
+namespace {
+
+constexpr char kLastFolder[] = "LastFolder";
+
+// One title for all uses, also for saving (docs/oddities.md, "Open File...").
+class FileDialog : public QFileDialog {
+public:
+    FileDialog(QWidget* parent, const std::string& filter)
+        : QFileDialog(parent, "Open File...", Settings().value(kLastFolder).toString()) {
+        setOption(QFileDialog::HideNameFilterDetails);
+        setNameFilters(NameFilters(filter));
+    }
+
+    std::filesystem::path Ask() {
+        if (exec() != QDialog::Accepted || selectedFiles().isEmpty())
+            return {};
+        const QString file = selectedFiles().constFirst();
+        Settings().setValue(kLastFolder, QFileInfo(file).absolutePath());
+        return EncodedName(file);
+    }
+};
+
+}  // namespace
 
 QStringList NameFilters(const std::string& filter) {
     const QStringList parts = QString::fromStdString(filter).split('|');
@@ -22,21 +46,22 @@ std::string EncodedName(const QString& name) {
     return QFile::encodeName(name).toStdString();
 }
 
-std::filesystem::path AskForFile(QWidget* parent, const std::string& filter, bool isOpen) {
-    static constexpr char kLastFolder[] = "LastFolder";
-    Settings settings;
-    // One title for all uses, also for saving (docs/oddities.md, "Open File...").
-    QFileDialog dialog(parent, "Open File...", settings.value(kLastFolder).toString());
-    dialog.setAcceptMode(isOpen ? QFileDialog::AcceptOpen : QFileDialog::AcceptSave);
-    dialog.setFileMode(isOpen ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
+std::filesystem::path AskForFile(QWidget* parent, const std::string& filter) {
+    FileDialog dialog(parent, filter);
+    dialog.setFileMode(QFileDialog::ExistingFile);
+    return dialog.Ask();
+}
+
+std::filesystem::path AskForFileToWrite(QWidget* parent, const std::string& filter,
+                                        const std::filesystem::path& proposed) {
+    FileDialog dialog(parent, filter);
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setOption(QFileDialog::DontConfirmOverwrite);
-    dialog.setOption(QFileDialog::HideNameFilterDetails);
-    dialog.setNameFilters(NameFilters(filter));
-    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
-        return {};
-    const QString file = dialog.selectedFiles().constFirst();
-    settings.setValue(kLastFolder, QFileInfo(file).absolutePath());
-    return EncodedName(file);
+    const QFileInfo file(QFile::decodeName(proposed.string().c_str()));
+    if (proposed.has_parent_path() && file.dir().exists())
+        dialog.setDirectory(file.absolutePath());
+    dialog.selectFile(file.fileName());
+    return dialog.Ask();
 }
 
 }  // namespace orbelle::app

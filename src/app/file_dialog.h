@@ -15,8 +15,12 @@ QStringList NameFilters(const std::string& filter);
 // The name of a file, or a command line with one, as the system's own calls take it.
 std::string EncodedName(const QString& name);
 
-// Starts in the folder of the last file. Never asks before a file is overwritten and appends no
-// extension: both are the editor's. Empty: cancelled.
-std::filesystem::path AskForFile(QWidget* parent, const std::string& filter, bool isOpen);
+// Starts in the folder of the last file. Empty: cancelled.
+std::filesystem::path AskForFile(QWidget* parent, const std::string& filter);
+
+// Starts with the proposed name, in its folder if it has one that is there. Never asks before a
+// file is overwritten and appends no extension: both are the editor's. Empty: cancelled.
+std::filesystem::path AskForFileToWrite(QWidget* parent, const std::string& filter,
+                                        const std::filesystem::path& proposed);
 
 }  // namespace orbelle::app

@@ -235,22 +235,17 @@ std::vector<Entry> ToolEntries() {
 
 std::vector<Entry> HelpEntries() {
     const auto link = [](const char* name, const char* caption, const QString& address) {
-        return Entry{.Name = name, .Caption = caption, .Run = [address](const WindowContext&) {
-                         OpenLink(address);
-                     }};
+        return Entry{
+            .Name = name, .Caption = caption, .Run = [address](const WindowContext& context) {
+                OpenLink(context, address);
+            }};
     };
     return {
         {.Name = kTipsName,
          .Caption = "&Tips",
          .Run = [](const WindowContext& context) { context.Window.ToggleTips(); },
          .Checks = true},
-        {.Name = "Samples",
-         .Caption = "&Samples",
-         .Run =
-             [](const WindowContext& context) {
-                 if (!OpenSamples())
-                     context.User.ShowStatus("The folder of samples is not there.");
-             }},
+        {.Name = "Samples", .Caption = "&Samples", .Run = OpenSamples},
         link("DownloadSampleIcons", "&Free Download Sample Icons...", kSampleIcons),
         link("DownloadIcons", "&Download Over 20,000 Professional Icons...", kMoreIcons),
         {},

@@ -85,16 +85,19 @@ public:
     void Changed(const editing::Changes& changes) override;
 
     void ShowMessage(const std::string& text) override;
+    void ShowAddress(const std::string& text, const std::string& address) override;
     void ShowStatus(const std::string& text) override;
     bool GoOn(int done, int count) override;
     SavePromptAnswer AskSave() override;
     bool Confirm(const std::string& text, const std::string& title) override;
     std::optional<PageSize> AskPageSize() override;
-    std::filesystem::path AskFile(const std::string& filter, bool isOpen) override;
+    std::filesystem::path AskFile(const std::string& filter) override;
+    std::filesystem::path AskFileToWrite(const std::string& filter,
+                                         const std::filesystem::path& proposed) override;
     std::optional<int> AskGifThreshold(const graphics::Bitmap& surface) override;
     std::optional<int> ChooseIconImage(
         const std::vector<formats::IconEntryImage>& offered) override;
-    std::optional<graphics::Argb> AskColor(graphics::Argb initial) override;
+    std::optional<graphics::Argb> AskColor(const ColorQuestion& question) override;
 
     void Put(const graphics::Bitmap& picture, const std::string& text) override;
     bool HasPicture() override;

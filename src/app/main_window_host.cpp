@@ -1,7 +1,6 @@
 // What the editor tells the main window, and what is asked of the user.
 #include "app/main_window.h"
 
-#include <QColorDialog>
 #include <QGuiApplication>
 #include <QProgressDialog>
 #include <QScrollBar>
@@ -10,6 +9,7 @@
 #include <algorithm>
 
 #include "app/bottom_panel.h"
+#include "app/color_dialog.h"
 #include "app/file_dialog.h"
 #include "app/gif_optimizer_dialog.h"
 #include "app/icon_images_dialog.h"
@@ -96,6 +96,10 @@ void MainWindow::ShowMessage(const std::string& text) {
     ShowPlainMessage(this, text);
 }
 
+void MainWindow::ShowAddress(const std::string& text, const std::string& address) {
+    ShowMessageToCopy(this, text, address);
+}
+
 void MainWindow::ShowStatus(const std::string& text) {
     statusBar()->showMessage(QString::fromStdString(text), kStatusMilliseconds);
 }
@@ -133,8 +137,13 @@ std::optional<PageSize> MainWindow::AskPageSize() {
     return page.Size();
 }
 
-std::filesystem::path MainWindow::AskFile(const std::string& filter, bool isOpen) {
-    return AskForFile(this, filter, isOpen);
+std::filesystem::path MainWindow::AskFile(const std::string& filter) {
+    return AskForFile(this, filter);
+}
+
+std::filesystem::path MainWindow::AskFileToWrite(const std::string& filter,
+                                                 const std::filesystem::path& proposed) {
+    return AskForFileToWrite(this, filter, proposed);
 }
 
 std::optional<int> MainWindow::AskGifThreshold(const graphics::Bitmap& surface) {
@@ -152,11 +161,11 @@ std::optional<int> MainWindow::ChooseIconImage(
     return dialog.SelectedIndex();
 }
 
-std::optional<graphics::Argb> MainWindow::AskColor(graphics::Argb initial) {
-    const QColor color = QColorDialog::getColor(QColor::fromRgb(initial), this);
-    if (!color.isValid())
+std::optional<graphics::Argb> MainWindow::AskColor(const ColorQuestion& question) {
+    ColorDialog dialog(question, this);
+    if (dialog.exec() != QDialog::Accepted)
         return std::nullopt;
-    return color.rgb();
+    return dialog.Color();
 }
 
 void MainWindow::Put(const graphics::Bitmap& picture, const std::string& text) {

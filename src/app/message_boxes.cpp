@@ -1,6 +1,9 @@
 #include "app/message_boxes.h"
 
+#include <QClipboard>
+#include <QGuiApplication>
 #include <QMessageBox>
+#include <QPushButton>
 
 #include "editing/editor.h"
 
@@ -21,6 +24,19 @@ int Show(QWidget* parent, QMessageBox::Icon icon, const QString& title, const st
 void ShowPlainMessage(QWidget* parent, const std::string& text) {
     Show(parent, QMessageBox::NoIcon, editing::kProductName, text, QMessageBox::Ok,
          QMessageBox::Ok);
+}
+
+void ShowMessageToCopy(QWidget* parent, const std::string& text, const std::string& address) {
+    QMessageBox box(QMessageBox::NoIcon, editing::kProductName, QString::fromStdString(text),
+                    QMessageBox::Ok, parent);
+    box.setTextFormat(Qt::PlainText);
+    box.setTextInteractionFlags(Qt::TextSelectableByMouse);
+    const QPushButton* copy = box.addButton("&Copy", QMessageBox::ActionRole);
+    box.setDefaultButton(QMessageBox::Ok);
+    box.setEscapeButton(QMessageBox::Ok);
+    box.exec();
+    if (box.clickedButton() == copy)
+        QGuiApplication::clipboard()->setText(QString::fromStdString(address));
 }
 
 bool AskOkCancel(QWidget* parent, const std::string& text, const std::string& title) {

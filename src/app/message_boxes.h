@@ -10,6 +10,9 @@ namespace orbelle::app {
 // A text and an OK button; no icon.
 void ShowPlainMessage(QWidget* parent, const std::string& text);
 
+// The same with a button that takes `address`, which the text tells, to the clipboard.
+void ShowMessageToCopy(QWidget* parent, const std::string& text, const std::string& address);
+
 // OK and Cancel with the information icon, Cancel the default; true: OK.
 bool AskOkCancel(QWidget* parent, const std::string& text, const std::string& title);
 

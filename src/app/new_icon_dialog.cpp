@@ -1,8 +1,10 @@
 #include "app/new_icon_dialog.h"
 
+#include <QButtonGroup>
 #include <QDialogButtonBox>
 #include <QGridLayout>
 #include <QLabel>
+#include <QToolButton>
 #include <QVBoxLayout>
 
 #include "app/message_boxes.h"
@@ -15,6 +17,7 @@ namespace orbelle::app {
 namespace {
 
 constexpr int kSideWidth = 140;
+constexpr int kPresets[] = {16, 24, 32, 48, 64, 128, 256, 512};
 
 }  // namespace
 
@@ -32,6 +35,9 @@ NewIconDialog::NewIconDialog(QWidget* parent) : QDialog(parent) {
     pageWidth_ = AddSide(*rows, "PageWidth", "&Width:", kNewWidth);
     pageHeight_ = AddSide(*rows, "PageHeight", "&Height:", kNewHeight);
 
+    layout->addLayout(AddPresets());
+    ShowPreset();
+
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
     layout->addWidget(buttons);
     connect(buttons, &QDialogButtonBox::accepted, this, &NewIconDialog::accept);
@@ -45,14 +51,15 @@ PageSize NewIconDialog::Size() const {
 }
 
 void NewIconDialog::accept() {
-    const auto allowed = [](int side) { return side >= 1 && side <= document::kMaxPageSide; };
     pageWidth_->CommitTyping();
     pageHeight_->CommitTyping();
+    for (widgets::NumberSlider* side : {pageWidth_, pageHeight_})
+        if (side->Value() < 1 || side->Value() > document::kMaxPageSide) {
+            ShowPlainMessage(this, editing::kPageSizeMessage);
+            side->FocusNumber();
+            return;
+        }
     const PageSize size = Size();
-    if (!allowed(size.Width) || !allowed(size.Height)) {
-        ShowPlainMessage(this, editing::kPageSizeMessage);
-        return;
-    }
     Settings settings;
     settings.setValue(kNewWidth, size.Width);
     settings.setValue(kNewHeight, size.Height);
@@ -69,12 +76,45 @@ widgets::NumberSlider* NewIconDialog::AddSide(QGridLayout& rows, const char* nam
     side->SetRange(1, document::kMaxPageSide);
     side->SetValue(Settings().value(setting).toInt());
     side->setMinimumWidth(kSideWidth);
+    connect(side, &widgets::NumberSlider::Changed, this, &NewIconDialog::ShowPreset);
 
     const int row = rows.rowCount();
     rows.addWidget(label, row, 0);
     rows.addWidget(side, row, 1);
     rows.addWidget(new QLabel("px"), row, 2);
     return side;
+}
+
+// One stop for Tab; arrow keys go from one to the next.
+QLayout* NewIconDialog::AddPresets() {
+    auto* row = new QHBoxLayout;
+    row->setSpacing(2);
+    presets_ = new QButtonGroup(this);
+    for (const int side : kPresets) {
+        auto* button = new QToolButton;
+        button->setText(QString::number(side));
+        button->setAccessibleName(QString("%1 x %1").arg(side));
+        button->setToolTip(button->accessibleName());
+        button->setAutoRaise(true);
+        button->setCheckable(true);
+        button->setFocusPolicy(Qt::StrongFocus);
+        presets_->addButton(button, side);
+        row->addWidget(button);
+    }
+    connect(presets_, &QButtonGroup::idClicked, this, [this](int side) {
+        pageWidth_->SetValue(side);
+        pageHeight_->SetValue(side);
+    });
+    return row;
+}
+
+// The one that both sides have, if any.
+void NewIconDialog::ShowPreset() {
+    const PageSize size = Size();
+    presets_->setExclusive(false);
+    for (QAbstractButton* button : presets_->buttons())
+        button->setChecked(size.Width == size.Height && presets_->id(button) == size.Width);
+    presets_->setExclusive(true);
 }
 
 }  // namespace orbelle::app

@@ -5,6 +5,7 @@
 
 #include "app/user_questions.h"
 
+class QButtonGroup;
 class QGridLayout;
 
 namespace orbelle::widgets {
@@ -13,8 +14,9 @@ class NumberSlider;
 
 namespace orbelle::app {
 
-// Starts with the size chosen last, 0 x 0 on a first run. OK with a side outside 1 to 512 shows a
-// message and leaves the dialog open; otherwise it stores the size.
+// Starts with the size chosen last; one press takes one of the usual sizes. OK with a side outside
+// 1 to 512 shows a message and leaves the dialog open, with that side to be typed anew; otherwise
+// it stores the size.
 class NewIconDialog : public QDialog {
     Q_OBJECT
 
@@ -27,9 +29,12 @@ public:
 private:
     widgets::NumberSlider* AddSide(QGridLayout& rows, const char* name, const QString& caption,
                                    const char* setting);
+    QLayout* AddPresets();
+    void ShowPreset();
 
     widgets::NumberSlider* pageWidth_;
     widgets::NumberSlider* pageHeight_;
+    QButtonGroup* presets_;
 };
 
 }  // namespace orbelle::app

@@ -4,6 +4,7 @@
 #include <cctype>
 
 #include "app/recent_files.h"
+#include "app/written_text.h"
 #include "editing/document_commands.h"
 #include "editing/export_commands.h"
 
@@ -29,7 +30,8 @@ bool EndsWith(std::string_view name, std::string_view ending) {
 // Where the user wants a file to be, with its extension; empty: nowhere. A pipe would keep the
 // window waiting until somebody reads from it.
 fs::path AskWhereTo(const WindowContext& context, const char* filter) {
-    fs::path path = context.User.AskFile(filter, false);
+    fs::path path = context.User.AskFileToWrite(
+        filter, ProposedName(context.Commands.Editor().Document, filter));
     if (path.empty())
         return path;
     path = CompletedName(path, filter);
@@ -56,11 +58,37 @@ bool MayReplace(const WindowContext& context, const fs::path& path) {
                                 kWarning);
 }
 
+std::optional<std::uintmax_t> SizeOf(const fs::path& path) {
+    std::error_code unknown;
+    const std::uintmax_t bytes = fs::file_size(path, unknown);
+    return unknown ? std::nullopt : std::optional(bytes);
+}
+
 bool Write(const WindowContext& context, const fs::path& path) {
     if (!context.Commands.RunBusy([&](Editor& editor) { SaveTo(editor, path); }))
         return false;
     context.Recent.Note(path);
+    context.User.ShowStatus(SavedText(path, SizeOf(path)));
     return true;
+}
+
+std::string TextOfExport(const Editor& editor, const fs::path& path, const ExportEntry& entry) {
+    const int width = editor.Page().Width, height = editor.Page().Height;
+    const std::string_view caption = entry.Caption;
+    if (entry.Format != formats::ExportFormat::Ico)
+        return ExportedText(path, SizeOf(path), caption.substr(0, caption.find(' ')), width,
+                            height);
+    const std::vector<int>& sides = editor.ExportSettings.IconSizes;
+    return ExportedIconText(path, SizeOf(path),
+                            sides.empty() ? formats::IconSizesFor(width, height) : sides);
+}
+
+// "*.a;*.b" of a filter, and ".a" of these.
+std::string_view PatternsOf(std::string_view filter) {
+    return filter.substr(filter.find('|') + 1);
+}
+std::string_view FirstExtension(std::string_view patterns) {
+    return patterns.substr(0, patterns.find(';')).substr(1);
 }
 
 }  // namespace
@@ -93,8 +121,7 @@ void AskExport(const WindowContext& context, const ExportEntry& entry) {
         toExport.ExportSettings.GifThreshold = *threshold;
         ExportTo(toExport, path, entry.Format);
     });
-    if (report.Failed)
-        context.User.ShowStatus(report.Text);
+    context.User.ShowStatus(report.Failed ? report.Text : TextOfExport(editor, path, entry));
 }
 
 bool MayGiveUpDocument(const WindowContext& context) {
@@ -113,10 +140,17 @@ bool MayGiveUpDocument(const WindowContext& context) {
     return false;
 }
 
+fs::path ProposedName(const document::Document& document, std::string_view filter) {
+    const fs::path& origin = document.Path.empty() ? document.Source : document.Path;
+    std::error_code unknown;
+    fs::path proposed = origin.empty() ? "icon" : fs::absolute(origin, unknown).replace_extension();
+    return proposed += FirstExtension(PatternsOf(filter));
+}
+
 fs::path CompletedName(const fs::path& path, std::string_view filter) {
     const std::string name = path.filename().string();
-    std::string_view patterns = filter.substr(filter.find('|') + 1);
-    const std::string_view first = patterns.substr(0, patterns.find(';')).substr(1);
+    std::string_view patterns = PatternsOf(filter);
+    const std::string_view first = FirstExtension(patterns);
     while (!patterns.empty()) {
         const std::size_t end = std::min(patterns.find(';'), patterns.size());
         if (EndsWith(name, patterns.substr(1, end - 1)))

@@ -29,9 +29,9 @@ std::vector<Shortcut> WindowShortcuts() {
         {"Filled rectangle tool", {Qt::SHIFT | Qt::Key_R}, Tool(tool_buttons::FilledRectangle)},
         {"Ellipse tool", {Qt::Key_O}, Tool(tool_buttons::Ellipse)},
         {"Filled ellipse tool", {Qt::SHIFT | Qt::Key_O}, Tool(tool_buttons::FilledEllipse)},
-        {"Colour pick tool", {Qt::Key_I}, Tool(tool_buttons::ColorPick)},
+        {"Color pick tool", {Qt::Key_I}, Tool(tool_buttons::ColorPick)},
         {"Erase tool", {Qt::Key_E}, Tool(tool_buttons::Eraser)},
-        {"Exchange colours", {Qt::Key_X}, editing::ExchangeColor},
+        {"Exchange colors", {Qt::Key_X}, editing::ExchangeColor},
     };
 }
 

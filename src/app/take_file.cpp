@@ -11,7 +11,7 @@ namespace fs = std::filesystem;
 using editing::Editor;
 
 using TakeFile = void (*)(Editor&, const fs::path&, int iconImage);
-using TakePicture = void (*)(Editor&, const graphics::Bitmap&);
+using TakePicture = void (*)(Editor&, const graphics::Bitmap&, const fs::path& source);
 
 TakeResult Ended(Report report) {
     return {report.Failed ? TakeEnd::Failed : TakeEnd::Done, std::move(report.Text)};
@@ -27,7 +27,7 @@ TakeResult TakeIconImage(const WindowContext& context, const fs::path& path,
     if (!chosen || *chosen < 0 || *chosen >= static_cast<int>(offered.size()))
         return {TakeEnd::Cancelled, {}};
     const graphics::Bitmap& picture = offered[static_cast<std::size_t>(*chosen)].Image;
-    return Ended(context.Commands.Try([&](Editor& editor) { takePicture(editor, picture); }));
+    return Ended(context.Commands.Try([&](Editor& editor) { takePicture(editor, picture, path); }));
 }
 
 TakeResult Take(const WindowContext& context, const fs::path& path, TakeFile takeFile,

@@ -19,11 +19,20 @@ struct PageSize {
     int Height = 0;
 };
 
+struct ColorQuestion {
+    const char* Title = "";
+    graphics::Argb Old = 0;    // what is there, shown beside the choice
+    graphics::Argb Start = 0;  // what the dialog begins with
+    bool HasAlpha = false;     // else colours are opaque
+};
+
 class UserQuestions {
 public:
     // A plain message box with one button.
     virtual void ShowMessage(const std::string& text) = 0;
-    // A failure told in the status line, without a box.
+    // The same about an address or a path, which the user may want to copy.
+    virtual void ShowAddress(const std::string& text, const std::string& address) = 0;
+    // Told in the status line, without a box, until the next command.
     virtual void ShowStatus(const std::string& text) = 0;
 
     // How far a long run over files has come; after a while a dialog shows it. The run ends with
@@ -36,16 +45,19 @@ public:
     virtual bool Confirm(const std::string& text, const std::string& title) = 0;
     // The New dialog. No value: cancelled. The window remembers the last size.
     virtual std::optional<PageSize> AskPageSize() = 0;
-    // A file dialog with a filter of "text|patterns|text|patterns..."; empty: cancelled.
-    virtual std::filesystem::path AskFile(const std::string& filter, bool isOpen) = 0;
+    // A file dialog with a filter of "text|patterns|text|patterns..."; empty: cancelled. To read,
+    // or to write, which begins with a name, in a folder if it has one.
+    virtual std::filesystem::path AskFile(const std::string& filter) = 0;
+    virtual std::filesystem::path AskFileToWrite(const std::string& filter,
+                                                 const std::filesystem::path& proposed) = 0;
     // At which alpha (0 to 200) a pixel of the surface counts as opaque in a GIF. No value:
     // cancelled.
     virtual std::optional<int> AskGifThreshold(const graphics::Bitmap& surface) = 0;
     // Which image of an icon file to take, as its place among those offered. No value: cancelled.
     virtual std::optional<int> ChooseIconImage(
         const std::vector<formats::IconEntryImage>& offered) = 0;
-    // The colour dialog; no value: cancelled. The alpha of both means nothing.
-    virtual std::optional<graphics::Argb> AskColor(graphics::Argb initial) = 0;
+    // The colour dialog; no value: cancelled.
+    virtual std::optional<graphics::Argb> AskColor(const ColorQuestion& question) = 0;
 
 protected:
     ~UserQuestions() = default;

@@ -13,6 +13,7 @@ struct Document {
     Page Master;                    // what every size of the icon is made from
     graphics::Argb Background = 0;  // of all pages; 0: transparent
     std::filesystem::path Path;     // of the .volf file; empty until saved or opened
+    std::filesystem::path Source;   // of the picture that it was made from; empty for others
     graphics::FileStamp Stamp;      // of that file when it was read or written
     bool Modified = false;
 

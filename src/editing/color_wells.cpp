@@ -14,16 +14,20 @@ Argb& WellColor(Editor& editor, int well) {
     return editor.Tools.Colors[static_cast<std::size_t>(well)];
 }
 
-unsigned AlphaOfOpacity(const Editor& editor) {
-    return static_cast<unsigned>(
-        graphics::RoundToEven(editor.Sliders.ColorOpacity.Value * kAlphaPerPercent));
+// In percent.
+int OpacityOf(Argb color) {
+    return graphics::RoundToEven(graphics::AlphaOf(color) / kAlphaPerPercent);
+}
+
+Argb WithOpacity(Argb color, int opacity) {
+    return graphics::SetAlphaByte(
+        color, static_cast<unsigned>(graphics::RoundToEven(opacity * kAlphaPerPercent)));
 }
 
 }  // namespace
 
 void ShowColorOpacity(Editor& editor) {
-    const unsigned alpha = graphics::AlphaOf(WellColor(editor, editor.Tools.ActiveColor));
-    editor.Sliders.ColorOpacity.Value = graphics::RoundToEven(alpha / kAlphaPerPercent);
+    editor.Sliders.ColorOpacity.Value = OpacityOf(WellColor(editor, editor.Tools.ActiveColor));
 }
 
 void UseColorWell(Editor& editor, int well) {
@@ -31,11 +35,14 @@ void UseColorWell(Editor& editor, int well) {
     ShowColorOpacity(editor);
 }
 
+Argb ColorToChoose(Argb present) {
+    const int opacity = OpacityOf(present);
+    return WithOpacity(present, opacity == 0 ? Sliders().ColorOpacity.Maximum : opacity);
+}
+
 void ChooseWellColor(Editor& editor, int well, Argb color) {
+    WellColor(editor, well) = color;
     UseColorWell(editor, well);
-    if (editor.Sliders.ColorOpacity.Value == 0)
-        editor.Sliders.ColorOpacity.Value = editor.Sliders.ColorOpacity.Maximum;
-    WellColor(editor, well) = graphics::SetAlphaByte(color, AlphaOfOpacity(editor));
 }
 
 void SetWellColor(Editor& editor, int well, Argb color) {
@@ -46,7 +53,7 @@ void SetWellColor(Editor& editor, int well, Argb color) {
 void ChangeColorOpacity(Editor& editor, int value) {
     editor.Sliders.ColorOpacity.Value = value;
     Argb& color = WellColor(editor, editor.Tools.ActiveColor);
-    color = graphics::SetAlphaByte(color, AlphaOfOpacity(editor));
+    color = WithOpacity(color, value);
 }
 
 void ExchangeColor(Editor& editor) {

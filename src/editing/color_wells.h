@@ -8,8 +8,11 @@ namespace orbelle::editing {
 // A click: the well is in use.
 void UseColorWell(Editor& editor, int well);
 
-// A colour from the colour dialog, in the well's own opacity, or opaque where that is 0. The well
-// is in use.
+// What the colour dialog begins with for a well's colour: that, in the opacity of whole percents
+// that the slider shows for it, or opaque where that is 0.
+graphics::Argb ColorToChoose(graphics::Argb present);
+
+// A colour with its alpha from the colour dialog. The well is in use.
 void ChooseWellColor(Editor& editor, int well, graphics::Argb color);
 
 // Puts a colour with its alpha into a well.

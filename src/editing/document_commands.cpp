@@ -96,6 +96,7 @@ void ResetDocument(Editor& editor, int pageWidth, int pageHeight) {
     ClearStack(editor);
     SetTitle(editor, TitleOf({}));
     editor.Document.Path.clear();
+    editor.Document.Source.clear();
     editor.Document.Stamp = {};
     editor.Page().Width = pageWidth;
     editor.Page().Height = pageHeight;
@@ -203,7 +204,7 @@ void OpenFile(Editor& editor, const fs::path& path, int iconImage) {
     if (kind == FileKind::Document)
         OpenDocument(editor, path);
     else
-        OpenPicture(editor, ReadPicture(path, kind, iconImage, graphics::kMaxBitmapPixels));
+        OpenPicture(editor, ReadPicture(path, kind, iconImage, graphics::kMaxBitmapPixels), path);
 }
 
 void ImportFile(Editor& editor, const fs::path& path, int iconImage) {
@@ -211,17 +212,18 @@ void ImportFile(Editor& editor, const fs::path& path, int iconImage) {
     if (kind == FileKind::Document)
         OpenDocument(editor, path);
     else
-        ImportPicture(editor, ReadPicture(path, kind, iconImage, RoomForImport(editor)));
+        ImportPicture(editor, ReadPicture(path, kind, iconImage, RoomForImport(editor)), path);
 }
 
-void OpenPicture(Editor& editor, const graphics::Bitmap& picture) {
+void OpenPicture(Editor& editor, const graphics::Bitmap& picture, const fs::path& source) {
     ResetDocument(editor, picture.Width(), picture.Height());
+    editor.Document.Source = source;
     AddPictureLayer(editor, picture);
 }
 
-void ImportPicture(Editor& editor, const graphics::Bitmap& picture) {
+void ImportPicture(Editor& editor, const graphics::Bitmap& picture, const fs::path& source) {
     if (!editor.DocumentExists)
-        return OpenPicture(editor, picture);
+        return OpenPicture(editor, picture, source);
     BeginUndoStep(editor, steps::Import);
     AddPictureLayer(editor, picture);
 }

@@ -26,9 +26,11 @@ void OpenFile(Editor& editor, const std::filesystem::path& path, int iconImage =
 // document is opened.
 void ImportFile(Editor& editor, const std::filesystem::path& path, int iconImage = 0);
 
-// The same with a picture that has been read already.
-void OpenPicture(Editor& editor, const graphics::Bitmap& picture);
-void ImportPicture(Editor& editor, const graphics::Bitmap& picture);
+// The same with a picture that has been read already, from a file if it has a `source`.
+void OpenPicture(Editor& editor, const graphics::Bitmap& picture,
+                 const std::filesystem::path& source = {});
+void ImportPicture(Editor& editor, const graphics::Bitmap& picture,
+                   const std::filesystem::path& source = {});
 
 // A document that was kept safe takes the place of the present one. It counts as changed, and has
 // the path that it had.

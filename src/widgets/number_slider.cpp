@@ -169,6 +169,11 @@ void NumberSlider::TakeText() {
     emit Changed(number);
 }
 
+void NumberSlider::FocusNumber() {
+    field_->setFocus();
+    field_->selectAll();
+}
+
 void NumberSlider::CommitTyping() {
     if (typing_ || stepping_)
         CommitText();

@@ -23,6 +23,8 @@ public:
     void SetValue(int value);
     // Whether each digit that is typed counts at once, as for a preview.
     void SetFollowsTyping(bool follows) { followsTyping_ = follows; }
+    // The keyboard goes to the number, all of it selected.
+    void FocusNumber();
     // Ends the typing of a number and a run of keys, as leaving the field does.
     void CommitTyping();
 

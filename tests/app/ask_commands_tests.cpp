@@ -7,6 +7,7 @@
 
 #include "app/import_files.h"
 #include "app/save_commands.h"
+#include "app/written_text.h"
 #include "desk.h"
 #include "editing/document_commands.h"
 #include "editing/layer_commands.h"
@@ -25,6 +26,7 @@ namespace fs = std::filesystem;
 using editing::Editor;
 using orbelle::testing::FilledPicture;
 using ::testing::ElementsAre;
+using ::testing::HasSubstr;
 using ::testing::IsEmpty;
 
 constexpr int kOldSide = 16, kNextSide = Desk::kNewSide;
@@ -167,8 +169,8 @@ TEST_F(AskCommandsTest, AnExportWritesOnlyWhatMayBeOverwrittenAndAsksForAThresho
         fs::copy(taken, completed);
     EXPECT_THAT(exportTo(taken, kGif), ElementsAre("write?", "overwrite?"));
     EXPECT_EQ(fs::file_size(takenGif), 3u);
-    EXPECT_THAT(exportTo(impossible, kPng), ElementsAre("write?", "status"))
-        << "no box, as a save has";
+    EXPECT_THAT(exportTo(impossible, kPng), ElementsAre("write?")) << "no box, as a save has";
+    EXPECT_THAT(desk.Status, HasSubstr(impossible.string()));
     desk.OverwriteAnswer = true;
     EXPECT_THAT(exportTo(taken, kPng), ElementsAre("write?", "overwrite?"));
     EXPECT_EQ(graphics::LoadImageFromFile(takenPng).Width(), kOldSide);
@@ -319,10 +321,111 @@ TEST_F(AskCommandsTest, ChosenColorsArriveAndACancelledWellIsInUseAllTheSame) {
     AskWellColor(desk.Context, 1);
     EXPECT_EQ(desk.State.Tools.ActiveColor, 1);
     EXPECT_EQ(desk.State.Tools.Colors[1], 0xFFFFFFFF);
-    desk.Color = 0x00204060;
-    AskWellColor(desk.Context, 0);
-    EXPECT_EQ(desk.State.Tools.ActiveColor, 0);
-    EXPECT_EQ(desk.State.Tools.Colors[0] & 0xFFFFFF, 0x204060u);
+    AskPageBackground(desk.Context);
+    EXPECT_FALSE(desk.Question.HasAlpha);
+}
+
+TEST_F(AskCommandsTest, AWellTakesTheAlphaThatWasChosenElseItKeepsItsOwn) {
+    const struct {
+        graphics::Argb Present, Start, Chosen, Result;
+        int Opacity;
+    } cases[] = {
+        {0xFF000000, 0xFF000000, 0xFF204060, 0xFF204060, 100},
+        {0x80102030, 0x7F102030, 0x7F204060, 0x7F204060, 50},
+        {0x80102030, 0x7F102030, 0x33204060, 0x33204060, 20},
+        {0x00102030, 0xFF102030, 0xFF204060, 0xFF204060, 100},  // nothing was said about alpha
+        {0x01102030, 0xFF102030, 0xFF204060, 0xFF204060, 100},
+        {0x00102030, 0xFF102030, 0x40204060, 0x40204060, 25},
+        {0xFF102030, 0xFF102030, 0x00204060, 0x00204060, 0},
+    };
+    Desk desk;
+    desk.State.Tools.Colors[1] = 0x4D010203;
+    for (const auto& [present, start, chosen, result, opacity] : cases) {
+        desk.State.Tools.ActiveColor = 1;
+        desk.State.Tools.Colors[0] = present;
+        desk.Color = chosen;
+        AskWellColor(desk.Context, 0);
+        EXPECT_EQ(desk.Question.Old, present);
+        EXPECT_EQ(desk.Question.Start, start);
+        EXPECT_TRUE(desk.Question.HasAlpha);
+        EXPECT_EQ(desk.State.Tools.ActiveColor, 0);
+        EXPECT_EQ(desk.State.Tools.Colors[0], result);
+        EXPECT_EQ(desk.State.Sliders.ColorOpacity.Value, opacity);
+        EXPECT_EQ(desk.State.Tools.Colors[1], 0x4D010203);
+    }
+}
+
+TEST_F(AskCommandsTest, AFileDialogBeginsWithTheNameOfTheDocumentOrOfItsPicture) {
+    Desk desk;
+    const auto proposed = [&](auto ask) {
+        ask();
+        return desk.Proposed;
+    };
+    const auto save = [&] { AskSaveAs(desk.Context); };
+    const auto exportPng = [&] { AskExport(desk.Context, kPng); };
+    Change(desk);
+    EXPECT_EQ(proposed(save), "icon.volf") << "in the folder of the last file";
+    EXPECT_EQ(proposed(exportPng), "icon.png");
+
+    const fs::path picture = folder / "glass.v2.png", icon = folder / "tile.ico";
+    const graphics::Bitmap red = FilledPicture(32, 32, 0xFFC02040);
+    graphics::WriteFile(picture, graphics::EncodePng(red));
+    graphics::WriteFile(icon, formats::EncodeIcon({&red, 1}, formats::IconFormat::Bmp));
+    desk.SaveAnswer = SavePromptAnswer::No;
+    desk.IconImage = 0;
+    desk.ToRead = picture;
+    AskImport(desk.Context);
+    EXPECT_EQ(proposed(save), "icon.volf") << "a layer gives no name";
+    AskOpen(desk.Context);
+    EXPECT_EQ(proposed(save), folder / "glass.v2.volf");
+    EXPECT_EQ(proposed(exportPng), picture);
+    desk.ToRead = icon;
+    AskOpen(desk.Context);
+    EXPECT_EQ(proposed(save), folder / "tile.volf");
+    desk.ToWrite = fresh;
+    AskSave(desk.Context);
+    EXPECT_EQ(proposed(exportPng), folder / "fresh.png");
+    AskNew(desk.Context);
+    EXPECT_EQ(proposed(save), "icon.volf");
+
+    Desk empty;
+    empty.ToRead = picture;
+    AskImport(empty.Context);
+    AskSaveAs(empty.Context);
+    EXPECT_EQ(empty.Proposed, folder / "glass.v2.volf") << "the import has made the page";
+}
+
+TEST_F(AskCommandsTest, TheStatusLineSaysWhatWasWrittenWhere) {
+    Desk desk;
+    Change(desk);
+    const std::string in = ", in " + folder.Path().string();
+    const auto size = [](const fs::path& path) { return SizeText(fs::file_size(path)); };
+    desk.ToWrite = fresh;
+    AskSave(desk.Context);
+    EXPECT_EQ(desk.Status, "Saved fresh.volf, " + size(fresh) + in);
+    desk.ToWrite = folder / "a.png";
+    AskExport(desk.Context, kPng);
+    EXPECT_EQ(desk.Status, "Exported a.png, PNG of 16 x 16 px, " + size(desk.ToWrite) + in);
+    desk.ToWrite = folder / "a.ico";
+    AskExport(desk.Context, kExportEntries[0]);
+    EXPECT_EQ(desk.Status, "Exported a.ico, ICO of 16 px, " + size(desk.ToWrite) + in);
+    desk.Run([](Editor& editor) { NewDocument(editor, 8, 15); });
+    desk.ToWrite = folder / "b.ico";
+    AskExport(desk.Context, kExportEntries[0]);
+    EXPECT_THAT(desk.Status, HasSubstr("Nothing was exported"));
+    EXPECT_FALSE(fs::exists(desk.ToWrite));
+}
+
+TEST(WrittenTextTest, SizesAreRoundedAndSidesListed) {
+    const std::pair<std::uintmax_t, const char*> sizes[] = {
+        {0, "0 bytes"},      {1, "1 byte"},          {1023, "1023 bytes"}, {1024, "1 KB"},
+        {1535, "1 KB"},      {1536, "2 KB"},         {1048063, "1023 KB"}, {1048064, "1.0 MB"},
+        {1468006, "1.4 MB"}, {99'614'720, "95.0 MB"}};
+    for (const auto& [bytes, text] : sizes)
+        EXPECT_EQ(SizeText(bytes), text);
+    EXPECT_EQ(ExportedIconText("/a/b.ico", 2048, {48, 32, 16}),
+              "Exported b.ico, ICO of 48, 32 and 16 px, 2 KB, in /a");
+    EXPECT_EQ(SavedText("b.volf", std::nullopt), "Saved b.volf");
 }
 
 }  // namespace

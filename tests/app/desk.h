@@ -29,14 +29,16 @@ public:
     std::optional<int> GifThreshold, IconImage;
     std::optional<graphics::Argb> Color;
     std::vector<std::string> Told;
-    std::string Message;  // the last
+    std::string Message, Status;  // the last
+    std::filesystem::path Proposed;
+    ColorQuestion Question;
 
     // "save? message"
     std::string AllTold() const {
         std::string all;
         for (const std::string& told : Told)
             all += (all.empty() ? "" : " ") + told;
-        return all;
+        return Status.empty() ? all : all + "status";
     }
 
     RecentFiles Recent;
@@ -62,7 +64,8 @@ public:
         Message = text;
     }
     bool GoOn(int done, int) override { return done < FilesAtMost; }
-    void ShowStatus(const std::string&) override { Told.emplace_back("status"); }
+    void ShowStatus(const std::string& text) override { Status = text; }
+    void ShowAddress(const std::string& text, const std::string&) override { ShowMessage(text); }
     SavePromptAnswer AskSave() override { return Answer("save?", SaveAnswer); }
     bool Confirm(const std::string& text, const std::string& title) override {
         EXPECT_EQ(title, "Warning");
@@ -73,8 +76,11 @@ public:
         return Answer("changed?", OverwriteAnswer);
     }
     std::optional<PageSize> AskPageSize() override { return PageSize{kNewSide, kNewSide}; }
-    std::filesystem::path AskFile(const std::string&, bool isOpen) override {
-        return isOpen ? Answer("read?", ToRead) : Answer("write?", ToWrite);
+    std::filesystem::path AskFile(const std::string&) override { return Answer("read?", ToRead); }
+    std::filesystem::path AskFileToWrite(const std::string&,
+                                         const std::filesystem::path& proposed) override {
+        Proposed = proposed;
+        return Answer("write?", ToWrite);
     }
     std::optional<int> AskGifThreshold(const graphics::Bitmap&) override {
         return Answer("threshold?", GifThreshold);
@@ -82,7 +88,10 @@ public:
     std::optional<int> ChooseIconImage(const std::vector<formats::IconEntryImage>&) override {
         return Answer("image?", IconImage);
     }
-    std::optional<graphics::Argb> AskColor(graphics::Argb) override { return Color; }
+    std::optional<graphics::Argb> AskColor(const ColorQuestion& question) override {
+        Question = question;
+        return Color;
+    }
 
     void Changed(const editing::Changes&) override {}
     void Put(const graphics::Bitmap&, const std::string&) override {}

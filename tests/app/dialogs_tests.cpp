@@ -9,6 +9,8 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QScreen>
+#include <QToolButton>
+#include <cctype>
 
 #include "app/color_well.h"
 #include "app/file_dialog.h"
@@ -29,7 +31,7 @@ namespace {
 using namespace orbelle::testing;
 
 TEST(ColorWellTest, MouseAndKeysClickAndDoubleClick) {
-    ColorWell well("Foreground colour");
+    ColorWell well("Foreground color");
     std::string told;
     QObject::connect(&well, &ColorWell::Clicked, [&] { told += 'c'; });
     QObject::connect(&well, &ColorWell::DoubleClicked, [&] { told += 'd'; });
@@ -42,7 +44,7 @@ TEST(ColorWellTest, MouseAndKeysClickAndDoubleClick) {
 }
 
 TEST(ColorWellTest, ShowsItsColorOnACheckerAndTheFocusAround) {
-    ColorWell well("Foreground colour");
+    ColorWell well("Foreground color");
     well.Show(0x800000FF, 2);
     well.show();
     const auto pixel = [&](int x, int y) { return well.grab().toImage().pixel(x, y); };
@@ -203,6 +205,57 @@ TEST(NewIconDialogTest, TakesSidesFrom1To512AndRemembersTheSizeChosenWithOk) {
     EXPECT_EQ(enter(1, 512, &QDialog::accept, true), std::pair(0, 0));
     EXPECT_EQ(enter(64, 64, &QDialog::reject, true), std::pair(1, 512));
     EXPECT_EQ(enter(64, 64, &QDialog::reject, true), std::pair(1, 512));
+}
+
+TEST(NewIconDialogTest, ASideOutOfRangeIsToBeTypedAnew) {
+    for (const char* name : {"PageWidth", "PageHeight"}) {
+        NewIconDialog page;
+        page.show();
+        page.activateWindow();
+        for (const char* side : {"PageWidth", "PageHeight"})
+            page.findChild<widgets::NumberSlider*>(side)->SetValue(16);
+        auto& wrong = *page.findChild<widgets::NumberSlider*>(name);
+        wrong.SetValue(513);
+        AnswerDialog<QMessageBox>([](QMessageBox& box) { box.accept(); });
+        page.accept();
+        auto& field = *wrong.findChild<QLineEdit*>();
+        EXPECT_EQ(page.focusWidget(), &field);
+        EXPECT_EQ(field.selectedText(), "513");
+        for (const char digit : {'4', 'e', '-', '8'})
+            Strike(field, Qt::Key(std::toupper(digit)), QString(digit));
+        page.accept();
+        EXPECT_EQ(page.result(), QDialog::Accepted);
+        EXPECT_EQ(wrong.Value(), 48) << "digits alone count";
+    }
+}
+
+TEST(NewIconDialogTest, APresetFillsBothSides) {
+    Settings().setValue("Width", 256);
+    Settings().setValue("Height", 256);
+    NewIconDialog page;
+    page.show();
+    page.activateWindow();
+    QStringList names;
+    QToolButton* pressed = nullptr;
+    for (auto* preset : page.findChildren<QToolButton*>()) {
+        names << preset->text();
+        if (preset->isChecked())
+            pressed = preset;
+    }
+    EXPECT_EQ(names.join(' '), "16 24 32 48 64 128 256 512");
+    ASSERT_TRUE(pressed);
+    EXPECT_EQ(pressed->accessibleName(), "256 x 256");
+    QApplication::processEvents();
+    pressed->setFocus(Qt::TabFocusReason);
+    Strike(*pressed, Qt::Key_Left);
+    EXPECT_EQ(page.Size().Width, 128);
+    EXPECT_EQ(page.Size().Height, 128);
+    EXPECT_FALSE(pressed->isChecked());
+    auto& width = *page.findChild<widgets::NumberSlider*>("PageWidth");
+    width.SetValue(17);
+    emit width.Changed(17);
+    for (const auto* preset : page.findChildren<QToolButton*>())
+        EXPECT_FALSE(preset->isChecked()) << "17 x 128";
 }
 
 TEST(MainWindowPlaceTest, IsWhollyOnTheScreen) {

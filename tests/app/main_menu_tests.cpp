@@ -1,15 +1,23 @@
 #include <gtest/gtest.h>
 
+#include <QAbstractButton>
 #include <QClipboard>
+#include <QDesktopServices>
 #include <QGuiApplication>
 #include <QImage>
 #include <QMenuBar>
+#include <QMessageBox>
+#include <QStatusBar>
+#include <QTextBrowser>
+#include <QUrl>
 #include <set>
 
 #include "app/main_window.h"
 #include "editing/document_commands.h"
 #include "editing/layer_commands.h"
 #include "editing/page_commands.h"
+#include "support/hands.h"
+#include "waiting.h"
 
 namespace orbelle::app {
 namespace {
@@ -148,6 +156,35 @@ TEST_F(MainMenuTest, UndoAndRedoSayWhatTheyWouldDo) {
     EXPECT_EQ(told(), "&Undo Crystal, &Redo Page Size; Undo Crystal, Redo Page Size");
     NewPage(16, 16, 0, 0);
     EXPECT_EQ(told(), "&Undo, &Redo; Undo, Redo");
+}
+
+TEST_F(MainMenuTest, LinksAndSamplesOpenOrSayWhatCouldNotBeOpened) {
+    const auto status = [this] { return window.statusBar()->currentMessage(); };
+    for (const char* name : {"WebsiteEntry", "DownloadSampleIcons", "DownloadIcons", "Samples"}) {
+        QTextBrowser opener;  // for browser and file manager, which are missing here
+        const bool isFolder = name == std::string_view("Samples");
+        const char* const scheme = isFolder ? "file" : "https";
+        QDesktopServices::setUrlHandler(scheme, &opener, "setSource");
+        Entry(name).trigger();
+        const QString address = opener.source().toString().section("file://", -1);
+        EXPECT_FALSE(address.isEmpty()) << name;
+        EXPECT_TRUE(status().endsWith(address)) << name;
+        QDesktopServices::unsetUrlHandler(scheme);
+
+        QString text;
+        orbelle::testing::AnswerDialog<QMessageBox>([&](QMessageBox& box) {
+            text = box.text();
+            for (QAbstractButton* button : box.buttons())
+                if (box.buttonRole(button) == QMessageBox::ActionRole)
+                    button->click();
+        });
+        Entry(name).trigger();
+        EXPECT_TRUE(text.endsWith('\n' + address)) << name << ": " << text.toStdString();
+        EXPECT_EQ(QGuiApplication::clipboard()->text(), address);
+        orbelle::testing::AnswerDialog<QMessageBox>(
+            [](QMessageBox& box) { orbelle::testing::Strike(box, Qt::Key_Escape); });
+        Entry(name).trigger();
+    }
 }
 
 TEST_F(MainMenuTest, EveryMnemonicIsUniqueInItsMenu) {

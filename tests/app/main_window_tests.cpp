@@ -4,6 +4,7 @@
 #include <QAction>
 #include <QFile>
 #include <QFileDialog>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QScreen>
@@ -11,6 +12,8 @@
 #include <QWindow>
 
 #include "app/bottom_panel.h"
+#include "app/color_dialog.h"
+#include "app/color_well.h"
 #include "app/new_icon_dialog.h"
 #include "app/save_prompt.h"
 #include "app/settings.h"
@@ -92,6 +95,24 @@ TEST_F(MainWindowTest, SavesUnderTheNameThatTheDialogGives) {
     EXPECT_TRUE(QFile::exists(path));
     EXPECT_EQ(window.windowHandle()->title(), "a[*].volf - Varnel Orbelle");
     EXPECT_EQ(Settings().value("LastFolder").toString().toStdString(), folder.Path().string());
+}
+
+TEST_F(MainWindowTest, AWellsKeysOpenTheColorDialog) {
+    auto& well = Part<ColorWell>("ForeColorOLE1");
+    const auto choose = [&](const char* color) {
+        AnswerDialog<ColorDialog>([color](ColorDialog& dialog) {
+            EXPECT_EQ(dialog.windowTitle(), "Background Color");
+            auto& text = *dialog.findChild<QLineEdit*>("ColorText");
+            for (const char* digit = color; *digit; ++digit)
+                Strike(text, Qt::Key(*digit), QString(*digit));
+            Strike(text, *color ? Qt::Key_Return : Qt::Key_Escape);
+        });
+        Strike(well, Qt::Key_Return);
+        return window.Editor().Tools.Colors[1];
+    };
+    EXPECT_EQ(choose("40FF0000"), 0x40FF0000);
+    EXPECT_EQ(choose(""), 0x40FF0000);
+    EXPECT_EQ(window.Editor().Tools.ActiveColor, 1);
 }
 
 TEST_F(MainWindowTest, TellsAFailureAndWhatACommandHasToSay) {

@@ -179,16 +179,16 @@ TEST_F(ToolPalette, OpacityIsAlphaInSteps) {
 TEST_F(ToolPalette, ChosenAndExchangedColours) {
     Do(UseColorWell, 1);
     Do(ChangeColorOpacity, 20);
-    Do(ChooseWellColor, 1, Argb{0xFF010203});
-    EXPECT_EQ(Tools().Colors[1], 0x33010203U);
-    Do(ChangeColorOpacity, 0);
-    Do(ChooseWellColor, 1, Argb{0xFF010203});  // chosen to be seen
-    EXPECT_EQ(Tools().Colors[1], 0xFF010203U);
-    EXPECT_EQ(editor.Sliders.ColorOpacity.Value, 100);
-    Do(ChangeColorOpacity, 40);
-    Do(SetWellColor, 0, Argb{0x33000000});
-    Do(ChooseWellColor, 0, Argb{0xFF040506});  // in its own opacity, and in use
+    const std::pair<Argb, Argb> toChoose[] = {
+        {0x33010203, 0x33010203}, {0x80010203, 0x7F010203},  // 50 %
+        {0x00010203, 0xFF010203}, {0x01010203, 0xFF010203},  // chosen to be seen
+        {0x02010203, 0x03010203}, {0xFF010203, 0xFF010203}};
+    for (const auto& [present, start] : toChoose)
+        EXPECT_EQ(ColorToChoose(present), start) << present;
+    Do(ChooseWellColor, 0, Argb{0x33040506});
     EXPECT_EQ(Tools().Colors[0], 0x33040506U);
+    EXPECT_EQ(Tools().ActiveColor, 0) << "in use";
+    EXPECT_EQ(editor.Sliders.ColorOpacity.Value, 20);
     Do(SetWellColor, 1, Argb{0x80FFFFFF});
     EXPECT_EQ(editor.Sliders.ColorOpacity.Value, 20);
     Do(ExchangeColor);

@@ -82,7 +82,7 @@ TEST_F(ViewCommands, BarsAppearForWhatDoesNotFitAndScrollInTenths) {
     Do(ResizeScene, 500, 200);
     EXPECT_THAT(bars(), ElementsAre(true, false));
     EXPECT_EQ(bar.Value, 12) << "as far along as before";
-    Do(OpenPicture, graphics::Bitmap(100, 600));
+    Do(OpenPicture, graphics::Bitmap(100, 600), "");
     EXPECT_THAT(bars(), ElementsAre(false, false)) << "the page begins small";
     while (editor.Zoom.IsAnimated)
         Do(TickZoomAnimation);
