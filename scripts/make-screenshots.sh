@@ -101,6 +101,12 @@ pictures_at() { # SCALE
     take new-icon
     xdotool key Escape
     focus 'Varnel Orbelle|ok-badge'
+    xdotool mousemove $(at 367 714) click --repeat 2 --delay 60 1
+    sleep 0.5
+    focus 'Foreground Color'
+    take color-dialog
+    xdotool key Escape
+    focus 'Varnel Orbelle|ok-badge'
     xdotool key v
     click 430 380
     xdotool key Right

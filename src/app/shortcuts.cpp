@@ -26,10 +26,10 @@ std::vector<Shortcut> WindowShortcuts() {
         {"Pencil tool", {Qt::Key_B}, Tool(tool_buttons::Pencil)},
         {"Line tool", {Qt::Key_L}, Tool(tool_buttons::Line)},
         {"Rectangle tool", {Qt::Key_R}, Tool(tool_buttons::Rectangle)},
-        {"Filled rectangle tool", {Qt::SHIFT | Qt::Key_R}, Tool(tool_buttons::FilledRectangle)},
+        {"Filled Rectangle tool", {Qt::SHIFT | Qt::Key_R}, Tool(tool_buttons::FilledRectangle)},
         {"Ellipse tool", {Qt::Key_O}, Tool(tool_buttons::Ellipse)},
-        {"Filled ellipse tool", {Qt::SHIFT | Qt::Key_O}, Tool(tool_buttons::FilledEllipse)},
-        {"Color pick tool", {Qt::Key_I}, Tool(tool_buttons::ColorPick)},
+        {"Filled Ellipse tool", {Qt::SHIFT | Qt::Key_O}, Tool(tool_buttons::FilledEllipse)},
+        {"Color Pick tool", {Qt::Key_I}, Tool(tool_buttons::ColorPick)},
         {"Erase tool", {Qt::Key_E}, Tool(tool_buttons::Eraser)},
         {"Exchange colors", {Qt::Key_X}, editing::ExchangeColor},
     };
