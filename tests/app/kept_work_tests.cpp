@@ -234,6 +234,7 @@ TEST_F(KeptWorkTest, AHandOverWaitsForDialogsMenusAndDrags) {
 }
 
 TEST_F(KeptWorkTest, AHandOverEndsTheWelcome) {
+    Remember();
     LayOut();
     Start(program, ORBELLE_PROGRAM, {});
     ASSERT_TRUE(WaitUntil([&] { return IsOpen("^Varnel Orbelle$"); }));
@@ -244,6 +245,7 @@ TEST_F(KeptWorkTest, AHandOverEndsTheWelcome) {
 }
 
 TEST_F(KeptWorkTest, OfStartsAtTheSameTimeOneHasAllFiles) {
+    Remember();
     LayOut();
     const QString other = Other();
     QProcess copies[4];

@@ -14,6 +14,7 @@
 #include "app/main_window.h"
 #include "app/scene_view.h"
 #include "app/settings.h"
+#include "editing/document_commands.h"
 #include "support/temporary_folder.h"
 #include "waiting.h"
 #include "widgets/button_bar.h"
@@ -137,13 +138,16 @@ protected:
     void KillDisplay() { display_->Kill(); }
 
     // What the program remembers: all panels open, opaque red and blue as colours.
-    void LayOut() {
+    void Remember() {
         const QString remembered =
             "MainLeft=20 MainTop=20 MainWidth=1100 MainHeight=760 isQuick=-1 CtlTitle1=-1 "
             "CtlTitle2=-1 CtlTitle3=-1 CtlTitle5=-1 CtlTitle6=-1 CtlScroll22=100 CtlScroll23=10 "
             "ForeColor0=255,255,0,0 ForeColor1=255,0,0,255";
         for (const QString& setting : remembered.split(' '))
             Settings().setValue(setting.section('=', 0, 0), setting.section('=', 1));
+    }
+    // Controls and scene are found where that puts them.
+    void LayOut() {
         // A window laid out like the program's tells where its controls are.
         twin_ = std::make_unique<MainWindow>();
         twin_->RestoreSettings();
@@ -154,6 +158,7 @@ protected:
     // Starts with a picture open, at 100 %. False: the picture did not appear. Its corners are to
     // have kPictureColor.
     bool StartWith(const QImage& picture = PictureOf(kPictureColor)) {
+        Remember();
         LayOut();
         StartProgram({Write("tile.png", picture)});
         const int expected = CountOf(picture, kPictureColor);
@@ -188,6 +193,17 @@ protected:
     }
     bool IsOpen(const QString& title) const {
         return !Xdotool({"search", "--onlyvisible", "--name", title}).isEmpty();
+    }
+    // The main window before there is a document; the welcome's, before it, has the same title.
+    bool FocusEmptyMain() {
+        const QString title = "^Varnel Orbelle$";
+        const QString size =
+            QString("%1x%2").arg(kDefaultMainSize.width()).arg(kDefaultMainSize.height());
+        return testing::WaitUntil([&] {
+                   return Xdotool({"search", "--onlyvisible", "--name", title, "getwindowgeometry"})
+                       .contains(size);
+               }) &&
+               FocusWindow(title);
     }
     bool FocusMain() { return FocusWindow("^Varnel Orbelle - Project|. - Varnel Orbelle$"); }
 
@@ -285,6 +301,18 @@ protected:
             return {};
         return picture.convertToFormat(QImage::Format_ARGB32);
     }
+
+    // Where the page's corner is once the program shows an empty page of that size, at 100 %.
+    QPoint PlaceOfNewPage(int side) {
+        twin_->Run([side](editing::Editor& editor) { NewDocument(editor, side, side); });
+        testing::WaitUntil([&] { return !twin_->IsZoomAnimationRunning(); });
+        const document::View& view = twin_->Editor().View;
+        const document::Page& shown = twin_->Editor().Page();
+        return SceneRect().topLeft() +
+               QPoint(document::PageOffsetX(shown, view), document::PageOffsetY(shown, view));
+    }
+    QImage Shown(const QRect& area) const { return display_->Picture().copy(area); }
+    QRgb At(QPoint place) const { return display_->Picture().pixel(place); }
 
     QPoint page;  // where the picture's first pixel is
     QProcess program;
