@@ -1,6 +1,7 @@
 // How long a hand on the window waits: from a mouse event until what it changed is painted. Drags a
-// layer, draws and moves sliders on a page of ten layers of 512 x 512. Settings are neither read
-// nor written. With the word "recovery" unsaved work is kept meanwhile, in the user's state folder.
+// layer, draws and moves sliders on a page of ten layers of 512 x 512, at 100 % and at 800 %.
+// Settings are neither read nor written. With the word "recovery" unsaved work is kept meanwhile,
+// in the user's state folder.
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QMouseEvent>
@@ -18,6 +19,7 @@
 #include "editing/document_commands.h"
 #include "editing/layer_commands.h"
 #include "editing/tool_palette.h"
+#include "editing/view_commands.h"
 #include "widgets/track_slider.h"
 
 namespace {
@@ -72,6 +74,30 @@ void Measure(const char* name, QWidget& widget, const QPointF& from,
                 times.back());
 }
 
+// On the bottom layer, which is selected.
+void MeasureHands(app::MainWindow& window) {
+    const auto choose = [&window](int button) {
+        window.Run([button](editing::Editor& editor) { ClickToolButton(editor, button); });
+    };
+    auto* scene = window.findChild<app::SceneView*>();
+    const QPointF middle = scene->rect().center();
+    const auto circle = [middle](int i) {
+        return middle + QPointF(i * 3 % 100 - 50, i * 7 % 90 - 45);
+    };
+    choose(editing::tool_buttons::Move);
+    Measure("drag a layer", *scene, middle, circle);
+    choose(editing::tool_buttons::FilledEllipse);
+    Measure("draw an ellipse", *scene, middle - QPointF(200, 200), circle);
+    for (widgets::TrackSlider* slider : window.findChildren<widgets::TrackSlider*>()) {
+        if (slider->accessibleName() != "Hue" && slider->accessibleName() != "Opacity")
+            continue;
+        slider->SetValue(50);
+        const QPointF thumb(slider->width() / 2.0, slider->height() / 2.0);
+        Measure(qPrintable(slider->accessibleName() + " slider"), *slider, thumb,
+                [thumb](int i) { return thumb + QPointF(i * 11 % 40 - 20, 0); });
+    }
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -89,30 +115,20 @@ int main(int argc, char** argv) {
     });
     while (window.IsZoomAnimationRunning())
         QApplication::processEvents(QEventLoop::WaitForMoreEvents);
-    auto* scene = window.findChild<app::SceneView*>();
-    const QPointF middle = scene->rect().center();
-    const auto circle = [middle](int i) {
-        return middle + QPointF(i * 3 % 100 - 50, i * 7 % 90 - 45);
-    };
-
     window.Run([](editing::Editor& editor) {
         for (std::size_t i = 1; i < editor.Page().Layers.size(); ++i)
             editor.Page().Layers[i].Region = graphics::Region::Empty();
-    });
-    Measure("drag a layer", *scene, middle, circle);
-    window.Run([](editing::Editor& editor) {
-        SelectLayer(editor, 0);
         editor.Tools.Colors = {0xFF3060C0, 0xFFF0D020};
-        ClickToolButton(editor, editing::tool_buttons::FilledEllipse);
         ChooseFill(editor, editing::FillKind::RadialGradient);
     });
-    Measure("draw an ellipse", *scene, middle - QPointF(200, 200), circle);
-    for (widgets::TrackSlider* slider : window.findChildren<widgets::TrackSlider*>()) {
-        if (slider->accessibleName() != "Hue" && slider->accessibleName() != "Opacity")
-            continue;
-        slider->SetValue(50);
-        const QPointF thumb(slider->width() / 2.0, slider->height() / 2.0);
-        Measure(qPrintable(slider->accessibleName() + " slider"), *slider, thumb,
-                [thumb](int i) { return thumb + QPointF(i * 11 % 40 - 20, 0); });
+    for (const double zoom : {1.0, 8.0}) {
+        std::printf("at %.0f %%\n", zoom * 100);
+        window.Run([zoom](editing::Editor& editor) {
+            editor.View.Zoom = zoom;
+            FitScrollBars(editor);
+            SelectLayer(editor, 0);
+            editor.Changed.Scene = true;
+        });
+        MeasureHands(window);
     }
 }
