@@ -169,7 +169,7 @@ graphics::Bitmap ReadPicture(const fs::path& path, FileKind kind, int iconImage,
 std::int64_t RoomForImport(const Editor& editor) {
     if (!editor.DocumentExists)
         return graphics::kMaxBitmapPixels;
-    return std::clamp<std::int64_t>(formats::kMaxDocumentPixels - formats::PixelsOf(editor.Page()),
+    return std::clamp<std::int64_t>(formats::kMaxDocumentPixels - formats::PixelsOf(editor.Document),
                                     0, graphics::kMaxBitmapPixels);
 }
 
