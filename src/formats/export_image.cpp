@@ -2,13 +2,13 @@
 
 #include <algorithm>
 #include <cctype>
-#include <cmath>
 #include <cstdlib>
 #include <exception>
 #include <string>
 #include <string_view>
 #include <utility>
 
+#include "filters/shrink_to_size.h"
 #include "graphics/codecs/image_files.h"
 #include "graphics/drawing_context.h"
 #include "graphics/errors.h"
@@ -94,15 +94,7 @@ std::vector<int> IconSizesFor(int pageWidth, int pageHeight) {
 }
 
 Bitmap DrawIconPicture(const Bitmap& page, int size) {
-    Bitmap square(size, size);
-    graphics::DrawingContext context(square);
-    context.SetInterpolationMode(graphics::InterpolationMode::HighQuality);
-    const graphics::SizeF box{static_cast<float>(size), static_cast<float>(size)};
-    const graphics::SizeF fitted =
-        FitIntoBox({static_cast<float>(page.Width()), static_cast<float>(page.Height())}, box);
-    const graphics::SizeF whole{std::nearbyint(fitted.Width), std::nearbyint(fitted.Height)};
-    context.DrawImageRect(page, CenterInBox(whole, box));
-    return square;
+    return filters::ShrinkToSize(page, size);
 }
 
 void ExportImage(const fs::path& path, ExportFormat format, const Bitmap& page, Argb pageBackground,
