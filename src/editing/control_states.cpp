@@ -133,7 +133,9 @@ void EnableSliders(EditorState& editor) {
     for (Slider* slider : {&sliders.Opacity, &sliders.Hue, &sliders.Saturation, &sliders.Brightness,
                            &sliders.Contrast, &sliders.Scale})
         slider->Enabled = editor.Page().HasSelection();
-    sliders.PageWidth.Enabled = sliders.PageHeight.Enabled = editor.DocumentExists;
+    // The artwork of a size keeps its size.
+    sliders.PageWidth.Enabled = sliders.PageHeight.Enabled =
+        editor.DocumentExists && editor.Document.EditedSize == document::Family::kMaster;
     sliders.BrushOpacity.Enabled = sliders.BrushSize.Enabled = true;
     const Tool tool = editor.Tools.InUse;
     sliders.LineWidth.Enabled =

@@ -73,8 +73,7 @@ void ResetView(Editor& editor) {
 }
 
 void ClearStack(Editor& editor) {
-    editor.Page().Layers.clear();
-    editor.Page().SelectedLayer = document::kNoLayer;
+    static_cast<document::Family&>(editor.Document) = {};
     editor.History.ClearHistory();
     editor.Selection.Clear();
     editor.PolygonPoints.clear();
@@ -169,8 +168,9 @@ graphics::Bitmap ReadPicture(const fs::path& path, FileKind kind, int iconImage,
 std::int64_t RoomForImport(const Editor& editor) {
     if (!editor.DocumentExists)
         return graphics::kMaxBitmapPixels;
-    return std::clamp<std::int64_t>(formats::kMaxDocumentPixels - formats::PixelsOf(editor.Document),
-                                    0, graphics::kMaxBitmapPixels);
+    return std::clamp<std::int64_t>(
+        formats::kMaxDocumentPixels - formats::PixelsOf(editor.Document), 0,
+        graphics::kMaxBitmapPixels);
 }
 
 }  // namespace

@@ -3,6 +3,8 @@
 namespace orbelle::editing {
 
 void ExportTo(Editor& editor, const std::filesystem::path& path, formats::ExportFormat format) {
+    if (format == formats::ExportFormat::Ico)
+        return ExportIcon(path, formats::Flatten(editor.Document, editor.Canvas), editor.ExportSettings);
     const graphics::Argb background = editor.Document.Background;
     formats::ExportSettings settings = editor.ExportSettings;
     if (graphics::AlphaOf(background) != 0)

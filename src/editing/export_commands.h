@@ -7,8 +7,9 @@
 
 namespace orbelle::editing {
 
-// Writes the composed page as a file of another kind, by Editor::ExportSettings; their GIF
-// threshold counts for pages without a background. Throws Error when nothing could be written.
+// Writes the page in force as a file of another kind, an icon from all pages, by
+// Editor::ExportSettings; their GIF threshold counts for pages without a background. Throws Error
+// when nothing could be written.
 void ExportTo(Editor& editor, const std::filesystem::path& path, formats::ExportFormat format);
 
 }  // namespace orbelle::editing

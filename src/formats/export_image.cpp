@@ -51,23 +51,6 @@ void LeaveInSizesFolder(const std::vector<Bitmap>& pictures) {
     }
 }
 
-void ExportIcon(const fs::path& path, const Bitmap& page, const ExportSettings& settings) {
-    const std::vector<int> sizes =
-        settings.IconSizes.empty() ? IconSizesFor(page.Width(), page.Height()) : settings.IconSizes;
-    if (sizes.empty())
-        return;
-    std::vector<Bitmap> pictures;
-    pictures.reserve(sizes.size());
-    for (int size : sizes)
-        pictures.push_back(DrawIconPicture(page, size));
-    graphics::WriteFile(path, EncodeIcon(pictures, settings.IconPictures));
-    try {
-        LeaveInSizesFolder(pictures);
-    } catch (const std::exception&) {
-        // Nobody needs these pictures, and the icon is written.
-    }
-}
-
 constexpr std::pair<std::string_view, ExportFormat> kExtensions[] = {
     {".ico", ExportFormat::Ico},  {".png", ExportFormat::Png},   {".gif", ExportFormat::Gif},
     {".jpg", ExportFormat::Jpeg}, {".jpeg", ExportFormat::Jpeg}, {".bmp", ExportFormat::Bmp},
@@ -108,7 +91,7 @@ void ExportImage(const fs::path& path, ExportFormat format, const Bitmap& page, 
         case ExportFormat::Bmp:
             return graphics::WriteFile(path, EncodeBmp(DrawOnPaper(pageBackground, page)));
         case ExportFormat::Ico:
-            return ExportIcon(path, page, settings);
+            return ExportIcon(path, {page, {}}, settings);
         case ExportFormat::Gif:
             // Only a background of exactly 0 makes a transparent entry; alpha 0 with other bits
             // does not (docs/oddities.md, "GIF backgrounds").
@@ -118,6 +101,26 @@ void ExportImage(const fs::path& path, ExportFormat format, const Bitmap& page, 
         case ExportFormat::Jpeg:
             return graphics::WriteFile(path,
                                        EncodeJpeg(DrawOnPaper(pageBackground, page), kJpegQuality));
+    }
+}
+
+void ExportIcon(const fs::path& path, const FlatFamily& family, const ExportSettings& settings) {
+    const std::vector<int> sizes = settings.IconSizes.empty()
+                                       ? IconSizesFor(family.Master.Width(), family.Master.Height())
+                                       : settings.IconSizes;
+    if (sizes.empty())
+        return;
+    std::vector<Bitmap> pictures;
+    pictures.reserve(sizes.size());
+    for (int size : sizes)
+        pictures.push_back(PictureForSize(family, size));
+    graphics::WriteFile(path, EncodeIcon(pictures, settings.IconPictures));
+    if (!settings.LeavesScratchPictures)
+        return;
+    try {
+        LeaveInSizesFolder(pictures);
+    } catch (const std::exception&) {
+        // Nobody needs these pictures, and the icon is written.
     }
 }
 

@@ -7,6 +7,7 @@
 
 #include "formats/gif_palette.h"
 #include "formats/icon_file.h"
+#include "formats/size_pictures.h"
 #include "graphics/bitmap.h"
 #include "graphics/color.h"
 
@@ -19,7 +20,9 @@ std::optional<ExportFormat> FindExportFormat(const std::filesystem::path& path);
 
 struct ExportSettings {
     std::vector<int> IconSizes;  // 1 to 256; empty: the product's own table
-    IconFormat IconPictures = IconFormat::Bmp;
+    IconFormat IconPictures = IconFormat::Png256;
+    // An icon's pictures are also left in SizesFolder() until the next export of one.
+    bool LeavesScratchPictures = false;
     // 0 to kMaxGifThreshold: pixels of a lower alpha become transparent in a GIF.
     int GifThreshold = kUsualGifThreshold;
 };
@@ -38,12 +41,16 @@ graphics::Bitmap DrawGifSurface(const graphics::Bitmap& page, graphics::Argb pag
 
 // Writes the composed page `page` to `path`. PNG, BMP, JPEG and GIF have the background under the
 // picture (0: transparent in PNG and GIF, white in the others), an icon never has. A page too small
-// for any icon size writes no file. The pictures of an icon are also left in SizesFolder() until
-// the next icon export; a failure to do so is no failure of the export. Throws graphics::FileError,
-// also for an empty page; std::invalid_argument for an icon size out of range.
+// for any icon size writes no file; a failure to leave scratch pictures is none of the export.
+// Throws graphics::FileError, also for an empty page; std::invalid_argument for an icon size out of
+// range.
 void ExportImage(const std::filesystem::path& path, ExportFormat format,
                  const graphics::Bitmap& page, graphics::Argb pageBackground,
                  const ExportSettings& settings = {});
+
+// The same of a whole family, as an icon.
+void ExportIcon(const std::filesystem::path& path, const FlatFamily& family,
+                const ExportSettings& settings = {});
 
 // The folder "Sizes" in the user's cache folder (XDG_CACHE_HOME, else ~/.cache; LOCALAPPDATA on
 // Windows); not made here. Empty when there is no such folder.
