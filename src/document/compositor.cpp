@@ -190,6 +190,17 @@ void Compositor::Compose(Page& page, graphics::InterpolationMode interpolation,
     isComplete_ = true;
 }
 
+bool LookAlike(const Page& page, const Page& other) {
+    return page.Width == other.Width && page.Height == other.Height &&
+           std::ranges::equal(
+               page.Layers, other.Layers, [](const IconLayer& a, const IconLayer& b) {
+                   return a.Image.SharesPixelsWith(b.Image) && a.Opacity == b.Opacity &&
+                          a.Rect == b.Rect && a.ImageWidth == b.ImageWidth &&
+                          a.ImageHeight == b.ImageHeight && a.Visible == b.Visible &&
+                          a.ClipNextLayer == b.ClipNextLayer;
+               });
+}
+
 graphics::Bitmap Flatten(Page page) {
     graphics::Bitmap canvas;
     Compositor().Compose(page, graphics::InterpolationMode::NearestNeighbor, canvas);

@@ -63,6 +63,10 @@ private:
     graphics::Bitmap belowPicture_;
 };
 
+// Whether two pages are sure to be flattened alike: told by what they are made of, without a look
+// at pixels.
+bool LookAlike(const Page& page, const Page& other);
+
 // The page as the editor shows it: composed with hard edges, without background.
 graphics::Bitmap Flatten(Page page);
 

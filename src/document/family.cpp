@@ -1,6 +1,7 @@
 #include "document/family.h"
 
 #include <algorithm>
+#include <iterator>
 #include <utility>
 
 namespace orbelle::document {
@@ -33,11 +34,26 @@ void Family::RemoveArtwork(int size) {
         EditedSize = kMaster;
 }
 
+std::optional<int> Family::Neighbour(int step) const {
+    std::vector<int> pages{kMaster};
+    for (auto page = Sizes.rbegin(); page != Sizes.rend(); ++page)
+        pages.push_back(page->Size);
+    const auto here = std::ranges::find(pages, EditedSize) - pages.begin();
+    const auto there = here + step;
+    if (there < 0 || there >= std::ssize(pages))
+        return std::nullopt;
+    return pages[static_cast<std::size_t>(there)];
+}
+
 std::vector<const Page*> Family::Pages() const {
     std::vector<const Page*> pages{&Master};
     for (const SizePage& page : Sizes)
         pages.push_back(&page.Artwork);
     return pages;
+}
+
+std::string NameOfSize(int size) {
+    return std::to_string(size) + " x " + std::to_string(size);
 }
 
 }  // namespace orbelle::document

@@ -1,6 +1,8 @@
 // The pages of an icon: the master, and one for each size that has artwork of its own.
 #pragma once
 
+#include <optional>
+#include <string>
 #include <vector>
 
 #include "document/page.h"
@@ -34,8 +36,15 @@ struct Family {
     // The master is in force then, if that page was.
     void RemoveArtwork(int size);
 
+    // What lies that many pages after the page in force (before it: negative), among the master and
+    // after it the sizes that have artwork, the largest first. None: there are not so many.
+    std::optional<int> Neighbour(int step) const;
+
     // All pages, the master first, then by rising size.
     std::vector<const Page*> Pages() const;
 };
+
+// "16 x 16"
+std::string NameOfSize(int size);
 
 }  // namespace orbelle::document

@@ -72,6 +72,9 @@ private:
         const double zoom = editor_.View.Zoom;
         Enable({CommandId::ChooseTool, CommandId::OriginalSize, CommandId::PageBackground},
                editor_.DocumentExists);
+        Enable({CommandId::NextSize}, editor_.Document.Neighbour(1).has_value());
+        Enable({CommandId::PreviousSize}, editor_.Document.Neighbour(-1).has_value());
+        Enable({CommandId::Master}, editor_.Document.EditedSize != document::Family::kMaster);
         Enable({CommandId::ZoomIn}, editor_.DocumentExists && zoom < editor_.Zoom.Maximum);
         Enable({CommandId::ZoomOut}, editor_.DocumentExists && zoom > editor_.Zoom.Minimum);
     }

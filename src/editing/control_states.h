@@ -57,6 +57,9 @@ enum class CommandId {
     ZoomIn,
     ZoomOut,
     OriginalSize,
+    NextSize,
+    PreviousSize,
+    Master,
     PageBackground,
     Count,
 };

@@ -9,6 +9,7 @@
 #include "editing/layer_commands.h"
 #include "editing/slider_positions.h"
 #include "editing/tips.h"
+#include "editing/title.h"
 #include "editing/undo_step.h"
 #include "editing/view_commands.h"
 #include "formats/document_limits.h"
@@ -23,18 +24,6 @@ namespace orbelle::editing {
 namespace fs = std::filesystem;
 
 namespace {
-
-void SetTitle(Editor& editor, std::string title) {
-    editor.Title = std::move(title);
-    editor.Changed.Title = true;
-}
-
-// A document without a path has no file yet.
-std::string TitleOf(const fs::path& path) {
-    if (path.empty())
-        return std::string(kProductName) + " - Project *";
-    return path.filename().string() + " - " + kProductName;
-}
 
 bool IsNamedAsDocument(const fs::path& path) {
     std::string extension = path.extension().string();
@@ -93,9 +82,9 @@ void ShowPageSize(Editor& editor) {
 // The state before anything is done with a page of this size, which has no layer.
 void ResetDocument(Editor& editor, int pageWidth, int pageHeight) {
     ClearStack(editor);
-    SetTitle(editor, TitleOf({}));
     editor.Document.Path.clear();
     editor.Document.Source.clear();
+    ShowTitle(editor);
     editor.Document.Stamp = {};
     editor.Page().Width = pageWidth;
     editor.Page().Height = pageHeight;
@@ -115,7 +104,7 @@ void ShowDocument(Editor& editor, document::Document&& document) {
     ClearStack(editor);
     editor.Document = std::move(document);
     editor.DocumentExists = true;
-    SetTitle(editor, TitleOf(editor.Document.Path));
+    ShowTitle(editor);
     ResetView(editor);
     ShowPageSize(editor);
     ShowSelectedLayer(editor);
@@ -238,13 +227,14 @@ void RestoreDocument(Editor& editor, const document::Document& document) {
 
 void SaveTo(Editor& editor, const fs::path& path) {
     fs::path saved = path;
-    std::string title = TitleOf(path);
+    std::string title = TitleOf(path, editor.Document.EditedSize);
     formats::SaveDocument(path, editor.Document);
     // Nothing may fail any more: the old file is gone.
     editor.Document.Path = std::move(saved);
     editor.Document.Stamp = graphics::StampOf(path);
     editor.Document.Modified = false;
-    SetTitle(editor, std::move(title));
+    editor.Title = std::move(title);
+    editor.Changed.Title = true;
 }
 
 }  // namespace orbelle::editing

@@ -6,14 +6,17 @@
 #include "document/layer_slots.h"
 #include "editing/page_commands.h"
 #include "editing/slider_positions.h"
+#include "editing/title.h"
 #include "editing/undo_step.h"
 #include "editing/view_commands.h"
+#include "filters/shrink_to_size.h"
 #include "graphics/errors.h"
 
 namespace orbelle::editing {
 namespace {
 
 using document::Family;
+using document::NameOfSize;
 
 // The view of the master comes back as it was left; small pages are seen as large as they fit.
 void ShowView(Editor& editor) {
@@ -46,8 +49,38 @@ document::Page PageOf(const graphics::Bitmap& picture) {
     return page;
 }
 
-std::string NameOfSize(int size) {
-    return std::to_string(size) + " x " + std::to_string(size);
+void RequireCanHaveArtwork(int size) {
+    if (size < document::kMinArtworkSize || size > document::kMaxArtworkSize)
+        throw Error("artwork of its own has a size of " +
+                    std::to_string(document::kMinArtworkSize) + " to " +
+                    std::to_string(document::kMaxArtworkSize));
+}
+
+// The flattened master, also while another page is in force.
+graphics::Bitmap FlatMaster(const Editor& editor) {
+    const document::Document& document = editor.Document;
+    return document.EditedSize == Family::kMaster ? editor.Canvas
+                                                  : document::Flatten(document.Master);
+}
+
+graphics::Bitmap PictureOfSize(const Editor& editor, int size) {
+    const document::Document& document = editor.Document;
+    const document::Page* artwork = document.ArtworkOf(size);
+    if (!artwork)
+        return filters::ShrinkToSize(FlatMaster(editor), size);
+    return document.EditedSize == size ? editor.Canvas : document::Flatten(*artwork);
+}
+
+// Each pixel a hard square, as even as the sizes allow.
+graphics::Bitmap Enlarged(const graphics::Bitmap& picture, int size) {
+    graphics::Bitmap enlarged(size, size);
+    for (int y = 0; y < size; ++y) {
+        const graphics::Argb* row = picture.Row(y * picture.Height() / size);
+        graphics::Argb* to = enlarged.MutableRow(y);
+        for (int x = 0; x < size; ++x)
+            to[x] = row[x * picture.Width() / size];
+    }
+    return enlarged;
 }
 
 }  // namespace
@@ -61,14 +94,8 @@ void GoToPage(Editor& editor, int size) {
 }
 
 void MakeArtwork(Editor& editor, int size, filters::SizeRecipe recipe) {
-    if (size < document::kMinArtworkSize || size > document::kMaxArtworkSize)
-        throw Error("artwork of its own has a size of " +
-                    std::to_string(document::kMinArtworkSize) + " to " +
-                    std::to_string(document::kMaxArtworkSize));
-    const bool isMaster = editor.Document.EditedSize == Family::kMaster;
-    const graphics::Bitmap master =
-        isMaster ? editor.Canvas : document::Flatten(editor.Document.Master);
-    document::Page page = PageOf(ApplyRecipe(recipe, master, size));
+    RequireCanHaveArtwork(size);
+    document::Page page = PageOf(ApplyRecipe(recipe, FlatMaster(editor), size));
     BeginUndoStepTo(editor, steps::DrawByHand, size);
     editor.Document.SetArtwork(size, std::move(page));
     BringInForce(editor, size);
@@ -89,6 +116,26 @@ void DropArtwork(Editor& editor, int size) {
     BringInForce(editor, Family::kMaster);
 }
 
+void CopyToSize(Editor& editor, int from, int to) {
+    RequireCanHaveArtwork(to);
+    if (from == to)
+        throw Error("a size can't be copied to itself");
+    const graphics::Bitmap picture = PictureOfSize(editor, from);
+    document::Page page =
+        PageOf(from < to ? Enlarged(picture, to) : filters::ShrinkToSize(picture, to));
+    BeginUndoStepTo(editor, steps::CopyToSize, to);
+    editor.Document.SetArtwork(to, std::move(page));
+    BringInForce(editor, to);
+}
+
+void GoToNextPage(Editor& editor) {
+    GoToPage(editor, editor.Document.Neighbour(1).value_or(editor.Document.EditedSize));
+}
+
+void GoToPreviousPage(Editor& editor) {
+    GoToPage(editor, editor.Document.Neighbour(-1).value_or(editor.Document.EditedSize));
+}
+
 void ShowPageInForce(Editor& editor) {
     editor.Selection.Clear();
     editor.PolygonPoints.clear();
@@ -97,7 +144,7 @@ void ShowPageInForce(Editor& editor) {
     ShowSizeOfPage(editor);
     ShowView(editor);
     NoteStack(editor.Changed);
-    editor.Changed.Title = true;
+    ShowTitle(editor);
 }
 
 }  // namespace orbelle::editing

@@ -21,6 +21,16 @@ void EditSize(Editor& editor, int size);
 // has no artwork.
 void DropArtwork(Editor& editor, int size);
 
+// An undo step: the picture that an export has for the size `from` becomes the only layer of `to`'s
+// artwork, whose page comes in force: shrunk as an export does, or enlarged with hard edges. Throws
+// Error for a size that can have none, and for the same one.
+void CopyToSize(Editor& editor, int from, int to);
+
+// The neighbour of the page in force among the master and the sizes that have artwork: the next
+// smaller size, the largest after the master. Nothing happens at the ends.
+void GoToNextPage(Editor& editor);
+void GoToPreviousPage(Editor& editor);
+
 // What shows the page in force follows it, after another one came in force.
 void ShowPageInForce(Editor& editor);
 

@@ -39,6 +39,7 @@ inline constexpr Name PageBackground = "Page Background";
 
 // The pages of sizes.
 inline constexpr Name DrawByHand = "Draw by Hand";
+inline constexpr Name CopyToSize = "Copy to Size";
 inline constexpr Name BackToMaster = "Back to Master's";
 
 // The Style menu.

@@ -18,12 +18,12 @@ protected:
     // A sign a topic, or one for each of its commands when they differ. The topics, in the order of
     // CommandId: Save, Save As, Export; Undo, Redo; Cut, Copy, Paste, Delete; Select All; Deselect,
     // Invert; Merge Down; flips and turns; Back One, Forward One, To Back, To Front; Set Order;
-    // Add, Remove, Hide; Disabled, Hot; the other styles; tools; Zoom In, Out; Original Size;
-    // background.
+    // Add, Remove, Hide; Disabled, Hot; the other styles; tools; Zoom In, Out; Original Size; Next
+    // Size, Previous Size, Master; background.
     std::string States() const {
         std::string text;
         int next = 0;
-        for (const int topic : {3, 2, 4, 1, 2, 1, 4, 4, 1, 3, 2, 12, 1, 2, 1, 1}) {
+        for (const int topic : {3, 2, 4, 1, 2, 1, 4, 4, 1, 3, 2, 12, 1, 2, 1, 3, 1}) {
             std::string signs;
             for (int i = 0; i < topic; ++i)
                 signs += editor.States.IsEnabled(static_cast<CommandId>(next++)) ? '+' : '-';
@@ -68,30 +68,30 @@ TEST_F(ControlStatesTest, FollowTheSituation) {
         std::function<void()> SetUp;
         const char* States;
     } rows[] = {
-        {"a picture to paste, no document", [&] { Copy(); }, "- - - - - - - - - - - - - - - -"},
-        {"a new one", [&] { NewStack(1, 0); }, "+ - ++-+ + - - + - - + + + + + + +"},
+        {"a picture to paste, no document", [&] { Copy(); }, "- - - - - - - - - - - - - - - - -"},
+        {"a new one", [&] { NewStack(1, 0); }, "+ - ++-+ + - - + - - + + + + + + - +"},
         {"and a picture to paste", [&] { NewStack(1, 0), Copy(); },
-         "+ - + + - - + - - + + + + + + +"},
+         "+ - + + - - + - - + + + + + + - +"},
         {"a selection", [&] { NewStack(1, 0), Do(SelectAll); },
-         "+ - ++-+ + + - + - - + + + + + + +"},
-        {"the top of two", [&] { NewStack(2, 1); }, "+ - ++-+ + - + + +-+- + + + + + + + +"},
-        {"the bottom of two", [&] { NewStack(2, 0); }, "+ - ++-+ + - - + -+-+ + + + + + + + +"},
-        {"the middle of three", [&] { NewStack(3, 1); }, "+ - ++-+ + - + + + + + + + + + + +"},
-        {"hidden", [&] { NewStack(3, 1), HideLayer(1); }, "+ - - + - - - - - + + - + + + +"},
+         "+ - ++-+ + + - + - - + + + + + + - +"},
+        {"the top of two", [&] { NewStack(2, 1); }, "+ - ++-+ + - + + +-+- + + + + + + + - +"},
+        {"the bottom of two", [&] { NewStack(2, 0); }, "+ - ++-+ + - - + -+-+ + + + + + + + - +"},
+        {"the middle of three", [&] { NewStack(3, 1); }, "+ - ++-+ + - + + + + + + + + + + - +"},
+        {"hidden", [&] { NewStack(3, 1), HideLayer(1); }, "+ - - + - - - - - + + - + + + - +"},
         {"over hidden", [&] { NewStack(2, 1), HideLayer(0); },
-         "+ - ++-+ + - + + +-+- + + + + + + + +"},
+         "+ - ++-+ + - + + +-+- + + + + + + + - +"},
         {"a plate", [&] { NewStack(2, 1), Layer(1).ClipNextLayer = true, Show(); },
-         "+ - - + - + - - + + + + + + + +"},
+         "+ - - + - + - - + + + + + + + - +"},
         {"under a plate", [&] { NewStack(2, 0), Layer(1).ClipNextLayer = true, Show(); },
-         "+ - ++-+ + - - + -+-+ + + + + + + + +"},
+         "+ - ++-+ + - - + -+-+ + + + + + + + - +"},
         {"none selected", [&] { NewStack(2, 1), SelectNone(); },
-         "+ - - + - - - - - +-- + - + + + +"},
+         "+ - - + - - - - - +-- + - + + + - +"},
         {"no layer", [&] { NewStack(1, 0), Do(DeleteLayer); },
-         "- +- - + - - - - - +-- - - + + + +"},
+         "- +- - + - - - - - +-- - - + + + - +"},
         {"undone", [&] { NewStack(1, 0), Do(PressAddLayer), Do(Undo); },
-         "+ -+ ++-+ + - - + - - + + + + + + +"},
+         "+ -+ ++-+ + - - + - - + + + + + + - +"},
         {"deleting undone", [&] { NewStack(2, 1), Do(DeleteLayer), Do(Undo); },
-         "+ -+ ++-+ + - + + +-+- + + + + + + + +"},
+         "+ -+ ++-+ + - + + +-+- + + + + + + + - +"},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.Situation);
