@@ -84,11 +84,12 @@ void ReadRows(DibBytes& bytes, const DibHeader& header, Argb* pixels, Convert co
 void ReadIndexRows(DibBytes& bytes, const DibHeader& header, Argb* pixels) {
     const std::vector<Argb> palette = ReadDibPalette(bytes, header);
     const unsigned bits = header.Bits;
-    const unsigned perByte = 8 / bits;
+    const int perByteLog = std::countr_zero(8 / bits);
+    const unsigned inByte = 8 / bits - 1;
     const unsigned mask = (1u << bits) - 1;
     ReadRows(bytes, header, pixels, [&](const std::uint8_t* from, Argb* to) {
         for (unsigned x = 0; x < header.Width; ++x)
-            to[x] = palette[from[x / perByte] >> (8 - bits - x % perByte * bits) & mask];
+            to[x] = palette[from[x >> perByteLog] >> (inByte - (x & inByte)) * bits & mask];
     });
 }
 
