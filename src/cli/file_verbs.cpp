@@ -103,7 +103,7 @@ constexpr Verb kVerbs[] = {
     {"open", "PATH", "a .volf document, or a picture that becomes the page", ReadPath<Open>},
     {"import", "PATH", "a picture as a new layer, or as the page when there is none",
      ReadPath<Import>},
-    {"icon-entry", "K", "the image (from 0) that the next open or import of an .ico takes",
+    {"icon-entry", "K", "the image (from 0) that the next open or import of an icon file takes",
      ReadIconEntry},
     {"save", "PATH", "write the document as a .volf file", ReadPath<Save>},
     {"export", "PATH", "write the page as .ico .png .gif .jpg .jpeg or .bmp", ReadExport},
