@@ -1,9 +1,9 @@
 // orbelle_measure LIST: how near the recipes for small sizes come to what designers drew.
 //
 // A line of LIST is SIZE, the file of the large picture and that of the drawn one, between tabs.
-// Likeness is the mean structural similarity (SSIM) of brightness (0.299 R + 0.587 G + 0.114 B) with
-// both pictures over mid grey (128), in all 7 x 7 windows that lie inside the picture, every pixel
-// of a window weighing the same, with the usual constants (0.01 x 255)^2 and (0.03 x 255)^2.
+// Likeness is the mean structural similarity (SSIM) of brightness (0.299 R + 0.587 G + 0.114 B)
+// with both pictures over mid grey (128), in all 7 x 7 windows that lie inside the picture, every
+// pixel of a window weighing the same, with the usual constants (0.01 x 255)^2 and (0.03 x 255)^2.
 #include <algorithm>
 #include <array>
 #include <cstdio>
@@ -119,7 +119,8 @@ void Measure(std::istream& list) {
         ++sum.Pictures;
         if (std::getenv("EACH")) {
             std::printf("%d", size);
-            for (double e : each) std::printf(" %.3f", e);
+            for (double e : each)
+                std::printf(" %.3f", e);
             std::printf(" %s\n", drawnFile.c_str());
         }
     }
