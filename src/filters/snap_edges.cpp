@@ -27,6 +27,7 @@ constexpr double kSoftness = 0.15;      // half the breadth over which an edge i
 constexpr double kEdgesApart = 0.5;     // of two closer edges the weaker one is no edge
 constexpr double kLeastStretch = 0.25;  // what may become a whole pixel
 constexpr double kMostMove = 0.75;
+constexpr double kThin = 2;
 constexpr double kGrowth = 0.49;  // by how much ends are nearer to the outer border
 
 // One axis of the picture: for each border between pixels, and both ends, how much changes there.
@@ -132,20 +133,26 @@ public:
         : ratio_(static_cast<double>(length) / size),
           snaps_{{0, 0}, {static_cast<double>(length), static_cast<double>(size)}} {}
 
-    // Moves a place to the border nearest to where it lies now, plus `bias`; if it can.
-    void Add(double place, double bias) {
-        const auto next = std::ranges::upper_bound(snaps_, place, {}, &Snap::From);
-        if (next == snaps_.begin() || next == snaps_.end())
+    // Moves a place to the border nearest to where it lies now, if it can.
+    void Add(double place) {
+        const auto next = Next(place);
+        if (next == snaps_.end())
             return;
-        const Snap before = *(next - 1), after = *next;
-        const double least = ratio_ * kLeastStretch;
-        if (place - before.From < least || after.From - place < least || after.To - before.To < 2)
-            return;
-        const double now =
-            before.To + (place - before.From) * (after.To - before.To) / (after.From - before.From);
-        const double to = std::clamp(std::nearbyint(now + bias), before.To + 1, after.To - 1);
-        if (std::abs(to - now) <= kMostMove + std::abs(bias))
-            snaps_.insert(next, {place, to});
+        const Snap &before = *(next - 1), &after = *next;
+        const double part = (place - before.From) / (after.From - before.From);
+        Move(place, before.To + part * (after.To - before.To), 0);
+    }
+
+    // Moves a stretch, before anything else, to the borders nearest to its ends, which first go
+    // outward by `growth`. A thin one keeps its breadth instead.
+    void AddStretch(double begin, double end, double growth) {
+        if (end - begin < ratio_ * kThin) {
+            Add(begin);
+            Add(end);
+        } else {
+            Move(begin, begin / ratio_, -growth);
+            Move(end, end / ratio_, growth);
+        }
     }
 
     // Where the borders of the small picture's pixels come from, both ends included.
@@ -162,6 +169,25 @@ public:
     }
 
 private:
+    // The first beyond a place that is less than the length.
+    std::vector<Snap>::iterator Next(double place) {
+        return std::ranges::upper_bound(snaps_, place, {}, &Snap::From);
+    }
+
+    // `now` is where the place lies in the small picture.
+    void Move(double place, double now, double bias) {
+        const auto next = Next(place);
+        if (next == snaps_.end())
+            return;
+        const Snap before = *(next - 1), after = *next;
+        const double least = ratio_ * kLeastStretch;
+        if (place - before.From < least || after.From - place < least || after.To - before.To < 2)
+            return;
+        const double to = std::clamp(std::nearbyint(now + bias), before.To + 1, after.To - 1);
+        if (std::abs(to - now) <= kMostMove + std::abs(bias))
+            snaps_.insert(next, {place, to});
+    }
+
     double ratio_;
     std::vector<Snap> snaps_;
 };
@@ -180,11 +206,10 @@ std::vector<Share> FindShares(const Profile& profile, int across, int bodyBegin,
     Snaps snaps(length, size);
     if (bodyBegin < bodyEnd) {
         const double growth = size < kGrowBelowSize ? kGrowth : 0;
-        snaps.Add(bodyBegin, -growth);
-        snaps.Add(bodyEnd, growth);
+        snaps.AddStretch(bodyBegin, bodyEnd, growth);
     }
     for (const Edge& edge : FindEdges(profile, across, static_cast<double>(length) / size))
-        snaps.Add(edge.Place, 0);
+        snaps.Add(edge.Place);
 
     const std::vector<double> borders = snaps.Borders();
     std::vector<Share> shares;
