@@ -1,5 +1,6 @@
 #include "app/close_tips_tab.h"
 
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPainter>

@@ -87,6 +87,11 @@ ColorDialog::ColorDialog(const ColorQuestion& question, QWidget* parent)
     text_->selectAll();
 }
 
+ColorDialog::~ColorDialog() {
+    // Fields end their typing when they lose the keys: while this still is a colour dialog.
+    hide();
+}
+
 QWidget* ColorDialog::AddStrips() {
     auto* strips = new QWidget;
     auto* row = new QHBoxLayout(strips);

@@ -27,6 +27,7 @@ class ColorDialog : public QDialog {
 
 public:
     explicit ColorDialog(const ColorQuestion& question, QWidget* parent = nullptr);
+    ~ColorDialog() override;
 
     graphics::Argb Color() const { return color_; }
     void accept() override;
