@@ -1,6 +1,8 @@
 // ORBELLE_READER is one of the readers of pictures.
 #include <cstddef>
 #include <cstdint>
+#include <cstdlib>
+#include <vector>
 
 #include "formats/icon_reader.h"
 #include "graphics/codecs/image_codecs.h"
@@ -11,8 +13,20 @@ namespace {
 
 using graphics::ByteSource;
 
-[[maybe_unused]] void DecodeOfferedIcons(const ByteSource& file, graphics::PixelBudget&) {
-    formats::OfferedEntries(formats::DecodeIcon(file));
+// What is good has pixels and the size that it tells, and stands in the file.
+[[maybe_unused]] void DecodeIconEntries(const ByteSource& file, graphics::PixelBudget&) {
+    const std::vector<formats::IconEntryImage> images = formats::DecodeIcon(file);
+    for (std::size_t i = 0; i < images.size(); ++i) {
+        const formats::IconEntryImage& image = images[i];
+        if (image.IsBad() != image.Image.IsEmpty() || image.IsBad() == image.Problem.empty())
+            std::abort();
+        if (!image.IsBad() &&
+            (image.Image.Width() != image.Width || image.Image.Height() != image.Height))
+            std::abort();
+        if (image.Format == formats::IconEntryFormat::Png &&
+            formats::EntryBytes(file, static_cast<int>(i)).size() < image.Bytes)
+            std::abort();
+    }
 }
 
 }  // namespace

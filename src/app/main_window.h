@@ -62,6 +62,7 @@ public:
 
     bool TipsEnabled() const { return tips_->TipsEnabled; }
     void SetTipsEnabled(bool enabled);
+    void ShowPixelGrid(bool shown);
 
     // From here on unsaved work is kept safe from an end that does not ask.
     void StartRecovery();
@@ -95,8 +96,8 @@ public:
     std::filesystem::path AskFileToWrite(const std::string& filter,
                                          const std::filesystem::path& proposed) override;
     std::optional<int> AskGifThreshold(const graphics::Bitmap& surface) override;
-    std::optional<int> ChooseIconImage(
-        const std::vector<formats::IconEntryImage>& offered) override;
+    std::optional<IconChoice> ChooseIconImages(const std::vector<formats::IconEntryImage>& offered,
+                                               const IconQuestion& question) override;
     std::optional<graphics::Argb> AskColor(const ColorQuestion& question) override;
 
     void Put(const graphics::Bitmap& picture, const std::string& text) override;
@@ -110,6 +111,7 @@ public:
     void Paste() override;
     void ToggleTips() override;
     void CloseTips() override;
+    void TogglePixelGrid() override;
     void ShowAbout() override;
     void ShowControls() override;
 

@@ -87,6 +87,15 @@ void MainWindow::ShowControls() {
     scene_->ShowCursor();
 }
 
+void MainWindow::ShowPixelGrid(bool shown) {
+    scene_->ShowPixelGrid(shown);
+    menu_->ShowPixelGridState(shown);
+}
+
+void MainWindow::TogglePixelGrid() {
+    ShowPixelGrid(!scene_->IsPixelGridShown());
+}
+
 void MainWindow::ShowTitle() {
     // Qt would take "[*]" in a file's name for its mark of a changed document.
     setWindowTitle(QString::fromStdString(editor_.Title).replace("[*]", "[*][*]"));
@@ -153,12 +162,12 @@ std::optional<int> MainWindow::AskGifThreshold(const graphics::Bitmap& surface) 
     return optimizer.OptimizeValue();
 }
 
-std::optional<int> MainWindow::ChooseIconImage(
-    const std::vector<formats::IconEntryImage>& offered) {
-    IconImagesDialog dialog(offered, this);
+std::optional<IconChoice> MainWindow::ChooseIconImages(
+    const std::vector<formats::IconEntryImage>& offered, const IconQuestion& question) {
+    IconImagesDialog dialog(offered, question, this);
     if (dialog.exec() != QDialog::Accepted)
         return std::nullopt;
-    return dialog.SelectedIndex();
+    return dialog.Choice();
 }
 
 std::optional<graphics::Argb> MainWindow::AskColor(const ColorQuestion& question) {

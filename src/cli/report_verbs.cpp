@@ -2,6 +2,7 @@
 #include <algorithm>
 
 #include "cli/document_json.h"
+#include "cli/icon_json.h"
 #include "cli/verb_table.h"
 #include "graphics/codecs/image_files.h"
 #include "graphics/file_io.h"
@@ -32,6 +33,11 @@ void WritePng(const graphics::Bitmap& image, const std::filesystem::path& path) 
 void Info(Workspace& workspace) {
     RequireDocument(workspace);
     workspace.Output << DescribeDocument(workspace.Editor) << '\n';
+    RequirePrinted(workspace.Output);
+}
+
+void Entries(Workspace& workspace, const std::filesystem::path& path) {
+    workspace.Output << DescribeEntries(formats::ReadIconFile(path)) << '\n';
     RequirePrinted(workspace.Output);
 }
 
@@ -74,6 +80,8 @@ void WriteScene(Workspace& workspace, const std::filesystem::path& path) {
 
 constexpr Verb kVerbs[] = {
     {"info", "", "print the document as one JSON object on one line", ReadNothing<Info>},
+    {"entries", "PATH", "print the images of an icon file as one JSON array on one line",
+     ReadPath<Entries>},
     {"region", "N", "print layer N's region: a line 'y x0 x1' for each run of pixels", ReadRegion},
     {"selection", "", "print the selection's region in the same form", ReadNothing<PrintSelection>},
     {"write-layer", "N PATH", "write layer N's own pixels as a PNG", ReadWriteLayer},

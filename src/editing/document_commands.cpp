@@ -13,6 +13,7 @@
 #include "editing/undo_step.h"
 #include "editing/view_commands.h"
 #include "formats/document_limits.h"
+#include "formats/icon_family.h"
 #include "formats/icon_reader.h"
 #include "formats/volf_reader.h"
 #include "formats/volf_store.h"
@@ -146,11 +147,15 @@ graphics::Bitmap ReadPicture(const fs::path& path, FileKind kind, int iconImage,
                              std::int64_t maxPixels) {
     if (kind == FileKind::Picture)
         return graphics::LoadImageFromFile(path, {maxPixels});
-    const std::vector<formats::IconEntryImage> offered = ReadIconImages(path);
-    if (iconImage < 0 || iconImage >= static_cast<int>(offered.size()))
-        throw Error("there is no image " + std::to_string(iconImage) + "; the icon offers " +
-                    std::to_string(offered.size()));
-    return offered[static_cast<std::size_t>(iconImage)].Image;
+    const std::vector<formats::IconEntryImage> images = formats::ReadIconFile(path);
+    if (iconImage < 0 || iconImage >= static_cast<int>(images.size()))
+        throw Error("there is no image " + std::to_string(iconImage) + "; the icon has " +
+                    std::to_string(images.size()));
+    const formats::IconEntryImage& image = images[static_cast<std::size_t>(iconImage)];
+    if (image.IsBad())
+        throw graphics::FileError(path,
+                                  "image " + std::to_string(iconImage) + ": " + image.Problem);
+    return image.Image;
 }
 
 // What an import may add. One that makes the page counts twice, and two of the largest fit.
@@ -173,11 +178,12 @@ bool IsIconFile(const fs::path& path) {
 }
 
 std::vector<formats::IconEntryImage> ReadIconImages(const fs::path& path) {
-    std::vector<formats::IconEntryImage> offered =
-        formats::OfferedEntries(formats::ReadIconFile(path));
-    if (offered.empty())
-        throw graphics::FileError(path, "the icon has no image of more than 8 bits a pixel");
-    return offered;
+    std::vector<formats::IconEntryImage> images = formats::ReadIconFile(path);
+    const std::string problem = images[0].Problem;
+    std::erase_if(images, [](const formats::IconEntryImage& image) { return image.IsBad(); });
+    if (images.empty())
+        throw graphics::FileError(path, "no image of the icon can be read: " + problem);
+    return images;
 }
 
 void NewDocument(Editor& editor, int pageWidth, int pageHeight) {
@@ -194,6 +200,16 @@ void OpenFile(Editor& editor, const fs::path& path, int iconImage) {
         OpenDocument(editor, path);
     else
         OpenPicture(editor, ReadPicture(path, kind, iconImage, graphics::kMaxBitmapPixels), path);
+}
+
+void OpenIconFamily(Editor& editor, const fs::path& path) {
+    if (KindOf(path) != FileKind::Icon)
+        return OpenFile(editor, path);
+    formats::IconFamily family = formats::LoadIconFamily(path);
+    ShowDocument(editor, std::move(family.Document));
+    editor.Changed.Tip = {tips::NewOrOpened};
+    if (!family.LeftOut.empty())
+        editor.Changed.Message = "left out: " + family.LeftOut;
 }
 
 void ImportFile(Editor& editor, const fs::path& path, int iconImage) {
@@ -215,6 +231,23 @@ void ImportPicture(Editor& editor, const graphics::Bitmap& picture, const fs::pa
         return OpenPicture(editor, picture, source);
     BeginUndoStep(editor, steps::Import);
     AddPictureLayer(editor, picture);
+}
+
+void ImportPictures(Editor& editor, std::vector<graphics::Bitmap> pictures,
+                    const fs::path& source) {
+    if (!editor.DocumentExists) {
+        const auto largest =
+            std::ranges::max_element(pictures, {}, [](const graphics::Bitmap& picture) {
+                return std::int64_t{picture.Width()} * picture.Height();
+            });
+        OpenPicture(editor, *largest, source);
+        pictures.erase(largest);
+    }
+    if (pictures.empty())
+        return;
+    BeginUndoStep(editor, steps::Import);
+    for (const graphics::Bitmap& picture : pictures)
+        AddPictureLayer(editor, picture);
 }
 
 void RestoreDocument(Editor& editor, const document::Document& document) {

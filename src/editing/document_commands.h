@@ -17,10 +17,16 @@ inline constexpr char kPageSizeMessage[] = "Please input a integer from 1 to 512
 void NewDocument(Editor& editor, int pageWidth, int pageHeight);
 
 // A document, or a picture that becomes the page, takes the place of the present document; the
-// file's first bytes tell which. Of an icon file it is the image `iconImage`, its place among those
-// offered. Throws Error when there is no such file or image. A damaged document opens with the
-// layers that could be read, as a changed one without a path, and leaves word in Changes::Message.
+// file's first bytes tell which. Of an icon file it is the image `iconImage`, its place in the
+// file, where bad images count. Throws Error when there is no such file or image, or it is bad. A
+// damaged document opens with the layers that could be read, as a changed one without a path, and
+// leaves word in Changes::Message.
 void OpenFile(Editor& editor, const std::filesystem::path& path, int iconImage = 0);
+
+// All images of an icon file take the place of the present document as a family
+// (formats/icon_family.h), and others are left out with word in Changes::Message. Files that are no
+// icons open as ever.
+void OpenIconFamily(Editor& editor, const std::filesystem::path& path);
 
 // A picture as a new layer above the selected one; with no document yet it makes the page. A
 // document is opened.
@@ -32,12 +38,17 @@ void OpenPicture(Editor& editor, const graphics::Bitmap& picture,
 void ImportPicture(Editor& editor, const graphics::Bitmap& picture,
                    const std::filesystem::path& source = {});
 
+// One layer for each picture, at least one, in this order from the bottom, in one undo step. With
+// no document yet the largest makes the page, and only the others, if there are any, are a step.
+void ImportPictures(Editor& editor, std::vector<graphics::Bitmap> pictures,
+                    const std::filesystem::path& source = {});
+
 // A document that was kept safe takes the place of the present one. It counts as changed, and has
 // the path that it had.
 void RestoreDocument(Editor& editor, const document::Document& document);
 
-// The images of an icon file, in the order in which they are offered. Throws Error when there are
-// none.
+// The images of an icon file that can be read, in file order. Throws Error, with what is wrong with
+// the first, when there are none.
 std::vector<formats::IconEntryImage> ReadIconImages(const std::filesystem::path& path);
 
 // Writes the document there; its path and the title follow. Throws Error when that fails.

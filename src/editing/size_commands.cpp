@@ -40,15 +40,6 @@ void BringInForce(Editor& editor, int size) {
     ShowPageInForce(editor);
 }
 
-document::Page PageOf(const graphics::Bitmap& picture) {
-    document::Page page;
-    page.Width = picture.Width();
-    page.Height = picture.Height();
-    MakeImageLayer(page, page.Layers.emplace_back(), picture);
-    page.SelectedLayer = 0;
-    return page;
-}
-
 void RequireCanHaveArtwork(int size) {
     if (size < document::kMinArtworkSize || size > document::kMaxArtworkSize)
         throw Error("artwork of its own has a size of " +
@@ -95,7 +86,7 @@ void GoToPage(Editor& editor, int size) {
 
 void MakeArtwork(Editor& editor, int size, filters::SizeRecipe recipe) {
     RequireCanHaveArtwork(size);
-    document::Page page = PageOf(ApplyRecipe(recipe, FlatMaster(editor), size));
+    document::Page page = document::MakePicturePage(ApplyRecipe(recipe, FlatMaster(editor), size));
     BeginUndoStepTo(editor, steps::DrawByHand, size);
     editor.Document.SetArtwork(size, std::move(page));
     BringInForce(editor, size);
@@ -121,8 +112,8 @@ void CopyToSize(Editor& editor, int from, int to) {
     if (from == to)
         throw Error("a size can't be copied to itself");
     const graphics::Bitmap picture = PictureOfSize(editor, from);
-    document::Page page =
-        PageOf(from < to ? Enlarged(picture, to) : filters::ShrinkToSize(picture, to));
+    document::Page page = document::MakePicturePage(from < to ? Enlarged(picture, to)
+                                                              : filters::ShrinkToSize(picture, to));
     BeginUndoStepTo(editor, steps::CopyToSize, to);
     editor.Document.SetArtwork(to, std::move(page));
     BringInForce(editor, to);

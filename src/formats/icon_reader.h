@@ -1,9 +1,10 @@
-// Windows icon files (.ico), read: only uncompressed pictures of 32 bits a pixel
-// (docs/oddities.md, "Icons of 32 bits").
+// Windows icon and pointer files (.ico, .cur), read.
 #pragma once
 
 #include <cstdint>
 #include <filesystem>
+#include <optional>
+#include <string>
 #include <vector>
 
 #include "graphics/bitmap.h"
@@ -11,33 +12,53 @@
 
 namespace orbelle::formats {
 
-struct IconEntryImage {
-    int Width = 0;  // pixels
-    int Height = 0;
-    std::int16_t BitCount = 0;  // as the entry says, whatever its pixels are
-    graphics::Bitmap Image;
+enum class IconEntryFormat { Bitmap, Png, Bad };
+
+// The pixel of a pointer that points.
+struct Hotspot {
+    int X = 0;
+    int Y = 0;
+    bool operator==(const Hotspot&) const = default;
 };
 
-// Whether the source begins like an icon file. Files of type 0, which the reader takes, too, are
-// not told from others by that.
+struct IconEntryImage {
+    int Width =
+        0;  // pixels, by the picture itself; 0 when bad and not told in a header that we know
+    int Height = 0;
+    int Bits = 0;  // a pixel; of a PNG its depth times its channels
+    IconEntryFormat Format = IconEntryFormat::Bad;
+    std::uint64_t Bytes = 0;                  // as the directory says, as far as the file has them
+    std::optional<formats::Hotspot> Hotspot;  // as the directory of a pointer file says
+    graphics::Bitmap Image;                   // empty when bad
+    std::string Problem;                      // why it is bad
+
+    bool IsBad() const { return Format == IconEntryFormat::Bad; }
+};
+
+// Whether the source begins like an icon or pointer file. Files of type 0, which the reader takes,
+// too, are not told from others by that.
 bool IsIcon(const graphics::ByteSource& file);
 
-// Every entry, in file order. Whatever BitCount says, the pixels are taken as 32 bits each, bottom
-// row first, right behind the 40 bytes of the header; masks and palettes are ignored. Bytes that
-// the file lacks read as zero. Throws graphics::ImageError for the whole file when the header is
-// not that of an icon, there is no entry, or any entry has a size that no bitmap can have (a PNG
-// entry always looks like that). So that a short file takes little memory, it also throws when the
-// entries have more than graphics::kMaxBitmapPixels in all, or when one above kMaxUnbackedPixels
-// has no pixel in the file.
+// Every entry, in file order, bad ones too. Bitmaps have 1, 4, 8, 16, 24 or 32 bits and no runs;
+// half of the height that they tell is the picture's, for colours and mask are counted together,
+// also where a writer forgot to do so. Pixels follow their own alpha, unless they have none or it
+// is 0 everywhere: then those that the mask has out get alpha 0, the others 255. A mask or a
+// part of it that is missing is all zero, indexes without a colour are opaque black.
+//
+// An entry is bad when its pixels are cut short or of another kind. So that a file takes little
+// memory and time, it is bad, too, when those before it have taken what there is:
+// graphics::kMaxBitmapPixels and a multiple of the file's bytes. Throws graphics::ImageError when
+// the file is no icon or has no entry.
 std::vector<IconEntryImage> DecodeIcon(const graphics::ByteSource& file);
-
-inline constexpr std::int64_t kMaxUnbackedPixels = std::int64_t{1024} * 1024;
 
 // The same with a file. Throws graphics::FileError.
 std::vector<IconEntryImage> ReadIconFile(const std::filesystem::path& path);
 
-// The entries that the user can choose from: those above 8 bits. Others hold indexes, and read as
-// colours they are nonsense.
-std::vector<IconEntryImage> OfferedEntries(std::vector<IconEntryImage> entries);
+// Entry `index` of a file that DecodeIcon has read, as it stands there: of a PNG the whole PNG,
+// even if the directory says less. Empty when the file has no such entry.
+std::vector<std::uint8_t> EntryBytes(const graphics::ByteSource& file, int index);
+
+// A picture that can stand for its size: good, square, of 8 to 256 pixels a side.
+bool IsIconSize(const IconEntryImage& entry);
 
 }  // namespace orbelle::formats

@@ -47,7 +47,7 @@ protected:
         return remade;
     }
 
-    document::Family family;
+    document::Document family;
     SizePreviews previews;
     std::vector<SizePreview> last;
 };

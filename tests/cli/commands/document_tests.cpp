@@ -1,4 +1,6 @@
 // Documents: new, opened, imported, saved; page size and background; undo over all of them.
+#include <gmock/gmock.h>
+
 #include "cli/document_json.h"
 #include "formats/icon_file.h"
 #include "graphics/codecs/image_files.h"
@@ -72,7 +74,7 @@ TEST_F(DocumentCommands, WhatFailsLeavesEverythingAsItWas) {
         {"open no.png", none},
         {"save no/s.volf", none},
         {"open bad.volf", "Invalid File"},
-        {"open a.ICO", "there is no image 2; the icon offers 2"},
+        {"open a.ICO", "there is no image 2; the icon has 2"},
         {"new 0 8", size},
         {"new 8 513", size},
         {"new -1 8", size},
@@ -83,6 +85,45 @@ TEST_F(DocumentCommands, WhatFailsLeavesEverythingAsItWas) {
               "widths 12, selected 0, undo 1, redo 1, modified true, page/width 12, path , title "
               "Varnel Orbelle - Project *, error ",
               {{"fails", verb, verb + ": " + reason}});
+}
+
+// A pointer of one good bitmap and one PNG between two bad images.
+TEST_F(DocumentCommands, ImagesOfAnIconAreCountedInFileOrder) {
+    const std::vector<graphics::Bitmap> images{
+        FilledPicture(3, 2, kBlue), FilledPicture(4, 2, kBlue), FilledPicture(1, 1, 0x80FF0000),
+        FilledPicture(2, 2, kBlue)};
+    std::vector<std::uint8_t> icon = formats::EncodeIcon(images, formats::IconFormat::Bmp);
+    icon[2] = 2;
+    icon[6 + 16 + 4] = 7;              // the second one's hot spot
+    icon[6 + 64 + 14] = 33;            // the first one's bits
+    icon.resize(icon.size() - 8 - 1);  // the last one's mask, and a byte of its pixels
+    graphics::WriteFile("a.cur", icon);
+    graphics::WriteFile("p.ico",
+                        formats::EncodeIcon(std::span(images).first(2), formats::IconFormat::Png));
+    const std::string last =
+        ": image 3: the BMP picture is cut short or damaged: too little data for its size";
+    Check({
+        {"the bad first", "open a.cur",
+         "error open a.cur: image 0: the BMP picture is of a kind that is not supported"},
+        {"the second", "icon-entry 1 open a.cur import a.cur",
+         "widths 4, error import a.cur: image 0: the BMP picture is of a kind that is not "
+         "supported"},
+        {"the third", "icon-entry 2 open a.cur", "widths 1, 0@0,0 80FF0000"},
+        {"the last is cut short", "icon-entry 3 open a.cur", "error open a.cur" + last},
+        {"none", "icon-entry 4 open a.cur",
+         "error open a.cur: there is no image 4; the icon has 4"},
+        {"a PNG", "icon-entry 1 open p.ico", "widths 4, 0@3,1 FF204060"},
+    });
+    std::ostringstream output;
+    Workspace workspace(output);
+    ASSERT_EQ(RunScript(workspace, "entries a.cur"), "");
+    EXPECT_EQ(output.str(),
+              R"([{"width":0,"height":0,"bits":0,"format":"bad","bytes":72,"hotspot":[1,32]},)"
+              R"({"width":4,"height":2,"bits":32,"format":"bmp","bytes":80,"hotspot":[7,32]},)"
+              R"({"width":1,"height":1,"bits":32,"format":"bmp","bytes":48,"hotspot":[1,32]},)"
+              R"({"width":2,"height":2,"bits":32,"format":"bad","bytes":55,"hotspot":[1,32]}])"
+              "\n");
+    EXPECT_THAT(RunScript(workspace, "entries a.png"), ::testing::HasSubstr("not a Windows icon"));
 }
 
 // Whatever a file is called.
@@ -101,7 +142,7 @@ TEST_F(DocumentCommands, TheFirstBytesTellWhatAFileIs) {
                                    {"a.ICO", "icon.png"},
                                    {"a.ICO", "icon.volf"}})
         copy(from, to);
-    graphics::WriteFile("pointer.ico", std::vector<std::uint8_t>{0, 0, 2, 0, 1, 0, 0, 0, 0, 0});
+    graphics::WriteFile("pointer.ico", std::vector<std::uint8_t>{0, 0, 3, 0, 1, 0, 0, 0, 0, 0});
     graphics::WriteFile("text.ico", std::vector<std::uint8_t>(100, 'x'));
     const std::string none = ": not a PNG; JPEG; GIF or BMP picture";
     Check({
