@@ -21,8 +21,8 @@ constexpr char kText[] =
 
 }  // namespace
 
-CloseTipsTab::CloseTipsTab(QWidget& panel, QWidget& scrollBar)
-    : QWidget(panel.parentWidget()), panel_(panel), scrollBar_(scrollBar) {
+CloseTipsTab::CloseTipsTab(QWidget& parent, QWidget& panel, QWidget& scrollBar)
+    : QWidget(&parent), panel_(panel), scrollBar_(scrollBar) {
     setObjectName("BottomCloseTips");
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(12, 4, 4, 4);
@@ -80,14 +80,14 @@ void CloseTipsTab::StepAsideFor(const std::vector<QRect>& others) {
 }
 
 int CloseTipsTab::Floor() const {
-    if (!scrollBar_.isVisible())
-        return panel_.y();
-    return scrollBar_.mapTo(parentWidget(), QPoint(0, 0)).y();
+    const QWidget& edge = scrollBar_.isVisible() ? scrollBar_ : panel_;
+    return edge.mapTo(parentWidget(), QPoint(0, 0)).y();
 }
 
 // In the middle, or beside what lies there, whichever is nearest to the middle.
 int CloseTipsTab::LeftEdge() const {
-    const int first = panel_.x(), last = panel_.x() + panel_.width() - width();
+    const int first = panel_.mapTo(parentWidget(), QPoint(0, 0)).x();
+    const int last = first + panel_.width() - width();
     const int middle = (first + last) / 2;
     std::vector<int> edges = {middle};
     for (const QRect& other : others_) {

@@ -11,9 +11,9 @@ class CloseTipsTab : public QWidget {
     Q_OBJECT
 
 public:
-    // A child of the same widget as `panel`, from behind which it slides up; from the upper edge of
-    // the scroll bar that lies on the panel, while that can be seen.
-    CloseTipsTab(QWidget& panel, QWidget& scrollBar);
+    // Slides up from behind `panel`; from the upper edge of the scroll bar that lies on the panel,
+    // while that can be seen. Both lie somewhere within `parent`.
+    CloseTipsTab(QWidget& parent, QWidget& panel, QWidget& scrollBar);
 
     // Unless it stands there already, or the user has closed it.
     void SlideUp();

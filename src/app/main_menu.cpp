@@ -11,6 +11,7 @@
 #include "app/step_caption.h"
 #include "editing/clipboard_commands.h"
 #include "editing/selection_commands.h"
+#include "editing/size_commands.h"
 #include "editing/stack_commands.h"
 #include "editing/style_commands.h"
 #include "editing/tool_palette.h"
@@ -262,6 +263,22 @@ std::vector<Entry> ViewEntries() {
          .Shortcuts = {Qt::CTRL | Qt::Key_9},
          .Run = Edit(editing::FitWhole),
          .Command = CommandId::FitWhole},
+        {},
+        {.Name = "NextSize",
+         .Caption = "&Next Size",
+         .Shortcuts = {Qt::CTRL | Qt::Key_PageDown},
+         .Run = Edit(editing::GoToNextPage),
+         .Command = CommandId::NextSize},
+        {.Name = "PreviousSize",
+         .Caption = "&Previous Size",
+         .Shortcuts = {Qt::CTRL | Qt::Key_PageUp},
+         .Run = Edit(editing::GoToPreviousPage),
+         .Command = CommandId::PreviousSize},
+        {.Name = "Master",
+         .Caption = "&Master",
+         .Shortcuts = {Qt::CTRL | Qt::Key_Home},
+         .Run = Edit([](editing::Editor& editor) { GoToPage(editor, document::Family::kMaster); }),
+         .Command = CommandId::Master},
     };
 }
 

@@ -25,6 +25,7 @@
 #include "editing/document_commands.h"
 #include "editing/give_up.h"
 #include "editing/selection_commands.h"
+#include "editing/size_commands.h"
 #include "editing/view_commands.h"
 
 namespace orbelle::app {
@@ -80,11 +81,15 @@ bool MainWindow::Run(const editing::Command& command) {
     return Tell(ReportOf(editing::Run(editor_, command)));
 }
 
-// One thing at a time: what is going on, then the tips, then the selection.
+// One thing at a time: what is going on, then the tips, then the selection, then the size.
 void MainWindow::GiveUp() {
     RunDuringDrag([this](editing::Editor& editor) {
-        if (!CancelInput(editor) && !tips_->Close() && editor.Selection.Exists())
+        if (CancelInput(editor) || tips_->Close())
+            return;
+        if (editor.Selection.Exists())
             EndSelection(editor);
+        else
+            GoToPage(editor, document::Family::kMaster);
     });
 }
 

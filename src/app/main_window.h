@@ -28,6 +28,7 @@ struct Drop;
 class RecentFilesView;
 class RightPanel;
 class SceneView;
+class SizesPanel;
 
 // Owns the editor, hands it the user's input and shows what it tells.
 class MainWindow : public QMainWindow,
@@ -76,6 +77,8 @@ public:
     void StoreSettings() const;
 
     bool IsZoomAnimationRunning() const { return zoomAnimation_.isActive(); }
+    // Nothing that is shown goes on changing by itself.
+    bool IsAtRest() const;
 
     bool Run(const editing::Command& command) override;
     bool RunBusy(const editing::Command& command) override;
@@ -156,6 +159,7 @@ private:
     std::unique_ptr<WelcomeSequence> welcome_;
     RightPanel* rightPanel_ = nullptr;
     BottomPanel* bottomPanel_ = nullptr;
+    SizesPanel* sizesPanel_ = nullptr;
     CloseTipsTab* closeTips_ = nullptr;
     std::unique_ptr<editing::Recovery> recovery_;
 };

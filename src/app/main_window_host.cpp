@@ -19,6 +19,7 @@
 #include "app/right_panel.h"
 #include "app/save_prompt.h"
 #include "app/scene_view.h"
+#include "app/sizes_panel.h"
 #include "app/system_clipboard.h"
 
 namespace orbelle::app {
@@ -51,6 +52,7 @@ void MainWindow::Changed(const editing::Changes& changes) {
         ShowControls();
     if (changes.Overlays)
         scene_->update();
+    sizesPanel_->Follow(changes);
     if (changes.Title)
         ShowTitle();
     if (editor_.Zoom.IsAnimated && !zoomAnimation_.isActive())
@@ -65,6 +67,10 @@ void MainWindow::Changed(const editing::Changes& changes) {
         PopUpOrderMenu(
             scene_->mapToGlobal(QPointF(changes.LayerMenu->X, changes.LayerMenu->Y).toPoint()));
     message_ = changes.Message;
+}
+
+bool MainWindow::IsAtRest() const {
+    return !IsZoomAnimationRunning() && sizesPanel_->IsAtRest();
 }
 
 void MainWindow::ShowScene() {

@@ -16,6 +16,7 @@
 #include "app/right_panel.h"
 #include "app/scene_view.h"
 #include "app/shortcuts.h"
+#include "app/sizes_panel.h"
 #include "editing/nudge.h"
 #include "editing/scene_input.h"
 #include "editing/tips.h"
@@ -40,7 +41,15 @@ void MainWindow::AddPanels() {
     middle->setSpacing(0);
     rows->addLayout(middle, 1);
     middle->addWidget(bars_->ToolBox, 0, Qt::AlignTop);
-    middle->addWidget(MakeScene(), 1);
+    auto* sceneColumn = new QVBoxLayout;
+    sceneColumn->addWidget(MakeScene(), 1);
+    sizesPanel_ = new SizesPanel(context_);
+    sceneColumn->addWidget(sizesPanel_);
+    auto* sceneAndSizes = new QWidget;
+    sceneColumn->setContentsMargins(0, 0, 0, 0);
+    sceneColumn->setSpacing(0);
+    sceneAndSizes->setLayout(sceneColumn);
+    middle->addWidget(sceneAndSizes, 1);
     rightPanel_ = new RightPanel(*this, *bars_->LayerBar);
     connect(rightPanel_, &RightPanel::LayerPicked, this, &MainWindow::FocusScene);
     auto* scroller = new QScrollArea;
@@ -58,7 +67,7 @@ void MainWindow::AddPanels() {
 
     for (widgets::ButtonBar* popup : {bars_->FillBar, bars_->SelectionBar, bars_->EraserBar})
         popup->setParent(central);
-    closeTips_ = new CloseTipsTab(*bottomPanel_, *horizontalScroll_);
+    closeTips_ = new CloseTipsTab(*central, *sizesPanel_, *horizontalScroll_);
     tips_ = std::make_unique<TipBalloons>(editor_, *central, *this);
     connect(tips_.get(), &TipBalloons::Placed, closeTips_,
             [this] { closeTips_->StepAsideFor(tips_->OpenBalloons()); });

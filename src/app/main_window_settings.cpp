@@ -5,8 +5,10 @@
 #include "app/right_panel.h"
 #include "app/scene_view.h"
 #include "app/settings.h"
+#include "app/sizes_panel.h"
 #include "editing/color_wells.h"
 #include "editing/tool_palette.h"
+#include "widgets/panel_header.h"
 
 namespace orbelle::app {
 namespace {
@@ -17,6 +19,9 @@ constexpr char kColor[] = "ForeColor%1";
 constexpr char kTips[] = "TipsControl";
 constexpr char kBottomPanel[] = "isQuick";
 constexpr char kPixelGridOff[] = "PixelGridOff";  // so that it is on where nothing is said
+constexpr char kSizesPanel[] = "SizesPanel";
+constexpr char kSizesGround[] = "SizesGround";
+constexpr char kSizesDoubled[] = "SizesDoubled";
 constexpr int kOpen = -1;
 
 // What a first start finds: once, when nothing is stored at all.
@@ -26,7 +31,7 @@ void StoreStartingSet() {
     if (!settings.isEmpty())
         return;
     settings.setValue(kTips, 1);
-    for (const char* panel : {"CtlTitle1", "CtlTitle2", "CtlTitle6", kBottomPanel})
+    for (const char* panel : {"CtlTitle1", "CtlTitle2", "CtlTitle6", kBottomPanel, kSizesPanel})
         settings.setValue(panel, kOpen);
     settings.setValue(kNewWidth, kNewSide);
     settings.setValue(kNewHeight, kNewSide);
@@ -49,6 +54,9 @@ void MainWindow::RestoreSettings() {
     bottomPanel_->SetOpen(number(kBottomPanel) != 0);
     for (const RightPanel::Header& header : rightPanel_->Headers())
         rightPanel_->SetOpen(header, number(header.StoredAs) != 0);
+    sizesPanel_->SetOpen(number(kSizesPanel) != 0);
+    sizesPanel_->SetGround(number(kSizesGround));
+    sizesPanel_->SetDoubled(number(kSizesDoubled) != 0);
     SetTipsEnabled(number(kTips) == 1);
     ShowPixelGrid(number(kPixelGridOff) == 0);
     Run([&](editing::Editor& editor) {
@@ -65,6 +73,9 @@ void MainWindow::StoreSettings() const {
     Settings settings;
     const auto flag = [](bool open) { return open ? kOpen : 0; };
     settings.setValue(kBottomPanel, flag(!bottomPanel_->Header().IsClosed()));
+    settings.setValue(kSizesPanel, flag(!sizesPanel_->Header().IsClosed()));
+    settings.setValue(kSizesGround, sizesPanel_->Ground());
+    settings.setValue(kSizesDoubled, sizesPanel_->IsDoubled() ? 1 : 0);
     settings.setValue(kTips, TipsEnabled() ? 1 : 0);
     settings.setValue(kPixelGridOff, scene_->IsPixelGridShown() ? 0 : 1);
     for (const RightPanel::Header& header : rightPanel_->Headers())

@@ -1,5 +1,6 @@
 #include "widgets/panel_header.h"
 
+#include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QPainter>
 
@@ -34,6 +35,14 @@ bool PanelHeader::IsClosed() const {
 
 void PanelHeader::SetClosed(bool closed) {
     setChecked(!closed);
+}
+
+void PanelHeader::SetTools(QWidget& tools) {
+    auto* row = new QHBoxLayout(this);
+    row->setContentsMargins(0, 0, kChevronRoom, 1);
+    row->addStretch();
+    row->addWidget(&tools);
+    connect(this, &QAbstractButton::toggled, &tools, &QWidget::setVisible);
 }
 
 QSize PanelHeader::sizeHint() const {

@@ -15,6 +15,9 @@ public:
     bool IsClosed() const;
     void SetClosed(bool closed);  // does not raise Clicked
 
+    // Stand beside the chevron while the panel is open.
+    void SetTools(QWidget& tools);
+
     QSize sizeHint() const override;
 
 signals:

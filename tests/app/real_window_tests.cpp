@@ -318,14 +318,18 @@ TEST_F(RealProgramTest, ScreenshotsAt200PercentHaveHardSquaresAndBrokenFilesHave
     ASSERT_EQ(take({Path("shot.png"), Write("tile.png", PictureOf(kPictureColor))}), 0);
     const QImage shot(Path("shot.png"));
     ASSERT_EQ(shot.size(), QSize(2200, 1520));
-    constexpr int kSceneEnd = 1600;  // the layer list shows the picture, too
+    // The layer list shows the picture, too.
+    constexpr QRect kScene(0, 200, 1600, 700), kSizes(0, 900, 1600, 620);
     int softSquares = 0;
-    for (int y = 200; y < shot.height(); y += 2)
-        for (int x = 0; x < kSceneEnd; x += 2)
+    for (int y = kScene.top(); y <= kScene.bottom(); y += 2)
+        for (int x = 0; x < kScene.right(); x += 2)
             softSquares += CountOf(shot.copy(x, y, 2, 2), kPictureColor) % 4 != 0;
     EXPECT_EQ(softSquares, 0);
-    EXPECT_EQ(CountOf(shot.copy(0, 200, kSceneEnd, shot.height()), kPictureColor),
-              4 * kWholePicture);
+    EXPECT_EQ(CountOf(shot.copy(kScene), kPictureColor), 4 * kWholePicture);
+    int pixelsOfSizes = 0;
+    for (const int size : {128, 64, 48, 32, 24, 16})
+        pixelsOfSizes += size * size;
+    EXPECT_EQ(CountOf(shot.copy(kSizes), kPictureColor), pixelsOfSizes) << "true pixels";
     EXPECT_TRUE(QSettings("OrbelleWork").allKeys().isEmpty()) << "it is not the user's window";
 }
 

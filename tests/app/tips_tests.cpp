@@ -144,7 +144,7 @@ TEST_F(TipsTest, TheTabThatTurnsThemOffStandsClearOfBalloonsAndScrollBar) {
     auto& tab = Part<QWidget>("BottomCloseTips");
     Click(Balloon(), {40, 20});
     const auto isUp = [&](int floor) { return tab.geometry().bottom() + 1 == floor; };
-    EXPECT_TRUE(WaitUntil([&] { return isUp(panel.y()); }));
+    EXPECT_TRUE(WaitUntil([&] { return isUp(PlaceOf(Part<QWidget>("SizesPanel")).top()); }));
     EXPECT_FALSE(tab.geometry().intersects(Balloon(true).geometry()));
 
     for (int i = 0; i < 12; ++i)

@@ -40,7 +40,7 @@ int main(int argc, char** argv) {
     QApplication::processEvents();
     if (arguments.size() == 3)
         window.OpenPath(arguments[2]);
-    while (window.IsZoomAnimationRunning())
+    while (!window.IsAtRest())
         QApplication::processEvents(QEventLoop::WaitForMoreEvents);
     if (!window.HasFailed() && !window.grab().save(arguments[1], "PNG"))
         window.ShowMessage("Cannot write " + arguments[1].toStdString());

@@ -1,0 +1,60 @@
+#include "app/size_menu.h"
+
+#include <QMenu>
+
+#include "editing/size_commands.h"
+
+namespace orbelle::app {
+namespace {
+
+using document::Family;
+using editing::Editor;
+
+bool CanHaveArtwork(int size) {
+    return size >= document::kMinArtworkSize && size <= document::kMaxArtworkSize;
+}
+
+void DrawByHand(const WindowContext& context, int size) {
+    const bool isThere = context.Commands.Editor().Document.ArtworkOf(size) != nullptr;
+    if (context.Commands.Run([size](Editor& editor) { EditSize(editor, size); }) && !isThere)
+        context.User.ShowStatus(document::NameOfSize(size) +
+                                " has a picture of its own now. Undo takes that back, and so does "
+                                "Back to Master's in its menu.");
+}
+
+}  // namespace
+
+void ClickSize(const WindowContext& context, int size) {
+    if (size == context.Commands.Editor().Document.EditedSize)
+        context.Commands.Run([](Editor& editor) { GoToPage(editor, Family::kMaster); });
+    else
+        DrawByHand(context, size);
+}
+
+void PopUpSizeMenu(const WindowContext& context, int size, const std::vector<int>& sizes,
+                   QWidget& parent, const QPoint& at) {
+    auto* menu = new QMenu(&parent);
+    menu->setObjectName("SizeMenu");
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    menu->addAction("&Draw by Hand", &parent, [context, size] { DrawByHand(context, size); })
+        ->setEnabled(CanHaveArtwork(size));
+
+    QMenu* copies = menu->addMenu("&Copy to Size...");
+    for (const int to : sizes) {
+        if (to == size || !CanHaveArtwork(to))
+            continue;
+        copies->addAction(
+            QString::fromStdString(document::NameOfSize(to)), &parent, [context, size, to] {
+                context.Commands.Run([size, to](Editor& editor) { CopyToSize(editor, size, to); });
+            });
+    }
+    menu->addSeparator();
+    menu->addAction("&Back to Master's", &parent,
+                    [context, size] {
+                        context.Commands.Run([size](Editor& editor) { DropArtwork(editor, size); });
+                    })
+        ->setEnabled(context.Commands.Editor().Document.ArtworkOf(size));
+    menu->popup(at);
+}
+
+}  // namespace orbelle::app

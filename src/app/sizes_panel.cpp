@@ -1,0 +1,255 @@
+#include "app/sizes_panel.h"
+
+#include <QEvent>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QVBoxLayout>
+#include <algorithm>
+#include <cmath>
+#include <new>
+#include <utility>
+
+#include "app/shared_image.h"
+#include "app/size_menu.h"
+#include "editing/size_strip.h"
+#include "filters/outline_contrast.h"
+#include "widgets/button_bar.h"
+#include "widgets/panel_header.h"
+
+namespace orbelle::app {
+namespace {
+
+using widgets::SizeStrip;
+using widgets::StripGround;
+
+// So much of the room that it shares with the scene the panel takes for larger pictures than those
+// that are always shown.
+constexpr int kShareOfHeight = 3;
+// A larger page is not followed during a drag: copying it for the thread would hold up the hand.
+constexpr std::int64_t kMaxLivePixels = std::int64_t{4} << 20;
+constexpr int kToolSize = 12;
+constexpr int kDouble = widgets::kStripGrounds + 2;  // its button, after a separator
+
+QString Warning(const std::optional<double>& contrast, const char* ground) {
+    if (!contrast || *contrast >= filters::kLeastContrast)
+        return {};
+    // Rounded down: what is below the limit must not read as the limit.
+    return QString("Hard to see on %1 (contrast %2 : 1)")
+        .arg(ground)
+        .arg(std::floor(*contrast * 10) / 10, 0, 'f', 1);
+}
+
+}  // namespace
+
+SizesPanel::SizesPanel(const WindowContext& context)
+    : context_(context), header_(new widgets::PanelHeader("Sizes")) {
+    setObjectName("SizesPanel");
+    header_->setObjectName("Sizes");
+    thread_.setMaxThreadCount(1);
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    column->addWidget(header_);
+    AddTools();
+    AddStrip();
+    connect(header_, &widgets::PanelHeader::Clicked, this, [this](bool isClosed) {
+        scroller_->setVisible(!isClosed);
+        Refresh();
+    });
+}
+
+SizesPanel::~SizesPanel() {
+    thread_.waitForDone();
+}
+
+void SizesPanel::AddTools() {
+    const auto tool = [](const char* artwork, const char* tip) {
+        return widgets::BarButton{.ToolTip = tip, .Artwork = QString("sizes/") + artwork};
+    };
+    tools_ = new widgets::ButtonBar(
+        {.IconSize = kToolSize,
+         .Buttons = {tool("checks", "On checks"),
+                     tool("white", "On white"),
+                     tool("grey", "On grey"),
+                     tool("dark", "On dark"),
+                     tool("desktop", "On a desktop and its task bar"),
+                     {.IsSeparator = true},
+                     tool("double", "Double: each pixel as a square of four")}});
+    tools_->setObjectName("SizesTools");
+    tools_->setAccessibleName("What the sizes lie on");
+    header_->SetTools(*tools_);
+    connect(tools_, &widgets::ButtonBar::Clicked, this, &SizesPanel::ClickTool);
+}
+
+void SizesPanel::AddStrip() {
+    strip_ = new SizeStrip;
+    strip_->setObjectName("SizeStrip");
+    strip_->setAccessibleName("Sizes");
+    scroller_ = new QScrollArea;
+    scroller_->setFrameShape(QFrame::NoFrame);
+    scroller_->setFocusPolicy(Qt::NoFocus);
+    scroller_->setWidgetResizable(true);
+    scroller_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    scroller_->setWidget(strip_);
+    layout()->addWidget(scroller_);
+    connect(strip_, &SizeStrip::Clicked, this, [this](int size, bool byMouse) {
+        ClickSize(context_, size);
+        if (byMouse)
+            context_.Window.FocusScene();
+    });
+    connect(strip_, &SizeStrip::MenuWanted, this, [this](int size, const QPoint& at) {
+        PopUpSizeMenu(context_, size, StripSizes(context_.Commands.Editor()), *this, at);
+    });
+    connect(strip_, &SizeStrip::FocusMoved, this, [this](const QRect& cell) {
+        scroller_->ensureVisible(cell.center().x(), 0, cell.width() / 2, 0);
+    });
+    ShowTools();
+}
+
+void SizesPanel::ClickTool(int button) {
+    if (button == kDouble)
+        SetDoubled(!IsDoubled());
+    else
+        SetGround(button - 1);
+    context_.Window.FocusScene();
+}
+
+void SizesPanel::ShowTools() {
+    for (int ground = 0; ground < widgets::kStripGrounds; ++ground)
+        tools_->SetPressed(ground + 1, ground == Ground());
+    tools_->SetPressed(kDouble, IsDoubled());
+}
+
+void SizesPanel::SetGround(int ground) {
+    strip_->SetGround(
+        static_cast<StripGround>(ground > 0 && ground < widgets::kStripGrounds ? ground : 0));
+    ShowTools();
+}
+
+void SizesPanel::SetDoubled(bool doubled) {
+    strip_->SetDoubled(doubled);
+    ShowTools();
+    Refresh();
+}
+
+void SizesPanel::SetOpen(bool open) {
+    header_->SetClosed(!open);
+    scroller_->setVisible(open);
+    Refresh();
+}
+
+bool SizesPanel::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == parent() && event->type() == QEvent::Resize)
+        Refresh();
+    return QWidget::eventFilter(watched, event);
+}
+
+void SizesPanel::resizeEvent(QResizeEvent*) {
+    Refresh();
+}
+
+void SizesPanel::showEvent(QShowEvent*) {
+    parent()->installEventFilter(this);
+    Refresh();
+}
+
+bool SizesPanel::CanBeSeen() const {
+    return isVisible() && !header_->IsClosed();
+}
+
+bool SizesPanel::IsAtRest() const {
+    const bool isWanted = isStale_ && CanBeSeen() && context_.Commands.Editor().DocumentExists;
+    return !isMaking_ && !isWanted;
+}
+
+void SizesPanel::Refresh() {
+    editing::Changes all;
+    all.Pixels = true;
+    Follow(all);
+}
+
+void SizesPanel::Follow(const editing::Changes& changes) {
+    isStale_ |= changes.Pixels;
+    if (!CanBeSeen())
+        return;
+    if (changes.Pixels)
+        ShowCells();
+    if (isStale_ && MayMakeNow())
+        Make();
+}
+
+std::vector<int> SizesPanel::FittingSizes() const {
+    const editing::Editor& editor = context_.Commands.Editor();
+    const int height = parentWidget()->height() / kShareOfHeight - header_->height();
+    return editing::SizesThatFit(StripSizes(editor), editor.Document.EditedSize,
+                                 strip_->LargestSizeWithin(height), strip_->RoomIn(width()),
+                                 [this](int size) { return strip_->CellWidth(size); });
+}
+
+void SizesPanel::ShowCells() {
+    const editing::Editor& editor = context_.Commands.Editor();
+    sizes_ = FittingSizes();
+    std::vector<widgets::SizeCell> cells;
+    for (const int size : sizes_) {
+        widgets::SizeCell cell;
+        cell.Size = size;
+        cell.IsDrawnByHand = editor.Document.ArtworkOf(size) != nullptr;
+        const auto known = std::ranges::find(previews_, size, &formats::SizePreview::Size);
+        if (known != previews_.end() && editor.DocumentExists) {
+            const QString onLight = Warning(known->OnLight, "white");
+            cell.Picture = SharedImage(known->Picture);
+            cell.Warning = onLight.isEmpty() ? Warning(known->OnDark, "dark") : onLight;
+        }
+        cells.push_back(std::move(cell));
+    }
+    strip_->SetCells(std::move(cells));
+    strip_->SetEditedSize(editor.Document.EditedSize);
+    strip_->setEnabled(editor.DocumentExists);
+    FitHeight();
+}
+
+// A scroll bar, where one is needed, stands below the labels.
+void SizesPanel::FitHeight() {
+    const QSize size = strip_->sizeHint();
+    const int bar =
+        size.width() > width() ? scroller_->horizontalScrollBar()->sizeHint().height() : 0;
+    scroller_->setFixedHeight(size.height() + bar);
+}
+
+bool SizesPanel::MayMakeNow() const {
+    const editing::Editor& editor = context_.Commands.Editor();
+    const bool isLive =
+        std::int64_t{editor.Canvas.Width()} * editor.Canvas.Height() <= kMaxLivePixels;
+    return editor.DocumentExists && !isMaking_ &&
+           (isLive || std::holds_alternative<std::monostate>(editor.Drag));
+}
+
+void SizesPanel::Make() {
+    const editing::Editor& editor = context_.Commands.Editor();
+    isMaking_ = true;
+    isStale_ = false;
+    const document::Family& pages = editor.Document;
+    thread_.start([this, pages, current = editor.Canvas, sizes = sizes_] {
+        std::vector<formats::SizePreview> made;
+        try {
+            made = maker_.Make(pages, current, sizes);
+        } catch (const std::bad_alloc&) {
+            // The pictures stay as they are; the next ones may fit.
+        }
+        QMetaObject::invokeMethod(
+            this, [this, made = std::move(made)] { Take(made); }, Qt::QueuedConnection);
+    });
+}
+
+void SizesPanel::Take(const std::vector<formats::SizePreview>& made) {
+    isMaking_ = false;
+    if (!made.empty())
+        previews_ = made;
+    if (!CanBeSeen())
+        return;
+    ShowCells();
+    if (isStale_ && MayMakeNow())
+        Make();
+}
+
+}  // namespace orbelle::app
