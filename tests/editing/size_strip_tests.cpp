@@ -19,7 +19,9 @@ protected:
     void OpenIcon(const graphics::Bitmap& picture) {
         Do([&](Editor& e) { OpenPicture(e, picture); });
     }
-    std::string FailureOf(const Command& command) { return editing::Run(editor, command).Problem(); }
+    std::string FailureOf(const Command& command) {
+        return editing::Run(editor, command).Problem();
+    }
 };
 
 TEST_F(SizeStripTest, HasTheExportsSizesThoseWithArtworkAndTheUsualOnes) {
