@@ -1,9 +1,11 @@
 // orbelle_measure LIST: how near the recipes for small sizes come to what designers drew.
 //
 // A line of LIST is SIZE, the file of the large picture and that of the drawn one, between tabs.
-// Likeness is the mean structural similarity (SSIM) of brightness (0.299 R + 0.587 G + 0.114 B) with
-// both pictures over mid grey (128), in all 7 x 7 windows that lie inside the picture, every pixel
-// of a window weighing the same, with the usual constants (0.01 x 255)^2 and (0.03 x 255)^2.
+// Likeness is the mean structural similarity (SSIM) of brightness (0.299 R + 0.587 G + 0.114 B), in
+// all windows of 7 x 7 pixels that lie inside the picture, every pixel of a window weighing the
+// same, with the usual constants (0.01 x 255)^2 and (0.03 x 255)^2. It is told twice, with both
+// pictures over mid grey (128) and over white: each recipe's mean and on how many icons it is the
+// best, the mean of the best of each icon, and how far that is above plain.
 #include <algorithm>
 #include <array>
 #include <cstdio>
@@ -12,7 +14,6 @@
 #include <fstream>
 #include <iostream>
 #include <map>
-#include <sstream>
 #include <string>
 #include <vector>
 
@@ -25,10 +26,9 @@ using namespace orbelle;
 using graphics::Argb;
 using graphics::Bitmap;
 
-double kGround = std::getenv("GROUND") ? atof(std::getenv("GROUND")) : 128;
-int kWindow = std::getenv("WINDOW") ? atoi(std::getenv("WINDOW")) : 7;
+constexpr int kWindow = 7;
 
-std::vector<double> BrightnessOf(const Bitmap& picture) {
+std::vector<double> BrightnessOf(const Bitmap& picture, double ground) {
     std::vector<double> brightness;
     for (int y = 0; y < picture.Height(); ++y) {
         for (int x = 0; x < picture.Width(); ++x) {
@@ -36,16 +36,16 @@ std::vector<double> BrightnessOf(const Bitmap& picture) {
             const double alpha = graphics::AlphaOf(color) / 255.0;
             const double own = 0.299 * graphics::RedOf(color) + 0.587 * graphics::GreenOf(color) +
                                0.114 * graphics::BlueOf(color);
-            brightness.push_back(own * alpha + kGround * (1 - alpha));
+            brightness.push_back(own * alpha + ground * (1 - alpha));
         }
     }
     return brightness;
 }
 
 // Both of the same size.
-double Likeness(const Bitmap& left, const Bitmap& right) {
+double Likeness(const Bitmap& left, const Bitmap& right, double ground) {
     const double c1 = 0.01 * 255 * 0.01 * 255, c2 = 0.03 * 255 * 0.03 * 255;
-    const std::vector<double> a = BrightnessOf(left), b = BrightnessOf(right);
+    const std::vector<double> a = BrightnessOf(left, ground), b = BrightnessOf(right, ground);
     const int width = left.Width();
     const double count = kWindow * kWindow;
     double total = 0;
@@ -74,61 +74,84 @@ double Likeness(const Bitmap& left, const Bitmap& right) {
     return windows > 0 ? total / windows : 1;
 }
 
+constexpr std::size_t kRecipes = filters::kSizeRecipes.size();
+
+// What is known of one size.
 struct Sum {
-    int Pictures = 0;
-    std::array<double, filters::kSizeRecipes.size()> Each = {};
-    std::array<int, filters::kSizeRecipes.size()> Wins = {};
+    int Icons = 0;
+    std::array<double, kRecipes> Each = {};
+    std::array<int, kRecipes> Wins = {};
     double Best = 0;
+
+    void Add(const std::array<double, kRecipes>& likenesses) {
+        ++Icons;
+        for (std::size_t i = 0; i < kRecipes; ++i)
+            Each[i] += likenesses[i];
+        const auto* best = std::ranges::max_element(likenesses);
+        ++Wins[static_cast<std::size_t>(best - likenesses.begin())];
+        Best += *best;
+    }
 };
 
-void Print(const std::string& title, const Sum& sum) {
-    std::printf("%-6s %5d", title.c_str(), sum.Pictures);
-    for (std::size_t i = 0; i < sum.Each.size(); ++i)
-        std::printf("   %.3f %4d", sum.Each[i] / sum.Pictures, sum.Wins[i]);
-    std::printf("   %.3f  %+.3f\n", sum.Best / sum.Pictures,
-                (sum.Best - sum.Each[0]) / sum.Pictures);
+using Sums = std::map<int, Sum>;
+
+struct Ground {
+    const char* Name;
+    double Brightness;
+    Sums BySize;
+};
+
+struct Pair {
+    int Size = 0;
+    std::string Large, Drawn;
+};
+
+std::istream& operator>>(std::istream& list, Pair& pair) {
+    std::string size;
+    std::getline(list, size, '\t');
+    std::getline(list, pair.Large, '\t');
+    std::getline(list, pair.Drawn);
+    pair.Size = std::atoi(size.c_str());
+    return list;
+}
+
+void Print(const Ground& ground) {
+    std::printf("over %s\n%4s %6s", ground.Name, "size", "icons");
+    for (const auto recipe : filters::kSizeRecipes)
+        std::printf("%13s", std::string(filters::NameOf(recipe)).c_str());
+    std::printf("%8s%12s\n", "best", "over plain");
+    for (const auto& [size, sum] : ground.BySize) {
+        std::printf("%4d %6d", size, sum.Icons);
+        for (std::size_t i = 0; i < kRecipes; ++i)
+            std::printf("%8.3f%5d", sum.Each[i] / sum.Icons, sum.Wins[i]);
+        std::printf("%8.3f%+12.3f\n", sum.Best / sum.Icons, (sum.Best - sum.Each[0]) / sum.Icons);
+    }
 }
 
 void Measure(std::istream& list) {
-    std::map<int, Sum> sums;
-    std::string line, loaded;
-    Bitmap master;
-    while (std::getline(list, line)) {
-        std::istringstream fields(line);
-        std::string number, masterFile, drawnFile;
-        std::getline(fields, number, '\t');
-        std::getline(fields, masterFile, '\t');
-        std::getline(fields, drawnFile, '\t');
-        const int size = std::stoi(number);
-        if (masterFile != loaded)
-            master = graphics::LoadImageFromFile(masterFile);
-        loaded = masterFile;
-        const Bitmap drawn = graphics::LoadImageFromFile(drawnFile);
-        if (drawn.Width() != size || drawn.Height() != size)
+    Ground grounds[] = {{"grey", 128, {}}, {"white", 255, {}}};
+    std::string loaded;
+    Bitmap large;
+    for (Pair pair; list >> pair;) {
+        if (pair.Large != loaded)
+            large = graphics::LoadImageFromFile(pair.Large);
+        loaded = pair.Large;
+        const Bitmap drawn = graphics::LoadImageFromFile(pair.Drawn);
+        if (drawn.Width() != pair.Size || drawn.Height() != pair.Size)
             continue;
-        Sum& sum = sums[size];
-        std::array<double, filters::kSizeRecipes.size()> each;
-        for (const auto recipe : filters::kSizeRecipes) {
-            const auto i = static_cast<std::size_t>(recipe);
-            each[i] = Likeness(filters::ApplyRecipe(recipe, master, size), drawn);
-            sum.Each[i] += each[i];
-        }
-        const auto* best = std::ranges::max_element(each);
-        ++sum.Wins[static_cast<std::size_t>(best - each.begin())];
-        sum.Best += *best;
-        ++sum.Pictures;
-        if (std::getenv("EACH")) {
-            std::printf("%d", size);
-            for (double e : each) std::printf(" %.3f", e);
-            std::printf(" %s\n", drawnFile.c_str());
+        std::array<Bitmap, kRecipes> made;
+        std::ranges::transform(filters::kSizeRecipes, made.begin(), [&](auto recipe) {
+            return filters::ApplyRecipe(recipe, large, pair.Size);
+        });
+        for (Ground& ground : grounds) {
+            std::array<double, kRecipes> likenesses;
+            std::ranges::transform(made, likenesses.begin(), [&](const Bitmap& picture) {
+                return Likeness(picture, drawn, ground.Brightness);
+            });
+            ground.BySize[pair.Size].Add(likenesses);
         }
     }
-    std::printf("size   icons");
-    for (const auto recipe : filters::kSizeRecipes)
-        std::printf(" %12s", std::string(filters::NameOf(recipe)).c_str());
-    std::printf("    best  over plain\n");
-    for (const auto& [size, sum] : sums)
-        Print(std::to_string(size), sum);
+    std::ranges::for_each(grounds, Print);
 }
 
 }  // namespace

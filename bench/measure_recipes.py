@@ -73,10 +73,10 @@ def pairs(package, place, limit, seen):
         source = own_file(*(folder / pattern.format(0, kind, name + ".x") for pattern in large))
         master = source and raster(source, MASTER)
         lines = []
-        for size in (16, 24, 22, 32, 48):
+        for size in (16, 22, 24, 32, 48):
             drawn = own_file(folder / place.format(size, kind, name + ".x"))
             # A picture of 24 where there is one of 22 is that one with a margin around it.
-            if not master or not drawn or (size == 22 and lines and lines[-1].startswith("24")):
+            if not master or not drawn or (size == 24 and lines and lines[-1].startswith("22")):
                 continue
             picture = raster(drawn, size)
             if picture and picture.read_bytes() not in seen:
