@@ -1,13 +1,17 @@
 #include "app/icon_images_dialog.h"
 
 #include <QDialogButtonBox>
+#include <QFontMetrics>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPainter>
+#include <QPushButton>
+#include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QStyleOptionFocusRect>
 #include <QVBoxLayout>
+#include <set>
 
 #include "app/shared_image.h"
 #include "widgets/chrome.h"
@@ -15,142 +19,265 @@
 namespace orbelle::app {
 namespace {
 
-constexpr int kStripHeight = 200;
-constexpr int kVisibleCells = 5;
-constexpr QColor kBackColor(245, 245, 245);
+using How = CellChoice::How;
+
 constexpr QColor kPlateColor(255, 255, 255);
-constexpr QColor kSelectedPlateColor(255, 255, 255, 100);
-constexpr QColor kCaptionColor(0, 0, 0, 200);
-constexpr int kCaptionWidth = 200;
+constexpr QColor kChosenPlateColor(229, 241, 255);
+constexpr QColor kCheckColor(230, 230, 230);
+constexpr int kFrameWidth = 2;
+constexpr double kCaptionPoints = 8;
+constexpr int kMargin = 20;
+// What the dialog is wider and higher than its cells at most, with the window's frame.
+constexpr QSize kAroundCells(2 * kMargin + 40, 240);
 constexpr char kHint[] =
     "An icon can include several image formats, choose a image format you want.";
+constexpr char kSeveralHint[] = " With Ctrl or Shift you choose several.";
 
 QRect RectOf(const graphics::RectI& rect) {
     return {rect.X, rect.Y, rect.Width, rect.Height};
 }
 
+QFont CaptionFont() {
+    return widgets::ChromeFont(kCaptionPoints);
+}
+
+IconGrid GridFor(const std::vector<formats::IconEntryImage>& offered, QSize room) {
+    const QFontMetrics metrics(CaptionFont());
+    int width = 0;
+    IconGrid grid(offered);
+    for (int i = 0; i < grid.Count(); ++i)
+        for (const std::string& text : {grid.SizeText(i), grid.DepthText(i)})
+            width = std::max(width, metrics.horizontalAdvance(QString::fromStdString(text)));
+    grid.FitInto({room.width(), room.height()}, {width, 2 * metrics.lineSpacing()});
+    return grid;
+}
+
+How HowWith(Qt::KeyboardModifiers keys) {
+    if (keys & Qt::ShiftModifier)
+        return How::Range;
+    return keys & Qt::ControlModifier ? How::Toggle : How::Alone;
+}
+
+bool HasSeveralSizes(const std::vector<formats::IconEntryImage>& images) {
+    std::set<int> sizes;
+    for (const formats::IconEntryImage& image : images)
+        if (formats::IsIconSize(image))
+            sizes.insert(image.Width);
+    return sizes.size() >= 2;
+}
+
 }  // namespace
 
-IconStripView::IconStripView(const std::vector<formats::IconEntryImage>& offered)
-    : strip_(offered) {
+IconGridView::IconGridView(const std::vector<formats::IconEntryImage>& offered, bool takesSeveral,
+                           QSize room)
+    : grid_(GridFor(offered, room)),
+      choice_(grid_.Count(), grid_.Best(), takesSeveral),
+      shrunk_(offered.size()) {
+    widgets::ShowPartsToAssistiveTools();
     setAccessibleName("Images of the icon");
     setFocusPolicy(Qt::StrongFocus);
-    setFixedSize(strip_.Width(), kStripHeight);
-    TellSelection();
+    setFixedSize(grid_.Size().Width, grid_.Size().Height);
 }
 
-void IconStripView::Select(int index) {
-    if (index < 0 || index >= static_cast<int>(strip_.Images.size()))
-        return;
-    strip_.SelectedIndex = index;
-    TellSelection();
+void IconGridView::Choose(int index, How how) {
+    choice_.Choose(index, how);
+    TellCurrent();
+    emit ChoiceChanged();
+}
+
+void IconGridView::TellCurrent() {
     update();
-    emit SelectionMoved(RectOf(strip_.Cell(index, height())));
+    const int current = choice_.Current();
+    if (current < 0)
+        return;
+    if (hasFocus())
+        widgets::AnnounceFocus(*this, current);
+    emit CurrentMoved(PartPlace(current));
 }
 
-void IconStripView::TellSelection() {
-    const int index = strip_.SelectedIndex;
-    if (index >= 0)
-        setAccessibleDescription(QString("%1, %2 of %3")
-                                     .arg(QString::fromStdString(strip_.Caption(index)))
-                                     .arg(index + 1)
-                                     .arg(strip_.Images.size()));
+QString IconGridView::PartName(int part) const {
+    return QString::fromStdString(grid_.SizeText(part) + ", " + grid_.DepthText(part));
 }
 
-void IconStripView::paintEvent(QPaintEvent* event) {
+QString IconGridView::PartValue(int part) const {
+    return QString("%1 of %2").arg(part + 1).arg(grid_.Count());
+}
+
+QRect IconGridView::PartPlace(int part) const {
+    return RectOf(grid_.Cell(part));
+}
+
+QAccessible::Role IconGridView::PartRole(int) const {
+    return QAccessible::ListItem;
+}
+
+QAccessible::State IconGridView::PartState(int part) const {
+    QAccessible::State state;
+    state.selectable = true;
+    state.selected = choice_.IsChosen(part);
+    return state;
+}
+
+void IconGridView::paintEvent(QPaintEvent* event) {
     QPainter painter(this);
-    painter.setRenderHint(QPainter::SmoothPixmapTransform);
-    painter.setFont(widgets::ChromeFont(8));
-    for (int i = 0; i < static_cast<int>(strip_.Images.size()); ++i)
-        if (RectOf(strip_.Cell(i, height())).intersects(event->rect()))
+    painter.setFont(CaptionFont());
+    for (int i = 0; i < grid_.Count(); ++i)
+        if (PartPlace(i).intersects(event->rect()))
             PaintCell(painter, i);
 }
 
-void IconStripView::PaintCell(QPainter& painter, int index) const {
-    const bool selected = index == strip_.SelectedIndex;
-    QRect plate = RectOf(strip_.Cell(index, height()));
-    plate.setWidth(IconImageStrip::kCellPlateWidth);
-    painter.fillRect(plate, selected ? kSelectedPlateColor : kPlateColor);
-
-    const QRect place = RectOf(strip_.Thumbnail(index, height()));
-    if (!place.isEmpty())
-        painter.drawImage(place, SharedImage(strip_.Images[static_cast<std::size_t>(index)].Image));
-
-    const graphics::PointF caption = strip_.CaptionPlace(index, height());
-    painter.setPen(kCaptionColor);
-    painter.drawText(QRectF(caption.X, caption.Y, kCaptionWidth, height() - caption.Y),
-                     Qt::AlignLeft | Qt::AlignTop, QString::fromStdString(strip_.Caption(index)));
-
-    // The two plates differ by a shade: someone who chooses by key has to see more.
-    if (selected && hasFocus()) {
+void IconGridView::PaintCell(QPainter& painter, int index) {
+    const bool chosen = choice_.IsChosen(index);
+    const QRect cell = PartPlace(index).adjusted(1, 1, -1, -1);
+    painter.fillRect(cell, chosen ? kChosenPlateColor : kPlateColor);
+    PaintPicture(painter, index);
+    painter.setPen(widgets::kTextColor);
+    painter.drawText(RectOf(grid_.Caption(index)), Qt::AlignHCenter | Qt::AlignTop,
+                     QString::fromStdString(grid_.SizeText(index) + '\n' + grid_.DepthText(index)));
+    if (chosen) {
+        painter.setPen(
+            QPen(widgets::kAccentColor, kFrameWidth, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+        painter.drawRect(cell.adjusted(1, 1, -1, -1));
+    }
+    // Where several can be chosen the current one need not be.
+    if (index == choice_.Current() && hasFocus()) {
         QStyleOptionFocusRect option;
         option.initFrom(this);
-        option.rect = plate;
-        option.backgroundColor = kBackColor;
+        option.rect = cell.adjusted(3, 3, -3, -3);
+        option.backgroundColor = kPlateColor;
         style()->drawPrimitive(QStyle::PE_FrameFocusRect, &option, &painter, this);
     }
 }
 
-void IconStripView::mousePressEvent(QMouseEvent* event) {
+// Each pixel a whole one where the picture has its own size, also on a finer screen.
+void IconGridView::PaintPicture(QPainter& painter, int index) {
+    const auto at = static_cast<std::size_t>(index);
+    const QRect place = RectOf(grid_.Thumbnail(index));
+    painter.fillRect(place, kPlateColor);
+    widgets::DrawChecker(painter, place, kCheckColor);
+    const QImage image = SharedImage(grid_.Images()[at].Image);
+    if (image.size() == place.size()) {
+        painter.drawImage(place, image);
+        return;
+    }
+    if (shrunk_[at].isNull()) {
+        const double pixels = devicePixelRatioF();
+        shrunk_[at] = QPixmap::fromImage(
+            image.scaled(place.size() * pixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+        shrunk_[at].setDevicePixelRatio(pixels);
+    }
+    painter.drawPixmap(place, shrunk_[at]);
+}
+
+void IconGridView::mousePressEvent(QMouseEvent* event) {
     const QPoint point = event->position().toPoint();
-    strip_.Press(point.x(), point.y(), height());
-    Select(strip_.SelectedIndex);
+    Choose(grid_.CellAt(point.x(), point.y()), HowWith(event->modifiers()));
 }
 
-// The first press of the two has selected.
-void IconStripView::mouseDoubleClickEvent(QMouseEvent*) {
-    emit DoubleClicked();
+// The first press of the two has chosen.
+void IconGridView::mouseDoubleClickEvent(QMouseEvent* event) {
+    const QPoint point = event->position().toPoint();
+    if (grid_.CellAt(point.x(), point.y()) >= 0)
+        emit DoubleClicked();
 }
 
-void IconStripView::keyPressEvent(QKeyEvent* event) {
-    const int last = static_cast<int>(strip_.Images.size()) - 1;
-    switch (event->key()) {
+int IconGridView::CellByKey(int key) const {
+    const int current = choice_.Current();
+    const int last = grid_.Count() - 1;
+    switch (key) {
         case Qt::Key_Left:
-            return Select(strip_.SelectedIndex - 1);
+            return current - 1;
         case Qt::Key_Right:
-            return Select(strip_.SelectedIndex + 1);
+            return current < last ? current + 1 : -1;
+        case Qt::Key_Up:
+            return current - grid_.Columns();
+        case Qt::Key_Down: {
+            // Into a last row that ends before this column.
+            const bool hasRowBelow = current / grid_.Columns() < last / grid_.Columns();
+            return hasRowBelow ? std::min(current + grid_.Columns(), last) : -1;
+        }
         case Qt::Key_Home:
-            return Select(0);
+            return 0;
         case Qt::Key_End:
-            return Select(last);
+            return last;
         default:
-            QWidget::keyPressEvent(event);
+            return -1;
     }
 }
 
+void IconGridView::keyPressEvent(QKeyEvent* event) {
+    constexpr int kMoving[] = {Qt::Key_Left, Qt::Key_Right, Qt::Key_Up,
+                               Qt::Key_Down, Qt::Key_Home,  Qt::Key_End};
+    const How how = HowWith(event->modifiers());
+    if (event->key() == Qt::Key_Space) {
+        Choose(choice_.Current(), how == How::Range ? How::Range : How::Toggle);
+    } else if (std::ranges::find(kMoving, event->key()) == std::end(kMoving)) {
+        QWidget::keyPressEvent(event);
+    } else if (const int cell = CellByKey(event->key()); cell < 0) {
+        return;
+    } else if (how == How::Toggle) {
+        choice_.MoveTo(cell);
+        TellCurrent();
+    } else {
+        Choose(cell, how);
+    }
+}
+
+void IconGridView::focusInEvent(QFocusEvent* event) {
+    QWidget::focusInEvent(event);
+    TellCurrent();
+}
+
 IconImagesDialog::IconImagesDialog(const std::vector<formats::IconEntryImage>& offered,
-                                   QWidget* parent)
-    : QDialog(parent), strip_(new IconStripView(offered)) {
+                                   const IconQuestion& question, QWidget* parent)
+    : QDialog(parent) {
     setWindowTitle("Choose Icon Format");
+    const QSize room = screen()->availableSize() - kAroundCells;
+    grid_ = new IconGridView(offered, question.TakesSeveral, room);
+
     auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(20, 20, 20, 16);
+    layout->setContentsMargins(kMargin, kMargin, kMargin, 16);
     layout->setSpacing(16);
-    auto* hint = new QLabel(kHint);
+    auto* hint = new QLabel(QString(kHint) + (question.TakesSeveral ? kSeveralHint : ""));
     hint->setWordWrap(true);
     layout->addWidget(hint);
 
     auto* area = new QScrollArea;
-    area->setWidget(strip_);
+    area->setWidget(grid_);
+    area->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
     area->setFocusPolicy(Qt::NoFocus);
     area->setFrameShape(QFrame::NoFrame);
-    area->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    QPalette palette = area->palette();
-    palette.setColor(QPalette::Window, kBackColor);
-    area->setPalette(palette);
-    area->setFixedHeight(kStripHeight + area->horizontalScrollBar()->sizeHint().height());
-    area->setMinimumWidth(kVisibleCells * IconImageStrip::kCellWidth);
-    layout->addWidget(area);
-    connect(strip_, &IconStripView::DoubleClicked, this, &IconImagesDialog::accept);
-    connect(strip_, &IconStripView::SelectionMoved, area, [area](const QRect& cell) {
+    area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    const bool scrolls = grid_->height() > room.height();
+    const int bar = scrolls ? area->verticalScrollBar()->sizeHint().width() : 0;
+    area->setMinimumSize(grid_->width() + bar, std::min(grid_->height(), room.height()));
+    layout->addWidget(area, 1);
+    connect(grid_, &IconGridView::CurrentMoved, area, [area](const QRect& cell) {
         const QPoint centre = cell.center();
-        area->ensureVisible(centre.x(), centre.y(), cell.width() / 2, 0);
+        area->ensureVisible(centre.x(), centre.y(), 0, cell.height() / 2 + 1);
     });
 
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
     layout->addWidget(buttons);
-    connect(buttons, &QDialogButtonBox::accepted, this, &IconImagesDialog::accept);
+    QPushButton* ok = buttons->button(QDialogButtonBox::Ok);
+    connect(ok, &QPushButton::clicked, this, [this] { Take(false); });
     connect(buttons, &QDialogButtonBox::rejected, this, &IconImagesDialog::reject);
-    strip_->setFocus();
+    connect(grid_, &IconGridView::ChoiceChanged, ok,
+            [this, ok] { ok->setEnabled(!grid_->Choice().Chosen().empty()); });
+    connect(grid_, &IconGridView::DoubleClicked, ok, &QPushButton::click);
+    ok->setEnabled(!offered.empty());
+    if (question.OffersAllSizes && HasSeveralSizes(offered)) {
+        auto* all = buttons->addButton("Open &All Sizes", QDialogButtonBox::ActionRole);
+        all->setAutoDefault(false);
+        connect(all, &QPushButton::clicked, this, [this] { Take(true); });
+    }
+    ok->setDefault(true);
+    grid_->setFocus();
+}
+
+void IconImagesDialog::Take(bool allSizes) {
+    choice_ = {grid_->Choice().Chosen(), allSizes};
+    accept();
 }
 
 }  // namespace orbelle::app

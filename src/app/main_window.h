@@ -95,8 +95,8 @@ public:
     std::filesystem::path AskFileToWrite(const std::string& filter,
                                          const std::filesystem::path& proposed) override;
     std::optional<int> AskGifThreshold(const graphics::Bitmap& surface) override;
-    std::optional<int> ChooseIconImage(
-        const std::vector<formats::IconEntryImage>& offered) override;
+    std::optional<IconChoice> ChooseIconImages(const std::vector<formats::IconEntryImage>& offered,
+                                               const IconQuestion& question) override;
     std::optional<graphics::Argb> AskColor(const ColorQuestion& question) override;
 
     void Put(const graphics::Bitmap& picture, const std::string& text) override;

@@ -153,12 +153,12 @@ std::optional<int> MainWindow::AskGifThreshold(const graphics::Bitmap& surface) 
     return optimizer.OptimizeValue();
 }
 
-std::optional<int> MainWindow::ChooseIconImage(
-    const std::vector<formats::IconEntryImage>& offered) {
-    IconImagesDialog dialog(offered, this);
+std::optional<IconChoice> MainWindow::ChooseIconImages(
+    const std::vector<formats::IconEntryImage>& offered, const IconQuestion& question) {
+    IconImagesDialog dialog(offered, question, this);
     if (dialog.exec() != QDialog::Accepted)
         return std::nullopt;
-    return dialog.SelectedIndex();
+    return dialog.Choice();
 }
 
 std::optional<graphics::Argb> MainWindow::AskColor(const ColorQuestion& question) {

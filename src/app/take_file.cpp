@@ -11,43 +11,50 @@ namespace fs = std::filesystem;
 using editing::Editor;
 
 using TakeFile = void (*)(Editor&, const fs::path&, int iconImage);
-using TakePicture = void (*)(Editor&, const graphics::Bitmap&, const fs::path& source);
+using TakePictures = void (*)(Editor&, std::vector<graphics::Bitmap>, const fs::path& source);
 
 TakeResult Ended(Report report) {
     return {report.Failed ? TakeEnd::Failed : TakeEnd::Done, std::move(report.Text)};
 }
 
-TakeResult TakeIconImage(const WindowContext& context, const fs::path& path,
-                         TakePicture takePicture) {
+TakeResult TakeIconImages(const WindowContext& context, const fs::path& path,
+                          const IconQuestion& question, TakePictures takePictures) {
     std::vector<formats::IconEntryImage> offered;
     Report read = context.Commands.Try([&](Editor&) { offered = editing::ReadIconImages(path); });
     if (read.Failed)
         return Ended(std::move(read));
-    const std::optional<int> chosen = context.User.ChooseIconImage(offered);
-    if (!chosen || *chosen < 0 || *chosen >= static_cast<int>(offered.size()))
+    const std::optional<IconChoice> choice = context.User.ChooseIconImages(offered, question);
+    if (!choice || choice->Images.empty())
         return {TakeEnd::Cancelled, {}};
-    const graphics::Bitmap& picture = offered[static_cast<std::size_t>(*chosen)].Image;
-    return Ended(context.Commands.Try([&](Editor& editor) { takePicture(editor, picture, path); }));
+    std::vector<graphics::Bitmap> pictures;
+    for (const int image : choice->Images)
+        pictures.push_back(offered[static_cast<std::size_t>(image)].Image);
+    return Ended(
+        context.Commands.Try([&](Editor& editor) { takePictures(editor, pictures, path); }));
 }
 
-TakeResult Take(const WindowContext& context, const fs::path& path, TakeFile takeFile,
-                TakePicture takePicture) {
-    if (editing::IsIconFile(path))
-        return TakeIconImage(context, path, takePicture);
+void OpenFirst(Editor& editor, std::vector<graphics::Bitmap> pictures, const fs::path& source) {
+    OpenPicture(editor, pictures[0], source);
+}
+
+TakeResult TakeOther(const WindowContext& context, const fs::path& path, TakeFile takeFile) {
     return Ended(context.Commands.Try([&](Editor& editor) { takeFile(editor, path, 0); }));
 }
 
 }  // namespace
 
 TakeResult TakeToOpen(const WindowContext& context, const fs::path& path) {
-    TakeResult result = Take(context, path, editing::OpenFile, editing::OpenPicture);
+    TakeResult result = editing::IsIconFile(path) ? TakeIconImages(context, path, {}, OpenFirst)
+                                                  : TakeOther(context, path, editing::OpenFile);
     if (result.End == TakeEnd::Done)
         context.Recent.Note(path);
     return result;
 }
 
 TakeResult TakeToImport(const WindowContext& context, const fs::path& path) {
-    return Take(context, path, editing::ImportFile, editing::ImportPicture);
+    if (editing::IsIconFile(path))
+        return TakeIconImages(context, path, {.TakesSeveral = true}, editing::ImportPictures);
+    return TakeOther(context, path, editing::ImportFile);
 }
 
 }  // namespace orbelle::app

@@ -26,6 +26,16 @@ struct ColorQuestion {
     bool HasAlpha = false;     // else colours are opaque
 };
 
+struct IconQuestion {
+    bool TakesSeveral = false;
+    bool OffersAllSizes = false;  // where the file has pictures of several sizes
+};
+
+struct IconChoice {
+    std::vector<int> Images;  // places among those offered, rising; at least one
+    bool AllSizes = false;    // rather the whole file, every picture for its size
+};
+
 class UserQuestions {
 public:
     // A plain message box with one button.
@@ -53,9 +63,9 @@ public:
     // At which alpha (0 to 200) a pixel of the surface counts as opaque in a GIF. No value:
     // cancelled.
     virtual std::optional<int> AskGifThreshold(const graphics::Bitmap& surface) = 0;
-    // Which image of an icon file to take, as its place among those offered. No value: cancelled.
-    virtual std::optional<int> ChooseIconImage(
-        const std::vector<formats::IconEntryImage>& offered) = 0;
+    // Which images of an icon file to take. No value: cancelled.
+    virtual std::optional<IconChoice> ChooseIconImages(
+        const std::vector<formats::IconEntryImage>& offered, const IconQuestion& question) = 0;
     // The colour dialog; no value: cancelled.
     virtual std::optional<graphics::Argb> AskColor(const ColorQuestion& question) = 0;
 

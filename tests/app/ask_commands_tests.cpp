@@ -266,11 +266,38 @@ TEST_F(AskCommandsTest, OfAnIconFileTheChosenImageIsTaken) {
         ask(desk.Context);
         EXPECT_THAT(desk.Told, ElementsAre("read?", "image?"));
         EXPECT_FALSE(desk.State.DocumentExists) << "cancelled";
-        desk.IconImage = 1;
+        desk.IconImages = IconChoice{{1}};
         ask(desk.Context);
         EXPECT_EQ(desk.State.Page().Width, 24);
         EXPECT_EQ(desk.State.Page().LayerCount(), 1);
     }
+}
+
+TEST_F(AskCommandsTest, SeveralImagesOfAnIconAreImportedInOneStep) {
+    const graphics::Bitmap images[] = {FilledPicture(16, 16, 0xFFC02040),
+                                       FilledPicture(32, 32, 0xFFC02040),
+                                       FilledPicture(24, 24, 0xFFC02040)};
+    std::vector<std::uint8_t> icon = formats::EncodeIcon(images, formats::IconFormat::Bmp);
+    icon.resize(icon.size() - 500);  // the last one is bad, and is not offered
+    graphics::WriteFile(folder / "a.ico", icon);
+    Desk desk;
+    desk.ToRead = folder / "a.ico";
+    desk.IconImages = IconChoice{{0, 1}};
+    AskImport(desk.Context);
+    EXPECT_TRUE(desk.AskedOfIcon.TakesSeveral);
+    EXPECT_EQ(desk.State.Page().Width, 32) << "the larger one makes the page";
+    EXPECT_EQ(desk.State.Page().LayerCount(), 2);
+    EXPECT_EQ(desk.State.History.UndoIndex(), 1);
+    AskImport(desk.Context);
+    EXPECT_EQ(desk.State.Page().LayerCount(), 4);
+    EXPECT_EQ(desk.State.Page().Layers[2].ImageWidth, 16);
+    EXPECT_EQ(desk.State.History.UndoIndex(), 2);
+
+    icon.resize(60);
+    graphics::WriteFile(folder / "a.ico", icon);
+    AskImport(desk.Context);
+    EXPECT_EQ(desk.Told.back(), "message");
+    EXPECT_NE(desk.Message.find("no image of the icon can be read: "), std::string::npos);
 }
 
 TEST_F(AskCommandsTest, AFileThatCannotBeReadIsToldAndChangesNothing) {
@@ -372,7 +399,7 @@ TEST_F(AskCommandsTest, AFileDialogBeginsWithTheNameOfTheDocumentOrOfItsPicture)
     graphics::WriteFile(picture, graphics::EncodePng(red));
     graphics::WriteFile(icon, formats::EncodeIcon({&red, 1}, formats::IconFormat::Bmp));
     desk.SaveAnswer = SavePromptAnswer::No;
-    desk.IconImage = 0;
+    desk.IconImages = IconChoice{{0}};
     desk.ToRead = picture;
     AskImport(desk.Context);
     EXPECT_EQ(proposed(save), "icon.volf") << "a layer gives no name";

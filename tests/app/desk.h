@@ -26,7 +26,9 @@ public:
     bool OverwriteAnswer = false;  // also of what another program has changed
     int FilesAtMost = INT_MAX;     // then the user stops a long run
     std::filesystem::path ToRead, ToWrite;
-    std::optional<int> GifThreshold, IconImage;
+    std::optional<int> GifThreshold;
+    std::optional<IconChoice> IconImages;
+    IconQuestion AskedOfIcon;
     std::optional<graphics::Argb> Color;
     std::vector<std::string> Told;
     std::string Message, Status;  // the last
@@ -85,8 +87,10 @@ public:
     std::optional<int> AskGifThreshold(const graphics::Bitmap&) override {
         return Answer("threshold?", GifThreshold);
     }
-    std::optional<int> ChooseIconImage(const std::vector<formats::IconEntryImage>&) override {
-        return Answer("image?", IconImage);
+    std::optional<IconChoice> ChooseIconImages(const std::vector<formats::IconEntryImage>&,
+                                               const IconQuestion& question) override {
+        AskedOfIcon = question;
+        return Answer("image?", IconImages);
     }
     std::optional<graphics::Argb> AskColor(const ColorQuestion& question) override {
         Question = question;

@@ -1,5 +1,5 @@
 // The dialogs and what they are made of; the settings that they and the window leave.
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 #include <QDialogButtonBox>
 #include <QGuiApplication>
@@ -29,6 +29,7 @@ namespace orbelle::app {
 namespace {
 
 using namespace orbelle::testing;
+using ::testing::ElementsAre;
 
 TEST(ColorWellTest, MouseAndKeysClickAndDoubleClick) {
     ColorWell well("Foreground color");
@@ -108,78 +109,199 @@ TEST_F(GifOptimizerDialogTest, TheResultFollowsTheValue) {
 
 constexpr graphics::Argb kRed = 0xFFC02040;
 
+formats::IconEntryImage IconImage(int width, int height, int bits = 32) {
+    formats::IconEntryImage image;
+    image.Width = width;
+    image.Height = height;
+    image.Bits = bits;
+    image.Format = formats::IconEntryFormat::Bitmap;
+    image.Image = FilledPicture(width, height, kRed);
+    return image;
+}
+
 std::vector<formats::IconEntryImage> Images(const std::vector<int>& sides) {
     std::vector<formats::IconEntryImage> images;
     for (int side : sides)
-        images.push_back({side, side, 32, FilledPicture(side, side, kRed)});
+        images.push_back(IconImage(side, side));
     return images;
 }
 
-IconStripView& Strip(const IconImagesDialog& dialog) {
-    return *dialog.findChild<IconStripView*>();
+IconGridView& Cells(const IconImagesDialog& dialog) {
+    return *dialog.findChild<IconGridView*>();
 }
 
-TEST(IconImagesDialogTest, PressesAndKeysSelectAndADoubleClickChooses) {
-    IconImagesDialog dialog(Images({48, 32, 16}));
+QPushButton* AllSizes(const IconImagesDialog& dialog) {
+    for (QPushButton* button : dialog.findChildren<QPushButton*>())
+        if (button->text().remove('&') == "Open All Sizes")
+            return button;
+    return nullptr;
+}
+
+void StrikeWith(QWidget& widget, Qt::Key key, Qt::KeyboardModifiers keys) {
+    QKeyEvent event(QEvent::KeyPress, key, keys);
+    QApplication::sendEvent(&widget, &event);
+}
+
+TEST(IconImagesDialogTest, PressesAndKeysChooseAndADoubleClickTakes) {
+    // Rows of 4 and 3; the largest is chosen, and of two of a size that with more bits.
+    std::vector<formats::IconEntryImage> images = Images({48, 32, 16, 48, 9, 9});
+    images.push_back(IconImage(48, 48, 24));
+    images[0].Bits = 8;
+    IconImagesDialog dialog(images, {});
     dialog.open();
-    IconStripView& strip = Strip(dialog);
-    for (const auto& [x, selected] : {std::pair(99, 0), {100, 1}, {299, 2}, {0, 0}, {200, 2}}) {
-        Click(strip, QPointF(x, 100));
-        EXPECT_EQ(dialog.SelectedIndex(), selected) << x;
+    IconGridView& cells = Cells(dialog);
+    ASSERT_EQ(cells.Grid().Columns(), 4);
+    EXPECT_THAT(cells.Choice().Chosen(), ElementsAre(3));
+    for (const int cell : {5, 6, 0}) {
+        Click(cells, cells.PartPlace(cell).center());
+        EXPECT_THAT(cells.Choice().Chosen(), ElementsAre(cell));
     }
-    EXPECT_EQ(strip.accessibleDescription(), "16x16, 3 of 3");
-    const std::pair<Qt::Key, int> keys[] = {{Qt::Key_Right, 2}, {Qt::Key_Left, 1},
-                                            {Qt::Key_Left, 0},  {Qt::Key_Left, 0},
-                                            {Qt::Key_End, 2},   {Qt::Key_Home, 0}};
-    for (const auto& [key, selected] : keys) {
-        Strike(strip, key);
-        EXPECT_EQ(dialog.SelectedIndex(), selected) << key;
+    Click(cells, QPointF(cells.width() - 1, cells.height() - 1));
+    EXPECT_THAT(cells.Choice().Chosen(), ElementsAre(0)) << "beside the cells";
+    const std::pair<Qt::Key, int> keys[] = {
+        {Qt::Key_Left, 0}, {Qt::Key_Up, 0},    {Qt::Key_Right, 1}, {Qt::Key_Down, 5},
+        {Qt::Key_Down, 5}, {Qt::Key_Right, 6}, {Qt::Key_Right, 6}, {Qt::Key_Left, 5},
+        {Qt::Key_Left, 4}, {Qt::Key_Left, 3},  {Qt::Key_Down, 6},  {Qt::Key_Up, 2},
+        {Qt::Key_Home, 0}, {Qt::Key_End, 6}};
+    for (const auto& [key, chosen] : keys) {
+        Strike(cells, key);
+        EXPECT_THAT(cells.Choice().Chosen(), ElementsAre(chosen)) << key;
     }
-    Click(strip, {150, 100});
-    SendMouse(strip, QEvent::MouseButtonDblClick, {150, 100}, Qt::LeftButton, Qt::LeftButton);
+    StrikeWith(cells, Qt::Key_Home, Qt::ShiftModifier);
+    EXPECT_THAT(cells.Choice().Chosen(), ElementsAre(0)) << "one at most";
+    SendMouse(cells, QEvent::MouseButtonDblClick, cells.PartPlace(0).center(), Qt::LeftButton,
+              Qt::LeftButton);
     EXPECT_EQ(dialog.result(), QDialog::Accepted);
-    EXPECT_EQ(dialog.SelectedIndex(), 1);
+    EXPECT_THAT(dialog.Choice().Images, ElementsAre(0));
+    EXPECT_FALSE(dialog.Choice().AllSizes);
 }
 
-TEST(IconImagesDialogTest, CellsShowPicturesOnPlatesThatTellTheSelection) {
-    IconImagesDialog dialog(Images({48, 256}));
-    Strip(dialog).setAttribute(Qt::WA_DontShowOnScreen);
-    QImage shown(200, 200, QImage::Format_ARGB32);
-    shown.fill(QColor(245, 245, 245));
-    Strip(dialog).render(&shown, QPoint(), QRegion(), QWidget::RenderFlags());
-    EXPECT_EQ(shown.pixel(50, 20), 0xFFF9F9F9);   // white of alpha 100 on the grey
-    EXPECT_EQ(shown.pixel(150, 20), 0xFFFFFFFF);  // the other plate
-    EXPECT_EQ(shown.pixel(199, 20), 0xFFF5F5F5);  // between plates
-    EXPECT_EQ(shown.pixel(26, 66), kRed);
-    EXPECT_EQ(shown.pixel(25, 66), 0xFFF9F9F9);
-    EXPECT_EQ(shown.pixel(150, 40), kRed);
-    EXPECT_EQ(shown.pixel(150, 39), 0xFFFFFFFF);
+TEST(IconImagesDialogTest, SeveralAreChosenWithCtrlAndShift) {
+    IconImagesDialog dialog(Images({16, 24, 32, 48, 64}), {.TakesSeveral = true});
+    dialog.open();
+    IconGridView& cells = Cells(dialog);
+    QPushButton& ok = *dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok);
+    const auto click = [&](int cell, Qt::KeyboardModifiers keys) {
+        SendMouse(cells, QEvent::MouseButtonPress, cells.PartPlace(cell).center(), Qt::LeftButton,
+                  Qt::LeftButton, keys);
+        return cells.Choice().Chosen();
+    };
+    EXPECT_THAT(click(1, Qt::ControlModifier), ElementsAre(1, 4));
+    EXPECT_THAT(click(3, Qt::ShiftModifier), ElementsAre(1, 2, 3));
+    EXPECT_THAT(click(0, Qt::ShiftModifier), ElementsAre(0, 1));
+    EXPECT_THAT(click(0, Qt::ControlModifier), ElementsAre(1));
+    EXPECT_THAT(click(1, Qt::ControlModifier), ElementsAre());
+    EXPECT_FALSE(ok.isEnabled());
+    StrikeWith(cells, Qt::Key_Right, Qt::ControlModifier);
+    EXPECT_THAT(cells.Choice().Chosen(), ElementsAre()) << "only led there";
+    Strike(cells, Qt::Key_Space);
+    EXPECT_THAT(cells.Choice().Chosen(), ElementsAre(2));
+    StrikeWith(cells, Qt::Key_Left, Qt::ShiftModifier);
+    EXPECT_THAT(cells.Choice().Chosen(), ElementsAre(1, 2));
+    ok.click();
+    EXPECT_THAT(dialog.Choice().Images, ElementsAre(1, 2));
 }
 
-TEST(IconImagesDialogTest, TheSelectedCellIsScrolledIntoView) {
-    IconImagesDialog dialog(Images(std::vector<int>(20, 16)));
+TEST(IconImagesDialogTest, CellsShowPicturesAtTheirSizeOnChecksAndTheChoiceInAFrame) {
+    std::vector<formats::IconEntryImage> images = Images({48, 256, 16});
+    graphics::Bitmap dots(16, 16);
+    dots.MutablePixels()[0] = kRed;
+    images[2].Image = dots;
+    IconImagesDialog dialog(images, {});
+    IconGridView& cells = Cells(dialog);
+    cells.setAttribute(Qt::WA_DontShowOnScreen);
+    const QImage shown = cells.grab().toImage();
+    const auto place = [&](int cell) {
+        const graphics::RectI rect = cells.Grid().Thumbnail(cell);
+        return QRect(rect.X, rect.Y, rect.Width, rect.Height);
+    };
+    EXPECT_EQ(place(0).size(), QSize(48, 48));
+    EXPECT_EQ(place(1).size(), QSize(128, 128)) << "shrunk";
+    for (const int cell : {0, 1}) {
+        EXPECT_EQ(shown.pixel(place(cell).topLeft()), kRed);
+        EXPECT_EQ(shown.pixel(place(cell).bottomRight()), kRed);
+        EXPECT_NE(shown.pixel(place(cell).topLeft() - QPoint(1, 0)), kRed);
+        EXPECT_NE(shown.pixel(place(cell).bottomRight() + QPoint(0, 1)), kRed);
+    }
+    const QPoint corner = place(2).topLeft();
+    EXPECT_EQ(shown.pixel(corner), kRed);
+    EXPECT_EQ(shown.pixel(corner + QPoint(1, 0)), 0xFFE6E6E6) << "a check, hard beside the dot";
+    EXPECT_EQ(shown.pixel(corner + QPoint(5, 0)), 0xFFFFFFFF);
+    const auto frame = [&](int cell) {
+        return shown.pixel(cells.PartPlace(cell).topLeft() + QPoint(2, 9));
+    };
+    EXPECT_EQ(frame(0), 0xFFFFFFFF);
+    EXPECT_EQ(frame(1), 0xFF3A96FF);
+}
+
+TEST(IconImagesDialogTest, AssistiveToolsSeeTheCells) {
+    std::vector<formats::IconEntryImage> images = Images({48, 32});
+    images[1].Format = formats::IconEntryFormat::Png;
+    IconImagesDialog dialog(images, {});
+    const IconGridView& cells = Cells(dialog);
+    EXPECT_EQ(cells.PartName(0), "48 x 48, 32 bit");
+    EXPECT_EQ(cells.PartName(1), "32 x 32, PNG, 32 bit");
+    EXPECT_EQ(cells.PartValue(1), "2 of 2");
+    EXPECT_TRUE(cells.PartState(0).selected);
+    EXPECT_FALSE(cells.PartState(1).selected);
+}
+
+TEST(IconImagesDialogTest, AllCellsAreInSightWhereTheyFit) {
+    const auto arranged = [](const std::vector<int>& sides, GridSize room) {
+        IconGrid grid(Images(sides));
+        grid.FitInto(room, {60, 30});
+        return grid;
+    };
+    const std::vector<int> windows{256, 96, 80, 72, 64, 60, 48, 40, 36, 32, 30, 24, 20, 16};
+    EXPECT_EQ(arranged(windows, {1200, 700}).Columns(), 5);  // 740 x 564
+    EXPECT_LE(arranged(windows, {1200, 400}).Size().Height, 400);
+    EXPECT_EQ(arranged(windows, {600, 500}).Cell(0).Height, 96 + 60) << "smaller pictures";
+    EXPECT_LE(arranged(windows, {600, 500}).Size().Height, 500);
+    EXPECT_EQ(arranged({16}, {1200, 700}).Size().Width, 80);
+    const IconGrid many = arranged(std::vector<int>(500, 48), {600, 500});
+    EXPECT_GT(many.Size().Height, 500);
+    EXPECT_EQ(many.Columns(), 7);  // of 80
+
+    IconImagesDialog dialog(Images(std::vector<int>(900, 16)), {});
     dialog.show();
-    Strike(Strip(dialog), Qt::Key_End);
-    EXPECT_FALSE(Strip(dialog).visibleRegion().intersected(QRect(1900, 0, 100, 200)).isEmpty());
+    EXPECT_TRUE(Cells(dialog).visibleRegion().intersects(Cells(dialog).PartPlace(0)));
+    Strike(Cells(dialog), Qt::Key_End);
+    EXPECT_TRUE(Cells(dialog).visibleRegion().intersects(Cells(dialog).PartPlace(899)));
 }
 
-TEST(IconImagesDialogTest, OkTakesTheSelectedImageAndCancelNone) {
+TEST(IconImagesDialogTest, OkTakesTheChosenImagesAndCancelNone) {
     MainWindow window;
     const auto answer = [&](QDialogButtonBox::StandardButton button) {
         AnswerDialog<IconImagesDialog>([button](IconImagesDialog& dialog) {
-            Strip(dialog).Select(1);
+            Cells(dialog).Choose(0, CellChoice::How::Alone);
             dialog.findChild<QDialogButtonBox*>()->button(button)->click();
         });
-        return window.ChooseIconImage(Images({16, 32}));
+        return window.ChooseIconImages(Images({16, 32}), {});
     };
-    EXPECT_EQ(answer(QDialogButtonBox::Cancel), std::nullopt);
-    EXPECT_EQ(answer(QDialogButtonBox::Ok), 1);
+    EXPECT_FALSE(answer(QDialogButtonBox::Cancel));
+    EXPECT_THAT(answer(QDialogButtonBox::Ok)->Images, ElementsAre(0));
 
-    IconImagesDialog empty({});
+    IconImagesDialog empty({}, {});
     empty.open();
-    Strike(Strip(empty), Qt::Key_Right);
-    empty.accept();
-    EXPECT_EQ(empty.SelectedIndex(), -1);
+    Strike(Cells(empty), Qt::Key_Right);
+    Strike(Cells(empty), Qt::Key_Space);
+    EXPECT_THAT(Cells(empty).Choice().Chosen(), ElementsAre());
+}
+
+TEST(IconImagesDialogTest, AllSizesAreOfferedWhereThereAreSeveral) {
+    const auto offers = [](const std::vector<formats::IconEntryImage>& images) {
+        return AllSizes(IconImagesDialog(images, {.OffersAllSizes = true})) != nullptr;
+    };
+    EXPECT_TRUE(offers(Images({16, 32})));
+    EXPECT_TRUE(offers(Images({8, 300, 256})));
+    EXPECT_FALSE(offers(Images({16, 16})));
+    EXPECT_FALSE(offers(Images({7, 257, 32})));
+    EXPECT_FALSE(offers({IconImage(16, 16), IconImage(32, 31)}));
+    EXPECT_EQ(AllSizes(IconImagesDialog(Images({16, 32}), {})), nullptr) << "not wanted";
+    IconImagesDialog dialog(Images({16, 32}), {.OffersAllSizes = true});
+    AllSizes(dialog)->click();
+    EXPECT_EQ(dialog.result(), QDialog::Accepted);
+    EXPECT_TRUE(dialog.Choice().AllSizes);
 }
 
 TEST(NewIconDialogTest, TakesSidesFrom1To512AndRemembersTheSizeChosenWithOk) {
