@@ -12,6 +12,7 @@
 #include "editing/undo_step.h"
 #include "editing/view_commands.h"
 #include "formats/document_limits.h"
+#include "formats/icon_family.h"
 #include "formats/icon_reader.h"
 #include "formats/volf_reader.h"
 #include "formats/volf_store.h"
@@ -210,6 +211,16 @@ void OpenFile(Editor& editor, const fs::path& path, int iconImage) {
         OpenDocument(editor, path);
     else
         OpenPicture(editor, ReadPicture(path, kind, iconImage, graphics::kMaxBitmapPixels), path);
+}
+
+void OpenIconFamily(Editor& editor, const fs::path& path) {
+    if (KindOf(path) != FileKind::Icon)
+        return OpenFile(editor, path);
+    formats::IconFamily family = formats::LoadIconFamily(path);
+    ShowDocument(editor, std::move(family.Document));
+    editor.Changed.Tip = {tips::NewOrOpened};
+    if (!family.LeftOut.empty())
+        editor.Changed.Message = "left out: " + family.LeftOut;
 }
 
 void ImportFile(Editor& editor, const fs::path& path, int iconImage) {

@@ -37,15 +37,6 @@ void BringInForce(Editor& editor, int size) {
     ShowPageInForce(editor);
 }
 
-document::Page PageOf(const graphics::Bitmap& picture) {
-    document::Page page;
-    page.Width = picture.Width();
-    page.Height = picture.Height();
-    MakeImageLayer(page, page.Layers.emplace_back(), picture);
-    page.SelectedLayer = 0;
-    return page;
-}
-
 std::string NameOfSize(int size) {
     return std::to_string(size) + " x " + std::to_string(size);
 }
@@ -68,7 +59,7 @@ void MakeArtwork(Editor& editor, int size, filters::SizeRecipe recipe) {
     const bool isMaster = editor.Document.EditedSize == Family::kMaster;
     const graphics::Bitmap master =
         isMaster ? editor.Canvas : document::Flatten(editor.Document.Master);
-    document::Page page = PageOf(ApplyRecipe(recipe, master, size));
+    document::Page page = document::MakePicturePage(ApplyRecipe(recipe, master, size));
     BeginUndoStepTo(editor, steps::DrawByHand, size);
     editor.Document.SetArtwork(size, std::move(page));
     BringInForce(editor, size);

@@ -8,7 +8,6 @@
 #include <string_view>
 #include <utility>
 
-#include "filters/shrink_to_size.h"
 #include "graphics/codecs/image_files.h"
 #include "graphics/drawing_context.h"
 #include "graphics/errors.h"
@@ -76,10 +75,6 @@ std::vector<int> IconSizesFor(int pageWidth, int pageHeight) {
     return {largest, std::end(kIconSides)};
 }
 
-Bitmap DrawIconPicture(const Bitmap& page, int size) {
-    return filters::ShrinkToSize(page, size);
-}
-
 void ExportImage(const fs::path& path, ExportFormat format, const Bitmap& page, Argb pageBackground,
                  const ExportSettings& settings) {
     if (page.IsEmpty())
@@ -111,10 +106,13 @@ void ExportIcon(const fs::path& path, const FlatFamily& family, const ExportSett
     if (sizes.empty())
         return;
     std::vector<Bitmap> pictures;
-    pictures.reserve(sizes.size());
-    for (int size : sizes)
+    std::vector<std::vector<std::uint8_t>> pngs;
+    for (int size : sizes) {
         pictures.push_back(PictureForSize(family, size));
-    graphics::WriteFile(path, EncodeIcon(pictures, settings.IconPictures));
+        if (settings.IconPictures != IconFormat::Bmp)
+            pngs.push_back(UntouchedPng(family, pictures.back()));
+    }
+    graphics::WriteFile(path, EncodeIcon(pictures, settings.IconPictures, pngs));
     if (!settings.LeavesScratchPictures)
         return;
     try {

@@ -19,7 +19,10 @@ enum class ExportFormat { Ico, Png, Gif, Jpeg, Bmp };
 std::optional<ExportFormat> FindExportFormat(const std::filesystem::path& path);
 
 struct ExportSettings {
-    std::vector<int> IconSizes;  // 1 to 256; empty: the product's own table
+    std::vector<int> IconSizes = {};  // 1 to 256; empty: IconSizesFor the page
+    // Without IconSizes, sizes that have artwork of their own are in the icon although the page's
+    // table has them not.
+    bool AddsArtworkSizes = false;
     IconFormat IconPictures = IconFormat::Png256;
     // An icon's pictures are also left in SizesFolder() until the next export of one.
     bool LeavesScratchPictures = false;
@@ -30,10 +33,6 @@ struct ExportSettings {
 // The sizes of an icon made from a page: the row of 256, 128, 64, 48, 32, 24, 16 that the larger
 // side reaches and all below it, largest first; none below 16.
 std::vector<int> IconSizesFor(int pageWidth, int pageHeight);
-
-// The page in the middle of a transparent size x size square: never enlarged, else scaled with high
-// quality until its larger side fills the square.
-graphics::Bitmap DrawIconPicture(const graphics::Bitmap& page, int size);
 
 // The page over its background as a GIF is made from it: a background whose alpha is 0 counts as
 // none.

@@ -6,13 +6,25 @@
 #include "filters/shrink_to_size.h"
 
 namespace orbelle::formats {
+namespace {
 
-FlatFamily Flatten(const document::Family& family, const graphics::Bitmap& current) {
+using document::OpenedIcon;
+using graphics::Bitmap;
+
+bool HasSamePixels(const Bitmap& a, const Bitmap& b) {
+    const auto count = static_cast<std::size_t>(a.Width()) * static_cast<std::size_t>(a.Height());
+    return a.Width() == b.Width() && a.Height() == b.Height() &&
+           std::equal(a.Pixels(), a.Pixels() + count, b.Pixels());
+}
+
+}  // namespace
+
+FlatFamily Flatten(const document::Document& document, const graphics::Bitmap& current) {
     const auto flat = [&](const document::Page& page) {
-        return &page == &family.Current() ? current : document::Flatten(page);
+        return &page == &document.Current() ? current : document::Flatten(page);
     };
-    FlatFamily flattened{flat(family.Master), {}};
-    for (const document::SizePage& page : family.Sizes)
+    FlatFamily flattened{flat(document.Master), {}, document.Icon};
+    for (const document::SizePage& page : document.Sizes)
         flattened.Sizes.emplace_back(page.Size, flat(page.Artwork));
     return flattened;
 }
@@ -21,6 +33,16 @@ graphics::Bitmap PictureForSize(const FlatFamily& family, int size) {
     const auto own =
         std::ranges::find(family.Sizes, size, &std::pair<int, graphics::Bitmap>::first);
     return own != family.Sizes.end() ? own->second : filters::ShrinkToSize(family.Master, size);
+}
+
+std::vector<std::uint8_t> UntouchedPng(const FlatFamily& family, const graphics::Bitmap& picture) {
+    if (!family.Icon)
+        return {};
+    const auto& entries = family.Icon->Entries;
+    const auto entry = std::ranges::find(entries, picture.Width(), &OpenedIcon::Entry::Size);
+    return entry != entries.end() && HasSamePixels(entry->Picture, picture)
+               ? entry->Png
+               : std::vector<std::uint8_t>();
 }
 
 }  // namespace orbelle::formats
