@@ -79,7 +79,7 @@ SuggestDialog::SuggestDialog(const graphics::Bitmap& master, int size, QWidget* 
     layout->setContentsMargins(kMargin, kMargin, kMargin, 16);
     layout->setSpacing(16);
     layout->setSizeConstraint(QLayout::SetFixedSize);
-    layout->addWidget(new QLabel("A click takes a picture to go on with by hand at " + name + "."));
+    layout->addWidget(new QLabel("Click a picture to start drawing " + name + " by hand from it."));
 
     constexpr int kCount = filters::kSizeRecipes.size();
     constexpr QSize kBetween((kCount - 1) * kSpacing, 0);
