@@ -70,7 +70,8 @@ private:
 
     void EnableViewCommands() {
         const double zoom = editor_.View.Zoom;
-        Enable({CommandId::ChooseTool, CommandId::OriginalSize, CommandId::PageBackground},
+        Enable({CommandId::ChooseTool, CommandId::Mirror, CommandId::OriginalSize,
+                CommandId::FitWhole, CommandId::PageBackground},
                editor_.DocumentExists);
         Enable({CommandId::ZoomIn}, editor_.DocumentExists && zoom < editor_.Zoom.Maximum);
         Enable({CommandId::ZoomOut}, editor_.DocumentExists && zoom > editor_.Zoom.Minimum);

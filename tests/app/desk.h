@@ -114,6 +114,7 @@ public:
     void Paste() override {}
     void ToggleTips() override {}
     void CloseTips() override {}
+    void TogglePixelGrid() override {}
     void ShowAbout() override {}
     void ShowControls() override {}
 
