@@ -7,6 +7,7 @@
 #include "editing/color_wells.h"
 #include "editing/document_commands.h"
 #include "editing/page_commands.h"
+#include "editing/size_commands.h"
 
 namespace orbelle::app {
 
@@ -97,6 +98,12 @@ void AskWellColor(const WindowContext& context, int well) {
         else
             UseColorWell(editor, well);
     });
+}
+
+void AskSuggest(const WindowContext& context, int size) {
+    const graphics::Bitmap master = MasterPicture(context.Commands.Editor());
+    if (const auto recipe = context.User.ChooseRecipe(master, size))
+        context.Commands.Run([&](Editor& editor) { MakeArtwork(editor, size, *recipe); });
 }
 
 }  // namespace orbelle::app

@@ -51,15 +51,19 @@ void GoToPage(Editor& editor, int size) {
     BringInForce(editor, size);
 }
 
+graphics::Bitmap MasterPicture(const Editor& editor) {
+    return editor.Document.EditedSize == Family::kMaster
+               ? editor.Canvas
+               : document::Flatten(editor.Document.Master);
+}
+
 void MakeArtwork(Editor& editor, int size, filters::SizeRecipe recipe) {
     if (size < document::kMinArtworkSize || size > document::kMaxArtworkSize)
         throw Error("artwork of its own has a size of " +
                     std::to_string(document::kMinArtworkSize) + " to " +
                     std::to_string(document::kMaxArtworkSize));
-    const bool isMaster = editor.Document.EditedSize == Family::kMaster;
-    const graphics::Bitmap master =
-        isMaster ? editor.Canvas : document::Flatten(editor.Document.Master);
-    document::Page page = document::MakePicturePage(ApplyRecipe(recipe, master, size));
+    document::Page page =
+        document::MakePicturePage(ApplyRecipe(recipe, MasterPicture(editor), size));
     BeginUndoStepTo(editor, steps::DrawByHand, size);
     editor.Document.SetArtwork(size, std::move(page));
     BringInForce(editor, size);

@@ -25,6 +25,7 @@ namespace fs = std::filesystem;
 
 using editing::Editor;
 using orbelle::testing::FilledPicture;
+using orbelle::testing::SamePixels;
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
@@ -441,6 +442,28 @@ TEST_F(AskCommandsTest, TheStatusLineSaysWhatWasWrittenWhere) {
     AskExport(desk.Context, kExportEntries[0]);
     EXPECT_THAT(desk.Status, HasSubstr("Nothing was exported"));
     EXPECT_FALSE(fs::exists(desk.ToWrite));
+}
+
+TEST_F(AskCommandsTest, ASuggestionIsMadeOfTheMasterWhateverPageIsInForce) {
+    Desk desk;
+    desk.ToRead = folder / "wide.png";
+    const graphics::Bitmap wide = FilledPicture(40, 20, 0xFFC02040);
+    graphics::WriteFile(desk.ToRead, graphics::EncodePng(wide));
+    AskImport(desk.Context);
+    const int steps = desk.State.History.UndoIndex();
+    AskSuggest(desk.Context, 16);
+    EXPECT_EQ(desk.State.History.UndoIndex(), steps) << "given up";
+    EXPECT_TRUE(desk.State.Document.Sizes.empty());
+
+    desk.Recipe = filters::SizeRecipe::Fill;
+    for (const int size : {16, 24}) {
+        AskSuggest(desk.Context, size);
+        EXPECT_TRUE(SamePixels(desk.Suggested, wide));
+        EXPECT_EQ(desk.State.Document.EditedSize, size);
+        EXPECT_TRUE(
+            SamePixels(desk.State.Canvas, ApplyRecipe(filters::SizeRecipe::Fill, wide, size)));
+    }
+    EXPECT_EQ(desk.State.History.UndoIndex(), steps + 2);
 }
 
 TEST(WrittenTextTest, SizesAreRoundedAndSidesListed) {
