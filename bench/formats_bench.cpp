@@ -3,6 +3,7 @@
 #include <cstdlib>
 #include <filesystem>
 
+#include "filters/shrink_to_size.h"
 #include "formats/export_image.h"
 #include "formats/volf_reader.h"
 #include "formats/volf_store.h"
@@ -67,7 +68,7 @@ void DrawAndEncodeIcon(benchmark::State& state) {
     for (auto _ : state) {
         std::vector<Bitmap> pictures;
         for (int size : formats::IconSizesFor(512, 512))
-            pictures.push_back(formats::DrawIconPicture(page, size));
+            pictures.push_back(filters::ShrinkToSize(page, size));
         benchmark::DoNotOptimize(formats::EncodeIcon(pictures, formats::IconFormat::Bmp));
     }
 }

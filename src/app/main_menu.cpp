@@ -2,7 +2,6 @@
 
 #include <QMainWindow>
 #include <QMenuBar>
-#include <functional>
 #include <optional>
 
 #include "app/ask_commands.h"
@@ -16,6 +15,7 @@
 #include "editing/style_commands.h"
 #include "editing/tool_palette.h"
 #include "editing/undo_commands.h"
+#include "editing/view_commands.h"
 
 namespace orbelle::app {
 namespace {
@@ -23,6 +23,7 @@ namespace {
 using editing::CommandId;
 
 constexpr char kTipsName[] = "Tips";
+constexpr char kPixelGridName[] = "PixelGrid";
 constexpr char kUndoCaption[] = "&Undo";
 constexpr char kRedoCaption[] = "&Redo";
 
@@ -33,10 +34,10 @@ struct Entry {
     QString Caption;  // '&' marks the mnemonic; empty: a separator
     QList<QKeySequence> Shortcuts = {};
     Action Run = {};
-    std::optional<CommandId> Command = {};   // whose state it shows; none: always enabled
-    std::vector<Entry> Entries = {};         // of a submenu
-    bool Checks = false;                     // it carries a check mark
-    std::optional<editing::Tool> Tool = {};  // while which is in use
+    std::optional<CommandId> Command = {};  // whose state it shows; none: always enabled
+    std::vector<Entry> Entries = {};        // of a submenu
+    bool Checks = false;                    // it carries a check mark
+    std::function<bool(const editing::ToolSettings&)> IsOn = {};  // when, if the tools tell
 };
 
 Action Edit(editing::Command command) {
@@ -222,7 +223,18 @@ std::vector<Entry> ToolEntries() {
             .Run = Edit([tool](editing::Editor& editor) { ChooseToolEntry(editor, tool); }),
             .Command = CommandOf(tool),
             .Checks = true,
-            .Tool = tool};
+            .IsOn = [tool](const editing::ToolSettings& tools) { return tools.InUse == tool; }};
+    };
+    const auto mirror = [](const char* name, const char* caption, const QKeySequence& shortcut,
+                           void (*command)(editing::Editor&), bool editing::MirrorAxes::*axis) {
+        return Entry{
+            .Name = name,
+            .Caption = caption,
+            .Shortcuts = {shortcut},
+            .Run = Edit(command),
+            .Command = CommandId::Mirror,
+            .Checks = true,
+            .IsOn = [axis](const editing::ToolSettings& tools) { return tools.Mirror.*axis; }};
     };
     return {
         entry("SelectionTool", "&Selecetion", editing::Tool::Move),
@@ -230,6 +242,26 @@ std::vector<Entry> ToolEntries() {
         entry("LineTool", "&Line", editing::Tool::Line),
         entry("EllipseTool", "&Ellipse", editing::Tool::Ellipse),
         entry("RectangleTool", "&Rectangle", editing::Tool::Rectangle),
+        {},
+        mirror("MirrorLeftRight", "&Mirror Left/Right", Qt::CTRL | Qt::Key_M,
+               editing::ToggleMirrorLeftRight, &editing::MirrorAxes::LeftRight),
+        mirror("MirrorTopBottom", "Mirror &Top/Bottom", Qt::CTRL | Qt::SHIFT | Qt::Key_M,
+               editing::ToggleMirrorTopBottom, &editing::MirrorAxes::TopBottom),
+    };
+}
+
+std::vector<Entry> ViewEntries() {
+    return {
+        {.Name = kPixelGridName,
+         .Caption = "Pixel &Grid",
+         .Shortcuts = {Qt::CTRL | Qt::Key_Apostrophe},
+         .Run = [](const WindowContext& context) { context.Window.TogglePixelGrid(); },
+         .Checks = true},
+        {.Name = "FitWhole",
+         .Caption = "Fit in &Whole Steps",
+         .Shortcuts = {Qt::CTRL | Qt::Key_9},
+         .Run = Edit(editing::FitWhole),
+         .Command = CommandId::FitWhole},
     };
 }
 
@@ -287,8 +319,8 @@ MainMenu::MainMenu(QMainWindow& window, const WindowContext& context) {
                                      [run = entry.Run, context] { run(context); });
                 if (entry.Command)
                     states_.push_back({action, *entry.Command});
-                if (entry.Tool)
-                    toolMarks_.push_back({action, *entry.Tool});
+                if (entry.IsOn)
+                    marks_.push_back({action, entry.IsOn});
             }
         };
     const Entry menus[] = {
@@ -297,6 +329,7 @@ MainMenu::MainMenu(QMainWindow& window, const WindowContext& context) {
         {.Name = "EditMenu", .Caption = "&Edit", .Entries = EditEntries()},
         {.Name = "StyleMenu", .Caption = "&Style", .Entries = StyleEntries()},
         {.Name = "ToolMenu", .Caption = "&Tool", .Entries = ToolEntries()},
+        {.Name = "ViewMenu", .Caption = "&View", .Entries = ViewEntries()},
         {.Name = "HelpMenu", .Caption = "&Help", .Entries = HelpEntries()},
     };
     for (const Entry& entry : menus) {
@@ -308,6 +341,8 @@ MainMenu::MainMenu(QMainWindow& window, const WindowContext& context) {
                          [context] { context.Window.ShowControls(); });
     }
     tips_ = window.findChild<QAction*>(kTipsName);
+    pixelGrid_ = window.findChild<QAction*>(kPixelGridName);
+    pixelGrid_->setChecked(true);
     undo_ = window.findChild<QAction*>("Undo");
     redo_ = window.findChild<QAction*>("Redo");
     orderMenu_ = new QMenu("Right_Layer", &window);
@@ -320,11 +355,15 @@ void MainMenu::ShowTipsState(bool enabled) {
     tips_->setChecked(enabled);
 }
 
+void MainMenu::ShowPixelGridState(bool shown) {
+    pixelGrid_->setChecked(shown);
+}
+
 void MainMenu::ShowStates(const editing::Editor& editor) {
     for (const State& state : states_)
         state.Action->setEnabled(editor.States.IsEnabled(state.Command));
-    for (const ToolMark& mark : toolMarks_)
-        mark.Action->setChecked(mark.Tool == editor.Tools.InUse);
+    for (const Mark& mark : marks_)
+        mark.Action->setChecked(mark.IsOn(editor.Tools));
     undo_->setText(StepCaption(kUndoCaption, editor.States.UndoName));
     redo_->setText(StepCaption(kRedoCaption, editor.States.RedoName));
 }

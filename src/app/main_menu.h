@@ -1,6 +1,7 @@
 // The menu bar of the main window.
 #pragma once
 
+#include <functional>
 #include <vector>
 
 #include "app/window_actions.h"
@@ -21,6 +22,8 @@ public:
     void ShowStates(const editing::Editor& editor);
     // The check mark of Help/Tips.
     void ShowTipsState(bool enabled);
+    // That of View/Pixel Grid.
+    void ShowPixelGridState(bool shown);
 
     // The pop-up of a layer's order, with entries of the Edit menu.
     QMenu& OrderMenu() const { return *orderMenu_; }
@@ -30,13 +33,14 @@ private:
         QAction* Action;
         editing::CommandId Command;
     };
-    struct ToolMark {
+    struct Mark {
         QAction* Action;
-        editing::Tool Tool;
+        std::function<bool(const editing::ToolSettings&)> IsOn;
     };
     std::vector<State> states_;
-    std::vector<ToolMark> toolMarks_;
+    std::vector<Mark> marks_;
     QAction* tips_ = nullptr;
+    QAction* pixelGrid_ = nullptr;
     QAction* undo_ = nullptr;
     QAction* redo_ = nullptr;
     QMenu* orderMenu_ = nullptr;

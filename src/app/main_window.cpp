@@ -37,6 +37,8 @@ constexpr int kZoomTickMilliseconds = 1;
 
 MainWindow::MainWindow() {
     setObjectName("MainWindow");
+    editor_.ExportSettings.LeavesScratchPictures = true;
+    editor_.ExportSettings.AddsArtworkSizes = true;
     menu_ = std::make_unique<MainMenu>(*this, context_);
     (new RecentFilesMenu(context_, this))->Join(*findChild<QAction*>("OpenRecent"));
     bars_ = std::make_unique<ButtonBars>(context_);

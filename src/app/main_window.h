@@ -62,6 +62,7 @@ public:
 
     bool TipsEnabled() const { return tips_->TipsEnabled; }
     void SetTipsEnabled(bool enabled);
+    void ShowPixelGrid(bool shown);
 
     // From here on unsaved work is kept safe from an end that does not ask.
     void StartRecovery();
@@ -110,6 +111,7 @@ public:
     void Paste() override;
     void ToggleTips() override;
     void CloseTips() override;
+    void TogglePixelGrid() override;
     void ShowAbout() override;
     void ShowControls() override;
 

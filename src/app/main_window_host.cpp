@@ -87,6 +87,15 @@ void MainWindow::ShowControls() {
     scene_->ShowCursor();
 }
 
+void MainWindow::ShowPixelGrid(bool shown) {
+    scene_->ShowPixelGrid(shown);
+    menu_->ShowPixelGridState(shown);
+}
+
+void MainWindow::TogglePixelGrid() {
+    ShowPixelGrid(!scene_->IsPixelGridShown());
+}
+
 void MainWindow::ShowTitle() {
     // Qt would take "[*]" in a file's name for its mark of a changed document.
     setWindowTitle(QString::fromStdString(editor_.Title).replace("[*]", "[*][*]"));

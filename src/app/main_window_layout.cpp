@@ -16,6 +16,7 @@
 #include "app/right_panel.h"
 #include "app/scene_view.h"
 #include "app/shortcuts.h"
+#include "editing/nudge.h"
 #include "editing/scene_input.h"
 #include "editing/tips.h"
 #include "editing/view_commands.h"
@@ -132,6 +133,9 @@ void MainWindow::ConnectScene() {
     });
     connect(scene_, &SceneView::KeyPressed, this, [this](editing::SceneKey key) {
         Run([key](Editor& editor) { KeyDownScene(editor, key); });
+    });
+    connect(scene_, &SceneView::HalfStepWanted, this, [this](editing::Direction direction) {
+        Run([direction](Editor& editor) { NudgeHalf(editor, direction); });
     });
     connect(scene_, &SceneView::ShiftHeld, this, [this](bool isHeld) {
         RunDuringDrag([=](Editor& editor) { HoldShift(editor, isHeld); });

@@ -3,6 +3,7 @@
 
 #include "app/bottom_panel.h"
 #include "app/right_panel.h"
+#include "app/scene_view.h"
 #include "app/settings.h"
 #include "editing/color_wells.h"
 #include "editing/tool_palette.h"
@@ -15,6 +16,7 @@ constexpr char kBrushSize[] = "CtlScroll23";
 constexpr char kColor[] = "ForeColor%1";
 constexpr char kTips[] = "TipsControl";
 constexpr char kBottomPanel[] = "isQuick";
+constexpr char kPixelGridOff[] = "PixelGridOff";  // so that it is on where nothing is said
 constexpr int kOpen = -1;
 
 // What a first start finds: once, when nothing is stored at all.
@@ -48,6 +50,7 @@ void MainWindow::RestoreSettings() {
     for (const RightPanel::Header& header : rightPanel_->Headers())
         rightPanel_->SetOpen(header, number(header.StoredAs) != 0);
     SetTipsEnabled(number(kTips) == 1);
+    ShowPixelGrid(number(kPixelGridOff) == 0);
     Run([&](editing::Editor& editor) {
         // What is missing reads as 0, which the sliders do not have.
         ChangeBrushOpacity(editor, number(kBrushOpacity));
@@ -63,6 +66,7 @@ void MainWindow::StoreSettings() const {
     const auto flag = [](bool open) { return open ? kOpen : 0; };
     settings.setValue(kBottomPanel, flag(!bottomPanel_->Header().IsClosed()));
     settings.setValue(kTips, TipsEnabled() ? 1 : 0);
+    settings.setValue(kPixelGridOff, scene_->IsPixelGridShown() ? 0 : 1);
     for (const RightPanel::Header& header : rightPanel_->Headers())
         settings.setValue(header.StoredAs, flag(!header.Title->IsClosed()));
     settings.setValue(kBrushOpacity, editor_.Sliders.BrushOpacity.Value);

@@ -78,9 +78,7 @@ std::string TextOfExport(const Editor& editor, const fs::path& path, const Expor
     if (entry.Format != formats::ExportFormat::Ico)
         return ExportedText(path, SizeOf(path), caption.substr(0, caption.find(' ')), width,
                             height);
-    const std::vector<int>& sides = editor.ExportSettings.IconSizes;
-    return ExportedIconText(path, SizeOf(path),
-                            sides.empty() ? formats::IconSizesFor(width, height) : sides);
+    return ExportedIconText(path, SizeOf(path), IconSizesOf(editor));
 }
 
 // "*.a;*.b" of a filter, and ".a" of these.

@@ -2,11 +2,14 @@
 
 #include <QApplication>
 #include <QKeyEvent>
+#include <QPaintEvent>
 #include <QPainter>
 #include <QWheelEvent>
 #include <algorithm>
 #include <cmath>
+#include <optional>
 
+#include "app/scene_guides.h"
 #include "app/shared_image.h"
 #include "document/scene_painter.h"
 #include "widgets/artwork.h"
@@ -71,6 +74,27 @@ editing::Pointer PointerOf(const QMouseEvent& event, Qt::MouseButton button) {
     pointer.X = static_cast<float>(std::floor(event.position().x()) + 0.5);
     pointer.Y = static_cast<float>(std::floor(event.position().y()) + 0.5);
     return pointer;
+}
+
+// Where Alt and an arrow lead.
+std::optional<editing::Direction> HalfStepOf(const QKeyEvent& event) {
+    using editing::Direction;
+    const Qt::KeyboardModifiers keys =
+        event.modifiers() & (Qt::ShiftModifier | Qt::ControlModifier | Qt::AltModifier);
+    if (keys != Qt::AltModifier)
+        return std::nullopt;
+    switch (event.key()) {
+        case Qt::Key_Left:
+            return Direction::Left;
+        case Qt::Key_Right:
+            return Direction::Right;
+        case Qt::Key_Up:
+            return Direction::Up;
+        case Qt::Key_Down:
+            return Direction::Down;
+        default:
+            return std::nullopt;
+    }
 }
 
 QCursor ToolCursor(const char* artwork, QPoint hotSpot) {
@@ -154,6 +178,8 @@ void SceneView::leaveEvent(QEvent*) {
 
 void SceneView::keyPressEvent(QKeyEvent* event) {
     using editing::SceneKey;
+    if (const auto direction = HalfStepOf(*event))
+        return emit HalfStepWanted(*direction);
     switch (event->key()) {
         case Qt::Key_Left:
             return emit KeyPressed(SceneKey::Left);
@@ -180,7 +206,20 @@ void SceneView::keyReleaseEvent(QKeyEvent* event) {
     QWidget::keyReleaseEvent(event);
 }
 
-void SceneView::paintEvent(QPaintEvent*) {
+void SceneView::ShowPixelGrid(bool shown) {
+    isPixelGridShown_ = shown;
+    update();
+}
+
+void SceneView::DrawGuides(QPainter& painter, const QRect& seen) const {
+    const PageSight page{document::PageOnScene(editor_.Canvas, editor_.View),
+                         editor_.Canvas.Width(), editor_.Canvas.Height()};
+    if (isPixelGridShown_ && editor_.View.Zoom >= kGridZoom)
+        DrawPixelGrid(painter, page, seen);
+    DrawMirrorAxes(painter, page, editor_.Tools.Mirror);
+}
+
+void SceneView::paintEvent(QPaintEvent* event) {
     QPainter painter(this);
     const graphics::Bitmap& scene = editor_.Scene;
     if (scene.Width() < width() || scene.Height() < height())
@@ -191,6 +230,7 @@ void SceneView::paintEvent(QPaintEvent*) {
     }
     // The painter scales without smoothing, so at 200 % a scene pixel is a hard 2 x 2 square.
     painter.drawImage(0, 0, SharedImage(scene, QImage::Format_RGB32));
+    DrawGuides(painter, event->rect());
 
     const auto frame = document::ObjectFrame(editor_.Page(), editor_.View);
     if (frame && !editor_.Selection.Exists()) {

@@ -4,6 +4,7 @@
 #include <QWidget>
 
 #include "editing/editor.h"
+#include "editing/nudge.h"
 #include "editing/scene_input.h"
 
 class QPainter;
@@ -26,6 +27,10 @@ public:
     // The welcome text over an empty scene, 0 (nothing) to kWelcomeStrongest; -1: none.
     void ShowWelcome(int strength);
 
+    // The lines between the page's pixels, seen from a zoom of kGridZoom on (scene_guides.h).
+    bool IsPixelGridShown() const { return isPixelGridShown_; }
+    void ShowPixelGrid(bool shown);
+
 signals:
     void Resized(int width, int height);   // scene pixels, each at least 1
     void ZoomInWanted(const QPointF& at);  // Ctrl and the wheel, one step
@@ -36,7 +41,8 @@ signals:
     void PointerReleased(const editing::Pointer& pointer);
     void PointerLeft();
     void KeyPressed(editing::SceneKey key);
-    void ShiftHeld(bool isHeld);  // alone, with the left button
+    void HalfStepWanted(editing::Direction direction);  // an arrow with Alt
+    void ShiftHeld(bool isHeld);                        // alone, with the left button
 
 protected:
     void mousePressEvent(QMouseEvent* event) override;
@@ -51,9 +57,11 @@ protected:
 
 private:
     void DrawWelcome(QPainter& painter) const;
+    void DrawGuides(QPainter& painter, const QRect& seen) const;
 
     const editing::Editor& editor_;
     bool isHeld_ = false;  // the left button
+    bool isPixelGridShown_ = true;
     int welcome_ = -1;
     int wheelDelta_ = 0;  // what is left of a step
 };

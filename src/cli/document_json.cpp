@@ -54,7 +54,13 @@ std::string DescribeDocument(const editing::Editor& editor) {
         layers.push_back(Layer(layer));
     const Json selection =
         editor.Selection.Exists() ? Rect(editor.Selection.Region().Bounds()) : Json();
-    const Json json = {{"page",
+    Json sizes = Json::array();
+    for (const document::SizePage& size : document.Sizes)
+        sizes.push_back(size.Size);
+    const bool isMaster = document.EditedSize == document::Family::kMaster;
+    const Json json = {{"size", isMaster ? Json() : Json(document.EditedSize)},
+                       {"sizes", std::move(sizes)},
+                       {"page",
                         {{"width", page.Width},
                          {"height", page.Height},
                          {"background", Color(document.Background)}}},

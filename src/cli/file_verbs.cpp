@@ -35,21 +35,32 @@ Action ReadNew(Words& words) {
 }
 
 // Which image of the file is wanted; the next icon file begins with the first again.
-int TakeIconImage(Workspace& workspace, const fs::path& path) {
+std::optional<int> TakeIconImage(Workspace& workspace, const fs::path& path) {
     return editing::IsIconFile(path) ? std::exchange(workspace.IconImage, 0) : 0;
 }
 
 void Open(Workspace& workspace, const fs::path& path) {
-    const int image = TakeIconImage(workspace, path);
-    workspace.Run([&](Editor& editor) { OpenFile(editor, path, image); });
+    const std::optional<int> image = TakeIconImage(workspace, path);
+    workspace.Run([&](Editor& editor) {
+        if (image)
+            OpenFile(editor, path, *image);
+        else
+            OpenIconFamily(editor, path);
+    });
 }
 
 void Import(Workspace& workspace, const fs::path& path) {
-    const int image = TakeIconImage(workspace, path);
-    workspace.Run([&](Editor& editor) { ImportFile(editor, path, image); });
+    const std::optional<int> image = TakeIconImage(workspace, path);
+    if (!image)
+        throw Failure("an import takes one image of an icon, not all");
+    workspace.Run([&](Editor& editor) { ImportFile(editor, path, *image); });
 }
 
 Action ReadIconEntry(Words& words) {
+    if (!words.IsAtEnd() && words.Next() == "all") {
+        words.Text("K");
+        return [](Workspace& workspace) { workspace.IconImage.reset(); };
+    }
     return [image = words.Integer("K", 0)](Workspace& workspace) { workspace.IconImage = image; };
 }
 
@@ -103,7 +114,8 @@ constexpr Verb kVerbs[] = {
     {"open", "PATH", "a .volf document, or a picture that becomes the page", ReadPath<Open>},
     {"import", "PATH", "a picture as a new layer, or as the page when there is none",
      ReadPath<Import>},
-    {"icon-entry", "K", "the image (from 0) that the next open or import of an icon file takes",
+    {"icon-entry", "K|all",
+     "the image (from 0) that the next open or import of an icon file takes; open takes all, too",
      ReadIconEntry},
     {"save", "PATH", "write the document as a .volf file", ReadPath<Save>},
     {"export", "PATH", "write the page as .ico .png .gif .jpg .jpeg or .bmp", ReadExport},

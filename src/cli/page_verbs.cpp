@@ -1,6 +1,7 @@
 // The page and the view on it.
 #include "cli/verb_table.h"
 #include "editing/page_commands.h"
+#include "editing/size_commands.h"
 
 namespace orbelle::cli {
 namespace {
@@ -26,6 +27,39 @@ Action ReadBackground(Words& words) {
     };
 }
 
+// "fill" is a recipe, and a verb when a kind of filling follows.
+bool IsVerbWithArgument(const Words& words) {
+    return FindVerb(words.Next()) && !words.AfterNext().empty() && !FindVerb(words.AfterNext());
+}
+
+Action ReadSize(Words& words) {
+    int size = document::Family::kMaster;
+    std::optional<filters::SizeRecipe> recipe;
+    if (!words.IsAtEnd() && words.Next() == "master") {
+        words.Text("N");
+    } else {
+        size = words.Integer("N", document::kMinArtworkSize, document::kMaxArtworkSize);
+        if (!words.IsAtEnd() && !IsVerbWithArgument(words))
+            recipe = filters::FindSizeRecipe(words.Next());
+        if (recipe)
+            words.Text("RECIPE");
+    }
+    return [=](Workspace& workspace) {
+        RequireDocument(workspace);
+        workspace.Run([=](editing::Editor& editor) {
+            return recipe ? MakeArtwork(editor, size, *recipe) : EditSize(editor, size);
+        });
+    };
+}
+
+Action ReadDropSize(Words& words) {
+    const int size = words.Integer("N", document::kMinArtworkSize, document::kMaxArtworkSize);
+    return [=](Workspace& workspace) {
+        RequireDocument(workspace);
+        workspace.Run([=](editing::Editor& editor) { DropArtwork(editor, size); });
+    };
+}
+
 Action ReadZoom(Words& words) {
     constexpr editing::ZoomState kRange;
     return [zoom = words.Number("Z", kRange.Minimum, kRange.Maximum)](Workspace& workspace) {
@@ -36,6 +70,12 @@ Action ReadZoom(Words& words) {
 constexpr Verb kVerbs[] = {
     {"page", "W H", "the page-size sliders; an undo step for each side that changes", ReadPage},
     {"background", "COLOUR|none", "the page background: #RRGGBB or #AARRGGBB", ReadBackground},
+    {"size", "N|master [RECIPE]",
+     "draw icon size N (8 to 256) by hand from here on, or the master again; RECIPE begins anew: "
+     "plain sharper fill fill-outline outline snapped",
+     ReadSize},
+    {"drop-size", "N", "give up the artwork of icon size N, which the master makes again",
+     ReadDropSize},
     {"zoom", "Z", "the view's zoom, 0.2 to 20; 1 if not said", ReadZoom},
 };
 

@@ -1,6 +1,7 @@
 // The pointer and the keys on the scene.
 #include "cli/verb_table.h"
 #include "document/view.h"
+#include "editing/nudge.h"
 #include "editing/scene_input.h"
 
 namespace orbelle::cli {
@@ -14,6 +15,14 @@ constexpr std::string_view kKeys[] = {"left", "right", "up", "down", "delete"};
 constexpr editing::SceneKey kSceneKeys[] = {
     editing::SceneKey::Left, editing::SceneKey::Right,  editing::SceneKey::Up,
     editing::SceneKey::Down, editing::SceneKey::Delete,
+};
+
+constexpr std::string_view kDirectionNames[] = {"left", "right", "up", "down"};
+constexpr editing::Direction kDirections[] = {
+    editing::Direction::Left,
+    editing::Direction::Right,
+    editing::Direction::Up,
+    editing::Direction::Down,
 };
 
 struct PagePixel {
@@ -77,6 +86,14 @@ Action ReadKey(Words& words) {
     };
 }
 
+Action ReadNudge(Words& words) {
+    return [direction =
+                kDirections[words.Choice("DIRECTION", kDirectionNames)]](Workspace& workspace) {
+        RequireSelectedLayer(workspace);
+        workspace.Run([=](editing::Editor& editor) { NudgeHalf(editor, direction); });
+    };
+}
+
 constexpr Verb kVerbs[] = {
     {"drag", "X Y X Y...", "press, move and release over these page pixels", ReadDrag<0>},
     {"shift-drag", "X Y X Y...", "the same with Shift held", ReadDrag<kShift>},
@@ -84,6 +101,7 @@ constexpr Verb kVerbs[] = {
     {"shift-click", "X Y", "the same with Shift held", ReadClick<kLeftButton, kShift>},
     {"right-click", "X Y", "the same with the right button", ReadClick<kRightButton, 0>},
     {"key", "KEY", "left right up down delete, pressed on the scene", ReadKey},
+    {"nudge", "left|right|up|down", "move the selected layer by half a pixel", ReadNudge},
 };
 
 }  // namespace

@@ -14,6 +14,18 @@ using editing::Tool;
 constexpr std::string_view kWells[] = {"foreground", "background"};
 constexpr std::string_view kFills[] = {"solid", "horizontal", "vertical", "radial"};
 
+struct MirrorName {
+    std::string_view Name;
+    editing::MirrorAxes Axes;
+};
+
+constexpr MirrorName kMirrors[] = {
+    {"none", {}},
+    {"horizontal", {true, false}},
+    {"vertical", {false, true}},
+    {"both", {true, true}},
+};
+
 struct ToolName {
     std::string_view Name;
     Tool Chosen;
@@ -100,6 +112,12 @@ Action ReadTool(Words& words) {
     };
 }
 
+Action ReadMirror(Words& words) {
+    return [axes = words.Entry("AXES", kMirrors).Axes](Workspace& workspace) {
+        workspace.Run([=](Editor& editor) { SetMirror(editor, axes); });
+    };
+}
+
 constexpr Verb kVerbs[] = {
     {"foreground", "COLOUR", "the foreground colour: #RRGGBB or #AARRGGBB", ReadWellColor<0>},
     {"background-colour", "COLOUR", "the background colour", ReadWellColor<1>},
@@ -113,6 +131,8 @@ constexpr Verb kVerbs[] = {
      "move pencil line rectangle ellipse filled-rectangle filled-ellipse pick pencil-eraser "
      "brush-eraser select-rectangle select-ellipse select-polygon",
      ReadTool},
+    {"mirror", "AXES", "none horizontal vertical both: drawing is mirrored over the page's middle",
+     ReadMirror},
 };
 
 }  // namespace

@@ -31,6 +31,10 @@ public:
     bool IsAtEnd() const { return taken_ == words_.size(); }
     // Only before the end.
     const std::string& Next() const { return words_[taken_]; }
+    // What follows the next word; empty at the end.
+    std::string_view AfterNext() const {
+        return taken_ + 1 < words_.size() ? words_[taken_ + 1] : std::string_view();
+    }
     // The next word is one that a list of numbers goes on with.
     bool IsNumberNext() const;
     std::size_t Taken() const { return taken_; }

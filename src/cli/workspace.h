@@ -1,6 +1,7 @@
 // What the verbs of one run work on.
 #pragma once
 
+#include <optional>
 #include <ostream>
 #include <string>
 #include <utility>
@@ -49,8 +50,9 @@ struct Workspace {
 
     CliHost Host;
     editing::Editor Editor{Host, Host};
-    double Zoom = 1;       // of the view, scene pixels per page pixel
-    int IconImage = 0;     // which one the next open or import of an icon file takes
+    double Zoom = 1;  // of the view, scene pixels per page pixel
+    // Which image the next open or import of an icon file takes; nothing: all.
+    std::optional<int> IconImage = 0;
     std::ostream& Output;  // for what verbs print
 
 private:

@@ -190,4 +190,10 @@ void Compositor::Compose(Page& page, graphics::InterpolationMode interpolation,
     isComplete_ = true;
 }
 
+graphics::Bitmap Flatten(Page page) {
+    graphics::Bitmap canvas;
+    Compositor().Compose(page, graphics::InterpolationMode::NearestNeighbor, canvas);
+    return canvas;
+}
+
 }  // namespace orbelle::document

@@ -63,4 +63,7 @@ private:
     graphics::Bitmap belowPicture_;
 };
 
+// The page as the editor shows it: composed with hard edges, without background.
+graphics::Bitmap Flatten(Page page);
+
 }  // namespace orbelle::document

@@ -44,6 +44,15 @@ void MakeImageLayer(const Page& page, IconLayer& layer, const graphics::Bitmap& 
     layer.Region = region;
 }
 
+Page MakePicturePage(const graphics::Bitmap& picture) {
+    Page page;
+    page.Width = picture.Width();
+    page.Height = picture.Height();
+    MakeImageLayer(page, page.Layers.emplace_back(), picture);
+    page.SelectedLayer = 0;
+    return page;
+}
+
 void MakeEmptyLayer(const Page& page, IconLayer& layer, float width, float height) {
     layer.Rect = {0, 0, width, height};
     layer.BaseRect = layer.Rect;

@@ -20,6 +20,9 @@ IconLayer& OpenLayerSlot(Page& page, SlotCopySize size);
 // place (docs/oddities.md, "Blank pictures").
 void MakeImageLayer(const Page& page, IconLayer& layer, const graphics::Bitmap& image);
 
+// A page of the picture's size with the picture as its only layer, which is selected.
+Page MakePicturePage(const graphics::Bitmap& picture);
+
 // Fills the layer as a new transparent one: Rect, ImageWidth and ImageHeight follow width and
 // height, the picture is always of the page's size. It has no Region.
 void MakeEmptyLayer(const Page& page, IconLayer& layer, float width, float height);

@@ -44,12 +44,14 @@ void UndoHistory::TruncateRedo() {
     place_.UndoCount = place_.UndoIndex;
 }
 
-void UndoHistory::PushSnapshot(Document& document, std::string_view name) {
+void UndoHistory::PushSnapshot(Document& document, std::string_view name,
+                               std::optional<int> pageAfter) {
     CheckRoom();
     const auto slot = static_cast<std::size_t>(place_.UndoIndex);
     if (slots_.size() <= slot)
         slots_.resize(slot + 1);
-    slots_[slot] = {document.Master, document.Background, name, document.Modified};
+    slots_[slot] = {document, document.Background, name, document.Modified,
+                    pageAfter.value_or(document.EditedSize)};
     ++place_.UndoCount;
     ++place_.UndoIndex;
     document.Modified = true;
@@ -61,10 +63,11 @@ bool UndoHistory::Undo(Document& document) {
     const auto slot = static_cast<std::size_t>(place_.UndoIndex);
     // What needs memory comes before what changes anything.
     Snapshot before = slots_[slot - 1];
-    Snapshot present{document.Master, document.Background};
+    Snapshot present{document, document.Background};
     if (slots_.size() <= slot)
         slots_.resize(slot + 1);
     present.Next = slots_[slot].Next;
+    present.PageAfter = slots_[slot].PageAfter;
     slots_[slot] = std::move(present);
     --place_.UndoIndex;
     ++place_.RedoCount;
@@ -76,6 +79,7 @@ bool UndoHistory::Redo(Document& document) {
     if (place_.RedoCount == 0)
         return false;
     Snapshot after = slots_[static_cast<std::size_t>(place_.UndoIndex) + 1];
+    after.Pages.EditedSize = slots_[static_cast<std::size_t>(place_.UndoIndex)].PageAfter;
     ++place_.UndoIndex;
     --place_.RedoCount;
     Restore(document, after);
@@ -125,7 +129,7 @@ void UndoHistory::RollBack(const Place& place) noexcept {
 }
 
 void UndoHistory::Restore(Document& document, Snapshot& snapshot) {
-    document.Master = std::move(snapshot.Master);
+    static_cast<Family&>(document) = std::move(snapshot.Pages);
     document.Background = snapshot.Background;
     document.Modified = true;
 }

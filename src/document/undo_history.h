@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstddef>
+#include <optional>
 #include <string_view>
 #include <vector>
 
@@ -16,8 +17,9 @@ public:
     using Error::Error;
 };
 
-// A linear history of the page, its size and stack, and the background. A snapshot shares all
-// pixels with the document until either is written, so it costs a pointer a layer.
+// A linear history of all pages, their sizes and stacks, and the background. A snapshot shares all
+// pixels with the document until either is written, so it costs a pointer a layer. A step that is
+// undone or done again brings its page in force.
 class UndoHistory {
 public:
     static constexpr int kMaxSnapshots = 5001;
@@ -39,8 +41,10 @@ public:
 
     // Stores the document as it is before an edit and marks it as changed. `name`, what the edit is
     // called, is not copied: it has to live as long as the program. Throws HistoryLimit, with
-    // nothing changed, beyond kMaxSnapshots.
-    void PushSnapshot(Document& document, std::string_view name);
+    // nothing changed, beyond kMaxSnapshots. `pageAfter` is the page in force after the edit where
+    // that is another one than before it.
+    void PushSnapshot(Document& document, std::string_view name,
+                      std::optional<int> pageAfter = std::nullopt);
 
     // Keeps the present pages for Redo and brings back those before. False: nothing to undo.
     bool Undo(Document& document);
@@ -68,10 +72,11 @@ public:
 
 private:
     struct Snapshot {
-        Page Master;
+        Family Pages;
         graphics::Argb Background = 0;
-        std::string_view Next = {};  // the step that leads from here to the next one
-        bool Modified = false;       // when that step began
+        std::string_view Next = {};       // the step that leads from here to the next one
+        bool Modified = false;            // when that step began
+        int PageAfter = Family::kMaster;  // in force when that step had ended
     };
 
     static void Restore(Document& document, Snapshot& snapshot);

@@ -70,7 +70,8 @@ private:
 
     void EnableViewCommands() {
         const double zoom = editor_.View.Zoom;
-        Enable({CommandId::ChooseTool, CommandId::OriginalSize, CommandId::PageBackground},
+        Enable({CommandId::ChooseTool, CommandId::Mirror, CommandId::OriginalSize,
+                CommandId::FitWhole, CommandId::PageBackground},
                editor_.DocumentExists);
         Enable({CommandId::ZoomIn}, editor_.DocumentExists && zoom < editor_.Zoom.Maximum);
         Enable({CommandId::ZoomOut}, editor_.DocumentExists && zoom > editor_.Zoom.Minimum);
@@ -133,7 +134,9 @@ void EnableSliders(EditorState& editor) {
     for (Slider* slider : {&sliders.Opacity, &sliders.Hue, &sliders.Saturation, &sliders.Brightness,
                            &sliders.Contrast, &sliders.Scale})
         slider->Enabled = editor.Page().HasSelection();
-    sliders.PageWidth.Enabled = sliders.PageHeight.Enabled = editor.DocumentExists;
+    // The artwork of a size keeps its size.
+    sliders.PageWidth.Enabled = sliders.PageHeight.Enabled =
+        editor.DocumentExists && editor.Document.EditedSize == document::Family::kMaster;
     sliders.BrushOpacity.Enabled = sliders.BrushSize.Enabled = true;
     const Tool tool = editor.Tools.InUse;
     sliders.LineWidth.Enabled =

@@ -54,9 +54,11 @@ enum class CommandId {
     Reflection,
     DropShadow,
     ChooseTool,
+    Mirror,
     ZoomIn,
     ZoomOut,
     OriginalSize,
+    FitWhole,
     PageBackground,
     Count,
 };

@@ -12,6 +12,7 @@
 #include "editing/undo_step.h"
 #include "editing/view_commands.h"
 #include "formats/document_limits.h"
+#include "formats/icon_family.h"
 #include "formats/icon_reader.h"
 #include "formats/volf_reader.h"
 #include "formats/volf_store.h"
@@ -73,8 +74,7 @@ void ResetView(Editor& editor) {
 }
 
 void ClearStack(Editor& editor) {
-    editor.Page().Layers.clear();
-    editor.Page().SelectedLayer = document::kNoLayer;
+    static_cast<document::Family&>(editor.Document) = {};
     editor.History.ClearHistory();
     editor.Selection.Clear();
     editor.PolygonPoints.clear();
@@ -173,8 +173,9 @@ graphics::Bitmap ReadPicture(const fs::path& path, FileKind kind, int iconImage,
 std::int64_t RoomForImport(const Editor& editor) {
     if (!editor.DocumentExists)
         return graphics::kMaxBitmapPixels;
-    return std::clamp<std::int64_t>(formats::kMaxDocumentPixels - formats::PixelsOf(editor.Page()),
-                                    0, graphics::kMaxBitmapPixels);
+    return std::clamp<std::int64_t>(
+        formats::kMaxDocumentPixels - formats::PixelsOf(editor.Document), 0,
+        graphics::kMaxBitmapPixels);
 }
 
 }  // namespace
@@ -210,6 +211,16 @@ void OpenFile(Editor& editor, const fs::path& path, int iconImage) {
         OpenDocument(editor, path);
     else
         OpenPicture(editor, ReadPicture(path, kind, iconImage, graphics::kMaxBitmapPixels), path);
+}
+
+void OpenIconFamily(Editor& editor, const fs::path& path) {
+    if (KindOf(path) != FileKind::Icon)
+        return OpenFile(editor, path);
+    formats::IconFamily family = formats::LoadIconFamily(path);
+    ShowDocument(editor, std::move(family.Document));
+    editor.Changed.Tip = {tips::NewOrOpened};
+    if (!family.LeftOut.empty())
+        editor.Changed.Message = "left out: " + family.LeftOut;
 }
 
 void ImportFile(Editor& editor, const fs::path& path, int iconImage) {

@@ -23,6 +23,11 @@ void NewDocument(Editor& editor, int pageWidth, int pageHeight);
 // leaves word in Changes::Message.
 void OpenFile(Editor& editor, const std::filesystem::path& path, int iconImage = 0);
 
+// All images of an icon file take the place of the present document as a family
+// (formats/icon_family.h), and others are left out with word in Changes::Message. Files that are no
+// icons open as ever.
+void OpenIconFamily(Editor& editor, const std::filesystem::path& path);
+
 // A picture as a new layer above the selected one; with no document yet it makes the page. A
 // document is opened.
 void ImportFile(Editor& editor, const std::filesystem::path& path, int iconImage = 0);

@@ -1,6 +1,7 @@
 // What the commands work on, as a value that can be kept and gone back to.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -28,6 +29,9 @@ struct ZoomState {
     document::ScrollBar SavedHorizontal;
     document::ScrollBar SavedVertical;
     bool PageSizeChanged = false;  // the page was resized since the last fit to the window
+
+    // Of the master while the page of a size is in force.
+    std::optional<document::View> MasterView;
 
     bool IsAnimated = false;  // TickZoomAnimation is to be run until this is false
 };

@@ -4,6 +4,7 @@
 
 #include "editing/undo_step.h"
 #include "editing/view_commands.h"
+#include "graphics/errors.h"
 
 namespace orbelle::editing {
 namespace {
@@ -20,11 +21,6 @@ bool HasSizeOf(const document::Page& page, const PageSizeDrag& drag) {
     return page.Width == drag.Width && page.Height == drag.Height;
 }
 
-void ShowSliders(Editor& editor) {
-    for (const Side& side : {kWidth, kHeight})
-        (editor.Sliders.*side.Shown).Value = editor.Page().*side.Length;
-}
-
 // During the drag the scroll bars are worked out from those at the press, so that the rounding of
 // many steps does not add up.
 void ChangeSide(Editor& editor, const Side& side, int value) {
@@ -33,7 +29,7 @@ void ChangeSide(Editor& editor, const Side& side, int value) {
     if (!drag || editor.Page().*side.Length == length)
         return;
     editor.Page().*side.Length = length;
-    ShowSliders(editor);
+    ShowSizeOfPage(editor);
     const bool changes = !HasSizeOf(editor.Page(), *drag);
     editor.Document.Modified = drag->Modified || changes;
     editor.Zoom.PageSizeChanged = drag->PageSizeChanged || changes;
@@ -54,8 +50,13 @@ void SetSide(Editor& editor, const Side& side, int value) {
 
 }  // namespace
 
+void ShowSizeOfPage(Editor& editor) {
+    for (const Side& side : {kWidth, kHeight})
+        (editor.Sliders.*side.Shown).Value = editor.Page().*side.Length;
+}
+
 void PressPageSize(Editor& editor) {
-    if (!editor.DocumentExists)
+    if (!editor.DocumentExists || editor.Document.EditedSize != document::Family::kMaster)
         return;
     editor.History.CheckRoom();
     editor.Drag = PageSizeDrag{editor.Page().Width,          editor.Page().Height,
@@ -90,7 +91,7 @@ void ReleasePageSize(Editor& editor) {
 void TakeBackPageSize(Editor& editor, const PageSizeDrag& drag) {
     editor.Page().Width = drag.Width;
     editor.Page().Height = drag.Height;
-    ShowSliders(editor);
+    ShowSizeOfPage(editor);
     editor.Document.Modified = drag.Modified;
     editor.Zoom.PageSizeChanged = drag.PageSizeChanged;
     editor.View.HorizontalScroll = drag.HorizontalScroll;
@@ -101,6 +102,8 @@ void TakeBackPageSize(Editor& editor, const PageSizeDrag& drag) {
 }
 
 void SetPageSize(Editor& editor, int width, int height) {
+    if (editor.Document.EditedSize != document::Family::kMaster)
+        throw Error("the artwork of a size keeps its size");
     SetSide(editor, kWidth, width);
     SetSide(editor, kHeight, height);
 }
@@ -110,7 +113,7 @@ void FollowPageSize(Editor& editor) {
     const document::Page& page = editor.Page();
     if (sliders.PageWidth.Value == page.Width && sliders.PageHeight.Value == page.Height)
         return;
-    ShowSliders(editor);
+    ShowSizeOfPage(editor);
     editor.Zoom.PageSizeChanged = true;
     FitScrollBars(editor);
     editor.Selection.KeepOnPage(page.Width, page.Height);

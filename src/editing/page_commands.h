@@ -17,8 +17,12 @@ void ReleasePageSize(Editor& editor);
 // Gives that drag up.
 void TakeBackPageSize(Editor& editor, const PageSizeDrag& drag);
 
-// A drag of either slider straight to the value: a step for each side that changes.
+// A drag of either slider straight to the value: a step for each side that changes. Throws Error
+// for the artwork of a size, which keeps its size.
 void SetPageSize(Editor& editor, int width, int height);
+
+// The sliders take the size of the page in force.
+void ShowSizeOfPage(Editor& editor);
 
 // What shows the page's size follows it after Undo or Redo; a selection keeps what lies on the
 // page.

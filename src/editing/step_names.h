@@ -37,6 +37,10 @@ inline constexpr Name Scale = "Scale";
 inline constexpr Name PageSize = "Page Size";
 inline constexpr Name PageBackground = "Page Background";
 
+// The pages of sizes.
+inline constexpr Name DrawByHand = "Draw by Hand";
+inline constexpr Name BackToMaster = "Back to Master's";
+
 // The Style menu.
 inline constexpr Name DisabledState = "Disabled State";
 inline constexpr Name HotState = "Hot State";

@@ -38,6 +38,13 @@ enum class FillKind {
     RadialGradient = 3,
 };
 
+// Mirror drawing: which middle of the page the drawing tools' marks are mirrored over.
+struct MirrorAxes {
+    bool LeftRight = false;
+    bool TopBottom = false;
+    bool operator==(const MirrorAxes&) const = default;
+};
+
 // The pop-ups of the tool box.
 enum class Popup { None, FillBar, SelectionBar, EraserBar };
 
@@ -51,6 +58,7 @@ struct ToolSettings {
     std::array<graphics::Argb, 2> Colors{graphics::MakeArgb(255, 0, 0, 0),
                                          graphics::MakeArgb(255, 255, 255, 255)};
     int ActiveColor = 0;  // the one in use
+    MirrorAxes Mirror;
     Popup OpenPopup = Popup::None;
 
     bool operator==(const ToolSettings&) const = default;

@@ -124,6 +124,21 @@ void ChooseToolEntry(Editor& editor, Tool tool) {
     editor.Tools.OpenPopup = Popup::None;
 }
 
+void SetMirror(Editor& editor, MirrorAxes axes) {
+    editor.Tools.Mirror = axes;
+    editor.Changed.Scene = true;  // over which the axes are shown
+}
+
+void ToggleMirrorLeftRight(Editor& editor) {
+    const MirrorAxes axes = editor.Tools.Mirror;
+    SetMirror(editor, {!axes.LeftRight, axes.TopBottom});
+}
+
+void ToggleMirrorTopBottom(Editor& editor) {
+    const MirrorAxes axes = editor.Tools.Mirror;
+    SetMirror(editor, {axes.LeftRight, !axes.TopBottom});
+}
+
 void ChangeLineWidth(Editor& editor, int value) {
     editor.Sliders.LineWidth.Value = editor.Sliders.LineWidth.Clamped(value);
 }

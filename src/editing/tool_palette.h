@@ -20,6 +20,11 @@ void ChooseEraser(Editor& editor, Tool tool);     // one of the two erasers
 // The entries of the Tool menu: Move, Pencil, Line, Ellipse or Rectangle. The selection stays.
 void ChooseToolEntry(Editor& editor, Tool tool);
 
+// Mirror drawing; the toggles are those of the Tool menu.
+void SetMirror(Editor& editor, MirrorAxes axes);
+void ToggleMirrorLeftRight(Editor& editor);
+void ToggleMirrorTopBottom(Editor& editor);
+
 // Sliders of the tools' options; the value is brought into the slider's range.
 void ChangeLineWidth(Editor& editor, int value);
 void ChangeBrushSize(Editor& editor, int value);

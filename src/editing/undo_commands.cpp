@@ -1,6 +1,7 @@
 #include "editing/undo_commands.h"
 
 #include "editing/page_commands.h"
+#include "editing/size_commands.h"
 #include "editing/slider_positions.h"
 
 namespace orbelle::editing {
@@ -17,7 +18,10 @@ void KeepSliderPositions(Editor& editor) {
     layer.Saturation = editor.Sliders.Saturation.Value;
 }
 
-void ShowRestored(Editor& editor) {
+// `pageBefore`: what was in force.
+void ShowRestored(Editor& editor, int pageBefore) {
+    if (editor.Document.EditedSize != pageBefore)
+        return ShowPageInForce(editor);
     ShowSelectedLayer(editor);
     FollowPageSize(editor);
     NoteStack(editor.Changed);
@@ -29,13 +33,15 @@ void Undo(Editor& editor) {
     if (editor.History.UndoIndex() == 0)
         return;
     KeepSliderPositions(editor);
+    const int page = editor.Document.EditedSize;
     editor.History.Undo(editor.Document);
-    ShowRestored(editor);
+    ShowRestored(editor, page);
 }
 
 void Redo(Editor& editor) {
+    const int page = editor.Document.EditedSize;
     if (editor.History.Redo(editor.Document))
-        ShowRestored(editor);
+        ShowRestored(editor, page);
 }
 
 }  // namespace orbelle::editing

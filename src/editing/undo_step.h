@@ -15,4 +15,11 @@ inline void BeginUndoStep(Editor& editor, steps::Name name, int count = 1) {
         editor.History.PushSnapshot(editor.Document, name);
 }
 
+// The same for an edit after which the page of that size is in force.
+inline void BeginUndoStepTo(Editor& editor, steps::Name name, int pageAfter) {
+    editor.History.CheckRoom();
+    editor.History.TruncateRedo();
+    editor.History.PushSnapshot(editor.Document, name, pageAfter);
+}
+
 }  // namespace orbelle::editing

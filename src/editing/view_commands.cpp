@@ -68,13 +68,16 @@ void ZoomAt(Editor& editor, float x, float y, void (*zoomStep)(Editor&)) {
     editor.Changed.Scene = true;
 }
 
-// The zoom at which the page fills the scene along the side that is tighter, in tenths.
-double FitZoom(const Editor& editor) {
+// The zoom at which the page fills the scene along the side that is tighter.
+double FillingZoom(int sceneWidth, int sceneHeight, const document::Page& page) {
     constexpr double kMargin = 4;
-    const double width = (editor.View.SceneWidth - kMargin) / editor.Page().Width;
-    const double height = (editor.View.SceneHeight - kMargin) / editor.Page().Height;
-    return std::clamp(document::RoundToTenth(std::min(width, height)), editor.Zoom.Minimum,
-                      editor.Zoom.Maximum);
+    return std::min((sceneWidth - kMargin) / page.Width, (sceneHeight - kMargin) / page.Height);
+}
+
+// The same in tenths.
+double FitZoom(const Editor& editor) {
+    const double zoom = FillingZoom(editor.View.SceneWidth, editor.View.SceneHeight, editor.Page());
+    return std::clamp(document::RoundToTenth(zoom), editor.Zoom.Minimum, editor.Zoom.Maximum);
 }
 
 void EnterOriginalSize(Editor& editor) {
@@ -150,6 +153,21 @@ void OriginalSize(Editor& editor) {
         EnterOriginalSize(editor);
     else
         LeaveOriginalSize(editor);
+}
+
+double WholeFitZoom(int sceneWidth, int sceneHeight, const document::Page& page) {
+    constexpr double kSteps = 5;  // to 1
+    const ZoomState limits;
+    const double zoom = FillingZoom(sceneWidth, sceneHeight, page);
+    return std::clamp(zoom >= 1 ? std::floor(zoom) : std::floor(zoom * kSteps) / kSteps,
+                      limits.Minimum, limits.Maximum);
+}
+
+void FitWhole(Editor& editor) {
+    if (!editor.DocumentExists)
+        return;
+    editor.Zoom.IsOriginalSize = false;
+    ZoomTo(editor, WholeFitZoom(editor.View.SceneWidth, editor.View.SceneHeight, editor.Page()));
 }
 
 void ZoomInAt(Editor& editor, float x, float y) {

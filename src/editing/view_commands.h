@@ -26,6 +26,13 @@ void ZoomOut(Editor& editor);
 // when that was 1 or the page was resized since.
 void OriginalSize(Editor& editor);
 
+// The largest of the zooms 1, 2, 3 ... at which the whole page is seen on a scene of that size,
+// scene pixels; for a page that is too large the largest of 0.8, 0.6 ... down to the minimum.
+double WholeFitZoom(int sceneWidth, int sceneHeight, const document::Page& page);
+
+// To that zoom.
+void FitWhole(Editor& editor);
+
 // Zoom In or Out with the page pixel under a scene point staying there as near as scrolling in
 // tenths allows.
 void ZoomInAt(Editor& editor, float x, float y);

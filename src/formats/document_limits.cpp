@@ -59,20 +59,29 @@ std::int64_t PixelsOf(const Page& page) {
     return pixels;
 }
 
+std::int64_t PixelsOf(const document::Family& family) {
+    std::int64_t pixels = 0;
+    for (const Page* page : family.Pages())
+        pixels += PixelsOf(*page);
+    return pixels;
+}
+
 void RequireCanBeOpened(const document::Document& document) {
-    const Page& page = document.Master;
-    RequireSize("The page", std::max(page.Width, 1), std::max(page.Height, 1));
-    for (const IconLayer& layer : page.Layers) {
-        if (layer.ImageWidth > 0 && layer.ImageHeight > 0)
-            RequireSize("The layer", layer.ImageWidth, layer.ImageHeight);
-        if (!LiesOnPlane(layer.Rect) || !LiesOnPlane(layer.BaseRect))
-            throw Error("The layer lies more than 4194304 pixels away from the page.");
+    int layers = 0;
+    for (const Page* page : document.Pages()) {
+        RequireSize("The page", std::max(page->Width, 1), std::max(page->Height, 1));
+        for (const IconLayer& layer : page->Layers) {
+            if (layer.ImageWidth > 0 && layer.ImageHeight > 0)
+                RequireSize("The layer", layer.ImageWidth, layer.ImageHeight);
+            if (!LiesOnPlane(layer.Rect) || !LiesOnPlane(layer.BaseRect))
+                throw Error("The layer lies more than 4194304 pixels away from the page.");
+        }
+        layers = std::max(layers, page->LayerCount());
     }
-    if (page.LayerCount() > document::kMaxLayers)
-        throw Error("The document has " + std::to_string(page.LayerCount()) +
-                    " layers, more than the " + std::to_string(document::kMaxLayers) +
-                    " that can be opened again.");
-    if (const std::int64_t pixels = PixelsOf(page); pixels > kMaxDocumentPixels)
+    if (layers > document::kMaxLayers)
+        throw Error("The document has " + std::to_string(layers) + " layers, more than the " +
+                    std::to_string(document::kMaxLayers) + " that can be opened again.");
+    if (const std::int64_t pixels = PixelsOf(document); pixels > kMaxDocumentPixels)
         throw Error("The page and its layers have " + std::to_string(pixels) +
                     " pixels together, more than the " + std::to_string(kMaxDocumentPixels) +
                     " that a document can hold.");

@@ -13,7 +13,7 @@
 
 namespace orbelle::formats {
 
-// Of the page and its layers together.
+// Of all pages and their layers together.
 inline constexpr std::int64_t kMaxDocumentPixels = std::int64_t{100} << 20;
 
 // Regions know no pixel farther out.
@@ -27,8 +27,9 @@ std::int64_t PagePixels(const document::Page& page);
 // of a plate.
 std::int64_t LayerPixels(const document::IconLayer& layer, const document::Page& page);
 
-// All of a page.
+// All of a page, and of all pages.
 std::int64_t PixelsOf(const document::Page& page);
+std::int64_t PixelsOf(const document::Family& family);
 
 // Throws Error, which names the number that is too large, unless DecodeDocument reads all of what
 // EncodeDocument makes of the document.

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cctype>
-#include <cmath>
 #include <cstdlib>
 #include <exception>
 #include <string>
@@ -51,23 +50,6 @@ void LeaveInSizesFolder(const std::vector<Bitmap>& pictures) {
     }
 }
 
-void ExportIcon(const fs::path& path, const Bitmap& page, const ExportSettings& settings) {
-    const std::vector<int> sizes =
-        settings.IconSizes.empty() ? IconSizesFor(page.Width(), page.Height()) : settings.IconSizes;
-    if (sizes.empty())
-        return;
-    std::vector<Bitmap> pictures;
-    pictures.reserve(sizes.size());
-    for (int size : sizes)
-        pictures.push_back(DrawIconPicture(page, size));
-    graphics::WriteFile(path, EncodeIcon(pictures, settings.IconPictures));
-    try {
-        LeaveInSizesFolder(pictures);
-    } catch (const std::exception&) {
-        // Nobody needs these pictures, and the icon is written.
-    }
-}
-
 constexpr std::pair<std::string_view, ExportFormat> kExtensions[] = {
     {".ico", ExportFormat::Ico},  {".png", ExportFormat::Png},   {".gif", ExportFormat::Gif},
     {".jpg", ExportFormat::Jpeg}, {".jpeg", ExportFormat::Jpeg}, {".bmp", ExportFormat::Bmp},
@@ -93,18 +75,6 @@ std::vector<int> IconSizesFor(int pageWidth, int pageHeight) {
     return {largest, std::end(kIconSides)};
 }
 
-Bitmap DrawIconPicture(const Bitmap& page, int size) {
-    Bitmap square(size, size);
-    graphics::DrawingContext context(square);
-    context.SetInterpolationMode(graphics::InterpolationMode::HighQuality);
-    const graphics::SizeF box{static_cast<float>(size), static_cast<float>(size)};
-    const graphics::SizeF fitted =
-        FitIntoBox({static_cast<float>(page.Width()), static_cast<float>(page.Height())}, box);
-    const graphics::SizeF whole{std::nearbyint(fitted.Width), std::nearbyint(fitted.Height)};
-    context.DrawImageRect(page, CenterInBox(whole, box));
-    return square;
-}
-
 void ExportImage(const fs::path& path, ExportFormat format, const Bitmap& page, Argb pageBackground,
                  const ExportSettings& settings) {
     if (page.IsEmpty())
@@ -116,7 +86,7 @@ void ExportImage(const fs::path& path, ExportFormat format, const Bitmap& page, 
         case ExportFormat::Bmp:
             return graphics::WriteFile(path, EncodeBmp(DrawOnPaper(pageBackground, page)));
         case ExportFormat::Ico:
-            return ExportIcon(path, page, settings);
+            return ExportIcon(path, {page, {}}, settings);
         case ExportFormat::Gif:
             // Only a background of exactly 0 makes a transparent entry; alpha 0 with other bits
             // does not (docs/oddities.md, "GIF backgrounds").
@@ -126,6 +96,29 @@ void ExportImage(const fs::path& path, ExportFormat format, const Bitmap& page, 
         case ExportFormat::Jpeg:
             return graphics::WriteFile(path,
                                        EncodeJpeg(DrawOnPaper(pageBackground, page), kJpegQuality));
+    }
+}
+
+void ExportIcon(const fs::path& path, const FlatFamily& family, const ExportSettings& settings) {
+    const std::vector<int> sizes = settings.IconSizes.empty()
+                                       ? IconSizesFor(family.Master.Width(), family.Master.Height())
+                                       : settings.IconSizes;
+    if (sizes.empty())
+        return;
+    std::vector<Bitmap> pictures;
+    std::vector<std::vector<std::uint8_t>> pngs;
+    for (int size : sizes) {
+        pictures.push_back(PictureForSize(family, size));
+        if (settings.IconPictures != IconFormat::Bmp)
+            pngs.push_back(UntouchedPng(family, pictures.back()));
+    }
+    graphics::WriteFile(path, EncodeIcon(pictures, settings.IconPictures, pngs));
+    if (!settings.LeavesScratchPictures)
+        return;
+    try {
+        LeaveInSizesFolder(pictures);
+    } catch (const std::exception&) {
+        // Nobody needs these pictures, and the icon is written.
     }
 }
 

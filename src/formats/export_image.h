@@ -7,6 +7,7 @@
 
 #include "formats/gif_palette.h"
 #include "formats/icon_file.h"
+#include "formats/size_pictures.h"
 #include "graphics/bitmap.h"
 #include "graphics/color.h"
 
@@ -18,8 +19,13 @@ enum class ExportFormat { Ico, Png, Gif, Jpeg, Bmp };
 std::optional<ExportFormat> FindExportFormat(const std::filesystem::path& path);
 
 struct ExportSettings {
-    std::vector<int> IconSizes;  // 1 to 256; empty: the product's own table
-    IconFormat IconPictures = IconFormat::Bmp;
+    std::vector<int> IconSizes = {};  // 1 to 256; empty: IconSizesFor the page
+    // Without IconSizes, sizes that have artwork of their own are in the icon although the page's
+    // table has them not.
+    bool AddsArtworkSizes = false;
+    IconFormat IconPictures = IconFormat::Png256;
+    // An icon's pictures are also left in SizesFolder() until the next export of one.
+    bool LeavesScratchPictures = false;
     // 0 to kMaxGifThreshold: pixels of a lower alpha become transparent in a GIF.
     int GifThreshold = kUsualGifThreshold;
 };
@@ -28,22 +34,22 @@ struct ExportSettings {
 // side reaches and all below it, largest first; none below 16.
 std::vector<int> IconSizesFor(int pageWidth, int pageHeight);
 
-// The page in the middle of a transparent size x size square: never enlarged, else scaled with high
-// quality until its larger side fills the square.
-graphics::Bitmap DrawIconPicture(const graphics::Bitmap& page, int size);
-
 // The page over its background as a GIF is made from it: a background whose alpha is 0 counts as
 // none.
 graphics::Bitmap DrawGifSurface(const graphics::Bitmap& page, graphics::Argb pageBackground);
 
 // Writes the composed page `page` to `path`. PNG, BMP, JPEG and GIF have the background under the
 // picture (0: transparent in PNG and GIF, white in the others), an icon never has. A page too small
-// for any icon size writes no file. The pictures of an icon are also left in SizesFolder() until
-// the next icon export; a failure to do so is no failure of the export. Throws graphics::FileError,
-// also for an empty page; std::invalid_argument for an icon size out of range.
+// for any icon size writes no file; a failure to leave scratch pictures is none of the export.
+// Throws graphics::FileError, also for an empty page; std::invalid_argument for an icon size out of
+// range.
 void ExportImage(const std::filesystem::path& path, ExportFormat format,
                  const graphics::Bitmap& page, graphics::Argb pageBackground,
                  const ExportSettings& settings = {});
+
+// The same of a whole family, as an icon.
+void ExportIcon(const std::filesystem::path& path, const FlatFamily& family,
+                const ExportSettings& settings = {});
 
 // The folder "Sizes" in the user's cache folder (XDG_CACHE_HOME, else ~/.cache; LOCALAPPDATA on
 // Windows); not made here. Empty when there is no such folder.

@@ -69,7 +69,7 @@ Bytes EncodePicture(const Bitmap& picture, IconFormat format) {
 
 }  // namespace
 
-Bytes EncodeIcon(std::span<const Bitmap> pictures, IconFormat format) {
+Bytes EncodeIcon(std::span<const Bitmap> pictures, IconFormat format, std::span<const Bytes> pngs) {
     if (pictures.empty() || pictures.size() > kMaxEntries)
         throw std::invalid_argument("an icon holds 1 to 65535 pictures");
     Bytes icon;
@@ -79,12 +79,15 @@ Bytes EncodeIcon(std::span<const Bitmap> pictures, IconFormat format) {
 
     Bytes data;
     const std::size_t dataStart = kDirectoryBytes + pictures.size() * kEntryBytes;
-    for (const Bitmap& picture : pictures) {
+    for (std::size_t i = 0; i < pictures.size(); ++i) {
+        const Bitmap& picture = pictures[i];
         if (picture.IsEmpty() || IsTooLarge(picture))
             throw std::invalid_argument("a picture of an icon has 1 to 256 pixels a side");
         // Entries have 32 bits, also when the picture came without alpha.
         const Bytes encoded =
-            EncodePicture(CopyBitmap(picture, picture.Width(), picture.Height()), format);
+            i < pngs.size() && !pngs[i].empty()
+                ? pngs[i]
+                : EncodePicture(CopyBitmap(picture, picture.Width(), picture.Height()), format);
         // 256 does not fit into its byte and stands as 0.
         Append<std::uint8_t>(icon, static_cast<std::uint8_t>(picture.Width()));
         Append<std::uint8_t>(icon, static_cast<std::uint8_t>(picture.Height()));

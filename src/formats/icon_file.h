@@ -17,8 +17,10 @@ enum class IconFormat { Bmp, Png256, Png };
 inline constexpr int kMaxIconSide = 256;
 
 // One entry per picture, in the order given; a width or height of 256 stands as 0 in the directory.
-// Throws std::invalid_argument for no picture, an empty one or one above kMaxIconSide.
-std::vector<std::uint8_t> EncodeIcon(std::span<const graphics::Bitmap> pictures, IconFormat format);
+// `pngs`: for each picture the PNG that stands for it as it is; an empty one, or none at all: it is
+// encoded. Throws std::invalid_argument for no picture, an empty one or one above kMaxIconSide.
+std::vector<std::uint8_t> EncodeIcon(std::span<const graphics::Bitmap> pictures, IconFormat format,
+                                     std::span<const std::vector<std::uint8_t>> pngs = {});
 
 inline constexpr int kMaxCombinedPictures = 7;
 

@@ -195,8 +195,8 @@ Bytes JournalEncoder::Append(const Document& document, std::int64_t time) {
         bytes.assign(kHead.begin(), kHead.end());
     std::vector<Picture> pictures;
     std::vector<std::uint64_t> numbers;
-    for (const IconLayer& layer : document.Master.Layers)
-        numbers.push_back(NumberOf(layer, pictures, bytes));
+    for (const IconLayer* layer : LayersOf(document))
+        numbers.push_back(NumberOf(*layer, pictures, bytes));
     Bytes state = EncodeState(document, numbers);
     if (state == state_)
         return {};

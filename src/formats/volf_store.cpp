@@ -1,8 +1,12 @@
 #include "formats/volf_store.h"
 
+#include <algorithm>
+#include <cstring>
+
 #include "formats/document_limits.h"
 #include "formats/parallel.h"
 #include "formats/volf_layout.h"
+#include "graphics/checksum.h"
 #include "graphics/codecs/image_files.h"
 #include "graphics/errors.h"
 #include "graphics/file_io.h"
@@ -42,6 +46,47 @@ void AppendLayer(std::vector<std::uint8_t>& file, const IconLayer& layer) {
     Append<std::int32_t>(file, 0);  // the path's place; paths are not kept
 }
 
+// The layers of a page, and where their pictures belong.
+void AppendLayers(DocumentFrame& frame, const document::Page& page) {
+    Append<std::int32_t>(frame.Bytes, page.LayerCount());
+    for (const IconLayer& layer : page.Layers) {
+        AppendLayer(frame.Bytes, layer);
+        frame.PictureAt.push_back(static_cast<std::uint32_t>(frame.Bytes.size()));
+    }
+}
+
+// Length and checksum come when it is filled.
+void AppendFamily(DocumentFrame& frame, const Document& document) {
+    std::vector<std::uint8_t>& file = frame.Bytes;
+    file.insert(file.end(), kFamilyMagic.begin(), kFamilyMagic.end());
+    Append<std::uint16_t>(file, kFamilyVersion);
+    Append<std::uint32_t>(file, 0);
+    Append<std::uint32_t>(file, 0);
+    Append<std::int32_t>(file, static_cast<std::int32_t>(document.Sizes.size()));
+    for (const document::SizePage& page : document.Sizes) {
+        Append<std::int32_t>(file, page.Size);
+        AppendLayers(frame, page.Artwork);
+    }
+}
+
+// Where the family begins in a frame; its end where there is none.
+std::size_t FamilyPlace(const DocumentFrame& frame) {
+    const auto layers = graphics::NumberAt<std::int32_t>(frame.Bytes, kVolfLayerCountAt);
+    const std::size_t record = kVolfLayerBytes - kVolfLengthBytes;
+    return kVolfHeaderBytes + record * static_cast<std::size_t>(std::max(layers, 0));
+}
+
+void SealFamily(std::vector<std::uint8_t>& file, std::size_t family) {
+    const std::size_t content = family + kFamilyHeadBytes;
+    if (file.size() < content)
+        return;
+    const auto put = [&](std::size_t place, std::uint32_t number) {
+        std::memcpy(file.data() + family + place, &number, sizeof number);
+    };
+    put(kFamilyLengthAt, static_cast<std::uint32_t>(file.size() - content));
+    put(kFamilyChecksumAt, graphics::Crc32(std::span(file).subspan(content)));
+}
+
 void AppendPicture(std::vector<std::uint8_t>& file, const std::vector<std::uint8_t>& png) {
     Append<std::int32_t>(file, static_cast<std::int32_t>(png.size()));
     file.insert(file.end(), png.begin(), png.end());
@@ -49,6 +94,15 @@ void AppendPicture(std::vector<std::uint8_t>& file, const std::vector<std::uint8
 }
 
 }  // namespace
+
+std::vector<const IconLayer*> LayersOf(const Document& document) {
+    std::vector<const IconLayer*> layers;
+    for (const document::Page* page : document.Pages()) {
+        for (const IconLayer& layer : page->Layers)
+            layers.push_back(&layer);
+    }
+    return layers;
+}
 
 std::vector<std::uint8_t> EncodePicture(const IconLayer& layer) {
     return EncodePng(CopyBitmap(layer.Image, layer.ImageWidth, layer.ImageHeight));
@@ -62,11 +116,9 @@ DocumentFrame EncodeFrame(const Document& document) {
     Append<std::int32_t>(file, document.Master.Width);
     Append<std::int32_t>(file, document.Master.Height);
     Append<graphics::Argb>(file, document.Background);
-    Append<std::int32_t>(file, document.Master.LayerCount());
-    for (const IconLayer& layer : document.Master.Layers) {
-        AppendLayer(file, layer);
-        frame.PictureAt.push_back(static_cast<std::uint32_t>(file.size()));
-    }
+    AppendLayers(frame, document.Master);
+    if (!document.Sizes.empty())
+        AppendFamily(frame, document);
     return frame;
 }
 
@@ -75,10 +127,13 @@ std::vector<std::uint8_t> FillFrame(const DocumentFrame& frame,
     if (pictures.size() != frame.PictureAt.size())
         throw Error("the pictures of the document are not complete");
     std::vector<std::uint8_t> file;
-    std::size_t done = 0;
+    std::size_t done = 0, family = 0;
+    const std::size_t familyPlace = FamilyPlace(frame);
     const auto copyUpTo = [&](std::size_t end) {
         if (end < done || end > frame.Bytes.size())
             throw Error("the pictures of the document have no place");
+        if (done <= familyPlace && familyPlace < end)
+            family = file.size() + familyPlace - done;
         file.insert(file.end(), frame.Bytes.begin() + static_cast<std::ptrdiff_t>(done),
                     frame.Bytes.begin() + static_cast<std::ptrdiff_t>(end));
         done = end;
@@ -88,14 +143,16 @@ std::vector<std::uint8_t> FillFrame(const DocumentFrame& frame,
         AppendPicture(file, pictures[i]);
     }
     copyUpTo(frame.Bytes.size());
+    if (family != 0)
+        SealFamily(file, family);
     return file;
 }
 
 std::vector<std::uint8_t> EncodeDocument(const Document& document) {
     // The pictures take nearly all of the time.
-    std::vector<std::vector<std::uint8_t>> pngs(document.Master.Layers.size());
-    ForEachInParallel(pngs.size(),
-                      [&](std::size_t i) { pngs[i] = EncodePicture(document.Master.Layers[i]); });
+    const std::vector<const IconLayer*> layers = LayersOf(document);
+    std::vector<std::vector<std::uint8_t>> pngs(layers.size());
+    ForEachInParallel(pngs.size(), [&](std::size_t i) { pngs[i] = EncodePicture(*layers[i]); });
     return FillFrame(EncodeFrame(document), pngs);
 }
 

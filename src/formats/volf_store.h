@@ -1,4 +1,5 @@
-// Document files (.volf), written: a header, then a record with a PNG picture for each layer.
+// Document files (.volf), written: a header, then a record with a PNG picture for each layer, then
+// the artwork of sizes, if there is any.
 #pragma once
 
 #include <cstdint>
@@ -10,7 +11,11 @@
 
 namespace orbelle::formats {
 
-// The whole file as bytes, little-endian, layers from the bottom up.
+// The layers of a document as they stand in its file: of the master from the bottom up, then of the
+// artwork by rising size.
+std::vector<const document::IconLayer*> LayersOf(const document::Document& document);
+
+// The whole file as bytes, little-endian.
 std::vector<std::uint8_t> EncodeDocument(const document::Document& document);
 
 // The file without the layers' pictures: small, and quick to make. The pictures belong, in their

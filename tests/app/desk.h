@@ -108,6 +108,7 @@ public:
     void Paste() override {}
     void ToggleTips() override {}
     void CloseTips() override {}
+    void TogglePixelGrid() override {}
     void ShowAbout() override {}
     void ShowControls() override {}
 

@@ -19,7 +19,7 @@ TEST_F(ProgramTest, InfoTellsTheDocumentInOneLine) {
         R"("visible":true,"clip_next":false,"hue":0,"saturation":40,"brightness":50,)"
         R"("contrast":50,"region":null})";
     const std::string told =
-        R"({"page":{"width":64,"height":48,"background":"#80FF0000"},"path":"","modified":true,)"
+        R"({"size":null,"sizes":[],"page":{"width":64,"height":48,"background":"#80FF0000"},"path":"","modified":true,)"
         R"("selected":1,"undo":2,"redo":1,"selection":null,"layers":[)";
     EXPECT_EQ(Run("new 64 48 background '#80ff0000' add-layer opacity 5 30 undo info"),
               (Outcome{0, told + layer + "," + layer + "]}\n", ""}));
@@ -71,7 +71,7 @@ TEST_F(ProgramTest, IconSettingsHoldForTheIconsAfterThem) {
     EXPECT_THAT((std::vector{two[4], two[6], two[6 + 16]}), ElementsAre(2, 32, 16));
     EXPECT_EQ(two[6 + 2 * 16], 40);                 // a bitmap's header
     EXPECT_EQ(Bytes("png.ico")[6 + 2 * 16], 0x89);  // a PNG's first byte
-    EXPECT_TRUE(Exists("cache/Sizes/temp32.png"));
+    EXPECT_FALSE(Exists("cache/Sizes"));
 }
 
 TEST_F(ProgramTest, CombineNeedsNoDocument) {

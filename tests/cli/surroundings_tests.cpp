@@ -43,7 +43,7 @@ TEST_F(ProgramTest, PipesAndDevicesAreWrittenTo) {
     EXPECT_EQ(Bytes("c.png"), Bytes("b.png"));
     EXPECT_EQ(Bytes("c.volf"), Bytes("b.volf"));
     EXPECT_EQ(Run("open a.png save /dev/stdout info | cat >c.volf"), kSuccess);
-    EXPECT_THAT(Text("c.volf"), StartsWith(Text("b.volf") + "{\"page\":"));
+    EXPECT_THAT(Text("c.volf"), StartsWith(Text("b.volf") + "{\"size\":"));
     EXPECT_EQ(Run("open a.png save /dev/stdout >c.volf"), kSuccess);
     EXPECT_EQ(Bytes("c.volf"), Bytes("b.volf"));
 

@@ -4,6 +4,7 @@
 
 #include <functional>
 #include <string>
+#include <tuple>
 
 #include "support/pictures.h"
 
@@ -227,6 +228,44 @@ TEST(UndoHistory, RollBackGoesBackToAPlaceWhateverWasDoneAndForgotten) {
         EXPECT_EQ(history.RedoCount(), 2);
         EXPECT_EQ(HuesOnTheWay(history, document), (std::vector<int>{1, 0, 1, 2, 3, 4}));
     }
+}
+
+TEST(UndoHistory, BringsThePageOfTheStepInForce) {
+    Document document = DocumentOf(1);
+    UndoHistory history;
+    Page artwork;
+    artwork.Layers.resize(1);
+    const auto draw = [&](int hue) {
+        history.TruncateRedo();
+        history.PushSnapshot(document, kName);
+        document.Current().Layers[0].Hue = hue;
+    };
+    const auto state = [&] {
+        return std::tuple(document.EditedSize, document.Current().Layers[0].Hue,
+                          document.Sizes.size());
+    };
+    draw(1);
+    history.PushSnapshot(document, kName, 16);
+    document.SetArtwork(16, artwork);
+    document.EditedSize = 16;
+    draw(2);
+    document.EditedSize = Family::kMaster;
+    draw(3);
+
+    using State = std::tuple<int, int, std::size_t>;
+    document.EditedSize = 16;  // going about is no step
+    const State way[] = {{0, 1, 1}, {16, 0, 1}, {0, 1, 0}, {0, 0, 0}};
+    for (const State& before : way) {
+        ASSERT_TRUE(history.Undo(document));
+        EXPECT_EQ(state(), before);
+    }
+    const State back[] = {{0, 1, 0}, {16, 0, 1}, {16, 2, 1}, {0, 3, 1}};
+    for (const State& after : back) {
+        document.EditedSize = Family::kMaster;
+        ASSERT_TRUE(history.Redo(document));
+        EXPECT_EQ(state(), after);
+    }
+    EXPECT_TRUE(document.Modified);
 }
 
 }  // namespace

@@ -18,12 +18,12 @@ protected:
     // A sign a topic, or one for each of its commands when they differ. The topics, in the order of
     // CommandId: Save, Save As, Export; Undo, Redo; Cut, Copy, Paste, Delete; Select All; Deselect,
     // Invert; Merge Down; flips and turns; Back One, Forward One, To Back, To Front; Set Order;
-    // Add, Remove, Hide; Disabled, Hot; the other styles; tools; Zoom In, Out; Original Size;
-    // background.
+    // Add, Remove, Hide; Disabled, Hot; the other styles; tools, mirrors; Zoom In, Out; Original
+    // Size, Fit in Whole Steps; background.
     std::string States() const {
         std::string text;
         int next = 0;
-        for (const int topic : {3, 2, 4, 1, 2, 1, 4, 4, 1, 3, 2, 12, 1, 2, 1, 1}) {
+        for (const int topic : {3, 2, 4, 1, 2, 1, 4, 4, 1, 3, 2, 12, 2, 2, 2, 1}) {
             std::string signs;
             for (int i = 0; i < topic; ++i)
                 signs += editor.States.IsEnabled(static_cast<CommandId>(next++)) ? '+' : '-';

@@ -3,6 +3,7 @@
 #include "editing/adjust_sliders.h"
 #include "editing/clipboard_commands.h"
 #include "editing/layer_bar.h"
+#include "editing/nudge.h"
 #include "editing/selection_commands.h"
 #include "editing/stack_commands.h"
 #include "editing/style_commands.h"
@@ -67,6 +68,8 @@ std::vector<NamedCommand> LayerCommands() {
         {"blur", Blur, "Blur"},
         {"sharpen", Sharpen, "Sharpen"},
         {"left key", key(SceneKey::Left), "Move Layer"},
+        {"half a step", [](Editor& e) { NudgeHalf(e, Direction::Right); }, "Move Layer"},
+        {"half a step down", [](Editor& e) { NudgeHalf(e, Direction::Down); }, "Move Layer"},
         {"delete key", key(SceneKey::Delete), "Delete Layer"},
     };
 }

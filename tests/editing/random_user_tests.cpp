@@ -86,8 +86,8 @@ protected:
     }
 
     void View() {
-        void (*const views[])(Editor&) = {ZoomIn, ZoomOut, OriginalSize};
-        Do(views[Below(3)]);
+        void (*const views[])(Editor&) = {ZoomIn, ZoomOut, OriginalSize, FitWhole};
+        Do(views[Below(4)]);
         if (Chance(50))
             SetZoom(0.2 + Below(30) / 10.0);
     }
@@ -116,6 +116,9 @@ protected:
             [&] { Steps() > 1 ? Do(Undo) : Do(Redo); },
             [&] { Do(UseColorWell, Below(2)); },
             [&] { Do(ChooseFill, static_cast<FillKind>(Below(4))); },
+            [&] {
+                Do(SetMirror, MirrorAxes{Chance(30), Chance(30)});
+            },
             [&] { Do(ChangeLineWidth, 1 + Below(Chance(20) ? 255 : 6)); },
             [&] { Do(ChangeBrushSize, 1 + Below(100)); },
             [&] { Do(ChangeBrushOpacity, 1 + Below(100)); },

@@ -7,9 +7,11 @@
 #include "editing/give_up.h"
 #include "editing/layer_bar.h"
 #include "editing/tips.h"
+#include "editing/tool_palette.h"
 #include "editing/undo_commands.h"
 #include "editing/view_commands.h"
 #include "editing_fixture.h"
+#include "graphics/rotate_flip.h"
 
 namespace orbelle::editing {
 namespace {
@@ -125,6 +127,39 @@ TEST_F(SceneInput, StrokesAreShownHardEdgedFirst) {
     EXPECT_EQ(Drawn(), "4-7: 9-13");
     Release(OnPage(13, 7, kShift));  // Shift is read anew
     EXPECT_EQ(Drawn(), "4-8: 9-13");
+}
+
+// On a page with an odd and an even side, over its middle, soft and see-through.
+TEST_F(SceneInput, MirrorDrawingIsSymmetric) {
+    using graphics::RotateFlipType;
+    const auto expectSymmetry = [&](const char* when) {
+        for (const auto turn : {RotateFlipType::RotateNoneFlipX, RotateFlipType::RotateNoneFlipY}) {
+            graphics::Bitmap turned = editor.Canvas;
+            ImageRotateFlip(turned, turn);
+            EXPECT_TRUE(testing::SamePixels(turned, editor.Canvas)) << when;
+        }
+    };
+    const graphics::Bitmap ground = testing::FilledPicture(41, 30, 0xC0406020);
+    editor.Tools.Colors = {0x90C02010, 0xFF1080F0};
+    editor.Sliders.LineWidth.Value = 3;
+    Do(SetMirror, MirrorAxes{true, true});
+    for (const Tool tool :
+         {Tool::Pencil, Tool::Line, Tool::Rectangle, Tool::Ellipse, Tool::FilledRectangle,
+          Tool::FilledEllipse, Tool::PencilEraser, Tool::BrushEraser}) {
+        for (int fill = 0; fill < (tool < Tool::Line || IsEraser(tool) ? 1 : 4); ++fill) {
+            SCOPED_TRACE(100 * static_cast<int>(tool) + fill);
+            OpenPage(41, 30);
+            PutOnlyLayer(ground, 0, 0);
+            Use(tool);
+            editor.Tools.FillKind = static_cast<FillKind>(fill);
+            DragWithoutRelease({{10, 5}, {19, 9}, {24, 17}});
+            expectSymmetry("preview");
+            Release(OnPage(24, 17));
+            expectSymmetry("release");
+            EXPECT_FALSE(testing::SamePixels(Layer(0).Image, ground));
+            EXPECT_EQ(Steps(), 1);
+        }
+    }
 }
 
 // A preview shows what a release would leave.

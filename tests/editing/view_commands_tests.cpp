@@ -144,5 +144,26 @@ TEST_F(ViewCommands, TheWheelZoomsAtThePointer) {
     EXPECT_FALSE(editor.View.HorizontalScroll.Visible);
 }
 
+TEST_F(ViewCommands, FitWholeTakesTheLargestWholeStepThatShowsThePage) {
+    const struct {
+        int Width, Height;
+        double Zoom;
+    } cases[] = {{16, 16, 20}, {64, 64, 11}, {250, 64, 4}, {256, 256, 2}, {512, 512, 1}};
+    for (const auto& [width, height, zoom] : cases) {
+        Page(width, height);
+        Do(FitWhole);
+        EXPECT_EQ(editor.View.Zoom, zoom) << width;
+        EXPECT_TRUE(recorder.Last.Scene);
+    }
+    // Below 1 the steps are those of Zoom Out.
+    EXPECT_EQ(WholeFitZoom(200, 150, editor.Page()), 0.2);
+    EXPECT_EQ(WholeFitZoom(414, 414, editor.Page()), 0.8);
+    EXPECT_EQ(WholeFitZoom(516, 516, editor.Page()), 1);
+    Do(OriginalSize);
+    EXPECT_TRUE(OriginalSizeButton().Pressed);
+    Do(FitWhole);
+    EXPECT_FALSE(OriginalSizeButton().Pressed);
+}
+
 }  // namespace
 }  // namespace orbelle::editing

@@ -4,11 +4,11 @@
 
 #include <cstdlib>
 
+#include "filters/shrink_to_size.h"
 #include "graphics/codecs/image_files.h"
 #include "graphics/errors.h"
 #include "graphics/file_io.h"
 #include "support/pictures.h"
-#include "support/pixel_runs.h"
 #include "support/random_pictures.h"
 #include "support/temporary_folder.h"
 
@@ -44,26 +44,6 @@ TEST(FindExportFormat, GoesByTheExtensionInWhateverCase) {
     };
     for (const auto& [path, format] : cases)
         EXPECT_EQ(FindExportFormat(path), format) << path;
-}
-
-TEST(DrawIconPicture, HasWholePixelsInTheMiddle) {
-    const struct {
-        int Width, Height, Size;
-        const char* Pixels;
-    } cases[] = {
-        {512, 100, 256, "103-152: 0-255"},
-        {24, 16, 16, "2-12: 0-15"},
-        {16, 16, 20, "2-17: 2-17"},
-        {13, 16, 16, "0-15: 1-13"},
-        {512, 1, 16, ""},
-        // Ties go to the even number.
-        {16, 5, 8, "3-4: 0-7"},
-        {16, 7, 8, "2-5: 0-7"},
-        {5, 16, 8, "0-7: 3-4"},
-    };
-    for (const auto& [width, height, size, pixels] : cases)
-        EXPECT_EQ(PixelRuns(DrawIconPicture(FilledPicture(width, height, kBlue), size)), pixels)
-            << width << " x " << height;
 }
 
 class ExportTest : public ::testing::Test {
@@ -111,28 +91,36 @@ TEST_F(ExportTest, AnIconHoldsThePageInSquaresThatStayInTheCacheFolder) {
         ExportSettings Settings;
         std::vector<int> Sizes;
     } cases[] = {
-        {FilledPicture(512, 100, kBlue), {}, {256, 128, 64, 48, 32, 24, 16}},
-        {FilledPicture(15, 15, kBlue), {{32, 15}, IconFormat::Png}, {32, 15}},
+        {FilledPicture(512, 100, kBlue),
+         {.LeavesScratchPictures = true},
+         {256, 128, 64, 48, 32, 24, 16}},
+        {FilledPicture(15, 15, kBlue),
+         {.IconSizes = {32, 15}, .IconPictures = IconFormat::Png, .LeavesScratchPictures = true},
+         {32, 15}},
     };
+    ExportImage(path_, ExportFormat::Ico, FilledPicture(32, 32, kBlue), 0);
+    EXPECT_FALSE(std::filesystem::exists(SizesFolder())) << "unless it is wanted";
     for (const auto& [page, settings, sizes] : cases) {
         std::vector<Bitmap> pictures;
         for (const int size : sizes)
-            pictures.push_back(DrawIconPicture(page, size));
+            pictures.push_back(filters::ShrinkToSize(page, size));
         ExportImage(path_, ExportFormat::Ico, page, kRed, settings);
         EXPECT_EQ(graphics::ReadFile(path_), EncodeIcon(pictures, settings.IconPictures));
         const Bitmap left = graphics::LoadImageFromFile(folder_ / "cache/Sizes/temp32.png");
-        EXPECT_TRUE(testing::SamePixels(left, DrawIconPicture(page, 32)));
+        EXPECT_TRUE(testing::SamePixels(left, filters::ShrinkToSize(page, 32)));
     }
 }
 
 TEST_F(ExportTest, ACacheFolderThatCannotBeWrittenStopsNoExport) {
     graphics::WriteFile(folder_ / "cache", std::vector<std::uint8_t>{1});
-    ExportImage(path_, ExportFormat::Ico, FilledPicture(16, 16, kBlue), 0);
+    const ExportSettings settings{.LeavesScratchPictures = true};
+    ExportImage(path_, ExportFormat::Ico, FilledPicture(16, 16, kBlue), 0, settings);
     EXPECT_TRUE(std::filesystem::exists(path_));
     // A picture's name that is taken by a folder.
     setenv("XDG_CACHE_HOME", (folder_ / "other").c_str(), 1);
     std::filesystem::create_directories(SizesFolder() / "temp16.png");
-    EXPECT_NO_THROW(ExportImage(path_, ExportFormat::Ico, FilledPicture(16, 16, kBlue), 0));
+    EXPECT_NO_THROW(
+        ExportImage(path_, ExportFormat::Ico, FilledPicture(16, 16, kBlue), 0, settings));
 }
 
 TEST_F(ExportTest, FailuresOfTheOutputAreToldAndLeaveTheOldFile) {
@@ -162,7 +150,7 @@ TEST_F(ExportTest, AGifIsTransparentOnlyWithoutAnyBackground) {
         {0x00123456, 128, {0xFFFF0000, 0xFF000000}},
     };
     for (const auto& [background, threshold, result] : cases) {
-        ExportImage(path_, ExportFormat::Gif, page, background, {{}, IconFormat::Bmp, threshold});
+        ExportImage(path_, ExportFormat::Gif, page, background, {.GifThreshold = threshold});
         EXPECT_EQ(testing::PixelsOf(graphics::LoadImageFromFile(path_)), result);
     }
 }

@@ -104,6 +104,26 @@ TEST(Journal, AppendsOnlyPicturesThatHaveChanged) {
     EXPECT_EQ(KeptPart(Read(journal)->Document), KeptPart(document));
 }
 
+TEST(Journal, HoldsTheArtworkOfSizes) {
+    Document document = TwoLayers();
+    JournalEncoder encoder;
+    Bytes journal = encoder.Append(document, 1);
+    document.SetArtwork(16, {{LayerOf(0xFF00FF00, 16), LayerOf(0xFF0000FF)}, 0, 16, 16});
+    document.SetArtwork(8, {{}, document::kNoLayer, 8, 8});
+    Extend(journal, encoder.Append(document, 2));
+    EXPECT_EQ(KeptPart(Read(journal)->Document), KeptPart(document));
+
+    document.Sizes[1].Artwork.Layers[1].Image.SetPixel(0, 0, 0xFFFFFFFF);
+    document.EditedSize = 16;
+    Extend(journal, encoder.Append(document, 3));
+    EXPECT_EQ(KeptPart(Read(journal)->Document), KeptPart(document));
+    EXPECT_EQ(Read(journal)->Document.EditedSize, document::Family::kMaster);
+
+    document.RemoveArtwork(16);
+    Extend(journal, encoder.Append(document, 4));
+    EXPECT_EQ(KeptPart(Read(journal)->Document), KeptPart(document));
+}
+
 // Wherever the end of the file was lost or spoilt, the last document before that is there.
 TEST(Journal, HoldsTheLastWholeDocumentOfADamagedFile) {
     Document document = TwoLayers();

@@ -3,8 +3,10 @@
 #include <algorithm>
 #include <functional>
 #include <optional>
+#include <utility>
 
 #include "editing/scene_mapping.h"
+#include "editing/tools/mirror.h"
 #include "graphics/drawing_context.h"
 
 namespace orbelle::editing {
@@ -37,11 +39,18 @@ ShapeBox BoxBetween(PointF start, PointF end, bool square) {
     return box;
 }
 
-ShapeBox BoxOf(const Editor& editor, const StrokeDrag& drag, const Pointer& pointer) {
+PointF From(PointF origin, PointF point) {
+    return {point.X - origin.X, point.Y - origin.Y};
+}
+
+// Counted from `origin`, layer pixels.
+ShapeBox BoxOf(const Editor& editor, const StrokeDrag& drag, const Pointer& pointer,
+               PointF origin = {}) {
     const SceneMapping mapping = MappingOf(editor);
     const RectF& layer = editor.Page().Selected().Rect;
-    return BoxBetween(ScreenToLayer(mapping, layer, drag.Press.X, drag.Press.Y),
-                      ScreenToLayer(mapping, layer, pointer.X, pointer.Y), pointer.IsShiftAlone());
+    return BoxBetween(From(origin, ScreenToLayer(mapping, layer, drag.Press.X, drag.Press.Y)),
+                      From(origin, ScreenToLayer(mapping, layer, pointer.X, pointer.Y)),
+                      pointer.IsShiftAlone());
 }
 
 bool IsRectangle(Tool tool) {
@@ -96,12 +105,11 @@ void DrawFreehand(DrawingContext& context, const Pen& pen, std::vector<PointF> p
     context.DrawLines(pen, points);
 }
 
-}  // namespace
-
-void DrawShape(const Editor& editor, const StrokeDrag& drag, Bitmap& image, const Pointer& pointer,
-               SmoothingMode smoothing) {
+// The shape alone, on a picture whose corner is the layer's pixel `origin`.
+void DrawAt(PointF origin, const Editor& editor, const StrokeDrag& drag, Bitmap& image,
+            const Pointer& pointer, SmoothingMode smoothing) {
     const Tool tool = editor.Tools.InUse;
-    const ShapeBox box = BoxOf(editor, drag, pointer);
+    const ShapeBox box = BoxOf(editor, drag, pointer, origin);
     const std::optional<Brush> brush = MakeBrush(editor, box);
     if (!brush)
         return;
@@ -114,8 +122,12 @@ void DrawShape(const Editor& editor, const StrokeDrag& drag, Bitmap& image, cons
     const RectF whole{box.Left, box.Top, box.Width, box.Height};
     const RectF outline{box.Left, box.Top, box.Width - 1, box.Height - 1};
     switch (tool) {
-        case Tool::Pencil:
-            return DrawFreehand(context, pen, drag.Freehand);
+        case Tool::Pencil: {
+            std::vector<PointF> points = drag.Freehand;
+            for (PointF& point : points)
+                point = From(origin, point);
+            return DrawFreehand(context, pen, std::move(points));
+        }
         case Tool::Line:
             return context.DrawLine(pen, box.Start, box.End);
         case Tool::Rectangle:
@@ -129,6 +141,17 @@ void DrawShape(const Editor& editor, const StrokeDrag& drag, Bitmap& image, cons
         default:
             return;
     }
+}
+
+}  // namespace
+
+void DrawShape(const Editor& editor, const StrokeDrag& drag, Bitmap& image, const Pointer& pointer,
+               SmoothingMode smoothing) {
+    if (editor.Tools.Mirror == MirrorAxes())
+        return DrawAt({}, editor, drag, image, pointer, smoothing);
+    DrawMirrored(editor, image, [&](Bitmap& picture, PointF origin) {
+        DrawAt(origin, editor, drag, picture, pointer, smoothing);
+    });
 }
 
 RectF ShapeArea(const Editor& editor, const StrokeDrag& drag, const Pointer& pointer) {

@@ -1,6 +1,7 @@
 // The pencil eraser clears single pixels, the brush eraser softens round spots.
 #include "editing/layer_pixels.h"
 #include "editing/scene_mapping.h"
+#include "editing/tools/mirror.h"
 #include "editing/tools/tool_handlers.h"
 #include "editing/undo_step.h"
 #include "filters/erasers.h"
@@ -26,7 +27,9 @@ void Erase(Editor& editor, Eraser eraser, const SceneMapping& mapping, const Poi
     const document::IconLayer& layer = editor.Page().Selected();
     const graphics::PointF pixel = ScreenToLayer(mapping, layer.Rect, pointer.X, pointer.Y);
     FilterLayerPixels(editor, layer.Image, [&](graphics::Bitmap& image) {
-        eraser(editor, image, graphics::RoundToEven(pixel.X), graphics::RoundToEven(pixel.Y));
+        EraseMirrored(editor, image, pixel, [&](graphics::Bitmap& picture, int x, int y) {
+            eraser(editor, picture, x, y);
+        });
     });
 }
 

@@ -157,5 +157,45 @@ TEST_F(DrawingTools, Erasers) {
             "0/alphas@60,5 255, 0/region -1 0 80 60"}});
 }
 
+// Page pixel x is mirrored to 39 - x, y to 29 - y.
+TEST_F(DrawingTools, MirrorDrawing) {
+    Check(open, "undo 1, 0/pixels ",
+          {{"left and right", "pencil mirror horizontal drag 2 2 8 2", "2: 2-8 31-37"},
+           {"top and bottom", "pencil mirror vertical drag 2 2 8 2", "2: 2-8; 27: 2-8"},
+           {"both", "pencil mirror both drag 2 2 8 2", "2: 2-8 31-37; 27: 2-8 31-37"},
+           {"neither", "pencil mirror both mirror none drag 2 2 8 2", "2: 2-8"},
+           {"a box", "filled-rectangle mirror horizontal drag 13 7 10 5", "4-7: 9-13 26-30"},
+           {"a square's side", "rectangle mirror horizontal shift-drag 10 7 13 5",
+            "4: 9-13 26-30; 5-7: 9 13 26 30; 8: 9-13 26-30"},
+           {"from beside the page", "filled-rectangle mirror horizontal drag 41 1 38 1",
+            "0-1: 0-2 37-39"}});
+    Check(open, "undo 1, 0/",
+          {{"soft edges", "line mirror horizontal drag 10 5 14 7",
+            "alphas@9,5~12 0 119 143 25 0, 0/alphas@26,5~12 0 25 143 119 0"},
+           {"a gradient",
+            "filled-rectangle mirror horizontal foreground #000000 background-colour #C80000 "
+            "fill horizontal drag 10 5 14 7",
+            "reds@9,4~2 0 50 100 150 200 150, 0/reds@25,4~2 150 200 150 100 50 0"},
+           {"no darker where it meets itself",
+            "filled-rectangle mirror both foreground #80336699 drag 18 14 22 16",
+            "pixels 13-16: 17-22, 0@20,14 80336699"},
+           {"undone", "pencil mirror both click 2 2 undo redo", "pixels 2: 2 37; 27: 2 37"}});
+    // The layer's pixels are the page's less (7, 3). Drawn beside it, mirrored onto it.
+    Check(
+        "open spot.volf ", "0/pixels ",
+        {{"another place", "tool filled-rectangle mirror horizontal drag 31 5 33 6", "1-3: 0-2"}});
+    Check({
+        {"the pencil eraser", "open odd.png mirror both tool pencil-eraser click 3 4",
+         "0/alphas@2,4 255 0 255, 0/alphas@35,5 255 0 255, 0/alphas@35,4 255 0 255, "
+         "0/alphas@2,5 255 0 255, 0/alphas@3,6 255, undo 1"},
+        // R 2, L 100, as below.
+        {"the brush eraser, once where it meets itself",
+         "open blue.png mirror horizontal tool brush-eraser brush-size 1 brush-opacity 41 "
+         "click 10 10 click 39 30",
+         "0/alphas@9,10 205 155 205, 0/alphas@68,10 205 155 205, 0/alphas@37,30 255 205 155 155 "
+         "205 255"},
+    });
+}
+
 }  // namespace
 }  // namespace orbelle::cli

@@ -17,6 +17,9 @@ protected:
         WriteDocument("two.volf", 40, 30, {whole, {gap, {10, 5, 8, 4}}});
         WriteDocument("hidden.volf", 40, 30, {whole, {gap, {10, 5, 8, 4}, 1, false}});
         Write("a.png", gap);
+        graphics::Bitmap pair = FilledPicture(2, 1, 0xFF000000);
+        pair.SetPixel(1, 0, 0x80FF0000);
+        WriteDocument("pair.volf", 9, 9, {{pair, {}}});
         WriteDocument("none.volf", 40, 30, {{whole.Image, {}, 1, false}});
         WriteDocument("small.volf", 40, 30, {{FilledPicture(4, 3, kBlue), {10, 5, 4, 3}}});
         WriteDocument("half.volf", 20, 10, {{FilledPicture(20, 10, kBlue), {}, 0.5F}});
@@ -79,6 +82,27 @@ TEST_F(HandOnTheScene, DragsAndKeysMoveALayer) {
             "tool brush-eraser drag 1 1 4 4 tool move drag 1 1 4 4",
             "2, selection null"},
            {"the other button is the menu's", "tool pencil right-click 1 1", "0, selected 1"}});
+}
+
+TEST_F(HandOnTheScene, NudgesALayerByHalfAPixel) {
+    Check("open small.volf ", "0/rect ",
+          {{"right", "nudge right",
+            "10 5 5 3, 0/base_rect 10 5 5 3, 0/image 5 3, 0/region 9 5 5 3, undo 1, "
+            "modified true, page@10,5 80336699, page@11,5 FF336699, page@14,7 80336699"},
+           {"left", "nudge left", "9 5 5 3, page@9,5 80336699, page@10,5 FF336699"},
+           {"up", "nudge up", "10 4 4 4, page@10,4 80336699, page@13,7 80336699"},
+           {"down", "nudge down undo redo", "10 5 4 4, page@10,5 80336699, page@10,8 80336699"},
+           {"there and back stays in place", "nudge right nudge left",
+            "9 5 6 3, undo 2, 0/alphas@0,0 64 192 255 255 192 64"},
+           {"hidden", "toggle-visible nudge down", "10 5 4 4, undo 1"},
+           {"a selection stays", "tool select-rectangle drag 1 1 3 3 tool move nudge up",
+            "10 4 4 4, selection/runs 1-3: 1-3"}});
+    Check({
+        {"colours weigh by alpha", "open pair.volf nudge right",
+         "0/argb 80000000 C0550000 40FF0000"},
+        {"no selected layer", "open two.volf click 39 6 nudge left",
+         "error nudge left: no layer is selected, undo 0"},
+    });
 }
 
 // Both corners included, whichever way the drag goes.

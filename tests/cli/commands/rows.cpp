@@ -114,11 +114,21 @@ std::string Answer(Workspace& workspace, const std::string& question, const std:
     return Told(editor, question);
 }
 
+// Of all pages.
+std::string AccountOf(const document::Family& family) {
+    std::string account;
+    for (const document::Page* page : family.Pages())
+        account += AccountOf(*page);
+    return account;
+}
+
 // Which one is selected is no matter of a step's.
 std::string LayersOf(const editing::Editor& editor) {
-    document::Page page = editor.Page();
-    page.SelectedLayer = document::kNoLayer;
-    return AccountOf(page);
+    document::Family family = editor.Document;
+    family.Master.SelectedLayer = document::kNoLayer;
+    for (document::SizePage& page : family.Sizes)
+        page.Artwork.SelectedLayer = document::kNoLayer;
+    return AccountOf(family);
 }
 
 bool IsComposed(editing::Editor& editor) {
@@ -131,14 +141,14 @@ bool IsComposed(editing::Editor& editor) {
 
 // All steps undone give the stack that they began with, and done again the one that they led to.
 void CheckUndo(editing::Editor& editor, const std::string& first) {
-    const std::string last = AccountOf(editor.Page());
+    const std::string last = AccountOf(editor.Document);
     const int steps = editor.History.UndoIndex();
     for (int i = 0; i < steps; ++i)
         ASSERT_FALSE(Run(editor, editing::Undo).Failed());
     EXPECT_EQ(LayersOf(editor), first) << "undone";
     for (int i = 0; i < steps; ++i)
         ASSERT_FALSE(Run(editor, editing::Redo).Failed());
-    EXPECT_EQ(AccountOf(editor.Page()), last) << "undone and done again";
+    EXPECT_EQ(AccountOf(editor.Document), last) << "undone and done again";
 }
 
 }  // namespace

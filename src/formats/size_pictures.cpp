@@ -1,0 +1,48 @@
+#include "formats/size_pictures.h"
+
+#include <algorithm>
+
+#include "document/compositor.h"
+#include "filters/shrink_to_size.h"
+
+namespace orbelle::formats {
+namespace {
+
+using document::OpenedIcon;
+using graphics::Bitmap;
+
+bool HasSamePixels(const Bitmap& a, const Bitmap& b) {
+    const auto count = static_cast<std::size_t>(a.Width()) * static_cast<std::size_t>(a.Height());
+    return a.Width() == b.Width() && a.Height() == b.Height() &&
+           std::equal(a.Pixels(), a.Pixels() + count, b.Pixels());
+}
+
+}  // namespace
+
+FlatFamily Flatten(const document::Document& document, const graphics::Bitmap& current) {
+    const auto flat = [&](const document::Page& page) {
+        return &page == &document.Current() ? current : document::Flatten(page);
+    };
+    FlatFamily flattened{flat(document.Master), {}, document.Icon};
+    for (const document::SizePage& page : document.Sizes)
+        flattened.Sizes.emplace_back(page.Size, flat(page.Artwork));
+    return flattened;
+}
+
+graphics::Bitmap PictureForSize(const FlatFamily& family, int size) {
+    const auto own =
+        std::ranges::find(family.Sizes, size, &std::pair<int, graphics::Bitmap>::first);
+    return own != family.Sizes.end() ? own->second : filters::ShrinkToSize(family.Master, size);
+}
+
+std::vector<std::uint8_t> UntouchedPng(const FlatFamily& family, const graphics::Bitmap& picture) {
+    if (!family.Icon)
+        return {};
+    const auto& entries = family.Icon->Entries;
+    const auto entry = std::ranges::find(entries, picture.Width(), &OpenedIcon::Entry::Size);
+    return entry != entries.end() && HasSamePixels(entry->Picture, picture)
+               ? entry->Png
+               : std::vector<std::uint8_t>();
+}
+
+}  // namespace orbelle::formats
