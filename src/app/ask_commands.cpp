@@ -19,11 +19,11 @@ namespace {
 
 constexpr char kPictureFilters[] =
     "|ICO Files (*.ICO)|*.ico|PNG Files (*.PNG)|*.png|GIF Files (*.GIF)|*.gif"
-    "|JPEG Files (*.JPG;*.JPEG)|*.jpg;*.jpeg|BMP Files (*.BMP)|*.bmp";
+    "|JPEG Files (*.JPG;*.JPEG)|*.jpg;*.jpeg|BMP Files (*.BMP)|*.bmp|CUR Files (*.CUR)|*.cur";
 constexpr char kOpenFilter[] =
-    "All Supported Formats|*.volf;*.ico;*.png;*.gif;*.jpg;*.jpeg;*.bmp"
+    "All Supported Formats|*.volf;*.ico;*.png;*.gif;*.jpg;*.jpeg;*.bmp;*.cur"
     "|Varnel Orbelle Files (*.VOLF)|*.volf";
-constexpr char kImportFilter[] = "All Supported Formats|*.ico;*.png;*.gif;*.jpg;*.jpeg;*.bmp";
+constexpr char kImportFilter[] = "All Supported Formats|*.ico;*.png;*.gif;*.jpg;*.jpeg;*.bmp;*.cur";
 
 void OpenPath(const WindowContext& context, const fs::path& path) {
     const TakeResult result = TakeToOpen(context, path);

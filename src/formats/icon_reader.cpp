@@ -225,9 +225,12 @@ std::vector<IconEntryImage> DecodeIcon(const ByteSource& file) {
         image.Bytes = entry.Bytes;
         if (type == kPointerType)
             image.Hotspot = {entry.HotspotX, entry.HotspotY};
+        // Not thrown: a file of a few bytes can claim 65535 of these.
+        if (!entry.IsWhole) {
+            image.Problem = "the icon's directory is cut short";
+            continue;
+        }
         try {
-            if (!entry.IsWhole)
-                throw ImageError("the icon's directory is cut short");
             if (IsPng(file, entry.Place))
                 ReadPng(file, entry, budget, work, image);
             else

@@ -22,8 +22,8 @@ struct Hotspot {
 };
 
 struct IconEntryImage {
-    int Width =
-        0;  // pixels, by the picture itself; 0 when bad and not told in a header that we know
+    // In pixels, by the picture itself; of a bad one what its header tells, if that can be, else 0.
+    int Width = 0;
     int Height = 0;
     int Bits = 0;  // a pixel; of a PNG its depth times its channels
     IconEntryFormat Format = IconEntryFormat::Bad;
