@@ -254,7 +254,7 @@ std::vector<IconEntryImage> ReadIconFile(const std::filesystem::path& path) {
     }
 }
 
-std::vector<std::uint8_t> EntryBytes(const ByteSource& file, int index) {
+std::vector<std::uint8_t> EntryBytes(const ByteSource& file, int index, std::uint64_t maxBytes) {
     if (index < 0 || index >= file.NumberAt<std::uint16_t>(4))
         return {};
     const DirectoryEntry entry = EntryAt(file, static_cast<std::uint64_t>(index));
@@ -263,6 +263,8 @@ std::vector<std::uint8_t> EntryBytes(const ByteSource& file, int index) {
         Work work(file);
         size = PngBytes(file, entry, work);
     }
+    if (size > maxBytes)
+        return {};
     std::vector<std::uint8_t> bytes(size);
     bytes.resize(file.ReadAt(entry.Place, bytes));
     return bytes;

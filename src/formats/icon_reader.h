@@ -55,8 +55,10 @@ std::vector<IconEntryImage> DecodeIcon(const graphics::ByteSource& file);
 std::vector<IconEntryImage> ReadIconFile(const std::filesystem::path& path);
 
 // Entry `index` of a file that DecodeIcon has read, as it stands there: of a PNG the whole PNG,
-// even if the directory says less. Empty when the file has no such entry.
-std::vector<std::uint8_t> EntryBytes(const graphics::ByteSource& file, int index);
+// even if the directory says less. Empty when the file has no such entry, or it has more than
+// `maxBytes`: many entries may claim the whole file each.
+std::vector<std::uint8_t> EntryBytes(const graphics::ByteSource& file, int index,
+                                     std::uint64_t maxBytes);
 
 // A picture that can stand for its size: good, square, of 8 to 256 pixels a side.
 bool IsIconSize(const IconEntryImage& entry);

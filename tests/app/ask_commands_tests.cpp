@@ -274,6 +274,24 @@ TEST_F(AskCommandsTest, OfAnIconFileTheChosenImageIsTaken) {
     }
 }
 
+TEST_F(AskCommandsTest, AllSizesOfAnIconAreOpened) {
+    const graphics::Bitmap images[] = {FilledPicture(16, 16, 0xFFC02040),
+                                       FilledPicture(32, 32, 0xFF204060)};
+    graphics::WriteFile(folder / "a.ico", formats::EncodeIcon(images, formats::IconFormat::Bmp));
+    Desk desk;
+    desk.ToRead = folder / "a.ico";
+    desk.IconImages = IconChoice{{0}, true};
+    AskOpen(desk.Context);
+    EXPECT_TRUE(desk.AskedOfIcon.OffersAllSizes);
+    EXPECT_EQ(desk.State.Page().Width, 32);
+    ASSERT_EQ(desk.State.Document.Sizes.size(), 1u);
+    EXPECT_EQ(desk.State.Document.Sizes[0].Size, 16);
+    EXPECT_EQ(desk.State.History.UndoIndex(), 0);
+    EXPECT_FALSE(desk.State.Document.Modified);
+    AskImport(desk.Context);
+    EXPECT_FALSE(desk.AskedOfIcon.OffersAllSizes);
+}
+
 TEST_F(AskCommandsTest, SeveralImagesOfAnIconAreImportedInOneStep) {
     const graphics::Bitmap images[] = {FilledPicture(16, 16, 0xFFC02040),
                                        FilledPicture(32, 32, 0xFFC02040),
