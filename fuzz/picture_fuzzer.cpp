@@ -24,7 +24,7 @@ using graphics::ByteSource;
             (image.Image.Width() != image.Width || image.Image.Height() != image.Height))
             std::abort();
         if (image.Format == formats::IconEntryFormat::Png &&
-            formats::EntryBytes(file, static_cast<int>(i)).size() < image.Bytes)
+            formats::EntryBytes(file, static_cast<int>(i), file.Size()).size() < image.Bytes)
             std::abort();
     }
 }

@@ -7,6 +7,7 @@
 #include "editing/color_wells.h"
 #include "editing/document_commands.h"
 #include "editing/page_commands.h"
+#include "editing/size_commands.h"
 
 namespace orbelle::app {
 
@@ -18,11 +19,11 @@ namespace {
 
 constexpr char kPictureFilters[] =
     "|ICO Files (*.ICO)|*.ico|PNG Files (*.PNG)|*.png|GIF Files (*.GIF)|*.gif"
-    "|JPEG Files (*.JPG;*.JPEG)|*.jpg;*.jpeg|BMP Files (*.BMP)|*.bmp";
+    "|JPEG Files (*.JPG;*.JPEG)|*.jpg;*.jpeg|BMP Files (*.BMP)|*.bmp|CUR Files (*.CUR)|*.cur";
 constexpr char kOpenFilter[] =
-    "All Supported Formats|*.volf;*.ico;*.png;*.gif;*.jpg;*.jpeg;*.bmp"
+    "All Supported Formats|*.volf;*.ico;*.png;*.gif;*.jpg;*.jpeg;*.bmp;*.cur"
     "|Varnel Orbelle Files (*.VOLF)|*.volf";
-constexpr char kImportFilter[] = "All Supported Formats|*.ico;*.png;*.gif;*.jpg;*.jpeg;*.bmp";
+constexpr char kImportFilter[] = "All Supported Formats|*.ico;*.png;*.gif;*.jpg;*.jpeg;*.bmp;*.cur";
 
 void OpenPath(const WindowContext& context, const fs::path& path) {
     const TakeResult result = TakeToOpen(context, path);
@@ -97,6 +98,12 @@ void AskWellColor(const WindowContext& context, int well) {
         else
             UseColorWell(editor, well);
     });
+}
+
+void AskSuggest(const WindowContext& context, int size) {
+    const graphics::Bitmap master = MasterPicture(context.Commands.Editor());
+    if (const auto recipe = context.User.ChooseRecipe(master, size))
+        context.Commands.Run([&](Editor& editor) { MakeArtwork(editor, size, *recipe); });
 }
 
 }  // namespace orbelle::app

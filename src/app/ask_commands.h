@@ -25,4 +25,8 @@ void AskPageBackground(const WindowContext& context);
 // alpha that was chosen in the dialog is the well's from then on.
 void AskWellColor(const WindowContext& context, int well);
 
+// What the recipes make of the master at that size, side by side; the one chosen is the size's
+// artwork then, in place of what there was.
+void AskSuggest(const WindowContext& context, int size);
+
 }  // namespace orbelle::app

@@ -20,6 +20,7 @@
 #include "app/save_prompt.h"
 #include "app/scene_view.h"
 #include "app/sizes_panel.h"
+#include "app/suggest_dialog.h"
 #include "app/system_clipboard.h"
 
 namespace orbelle::app {
@@ -174,6 +175,14 @@ std::optional<IconChoice> MainWindow::ChooseIconImages(
     if (dialog.exec() != QDialog::Accepted)
         return std::nullopt;
     return dialog.Choice();
+}
+
+std::optional<filters::SizeRecipe> MainWindow::ChooseRecipe(const graphics::Bitmap& master,
+                                                            int size) {
+    SuggestDialog dialog(master, size, this);
+    if (dialog.exec() != QDialog::Accepted)
+        return std::nullopt;
+    return dialog.Recipe();
 }
 
 std::optional<graphics::Argb> MainWindow::AskColor(const ColorQuestion& question) {

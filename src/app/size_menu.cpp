@@ -2,6 +2,7 @@
 
 #include <QMenu>
 
+#include "app/ask_commands.h"
 #include "editing/size_commands.h"
 
 namespace orbelle::app {
@@ -39,6 +40,8 @@ void PopUpSizeMenu(const WindowContext& context, int size, const std::vector<int
     menu->addAction("&Draw by Hand", &parent, [context, size] { DrawByHand(context, size); })
         ->setEnabled(CanHaveArtwork(size));
 
+    menu->addAction("&Suggest...", &parent, [context, size] { AskSuggest(context, size); })
+        ->setEnabled(CanHaveArtwork(size));
     QMenu* copies = menu->addMenu("&Copy to Size...");
     for (const int to : sizes) {
         if (to == size || !CanHaveArtwork(to))

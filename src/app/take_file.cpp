@@ -26,6 +26,8 @@ TakeResult TakeIconImages(const WindowContext& context, const fs::path& path,
     const std::optional<IconChoice> choice = context.User.ChooseIconImages(offered, question);
     if (!choice || choice->Images.empty())
         return {TakeEnd::Cancelled, {}};
+    if (choice->AllSizes)
+        return Ended(context.Commands.Try([&](Editor& editor) { OpenIconFamily(editor, path); }));
     std::vector<graphics::Bitmap> pictures;
     for (const int image : choice->Images)
         pictures.push_back(offered[static_cast<std::size_t>(image)].Image);
@@ -44,8 +46,9 @@ TakeResult TakeOther(const WindowContext& context, const fs::path& path, TakeFil
 }  // namespace
 
 TakeResult TakeToOpen(const WindowContext& context, const fs::path& path) {
-    TakeResult result = editing::IsIconFile(path) ? TakeIconImages(context, path, {}, OpenFirst)
-                                                  : TakeOther(context, path, editing::OpenFile);
+    TakeResult result = editing::IsIconFile(path)
+                            ? TakeIconImages(context, path, {.OffersAllSizes = true}, OpenFirst)
+                            : TakeOther(context, path, editing::OpenFile);
     if (result.End == TakeEnd::Done)
         context.Recent.Note(path);
     return result;

@@ -15,8 +15,8 @@ struct TakeResult {
     std::string Text;  // what is left to tell; empty: nothing
 };
 
-// Of an icon file the user chooses the image, to import several, which are one step. Whether the
-// present document may be given up is to be known already.
+// Of an icon file the user chooses the image: to open all sizes as well, to import several, which
+// are one step. Whether the present document may be given up is to be known already.
 TakeResult TakeToOpen(const WindowContext& context, const std::filesystem::path& path);
 TakeResult TakeToImport(const WindowContext& context, const std::filesystem::path& path);
 

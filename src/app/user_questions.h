@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "filters/size_recipes.h"
 #include "formats/icon_reader.h"
 #include "graphics/bitmap.h"
 #include "graphics/color.h"
@@ -66,6 +67,9 @@ public:
     // Which images of an icon file to take. No value: cancelled.
     virtual std::optional<IconChoice> ChooseIconImages(
         const std::vector<formats::IconEntryImage>& offered, const IconQuestion& question) = 0;
+    // Which recipe makes the picture of that size of the master; no value: cancelled.
+    virtual std::optional<filters::SizeRecipe> ChooseRecipe(const graphics::Bitmap& master,
+                                                            int size) = 0;
     // The colour dialog; no value: cancelled.
     virtual std::optional<graphics::Argb> AskColor(const ColorQuestion& question) = 0;
 

@@ -21,7 +21,7 @@ std::vector<int> SizesOfOpenedIcon(const document::Document& document) {
 
 }  // namespace
 
-std::vector<int> IconSizesOf(const Editor& editor) {
+std::vector<int> IconSizesOf(const EditorState& editor) {
     const formats::ExportSettings& settings = editor.ExportSettings;
     if (!settings.IconSizes.empty())
         return settings.IconSizes;

@@ -47,18 +47,11 @@ void RequireCanHaveArtwork(int size) {
                     std::to_string(document::kMaxArtworkSize));
 }
 
-// The flattened master, also while another page is in force.
-graphics::Bitmap FlatMaster(const Editor& editor) {
-    const document::Document& document = editor.Document;
-    return document.EditedSize == Family::kMaster ? editor.Canvas
-                                                  : document::Flatten(document.Master);
-}
-
 graphics::Bitmap PictureOfSize(const Editor& editor, int size) {
     const document::Document& document = editor.Document;
     const document::Page* artwork = document.ArtworkOf(size);
     if (!artwork)
-        return filters::ShrinkToSize(FlatMaster(editor), size);
+        return filters::ShrinkToSize(MasterPicture(editor), size);
     return document.EditedSize == size ? editor.Canvas : document::Flatten(*artwork);
 }
 
@@ -84,9 +77,16 @@ void GoToPage(Editor& editor, int size) {
     BringInForce(editor, size);
 }
 
+graphics::Bitmap MasterPicture(const Editor& editor) {
+    return editor.Document.EditedSize == Family::kMaster
+               ? editor.Canvas
+               : document::Flatten(editor.Document.Master);
+}
+
 void MakeArtwork(Editor& editor, int size, filters::SizeRecipe recipe) {
     RequireCanHaveArtwork(size);
-    document::Page page = document::MakePicturePage(ApplyRecipe(recipe, FlatMaster(editor), size));
+    document::Page page =
+        document::MakePicturePage(ApplyRecipe(recipe, MasterPicture(editor), size));
     BeginUndoStepTo(editor, steps::DrawByHand, size);
     editor.Document.SetArtwork(size, std::move(page));
     BringInForce(editor, size);

@@ -10,6 +10,9 @@ namespace orbelle::editing {
 // step. Throws Error when the size has no artwork.
 void GoToPage(Editor& editor, int size);
 
+// The master as it looks without its background.
+graphics::Bitmap MasterPicture(const Editor& editor);
+
 // An undo step: the size's artwork is what the recipe makes of the master, as the only layer of a
 // page that comes in force. Throws Error for a size that can have none.
 void MakeArtwork(Editor& editor, int size, filters::SizeRecipe recipe);

@@ -4,13 +4,12 @@
 #include <functional>
 #include <iterator>
 
+#include "editing/export_commands.h"
+
 namespace orbelle::editing {
 
 std::vector<int> StripSizes(const EditorState& editor) {
-    const document::Page& master = editor.Document.Master;
-    std::vector<int> sizes = editor.ExportSettings.IconSizes;
-    if (sizes.empty())
-        sizes = formats::IconSizesFor(master.Width, master.Height);
+    std::vector<int> sizes = IconSizesOf(editor);
     std::ranges::copy(kAlwaysShownSizes, std::back_inserter(sizes));
     for (const document::SizePage& page : editor.Document.Sizes)
         sizes.push_back(page.Size);

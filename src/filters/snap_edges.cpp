@@ -123,7 +123,7 @@ std::vector<Edge> FindEdges(const Profile& profile, int across, double ratio) {
 // A place on one axis of the picture and the border of the small one that it moves to.
 struct Snap {
     double From = 0;
-    double To = 0;
+    int To = 0;
 };
 
 // All of one axis, by place.
@@ -131,7 +131,7 @@ class Snaps {
 public:
     Snaps(int length, int size)
         : ratio_(static_cast<double>(length) / size),
-          snaps_{{0, 0}, {static_cast<double>(length), static_cast<double>(size)}} {}
+          snaps_{{0, 0}, {static_cast<double>(length), size}} {}
 
     // Moves a place to the border nearest to where it lies now, if it can.
     void Add(double place) {
@@ -160,7 +160,7 @@ public:
         std::vector<double> borders;
         for (std::size_t i = 1; i < snaps_.size(); ++i) {
             const Snap &before = snaps_[i - 1], &after = snaps_[i];
-            for (double to = before.To; to < after.To; ++to)
+            for (int to = before.To; to < after.To; ++to)
                 borders.push_back(before.From + (to - before.To) * (after.From - before.From) /
                                                     (after.To - before.To));
         }
@@ -183,7 +183,7 @@ private:
         const double least = ratio_ * kLeastStretch;
         if (place - before.From < least || after.From - place < least || after.To - before.To < 2)
             return;
-        const double to = std::clamp(std::nearbyint(now + bias), before.To + 1, after.To - 1);
+        const int to = std::clamp(RoundToEven(now + bias), before.To + 1, after.To - 1);
         if (std::abs(to - now) <= kMostMove + std::abs(bias))
             snaps_.insert(next, {place, to});
     }

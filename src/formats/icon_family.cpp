@@ -17,6 +17,10 @@ namespace {
 using document::Document;
 using document::OpenedIcon;
 
+constexpr int kMostTold = 10;
+// Of all PNG images together; what is over is written anew.
+constexpr std::uint64_t kMostKeptBytes = std::uint64_t{64} << 20;
+
 std::string ReasonAgainst(const IconEntryImage& image) {
     if (image.IsBad())
         return image.Problem;
@@ -25,11 +29,14 @@ std::string ReasonAgainst(const IconEntryImage& image) {
 
 std::string DescribeLeftOut(const std::vector<IconEntryImage>& images) {
     std::string text;
+    int leftOut = 0;
     for (std::size_t i = 0; i < images.size(); ++i) {
-        if (!IsIconSize(images[i]))
+        if (!IsIconSize(images[i]) && ++leftOut <= kMostTold)
             text += (text.empty() ? "" : "; ") + ("image " + std::to_string(i)) + ": " +
                     ReasonAgainst(images[i]);
     }
+    if (leftOut > kMostTold)
+        text += "; and " + std::to_string(leftOut - kMostTold) + " more";
     return text;
 }
 
@@ -68,13 +75,15 @@ IconFamily LoadIconFamily(const std::filesystem::path& path) {
     Document document;
     document.Source = path;
     OpenedIcon icon;
+    std::uint64_t room = kMostKeptBytes;
     const int largest = chosen.rbegin()->first;
     for (const auto& [size, place] : chosen) {
         const IconEntryImage& image = images[static_cast<std::size_t>(place)];
         document::Page page = document::MakePicturePage(image.Image);
         OpenedIcon::Entry entry{size, document::Flatten(page), {}};
         if (image.Format == IconEntryFormat::Png)
-            entry.Png = EntryBytes(file, place);
+            entry.Png = EntryBytes(file, place, room);
+        room -= entry.Png.size();
         icon.Entries.push_back(std::move(entry));
         if (size == largest)
             document.Master = std::move(page);

@@ -225,9 +225,12 @@ std::vector<IconEntryImage> DecodeIcon(const ByteSource& file) {
         image.Bytes = entry.Bytes;
         if (type == kPointerType)
             image.Hotspot = {entry.HotspotX, entry.HotspotY};
+        // Not thrown: a file of a few bytes can claim 65535 of these.
+        if (!entry.IsWhole) {
+            image.Problem = "the icon's directory is cut short";
+            continue;
+        }
         try {
-            if (!entry.IsWhole)
-                throw ImageError("the icon's directory is cut short");
             if (IsPng(file, entry.Place))
                 ReadPng(file, entry, budget, work, image);
             else
@@ -251,7 +254,7 @@ std::vector<IconEntryImage> ReadIconFile(const std::filesystem::path& path) {
     }
 }
 
-std::vector<std::uint8_t> EntryBytes(const ByteSource& file, int index) {
+std::vector<std::uint8_t> EntryBytes(const ByteSource& file, int index, std::uint64_t maxBytes) {
     if (index < 0 || index >= file.NumberAt<std::uint16_t>(4))
         return {};
     const DirectoryEntry entry = EntryAt(file, static_cast<std::uint64_t>(index));
@@ -260,6 +263,8 @@ std::vector<std::uint8_t> EntryBytes(const ByteSource& file, int index) {
         Work work(file);
         size = PngBytes(file, entry, work);
     }
+    if (size > maxBytes)
+        return {};
     std::vector<std::uint8_t> bytes(size);
     bytes.resize(file.ReadAt(entry.Place, bytes));
     return bytes;

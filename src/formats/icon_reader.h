@@ -22,8 +22,8 @@ struct Hotspot {
 };
 
 struct IconEntryImage {
-    int Width =
-        0;  // pixels, by the picture itself; 0 when bad and not told in a header that we know
+    // In pixels, by the picture itself; of a bad one what its header tells, if that can be, else 0.
+    int Width = 0;
     int Height = 0;
     int Bits = 0;  // a pixel; of a PNG its depth times its channels
     IconEntryFormat Format = IconEntryFormat::Bad;
@@ -55,8 +55,10 @@ std::vector<IconEntryImage> DecodeIcon(const graphics::ByteSource& file);
 std::vector<IconEntryImage> ReadIconFile(const std::filesystem::path& path);
 
 // Entry `index` of a file that DecodeIcon has read, as it stands there: of a PNG the whole PNG,
-// even if the directory says less. Empty when the file has no such entry.
-std::vector<std::uint8_t> EntryBytes(const graphics::ByteSource& file, int index);
+// even if the directory says less. Empty when the file has no such entry, or it has more than
+// `maxBytes`: many entries may claim the whole file each.
+std::vector<std::uint8_t> EntryBytes(const graphics::ByteSource& file, int index,
+                                     std::uint64_t maxBytes);
 
 // A picture that can stand for its size: good, square, of 8 to 256 pixels a side.
 bool IsIconSize(const IconEntryImage& entry);

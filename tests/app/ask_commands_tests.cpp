@@ -25,6 +25,7 @@ namespace fs = std::filesystem;
 
 using editing::Editor;
 using orbelle::testing::FilledPicture;
+using orbelle::testing::SamePixels;
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
@@ -273,6 +274,24 @@ TEST_F(AskCommandsTest, OfAnIconFileTheChosenImageIsTaken) {
     }
 }
 
+TEST_F(AskCommandsTest, AllSizesOfAnIconAreOpened) {
+    const graphics::Bitmap images[] = {FilledPicture(16, 16, 0xFFC02040),
+                                       FilledPicture(32, 32, 0xFF204060)};
+    graphics::WriteFile(folder / "a.ico", formats::EncodeIcon(images, formats::IconFormat::Bmp));
+    Desk desk;
+    desk.ToRead = folder / "a.ico";
+    desk.IconImages = IconChoice{{0}, true};
+    AskOpen(desk.Context);
+    EXPECT_TRUE(desk.AskedOfIcon.OffersAllSizes);
+    EXPECT_EQ(desk.State.Page().Width, 32);
+    ASSERT_EQ(desk.State.Document.Sizes.size(), 1u);
+    EXPECT_EQ(desk.State.Document.Sizes[0].Size, 16);
+    EXPECT_EQ(desk.State.History.UndoIndex(), 0);
+    EXPECT_FALSE(desk.State.Document.Modified);
+    AskImport(desk.Context);
+    EXPECT_FALSE(desk.AskedOfIcon.OffersAllSizes);
+}
+
 TEST_F(AskCommandsTest, SeveralImagesOfAnIconAreImportedInOneStep) {
     const graphics::Bitmap images[] = {FilledPicture(16, 16, 0xFFC02040),
                                        FilledPicture(32, 32, 0xFFC02040),
@@ -441,6 +460,28 @@ TEST_F(AskCommandsTest, TheStatusLineSaysWhatWasWrittenWhere) {
     AskExport(desk.Context, kExportEntries[0]);
     EXPECT_THAT(desk.Status, HasSubstr("Nothing was exported"));
     EXPECT_FALSE(fs::exists(desk.ToWrite));
+}
+
+TEST_F(AskCommandsTest, ASuggestionIsMadeOfTheMasterWhateverPageIsInForce) {
+    Desk desk;
+    desk.ToRead = folder / "wide.png";
+    const graphics::Bitmap wide = FilledPicture(40, 20, 0xFFC02040);
+    graphics::WriteFile(desk.ToRead, graphics::EncodePng(wide));
+    AskImport(desk.Context);
+    const int steps = desk.State.History.UndoIndex();
+    AskSuggest(desk.Context, 16);
+    EXPECT_EQ(desk.State.History.UndoIndex(), steps) << "given up";
+    EXPECT_TRUE(desk.State.Document.Sizes.empty());
+
+    desk.Recipe = filters::SizeRecipe::Fill;
+    for (const int size : {16, 24}) {
+        AskSuggest(desk.Context, size);
+        EXPECT_TRUE(SamePixels(desk.Suggested, wide));
+        EXPECT_EQ(desk.State.Document.EditedSize, size);
+        EXPECT_TRUE(
+            SamePixels(desk.State.Canvas, ApplyRecipe(filters::SizeRecipe::Fill, wide, size)));
+    }
+    EXPECT_EQ(desk.State.History.UndoIndex(), steps + 2);
 }
 
 TEST(WrittenTextTest, SizesAreRoundedAndSidesListed) {

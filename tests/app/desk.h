@@ -29,6 +29,8 @@ public:
     std::optional<int> GifThreshold;
     std::optional<IconChoice> IconImages;
     IconQuestion AskedOfIcon;
+    std::optional<filters::SizeRecipe> Recipe;
+    graphics::Bitmap Suggested;  // what recipes were asked for
     std::optional<graphics::Argb> Color;
     std::vector<std::string> Told;
     std::string Message, Status;  // the last
@@ -91,6 +93,10 @@ public:
                                                const IconQuestion& question) override {
         AskedOfIcon = question;
         return Answer("image?", IconImages);
+    }
+    std::optional<filters::SizeRecipe> ChooseRecipe(const graphics::Bitmap& master, int) override {
+        Suggested = master;
+        return Answer("recipe?", Recipe);
     }
     std::optional<graphics::Argb> AskColor(const ColorQuestion& question) override {
         Question = question;

@@ -198,7 +198,8 @@ TEST(IconImagesDialogTest, SeveralAreChosenWithCtrlAndShift) {
     EXPECT_THAT(cells.Choice().Chosen(), ElementsAre(2));
     StrikeWith(cells, Qt::Key_Left, Qt::ShiftModifier);
     EXPECT_THAT(cells.Choice().Chosen(), ElementsAre(1, 2));
-    ok.click();
+    Strike(cells, Qt::Key_Return);
+    EXPECT_EQ(dialog.result(), QDialog::Accepted);
     EXPECT_THAT(dialog.Choice().Images, ElementsAre(1, 2));
 }
 

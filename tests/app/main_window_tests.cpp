@@ -17,6 +17,7 @@
 #include "app/new_icon_dialog.h"
 #include "app/save_prompt.h"
 #include "app/settings.h"
+#include "app/suggest_dialog.h"
 #include "editing/layer_commands.h"
 #include "editing/view_commands.h"
 #include "widgets/panel_header.h"
@@ -149,6 +150,19 @@ TEST_F(MainWindowTest, ConfirmIsCancelledByDefault) {
             box.button(ok ? QMessageBox::Ok : QMessageBox::Cancel)->click();
         });
         EXPECT_EQ(window.Confirm("Image already exists, overwrite it?", "Warning"), ok);
+    }
+}
+
+TEST_F(MainWindowTest, ASuggestionIsTakenOrNot) {
+    using Recipe = std::optional<filters::SizeRecipe>;
+    for (const Recipe taken : {Recipe(filters::SizeRecipe::Sharper), Recipe()}) {
+        AnswerDialog<SuggestDialog>([&](SuggestDialog& dialog) {
+            if (taken)
+                dialog.findChildren<QPushButton*>()[1]->click();
+            else
+                dialog.reject();
+        });
+        EXPECT_EQ(window.ChooseRecipe(FilledPicture(64, 64, kRed), 16), taken);
     }
 }
 

@@ -1,9 +1,11 @@
 // The strip of sizes in the window.
 #include <QMenu>
+#include <QPushButton>
 #include <QStatusBar>
 
 #include "app/settings.h"
 #include "app/sizes_panel.h"
+#include "app/suggest_dialog.h"
 #include "editing/adjust_sliders.h"
 #include "editing/selection_commands.h"
 #include "editing/size_commands.h"
@@ -160,6 +162,10 @@ TEST_F(SizesPanelTest, TheMenuOfACellMakesCopiesAndDrops) {
     EXPECT_TRUE(Cell(128).IsDrawnByHand);
     window.Run(editing::Undo);
     EXPECT_TRUE(Cell(24).IsDrawnByHand);
+    AnswerDialog<SuggestDialog>(
+        [](SuggestDialog& dialog) { dialog.findChildren<QPushButton*>()[1]->click(); });
+    EXPECT_TRUE(choose(48, {"&Suggest..."}));
+    EXPECT_EQ(Edited(), 48);
 }
 
 TEST_F(SizesPanelTest, TheSizeThatIsEditedIsShownWhateverTheRoom) {

@@ -12,11 +12,16 @@ TEST_P(SamplesTest, ScriptDrawsTheDocumentBesideIt) {
         std::filesystem::copy_file(samples + picture, folder / picture);
 
     EXPECT_EQ(Run("--script '" + samples + GetParam() + ".txt'"), kSuccess);
-    const Outcome drawn = Run("open " + name + " write-page drawn.png info");
+    const Outcome drawn =
+        Run("open " + name + " write-page drawn.png info size 16 write-page drawn-16.png");
     std::filesystem::copy_file(samples + name, folder / name,
                                std::filesystem::copy_options::overwrite_existing);
-    EXPECT_EQ(Run("open " + name + " write-page kept.png info"), drawn);
-    EXPECT_EQ(Bytes("drawn.png"), Bytes("kept.png")) << "scripts/make-samples.sh makes it again";
+    EXPECT_EQ(Run("open " + name + " write-page kept.png info size 16 write-page kept-16.png"),
+              drawn);
+    for (const char* size : {"", "-16"})
+        EXPECT_EQ(Bytes("drawn" + std::string(size) + ".png"),
+                  Bytes("kept" + std::string(size) + ".png"))
+            << "scripts/make-samples.sh makes it again";
 }
 
 INSTANTIATE_TEST_SUITE_P(All, SamplesTest,

@@ -12,6 +12,7 @@
 #include "editing/page_commands.h"
 #include "editing/scene_input.h"
 #include "editing/selection_commands.h"
+#include "editing/size_commands.h"
 #include "editing/stack_commands.h"
 #include "editing/tool_palette.h"
 #include "editing/undo_commands.h"
@@ -75,7 +76,7 @@ protected:
             {PressScale, [=](Editor& e) { ChangeScale(e, to); }, ReleaseScale},
             {PressPageSize, [=](Editor& e) { ChangePageHeight(e, kPageSide - 20 + to / 4); },
              ReleasePageSize}};
-        const auto& drag = drags[Below(4)];
+        const auto& drag = drags[Below(IsMasterInForce() ? 4 : 3)];
         Do(drag[0]);
         EditingTest::Step(drag[1]);
         if (Chance(10))
@@ -90,6 +91,21 @@ protected:
         Do(views[Below(4)]);
         if (Chance(50))
             SetZoom(0.2 + Below(30) / 10.0);
+    }
+
+    bool IsMasterInForce() const { return editor.Document.EditedSize == document::Family::kMaster; }
+
+    // Back to the master as often as to a size.
+    void ChangePage() {
+        const int size = Chance(50) ? 8 : 24;
+        if (Chance(45))
+            Do(GoToPage, document::Family::kMaster);
+        else if (Chance(20) && editor.Document.ArtworkOf(size))
+            Do(DropArtwork, size);
+        else if (Chance(20))
+            Do(MakeArtwork, size, static_cast<filters::SizeRecipe>(Below(6)));
+        else
+            Do(EditSize, size);
     }
 
     void Command() {
@@ -110,7 +126,11 @@ protected:
             [&] { Do(SelectLayer, Below(editor.Page().LayerCount() + 1)); },
             [&] { SliderDrag(); },
             [&] { View(); },
-            [&] { Do(SetPageSize, kPageSide - 10 + Below(20), kPageSide); },
+            [&] {
+                if (IsMasterInForce())
+                    Do(SetPageSize, kPageSide - 10 + Below(20), kPageSide);
+            },
+            [&] { ChangePage(); },
             [&] { Do(SetPageBackground, Argb{Chance(50) ? 0 : 0xFF808080}); },
             // Never to the very first state: a step from there would replace it.
             [&] { Steps() > 1 ? Do(Undo) : Do(Redo); },
@@ -135,14 +155,14 @@ protected:
 
     // A command that fails when it is done.
     void Fail() {
-        const std::string before = testing::AccountOf(editor.Page());
+        const std::string before = testing::AccountOf(editor.Document);
         const NamedCommand& command = RandomCommand();
         const bool wasDragging = IsDragging();
         EXPECT_TRUE(editing::Run(editor, [&](Editor& e) {
                         command.Run(e);
                         throw Error("no");
                     }).Failed());
-        EXPECT_TRUE(wasDragging || testing::AccountOf(editor.Page()) == before) << command.Name;
+        EXPECT_TRUE(wasDragging || testing::AccountOf(editor.Document) == before) << command.Name;
     }
 
     void Step() {
@@ -198,7 +218,7 @@ protected:
 
 TEST_P(RandomUser, KeepsTheDocumentWhole) {
     const auto account = [this] {
-        return testing::AccountOf(editor.Page()) + std::to_string(editor.Document.Background);
+        return testing::AccountOf(editor.Document) + std::to_string(editor.Document.Background);
     };
     const std::string first = account();
     Do(PressAddLayer);

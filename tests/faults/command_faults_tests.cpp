@@ -25,6 +25,7 @@
 #include "editing/run.h"
 #include "editing/scene_input.h"
 #include "editing/selection_commands.h"
+#include "editing/size_commands.h"
 #include "editing/stack_commands.h"
 #include "editing/style_commands.h"
 #include "editing/tool_palette.h"
@@ -343,6 +344,15 @@ Steps Open(const fs::path& path) {
     return {{[path](Editor& editor) { OpenFile(editor, path); }}};
 }
 
+Steps OpenAll(const fs::path& path) {
+    return {{[path](Editor& editor) { OpenIconFamily(editor, path); }}};
+}
+
+Steps MakeAndDrop(const fs::path&) {
+    return {{[](Editor& editor) { EditSize(editor, 24); }},
+            {[](Editor& editor) { DropArtwork(editor, 24); }}};
+}
+
 Steps Import(const fs::path& path) {
     return {{[path](Editor& editor) { ImportFile(editor, path); }}};
 }
@@ -395,6 +405,12 @@ void SelectPixels(Desk& desk) {
 
 void SelectNoLayer(Desk& desk) {
     desk.Do([](Editor& editor) { editor.Page().SelectedLayer = document::kNoLayer; });
+}
+
+// The one that is gone to last is 8.
+void MakeTwoSizes(Desk& desk) {
+    for (const int size : {24, 8})
+        desk.Do([=](Editor& editor) { EditSize(editor, size); });
 }
 
 void CopyLayer(Desk& desk) {
@@ -464,6 +480,19 @@ const Scenario kScenarios[] = {
     {"PageSize", Slide<editing::PressPageSize, [](Editor& editor) { ChangePageWidth(editor, 17); },
                        editing::ReleasePageSize>},
     {"Nudge", Simply<[](Editor& editor) { KeyDownScene(editor, editing::SceneKey::Right); }>},
+    {"MakeArtwork",
+     Simply<[](Editor& editor) { MakeArtwork(editor, 16, filters::SizeRecipe::Snapped); }>},
+    {"ReplaceArtwork",
+     Simply<[](Editor& editor) { MakeArtwork(editor, 8, filters::SizeRecipe::FillOutline); }>, "",
+     MakeTwoSizes},
+    {"GoToSize", Simply<[](Editor& editor) { GoToPage(editor, 24); }>, "", MakeTwoSizes},
+    {"GoToMaster", Simply<[](Editor& editor) { GoToPage(editor, document::Family::kMaster); }>, "",
+     MakeTwoSizes},
+    {"DropArtwork", MakeAndDrop, "", MakeTwoSizes},
+    {"UndoOfASize", Simply<editing::Undo>, "", MakeTwoSizes},
+    {"SaveFamily", Save, "old.volf", MakeTwoSizes},
+    {"ExportFamily", Export, "old.ico", MakeTwoSizes},
+    {"OpenAllOfAnIcon", OpenAll, "picture.ico"},
     {"ZoomIn", Simply<editing::ZoomIn>},
 
     {"MoveLayer", DragOverPage, "", SelectNoLayer},

@@ -253,12 +253,14 @@ TEST(IconReader, GivesAnEntryAsItStandsThere) {
     const Bytes dib = Dib({1, 2}, kOnePixel);
     const Bytes png = graphics::EncodePng(testing::FilledPicture(5, 3, 0x80123456));
     Bytes icon = MakeIcon({dib, png, png + Bytes{1, 2}});
-    const auto bytesOf = [&](int i) { return EntryBytes(graphics::MemorySource(icon), i); };
+    const auto bytesOf = [&](int i) { return EntryBytes(graphics::MemorySource(icon), i, 9999); };
     EXPECT_EQ(bytesOf(0), dib);
     EXPECT_EQ(bytesOf(1), png);
     EXPECT_EQ(bytesOf(2), (png + Bytes{1, 2}));
     EXPECT_EQ(bytesOf(-1), Bytes());
     EXPECT_EQ(bytesOf(3), Bytes());
+    EXPECT_EQ(EntryBytes(graphics::MemorySource(icon), 0, dib.size()), dib);
+    EXPECT_EQ(EntryBytes(graphics::MemorySource(icon), 0, dib.size() - 1), Bytes()) << "too many";
     icon[6 + 16 + 8] = 5;  // the directory knows of five bytes
     EXPECT_EQ(bytesOf(1), png);
     EXPECT_EQ(Decode(icon)[1].Problem, "");

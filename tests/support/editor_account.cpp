@@ -53,6 +53,13 @@ std::ostream& operator<<(std::ostream& out, const document::Page& page) {
     return out;
 }
 
+std::ostream& operator<<(std::ostream& out, const document::Family& family) {
+    out << family.Master;
+    for (const document::SizePage& page : family.Sizes)
+        out << "size " << page.Size << ' ' << page.Artwork;
+    return out;
+}
+
 std::ostream& operator<<(std::ostream& out, const editing::Slider& slider) {
     return out << ' ' << slider.Value << '/' << slider.Label << (slider.Enabled ? "" : "-");
 }
@@ -66,7 +73,8 @@ void TellHistory(std::ostream& out, document::UndoHistory history, document::Doc
     out << "history " << history.UndoIndex() << " and " << history.RedoCount() << " of "
         << history.UndoCount() << '\n';
     const auto tell = [&](const char* what, std::string_view name) {
-        out << what << name << " background " << document.Background << ' ' << document.Master;
+        out << what << name << " background " << document.Background << " size "
+            << document.EditedSize << ' ' << static_cast<const document::Family&>(document);
     };
     while (history.Undo(document))
         tell(" undo ", history.RedoName());
@@ -88,11 +96,18 @@ std::string AccountOf(const document::Page& page) {
     return out.str();
 }
 
+std::string AccountOf(const document::Family& family) {
+    std::ostringstream out;
+    out << family;
+    return out.str();
+}
+
 std::string AccountOf(const editing::Editor& editor) {
     std::ostringstream out;
     out << std::boolalpha << "document " << editor.DocumentExists << ' ' << editor.Document.Path
         << " modified " << editor.Document.Modified << " background " << editor.Document.Background
-        << " title " << editor.Title << "\npage " << editor.Page();
+        << " title " << editor.Title << "\nsize " << editor.Document.EditedSize << " pages "
+        << static_cast<const document::Family&>(editor.Document);
     TellHistory(out, editor.History, editor.Document);
 
     out << "selection " << editor.Selection.Exists() << ' ' << editor.Selection.Region();

@@ -19,4 +19,7 @@ std::string AccountOf(const graphics::Bitmap& picture);
 // The layers and which is selected.
 std::string AccountOf(const document::Page& page);
 
+// All pages; which one is in force is no matter.
+std::string AccountOf(const document::Family& family);
+
 }  // namespace orbelle::testing

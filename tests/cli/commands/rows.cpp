@@ -114,14 +114,6 @@ std::string Answer(Workspace& workspace, const std::string& question, const std:
     return Told(editor, question);
 }
 
-// Of all pages.
-std::string AccountOf(const document::Family& family) {
-    std::string account;
-    for (const document::Page* page : family.Pages())
-        account += AccountOf(*page);
-    return account;
-}
-
 // Which one is selected is no matter of a step's.
 std::string LayersOf(const editing::Editor& editor) {
     document::Family family = editor.Document;

@@ -151,6 +151,15 @@ TEST_F(SizeCommands, AnIconFileOpensAsAFamily) {
            {"no import", "open red.png icon-entry all import a.ico",
             "widths 4, error import a.ico: an import takes one image of an icon; not all"}});
 
+    std::vector<graphics::Bitmap> pictures(13, FilledPicture(7, 7, kBlue));
+    pictures.push_back(FilledPicture(8, 8, kBlue));
+    graphics::WriteFile("many.ico", formats::EncodeIcon(pictures, formats::IconFormat::Png));
+    std::string ten;
+    for (int i = 0; i < 10; ++i)
+        ten += "image " + std::to_string(i) + ": 7 x 7 pixels; ";
+    Check({{"of many ten are told", "icon-entry all open many.ico",
+            "widths 8, notes orbelle-cli: open many.ico: left out: " + ten + "and 3 more\n"}});
+
     RunAll(
         "icon-entry all open a.ico export same.ico size 16 opacity 50 export less.ico "
         "icon-format bmp export bitmaps.ico icon-sizes 24 export 24.ico");
