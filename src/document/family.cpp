@@ -35,14 +35,13 @@ void Family::RemoveArtwork(int size) {
 }
 
 std::optional<int> Family::Neighbour(int step) const {
-    std::vector<int> pages{kMaster};
-    for (auto page = Sizes.rbegin(); page != Sizes.rend(); ++page)
-        pages.push_back(page->Size);
-    const auto here = std::ranges::find(pages, EditedSize) - pages.begin();
-    const auto there = here + step;
-    if (there < 0 || there >= std::ssize(pages))
+    // Counted from the master on, against the order of `Sizes`.
+    const auto last = std::ssize(Sizes);
+    const auto edited = std::ranges::find(Sizes, EditedSize, &SizePage::Size) - Sizes.begin();
+    const auto there = last - edited + step;
+    if (there < 0 || there > last)
         return std::nullopt;
-    return pages[static_cast<std::size_t>(there)];
+    return there == 0 ? kMaster : Sizes[static_cast<std::size_t>(last - there)].Size;
 }
 
 std::vector<const Page*> Family::Pages() const {
