@@ -40,15 +40,4 @@ void StripAfterStep(benchmark::State& state) {
 }
 BENCHMARK(StripAfterStep)->ArgName("size in force")->Arg(0)->Arg(16)->Unit(benchmark::kMicrosecond);
 
-// To a size that has artwork and back to the master of ten layers.
-void ChangeOfPage(benchmark::State& state) {
-    bench::EditorPage page(10, 9);
-    page.Step([](editing::Editor& editor) { EditSize(editor, 16); });
-    for (auto _ : state) {
-        page.Step([](editing::Editor& editor) { GoToPage(editor, document::Family::kMaster); });
-        page.Step([](editing::Editor& editor) { GoToPage(editor, 16); });
-    }
-}
-BENCHMARK(ChangeOfPage)->Unit(benchmark::kMicrosecond);
-
 }  // namespace

@@ -1,7 +1,7 @@
 // How long a hand on the window waits: from a mouse event until what it changed is painted. Drags a
-// layer, draws and moves sliders on a page of ten layers of 512 x 512, at 100 % and at 800 %.
-// Settings are neither read nor written. With the word "recovery" unsaved work is kept meanwhile,
-// in the user's state folder.
+// layer, draws and moves sliders on a page of ten layers of 512 x 512, at 100 % and at 800 %; then
+// goes from page to page. Settings are neither read nor written. With the word "recovery" unsaved
+// work is kept meanwhile, in the user's state folder; with "no-sizes" the panel Sizes is closed.
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QMouseEvent>
@@ -14,10 +14,12 @@
 #include "app/main_window.h"
 #include "app/scene_view.h"
 #include "app/settings.h"
+#include "app/sizes_panel.h"
 #include "document/layer_slots.h"
 #include "editing/buttons.h"
 #include "editing/document_commands.h"
 #include "editing/layer_commands.h"
+#include "editing/size_commands.h"
 #include "editing/tool_palette.h"
 #include "editing/view_commands.h"
 #include "widgets/track_slider.h"
@@ -57,6 +59,12 @@ void Send(QWidget& widget, QEvent::Type type, const QPointF& at) {
     QApplication::processEvents();
 }
 
+void Print(const char* name, std::vector<double>& times) {
+    std::ranges::sort(times);
+    std::printf("%-18s median %6.2f ms   longest %6.2f ms\n", name, times[times.size() / 2],
+                times.back());
+}
+
 // A drag over the widget; prints the median and the longest step.
 void Measure(const char* name, QWidget& widget, const QPointF& from,
              const std::function<QPointF(int)>& step) {
@@ -69,9 +77,7 @@ void Measure(const char* name, QWidget& widget, const QPointF& from,
         times.push_back(static_cast<double>(timer.nsecsElapsed()) / 1e6);
     }
     Send(widget, QEvent::MouseButtonRelease, step(kSteps - 1));
-    std::ranges::sort(times);
-    std::printf("%-18s median %6.2f ms   longest %6.2f ms\n", name, times[times.size() / 2],
-                times.back());
+    Print(name, times);
 }
 
 // On the bottom layer, which is selected.
@@ -98,6 +104,22 @@ void MeasureHands(app::MainWindow& window) {
     }
 }
 
+// To a size that is drawn by hand and back to the master.
+void MeasurePages(app::MainWindow& window) {
+    window.Run([](editing::Editor& editor) { EditSize(editor, 16); });
+    std::vector<double> times;
+    for (int i = 0; i < kSteps; ++i) {
+        QElapsedTimer timer;
+        timer.start();
+        window.Run([i](editing::Editor& editor) {
+            GoToPage(editor, i % 2 == 0 ? document::Family::kMaster : 16);
+        });
+        QApplication::processEvents();
+        times.push_back(static_cast<double>(timer.nsecsElapsed()) / 1e6);
+    }
+    Print("change of page", times);
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -108,6 +130,8 @@ int main(int argc, char** argv) {
     window.show();
     if (QApplication::arguments().contains("recovery"))
         window.StartRecovery();
+    if (QApplication::arguments().contains("no-sizes"))
+        window.findChild<app::SizesPanel*>()->SetOpen(false);
     window.Run(FillDocument);
     window.Run([](editing::Editor& editor) {
         editor.Document.Modified = true;
@@ -131,4 +155,5 @@ int main(int argc, char** argv) {
         });
         MeasureHands(window);
     }
+    MeasurePages(window);
 }

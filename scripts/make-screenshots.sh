@@ -70,6 +70,23 @@ take() { # NAME
     import -window root -crop $((width * scale))x$(((height - 2) * scale))+0+"$scale" +repage "$taken"
 }
 
+# The panel of sizes on each of its grounds, below each other.
+take_grounds() { # FILE
+    local ground strips=()
+    for ground in 0 1 2 3 4; do
+        make_home USED
+        printf '%s\n' SizesPanel=-1 "SizesGround=$ground" >>"$home/OrbelleWork.conf"
+        start_program "$1"
+        xdotool mousemove $(at 500 200)
+        take sizes-grounds
+        mogrify -crop $((826 * scale))x$((191 * scale))+$((26 * scale))+$((453 * scale)) +repage "$taken"
+        strips+=("$work/ground-$ground.png")
+        mv "$taken" "${strips[-1]}"
+        stop_program
+    done
+    convert "${strips[@]}" -append "$taken"
+}
+
 pictures_at() { # SCALE
     start_display "$1"
 
@@ -126,6 +143,15 @@ pictures_at() { # SCALE
     start_program "$work/gear.ico"
     take icon-images
     stop_program
+
+    make_home USED
+    printf '%s\n' SizesPanel=-1 >>"$home/OrbelleWork.conf"
+    start_program "$PWD/samples/ok-badge.volf"
+    click 455 600
+    xdotool mousemove $(at 500 200)
+    take sizes
+    stop_program
+    take_grounds "$PWD/samples/ok-badge.volf"
 
     make_home USED
     start_program "$PWD/samples/leaf.png"

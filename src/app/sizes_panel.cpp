@@ -6,7 +6,7 @@
 #include <QVBoxLayout>
 #include <algorithm>
 #include <cmath>
-#include <new>
+#include <exception>
 #include <utility>
 
 #include "app/shared_image.h"
@@ -233,8 +233,8 @@ void SizesPanel::Make() {
         std::vector<formats::SizePreview> made;
         try {
             made = maker_.Make(pages, current, sizes);
-        } catch (const std::bad_alloc&) {
-            // The pictures stay as they are; the next ones may fit.
+        } catch (const std::exception&) {
+            // No memory: the pictures stay as they are; the next ones may fit.
         }
         QMetaObject::invokeMethod(
             this, [this, made = std::move(made)] { Take(made); }, Qt::QueuedConnection);

@@ -30,18 +30,22 @@ double Luminance(Argb color) {
 }
 
 std::vector<Argb> OutlineOf(const Bitmap& picture) {
-    const int width = picture.Width(), height = picture.Height();
-    const auto isSolid = [&](int x, int y) {
-        return x >= 0 && y >= 0 && x < width && y < height &&
-               graphics::AlphaOf(picture.Row(y)[x]) >= kSolidAlpha;
-    };
+    const auto width = static_cast<std::size_t>(picture.Width());
+    const auto height = static_cast<std::size_t>(picture.Height());
+    // With a border that is outside.
+    const std::size_t stride = width + 2;
+    std::vector<unsigned char> isSolid(stride * (height + 2));
+    for (std::size_t y = 0; y < height; ++y)
+        std::transform(picture.Row(static_cast<int>(y)), picture.Row(static_cast<int>(y)) + width,
+                       &isSolid[(y + 1) * stride + 1],
+                       [](Argb color) { return graphics::AlphaOf(color) >= kSolidAlpha; });
     std::vector<Argb> outline;
-    for (int y = 0; y < height; ++y) {
-        for (int x = 0; x < width; ++x) {
-            const bool isInside =
-                isSolid(x - 1, y) && isSolid(x + 1, y) && isSolid(x, y - 1) && isSolid(x, y + 1);
-            if (!isInside && isSolid(x, y))
-                outline.push_back(picture.Row(y)[x]);
+    for (std::size_t y = 0; y < height; ++y) {
+        const unsigned char* here = &isSolid[(y + 1) * stride + 1];
+        for (std::size_t x = 0; x < width; ++x, ++here) {
+            const bool isInside = here[-1] && here[1] && *(here - stride) && here[stride];
+            if (*here && !isInside)
+                outline.push_back(picture.Row(static_cast<int>(y))[x]);
         }
     }
     return outline;

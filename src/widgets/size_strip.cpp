@@ -27,11 +27,14 @@ SizeStrip::SizeStrip(QWidget* parent) : QWidget(parent) {
 void SizeStrip::SetCells(std::vector<SizeCell> cells) {
     if (cells == cells_)
         return;
-    const bool sameSizes = std::ranges::equal(cells, cells_, {}, &SizeCell::Size, &SizeCell::Size);
-    cells_ = std::move(cells);
-    if (!sameSizes) {
+    const std::vector<SizeCell> before = std::exchange(cells_, std::move(cells));
+    if (!std::ranges::equal(before, cells_, {}, &SizeCell::Size, &SizeCell::Size)) {
         hovered_ = -1;
         updateGeometry();
+    } else {
+        for (int part = 0; part < PartCount(); ++part)
+            if (before[part].IsDrawnByHand != cells_[part].IsDrawnByHand)
+                AnnounceName(*this, part);
     }
     update();
 }

@@ -129,6 +129,7 @@ void SizeStrip::PaintLabel(QPainter& painter, int part) const {
     painter.setRenderHint(QPainter::Antialiasing, false);
 }
 
+// Around picture and label.
 void SizeStrip::PaintFrame(QPainter& painter, int part) const {
     const bool isEdited = cells_[part].Size == editedSize_;
     const bool hasFocus = this->hasFocus() && part == FocusedPart();
@@ -138,7 +139,8 @@ void SizeStrip::PaintFrame(QPainter& painter, int part) const {
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QPen(isEdited || hasFocus ? kAccentColor : kEdgeColor, pen));
     painter.setBrush(Qt::NoBrush);
-    const QRectF cell = PartPlace(part);
+    QRectF cell = PartPlace(part);
+    cell.setTop(PicturePlace(part).top() - kMargin + 1);
     painter.drawRoundedRect(cell.adjusted(1 + pen / 2, 1 + pen / 2, -1 - pen / 2, -1 - pen / 2), 4,
                             4);
     if (isEdited && hasFocus) {
