@@ -138,9 +138,10 @@ pictures_at() { # SCALE
     stop_program
 
     # An icon with images to choose from.
-    "$bin/orbelle-cli" open samples/gear.png export "$work/gear.ico"
+    "$bin/orbelle-cli" open samples/ok-badge.volf \
+        icon-sizes 256 128 96 64 48 32 24 16 export "$work/badge.ico"
     make_home USED
-    start_program "$work/gear.ico"
+    start_program "$work/badge.ico"
     take icon-images
     stop_program
 
@@ -150,6 +151,10 @@ pictures_at() { # SCALE
     click 455 600
     xdotool mousemove $(at 500 200)
     take sizes
+    click 455 600 3
+    xdotool key s
+    sleep 1
+    take suggest
     stop_program
     take_grounds "$PWD/samples/ok-badge.volf"
 
