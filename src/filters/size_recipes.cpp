@@ -60,7 +60,8 @@ Bitmap FillSquare(const Bitmap& master, const RectI& part, int size, Scaling sca
 }
 
 // Each colour goes further away from the mean of its neighbourhood, in which pixels count by their
-// alpha and the nearer ones more. Alpha stays.
+// alpha and the nearer ones more; as far as it is opaque, for faint pixels have little colour that
+// could be trusted. Alpha stays.
 Bitmap SharpenColors(const Bitmap& picture) {
     Bitmap sharp = picture;
     for (int y = 0; y < picture.Height(); ++y) {
@@ -79,9 +80,10 @@ Bitmap SharpenColors(const Bitmap& picture) {
                     blue += weight * BlueOf(color);
                 }
             }
-            const auto sharpen = [weights](unsigned channel, unsigned sum) {
+            const double sharpness = kSharpness * AlphaOf(own) / 255;
+            const auto sharpen = [=](unsigned channel, unsigned sum) {
                 const double away = channel - static_cast<double>(sum) / weights;
-                return RoundToByte(channel + kSharpness * away);
+                return RoundToByte(channel + sharpness * away);
             };
             sharp.SetPixel(x, y,
                            MakeArgb(AlphaOf(own), sharpen(RedOf(own), red),

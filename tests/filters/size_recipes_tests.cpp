@@ -102,8 +102,9 @@ TEST(SizeRecipes, SharperTakesColoursFromTheMeanOfTheNeighbours) {
     EXPECT_EQ(sharp.GetPixel(3, 4), 0xFF505050);
     // (255 (100 + 2 x 150) + 128 x 200) / (255 x 3 + 128) = 142.89; 150 + 1.2 x 7.11 = 158.5
     EXPECT_EQ(sharp.GetPixel(4, 4), 0xFF9F9F9F);
-    // (255 x 150 + 2 x 128 x 200) / (255 + 2 x 128) = 175.05; 200 + 1.2 x 24.95 = 229.9
-    EXPECT_EQ(sharp.GetPixel(5, 4), 0x80E6E6E6);
+    // (255 x 150 + 2 x 128 x 200) / (255 + 2 x 128) = 175.05; 200 + 1.2 x 128 / 255 x 24.95 =
+    // 215.03
+    EXPECT_EQ(sharp.GetPixel(5, 4), 0x80D7D7D7);
     EXPECT_EQ(sharp.GetPixel(2, 4), 0U);
 }
 
