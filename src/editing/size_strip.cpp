@@ -14,8 +14,7 @@ std::vector<int> StripSizes(const EditorState& editor) {
     for (const document::SizePage& page : editor.Document.Sizes)
         sizes.push_back(page.Size);
     std::ranges::sort(sizes, std::greater());
-    const auto repeated = std::ranges::unique(sizes);
-    sizes.erase(repeated.begin(), repeated.end());
+    sizes.erase(std::unique(sizes.begin(), sizes.end()), sizes.end());
     return sizes;
 }
 
