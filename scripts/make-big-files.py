@@ -107,7 +107,7 @@ def many_ico(count):
     place = 6 + 16 * count
     head = struct.pack("<HHH", 0, 1, count)
     entry = struct.pack("<BBBBHHII", 0, 0, 0, 0, 1, 32, 0, place)
-    return head + entry * count + struct.pack("<IiiHH", 40, 27, 54, 1, 32) + random.randbytes(2940)
+    return head + entry * count + struct.pack("<IiiHH", 40, 27, 54, 1, 32) + bytes(24) + random.randbytes(2916)
 
 
 def filling(picture, size):
