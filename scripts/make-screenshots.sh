@@ -39,7 +39,7 @@ make_home() { # FIRST|USED
     [[ $1 == USED ]] || return 0
     printf '%s\n' isQuick=-1 CtlTitle1=-1 CtlTitle2=-1 CtlTitle3=-1 CtlTitle5=-1 \
         CtlTitle6=-1 "TipsControl=${2:-0}" 'ForeColor0="255,208,48,48"' \
-        'ForeColor1="255,40,90,200"' CtlScroll22=100 CtlScroll23=20 Width=256 Height=256 \
+        'ForeColor1="255,40,90,200"' CtlScroll22=100 CtlScroll23=20 SizesClosed=1 Width=256 Height=256 \
         >>"$home/OrbelleWork.conf"
 }
 
@@ -75,7 +75,8 @@ take_grounds() { # FILE
     local ground strips=()
     for ground in 0 1 2 3 4; do
         make_home USED
-        printf '%s\n' SizesPanel=-1 "SizesGround=$ground" >>"$home/OrbelleWork.conf"
+        sed -i /SizesClosed/d "$home/OrbelleWork.conf"
+        printf '%s\n' "SizesGround=$ground" >>"$home/OrbelleWork.conf"
         start_program "$1"
         xdotool mousemove $(at 500 200)
         take sizes-grounds
@@ -146,7 +147,7 @@ pictures_at() { # SCALE
     stop_program
 
     make_home USED
-    printf '%s\n' SizesPanel=-1 >>"$home/OrbelleWork.conf"
+    sed -i /SizesClosed/d "$home/OrbelleWork.conf"
     start_program "$PWD/samples/ok-badge.volf"
     click 455 600
     xdotool mousemove $(at 500 200)

@@ -19,7 +19,7 @@ constexpr char kColor[] = "ForeColor%1";
 constexpr char kTips[] = "TipsControl";
 constexpr char kBottomPanel[] = "isQuick";
 constexpr char kPixelGridOff[] = "PixelGridOff";  // so that it is on where nothing is said
-constexpr char kSizesPanel[] = "SizesPanel";
+constexpr char kSizesClosed[] = "SizesClosed";
 constexpr char kSizesGround[] = "SizesGround";
 constexpr char kSizesDoubled[] = "SizesDoubled";
 constexpr int kOpen = -1;
@@ -31,7 +31,7 @@ void StoreStartingSet() {
     if (!settings.isEmpty())
         return;
     settings.setValue(kTips, 1);
-    for (const char* panel : {"CtlTitle1", "CtlTitle2", "CtlTitle6", kBottomPanel, kSizesPanel})
+    for (const char* panel : {"CtlTitle1", "CtlTitle2", "CtlTitle6", kBottomPanel})
         settings.setValue(panel, kOpen);
     settings.setValue(kNewWidth, kNewSide);
     settings.setValue(kNewHeight, kNewSide);
@@ -54,7 +54,7 @@ void MainWindow::RestoreSettings() {
     bottomPanel_->SetOpen(number(kBottomPanel) != 0);
     for (const RightPanel::Header& header : rightPanel_->Headers())
         rightPanel_->SetOpen(header, number(header.StoredAs) != 0);
-    sizesPanel_->SetOpen(number(kSizesPanel) != 0);
+    sizesPanel_->SetOpen(number(kSizesClosed) == 0);
     sizesPanel_->SetGround(number(kSizesGround));
     sizesPanel_->SetDoubled(number(kSizesDoubled) != 0);
     SetTipsEnabled(number(kTips) == 1);
@@ -73,7 +73,7 @@ void MainWindow::StoreSettings() const {
     Settings settings;
     const auto flag = [](bool open) { return open ? kOpen : 0; };
     settings.setValue(kBottomPanel, flag(!bottomPanel_->Header().IsClosed()));
-    settings.setValue(kSizesPanel, flag(!sizesPanel_->Header().IsClosed()));
+    settings.setValue(kSizesClosed, sizesPanel_->Header().IsClosed() ? 1 : 0);
     settings.setValue(kSizesGround, sizesPanel_->Ground());
     settings.setValue(kSizesDoubled, sizesPanel_->IsDoubled() ? 1 : 0);
     settings.setValue(kTips, TipsEnabled() ? 1 : 0);

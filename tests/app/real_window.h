@@ -141,7 +141,8 @@ protected:
     void Remember() {
         const QString remembered =
             "MainLeft=20 MainTop=20 MainWidth=1100 MainHeight=760 isQuick=-1 CtlTitle1=-1 "
-            "CtlTitle2=-1 CtlTitle3=-1 CtlTitle5=-1 CtlTitle6=-1 CtlScroll22=100 CtlScroll23=10 "
+            "CtlTitle2=-1 CtlTitle3=-1 CtlTitle5=-1 CtlTitle6=-1 SizesClosed=1 CtlScroll22=100 "
+            "CtlScroll23=10 "
             "ForeColor0=255,255,0,0 ForeColor1=255,0,0,255";
         for (const QString& setting : remembered.split(' '))
             Settings().setValue(setting.section('=', 0, 0), setting.section('=', 1));

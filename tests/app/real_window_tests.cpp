@@ -171,7 +171,7 @@ TEST_F(RealWindowTest, WhatAnotherProgramDragsHereBecomesALayerOrOpens) {
     EXPECT_TRUE(WaitUntil([&] { return Count(kOther) == 60 * 40 && Count() > 0; }));
     ASSERT_TRUE(FocusMain());
     Press({"ctrl+z"});
-    EXPECT_EQ(Count(), kWholePicture);
+    EXPECT_TRUE(WaitUntil([&] { return Count() == kWholePicture; }));
     Do({"keydown", "ctrl"});
     Drag(kPeer, page);
     Do({"keyup", "ctrl"});
@@ -287,7 +287,8 @@ TEST_F(RealWindowTest, RemembersItsUser) {
     Do({"getwindowfocus", "windowmove", "30", "40", "windowsize", "1000", "740"});
     const QString remembered =
         "ForeColor0=255,0,0,255 ForeColor1=255,255,0,0 TipsControl=1 CtlTitle1=-1 CtlTitle2=0 "
-        "CtlTitle3=-1 isQuick=-1 CtlScroll22=100 CtlScroll23=10 MainLeft=30 MainTop=40 "
+        "CtlTitle3=-1 isQuick=-1 SizesClosed=1 CtlScroll22=100 CtlScroll23=10 MainLeft=30 "
+        "MainTop=40 "
         "MainWidth=1000 MainHeight=740 MainState=0";
     for (const bool again : {false, true}) {
         if (again)
