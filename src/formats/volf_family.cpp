@@ -27,7 +27,7 @@ PartOfSource FindContent(const ByteSource& file, std::uint64_t place) {
         throw Error("a newer version has written it");
     const auto length = head.Read<std::uint32_t>();
     const auto checksum = head.Read<std::uint32_t>();
-    const PartOfSource content(file, place + kFamilyHeadBytes, length);
+    PartOfSource content(file, place + kFamilyHeadBytes, length);
     if (content.Size() < length)
         throw Error("the file is cut short");
     if (graphics::Crc32(content) != checksum)
