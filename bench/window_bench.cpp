@@ -155,5 +155,10 @@ int main(int argc, char** argv) {
         });
         MeasureHands(window);
     }
+    window.Run([](editing::Editor& editor) {
+        editor.View.Zoom = 1;
+        FitScrollBars(editor);
+        editor.Changed.Scene = true;
+    });
     MeasurePages(window);
 }

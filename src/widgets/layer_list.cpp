@@ -1,5 +1,6 @@
 #include "widgets/layer_list.h"
 
+#include <QHash>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QScrollBar>
@@ -23,6 +24,8 @@ constexpr QColor kCheckerColor(0, 0, 0, 30);
 // Pictures above this are shrunk row by row of the result: QImage::scaled would make a copy of the
 // whole picture in another format.
 constexpr qsizetype kLargeBytes = 16 << 20;
+// Larger ones are not kept alive for their thumbnails when they are shown no more.
+constexpr qsizetype kMostKeptBytes = 4 << 20;
 
 QImage Shrunk(const QImage& picture, const QSize& size) {
     const auto scaled = [](const QImage& part, const QSize& to) {
@@ -88,8 +91,24 @@ void LayerList::SetSelectedIndex(int index) {
 }
 
 void LayerList::SetRows(std::vector<LayerRow> rows) {
+    QHash<const uchar*, QImage> known;
+    std::vector<Shown> shown;
+    for (const Shown& each : shownBefore_)
+        known.insert(each.Image.constBits(), each.Thumbnail);
+    for (std::size_t i = 0; i < rows_.size(); ++i) {
+        if (thumbnails_[i].isNull())
+            continue;
+        known.insert(rows_[i].Image.constBits(), thumbnails_[i]);
+        if (rows_[i].Image.sizeInBytes() <= kMostKeptBytes)
+            shown.push_back({rows_[i].Image, thumbnails_[i]});
+    }
+    // `rows_` and `shownBefore_` keep the pixels at these addresses until here.
+    thumbnails_.clear();
+    for (const LayerRow& row : rows)
+        thumbnails_.push_back(known.value(row.Image.constBits()));
     rows_ = std::move(rows);
-    thumbnails_.assign(rows_.size(), {});
+    if (!shown.empty())
+        shownBefore_ = std::move(shown);
     FitScrollBar();
     viewport()->update();
 }

@@ -73,9 +73,15 @@ private:
     void SelectRow(int row);
     void Select(int layer);
 
-    // By layer index. Thumbnails are the images that shrink, in screen pixels; null until painted.
+    struct Shown {
+        QImage Image;      // keeps its pixels as they are
+        QImage Thumbnail;  // of an image that shrinks, in screen pixels
+    };
+
+    // By layer index. Thumbnails are null until painted.
     std::vector<LayerRow> rows_;
     std::vector<QImage> thumbnails_;
+    std::vector<Shown> shownBefore_;  // so that going from page to page and back makes none anew
     int selectedIndex_ = -1;
 };
 

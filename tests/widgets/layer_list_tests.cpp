@@ -147,6 +147,20 @@ TEST_F(LayerListTest, MixesThePixelsOfAPictureThatShrinks) {
         {{{20, 5}, Qt::red}, {{20, 18}, Qt::red}, {{20, 22}, Qt::blue}, {{5, 34}, Qt::blue}});
 }
 
+TEST_F(LayerListTest, ShowsWhatItIsGivenAlsoAfterItHasShownSomethingElse) {
+    LayerRow first = Row(64, 64, Qt::red);
+    for (const LayerRow& row : {first, Row(64, 64, Qt::green), first}) {
+        list.SetRows({row});
+        ExpectPixels({{{20, 20}, row.Image.pixelColor(0, 0)}});
+    }
+    first.Image.fill(Qt::blue);
+    list.SetRows({first});
+    ExpectPixels({{{20, 20}, Qt::blue}});
+    first.Size = {64, 16};
+    list.SetRows({first});
+    ExpectPixels({{{20, 20}, Qt::blue}, {{20, 30}, QColor(225, 225, 225)}});
+}
+
 TEST_F(LayerListTest, KeysMoveTheSelectionIntoView) {
     Strike(list, Qt::Key_Down);
     EXPECT_TRUE(clicks.empty()) << "there is no row";
