@@ -29,7 +29,8 @@ void Compose(document::Page& page) {
 // No mutation would hit the checksum of the sizes.
 std::vector<std::uint8_t> WithChecksum(const std::uint8_t* data, std::size_t size) {
     std::vector<std::uint8_t> file(data, data + size);
-    const auto family = std::ranges::search(file, formats::kFamilyMagic).begin();
+    const auto family = std::search(file.begin(), file.end(), formats::kFamilyMagic.begin(),
+                                    formats::kFamilyMagic.end());
     const auto place = static_cast<std::size_t>(family - file.begin());
     if (file.size() - place < formats::kFamilyHeadBytes)
         return file;
