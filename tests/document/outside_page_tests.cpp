@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <limits>
+
 #include "support/pictures.h"
 
 namespace orbelle::document {
@@ -60,6 +62,10 @@ TEST(OutsidePage, AScaledPictureIsMeasuredOnThePage) {
     Page page = PageOf({LayerOf(kDot, {-1, 0, 2, 3})});
     page.Layers[0].ImageWidth = 2;
     EXPECT_FALSE(ShowsOutside(page));
+    for (const int width : {std::numeric_limits<int>::max(), 0, std::numeric_limits<int>::min()}) {
+        page.Layers[0].ImageWidth = width;
+        EXPECT_FALSE(ShowsOutside(page)) << width;
+    }
 }
 
 TEST(OutsidePage, OnlyWhatASeenLayerLeavesCounts) {
