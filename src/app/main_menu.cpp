@@ -25,6 +25,7 @@ using editing::CommandId;
 
 constexpr char kTipsName[] = "Tips";
 constexpr char kPixelGridName[] = "PixelGrid";
+constexpr char kCheckName[] = "CheckIcon";
 constexpr char kUndoCaption[] = "&Undo";
 constexpr char kRedoCaption[] = "&Redo";
 
@@ -248,6 +249,11 @@ std::vector<Entry> ToolEntries() {
                editing::ToggleMirrorLeftRight, &editing::MirrorAxes::LeftRight),
         mirror("MirrorTopBottom", "Mirror &Top/Bottom", Qt::CTRL | Qt::SHIFT | Qt::Key_M,
                editing::ToggleMirrorTopBottom, &editing::MirrorAxes::TopBottom),
+        {},
+        {.Name = kCheckName,
+         .Caption = "&Check Icon",
+         .Run = [](const WindowContext& context) { context.Window.ToggleCheck(); },
+         .Checks = true},
     };
 }
 
@@ -360,6 +366,7 @@ MainMenu::MainMenu(QMainWindow& window, const WindowContext& context) {
     tips_ = window.findChild<QAction*>(kTipsName);
     pixelGrid_ = window.findChild<QAction*>(kPixelGridName);
     pixelGrid_->setChecked(true);
+    check_ = window.findChild<QAction*>(kCheckName);
     undo_ = window.findChild<QAction*>("Undo");
     redo_ = window.findChild<QAction*>("Redo");
     orderMenu_ = new QMenu("Right_Layer", &window);
@@ -374,6 +381,10 @@ void MainMenu::ShowTipsState(bool enabled) {
 
 void MainMenu::ShowPixelGridState(bool shown) {
     pixelGrid_->setChecked(shown);
+}
+
+void MainMenu::ShowCheckState(bool shown) {
+    check_->setChecked(shown);
 }
 
 void MainMenu::ShowStates(const editing::Editor& editor) {

@@ -24,6 +24,7 @@ public:
     void ShowTipsState(bool enabled);
     // That of View/Pixel Grid.
     void ShowPixelGridState(bool shown);
+    void ShowCheckState(bool shown);
 
     // The pop-up of a layer's order, with entries of the Edit menu.
     QMenu& OrderMenu() const { return *orderMenu_; }
@@ -41,6 +42,7 @@ private:
     std::vector<Mark> marks_;
     QAction* tips_ = nullptr;
     QAction* pixelGrid_ = nullptr;
+    QAction* check_ = nullptr;
     QAction* undo_ = nullptr;
     QAction* redo_ = nullptr;
     QMenu* orderMenu_ = nullptr;

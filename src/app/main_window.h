@@ -117,6 +117,7 @@ public:
     void ToggleTips() override;
     void CloseTips() override;
     void TogglePixelGrid() override;
+    void ToggleCheck() override;
     void ShowAbout() override;
     void ShowControls() override;
 

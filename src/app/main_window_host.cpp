@@ -11,6 +11,7 @@
 #include "app/bottom_panel.h"
 #include "app/color_dialog.h"
 #include "app/file_dialog.h"
+#include "app/findings_list.h"
 #include "app/gif_optimizer_dialog.h"
 #include "app/icon_images_dialog.h"
 #include "app/message_boxes.h"
@@ -88,6 +89,7 @@ void MainWindow::ShowScene() {
 
 void MainWindow::ShowControls() {
     menu_->ShowStates(editor_);
+    menu_->ShowCheckState(sizesPanel_->IsCheckShown());
     bars_->ShowStates(editor_);
     rightPanel_->ShowStates(editor_.Sliders);
     bottomPanel_->ShowStates(editor_);
@@ -101,6 +103,16 @@ void MainWindow::ShowPixelGrid(bool shown) {
 
 void MainWindow::TogglePixelGrid() {
     ShowPixelGrid(!scene_->IsPixelGridShown());
+}
+
+void MainWindow::ToggleCheck() {
+    const bool shown = !sizesPanel_->IsCheckShown();
+    sizesPanel_->ShowCheck(shown);
+    if (shown)
+        sizesPanel_->Findings().setFocus();
+    else
+        FocusScene();
+    ShowControls();
 }
 
 void MainWindow::ShowTitle() {

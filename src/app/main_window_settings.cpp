@@ -22,6 +22,7 @@ constexpr char kPixelGridOff[] = "PixelGridOff";  // so that it is on where noth
 constexpr char kSizesClosed[] = "SizesClosed";
 constexpr char kSizesGround[] = "SizesGround";
 constexpr char kSizesDoubled[] = "SizesDoubled";
+constexpr char kSizesCheck[] = "SizesCheck";
 constexpr int kOpen = -1;
 
 // What a first start finds: once, when nothing is stored at all.
@@ -54,6 +55,7 @@ void MainWindow::RestoreSettings() {
     bottomPanel_->SetOpen(number(kBottomPanel) != 0);
     for (const RightPanel::Header& header : rightPanel_->Headers())
         rightPanel_->SetOpen(header, number(header.StoredAs) != 0);
+    sizesPanel_->ShowCheck(number(kSizesCheck) != 0);
     sizesPanel_->SetOpen(number(kSizesClosed) == 0);
     sizesPanel_->SetGround(number(kSizesGround));
     sizesPanel_->SetDoubled(number(kSizesDoubled) != 0);
@@ -76,6 +78,7 @@ void MainWindow::StoreSettings() const {
     settings.setValue(kSizesClosed, sizesPanel_->Header().IsClosed() ? 1 : 0);
     settings.setValue(kSizesGround, sizesPanel_->Ground());
     settings.setValue(kSizesDoubled, sizesPanel_->IsDoubled() ? 1 : 0);
+    settings.setValue(kSizesCheck, sizesPanel_->IsCheckShown() ? 1 : 0);
     settings.setValue(kTips, TipsEnabled() ? 1 : 0);
     settings.setValue(kPixelGridOff, scene_->IsPixelGridShown() ? 0 : 1);
     for (const RightPanel::Header& header : rightPanel_->Headers())

@@ -23,13 +23,26 @@ void DrawByHand(const WindowContext& context, int size) {
                                 "Back to Master's in its menu.");
 }
 
+void GoToMaster(const WindowContext& context) {
+    context.Commands.Run([](Editor& editor) { GoToPage(editor, Family::kMaster); });
+}
+
 }  // namespace
 
 void ClickSize(const WindowContext& context, int size) {
     if (size == context.Commands.Editor().Document.EditedSize)
-        context.Commands.Run([](Editor& editor) { GoToPage(editor, Family::kMaster); });
+        GoToMaster(context);
     else
         DrawByHand(context, size);
+}
+
+void GoToFinding(const WindowContext& context, const formats::Finding& finding) {
+    const bool isOfMaster = finding.Kind == formats::Fault::Clipped &&
+                            !context.Commands.Editor().Document.ArtworkOf(finding.Size);
+    if (isOfMaster || !CanHaveArtwork(finding.Size))
+        GoToMaster(context);
+    else
+        DrawByHand(context, finding.Size);
 }
 
 void PopUpSizeMenu(const WindowContext& context, int size, const std::vector<int>& sizes,

@@ -5,14 +5,15 @@
 #include <QScrollBar>
 #include <QVBoxLayout>
 #include <algorithm>
-#include <cmath>
 #include <exception>
+#include <iterator>
 #include <utility>
 
+#include "app/findings_list.h"
 #include "app/shared_image.h"
 #include "app/size_menu.h"
+#include "editing/export_commands.h"
 #include "editing/size_strip.h"
-#include "filters/outline_contrast.h"
 #include "widgets/button_bar.h"
 #include "widgets/panel_header.h"
 
@@ -30,19 +31,19 @@ constexpr std::int64_t kMaxLivePixels = std::int64_t{4} << 20;
 constexpr int kToolSize = 12;
 constexpr int kDouble = widgets::kStripGrounds + 2;  // its button, after a separator
 
-QString Warning(const std::optional<double>& contrast, const char* ground) {
-    if (!contrast || *contrast >= filters::kLeastContrast)
+QString Warning(const std::vector<formats::Finding>& findings) {
+    const auto contrast =
+        std::ranges::find(findings, formats::Fault::Contrast, &formats::Finding::Kind);
+    if (contrast == findings.end())
         return {};
-    // Rounded down: what is below the limit must not read as the limit.
-    return QString("Hard to see on %1 (contrast %2 : 1)")
-        .arg(ground)
-        .arg(std::floor(*contrast * 10) / 10, 0, 'f', 1);
+    const QString text = TextOf(*contrast);
+    return text.left(1).toUpper() + text.mid(1);
 }
 
 }  // namespace
 
 SizesPanel::SizesPanel(const WindowContext& context)
-    : context_(context), header_(new widgets::PanelHeader("Sizes")) {
+    : context_(context), header_(new widgets::PanelHeader("Sizes")), findings_(new FindingsList) {
     setObjectName("SizesPanel");
     header_->setObjectName("Sizes");
     thread_.setMaxThreadCount(1);
@@ -52,10 +53,16 @@ SizesPanel::SizesPanel(const WindowContext& context)
     column->addWidget(header_);
     AddTools();
     AddStrip();
-    connect(header_, &widgets::PanelHeader::Clicked, this, [this](bool isClosed) {
-        scroller_->setVisible(!isClosed);
-        Refresh();
-    });
+    column->addWidget(findings_);
+    findings_->hide();
+    connect(findings_, &FindingsList::Wanted, this,
+            [this](const formats::Finding& finding, bool byMouse) {
+                GoToFinding(context_, finding);
+                if (byMouse)
+                    context_.Window.FocusScene();
+            });
+    connect(header_, &widgets::PanelHeader::Clicked, this,
+            [this](bool isClosed) { SetOpen(!isClosed); });
 }
 
 SizesPanel::~SizesPanel() {
@@ -135,7 +142,17 @@ void SizesPanel::SetDoubled(bool doubled) {
 void SizesPanel::SetOpen(bool open) {
     header_->SetClosed(!open);
     scroller_->setVisible(open);
+    findings_->setVisible(open && isCheckShown_);
     Refresh();
+}
+
+void SizesPanel::ShowCheck(bool shown) {
+    isCheckShown_ = shown;
+    SetOpen(shown || !header_->IsClosed());
+}
+
+bool SizesPanel::IsCheckShown() const {
+    return isCheckShown_ && !header_->IsClosed();
 }
 
 bool SizesPanel::eventFilter(QObject* watched, QEvent* event) {
@@ -196,9 +213,8 @@ void SizesPanel::ShowCells() {
         cell.IsDrawnByHand = editor.Document.ArtworkOf(size) != nullptr;
         const auto known = std::ranges::find(previews_, size, &formats::SizePreview::Size);
         if (known != previews_.end() && editor.DocumentExists) {
-            const QString onLight = Warning(known->OnLight, "white");
             cell.Picture = SharedImage(known->Picture);
-            cell.Warning = onLight.isEmpty() ? Warning(known->OnDark, "dark") : onLight;
+            cell.Warning = Warning(known->Findings);
         }
         cells.push_back(std::move(cell));
     }
@@ -229,10 +245,18 @@ void SizesPanel::Make() {
     isMaking_ = true;
     isStale_ = false;
     const document::Family& pages = editor.Document;
-    thread_.start([this, pages, current = editor.Canvas, sizes = sizes_] {
-        std::vector<formats::SizePreview> made;
+    const std::vector<int> exported = IconSizesOf(editor);
+    std::vector<int> sizes = sizes_;
+    if (isCheckShown_)
+        std::ranges::copy_if(exported, std::back_inserter(sizes), [this](int size) {
+            return std::ranges::find(sizes_, size) == sizes_.end();
+        });
+    thread_.start([=, this, isChecked = isCheckShown_, current = editor.Canvas] {
+        Made made;
         try {
-            made = maker_.Make(pages, current, sizes);
+            made.Previews = maker_.Make(pages, current, sizes);
+            if (isChecked)
+                made.Findings = FindingsOf(made.Previews, exported, pages);
         } catch (const std::exception&) {
             // No memory: the pictures stay as they are; the next ones may fit.
         }
@@ -241,10 +265,12 @@ void SizesPanel::Make() {
     });
 }
 
-void SizesPanel::Take(const std::vector<formats::SizePreview>& made) {
+void SizesPanel::Take(const Made& made) {
     isMaking_ = false;
-    if (!made.empty())
-        previews_ = made;
+    if (!made.Previews.empty())
+        previews_ = made.Previews;
+    if (made.Findings)
+        findings_->Show(*made.Findings);
     if (!CanBeSeen())
         return;
     ShowCells();

@@ -3,6 +3,7 @@
 
 #include <QThreadPool>
 #include <QWidget>
+#include <optional>
 #include <vector>
 
 #include "app/window_actions.h"
@@ -17,6 +18,8 @@ class PanelHeader;
 }  // namespace orbelle::widgets
 
 namespace orbelle::app {
+
+class FindingsList;
 
 // A thread makes the pictures from a copy of the document, one set at a time: what changes
 // meanwhile comes with the next. While the panel can't be seen nothing is made.
@@ -36,6 +39,11 @@ public:
     int Ground() const { return static_cast<int>(strip_->Ground()); }
     void SetDoubled(bool doubled);
     bool IsDoubled() const { return strip_->IsDoubled(); }
+    // The list of findings under the strip, made together with its pictures. To show it opens the
+    // panel.
+    void ShowCheck(bool shown);
+    bool IsCheckShown() const;
+    FindingsList& Findings() const { return *findings_; }
     // What can be seen is the document as it is now.
     bool IsAtRest() const;
 
@@ -55,7 +63,12 @@ private:
     void ShowCells();
     void FitHeight();
     void Make();
-    void Take(const std::vector<formats::SizePreview>& made);
+    // What the thread gives back; nothing when it could not.
+    struct Made {
+        std::vector<formats::SizePreview> Previews;
+        std::optional<std::vector<formats::Finding>> Findings;  // where they are wanted
+    };
+    void Take(const Made& made);
     void Refresh();  // as if all had changed
 
     WindowContext context_;
@@ -63,12 +76,14 @@ private:
     widgets::ButtonBar* tools_ = nullptr;
     QScrollArea* scroller_ = nullptr;
     widgets::SizeStrip* strip_ = nullptr;
+    FindingsList* findings_;
 
     std::vector<int> sizes_;                      // that are shown
     std::vector<formats::SizePreview> previews_;  // that were made last
     formats::SizePreviews maker_;                 // the thread's alone while it works
     bool isMaking_ = false;
     bool isStale_ = true;
+    bool isCheckShown_ = false;  // while the panel is open
     QThreadPool thread_;
 };
 

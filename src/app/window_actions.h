@@ -19,6 +19,7 @@ public:
     virtual void ToggleTips() = 0;  // Help/Tips
     virtual void CloseTips() = 0;
     virtual void TogglePixelGrid() = 0;  // View/Pixel Grid
+    virtual void ToggleCheck() = 0;      // Tool/Check Icon
     virtual void ShowAbout() = 0;
     // The controls show the editor's states again, whatever the toolkit did to them.
     virtual void ShowControls() = 0;

@@ -4,6 +4,7 @@
 #include "cli/document_json.h"
 #include "cli/icon_json.h"
 #include "cli/verb_table.h"
+#include "editing/export_commands.h"
 #include "graphics/codecs/image_files.h"
 #include "graphics/file_io.h"
 
@@ -38,6 +39,16 @@ void Info(Workspace& workspace) {
 
 void Entries(Workspace& workspace, const std::filesystem::path& path) {
     workspace.Output << DescribeEntries(formats::ReadIconFile(path)) << '\n';
+    RequirePrinted(workspace.Output);
+}
+
+void Check(Workspace& workspace) {
+    RequireDocument(workspace);
+    const editing::Editor& editor = workspace.Editor;
+    const formats::FlatFamily flat = formats::Flatten(editor.Document, editor.Canvas);
+    for (const formats::Finding& finding :
+         CheckIcon(editor.Document, flat, editing::IconSizesOf(editor)))
+        workspace.Output << DescribeFinding(finding) << '\n';
     RequirePrinted(workspace.Output);
 }
 
@@ -82,6 +93,8 @@ constexpr Verb kVerbs[] = {
     {"info", "", "print the document as one JSON object on one line", ReadNothing<Info>},
     {"entries", "PATH", "print the images of an icon file as one JSON array on one line",
      ReadPath<Entries>},
+    {"check", "", "print what is wrong with the icon at its export sizes, a JSON object a line",
+     ReadNothing<Check>},
     {"region", "N", "print layer N's region: a line 'y x0 x1' for each run of pixels", ReadRegion},
     {"selection", "", "print the selection's region in the same form", ReadNothing<PrintSelection>},
     {"write-layer", "N PATH", "write layer N's own pixels as a PNG", ReadWriteLayer},

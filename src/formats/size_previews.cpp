@@ -1,16 +1,26 @@
 #include "formats/size_previews.h"
 
 #include <algorithm>
+#include <iterator>
 #include <utility>
 
 #include "document/compositor.h"
-#include "filters/outline_contrast.h"
 #include "filters/shrink_to_size.h"
 
 namespace orbelle::formats {
 
 using document::Page;
 using graphics::Bitmap;
+
+std::vector<Finding> FindingsOf(const std::vector<SizePreview>& previews,
+                                const std::vector<int>& sizes, const document::Family& family) {
+    std::vector<Finding> findings = FindingsOfPages(family);
+    for (const SizePreview& preview : previews) {
+        if (std::ranges::find(sizes, preview.Size) != sizes.end())
+            std::ranges::copy(preview.Findings, std::back_inserter(findings));
+    }
+    return InOrder(std::move(findings));
+}
 
 const SizePreviews::Made* SizePreviews::Find(int size, const Page* artwork) const {
     const auto found = std::ranges::find_if(made_, [&](const Made& made) {
@@ -35,12 +45,8 @@ std::vector<SizePreview> SizePreviews::Make(const document::Family& family, cons
         if (!artwork && master.IsEmpty())
             master = flat(family.Master);
         Bitmap picture = artwork ? flat(*artwork) : filters::ShrinkToSize(master, size);
-        const auto contrast = [&](graphics::Argb ground) {
-            return filters::OutlineContrast(picture, ground);
-        };
-        const auto onLight = contrast(filters::kLightGround);
-        const auto onDark = contrast(filters::kDarkGround);
-        return SizePreview{size, std::move(picture), onLight, onDark};
+        std::vector<Finding> findings = FindingsAt(size, picture, family);
+        return SizePreview{size, std::move(picture), std::move(findings)};
     };
     std::vector<Made> made;
     std::vector<SizePreview> previews;

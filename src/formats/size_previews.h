@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "document/family.h"
+#include "formats/icon_check.h"
 #include "graphics/bitmap.h"
 
 namespace orbelle::formats {
@@ -12,10 +13,12 @@ namespace orbelle::formats {
 struct SizePreview {
     int Size = 0;
     graphics::Bitmap Picture;  // as an export would hold it
-    // filters::OutlineContrast of it to the two grounds.
-    std::optional<double> OnLight;
-    std::optional<double> OnDark;
+    std::vector<Finding> Findings;
 };
+
+// What CheckIcon finds at those of the sizes that have a preview.
+std::vector<Finding> FindingsOf(const std::vector<SizePreview>& previews,
+                                const std::vector<int>& sizes, const document::Family& family);
 
 // Keeps what it made last, so that a change of a page costs only the pictures that come from it:
 // those of the master, or the one of a size that has artwork of its own.

@@ -115,6 +115,7 @@ public:
     void ToggleTips() override {}
     void CloseTips() override {}
     void TogglePixelGrid() override {}
+    void ToggleCheck() override {}
     void ShowAbout() override {}
     void ShowControls() override {}
 

@@ -86,7 +86,7 @@ TEST_F(SizePreviewsTest, OnlyWhatChangedIsMadeAnew) {
     EXPECT_EQ(Remade({32, 16}), "16");
 }
 
-TEST_F(SizePreviewsTest, EachIsThePictureOfAnExportWithItsContrast) {
+TEST_F(SizePreviewsTest, EachIsThePictureOfAnExportWithItsFindings) {
     family.SetArtwork(16, PageOf(16, {0xFFFFFFFF}));
     EXPECT_EQ(Remade({128, 24, 16}), "128 24 16");
     const graphics::Bitmap current = document::Flatten(family.Master);
@@ -94,11 +94,12 @@ TEST_F(SizePreviewsTest, EachIsThePictureOfAnExportWithItsContrast) {
         EXPECT_TRUE(
             SamePixels(preview.Picture, PictureForSize(Flatten(family, current), preview.Size)))
             << preview.Size;
-    EXPECT_EQ(last[2].OnLight, 1);
-    EXPECT_NEAR(last[2].OnDark.value_or(0), 16.29, 0.01);
+    const Finding white{16, Fault::Contrast, 0xFFFFFFFF, 1};
+    EXPECT_EQ(last[2].Findings, std::vector{white});
+    EXPECT_EQ(last[0].Findings.back(), (Finding{128, Fault::Upscaled}));
     family.Master.Layers.clear();
     Remade({24});
-    EXPECT_EQ(last[0].OnLight, std::nullopt);
+    EXPECT_EQ(last[0].Findings, (std::vector<Finding>{{24, Fault::Empty}}));
 }
 
 }  // namespace

@@ -1,0 +1,132 @@
+#include "app/findings_list.h"
+
+#include <QFocusEvent>
+#include <QKeyEvent>
+#include <algorithm>
+#include <cmath>
+
+#include "filters/outline_contrast.h"
+#include "widgets/chrome.h"
+
+namespace orbelle::app {
+namespace {
+
+using formats::Fault;
+using formats::Finding;
+
+constexpr int kMostLines = 4;
+constexpr int kLineHeight = 20;
+constexpr int kInset = 4;  // above the first line and below the last
+constexpr char kLooks[] =
+    "QListView { background: @chrome; border: none; border-top: 1px solid @hairline;"
+    " padding: 3px 4px 4px 4px; outline: none }"
+    "QListView::item { padding: 0 4px; border-radius: 3px; border: 1px solid transparent }"
+    "QListView::item:hover { background: #e8ebee }"
+    "QListView::item:disabled { background: transparent; color: @pale }"
+    "QListView::item:selected { background: transparent; color: @text }"
+    "QListView::item:selected:active { background: #dcebfb; border-color: @accent }";
+
+QString Looks() {
+    QString looks = kLooks;
+    for (const auto& [word, color] : {std::pair("@chrome", widgets::kChromeColor),
+                                      {"@hairline", widgets::kHairlineColor},
+                                      {"@pale", widgets::kPaleTextColor},
+                                      {"@text", widgets::kTextColor},
+                                      {"@accent", widgets::kAccentColor}})
+        looks.replace(word, color.name());
+    return looks;
+}
+
+QString LineOf(const Finding& finding) {
+    return QString("%1: %2").arg(finding.Size).arg(TextOf(finding));
+}
+
+}  // namespace
+
+QString TextOf(const Finding& finding) {
+    switch (finding.Kind) {
+        case Fault::Empty:
+            return "nothing can be seen";
+        case Fault::Contrast:
+            // Rounded down: what is below the limit must not read as the limit.
+            return QString("hard to see on %1 (contrast %2 : 1)")
+                .arg(finding.Ground == filters::kLightGround ? "white" : "dark")
+                .arg(std::floor(finding.Contrast * 10) / 10, 0, 'f', 1);
+        case Fault::Fringe:
+            return "foreign colours along the edge";
+        case Fault::Upscaled:
+            return "larger than the page that it is made from";
+        case Fault::Clipped:
+            break;
+    }
+    return "the page cuts layers off";
+}
+
+FindingsList::FindingsList() {
+    setObjectName("Findings");
+    setAccessibleName("Findings");
+    setFont(widgets::ChromeFont(8));
+    setStyleSheet(Looks());
+    setUniformItemSizes(true);
+    setTextElideMode(Qt::ElideRight);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    connect(this, &QListWidget::itemClicked, this,
+            [this](QListWidgetItem* item) { Tell(row(item), true); });
+    FitHeight();
+}
+
+void FindingsList::Tell(int row, bool byMouse) {
+    if (row >= 0 && row < static_cast<int>(findings_.size()))
+        emit Wanted(findings_[static_cast<std::size_t>(row)], byMouse);
+}
+
+void FindingsList::AddLine(const QString& text, bool isFinding) {
+    auto* line = new QListWidgetItem(text, this);
+    line->setSizeHint(QSize(0, kLineHeight));
+    if (!isFinding)
+        line->setFlags(Qt::NoItemFlags);
+}
+
+void FindingsList::Show(const std::vector<Finding>& findings) {
+    if (findings == findings_ && count() > 0)
+        return;
+    const QListWidgetItem* current = currentItem();
+    const QString text = current ? current->text() : QString();
+    const int row = currentRow();
+    findings_ = findings;
+    clear();
+    for (const Finding& finding : findings_)
+        AddLine(LineOf(finding), true);
+    if (findings_.empty())
+        AddLine("Nothing found", false);
+    const auto same = findItems(text, Qt::MatchExactly);
+    if (!same.empty())
+        setCurrentItem(same.first());
+    else if (row >= 0 && !findings_.empty())
+        setCurrentRow(std::min(row, count() - 1));
+    FitHeight();
+}
+
+void FindingsList::FitHeight() {
+    setFixedHeight(std::clamp(count(), 1, kMostLines) * kLineHeight + 2 * kInset);
+}
+
+void FindingsList::keyPressEvent(QKeyEvent* event) {
+    switch (event->key()) {
+        case Qt::Key_Return:
+        case Qt::Key_Enter:
+        case Qt::Key_Space:
+            return Tell(currentRow(), false);
+        default:
+            QListWidget::keyPressEvent(event);
+    }
+}
+
+void FindingsList::focusInEvent(QFocusEvent* event) {
+    QListWidget::focusInEvent(event);
+    if (currentRow() < 0)
+        setCurrentRow(0);
+}
+
+}  // namespace orbelle::app
