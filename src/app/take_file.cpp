@@ -10,8 +10,9 @@ namespace fs = std::filesystem;
 
 using editing::Editor;
 
-using TakeFile = void (*)(Editor&, const fs::path&, int iconImage);
-using TakePictures = void (*)(Editor&, std::vector<graphics::Bitmap>, const fs::path& source);
+using TakeFile = void (*)(Editor&, const fs::path&, const editing::ReadChoices&);
+using TakePictures = void (*)(Editor&, std::vector<graphics::Bitmap>, const fs::path& source,
+                              bool fitsPage);
 
 TakeResult Ended(Report report) {
     return {report.Failed ? TakeEnd::Failed : TakeEnd::Done, std::move(report.Text)};
@@ -32,15 +33,16 @@ TakeResult TakeIconImages(const WindowContext& context, const fs::path& path,
     for (const int image : choice->Images)
         pictures.push_back(offered[static_cast<std::size_t>(image)].Image);
     return Ended(
-        context.Commands.Try([&](Editor& editor) { takePictures(editor, pictures, path); }));
+        context.Commands.Try([&](Editor& editor) { takePictures(editor, pictures, path, false); }));
 }
 
-void OpenFirst(Editor& editor, std::vector<graphics::Bitmap> pictures, const fs::path& source) {
+void OpenFirst(Editor& editor, std::vector<graphics::Bitmap> pictures, const fs::path& source,
+               bool /*fitsPage*/) {
     OpenPicture(editor, pictures[0], source);
 }
 
 TakeResult TakeOther(const WindowContext& context, const fs::path& path, TakeFile takeFile) {
-    return Ended(context.Commands.Try([&](Editor& editor) { takeFile(editor, path, 0); }));
+    return Ended(context.Commands.Try([&](Editor& editor) { takeFile(editor, path, {}); }));
 }
 
 }  // namespace

@@ -36,6 +36,16 @@ Curve SrgbCurve() {
     return Curve(cmsBuildParametricToneCurve(nullptr, kLinearThenPower, kNumbers));
 }
 
+bool AreSrgb(const Chromaticities& primaries) {
+    constexpr double kSamePoint = 0.002;
+    const auto isSame = [](const double(&a)[2], const double(&b)[2]) {
+        return std::abs(a[0] - b[0]) < kSamePoint && std::abs(a[1] - b[1]) < kSamePoint;
+    };
+    const Chromaticities srgb;
+    return isSame(primaries.White, srgb.White) && isSame(primaries.Red, srgb.Red) &&
+           isSame(primaries.Green, srgb.Green) && isSame(primaries.Blue, srgb.Blue);
+}
+
 // The library's pixels of the file, and its name for what is in them.
 cmsUInt32Number FormatOf(FileChannels channels) {
     switch (channels) {
@@ -153,8 +163,10 @@ std::optional<ColorConversion> ColorConversion::OfProfile(std::span<const std::u
 
 ColorConversion ColorConversion::OfGamma(std::optional<double> gamma,
                                          const Chromaticities& primaries, FileChannels channels) {
-    const bool isSrgbCurve = !gamma || std::abs(*gamma - kUsualGamma) < kSameGamma;
-    const Curve curve = isSrgbCurve ? SrgbCurve() : Curve(cmsBuildGamma(nullptr, 1 / *gamma));
+    const bool isUsualGamma = !gamma || std::abs(*gamma - kUsualGamma) < kSameGamma;
+    if (isUsualGamma && AreSrgb(primaries))
+        return {};
+    const Curve curve = gamma ? Curve(cmsBuildGamma(nullptr, 1 / *gamma)) : SrgbCurve();
     if (!curve)
         return {};
     const auto point = [](const double(&xy)[2]) { return cmsCIExyY{xy[0], xy[1], 1}; };

@@ -37,7 +37,8 @@ public:
                                                     FileChannels channels);
 
     // Of samples that are light to the power of `gamma`; nothing: that follow sRGB's curve. The
-    // reciprocal of 2.2 is what sRGB writes itself as, and counts as its curve.
+    // reciprocal of 2.2 with sRGB's primary colours is what sRGB writes itself as, and changes
+    // nothing.
     static ColorConversion OfGamma(std::optional<double> gamma, const Chromaticities& primaries,
                                    FileChannels channels);
 

@@ -144,7 +144,7 @@ TEST_F(DocumentCommands, TheFirstBytesTellWhatAFileIs) {
         copy(from, to);
     graphics::WriteFile("pointer.ico", std::vector<std::uint8_t>{0, 0, 3, 0, 1, 0, 0, 0, 0, 0});
     graphics::WriteFile("text.ico", std::vector<std::uint8_t>(100, 'x'));
-    const std::string none = ": not a PNG; JPEG; GIF or BMP picture";
+    const std::string none = ": not a PNG; JPEG; GIF; BMP; WebP or SVG picture";
     Check({
         {"a document", "open document.png", "widths 5, page/width 9, path document.png"},
         {"as an icon", "open document.ico", "widths 5, path document.ico"},
