@@ -94,11 +94,10 @@ std::vector<Argb> Samples() {
     return samples;
 }
 
-bool ChangesColors(void* transform) {
+bool ChangesColors(const ColorConversion& conversion) {
     const std::vector<Argb> samples = Samples();
     std::vector<Argb> converted = samples;
-    cmsDoTransform(transform, converted.data(), converted.data(),
-                   static_cast<cmsUInt32Number>(converted.size()));
+    conversion.Convert(converted.data(), static_cast<std::int64_t>(converted.size()));
     return !std::ranges::equal(samples, converted, IsSame);
 }
 
@@ -122,28 +121,32 @@ bool IsLinear(std::span<const Argb> table) {
 }  // namespace
 
 std::optional<ColorConversion> ColorConversion::From(void* profile, FileChannels channels) {
-    const Profile to(cmsCreate_sRGBProfile());
-    if (!profile || !to || cmsGetColorSpace(profile) != SpaceOf(channels))
+    if (!profile || cmsGetColorSpace(profile) != SpaceOf(channels))
         return std::nullopt;
+    ColorConversion conversion;
+    if (auto matrix = MatrixColors::Of(profile)) {
+        conversion.matrix_ = std::make_shared<const MatrixColors>(*matrix);
+        return ChangesColors(conversion) ? conversion : ColorConversion();
+    }
+    const Profile to(cmsCreate_sRGBProfile());
     std::shared_ptr<void> transform(
-        cmsCreateTransform(profile, FormatOf(channels), to.get(), TYPE_BGRA_8,
-                           INTENT_RELATIVE_COLORIMETRIC, kFlags),
+        !to ? nullptr
+            : cmsCreateTransform(profile, FormatOf(channels), to.get(), TYPE_BGRA_8,
+                                 INTENT_RELATIVE_COLORIMETRIC, kFlags),
         [](void* made) {
             if (made)
                 cmsDeleteTransform(made);
         });
     if (!transform)
         return std::nullopt;
-    ColorConversion conversion;
     switch (channels) {
         case FileChannels::Gray:
             if (std::vector<Argb> table = TableOf(transform.get()); !IsLinear(table))
                 conversion.table_ = std::move(table);
             break;
         case FileChannels::Rgb:
-            if (ChangesColors(transform.get()))
-                conversion.transform_ = std::move(transform);
-            break;
+            conversion.transform_ = std::move(transform);
+            return ChangesColors(conversion) ? conversion : ColorConversion();
         case FileChannels::Paper:
             conversion.transform_ = std::move(transform);
             conversion.isPaper_ = true;
@@ -186,6 +189,8 @@ void ColorConversion::Convert(Argb* pixels, std::int64_t count) const {
     if (!table_.empty()) {
         for (std::int64_t i = 0; i < count; ++i)
             pixels[i] = (pixels[i] & 0xFF000000) | table_[pixels[i] & 0xFF];
+    } else if (matrix_) {
+        matrix_->Convert(pixels, count);
     } else if (transform_) {
         cmsDoTransform(transform_.get(), pixels, pixels, static_cast<cmsUInt32Number>(count));
     }

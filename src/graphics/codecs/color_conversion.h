@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "graphics/bitmap.h"
+#include "graphics/codecs/matrix_colors.h"
 
 namespace orbelle::graphics {
 
@@ -42,7 +43,7 @@ public:
     static ColorConversion OfGamma(std::optional<double> gamma, const Chromaticities& primaries,
                                    FileChannels channels);
 
-    bool ChangesNothing() const { return !transform_ && table_.empty(); }
+    bool ChangesNothing() const { return !transform_ && !matrix_ && table_.empty(); }
 
     // Alpha stays as it is; of paper it becomes 255.
     void Convert(Argb* pixels, std::int64_t count) const;
@@ -51,6 +52,7 @@ private:
     static std::optional<ColorConversion> From(void* profile, FileChannels channels);
 
     std::shared_ptr<void> transform_;
+    std::shared_ptr<const MatrixColors> matrix_;
     std::vector<Argb> table_;  // of 256 greys, alpha 0
     bool isPaper_ = false;
 };

@@ -55,7 +55,6 @@ public:
         config.output.u.RGBA.rgba = reinterpret_cast<std::uint8_t*>(canvas.MutablePixels()) + start;
         config.output.u.RGBA.stride = static_cast<int>(stride);
         config.output.u.RGBA.size = bytes - start;
-        config.options.use_threads = 1;
         const VP8StatusCode status =
             WebPDecode(frame_.fragment.bytes, frame_.fragment.size, &config);
         if (status == VP8_STATUS_OUT_OF_MEMORY)
