@@ -54,11 +54,12 @@ private:
                      std::strerror(errno));
 }
 
-// Beside the program that runs, or where it is installed with it; else where the shell would look.
+// Beside the program that runs, or where both are installed; else where the shell would look.
 std::string FindProgram() {
     std::error_code none;
     const fs::path folder = fs::read_symlink("/proc/self/exe", none).parent_path();
-    for (const fs::path& place : {folder / kProgram, folder / "../libexec/orbelle" / kProgram}) {
+    for (const fs::path& place :
+         {folder / kProgram, folder / ORBELLE_SVG_FROM_PROGRAMS / kProgram}) {
         if (!folder.empty() && access(place.c_str(), X_OK) == 0)
             return place;
     }
