@@ -179,6 +179,19 @@ bool IsIconFile(const fs::path& path) {
     return IsOfKind(path, FileKind::Icon);
 }
 
+bool IsSvgFile(const fs::path& path) {
+    try {
+        return KindOf(path) == FileKind::Picture && graphics::IsSvg(graphics::FileSource(path));
+    } catch (const std::exception&) {
+        return false;
+    }
+}
+
+graphics::Bitmap ReadPictureToImport(const Editor& editor, const fs::path& path,
+                                     const ReadChoices& choices) {
+    return ReadPicture(path, KindOf(path), choices, RoomForImport(editor));
+}
+
 std::vector<formats::IconEntryImage> ReadIconImages(const fs::path& path) {
     std::vector<formats::IconEntryImage> images = formats::ReadIconFile(path);
     const std::string problem = images[0].Problem;

@@ -54,6 +54,10 @@ void ImportPictures(Editor& editor, std::vector<graphics::Bitmap> pictures,
 // the path that it had.
 void RestoreDocument(Editor& editor, const document::Document& document);
 
+// The picture of a file that is no document, as large as the document has room for.
+graphics::Bitmap ReadPictureToImport(const Editor& editor, const std::filesystem::path& path,
+                                     const ReadChoices& choices);
+
 // The images of an icon file that can be read, in file order. Throws Error, with what is wrong with
 // the first, when there are none.
 std::vector<formats::IconEntryImage> ReadIconImages(const std::filesystem::path& path);
@@ -61,9 +65,10 @@ std::vector<formats::IconEntryImage> ReadIconImages(const std::filesystem::path&
 // Writes the document there; its path and the title follow. Throws Error when that fails.
 void SaveTo(Editor& editor, const std::filesystem::path& path);
 
-// What a file holds by its first bytes: a document, or several pictures to choose from. Neither
-// when it can't be read.
+// What a file holds by its first bytes: a document, several pictures to choose from, or a drawing.
+// None of these when it can't be read.
 bool IsDocumentFile(const std::filesystem::path& path);
 bool IsIconFile(const std::filesystem::path& path);
+bool IsSvgFile(const std::filesystem::path& path);
 
 }  // namespace orbelle::editing
