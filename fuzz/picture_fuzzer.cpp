@@ -2,10 +2,13 @@
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>
+#include <iterator>
 #include <vector>
 
 #include "formats/icon_reader.h"
+#include "graphics/codecs/color_conversion.h"
 #include "graphics/codecs/image_codecs.h"
+#include "graphics/codecs/image_files.h"
 
 using namespace orbelle;
 
@@ -26,6 +29,23 @@ using graphics::ByteSource;
         if (image.Format == formats::IconEntryFormat::Png &&
             formats::EntryBytes(file, static_cast<int>(i), file.Size()).size() < image.Bytes)
             std::abort();
+    }
+}
+
+[[maybe_unused]] void DecodeDrawing(const ByteSource& file, graphics::PixelBudget& budget) {
+    if (graphics::IsSvg(file))
+        graphics::DecodeSvg(file, budget, 32);
+}
+
+// The whole input is a profile.
+[[maybe_unused]] void ConvertColors(const ByteSource& file, graphics::PixelBudget&) {
+    std::vector<std::uint8_t> profile(file.Size());
+    file.ReadAt(0, profile);
+    for (const auto channels : {graphics::FileChannels::Gray, graphics::FileChannels::Rgb,
+                                graphics::FileChannels::Paper}) {
+        graphics::Argb pixels[] = {0, 0xFFFFFFFF, 0x80402010, 0xFF0080FF};
+        if (const auto colors = graphics::ColorConversion::OfProfile(profile, channels))
+            colors->Convert(pixels, std::size(pixels));
     }
 }
 

@@ -19,14 +19,17 @@ namespace {
 
 constexpr char kPictureFilters[] =
     "|ICO Files (*.ICO)|*.ico|PNG Files (*.PNG)|*.png|GIF Files (*.GIF)|*.gif"
-    "|JPEG Files (*.JPG;*.JPEG)|*.jpg;*.jpeg|BMP Files (*.BMP)|*.bmp|CUR Files (*.CUR)|*.cur";
+    "|JPEG Files (*.JPG;*.JPEG)|*.jpg;*.jpeg|BMP Files (*.BMP)|*.bmp|CUR Files (*.CUR)|*.cur"
+    "|WebP Files (*.WEBP)|*.webp|SVG Files (*.SVG;*.SVGZ)|*.svg;*.svgz";
 constexpr char kOpenFilter[] =
-    "All Supported Formats|*.volf;*.ico;*.png;*.gif;*.jpg;*.jpeg;*.bmp;*.cur"
+    "All Supported Formats|*.volf;*.ico;*.png;*.gif;*.jpg;*.jpeg;*.bmp;*.cur;*.webp;*.svg;*.svgz"
     "|Varnel Orbelle Files (*.VOLF)|*.volf";
-constexpr char kImportFilter[] = "All Supported Formats|*.ico;*.png;*.gif;*.jpg;*.jpeg;*.bmp;*.cur";
+constexpr char kImportFilter[] =
+    "All Supported Formats|*.ico;*.png;*.gif;*.jpg;*.jpeg;*.bmp;*.cur;*.webp;*.svg;*.svgz";
 
 void OpenPath(const WindowContext& context, const fs::path& path) {
-    const TakeResult result = TakeToOpen(context, path);
+    TakeAnswers answers;
+    const TakeResult result = TakeToOpen(context, path, answers);
     if (!result.Text.empty())
         context.User.ShowMessage(result.Text);
 }

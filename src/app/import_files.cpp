@@ -30,12 +30,12 @@ bool IsFull(const editing::Editor& editor) {
            editor.History.UndoIndex() >= UndoHistory::kMaxSnapshots;
 }
 
-TakeResult Import(const WindowContext& context, const fs::path& file) {
+TakeResult Import(const WindowContext& context, const fs::path& file, TakeAnswers& answers) {
     if (!editing::IsDocumentFile(file))
-        return TakeToImport(context, file);
+        return TakeToImport(context, file, answers);
     if (!MayGiveUpDocument(context))
         return {TakeEnd::Cancelled, {}};
-    return TakeToOpen(context, file);
+    return TakeToOpen(context, file, answers);
 }
 
 class Summary {
@@ -81,6 +81,7 @@ private:
 
 // Where a file is to be opened each is until one is; the others are imported.
 void TakeFiles(const WindowContext& context, const std::vector<fs::path>& files, bool opens) {
+    TakeAnswers answers;
     Summary summary(opens ? "opened" : "imported", files.size());
     const int count = static_cast<int>(files.size());
     for (int i = 0; i < count; ++i) {
@@ -89,7 +90,8 @@ void TakeFiles(const WindowContext& context, const std::vector<fs::path>& files,
             break;
         }
         const fs::path& file = files[static_cast<std::size_t>(i)];
-        TakeResult result = opens ? TakeToOpen(context, file) : Import(context, file);
+        TakeResult result =
+            opens ? TakeToOpen(context, file, answers) : Import(context, file, answers);
         const TakeEnd end = result.End;
         opens = opens && end != TakeEnd::Done;
         summary.Note(std::move(result));
@@ -111,10 +113,15 @@ void TakeFiles(const WindowContext& context, const std::vector<fs::path>& files,
 void TakePicture(const WindowContext& context, const OfferedPicture& offered, bool opens) {
     if (opens && !MayGiveUpDocument(context))
         return;
-    context.Commands.RunBusy([&](editing::Editor& editor) {
-        const graphics::Bitmap& picture = RequireReadable(offered);
-        return opens ? OpenPicture(editor, picture) : ImportPicture(editor, picture);
-    });
+    if (opens || !offered.Problem.empty()) {
+        context.Commands.RunBusy(
+            [&](editing::Editor& editor) { OpenPicture(editor, RequireReadable(offered)); });
+        return;
+    }
+    TakeAnswers answers;
+    const TakeResult result = TakeToImport(context, {offered.Picture}, {}, answers);
+    if (!result.Text.empty())
+        context.User.ShowMessage(result.Text);
 }
 
 // In a box where nothing else came with it.

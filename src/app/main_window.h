@@ -101,6 +101,8 @@ public:
     std::optional<int> AskGifThreshold(const graphics::Bitmap& surface) override;
     std::optional<IconChoice> ChooseIconImages(const std::vector<formats::IconEntryImage>& offered,
                                                const IconQuestion& question) override;
+    std::optional<int> AskSvgSide(const PageSize& own) override;
+    std::optional<bool> AskFit(const PageSize& picture, const PageSize& page) override;
     std::optional<filters::SizeRecipe> ChooseRecipe(const graphics::Bitmap& master,
                                                     int size) override;
     std::optional<graphics::Argb> AskColor(const ColorQuestion& question) override;

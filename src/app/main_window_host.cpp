@@ -12,6 +12,7 @@
 #include "app/color_dialog.h"
 #include "app/file_dialog.h"
 #include "app/findings_list.h"
+#include "app/fit_dialog.h"
 #include "app/gif_optimizer_dialog.h"
 #include "app/icon_images_dialog.h"
 #include "app/message_boxes.h"
@@ -22,6 +23,7 @@
 #include "app/scene_view.h"
 #include "app/sizes_panel.h"
 #include "app/suggest_dialog.h"
+#include "app/svg_size_dialog.h"
 #include "app/system_clipboard.h"
 
 namespace orbelle::app {
@@ -187,6 +189,20 @@ std::optional<IconChoice> MainWindow::ChooseIconImages(
     if (dialog.exec() != QDialog::Accepted)
         return std::nullopt;
     return dialog.Choice();
+}
+
+std::optional<int> MainWindow::AskSvgSide(const PageSize& own) {
+    SvgSizeDialog dialog(own, this);
+    if (dialog.exec() != QDialog::Accepted)
+        return std::nullopt;
+    return dialog.Side();
+}
+
+std::optional<bool> MainWindow::AskFit(const PageSize& picture, const PageSize& page) {
+    FitDialog dialog(picture, page, this);
+    if (dialog.exec() != QDialog::Accepted)
+        return std::nullopt;
+    return dialog.FitsPage();
 }
 
 std::optional<filters::SizeRecipe> MainWindow::ChooseRecipe(const graphics::Bitmap& master,

@@ -1,7 +1,11 @@
 #include "app/take_file.h"
 
+#include <algorithm>
+#include <utility>
+
 #include "app/recent_files.h"
 #include "editing/document_commands.h"
+#include "graphics/codecs/image_files.h"
 
 namespace orbelle::app {
 namespace {
@@ -10,54 +14,119 @@ namespace fs = std::filesystem;
 
 using editing::Editor;
 
-using TakeFile = void (*)(Editor&, const fs::path&, int iconImage);
-using TakePictures = void (*)(Editor&, std::vector<graphics::Bitmap>, const fs::path& source);
-
 TakeResult Ended(Report report) {
     return {report.Failed ? TakeEnd::Failed : TakeEnd::Done, std::move(report.Text)};
 }
 
-TakeResult TakeIconImages(const WindowContext& context, const fs::path& path,
-                          const IconQuestion& question, TakePictures takePictures) {
+// What the user chooses of an icon file; without a choice the taking has ended.
+struct ChosenImages {
+    std::optional<TakeResult> End;
+    std::vector<graphics::Bitmap> Pictures;  // none: all sizes
+};
+
+ChosenImages ChooseImages(const WindowContext& context, const fs::path& path,
+                          const IconQuestion& question) {
     std::vector<formats::IconEntryImage> offered;
     Report read = context.Commands.Try([&](Editor&) { offered = editing::ReadIconImages(path); });
     if (read.Failed)
-        return Ended(std::move(read));
+        return {Ended(std::move(read)), {}};
     const std::optional<IconChoice> choice = context.User.ChooseIconImages(offered, question);
     if (!choice || choice->Images.empty())
-        return {TakeEnd::Cancelled, {}};
+        return {TakeResult{TakeEnd::Cancelled, {}}, {}};
+    ChosenImages chosen;
     if (choice->AllSizes)
-        return Ended(context.Commands.Try([&](Editor& editor) { OpenIconFamily(editor, path); }));
-    std::vector<graphics::Bitmap> pictures;
+        return chosen;
     for (const int image : choice->Images)
-        pictures.push_back(offered[static_cast<std::size_t>(image)].Image);
-    return Ended(
-        context.Commands.Try([&](Editor& editor) { takePictures(editor, pictures, path); }));
+        chosen.Pictures.push_back(offered[static_cast<std::size_t>(image)].Image);
+    return chosen;
 }
 
-void OpenFirst(Editor& editor, std::vector<graphics::Bitmap> pictures, const fs::path& source) {
-    OpenPicture(editor, pictures[0], source);
+TakeResult OpenIcon(const WindowContext& context, const fs::path& path) {
+    const ChosenImages chosen = ChooseImages(context, path, {.OffersAllSizes = true});
+    if (chosen.End)
+        return *chosen.End;
+    return Ended(context.Commands.Try([&](Editor& editor) {
+        if (chosen.Pictures.empty())
+            OpenIconFamily(editor, path);
+        else
+            OpenPicture(editor, chosen.Pictures[0], path);
+    }));
 }
 
-TakeResult TakeOther(const WindowContext& context, const fs::path& path, TakeFile takeFile) {
-    return Ended(context.Commands.Try([&](Editor& editor) { takeFile(editor, path, 0); }));
+// Drawings have the size that the user wants. False: the taking has ended with that result.
+bool AskSvgSide(const WindowContext& context, const fs::path& path, TakeAnswers& answers,
+                editing::ReadChoices& choices, TakeResult& end) {
+    if (!editing::IsSvgFile(path))
+        return true;
+    if (!answers.SvgSide) {
+        graphics::SvgSize own;
+        Report read = context.Commands.Try([&](Editor&) { own = graphics::ReadSvgSize(path); });
+        if (read.Failed) {
+            end = Ended(std::move(read));
+            return false;
+        }
+        answers.SvgSide = context.User.AskSvgSide({own.Width, own.Height});
+    }
+    if (!answers.SvgSide) {
+        end = {TakeEnd::Cancelled, {}};
+        return false;
+    }
+    choices.SvgSide = *answers.SvgSide;
+    return true;
+}
+
+TakeResult OpenOther(const WindowContext& context, const fs::path& path, TakeAnswers& answers) {
+    editing::ReadChoices choices;
+    TakeResult end;
+    if (!AskSvgSide(context, path, answers, choices, end))
+        return end;
+    return Ended(context.Commands.Try([&](Editor& editor) { OpenFile(editor, path, choices); }));
 }
 
 }  // namespace
 
-TakeResult TakeToOpen(const WindowContext& context, const fs::path& path) {
-    TakeResult result = editing::IsIconFile(path)
-                            ? TakeIconImages(context, path, {.OffersAllSizes = true}, OpenFirst)
-                            : TakeOther(context, path, editing::OpenFile);
+TakeResult TakeToOpen(const WindowContext& context, const fs::path& path, TakeAnswers& answers) {
+    TakeResult result =
+        editing::IsIconFile(path) ? OpenIcon(context, path) : OpenOther(context, path, answers);
     if (result.End == TakeEnd::Done)
         context.Recent.Note(path);
     return result;
 }
 
-TakeResult TakeToImport(const WindowContext& context, const fs::path& path) {
-    if (editing::IsIconFile(path))
-        return TakeIconImages(context, path, {.TakesSeveral = true}, editing::ImportPictures);
-    return TakeOther(context, path, editing::ImportFile);
+TakeResult TakeToImport(const WindowContext& context, const fs::path& path, TakeAnswers& answers) {
+    if (editing::IsDocumentFile(path))
+        return Ended(context.Commands.Try([&](Editor& editor) { ImportFile(editor, path); }));
+    if (editing::IsIconFile(path)) {
+        const ChosenImages chosen = ChooseImages(context, path, {.TakesSeveral = true});
+        return chosen.End ? *chosen.End : TakeToImport(context, chosen.Pictures, path, answers);
+    }
+    editing::ReadChoices choices;
+    TakeResult end;
+    if (!AskSvgSide(context, path, answers, choices, end))
+        return end;
+    graphics::Bitmap picture;
+    Report read = context.Commands.Try(
+        [&](Editor& editor) { picture = ReadPictureToImport(editor, path, choices); });
+    if (read.Failed)
+        return Ended(std::move(read));
+    return TakeToImport(context, {picture}, path, answers);
+}
+
+TakeResult TakeToImport(const WindowContext& context, const std::vector<graphics::Bitmap>& pictures,
+                        const fs::path& source, TakeAnswers& answers) {
+    const Editor& editor = context.Commands.Editor();
+    const PageSize page{editor.Page().Width, editor.Page().Height};
+    const auto large = std::ranges::find_if(pictures, [&](const graphics::Bitmap& picture) {
+        return picture.Width() > page.Width || picture.Height() > page.Height;
+    });
+    const bool isAsked = editor.DocumentExists && large != pictures.end();
+    if (isAsked && !answers.FitsPage)
+        answers.FitsPage = context.User.AskFit({large->Width(), large->Height()}, page);
+    if (isAsked && !answers.FitsPage)
+        return {TakeEnd::Cancelled, {}};
+    const bool fits = isAsked && *answers.FitsPage;
+    return Ended(context.Commands.Try(
+        [&](Editor& changed) { ImportPictures(changed, pictures, source, fits); }));
 }
 
 }  // namespace orbelle::app

@@ -2,7 +2,9 @@
 #pragma once
 
 #include <filesystem>
+#include <optional>
 #include <string>
+#include <vector>
 
 #include "app/window_actions.h"
 
@@ -15,9 +17,23 @@ struct TakeResult {
     std::string Text;  // what is left to tell; empty: nothing
 };
 
-// Of an icon file the user chooses the image: to open all sizes as well, to import several, which
-// are one step. Whether the present document may be given up is to be known already.
-TakeResult TakeToOpen(const WindowContext& context, const std::filesystem::path& path);
-TakeResult TakeToImport(const WindowContext& context, const std::filesystem::path& path);
+// What the user has said about the files of one run, for those that follow.
+struct TakeAnswers {
+    std::optional<int> SvgSide;
+    std::optional<bool> FitsPage;
+};
+
+// The user is asked for the size of a drawing, and whether an imported picture larger than the page
+// is to fit it, where `answers` does not tell. Of an icon file the user chooses the image: to open
+// all sizes as well, to import several, which are one step. Whether the present document may be
+// given up is to be known already.
+TakeResult TakeToOpen(const WindowContext& context, const std::filesystem::path& path,
+                      TakeAnswers& answers);
+TakeResult TakeToImport(const WindowContext& context, const std::filesystem::path& path,
+                        TakeAnswers& answers);
+
+// Layers of pictures that have been read already, from a file if they have a source.
+TakeResult TakeToImport(const WindowContext& context, const std::vector<graphics::Bitmap>& pictures,
+                        const std::filesystem::path& source, TakeAnswers& answers);
 
 }  // namespace orbelle::app

@@ -67,6 +67,12 @@ public:
     // Which images of an icon file to take. No value: cancelled.
     virtual std::optional<IconChoice> ChooseIconImages(
         const std::vector<formats::IconEntryImage>& offered, const IconQuestion& question) = 0;
+    // The longer side, pixels, at which a drawing of that size of its own is read. No value:
+    // cancelled.
+    virtual std::optional<int> AskSvgSide(const PageSize& own) = 0;
+    // Whether pictures larger than the page, of which the first has that size, are shrunk until
+    // they fit. No value: cancelled.
+    virtual std::optional<bool> AskFit(const PageSize& picture, const PageSize& page) = 0;
     // Which recipe makes the picture of that size of the master; no value: cancelled.
     virtual std::optional<filters::SizeRecipe> ChooseRecipe(const graphics::Bitmap& master,
                                                             int size) = 0;

@@ -43,17 +43,34 @@ void Open(Workspace& workspace, const fs::path& path) {
     const std::optional<int> image = TakeIconImage(workspace, path);
     workspace.Run([&](Editor& editor) {
         if (image)
-            OpenFile(editor, path, *image);
+            OpenFile(editor, path, {.IconImage = *image, .SvgSide = workspace.SvgSide});
         else
             OpenIconFamily(editor, path);
     });
 }
 
-void Import(Workspace& workspace, const fs::path& path) {
+void ImportAs(Workspace& workspace, const fs::path& path, bool fitsPage) {
     const std::optional<int> image = TakeIconImage(workspace, path);
     if (!image)
         throw Failure("an import takes one image of an icon, not all");
-    workspace.Run([&](Editor& editor) { ImportFile(editor, path, *image); });
+    workspace.Run([&](Editor& editor) {
+        ImportFile(editor, path,
+                   {.IconImage = *image, .SvgSide = workspace.SvgSide, .FitsPage = fitsPage});
+    });
+}
+
+void Import(Workspace& workspace, const fs::path& path) {
+    ImportAs(workspace, path, false);
+}
+
+void ImportFit(Workspace& workspace, const fs::path& path) {
+    ImportAs(workspace, path, true);
+}
+
+Action ReadSvgSize(Words& words) {
+    return [side = words.Integer("N", 1, graphics::kMaxSvgSide)](Workspace& workspace) {
+        workspace.SvgSide = side;
+    };
 }
 
 Action ReadIconEntry(Words& words) {
@@ -114,6 +131,10 @@ constexpr Verb kVerbs[] = {
     {"open", "PATH", "a .volf document, or a picture that becomes the page", ReadPath<Open>},
     {"import", "PATH", "a picture as a new layer, or as the page when there is none",
      ReadPath<Import>},
+    {"import-fit", "PATH", "the same, shrunk until it fits the page where it is larger",
+     ReadPath<ImportFit>},
+    {"svg-size", "N", "the longer side (1 to 1024) of the SVG drawings read from here on; 512",
+     ReadSvgSize},
     {"icon-entry", "K|all",
      "the image (from 0) that the next open or import of an icon file takes; open takes all, too",
      ReadIconEntry},

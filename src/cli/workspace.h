@@ -8,6 +8,7 @@
 
 #include "editing/editor.h"
 #include "editing/run.h"
+#include "graphics/codecs/image_files.h"
 #include "graphics/errors.h"
 
 namespace orbelle::cli {
@@ -53,7 +54,8 @@ struct Workspace {
     double Zoom = 1;  // of the view, scene pixels per page pixel
     // Which image the next open or import of an icon file takes; nothing: all.
     std::optional<int> IconImage = 0;
-    std::ostream& Output;  // for what verbs print
+    int SvgSide = graphics::kDefaultSvgSide;  // of the drawings opened or imported
+    std::ostream& Output;                     // for what verbs print
 
 private:
     void Keep(const editing::Outcome& outcome);

@@ -12,6 +12,7 @@
 #include "editing/title.h"
 #include "editing/undo_step.h"
 #include "editing/view_commands.h"
+#include "filters/shrink_to_size.h"
 #include "formats/document_limits.h"
 #include "formats/icon_family.h"
 #include "formats/icon_reader.h"
@@ -143,11 +144,12 @@ void AddPictureLayer(Editor& editor, const graphics::Bitmap& picture) {
 }
 
 // The picture that the file holds, of at most so many pixels.
-graphics::Bitmap ReadPicture(const fs::path& path, FileKind kind, int iconImage,
+graphics::Bitmap ReadPicture(const fs::path& path, FileKind kind, const ReadChoices& choices,
                              std::int64_t maxPixels) {
     if (kind == FileKind::Picture)
-        return graphics::LoadImageFromFile(path, {maxPixels});
+        return graphics::LoadImageFromFile(path, {maxPixels}, choices.SvgSide);
     const std::vector<formats::IconEntryImage> images = formats::ReadIconFile(path);
+    const int iconImage = choices.IconImage;
     if (iconImage < 0 || iconImage >= static_cast<int>(images.size()))
         throw Error("there is no image " + std::to_string(iconImage) + "; the icon has " +
                     std::to_string(images.size()));
@@ -177,6 +179,19 @@ bool IsIconFile(const fs::path& path) {
     return IsOfKind(path, FileKind::Icon);
 }
 
+bool IsSvgFile(const fs::path& path) {
+    try {
+        return KindOf(path) == FileKind::Picture && graphics::IsSvg(graphics::FileSource(path));
+    } catch (const std::exception&) {
+        return false;
+    }
+}
+
+graphics::Bitmap ReadPictureToImport(const Editor& editor, const fs::path& path,
+                                     const ReadChoices& choices) {
+    return ReadPicture(path, KindOf(path), choices, RoomForImport(editor));
+}
+
 std::vector<formats::IconEntryImage> ReadIconImages(const fs::path& path) {
     std::vector<formats::IconEntryImage> images = formats::ReadIconFile(path);
     const std::string problem = images[0].Problem;
@@ -194,12 +209,12 @@ void NewDocument(Editor& editor, int pageWidth, int pageHeight) {
     InsertEmptyLayer(editor, static_cast<float>(pageWidth), static_cast<float>(pageHeight));
 }
 
-void OpenFile(Editor& editor, const fs::path& path, int iconImage) {
+void OpenFile(Editor& editor, const fs::path& path, const ReadChoices& choices) {
     const FileKind kind = KindOf(path);
     if (kind == FileKind::Document)
         OpenDocument(editor, path);
     else
-        OpenPicture(editor, ReadPicture(path, kind, iconImage, graphics::kMaxBitmapPixels), path);
+        OpenPicture(editor, ReadPicture(path, kind, choices, graphics::kMaxBitmapPixels), path);
 }
 
 void OpenIconFamily(Editor& editor, const fs::path& path) {
@@ -212,12 +227,13 @@ void OpenIconFamily(Editor& editor, const fs::path& path) {
         editor.Changed.Message = "left out: " + family.LeftOut;
 }
 
-void ImportFile(Editor& editor, const fs::path& path, int iconImage) {
+void ImportFile(Editor& editor, const fs::path& path, const ReadChoices& choices) {
     const FileKind kind = KindOf(path);
     if (kind == FileKind::Document)
         OpenDocument(editor, path);
     else
-        ImportPicture(editor, ReadPicture(path, kind, iconImage, RoomForImport(editor)), path);
+        ImportPicture(editor, ReadPicture(path, kind, choices, RoomForImport(editor)), path,
+                      choices.FitsPage);
 }
 
 void OpenPicture(Editor& editor, const graphics::Bitmap& picture, const fs::path& source) {
@@ -226,15 +242,13 @@ void OpenPicture(Editor& editor, const graphics::Bitmap& picture, const fs::path
     AddPictureLayer(editor, picture);
 }
 
-void ImportPicture(Editor& editor, const graphics::Bitmap& picture, const fs::path& source) {
-    if (!editor.DocumentExists)
-        return OpenPicture(editor, picture, source);
-    BeginUndoStep(editor, steps::Import);
-    AddPictureLayer(editor, picture);
+void ImportPicture(Editor& editor, const graphics::Bitmap& picture, const fs::path& source,
+                   bool fitsPage) {
+    ImportPictures(editor, {picture}, source, fitsPage);
 }
 
-void ImportPictures(Editor& editor, std::vector<graphics::Bitmap> pictures,
-                    const fs::path& source) {
+void ImportPictures(Editor& editor, std::vector<graphics::Bitmap> pictures, const fs::path& source,
+                    bool fitsPage) {
     if (!editor.DocumentExists) {
         const auto largest =
             std::ranges::max_element(pictures, {}, [](const graphics::Bitmap& picture) {
@@ -246,8 +260,10 @@ void ImportPictures(Editor& editor, std::vector<graphics::Bitmap> pictures,
     if (pictures.empty())
         return;
     BeginUndoStep(editor, steps::Import);
+    const document::Page& page = editor.Page();
     for (const graphics::Bitmap& picture : pictures)
-        AddPictureLayer(editor, picture);
+        AddPictureLayer(
+            editor, fitsPage ? filters::ShrinkIntoBox(picture, page.Width, page.Height) : picture);
 }
 
 void RestoreDocument(Editor& editor, const document::Document& document) {

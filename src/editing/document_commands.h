@@ -7,6 +7,7 @@
 
 #include "editing/editor.h"
 #include "formats/icon_reader.h"
+#include "graphics/codecs/image_files.h"
 
 namespace orbelle::editing {
 
@@ -16,12 +17,18 @@ inline constexpr char kPageSizeMessage[] = "Please input a integer from 1 to 512
 // Error with kPageSizeMessage.
 void NewDocument(Editor& editor, int pageWidth, int pageHeight);
 
+// What a file can be read in several ways by.
+struct ReadChoices {
+    int IconImage = 0;  // of an icon file: its place in the file, where bad images count
+    int SvgSide = graphics::kDefaultSvgSide;  // the longer side of a drawing, pixels
+    bool FitsPage = false;  // an imported picture larger than the page is shrunk until it fits
+};
+
 // A document, or a picture that becomes the page, takes the place of the present document; the
-// file's first bytes tell which. Of an icon file it is the image `iconImage`, its place in the
-// file, where bad images count. Throws Error when there is no such file or image, or it is bad. A
+// file's first bytes tell which. Throws Error when there is no such file or image, or it is bad. A
 // damaged document opens with the layers that could be read, as a changed one without a path, and
 // leaves word in Changes::Message.
-void OpenFile(Editor& editor, const std::filesystem::path& path, int iconImage = 0);
+void OpenFile(Editor& editor, const std::filesystem::path& path, const ReadChoices& choices = {});
 
 // All images of an icon file take the place of the present document as a family
 // (formats/icon_family.h), and others are left out with word in Changes::Message. Files that are no
@@ -30,22 +37,26 @@ void OpenIconFamily(Editor& editor, const std::filesystem::path& path);
 
 // A picture as a new layer above the selected one; with no document yet it makes the page. A
 // document is opened.
-void ImportFile(Editor& editor, const std::filesystem::path& path, int iconImage = 0);
+void ImportFile(Editor& editor, const std::filesystem::path& path, const ReadChoices& choices = {});
 
 // The same with a picture that has been read already, from a file if it has a `source`.
 void OpenPicture(Editor& editor, const graphics::Bitmap& picture,
                  const std::filesystem::path& source = {});
 void ImportPicture(Editor& editor, const graphics::Bitmap& picture,
-                   const std::filesystem::path& source = {});
+                   const std::filesystem::path& source = {}, bool fitsPage = false);
 
 // One layer for each picture, at least one, in this order from the bottom, in one undo step. With
 // no document yet the largest makes the page, and only the others, if there are any, are a step.
 void ImportPictures(Editor& editor, std::vector<graphics::Bitmap> pictures,
-                    const std::filesystem::path& source = {});
+                    const std::filesystem::path& source = {}, bool fitsPage = false);
 
 // A document that was kept safe takes the place of the present one. It counts as changed, and has
 // the path that it had.
 void RestoreDocument(Editor& editor, const document::Document& document);
+
+// The picture of a file that is no document, as large as the document has room for.
+graphics::Bitmap ReadPictureToImport(const Editor& editor, const std::filesystem::path& path,
+                                     const ReadChoices& choices);
 
 // The images of an icon file that can be read, in file order. Throws Error, with what is wrong with
 // the first, when there are none.
@@ -54,9 +65,10 @@ std::vector<formats::IconEntryImage> ReadIconImages(const std::filesystem::path&
 // Writes the document there; its path and the title follow. Throws Error when that fails.
 void SaveTo(Editor& editor, const std::filesystem::path& path);
 
-// What a file holds by its first bytes: a document, or several pictures to choose from. Neither
-// when it can't be read.
+// What a file holds by its first bytes: a document, several pictures to choose from, or a drawing.
+// None of these when it can't be read.
 bool IsDocumentFile(const std::filesystem::path& path);
 bool IsIconFile(const std::filesystem::path& path);
+bool IsSvgFile(const std::filesystem::path& path);
 
 }  // namespace orbelle::editing

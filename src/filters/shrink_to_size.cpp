@@ -1,5 +1,6 @@
 #include "filters/shrink_to_size.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "graphics/drawing_context.h"
@@ -18,6 +19,20 @@ Bitmap ShrinkToSize(const Bitmap& picture, int size) {
     const SizeF whole{std::nearbyint(fitted.Width), std::nearbyint(fitted.Height)};
     context.DrawImageRect(picture, CenterInBox(whole, box));
     return square;
+}
+
+Bitmap ShrinkIntoBox(const Bitmap& picture, int width, int height) {
+    if (picture.Width() <= width && picture.Height() <= height)
+        return picture;
+    const SizeF fitted =
+        FitIntoBox({static_cast<float>(picture.Width()), static_cast<float>(picture.Height())},
+                   {static_cast<float>(width), static_cast<float>(height)});
+    Bitmap shrunk(std::max(RoundToEven(fitted.Width), 1), std::max(RoundToEven(fitted.Height), 1));
+    DrawingContext context(shrunk);
+    context.SetInterpolationMode(InterpolationMode::HighQuality);
+    context.DrawImageRect(
+        picture, {0, 0, static_cast<float>(shrunk.Width()), static_cast<float>(shrunk.Height())});
+    return shrunk;
 }
 
 }  // namespace orbelle::filters

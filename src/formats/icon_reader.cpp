@@ -107,7 +107,9 @@ void ReadPng(const ByteSource& file, const DirectoryEntry& entry, graphics::Pixe
     }
     const std::uint64_t bytes = PngBytes(file, entry, work);
     work.Spend(bytes);
-    image.Image = graphics::DecodePng(graphics::PartOfSource(file, entry.Place, bytes), budget);
+    // Programs that show icons take these numbers as sRGB, whatever the PNG says.
+    image.Image = graphics::DecodePng(graphics::PartOfSource(file, entry.Place, bytes), budget,
+                                      graphics::ColorHandling::Keep);
     image.Format = IconEntryFormat::Png;
 }
 

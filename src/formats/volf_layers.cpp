@@ -77,7 +77,7 @@ void DecodePicture(Record& record) {
     try {
         graphics::PixelBudget budget{record.FilePixels};
         if (!record.IsDecoded)
-            layer.Image = DecodeImage(record.File, budget);
+            layer.Image = DecodeStoredImage(record.File, budget);
     } catch (const graphics::ImageError& error) {
         record.Problem = error.what();
     }
@@ -195,7 +195,7 @@ void LayerReader::TakePicture(Record& record) {
     graphics::PixelBudget budget{std::min(allowance_.Left(), graphics::kMaxBitmapPixels)};
     const std::int64_t before = budget.Left;
     try {
-        layer.Image = DecodeImage(record.File, budget);
+        layer.Image = DecodeStoredImage(record.File, budget);
     } catch (const graphics::ImageError& error) {
         record.Problem = error.what();
     }

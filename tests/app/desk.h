@@ -29,6 +29,9 @@ public:
     std::optional<int> GifThreshold;
     std::optional<IconChoice> IconImages;
     IconQuestion AskedOfIcon;
+    std::optional<int> SvgSide;
+    std::optional<bool> Fits = false;
+    PageSize OwnSize, LargeSize;  // of what was asked for
     std::optional<filters::SizeRecipe> Recipe;
     graphics::Bitmap Suggested;  // what recipes were asked for
     std::optional<graphics::Argb> Color;
@@ -93,6 +96,14 @@ public:
                                                const IconQuestion& question) override {
         AskedOfIcon = question;
         return Answer("image?", IconImages);
+    }
+    std::optional<int> AskSvgSide(const PageSize& own) override {
+        OwnSize = own;
+        return Answer("drawn?", SvgSide);
+    }
+    std::optional<bool> AskFit(const PageSize& picture, const PageSize&) override {
+        LargeSize = picture;
+        return Answer("fit?", Fits);
     }
     std::optional<filters::SizeRecipe> ChooseRecipe(const graphics::Bitmap& master, int) override {
         Suggested = master;

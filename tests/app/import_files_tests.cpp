@@ -76,6 +76,47 @@ TEST(ImportFilesTest, OfManyFilesOneSummaryTells) {
     EXPECT_EQ(asked.Message, "Cancelled: 1 of 3 files were imported.");
 }
 
+TEST(ImportFilesTest, OneAnswerIsForAllFilesOfARun) {
+    const orbelle::testing::TemporaryFolder folder;
+    const fs::path wide = folder / "wide.png", small = folder / "small.png",
+                   drawing = folder / "drawing.svg";
+    graphics::WriteFile(wide, graphics::EncodePng(FilledPicture(32, 16, 0xFFC02040)));
+    graphics::WriteFile(small, graphics::EncodePng(FilledPicture(8, 8, 0xFFC02040)));
+    const std::string_view svg = "<svg xmlns='http://www.w3.org/2000/svg' width='48' height='24'/>";
+    graphics::WriteFile(drawing, {reinterpret_cast<const std::uint8_t*>(svg.data()), svg.size()});
+    const std::vector<fs::path> files{small, wide, drawing, drawing, wide};
+    const struct {
+        const char* Name;
+        std::optional<int> Side;
+        std::optional<bool> Fits;
+        std::vector<int> Widths;  // of the layers
+        const char* Told;
+    } cases[] = {
+        {"fitted", 30, true, {8, 8, 8, 8, 8}, "fit? drawn?"},
+        {"as large as they are", 30, false, {8, 32, 30, 30, 32}, "fit? drawn?"},
+        {"cancelled", 30, std::nullopt, {8}, "fit? message"},
+        {"no size", std::nullopt, true, {8, 8}, "fit? drawn? message"},
+    };
+    for (const auto& [name, side, fits, widths, told] : cases) {
+        SCOPED_TRACE(name);
+        Desk desk;
+        desk.SvgSide = side;
+        desk.Fits = fits;
+        ImportFiles(desk.Context, files);
+        std::vector<int> found;
+        for (const document::IconLayer& layer : desk.State.Page().Layers)
+            found.push_back(layer.ImageWidth);
+        EXPECT_EQ(found, widths);
+        EXPECT_EQ(desk.AllTold(), told);
+        EXPECT_EQ(desk.LargeSize.Width, 32);
+    }
+    Desk opened;
+    opened.SvgSide = 16;
+    OpenFiles(opened.Context, {drawing});
+    EXPECT_EQ(opened.OwnSize.Height, 24);
+    EXPECT_EQ(opened.State.Page().Height, 8);
+}
+
 // What is given up is asked for, once.
 TEST(TakeDroppedTest, OpensWhereThereIsNothingOrItIsWanted) {
     const orbelle::testing::TemporaryFolder folder;
@@ -98,7 +139,7 @@ TEST(TakeDroppedTest, OpensWhereThereIsNothingOrItIsWanted) {
         const char* Told;
     } cases[] = {
         {"empty", {{{a, b}, {}}, {}}, false, kCancel, 3, 2, 1, ""},
-        {"empty, one missing", {{{none, b, a}, {}}, {}}, false, kCancel, 2, 2, 1, "message"},
+        {"empty, one missing", {{{none, b, a}, {}}, {}}, false, kCancel, 2, 2, 1, "fit? message"},
         {"empty, a picture", {{}, picture}, false, kCancel, 5, 1, 0, ""},
         {"layers", {{{a, b}, {}}, {}}, true, kCancel, 8, 4, 3, ""},
         {"a picture as layer", {{}, picture}, true, kCancel, 8, 3, 2, ""},

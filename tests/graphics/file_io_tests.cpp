@@ -280,9 +280,9 @@ TEST_F(FileIo, APictureIsToldByItsContentAndNamedWhenItFails) {
          {FileBytes{}, FileBytes{'B'}, FileBytes{0x89, 'P', 'N', 'G'}, FileBytes{0xFF, 0xD8},
           FileBytes{'G', 'I', 'F', '9', '9'}, FileBytes(100, 0)}) {
         WriteFile(path, other);
-        EXPECT_THAT(
-            [&] { LoadImageFromFile(path); },
-            ThrowsMessage<FileError>(path.string() + ": not a PNG, JPEG, GIF or BMP picture"));
+        EXPECT_THAT([&] { LoadImageFromFile(path); },
+                    ThrowsMessage<FileError>(path.string() +
+                                             ": not a PNG, JPEG, GIF, BMP, WebP or SVG picture"));
     }
 }
 

@@ -34,7 +34,6 @@ FileBytes MakePng(const PngPicture& picture) {
     png_set_write_fn(png, &file, append, nullptr);
     png_set_IHDR(png, info, picture.Width, picture.Height, picture.Depth, picture.ColorType,
                  picture.Interlaced ? PNG_INTERLACE_ADAM7 : PNG_INTERLACE_NONE, 0, 0);
-    png_set_gAMA(png, info, 1.0);  // readers that heed it would change the colours
     png_set_pHYs(png, info, 1000, 2000, PNG_RESOLUTION_METER);
     if (!picture.Palette.empty())
         png_set_PLTE(png, info, picture.Palette.data(), static_cast<int>(picture.Palette.size()));

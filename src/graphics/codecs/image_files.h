@@ -1,4 +1,4 @@
-// Picture files: PNG, JPEG, GIF and BMP in and out.
+// Picture files: PNG, JPEG, GIF and BMP in and out; WebP and SVG in.
 #pragma once
 
 #include <cstdint>
@@ -14,14 +14,36 @@
 
 namespace orbelle::graphics {
 
-// The picture in the file, told by its first bytes, not by its name. Straight alpha; gamma and
-// resolution are ignored. Of an animation the first frame. Throws FileError.
-Bitmap LoadImageFromFile(const std::filesystem::path& path, PixelBudget budget = {});
+// The longer side of a drawing, pixels.
+inline constexpr int kDefaultSvgSide = 512;
+inline constexpr int kMaxSvgSide = 1024;
+
+// The picture in the file, told by its first bytes, not by its name. Straight alpha; colours that
+// the file states otherwise become sRGB; resolution is ignored. Of an animation the first frame; a
+// drawing with a longer side of `svgSide` pixels. Throws FileError.
+Bitmap LoadImageFromFile(const std::filesystem::path& path, PixelBudget budget = {},
+                         int svgSide = kDefaultSvgSide);
 
 // The same from a source. Declared sizes are checked against the budget and against the data before
 // memory is taken. Throws ImageError.
-Bitmap DecodeImage(const ByteSource& file, PixelBudget& budget);
+Bitmap DecodeImage(const ByteSource& file, PixelBudget& budget, int svgSide = kDefaultSvgSide);
 Bitmap DecodeImage(std::span<const std::uint8_t> file);
+
+// A picture that is part of a document: PNG, JPEG, GIF or BMP. Its numbers are the pixels, whatever
+// it says of its colours, so that documents stay what they were. Throws ImageError.
+Bitmap DecodeStoredImage(const ByteSource& file, PixelBudget& budget);
+
+// The size that a drawing has by itself, pixels, rounded. Throws FileError.
+struct SvgSize {
+    int Width = 0;
+    int Height = 0;
+};
+SvgSize ReadSvgSize(const std::filesystem::path& path);
+SvgSize SizeOfSvg(const ByteSource& file);
+
+// Whether the source is a drawing: told by its first element, which begins within 4 KiB; packed by
+// gzip, too.
+bool IsSvg(const ByteSource& file);
 
 // Whether the source begins like one of the pictures above.
 bool IsPicture(const ByteSource& file);

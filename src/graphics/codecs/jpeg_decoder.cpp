@@ -3,10 +3,12 @@
 #include <csetjmp>
 #include <cstddef>
 #include <cstdio>
+#include <cstdlib>
 #include <cstring>
 #include <new>
 #include <vector>
 
+#include "graphics/codecs/color_conversion.h"
 #include "graphics/codecs/image_codecs.h"
 #include "graphics/codecs/jpeg_coefficients.h"
 #include "graphics/little_endian.h"
@@ -40,6 +42,9 @@ constexpr std::uint64_t kMaxHeaderBytes = std::uint64_t{32} << 20;
 // A Huffman code takes a bit at least, and no coded unit covers more than 32 x 32 pixels: 8 of them
 // to a byte.
 constexpr std::int64_t kMaxPixelsPerByte = 8192;
+
+constexpr int kExifMarker = JPEG_APP0 + 1;
+constexpr int kProfileMarker = JPEG_APP0 + 2;
 
 // The numbers of an EXIF block, in the byte order that it names.
 class ExifBlock {
@@ -117,7 +122,10 @@ public:
     explicit JpegReader(const ByteSource& file) : stream_(file), fileBytes_(file.Size()) {}
     JpegReader(const JpegReader&) = delete;
     JpegReader& operator=(const JpegReader&) = delete;
-    ~JpegReader() { jpeg_destroy_decompress(&jpeg_); }
+    ~JpegReader() {
+        jpeg_destroy_decompress(&jpeg_);
+        std::free(profile_);
+    }
 
     bool ReadHeader() {
         if (setjmp(jump_))
@@ -136,9 +144,12 @@ public:
         input_.resync_to_restart = jpeg_resync_to_restart;
         input_.term_source = [](j_decompress_ptr) {};
         jpeg_.src = &input_;
-        jpeg_save_markers(&jpeg_, JPEG_APP0 + 1, 0xFFFF);
+        for (const int marker : {kExifMarker, kProfileMarker})
+            jpeg_save_markers(&jpeg_, marker, 0xFFFF);
         jpeg_read_header(&jpeg_, TRUE);
-        jpeg_save_markers(&jpeg_, JPEG_APP0 + 1, 0);
+        for (const int marker : {kExifMarker, kProfileMarker})
+            jpeg_save_markers(&jpeg_, marker, 0);
+        jpeg_read_icc_profile(&jpeg_, &profile_, &profileBytes_);
         headerIsRead_ = true;
         return true;
     }
@@ -182,12 +193,22 @@ public:
         return 1;
     }
 
+    // Put together from its parts; empty when there is none.
+    std::span<const std::uint8_t> Profile() const { return {profile_, profileBytes_}; }
+
+    FileChannels Channels() const {
+        if (HasInks())
+            return FileChannels::Paper;
+        return jpeg_.jpeg_color_space == JCS_GRAYSCALE ? FileChannels::Gray : FileChannels::Rgb;
+    }
+
     // Fills Width() x Height() pixels: row by row without a band, else by way of the band, which
     // has room for kBandRows rows.
-    bool ReadPixels(Argb* pixels, Argb* band, const Placement& place) {
+    bool ReadPixels(Argb* pixels, Argb* band, const Placement& place,
+                    const ColorConversion& conversion) {
         if (setjmp(jump_))
             return false;
-        const bool inks = jpeg_.jpeg_color_space == JCS_CMYK || jpeg_.jpeg_color_space == JCS_YCCK;
+        const bool inks = HasInks();
         jpeg_.out_color_space = inks ? JCS_CMYK : JCS_EXT_BGRA;
         jpeg_start_decompress(&jpeg_);
         while (jpeg_.output_scanline < jpeg_.output_height) {
@@ -197,7 +218,10 @@ public:
             auto* bytes = reinterpret_cast<JSAMPROW>(row);
             jpeg_read_scanlines(&jpeg_, &bytes, 1);
             if (inks)
-                ConvertInks(row);
+                TurnToPaper(row);
+            if (inks && conversion.ChangesNothing())
+                MixPaper(row);
+            conversion.Convert(row, Width());
             if (band && (rowInBand == kBandRows - 1 || y == Height() - 1))
                 PlaceBand(band, Width(), static_cast<int>(rowInBand) + 1,
                           pixels + place.Start + (y - rowInBand) * place.StepDown, place);
@@ -266,12 +290,22 @@ private:
         std::longjmp(jump_, 1);
     }
 
+    bool HasInks() const {
+        return jpeg_.jpeg_color_space == JCS_CMYK || jpeg_.jpeg_color_space == JCS_YCCK;
+    }
+
+    // Files that name Adobe as their maker hold paper (255 - ink) instead of ink.
+    void TurnToPaper(Argb* row) const {
+        if (jpeg_.saw_Adobe_marker)
+            return;
+        for (std::int64_t x = 0; x < Width(); ++x)
+            row[x] = ~row[x];
+    }
+
     // Cyan, magenta, yellow and black bytes become opaque pixels in place.
-    void ConvertInks(Argb* row) const {
-        // Files that name Adobe as their maker hold paper (255 - ink) instead of ink.
-        const Argb flip = jpeg_.saw_Adobe_marker ? 0 : 0xFFFFFFFF;
+    void MixPaper(Argb* row) const {
         for (std::int64_t x = 0; x < Width(); ++x) {
-            const Argb paper = row[x] ^ flip;
+            const Argb paper = row[x];
             const unsigned black = paper >> 24;
             const auto mix = [black](unsigned c) { return (c * black + 127) / 255; };
             row[x] =
@@ -283,6 +317,8 @@ private:
     std::uint64_t fileBytes_;
     std::uint64_t headerBytes_ = 0;  // that were read so far
     bool headerIsRead_ = false;
+    JOCTET* profile_ = nullptr;
+    unsigned profileBytes_ = 0;
     jpeg_source_mgr input_ = {};
     jpeg_decompress_struct jpeg_ = {};
     jpeg_error_mgr errors_ = {};
@@ -294,7 +330,7 @@ private:
 
 }  // namespace
 
-Bitmap DecodeJpeg(const ByteSource& file, PixelBudget& budget) {
+Bitmap DecodeJpeg(const ByteSource& file, PixelBudget& budget, ColorHandling colors) {
     JpegReader reader(file);
     if (!reader.ReadHeader())
         reader.ThrowProblem();
@@ -310,8 +346,12 @@ Bitmap DecodeJpeg(const ByteSource& file, PixelBudget& budget) {
     std::vector<Argb> band;
     if (orientation != 1)
         band.resize(static_cast<std::size_t>(reader.Width()) * kBandRows);
+    ColorConversion conversion;
+    if (colors == ColorHandling::ToSrgb)
+        conversion = ColorConversion::OfProfile(reader.Profile(), reader.Channels())
+                         .value_or(ColorConversion());
     if (!reader.ReadPixels(image.MutablePixels(), band.empty() ? nullptr : band.data(),
-                           PlacementOf(orientation, width, height)))
+                           PlacementOf(orientation, width, height), conversion))
         reader.ThrowProblem();
     return image;
 }

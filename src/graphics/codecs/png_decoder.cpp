@@ -8,6 +8,7 @@
 #include <new>
 
 #include "graphics/codecs/image_codecs.h"
+#include "graphics/codecs/png_colors.h"
 
 // libpng leaves its calls by longjmp when something fails. Functions with a setjmp therefore hold
 // no object that would have to be destroyed; they answer false, and their callers throw.
@@ -63,7 +64,7 @@ public:
     bool ReadHeader() {
         if (setjmp(png_jmpbuf(png_)))
             return false;
-        // Of the optional chunks only transparency matters; skipping the others bounds memory.
+        // Of the optional chunks only transparency matters here; skipping others bounds memory.
         // Sizes are ours to judge.
         png_set_keep_unknown_chunks(png_, PNG_HANDLE_CHUNK_NEVER, nullptr, -1);
         png_set_user_limits(png_, PNG_UINT_31_MAX, PNG_UINT_31_MAX);
@@ -73,6 +74,10 @@ public:
 
     std::int64_t Width() const { return png_get_image_width(png_, info_); }
     std::int64_t Height() const { return png_get_image_height(png_, info_); }
+    FileChannels Channels() const {
+        const bool isColored = png_get_color_type(png_, info_) & PNG_COLOR_MASK_COLOR;
+        return isColored ? FileChannels::Rgb : FileChannels::Gray;
+    }
     std::int64_t BytesInFile() const { return Height() * png_get_rowbytes(png_, info_); }
 
     // Fills Width() x Height() pixels.
@@ -114,16 +119,19 @@ private:
 
 }  // namespace
 
-Bitmap DecodePng(const ByteSource& file, PixelBudget& budget) {
+Bitmap DecodePng(const ByteSource& file, PixelBudget& budget, ColorHandling colors) {
     PngReader reader(file);
     if (!reader.ReadHeader())
         reader.ThrowProblem();
     budget.Take(reader.Width(), reader.Height());
     if (reader.BytesInFile() / kMaxDeflateRatio > static_cast<std::int64_t>(file.Size()))
         ThrowDamaged("PNG", "too little data for its size");
+    const FileChannels channels = reader.Channels();
     Bitmap image(static_cast<int>(reader.Width()), static_cast<int>(reader.Height()));
     if (!reader.ReadPixels(image.MutablePixels()))
         reader.ThrowProblem();
+    if (colors == ColorHandling::ToSrgb)
+        PngColors(file, channels).Convert(image.MutablePixels(), reader.Width() * reader.Height());
     return image;
 }
 

@@ -23,6 +23,11 @@ protected:
         Write("large.png", FilledPicture(600, 400, kBlue));
         const std::vector<graphics::Bitmap> images{FilledPicture(16, 16, kBlue),
                                                    FilledPicture(40, 6, kBlue)};
+        const std::string_view drawing =
+            "<svg xmlns='http://www.w3.org/2000/svg' width='8' height='4'>"
+            "<rect width='8' height='4' fill='#204060'/></svg>";
+        graphics::WriteFile(
+            "d.svg", {reinterpret_cast<const std::uint8_t*>(drawing.data()), drawing.size()});
         graphics::WriteFile("a.ICO", formats::EncodeIcon(images, formats::IconFormat::Bmp));
         graphics::WriteFile("bad.volf", std::vector<std::uint8_t>(100, 'x'));
         WriteDocument("none.volf", 9, 7, {});
@@ -61,6 +66,17 @@ TEST_F(DocumentCommands, WhatEachMakes) {
         {"a new document has no path", "open a.png save s.volf new 3 3", "path "},
         {"an import of a document opens it", "open a.png save s.volf new 3 3 import s.volf",
          "page/width 12, path s.volf, undo 0"},
+        {"a drawing", "open d.svg", "page/width 512, page/height 256, page@0,0 FF204060"},
+        {"a drawing of a size", "svg-size 20 open d.svg import d.svg",
+         "page/width 20, page/height 10, widths 2020, undo 1, page@19,9 FF204060"},
+        {"of another", "svg-size 20 open d.svg svg-size 6 import-fit d.svg",
+         "1/rect 7 3 6 3, undo 1"},
+        {"fitted", "new 20 20 import-fit b.png",
+         "widths 2020, 1/rect 0 8 20 4, 1/base_rect 0 8 20 4, 1/size 20 4, undo 1"},
+        {"fitted upright", "new 100 20 import-fit large.png",
+         "1/rect 35 0 30 20, page@35,19 FF204060"},
+        {"never enlarged", "new 20 20 import-fit a.png", "1/rect 4 5 12 10"},
+        {"a fitted one makes the page", "import-fit large.png", "page/width 600, undo 0"},
         {"a document without layers", "open none.volf", "widths , selected -1, page/width 9"},
         {"a bad document first", "open bad.volf", "error open bad.volf: Invalid File"},
     });
@@ -144,7 +160,7 @@ TEST_F(DocumentCommands, TheFirstBytesTellWhatAFileIs) {
         copy(from, to);
     graphics::WriteFile("pointer.ico", std::vector<std::uint8_t>{0, 0, 3, 0, 1, 0, 0, 0, 0, 0});
     graphics::WriteFile("text.ico", std::vector<std::uint8_t>(100, 'x'));
-    const std::string none = ": not a PNG; JPEG; GIF or BMP picture";
+    const std::string none = ": not a PNG; JPEG; GIF; BMP; WebP or SVG picture";
     Check({
         {"a document", "open document.png", "widths 5, page/width 9, path document.png"},
         {"as an icon", "open document.ico", "widths 5, path document.ico"},

@@ -1,0 +1,13 @@
+// What the chunks of a PNG file say of its colours.
+#pragma once
+
+#include "graphics/byte_source.h"
+#include "graphics/codecs/color_conversion.h"
+
+namespace orbelle::graphics {
+
+// By the first that is whole of iCCP, sRGB, and gAMA with cHRM; chunks behind the first pixels
+// don't count. A file without any, or one that states sRGB, is left as it is.
+ColorConversion PngColors(const ByteSource& file, FileChannels channels);
+
+}  // namespace orbelle::graphics
