@@ -11,14 +11,15 @@ namespace fs = std::filesystem;
 using editing::Editor;
 
 using TakeFile = void (*)(Editor&, const fs::path&, int iconImage);
-using TakePictures = void (*)(Editor&, std::vector<graphics::Bitmap>, const fs::path& source);
+using TakeImages = void (*)(Editor&, const std::vector<formats::IconEntryImage>&,
+                            const fs::path& source);
 
 TakeResult Ended(Report report) {
     return {report.Failed ? TakeEnd::Failed : TakeEnd::Done, std::move(report.Text)};
 }
 
 TakeResult TakeIconImages(const WindowContext& context, const fs::path& path,
-                          const IconQuestion& question, TakePictures takePictures) {
+                          const IconQuestion& question, TakeImages takeImages) {
     std::vector<formats::IconEntryImage> offered;
     Report read = context.Commands.Try([&](Editor&) { offered = editing::ReadIconImages(path); });
     if (read.Failed)
@@ -28,15 +29,23 @@ TakeResult TakeIconImages(const WindowContext& context, const fs::path& path,
         return {TakeEnd::Cancelled, {}};
     if (choice->AllSizes)
         return Ended(context.Commands.Try([&](Editor& editor) { OpenIconFamily(editor, path); }));
-    std::vector<graphics::Bitmap> pictures;
+    std::vector<formats::IconEntryImage> chosen;
     for (const int image : choice->Images)
-        pictures.push_back(offered[static_cast<std::size_t>(image)].Image);
-    return Ended(
-        context.Commands.Try([&](Editor& editor) { takePictures(editor, pictures, path); }));
+        chosen.push_back(offered[static_cast<std::size_t>(image)]);
+    return Ended(context.Commands.Try([&](Editor& editor) { takeImages(editor, chosen, path); }));
 }
 
-void OpenFirst(Editor& editor, std::vector<graphics::Bitmap> pictures, const fs::path& source) {
-    OpenPicture(editor, pictures[0], source);
+void OpenFirst(Editor& editor, const std::vector<formats::IconEntryImage>& images,
+               const fs::path& source) {
+    OpenIconImage(editor, images[0], source);
+}
+
+void ImportAll(Editor& editor, const std::vector<formats::IconEntryImage>& images,
+               const fs::path& source) {
+    std::vector<graphics::Bitmap> pictures;
+    for (const formats::IconEntryImage& image : images)
+        pictures.push_back(image.Image);
+    ImportPictures(editor, std::move(pictures), source);
 }
 
 TakeResult TakeOther(const WindowContext& context, const fs::path& path, TakeFile takeFile) {
@@ -56,7 +65,7 @@ TakeResult TakeToOpen(const WindowContext& context, const fs::path& path) {
 
 TakeResult TakeToImport(const WindowContext& context, const fs::path& path) {
     if (editing::IsIconFile(path))
-        return TakeIconImages(context, path, {.TakesSeveral = true}, editing::ImportPictures);
+        return TakeIconImages(context, path, {.TakesSeveral = true}, ImportAll);
     return TakeOther(context, path, editing::ImportFile);
 }
 

@@ -56,18 +56,17 @@ Action ReadCombine(Words& words) {
     };
 }
 
-void SetIconSizes(Workspace& workspace, std::vector<int> sizes) {
-    workspace.Editor.ExportSettings.IconSizes = std::move(sizes);
-}
-
 Action ReadIconSizes(Words& words) {
-    if (words.IsAtEnd() || words.IsNumberNext())
-        return [sizes = words.Integers("N", 1, formats::kMaxIconSide, kMaxIconSizes)](
-                   Workspace& workspace) { SetIconSizes(workspace, sizes); };
-    const IconSizeList& list = words.Entry("N", kIconSizeLists);
-    return [&list](Workspace& workspace) {
-        SetIconSizes(workspace, {list.Sizes.begin(), list.Sizes.end()});
-    };
+    const auto* list =
+        std::ranges::find(kIconSizeLists, words.IsAtEnd() ? "" : words.Next(), &IconSizeList::Name);
+    std::vector<int> sizes;
+    if (list == std::end(kIconSizeLists)) {
+        sizes = words.Integers("N", 1, formats::kMaxIconSide, kMaxIconSizes);
+    } else {
+        words.Text("N");
+        sizes.assign(list->Sizes.begin(), list->Sizes.end());
+    }
+    return [=](Workspace& workspace) { workspace.Editor.ExportSettings.IconSizes = sizes; };
 }
 
 Action ReadIconFormat(Words& words) {

@@ -11,8 +11,8 @@ namespace {
 constexpr std::size_t kHelpColumn = 36;
 
 std::array<std::span<const Verb>, 8> Topics() {
-    return {FileVerbs(), ExportVerbs(), PageVerbs(),    LayerVerbs(), StackVerbs(),
-            ToolVerbs(), PointerVerbs(), ReportVerbs()};
+    return {FileVerbs(),  ExportVerbs(), PageVerbs(),    LayerVerbs(),
+            StackVerbs(), ToolVerbs(),   PointerVerbs(), ReportVerbs()};
 }
 
 std::string Describe(const Call& call, std::string problem) {

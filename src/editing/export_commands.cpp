@@ -82,8 +82,7 @@ void ExportSets(Editor& editor, const std::filesystem::path& folder,
 }
 
 std::string FileNameOf(const document::Document& document) {
-    const std::filesystem::path& origin =
-        document.Path.empty() ? document.Source : document.Path;
+    const std::filesystem::path& origin = document.Path.empty() ? document.Source : document.Path;
     std::string name = origin.stem().string();
     return name.empty() ? kUnnamed : name;
 }

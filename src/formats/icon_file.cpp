@@ -100,10 +100,8 @@ Bytes EncodeIcon(std::span<const Bitmap> pictures, IconFormat format, std::span<
         Append<std::uint8_t>(icon, 0);
         // Of a pointer where it points stands here.
         const bool isIcon = hotspots.empty();
-        Append<std::uint16_t>(icon,
-                              isIcon ? kPlanes : static_cast<std::uint16_t>(hotspots[i].X));
-        Append<std::uint16_t>(icon,
-                              isIcon ? kBitCount : static_cast<std::uint16_t>(hotspots[i].Y));
+        Append<std::uint16_t>(icon, isIcon ? kPlanes : static_cast<std::uint16_t>(hotspots[i].X));
+        Append<std::uint16_t>(icon, isIcon ? kBitCount : static_cast<std::uint16_t>(hotspots[i].Y));
         Append<std::uint32_t>(icon, static_cast<std::uint32_t>(encoded.size()));
         Append<std::uint32_t>(icon, static_cast<std::uint32_t>(dataStart + data.size()));
         data.insert(data.end(), encoded.begin(), encoded.end());

@@ -50,8 +50,8 @@ std::vector<SetFile> LinuxFiles(const std::string& name) {
     std::vector<SetFile> files;
     for (const int size : kThemeSizes) {
         const std::string side = std::to_string(size);
-        files.push_back({"linux/hicolor/" + side + 'x' + side + "/apps/" + name + ".png",
-                         Whole(size)});
+        files.push_back(
+            {"linux/hicolor/" + side + 'x' + side + "/apps/" + name + ".png", Whole(size)});
     }
     return files;
 }
@@ -73,9 +73,8 @@ std::vector<SetFile> AndroidFiles(Argb background) {
     for (const Density& density : kDensities) {
         const std::string folder = std::string("android/mipmap-") + density.Name + "dpi/";
         files.push_back({folder + "ic_launcher.png", Whole(density.Launcher)});
-        files.push_back(
-            {folder + "ic_launcher_foreground.png",
-             SetPicture{density.Foreground, density.ForegroundIcon, Ground::None}});
+        files.push_back({folder + "ic_launcher_foreground.png",
+                         SetPicture{density.Foreground, density.ForegroundIcon, Ground::None}});
     }
     files.push_back({"android/mipmap-anydpi-v26/ic_launcher.xml", AdaptiveIcon()});
     files.push_back({"android/values/ic_launcher_background.xml",
@@ -214,8 +213,7 @@ void WriteSet(const fs::path& folder, const RenderedSet& set) {
     for (const RenderedFile& file : set.Files)
         paths.push_back(folder / file.Path);
     graphics::StagedFiles staged(paths);
-    ForEachInParallel(paths.size(),
-                      [&](std::size_t i) { staged.Stage(i, set.Files[i].Bytes); });
+    ForEachInParallel(paths.size(), [&](std::size_t i) { staged.Stage(i, set.Files[i].Bytes); });
     staged.Commit();
 }
 

@@ -82,6 +82,8 @@ void StagedFiles::Stage(std::size_t index, std::span<const std::uint8_t> bytes) 
 }
 
 void StagedFiles::PutInPlace(File& file) {
+    if (fs::is_directory(file.Target))
+        throw std::system_error(std::make_error_code(std::errc::is_a_directory));
     if (fs::exists(file.Target)) {
         const fs::path old = detail::TemporaryNameIn(FolderOf(file.Target));
         std::error_code hasNoLinks;
