@@ -85,12 +85,11 @@ void StagedFiles::PutInPlace(File& file) {
     if (fs::is_directory(file.Target))
         throw std::system_error(std::make_error_code(std::errc::is_a_directory));
     if (fs::exists(file.Target)) {
-        const fs::path old = detail::TemporaryNameIn(FolderOf(file.Target));
+        file.Old = detail::TemporaryNameIn(FolderOf(file.Target));
         std::error_code hasNoLinks;
-        fs::create_hard_link(file.Target, old, hasNoLinks);
+        fs::create_hard_link(file.Target, file.Old, hasNoLinks);
         if (hasNoLinks)
-            fs::rename(file.Target, old);
-        file.Old = old;
+            fs::rename(file.Target, file.Old);
     }
     fs::rename(file.New->Path(), file.Target);
     file.New->Finish();
@@ -109,6 +108,10 @@ void StagedFiles::PutBack(File& file) noexcept {
 }
 
 void StagedFiles::Commit() {
+    // Nothing may fail once the files have their names.
+    std::set<fs::path> folders;
+    for (const File& file : files_)
+        folders.insert(FolderOf(file.Target));
     const HeldSignals held;
     try {
         for (File& file : files_)
@@ -124,9 +127,6 @@ void StagedFiles::Commit() {
         if (!file.Old.empty())
             fs::remove(file.Old, ignored);
     }
-    std::set<fs::path> folders;
-    for (const File& file : files_)
-        folders.insert(FolderOf(file.Target));
     for (const fs::path& folder : folders)
         detail::FlushFolder(folder);
 }
