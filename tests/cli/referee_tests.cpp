@@ -29,7 +29,7 @@ TEST_F(RefereeTest, Icns) {
         EXPECT_THAT(listed.Output, HasSubstr(std::string("'") + type + "'"));
     EXPECT_THAT(listed.Output, HasSubstr("11 elements total"));
     // It decodes the large ones.
-    EXPECT_EQ(Shell("icns2png -x -s 512 'out/macos/my icon.icns' >/dev/null 2>&1").Status, 0);
+    EXPECT_EQ(Shell("icns2png -x 'out/macos/my icon.icns' >/dev/null 2>&1").Status, 0);
     EXPECT_EQ(Run("open 'my icon.png' style crystal export-size 512 export 512.png"), kSuccess);
     EXPECT_TRUE(testing::SamePixels(Picture("my icon_512x512x32.png"), Picture("512.png")));
 }
