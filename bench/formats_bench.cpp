@@ -4,7 +4,9 @@
 #include <filesystem>
 
 #include "filters/shrink_to_size.h"
+#include "formats/export_icon.h"
 #include "formats/export_image.h"
+#include "formats/icon_sets.h"
 #include "formats/volf_reader.h"
 #include "formats/volf_store.h"
 
@@ -85,6 +87,22 @@ void ExportIcon(benchmark::State& state) {
     fs::remove_all(folder);
 }
 BENCHMARK(ExportIcon)->Unit(benchmark::kMillisecond);
+
+// All six, with the files, fast (0) or small (1).
+void ExportSets(benchmark::State& state) {
+    const fs::path folder = fs::temp_directory_path() / "orbelle-bench";
+    const formats::SetSource source{{MakeIconPicture(512)}, 0, "icon"};
+    using enum formats::IconSet;
+    constexpr formats::IconSet kAll[] = {Windows, MacOs, Linux, Web, Android, Ios};
+    formats::ExportSettings settings;
+    settings.Packing = state.range(0) ? graphics::PngPacking::Small : graphics::PngPacking::Fast;
+    for (auto _ : state) {
+        for (const formats::RenderedSet& set : formats::RenderSets(source, kAll, settings))
+            formats::WriteSet(folder, set);
+    }
+    fs::remove_all(folder);
+}
+BENCHMARK(ExportSets)->Arg(0)->Arg(1)->UseRealTime()->Unit(benchmark::kMillisecond);
 
 }  // namespace
 }  // namespace orbelle

@@ -11,14 +11,14 @@ packages=(
 )
 case ${1:-} in
     programs) ;;
-    tests | ci) packages+=(libgtest-dev libgmock-dev libbenchmark-dev xvfb xdotool) ;;
+    tests | ci) packages+=(libgtest-dev libgmock-dev libbenchmark-dev xvfb xdotool icnsutils icoutils python3) ;;
     *)
         echo "usage: install-dependencies.sh programs|tests|ci" >&2
         exit 2
         ;;
 esac
 if [[ $1 == ci ]]; then
-    packages+=(git python3 clang clang-format clang-tidy dpkg-dev file lintian)
+    packages+=(git clang clang-format clang-tidy dpkg-dev file lintian)
 fi
 
 if ! command -v dpkg-query >/dev/null; then

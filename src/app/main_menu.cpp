@@ -55,14 +55,14 @@ Action Style(editing::Command command) {
 }
 
 std::vector<Entry> ExportEntries() {
-    static constexpr const char* kNames[] = {"ExportIco", "ExportPng", "ExportGif", "ExportJpeg",
-                                             "ExportBmp"};
+    static constexpr const char* kNames[] = {"ExportIco", "ExportIcns", "ExportCur", "ExportPng",
+                                             "ExportGif", "ExportJpeg", "ExportBmp"};
     static_assert(std::size(kNames) == std::size(kExportEntries));
     std::vector<Entry> entries;
     for (const ExportEntry& format : kExportEntries) {
         entries.push_back(
             {kNames[entries.size()],
-             QString("&") + format.Caption,
+             QString(format.Caption).insert(format.Mnemonic, '&'),
              {},
              [&format](const WindowContext& context) { AskExport(context, format); }});
     }

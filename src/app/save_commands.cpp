@@ -2,11 +2,13 @@
 
 #include <algorithm>
 #include <cctype>
+#include <functional>
 
 #include "app/recent_files.h"
 #include "app/written_text.h"
 #include "editing/document_commands.h"
 #include "editing/export_commands.h"
+#include "formats/icns_file.h"
 
 namespace orbelle::app {
 
@@ -72,13 +74,30 @@ bool Write(const WindowContext& context, const fs::path& path) {
     return true;
 }
 
+// Each once, largest first.
+std::vector<int> IcnsSides() {
+    std::vector<int> sides;
+    for (const formats::IcnsType& type : formats::kIcnsTypes)
+        sides.push_back(type.Side);
+    std::ranges::sort(sides, std::greater());
+    const auto rest = std::ranges::unique(sides);
+    sides.erase(rest.begin(), rest.end());
+    return sides;
+}
+
 std::string TextOfExport(const Editor& editor, const fs::path& path, const ExportEntry& entry) {
     const int width = editor.Page().Width, height = editor.Page().Height;
     const std::string_view caption = entry.Caption;
-    if (entry.Format != formats::ExportFormat::Ico)
-        return ExportedText(path, SizeOf(path), caption.substr(0, caption.find(' ')), width,
-                            height);
-    return ExportedIconText(path, SizeOf(path), IconSizesOf(editor));
+    const std::string_view kind = caption.substr(0, caption.find(' '));
+    switch (entry.Format) {
+        case formats::ExportFormat::Ico:
+        case formats::ExportFormat::Cur:
+            return ExportedIconText(path, SizeOf(path), kind, IconSizesOf(editor));
+        case formats::ExportFormat::Icns:
+            return ExportedIconText(path, SizeOf(path), kind, IcnsSides());
+        default:
+            return ExportedText(path, SizeOf(path), kind, width, height);
+    }
 }
 
 // "*.a;*.b" of a filter, and ".a" of these.

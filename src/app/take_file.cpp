@@ -21,7 +21,7 @@ TakeResult Ended(Report report) {
 // What the user chooses of an icon file; without a choice the taking has ended.
 struct ChosenImages {
     std::optional<TakeResult> End;
-    std::vector<graphics::Bitmap> Pictures;  // none: all sizes
+    std::vector<formats::IconEntryImage> Images;  // none: all sizes
 };
 
 ChosenImages ChooseImages(const WindowContext& context, const fs::path& path,
@@ -37,7 +37,7 @@ ChosenImages ChooseImages(const WindowContext& context, const fs::path& path,
     if (choice->AllSizes)
         return chosen;
     for (const int image : choice->Images)
-        chosen.Pictures.push_back(offered[static_cast<std::size_t>(image)].Image);
+        chosen.Images.push_back(offered[static_cast<std::size_t>(image)]);
     return chosen;
 }
 
@@ -46,10 +46,10 @@ TakeResult OpenIcon(const WindowContext& context, const fs::path& path) {
     if (chosen.End)
         return *chosen.End;
     return Ended(context.Commands.Try([&](Editor& editor) {
-        if (chosen.Pictures.empty())
+        if (chosen.Images.empty())
             OpenIconFamily(editor, path);
         else
-            OpenPicture(editor, chosen.Pictures[0], path);
+            OpenIconImage(editor, chosen.Images[0], path);
     }));
 }
 
@@ -98,7 +98,12 @@ TakeResult TakeToImport(const WindowContext& context, const fs::path& path, Take
         return Ended(context.Commands.Try([&](Editor& editor) { ImportFile(editor, path); }));
     if (editing::IsIconFile(path)) {
         const ChosenImages chosen = ChooseImages(context, path, {.TakesSeveral = true});
-        return chosen.End ? *chosen.End : TakeToImport(context, chosen.Pictures, path, answers);
+        if (chosen.End)
+            return *chosen.End;
+        std::vector<graphics::Bitmap> pictures;
+        for (const formats::IconEntryImage& image : chosen.Images)
+            pictures.push_back(image.Image);
+        return TakeToImport(context, pictures, path, answers);
     }
     editing::ReadChoices choices;
     TakeResult end;

@@ -46,7 +46,7 @@ std::string ExportedText(const fs::path& path, std::optional<std::uintmax_t> byt
 }
 
 std::string ExportedIconText(const fs::path& path, std::optional<std::uintmax_t> bytes,
-                             const std::vector<int>& sides) {
+                             std::string_view format, const std::vector<int>& sides) {
     if (sides.empty())
         return "Nothing was exported: the page is below 16 px, the least size of an icon";
     std::string list;
@@ -55,7 +55,7 @@ std::string ExportedIconText(const fs::path& path, std::optional<std::uintmax_t>
             list += i + 1 == sides.size() ? " and " : ", ";
         list += std::to_string(sides[i]);
     }
-    return Told("Exported", path, ", ICO of " + list + " px", bytes);
+    return Told("Exported", path, ", " + std::string(format) + " of " + list + " px", bytes);
 }
 
 }  // namespace orbelle::app

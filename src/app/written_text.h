@@ -22,6 +22,6 @@ std::string ExportedText(const std::filesystem::path& path, std::optional<std::u
 
 // The same of an icon's pictures: "ICO of 32, 24 and 16 px". Without any there is no file.
 std::string ExportedIconText(const std::filesystem::path& path, std::optional<std::uintmax_t> bytes,
-                             const std::vector<int>& sides);
+                             std::string_view format, const std::vector<int>& sides);
 
 }  // namespace orbelle::app

@@ -10,9 +10,9 @@ namespace {
 
 constexpr std::size_t kHelpColumn = 36;
 
-std::array<std::span<const Verb>, 7> Topics() {
-    return {FileVerbs(), PageVerbs(),    LayerVerbs(), StackVerbs(),
-            ToolVerbs(), PointerVerbs(), ReportVerbs()};
+std::array<std::span<const Verb>, 8> Topics() {
+    return {FileVerbs(),  ExportVerbs(), PageVerbs(),    LayerVerbs(),
+            StackVerbs(), ToolVerbs(),   PointerVerbs(), ReportVerbs()};
 }
 
 std::string Describe(const Call& call, std::string problem) {

@@ -38,6 +38,7 @@ Action ReadPath(Words& arguments) {
 
 // By topic, in the order of the help.
 std::span<const Verb> FileVerbs();
+std::span<const Verb> ExportVerbs();
 std::span<const Verb> PageVerbs();
 std::span<const Verb> LayerVerbs();
 std::span<const Verb> ToolVerbs();

@@ -50,6 +50,12 @@ void RequireDocument(const Workspace& workspace) {
         throw Failure("there is no document");
 }
 
+void RequireLayers(const Workspace& workspace, editing::CommandId command) {
+    RequireDocument(workspace);
+    if (!workspace.Editor.States.IsEnabled(command))
+        throw Failure("the document has no layer");
+}
+
 void RequireSelectedLayer(const Workspace& workspace) {
     RequireDocument(workspace);
     if (!workspace.Editor.Page().HasSelection())

@@ -82,6 +82,8 @@ void RequirePrinted(std::ostream& output);
 
 // These throw Failure when there is no such thing.
 void RequireDocument(const Workspace& workspace);
+// Also while the File menu's entry would be disabled, for want of a layer.
+void RequireLayers(const Workspace& workspace, editing::CommandId command);
 void RequireSelectedLayer(const Workspace& workspace);
 const document::IconLayer& RequireLayer(const Workspace& workspace, int index);
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cctype>
+#include <optional>
 #include <string>
 #include <utility>
 
@@ -143,11 +144,16 @@ void AddPictureLayer(Editor& editor, const graphics::Bitmap& picture) {
     editor.Changed.Tip = {tips::Imported, true};
 }
 
+struct ReadResult {
+    graphics::Bitmap Picture;
+    std::optional<formats::Hotspot> Hotspot = {};
+};
+
 // The picture that the file holds, of at most so many pixels.
-graphics::Bitmap ReadPicture(const fs::path& path, FileKind kind, const ReadChoices& choices,
-                             std::int64_t maxPixels) {
+ReadResult ReadPicture(const fs::path& path, FileKind kind, const ReadChoices& choices,
+                       std::int64_t maxPixels) {
     if (kind == FileKind::Picture)
-        return graphics::LoadImageFromFile(path, {maxPixels}, choices.SvgSide);
+        return {graphics::LoadImageFromFile(path, {maxPixels}, choices.SvgSide)};
     const std::vector<formats::IconEntryImage> images = formats::ReadIconFile(path);
     const int iconImage = choices.IconImage;
     if (iconImage < 0 || iconImage >= static_cast<int>(images.size()))
@@ -157,7 +163,18 @@ graphics::Bitmap ReadPicture(const fs::path& path, FileKind kind, const ReadChoi
     if (image.IsBad())
         throw graphics::FileError(path,
                                   "image " + std::to_string(iconImage) + ": " + image.Problem);
-    return image.Image;
+    return {image.Image, image.Hotspot};
+}
+
+// What a pointer is opened with is what it is written with.
+void TakeHotspot(Editor& editor, const std::optional<formats::Hotspot>& hotspot) {
+    if (hotspot)
+        editor.ExportSettings.PointerHotspot = *hotspot;
+}
+
+void OpenPicture(Editor& editor, const ReadResult& read, const fs::path& source) {
+    OpenPicture(editor, read.Picture, source);
+    TakeHotspot(editor, read.Hotspot);
 }
 
 // What an import may add. One that makes the page counts twice, and two of the largest fit.
@@ -189,7 +206,7 @@ bool IsSvgFile(const fs::path& path) {
 
 graphics::Bitmap ReadPictureToImport(const Editor& editor, const fs::path& path,
                                      const ReadChoices& choices) {
-    return ReadPicture(path, KindOf(path), choices, RoomForImport(editor));
+    return ReadPicture(path, KindOf(path), choices, RoomForImport(editor)).Picture;
 }
 
 std::vector<formats::IconEntryImage> ReadIconImages(const fs::path& path) {
@@ -222,6 +239,7 @@ void OpenIconFamily(Editor& editor, const fs::path& path) {
         return OpenFile(editor, path);
     formats::IconFamily family = formats::LoadIconFamily(path);
     ShowDocument(editor, std::move(family.Document));
+    TakeHotspot(editor, family.Hotspot);
     editor.Changed.Tip = {tips::NewOrOpened};
     if (!family.LeftOut.empty())
         editor.Changed.Message = "left out: " + family.LeftOut;
@@ -230,10 +248,16 @@ void OpenIconFamily(Editor& editor, const fs::path& path) {
 void ImportFile(Editor& editor, const fs::path& path, const ReadChoices& choices) {
     const FileKind kind = KindOf(path);
     if (kind == FileKind::Document)
-        OpenDocument(editor, path);
+        return OpenDocument(editor, path);
+    const ReadResult read = ReadPicture(path, kind, choices, RoomForImport(editor));
+    if (editor.DocumentExists)
+        ImportPicture(editor, read.Picture, path, choices.FitsPage);
     else
-        ImportPicture(editor, ReadPicture(path, kind, choices, RoomForImport(editor)), path,
-                      choices.FitsPage);
+        OpenPicture(editor, read, path);
+}
+
+void OpenIconImage(Editor& editor, const formats::IconEntryImage& image, const fs::path& source) {
+    OpenPicture(editor, ReadResult{image.Image, image.Hotspot}, source);
 }
 
 void OpenPicture(Editor& editor, const graphics::Bitmap& picture, const fs::path& source) {

@@ -45,6 +45,11 @@ void OpenPicture(Editor& editor, const graphics::Bitmap& picture,
 void ImportPicture(Editor& editor, const graphics::Bitmap& picture,
                    const std::filesystem::path& source = {}, bool fitsPage = false);
 
+// The same with an image of an icon file, whose hot spot, if it is a pointer's, becomes that of
+// exports.
+void OpenIconImage(Editor& editor, const formats::IconEntryImage& image,
+                   const std::filesystem::path& source);
+
 // One layer for each picture, at least one, in this order from the bottom, in one undo step. With
 // no document yet the largest makes the page, and only the others, if there are any, are a step.
 void ImportPictures(Editor& editor, std::vector<graphics::Bitmap> pictures,

@@ -2,11 +2,17 @@
 
 #include <algorithm>
 #include <functional>
+#include <optional>
 
+#include "formats/export_icon.h"
 #include "formats/size_pictures.h"
 
 namespace orbelle::editing {
 namespace {
+
+using formats::IconKind;
+
+constexpr char kUnnamed[] = "icon";
 
 // Of the icon file, in its order.
 std::vector<int> SizesOfOpenedIcon(const document::Document& document) {
@@ -19,15 +25,28 @@ std::vector<int> SizesOfOpenedIcon(const document::Document& document) {
     return sizes;
 }
 
+std::optional<IconKind> IconKindOf(formats::ExportFormat format) {
+    switch (format) {
+        case formats::ExportFormat::Ico:
+            return IconKind::Windows;
+        case formats::ExportFormat::Cur:
+            return IconKind::Pointer;
+        case formats::ExportFormat::Icns:
+            return IconKind::MacOs;
+        default:
+            return std::nullopt;
+    }
+}
+
 }  // namespace
 
 std::vector<int> IconSizesOf(const EditorState& editor) {
     const formats::ExportSettings& settings = editor.ExportSettings;
-    if (!settings.IconSizes.empty())
-        return settings.IconSizes;
+    if (settings.IconSizes && !settings.IconSizes->empty())
+        return *settings.IconSizes;
     const document::Document& document = editor.Document;
     std::vector<int> sizes;
-    if (document.Icon)
+    if (document.Icon && !settings.IconSizes)
         sizes = SizesOfOpenedIcon(document);
     if (sizes.empty())
         sizes = formats::IconSizesFor(document.Master.Width, document.Master.Height);
@@ -44,14 +63,34 @@ std::vector<int> IconSizesOf(const EditorState& editor) {
 
 void ExportTo(Editor& editor, const std::filesystem::path& path, formats::ExportFormat format) {
     formats::ExportSettings settings = editor.ExportSettings;
-    if (format == formats::ExportFormat::Ico) {
+    if (const std::optional<IconKind> kind = IconKindOf(format)) {
         settings.IconSizes = IconSizesOf(editor);
-        return ExportIcon(path, formats::Flatten(editor.Document, editor.Canvas), settings);
+        return ExportIcon(path, *kind, formats::Flatten(editor.Document, editor.Canvas), settings);
     }
     const graphics::Argb background = editor.Document.Background;
     if (graphics::AlphaOf(background) != 0)
         settings.GifThreshold = formats::ExportSettings().GifThreshold;
-    formats::ExportImage(path, format, editor.Canvas, background, settings);
+    formats::ExportImage(path, format, PictureToExport(editor), background, settings);
+}
+
+void ExportSets(Editor& editor, const std::filesystem::path& folder,
+                std::span<const formats::IconSet> sets) {
+    const formats::SetSource source{formats::Flatten(editor.Document, editor.Canvas),
+                                    editor.Document.Background, FileNameOf(editor.Document)};
+    for (const formats::RenderedSet& set : RenderSets(source, sets, editor.ExportSettings))
+        WriteSet(folder, set);
+}
+
+std::string FileNameOf(const document::Document& document) {
+    const std::filesystem::path& origin = document.Path.empty() ? document.Source : document.Path;
+    std::string name = origin.stem().string();
+    return name.empty() ? kUnnamed : name;
+}
+
+graphics::Bitmap PictureToExport(const Editor& editor) {
+    const std::optional<int> side = editor.ExportSettings.PictureSide;
+    return side ? PictureOfSide(formats::Flatten(editor.Document, editor.Canvas), *side)
+                : editor.Canvas;
 }
 
 }  // namespace orbelle::editing

@@ -2,9 +2,12 @@
 #pragma once
 
 #include <filesystem>
+#include <span>
+#include <string>
 #include <vector>
 
 #include "editing/editor.h"
+#include "formats/icon_sets.h"
 
 namespace orbelle::editing {
 
@@ -13,9 +16,21 @@ namespace orbelle::editing {
 // for the master's size.
 std::vector<int> IconSizesOf(const EditorState& editor);
 
-// Writes the page in force as a file of another kind, an icon from all pages, by
-// Editor::ExportSettings; their GIF threshold counts for pages without a background. Throws Error
-// when nothing could be written.
+// Writes the page in force as a file of another kind, or the picture of the side that
+// Editor::ExportSettings tell; an icon from all pages. Their GIF threshold counts for pages without
+// a background. Throws Error when nothing could be written.
 void ExportTo(Editor& editor, const std::filesystem::path& path, formats::ExportFormat format);
+
+// What ExportTo writes when it is no icon, without background.
+graphics::Bitmap PictureToExport(const Editor& editor);
+
+// Whole sets of files below a folder, one set after the other: one that fails leaves nothing of
+// itself and throws Error.
+void ExportSets(Editor& editor, const std::filesystem::path& folder,
+                std::span<const formats::IconSet> sets);
+
+// What files made from the document are called: its name, else that of the picture that it was made
+// from, without extension, else "icon".
+std::string FileNameOf(const document::Document& document);
 
 }  // namespace orbelle::editing

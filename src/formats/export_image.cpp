@@ -2,12 +2,11 @@
 
 #include <algorithm>
 #include <cctype>
-#include <cstdlib>
-#include <exception>
 #include <string>
 #include <string_view>
 #include <utility>
 
+#include "formats/export_icon.h"
 #include "graphics/codecs/image_files.h"
 #include "graphics/drawing_context.h"
 #include "graphics/errors.h"
@@ -20,7 +19,6 @@ namespace fs = std::filesystem;
 using graphics::Argb;
 using graphics::Bitmap;
 
-constexpr int kIconSides[] = {256, 128, 64, 48, 32, 24, 16};
 constexpr Argb kWhite = 0xFFFFFFFF;
 constexpr int kJpegQuality = 99;
 
@@ -39,20 +37,10 @@ Bitmap DrawOnPaper(Argb pageBackground, const Bitmap& page) {
                     graphics::PixelFormat::Rgb24);
 }
 
-void LeaveInSizesFolder(const std::vector<Bitmap>& pictures) {
-    const fs::path folder = SizesFolder();
-    if (folder.empty())
-        return;
-    fs::create_directories(folder);
-    for (const Bitmap& picture : pictures) {
-        const std::string name = "temp" + std::to_string(picture.Width()) + ".png";
-        graphics::WriteScratchFile(folder / name, graphics::EncodePng(picture));
-    }
-}
-
 constexpr std::pair<std::string_view, ExportFormat> kExtensions[] = {
     {".ico", ExportFormat::Ico},  {".png", ExportFormat::Png},   {".gif", ExportFormat::Gif},
     {".jpg", ExportFormat::Jpeg}, {".jpeg", ExportFormat::Jpeg}, {".bmp", ExportFormat::Bmp},
+    {".cur", ExportFormat::Cur},  {".icns", ExportFormat::Icns},
 };
 
 }  // namespace
@@ -68,11 +56,16 @@ std::optional<ExportFormat> FindExportFormat(const fs::path& path) {
     return found->second;
 }
 
-std::vector<int> IconSizesFor(int pageWidth, int pageHeight) {
-    const int side = std::max(pageWidth, pageHeight);
-    const auto* largest =
-        std::ranges::find_if(kIconSides, [side](int size) { return size <= side; });
-    return {largest, std::end(kIconSides)};
+Bitmap DrawOnBackground(const Bitmap& page, Argb pageBackground) {
+    return DrawOver(pageBackground, page, graphics::PixelFormat::Argb32);
+}
+
+Bitmap DrawOpaque(const Bitmap& page, Argb pageBackground) {
+    Bitmap ground(page.Width(), page.Height());
+    graphics::DrawingContext(ground).Clear(pageBackground);
+    Bitmap surface = DrawOver(kWhite, ground, graphics::PixelFormat::Rgb24);
+    graphics::DrawingContext(surface).DrawImage(page, 0, 0);
+    return surface;
 }
 
 void ExportImage(const fs::path& path, ExportFormat format, const Bitmap& page, Argb pageBackground,
@@ -82,11 +75,15 @@ void ExportImage(const fs::path& path, ExportFormat format, const Bitmap& page, 
     switch (format) {
         case ExportFormat::Png:
             return graphics::WriteFile(
-                path, EncodePng(DrawOver(pageBackground, page, graphics::PixelFormat::Argb32)));
+                path, EncodePng(DrawOnBackground(page, pageBackground), settings.Packing));
         case ExportFormat::Bmp:
             return graphics::WriteFile(path, EncodeBmp(DrawOnPaper(pageBackground, page)));
         case ExportFormat::Ico:
-            return ExportIcon(path, {page, {}}, settings);
+            return ExportIcon(path, IconKind::Windows, {page}, settings);
+        case ExportFormat::Cur:
+            return ExportIcon(path, IconKind::Pointer, {page}, settings);
+        case ExportFormat::Icns:
+            return ExportIcon(path, IconKind::MacOs, {page}, settings);
         case ExportFormat::Gif:
             // Only a background of exactly 0 makes a transparent entry; alpha 0 with other bits
             // does not (docs/oddities.md, "GIF backgrounds").
@@ -99,46 +96,9 @@ void ExportImage(const fs::path& path, ExportFormat format, const Bitmap& page, 
     }
 }
 
-void ExportIcon(const fs::path& path, const FlatFamily& family, const ExportSettings& settings) {
-    const std::vector<int> sizes = settings.IconSizes.empty()
-                                       ? IconSizesFor(family.Master.Width(), family.Master.Height())
-                                       : settings.IconSizes;
-    if (sizes.empty())
-        return;
-    std::vector<Bitmap> pictures;
-    std::vector<std::vector<std::uint8_t>> pngs;
-    for (int size : sizes) {
-        pictures.push_back(PictureForSize(family, size));
-        if (settings.IconPictures != IconFormat::Bmp)
-            pngs.push_back(UntouchedPng(family, pictures.back()));
-    }
-    graphics::WriteFile(path, EncodeIcon(pictures, settings.IconPictures, pngs));
-    if (!settings.LeavesScratchPictures)
-        return;
-    try {
-        LeaveInSizesFolder(pictures);
-    } catch (const std::exception&) {
-        // Nobody needs these pictures, and the icon is written.
-    }
-}
-
 Bitmap DrawGifSurface(const Bitmap& page, Argb pageBackground) {
     return DrawOver(graphics::AlphaOf(pageBackground) != 0 ? pageBackground : 0, page,
                     graphics::PixelFormat::Argb32);
-}
-
-fs::path SizesFolder() {
-#ifdef _WIN32
-    const wchar_t* folder = _wgetenv(L"LOCALAPPDATA");
-    return folder ? fs::path(folder) / "Sizes" : fs::path();
-#else
-    // A relative cache folder counts as none.
-    const char* cache = std::getenv("XDG_CACHE_HOME");
-    if (cache && fs::path(cache).is_absolute())
-        return fs::path(cache) / "Sizes";
-    const char* home = std::getenv("HOME");
-    return home && fs::path(home).is_absolute() ? fs::path(home) / ".cache" / "Sizes" : fs::path();
-#endif
 }
 
 }  // namespace orbelle::formats

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <map>
 #include <memory>
+#include <optional>
 #include <utility>
 #include <vector>
 
@@ -75,6 +76,7 @@ IconFamily LoadIconFamily(const std::filesystem::path& path) {
     Document document;
     document.Source = path;
     OpenedIcon icon;
+    std::optional<Hotspot> hotspot;
     std::uint64_t room = kMostKeptBytes;
     const int largest = chosen.rbegin()->first;
     for (const auto& [size, place] : chosen) {
@@ -85,16 +87,18 @@ IconFamily LoadIconFamily(const std::filesystem::path& path) {
             entry.Png = EntryBytes(file, place, room);
         room -= entry.Png.size();
         icon.Entries.push_back(std::move(entry));
-        if (size == largest)
+        if (size == largest) {
             document.Master = std::move(page);
-        else
+            hotspot = image.Hotspot;
+        } else {
             document.SetArtwork(size, std::move(page));
+        }
     }
     file.RequireWasRead();
     std::ranges::sort(icon.Entries, {},
                       [&](const OpenedIcon::Entry& entry) { return chosen.at(entry.Size); });
     document.Icon = std::make_shared<const OpenedIcon>(std::move(icon));
-    return {std::move(document), leftOut};
+    return {std::move(document), leftOut, hotspot};
 }
 
 }  // namespace orbelle::formats

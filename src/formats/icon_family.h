@@ -2,15 +2,18 @@
 #pragma once
 
 #include <filesystem>
+#include <optional>
 #include <string>
 
 #include "document/document.h"
+#include "formats/hotspot.h"
 
 namespace orbelle::formats {
 
 struct IconFamily {
     document::Document Document;  // unmodified, no path
     std::string LeftOut;          // images that can't stand for their size, and why; empty: none
+    std::optional<formats::Hotspot> Hotspot = {};  // of the largest image of a pointer
 };
 
 // The largest picture is the master's only layer, every other one the artwork of its size; of two

@@ -16,6 +16,7 @@ using graphics::Bitmap;
 using Bytes = std::vector<std::uint8_t>;
 
 constexpr std::uint16_t kIconType = 1;
+constexpr std::uint16_t kPointerType = 2;
 constexpr std::uint16_t kPlanes = 1;
 constexpr std::uint16_t kBitCount = 32;
 constexpr std::size_t kDirectoryBytes = 6;
@@ -62,19 +63,23 @@ Bytes EncodeBitmap(const Bitmap& picture) {
 }
 
 Bytes EncodePicture(const Bitmap& picture, IconFormat format) {
-    const bool is256 = picture.Width() == kMaxIconSide || picture.Height() == kMaxIconSide;
-    const bool asPng = format == IconFormat::Png || (format == IconFormat::Png256 && is256);
-    return asPng ? graphics::EncodePng(picture) : EncodeBitmap(picture);
+    return StandsAsPng(picture, format) ? graphics::EncodePng(picture) : EncodeBitmap(picture);
 }
 
 }  // namespace
 
-Bytes EncodeIcon(std::span<const Bitmap> pictures, IconFormat format, std::span<const Bytes> pngs) {
+bool StandsAsPng(const Bitmap& picture, IconFormat format) {
+    const bool is256 = picture.Width() == kMaxIconSide || picture.Height() == kMaxIconSide;
+    return format == IconFormat::Png || (format == IconFormat::Png256 && is256);
+}
+
+Bytes EncodeIcon(std::span<const Bitmap> pictures, IconFormat format, std::span<const Bytes> pngs,
+                 std::span<const Hotspot> hotspots) {
     if (pictures.empty() || pictures.size() > kMaxEntries)
         throw std::invalid_argument("an icon holds 1 to 65535 pictures");
     Bytes icon;
     Append<std::uint16_t>(icon, 0);
-    Append<std::uint16_t>(icon, kIconType);
+    Append<std::uint16_t>(icon, hotspots.empty() ? kIconType : kPointerType);
     Append<std::uint16_t>(icon, static_cast<std::uint16_t>(pictures.size()));
 
     Bytes data;
@@ -93,8 +98,10 @@ Bytes EncodeIcon(std::span<const Bitmap> pictures, IconFormat format, std::span<
         Append<std::uint8_t>(icon, static_cast<std::uint8_t>(picture.Height()));
         Append<std::uint8_t>(icon, 0);  // no palette
         Append<std::uint8_t>(icon, 0);
-        Append<std::uint16_t>(icon, kPlanes);
-        Append<std::uint16_t>(icon, kBitCount);
+        // Of a pointer where it points stands here.
+        const bool isIcon = hotspots.empty();
+        Append<std::uint16_t>(icon, isIcon ? kPlanes : static_cast<std::uint16_t>(hotspots[i].X));
+        Append<std::uint16_t>(icon, isIcon ? kBitCount : static_cast<std::uint16_t>(hotspots[i].Y));
         Append<std::uint32_t>(icon, static_cast<std::uint32_t>(encoded.size()));
         Append<std::uint32_t>(icon, static_cast<std::uint32_t>(dataStart + data.size()));
         data.insert(data.end(), encoded.begin(), encoded.end());

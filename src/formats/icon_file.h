@@ -1,4 +1,4 @@
-// Windows icon files (.ico), written.
+// Windows icon and pointer files (.ico, .cur), written.
 #pragma once
 
 #include <cstdint>
@@ -6,6 +6,7 @@
 #include <span>
 #include <vector>
 
+#include "formats/hotspot.h"
 #include "graphics/bitmap.h"
 
 namespace orbelle::formats {
@@ -18,9 +19,14 @@ inline constexpr int kMaxIconSide = 256;
 
 // One entry per picture, in the order given; a width or height of 256 stands as 0 in the directory.
 // `pngs`: for each picture the PNG that stands for it as it is; an empty one, or none at all: it is
-// encoded. Throws std::invalid_argument for no picture, an empty one or one above kMaxIconSide.
+// encoded. `hotspots`: for each picture that of a pointer, 0 to 65535; none at all: an icon. Throws
+// std::invalid_argument for no picture, an empty one or one above kMaxIconSide.
 std::vector<std::uint8_t> EncodeIcon(std::span<const graphics::Bitmap> pictures, IconFormat format,
-                                     std::span<const std::vector<std::uint8_t>> pngs = {});
+                                     std::span<const std::vector<std::uint8_t>> pngs = {},
+                                     std::span<const Hotspot> hotspots = {});
+
+// Whether a picture of that size stands as PNG.
+bool StandsAsPng(const graphics::Bitmap& picture, IconFormat format);
 
 inline constexpr int kMaxCombinedPictures = 7;
 

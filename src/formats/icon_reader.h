@@ -7,19 +7,13 @@
 #include <string>
 #include <vector>
 
+#include "formats/hotspot.h"
 #include "graphics/bitmap.h"
 #include "graphics/byte_source.h"
 
 namespace orbelle::formats {
 
 enum class IconEntryFormat { Bitmap, Png, Bad };
-
-// The pixel of a pointer that points.
-struct Hotspot {
-    int X = 0;
-    int Y = 0;
-    bool operator==(const Hotspot&) const = default;
-};
 
 struct IconEntryImage {
     // In pixels, by the picture itself; of a bad one what its header tells, if that can be, else 0.

@@ -17,6 +17,11 @@ bool HasSamePixels(const Bitmap& a, const Bitmap& b) {
            std::equal(a.Pixels(), a.Pixels() + count, b.Pixels());
 }
 
+Bitmap OwnOrElse(const FlatFamily& family, int size, Bitmap (*make)(const Bitmap&, int)) {
+    const auto own = std::ranges::find(family.Sizes, size, &std::pair<int, Bitmap>::first);
+    return own != family.Sizes.end() ? own->second : make(family.Master, size);
+}
+
 }  // namespace
 
 FlatFamily Flatten(const document::Document& document, const graphics::Bitmap& current) {
@@ -29,10 +34,16 @@ FlatFamily Flatten(const document::Document& document, const graphics::Bitmap& c
     return flattened;
 }
 
-graphics::Bitmap PictureForSize(const FlatFamily& family, int size) {
-    const auto own =
-        std::ranges::find(family.Sizes, size, &std::pair<int, graphics::Bitmap>::first);
-    return own != family.Sizes.end() ? own->second : filters::ShrinkToSize(family.Master, size);
+Bitmap PictureForSize(const FlatFamily& family, int size) {
+    return OwnOrElse(family, size, filters::ShrinkToSize);
+}
+
+Bitmap EnlargedPictureForSize(const FlatFamily& family, int size) {
+    return OwnOrElse(family, size, filters::ScaleToSize);
+}
+
+Bitmap PictureOfSide(const FlatFamily& family, int side) {
+    return OwnOrElse(family, side, filters::ScaleToSide);
 }
 
 std::vector<std::uint8_t> UntouchedPng(const FlatFamily& family, const graphics::Bitmap& picture) {

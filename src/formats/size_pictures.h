@@ -24,6 +24,12 @@ FlatFamily Flatten(const document::Document& document, const graphics::Bitmap& c
 // The artwork of that size, else the master as filters::ShrinkToSize makes it.
 graphics::Bitmap PictureForSize(const FlatFamily& family, int size);
 
+// The same where sizes above the master's are wanted in earnest: as filters::ScaleToSize makes it.
+graphics::Bitmap EnlargedPictureForSize(const FlatFamily& family, int size);
+
+// A picture of its own: the artwork of that size, else the master as filters::ScaleToSide makes it.
+graphics::Bitmap PictureOfSide(const FlatFamily& family, int side);
+
 // The PNG of the icon file that the document was opened from, as it stands there, when that size's
 // picture still is what it was; else empty.
 std::vector<std::uint8_t> UntouchedPng(const FlatFamily& family, const graphics::Bitmap& picture);

@@ -31,8 +31,8 @@ using ::testing::HasSubstr;
 using ::testing::IsEmpty;
 
 constexpr int kOldSide = 16, kNextSide = Desk::kNewSide;
-constexpr const ExportEntry& kPng = kExportEntries[1];
-constexpr const ExportEntry& kGif = kExportEntries[2];
+constexpr const ExportEntry& kPng = kExportEntries[3];
+constexpr const ExportEntry& kGif = kExportEntries[4];
 
 class AskCommandsTest : public ::testing::Test {
 protected:
@@ -491,7 +491,7 @@ TEST(WrittenTextTest, SizesAreRoundedAndSidesListed) {
         {1468006, "1.4 MB"}, {99'614'720, "95.0 MB"}};
     for (const auto& [bytes, text] : sizes)
         EXPECT_EQ(SizeText(bytes), text);
-    EXPECT_EQ(ExportedIconText("/a/b.ico", 2048, {48, 32, 16}),
+    EXPECT_EQ(ExportedIconText("/a/b.ico", 2048, "ICO", {48, 32, 16}),
               "Exported b.ico, ICO of 48, 32 and 16 px, 2 KB, in /a");
     EXPECT_EQ(SavedText("b.volf", std::nullopt), "Saved b.volf");
 }

@@ -57,7 +57,7 @@ TEST_F(RecentFilesTest, HoldsWhatWasOpenedOrSavedAndNothingElse) {
     desk.ToWrite = folder / "no folder" / "c.volf";
     AskSaveAs(desk.Context);
     desk.ToWrite = folder / "d.png";
-    AskExport(desk.Context, kExportEntries[1]);
+    AskExport(desk.Context, kExportEntries[3]);
     EXPECT_THAT(desk.Recent.Paths(), ElementsAre(a, b));
     ImportFiles(desk.Context, {b});
     EXPECT_THAT(desk.Recent.Paths(), ElementsAre(b, a)) << "a document that is imported opens";

@@ -27,6 +27,10 @@ TEST(ParseCallsTest, EachVerbTakesItsArguments) {
                 "icon-sizes 1 256 zoom 0.5 zoom 20 style crystal export a.JPG"),
         ElementsAre("new 0064 48", "background none", "background #1020fF", "opacity 10 20", "undo",
                     "icon-sizes 1 256", "zoom 0.5", "zoom 20", "style crystal", "export a.JPG"));
+    EXPECT_THAT(CallsOf("export-set undo web ios web undo icon-sizes table icon-sizes 16 "
+                        "export-size page export-size 16 undo"),
+                ElementsAre("export-set undo web ios web", "undo", "icon-sizes table",
+                            "icon-sizes 16", "export-size page", "export-size 16", "undo"));
     EXPECT_THAT(CallsOf("combine o.ico undo a.png ./undo combine p.ico 1"),
                 ElementsAre("combine o.ico undo a.png ./undo", "combine p.ico 1"));
 }
@@ -53,7 +57,11 @@ TEST(ParseCallsTest, WrongArgumentsAreRefused) {
          {"", "#", "123456", "#12345", "#1234567", "#123456789", "#12345g", "#-12345", "#+12345",
           "#12 456"},
          "COLOUR must be a colour: #RRGGBB or #AARRGGBB"},
-        {"export", {"png", "a.tga"}, "PATH must end in .ico, .png, .gif, .jpg, .jpeg or .bmp"},
+        {"export",
+         {"png", "a.tga"},
+         "PATH must end in .ico, .cur, .icns, .png, .gif, .jpg, .jpeg or .bmp"},
+        {"export-size", {"0", "1025"}, "N must be from 1 to 1024"},
+        {"compress", {"best"}, "HOW must be fast or small"},
         {"icon-format", {"gif"}, "FORMAT must be bmp or png256 or png"},
         {"order", {"top"}, "ORDER must be front or back or forward or backward"},
         {"key", {"enter", ""}, "KEY must be left or right or up or down or delete"},

@@ -32,7 +32,7 @@ TEST_F(SizeStripTest, HasTheExportsSizesThoseWithArtworkAndTheUsualOnes) {
     Do(EditSize, 96);
     Do(EditSize, 24);
     EXPECT_THAT(StripSizes(editor), ElementsAre(96, 64, 48, 32, 24, 16)) << "each once";
-    editor.ExportSettings.IconSizes = {20, 256};
+    editor.ExportSettings.IconSizes = {{20, 256}};
     EXPECT_THAT(StripSizes(editor), ElementsAre(256, 96, 64, 48, 32, 24, 20, 16));
 }
 

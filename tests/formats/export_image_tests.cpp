@@ -5,6 +5,7 @@
 #include <cstdlib>
 
 #include "filters/shrink_to_size.h"
+#include "formats/export_icon.h"
 #include "graphics/codecs/image_files.h"
 #include "graphics/errors.h"
 #include "graphics/file_io.h"
@@ -38,6 +39,7 @@ TEST(FindExportFormat, GoesByTheExtensionInWhateverCase) {
     const std::pair<const char*, std::optional<ExportFormat>> cases[] = {
         {"a.ico", ExportFormat::Ico},   {"b/a.b.PNG", ExportFormat::Png},
         {"a.gif", ExportFormat::Gif},   {"a.Jpg", ExportFormat::Jpeg},
+        {"a.CUR", ExportFormat::Cur},   {"a.icns", ExportFormat::Icns},
         {"a.jpeg", ExportFormat::Jpeg}, {"a.bmp", ExportFormat::Bmp},
         {"a.tiff", std::nullopt},       {"png", std::nullopt},
         {"a.png/b", std::nullopt},      {"a.", std::nullopt},
@@ -95,7 +97,7 @@ TEST_F(ExportTest, AnIconHoldsThePageInSquaresThatStayInTheCacheFolder) {
          {.LeavesScratchPictures = true},
          {256, 128, 64, 48, 32, 24, 16}},
         {FilledPicture(15, 15, kBlue),
-         {.IconSizes = {32, 15}, .IconPictures = IconFormat::Png, .LeavesScratchPictures = true},
+         {.IconSizes = {{32, 15}}, .IconPictures = IconFormat::Png, .LeavesScratchPictures = true},
          {32, 15}},
     };
     ExportImage(path_, ExportFormat::Ico, FilledPicture(32, 32, kBlue), 0);

@@ -45,6 +45,14 @@ TEST(IconFile, ABitmapEntryStandsByteForByte) {
     EXPECT_THAT(EncodeIcon({&picture, 1}, IconFormat::Bmp), ElementsAreArray(expected));
 }
 
+TEST(IconFile, APointerTellsItsHotSpotInsteadOfPlanesAndBits) {
+    const Bitmap pictures[] = {Bitmap(1, 1), Bitmap(8, 8)};
+    const Hotspot hotspots[] = {{0, 0}, {7, 258}};
+    const Bytes pointer = EncodeIcon(pictures, IconFormat::Bmp, {}, hotspots);
+    EXPECT_THAT(Part(pointer, 0, 14), ElementsAre(0, 0, 2, 0, 2, 0, 1, 1, 0, 0, 0, 0, 0, 0));
+    EXPECT_THAT(Part(pointer, 22, 8), ElementsAre(8, 8, 0, 0, 7, 0, 2, 1));
+}
+
 TEST(IconFile, MaskRowsAreFilledUpToFourBytes) {
     Bitmap picture(33, 1);
     for (int x : {1, 2, 3, 4, 5, 6, 7, 31})

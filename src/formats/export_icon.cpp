@@ -1,0 +1,127 @@
+#include "formats/export_icon.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <exception>
+#include <string>
+
+#include "filters/shrink_to_size.h"
+#include "formats/icns_file.h"
+#include "formats/parallel.h"
+#include "graphics/errors.h"
+#include "graphics/file_io.h"
+
+namespace orbelle::formats {
+namespace {
+
+namespace fs = std::filesystem;
+using graphics::Bitmap;
+using Bytes = std::vector<std::uint8_t>;
+
+constexpr int kIconSides[] = {256, 128, 64, 48, 32, 24, 16};
+
+void LeaveInSizesFolder(const std::vector<Bitmap>& pictures) {
+    const fs::path folder = SizesFolder();
+    if (folder.empty())
+        return;
+    fs::create_directories(folder);
+    for (const Bitmap& picture : pictures) {
+        const std::string name = "temp" + std::to_string(picture.Width()) + ".png";
+        graphics::WriteScratchFile(folder / name, graphics::EncodePng(picture));
+    }
+}
+
+void ExportIcns(const fs::path& path, const FlatFamily& family, const ExportSettings& settings) {
+    std::vector<Bytes> pngs(std::size(kIcnsTypes));
+    // The largest take most of the time.
+    ForEachInParallel(pngs.size(), [&](std::size_t i) {
+        const std::size_t place = pngs.size() - 1 - i;
+        pngs[place] =
+            EncodePng(EnlargedPictureForSize(family, kIcnsTypes[place].Side), settings.Packing);
+    });
+    graphics::WriteFile(path, EncodeIcns(pngs));
+}
+
+// An untouched one stays as it is, unless it is to be smaller.
+Bytes PngForIcon(const FlatFamily& family, const Bitmap& picture, const ExportSettings& settings) {
+    Bytes untouched = UntouchedPng(family, picture);
+    const bool isFast = settings.Packing == graphics::PngPacking::Fast;
+    if (untouched.empty() ? !StandsAsPng(picture, settings.IconPictures) : isFast)
+        return untouched;
+    Bytes packed = EncodePng(picture, settings.Packing);
+    return untouched.empty() || packed.size() < untouched.size() ? packed : untouched;
+}
+
+}  // namespace
+
+std::vector<int> IconSizesFor(int pageWidth, int pageHeight) {
+    const int side = std::max(pageWidth, pageHeight);
+    const auto* largest =
+        std::ranges::find_if(kIconSides, [side](int size) { return size <= side; });
+    return {largest, std::end(kIconSides)};
+}
+
+Hotspot HotspotForSize(const Bitmap& master, Hotspot hotspot, int size) {
+    if (!master.GetPixel(hotspot.X, hotspot.Y))
+        throw Error("the hot spot " + std::to_string(hotspot.X) + ", " + std::to_string(hotspot.Y) +
+                    " lies outside the page");
+    const int longer = std::max(master.Width(), master.Height());
+    const int side = std::min(size, longer);
+    const graphics::RectF place = filters::PlaceOfShrunk(master.Width(), master.Height(), size);
+    return {std::min(static_cast<int>(place.X) + hotspot.X * side / longer, size - 1),
+            std::min(static_cast<int>(place.Y) + hotspot.Y * side / longer, size - 1)};
+}
+
+std::vector<Bytes> PngsForIcon(const FlatFamily& family, std::span<const Bitmap> pictures,
+                               const ExportSettings& settings) {
+    std::vector<Bytes> pngs(pictures.size());
+    if (settings.IconPictures != IconFormat::Bmp)
+        ForEachInParallel(pngs.size(), [&](std::size_t i) {
+            pngs[i] = PngForIcon(family, pictures[i], settings);
+        });
+    return pngs;
+}
+
+void ExportIcon(const fs::path& path, IconKind kind, const FlatFamily& family,
+                const ExportSettings& settings) {
+    if (kind == IconKind::MacOs)
+        return ExportIcns(path, family, settings);
+    const bool isListed = settings.IconSizes && !settings.IconSizes->empty();
+    const std::vector<int> sizes =
+        isListed ? *settings.IconSizes
+                 : IconSizesFor(family.Master.Width(), family.Master.Height());
+    std::vector<Bitmap> pictures;
+    std::vector<Hotspot> hotspots;
+    for (int size : sizes) {
+        if (kind == IconKind::Pointer)
+            hotspots.push_back(HotspotForSize(family.Master, settings.PointerHotspot, size));
+        pictures.push_back(PictureForSize(family, size));
+    }
+    if (pictures.empty())
+        return;
+    graphics::WriteFile(path, EncodeIcon(pictures, settings.IconPictures,
+                                         PngsForIcon(family, pictures, settings), hotspots));
+    if (!settings.LeavesScratchPictures)
+        return;
+    try {
+        LeaveInSizesFolder(pictures);
+    } catch (const std::exception&) {
+        // Nobody needs these pictures, and the icon is written.
+    }
+}
+
+fs::path SizesFolder() {
+#ifdef _WIN32
+    const wchar_t* folder = _wgetenv(L"LOCALAPPDATA");
+    return folder ? fs::path(folder) / "Sizes" : fs::path();
+#else
+    // A relative cache folder counts as none.
+    const char* cache = std::getenv("XDG_CACHE_HOME");
+    if (cache && fs::path(cache).is_absolute())
+        return fs::path(cache) / "Sizes";
+    const char* home = std::getenv("HOME");
+    return home && fs::path(home).is_absolute() ? fs::path(home) / ".cache" / "Sizes" : fs::path();
+#endif
+}
+
+}  // namespace orbelle::formats

@@ -1,0 +1,73 @@
+// All files that a platform wants of an application's icon.
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <span>
+#include <string>
+#include <string_view>
+#include <variant>
+#include <vector>
+
+#include "formats/export_settings.h"
+#include "formats/size_pictures.h"
+#include "graphics/color.h"
+
+namespace orbelle::formats {
+
+enum class IconSet { Windows, MacOs, Linux, Web, Android, Ios };
+
+inline constexpr std::string_view kIconSetNames[] = {"windows", "macos",   "linux",
+                                                     "web",     "android", "ios"};
+
+// What a set's picture stands on: nothing, the page's background as in an exported PNG, or that
+// over white so that nothing shines through.
+enum class Ground { None, Page, Opaque };
+
+struct SetPicture {
+    int Side = 0;
+    int IconSide = 0;  // of the icon in its middle
+    formats::Ground Ground = Ground::Page;
+
+    auto operator<=>(const SetPicture&) const = default;
+};
+struct SetIcon {
+    std::vector<int> Sizes;  // of a Windows icon
+};
+struct SetIcns {};
+
+struct SetFile {
+    std::string Path;  // below the folder of all sets
+    std::variant<SetPicture, SetIcon, SetIcns, std::string> Content;
+};
+
+// `name` is what the user calls the icon, any bytes but '/'.
+std::vector<SetFile> FilesOfSet(IconSet set, const std::string& name, graphics::Argb background);
+
+struct SetSource {
+    FlatFamily Family;
+    graphics::Argb Background = 0;  // the page's
+    std::string Name;
+};
+
+// Sizes above the master's are enlarged.
+graphics::Bitmap DrawSetPicture(const SetSource& source, const SetPicture& picture);
+
+struct RenderedFile {
+    std::string Path;
+    std::vector<std::uint8_t> Bytes;
+};
+struct RenderedSet {
+    IconSet Set;
+    std::vector<RenderedFile> Files;
+};
+
+// In the order given. Throws Error for an empty page.
+std::vector<RenderedSet> RenderSets(const SetSource& source, std::span<const IconSet> sets,
+                                    const ExportSettings& settings);
+
+// Below the folder, which is made. All or, with graphics::FileError, none of its files; others that
+// are there stay.
+void WriteSet(const std::filesystem::path& folder, const RenderedSet& set);
+
+}  // namespace orbelle::formats
