@@ -232,8 +232,8 @@ void ImportFile(Editor& editor, const fs::path& path, const ReadChoices& choices
     if (kind == FileKind::Document)
         OpenDocument(editor, path);
     else
-        ImportPicture(editor, ReadPicture(path, kind, choices, RoomForImport(editor)), path,
-                      choices.FitsPage);
+        ImportPictures(editor, {ReadPicture(path, kind, choices, RoomForImport(editor))}, path,
+                       choices.FitsPage);
 }
 
 void OpenPicture(Editor& editor, const graphics::Bitmap& picture, const fs::path& source) {
@@ -242,9 +242,8 @@ void OpenPicture(Editor& editor, const graphics::Bitmap& picture, const fs::path
     AddPictureLayer(editor, picture);
 }
 
-void ImportPicture(Editor& editor, const graphics::Bitmap& picture, const fs::path& source,
-                   bool fitsPage) {
-    ImportPictures(editor, {picture}, source, fitsPage);
+void ImportPicture(Editor& editor, const graphics::Bitmap& picture, const fs::path& source) {
+    ImportPictures(editor, {picture}, source);
 }
 
 void ImportPictures(Editor& editor, std::vector<graphics::Bitmap> pictures, const fs::path& source,

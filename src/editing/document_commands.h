@@ -43,7 +43,7 @@ void ImportFile(Editor& editor, const std::filesystem::path& path, const ReadCho
 void OpenPicture(Editor& editor, const graphics::Bitmap& picture,
                  const std::filesystem::path& source = {});
 void ImportPicture(Editor& editor, const graphics::Bitmap& picture,
-                   const std::filesystem::path& source = {}, bool fitsPage = false);
+                   const std::filesystem::path& source = {});
 
 // One layer for each picture, at least one, in this order from the bottom, in one undo step. With
 // no document yet the largest makes the page, and only the others, if there are any, are a step.
