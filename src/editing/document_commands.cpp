@@ -251,7 +251,7 @@ void ImportFile(Editor& editor, const fs::path& path, const ReadChoices& choices
         return OpenDocument(editor, path);
     const ReadResult read = ReadPicture(path, kind, choices, RoomForImport(editor));
     if (editor.DocumentExists)
-        ImportPicture(editor, read.Picture, path, choices.FitsPage);
+        ImportPictures(editor, {read.Picture}, path, choices.FitsPage);
     else
         OpenPicture(editor, read, path);
 }
@@ -266,9 +266,8 @@ void OpenPicture(Editor& editor, const graphics::Bitmap& picture, const fs::path
     AddPictureLayer(editor, picture);
 }
 
-void ImportPicture(Editor& editor, const graphics::Bitmap& picture, const fs::path& source,
-                   bool fitsPage) {
-    ImportPictures(editor, {picture}, source, fitsPage);
+void ImportPicture(Editor& editor, const graphics::Bitmap& picture, const fs::path& source) {
+    ImportPictures(editor, {picture}, source);
 }
 
 void ImportPictures(Editor& editor, std::vector<graphics::Bitmap> pictures, const fs::path& source,

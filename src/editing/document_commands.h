@@ -43,7 +43,7 @@ void ImportFile(Editor& editor, const std::filesystem::path& path, const ReadCho
 void OpenPicture(Editor& editor, const graphics::Bitmap& picture,
                  const std::filesystem::path& source = {});
 void ImportPicture(Editor& editor, const graphics::Bitmap& picture,
-                   const std::filesystem::path& source = {}, bool fitsPage = false);
+                   const std::filesystem::path& source = {});
 
 // The same with an image of an icon file, whose hot spot, if it is a pointer's, becomes that of
 // exports.

@@ -32,7 +32,7 @@ TEST_F(Commands, GiveATipThatFits) {
     for (const NamedCommand& command : LayerCommands()) {
         Do(NewDocument, 24, 20);
         EXPECT_EQ(recorder.LastTip(), tips::NewOrOpened);
-        Do(ImportPicture, FilledPicture(20, 10, kBlue), "", false);
+        Do(ImportPicture, FilledPicture(20, 10, kBlue), "");
         EXPECT_EQ(recorder.LastTip(), tips::Imported);
         EXPECT_TRUE(recorder.Last.Tip->AboutLayers);
         Do(command.Run);
