@@ -15,7 +15,7 @@ struct ExportEntry {
 // In the order of the menu.
 inline constexpr ExportEntry kExportEntries[] = {
     {formats::ExportFormat::Ico, "ICO Windows Icon File", "Windows ICO Files (*.ICO)|*.ico"},
-    {formats::ExportFormat::Icns, "ICNS macOS Icon File", "macOS Icon Files (*.ICNS)|*.icns", 3},
+    {formats::ExportFormat::Icns, "ICNS macOS Icon File", "macOS Icon Files (*.ICNS)|*.icns", 2},
     {formats::ExportFormat::Cur, "CUR Windows Cursor", "Windows Cursors (*.CUR)|*.cur"},
     {formats::ExportFormat::Png, "PNG with Transparency",
      "PNG Portable Network Graphics (*.PNG)|*.png"},

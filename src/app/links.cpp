@@ -17,6 +17,15 @@ void OpenLink(const WindowContext& context, const QString& address) {
         context.User.ShowAddress("There is no browser that could show this page:\n" + text, text);
 }
 
+void OpenFolder(const WindowContext& context, const std::filesystem::path& folder) {
+    const std::string text = folder.string();
+    if (QDesktopServices::openUrl(QUrl::fromLocalFile(QString::fromStdString(text))))
+        context.User.ShowStatus("Opened the folder: " + text);
+    else
+        context.User.ShowAddress("There is no file manager that could show the folder:\n" + text,
+                                 text);
+}
+
 void OpenSamples(const WindowContext& context) {
     const QDir program(QCoreApplication::applicationDirPath());
     const auto clean = [&](const char* folder) {

@@ -6,6 +6,7 @@
 
 #include "app/ask_commands.h"
 #include "app/export_formats.h"
+#include "app/export_sets.h"
 #include "app/links.h"
 #include "app/save_commands.h"
 #include "app/step_caption.h"
@@ -66,6 +67,8 @@ std::vector<Entry> ExportEntries() {
              {},
              [&format](const WindowContext& context) { AskExport(context, format); }});
     }
+    entries.push_back({});
+    entries.push_back({"ExportSets", "Icon &Set...", {}, AskExportSets});
     return entries;
 }
 

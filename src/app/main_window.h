@@ -90,6 +90,7 @@ public:
 
     void ShowMessage(const std::string& text) override;
     void ShowAddress(const std::string& text, const std::string& address) override;
+    void ShowFolder(const std::string& text, const std::filesystem::path& folder) override;
     void ShowStatus(const std::string& text) override;
     bool GoOn(int done, int count) override;
     SavePromptAnswer AskSave() override;
@@ -105,6 +106,8 @@ public:
     std::optional<bool> AskFit(const PageSize& picture, const PageSize& page) override;
     std::optional<filters::SizeRecipe> ChooseRecipe(const graphics::Bitmap& master,
                                                     int size) override;
+    std::optional<SetChoice> ChooseIconSets(const formats::SetSource& source,
+                                            const std::filesystem::path& folder) override;
     std::optional<graphics::Argb> AskColor(const ColorQuestion& question) override;
 
     void Put(const graphics::Bitmap& picture, const std::string& text) override;

@@ -15,6 +15,8 @@
 #include "app/fit_dialog.h"
 #include "app/gif_optimizer_dialog.h"
 #include "app/icon_images_dialog.h"
+#include "app/icon_sets_dialog.h"
+#include "app/links.h"
 #include "app/message_boxes.h"
 #include "app/new_icon_dialog.h"
 #include "app/recent_files_view.h"
@@ -130,6 +132,11 @@ void MainWindow::ShowAddress(const std::string& text, const std::string& address
     ShowMessageToCopy(this, text, address);
 }
 
+void MainWindow::ShowFolder(const std::string& text, const std::filesystem::path& folder) {
+    if (OfferFolder(this, text))
+        OpenFolder(context_, folder);
+}
+
 void MainWindow::ShowStatus(const std::string& text) {
     statusBar()->showMessage(QString::fromStdString(text), kStatusMilliseconds);
 }
@@ -211,6 +218,14 @@ std::optional<filters::SizeRecipe> MainWindow::ChooseRecipe(const graphics::Bitm
     if (dialog.exec() != QDialog::Accepted)
         return std::nullopt;
     return dialog.Recipe();
+}
+
+std::optional<SetChoice> MainWindow::ChooseIconSets(const formats::SetSource& source,
+                                                    const std::filesystem::path& folder) {
+    IconSetsDialog dialog(source, folder, this);
+    if (dialog.exec() != QDialog::Accepted)
+        return std::nullopt;
+    return dialog.Choice();
 }
 
 std::optional<graphics::Argb> MainWindow::AskColor(const ColorQuestion& question) {

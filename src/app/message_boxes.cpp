@@ -39,6 +39,17 @@ void ShowMessageToCopy(QWidget* parent, const std::string& text, const std::stri
         QGuiApplication::clipboard()->setText(QString::fromStdString(address));
 }
 
+bool OfferFolder(QWidget* parent, const std::string& text) {
+    QMessageBox box(QMessageBox::NoIcon, editing::kProductName, QString::fromStdString(text),
+                    QMessageBox::Ok, parent);
+    box.setTextFormat(Qt::PlainText);
+    const QPushButton* open = box.addButton("Open &Folder", QMessageBox::ActionRole);
+    box.setDefaultButton(QMessageBox::Ok);
+    box.setEscapeButton(QMessageBox::Ok);
+    box.exec();
+    return box.clickedButton() == open;
+}
+
 bool AskOkCancel(QWidget* parent, const std::string& text, const std::string& title) {
     return Show(parent, QMessageBox::Information, QString::fromStdString(title), text,
                 QMessageBox::Ok | QMessageBox::Cancel, QMessageBox::Cancel) == QMessageBox::Ok;

@@ -13,6 +13,9 @@ void ShowPlainMessage(QWidget* parent, const std::string& text);
 // The same with a button that takes `address`, which the text tells, to the clipboard.
 void ShowMessageToCopy(QWidget* parent, const std::string& text, const std::string& address);
 
+// The same with a button that opens the folder which the text is about; true: it was pressed.
+bool OfferFolder(QWidget* parent, const std::string& text);
+
 // OK and Cancel with the information icon, Cancel the default; true: OK.
 bool AskOkCancel(QWidget* parent, const std::string& text, const std::string& title);
 

@@ -80,8 +80,7 @@ std::vector<int> IcnsSides() {
     for (const formats::IcnsType& type : formats::kIcnsTypes)
         sides.push_back(type.Side);
     std::ranges::sort(sides, std::greater());
-    const auto rest = std::ranges::unique(sides);
-    sides.erase(rest.begin(), rest.end());
+    sides.erase(std::unique(sides.begin(), sides.end()), sides.end());
     return sides;
 }
 

@@ -8,6 +8,7 @@
 
 #include "filters/size_recipes.h"
 #include "formats/icon_reader.h"
+#include "formats/icon_sets.h"
 #include "graphics/bitmap.h"
 #include "graphics/color.h"
 
@@ -37,12 +38,19 @@ struct IconChoice {
     bool AllSizes = false;    // rather the whole file, every picture for its size
 };
 
+struct SetChoice {
+    std::vector<formats::IconSet> Sets;  // at least one
+    std::filesystem::path Folder;
+};
+
 class UserQuestions {
 public:
     // A plain message box with one button.
     virtual void ShowMessage(const std::string& text) = 0;
     // The same about an address or a path, which the user may want to copy.
     virtual void ShowAddress(const std::string& text, const std::string& address) = 0;
+    // The same about a folder, which the user may want to open.
+    virtual void ShowFolder(const std::string& text, const std::filesystem::path& folder) = 0;
     // Told in the status line, without a box, until the next command.
     virtual void ShowStatus(const std::string& text) = 0;
 
@@ -76,6 +84,10 @@ public:
     // Which recipe makes the picture of that size of the master; no value: cancelled.
     virtual std::optional<filters::SizeRecipe> ChooseRecipe(const graphics::Bitmap& master,
                                                             int size) = 0;
+    // Which sets of icon files to write, and where; no value: cancelled. The folder is offered
+    // where none was chosen before.
+    virtual std::optional<SetChoice> ChooseIconSets(const formats::SetSource& source,
+                                                    const std::filesystem::path& folder) = 0;
     // The colour dialog; no value: cancelled.
     virtual std::optional<graphics::Argb> AskColor(const ColorQuestion& question) = 0;
 

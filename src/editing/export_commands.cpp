@@ -73,11 +73,15 @@ void ExportTo(Editor& editor, const std::filesystem::path& path, formats::Export
     formats::ExportImage(path, format, PictureToExport(editor), background, settings);
 }
 
+formats::SetSource SetSourceOf(const Editor& editor) {
+    return {formats::Flatten(editor.Document, editor.Canvas), editor.Document.Background,
+            FileNameOf(editor.Document)};
+}
+
 void ExportSets(Editor& editor, const std::filesystem::path& folder,
                 std::span<const formats::IconSet> sets) {
-    const formats::SetSource source{formats::Flatten(editor.Document, editor.Canvas),
-                                    editor.Document.Background, FileNameOf(editor.Document)};
-    for (const formats::RenderedSet& set : RenderSets(source, sets, editor.ExportSettings))
+    for (const formats::RenderedSet& set :
+         RenderSets(SetSourceOf(editor), sets, editor.ExportSettings))
         WriteSet(folder, set);
 }
 

@@ -24,6 +24,9 @@ void ExportTo(Editor& editor, const std::filesystem::path& path, formats::Export
 // What ExportTo writes when it is no icon, without background.
 graphics::Bitmap PictureToExport(const Editor& editor);
 
+// What sets of files are made from.
+formats::SetSource SetSourceOf(const Editor& editor);
+
 // Whole sets of files below a folder, one set after the other: one that fails leaves nothing of
 // itself and throws Error.
 void ExportSets(Editor& editor, const std::filesystem::path& folder,

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <map>
+#include <utility>
 
 #include "formats/export_icon.h"
 #include "formats/export_image.h"
@@ -50,8 +51,9 @@ std::vector<SetFile> LinuxFiles(const std::string& name) {
     std::vector<SetFile> files;
     for (const int size : kThemeSizes) {
         const std::string side = std::to_string(size);
-        files.push_back(
-            {"linux/hicolor/" + side + 'x' + side + "/apps/" + name + ".png", Whole(size)});
+        std::string path = "linux/hicolor/";
+        path.append(side).append("x").append(side).append("/apps/").append(name).append(".png");
+        files.push_back({std::move(path), Whole(size)});
     }
     return files;
 }

@@ -6,6 +6,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <tuple>
 #include <variant>
 #include <vector>
 
@@ -29,7 +30,10 @@ struct SetPicture {
     int IconSide = 0;  // of the icon in its middle
     formats::Ground Ground = Ground::Page;
 
-    auto operator<=>(const SetPicture&) const = default;
+    bool operator<(const SetPicture& other) const {
+        return std::tie(Side, IconSide, Ground) <
+               std::tie(other.Side, other.IconSide, other.Ground);
+    }
 };
 struct SetIcon {
     std::vector<int> Sizes;  // of a Windows icon

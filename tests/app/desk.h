@@ -33,6 +33,7 @@ public:
     std::optional<bool> Fits = false;
     PageSize OwnSize, LargeSize;  // of what was asked for
     std::optional<filters::SizeRecipe> Recipe;
+    std::optional<SetChoice> Sets;
     graphics::Bitmap Suggested;  // what recipes were asked for
     std::optional<graphics::Argb> Color;
     std::vector<std::string> Told;
@@ -72,12 +73,17 @@ public:
     }
     bool GoOn(int done, int) override { return done < FilesAtMost; }
     void ShowStatus(const std::string& text) override { Status = text; }
+    void ShowFolder(const std::string& text, const std::filesystem::path&) override {
+        ShowMessage(text);
+    }
     void ShowAddress(const std::string& text, const std::string&) override { ShowMessage(text); }
     SavePromptAnswer AskSave() override { return Answer("save?", SaveAnswer); }
     bool Confirm(const std::string& text, const std::string& title) override {
         EXPECT_EQ(title, "Warning");
         if (text == "Image already exists, overwrite it?")
             return Answer("overwrite?", OverwriteAnswer);
+        if (text.find(" of these sets already ") != std::string::npos)
+            return Answer(text.c_str(), OverwriteAnswer);
         EXPECT_EQ(text, State.Document.Path.filename().string() +
                             " was changed by another program since you opened it. Overwrite it?");
         return Answer("changed?", OverwriteAnswer);
@@ -108,6 +114,11 @@ public:
     std::optional<filters::SizeRecipe> ChooseRecipe(const graphics::Bitmap& master, int) override {
         Suggested = master;
         return Answer("recipe?", Recipe);
+    }
+    std::optional<SetChoice> ChooseIconSets(const formats::SetSource&,
+                                            const std::filesystem::path& folder) override {
+        Proposed = folder;
+        return Answer("sets?", Sets);
     }
     std::optional<graphics::Argb> AskColor(const ColorQuestion& question) override {
         Question = question;

@@ -41,8 +41,7 @@ Survey SurveyOf(const std::vector<Argb>& pixels) {
     Survey survey;
     std::vector<Argb> distinct = pixels;
     std::ranges::sort(distinct);
-    const auto rest = std::ranges::unique(distinct);
-    distinct.erase(rest.begin(), rest.end());
+    distinct.erase(std::unique(distinct.begin(), distinct.end()), distinct.end());
     for (const Argb color : distinct) {
         survey.IsOpaque &= AlphaOf(color) == 255;
         survey.IsGray &= RedOf(color) == GreenOf(color) && GreenOf(color) == BlueOf(color);

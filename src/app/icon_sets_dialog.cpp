@@ -1,0 +1,195 @@
+#include "app/icon_sets_dialog.h"
+
+#include <QCheckBox>
+#include <QDialogButtonBox>
+#include <QFileDialog>
+#include <QGridLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPainter>
+#include <QPushButton>
+#include <algorithm>
+#include <set>
+
+#include "app/settings.h"
+#include "app/shared_image.h"
+#include "formats/icns_file.h"
+#include "formats/icon_sets.h"
+
+namespace orbelle::app {
+namespace {
+
+using formats::IconSet;
+
+constexpr char kSetsSetting[] = "IconSets";
+constexpr char kFolderSetting[] = "IconSetsFolder";
+constexpr int kThumbnail = 40;  // pixels a side at most
+constexpr std::size_t kMostThumbnails = 6;
+constexpr int kColumns = 2;
+
+struct Platform {
+    const char* Caption;
+    const char* Contents;
+};
+// In the order of formats::IconSet.
+constexpr Platform kPlatforms[] = {
+    {"&Windows", "An .ico file of 14 sizes, 16 to 256"},
+    {"&macOS", "An .icns file of 16 to 1024"},
+    {"&Linux", "PNG files of 16 to 512 in the folders of a theme"},
+    {"We&b", "favicon.ico, pictures for home screens, their manifest"},
+    {"&Android", "Launcher icons of five densities, adaptive ones too"},
+    {"i&OS", "An AppIcon set with its one picture of 1024"},
+};
+constexpr int kPlatformCount = std::size(kPlatforms);
+static_assert(kPlatformCount == std::size(formats::kIconSetNames));
+
+// All pictures of a set, each once, the smallest first.
+std::set<formats::SetPicture> PicturesOf(const formats::SetSource& source, IconSet set) {
+    std::set<formats::SetPicture> pictures;
+    const auto add = [&](int side) { pictures.insert({side, side, formats::Ground::None}); };
+    for (const formats::SetFile& file : FilesOfSet(set, source.Name, source.Background)) {
+        if (const auto* picture = std::get_if<formats::SetPicture>(&file.Content))
+            pictures.insert(*picture);
+        else if (const auto* icon = std::get_if<formats::SetIcon>(&file.Content))
+            std::ranges::for_each(icon->Sizes, add);
+        else if (std::holds_alternative<formats::SetIcns>(file.Content))
+            std::ranges::for_each(formats::kIcnsTypes, add, &formats::IcnsType::Side);
+    }
+    return pictures;
+}
+
+// Some of them, the smallest and the largest always.
+std::vector<formats::SetPicture> Samples(const std::set<formats::SetPicture>& pictures) {
+    const std::vector<formats::SetPicture> all(pictures.begin(), pictures.end());
+    if (all.size() <= kMostThumbnails)
+        return all;
+    std::vector<formats::SetPicture> samples;
+    for (std::size_t i = 0; i < kMostThumbnails; ++i)
+        samples.push_back(all[i * (all.size() - 1) / (kMostThumbnails - 1)]);
+    return samples;
+}
+
+QPixmap Thumbnails(const formats::SetSource& source, IconSet set, qreal ratio) {
+    constexpr int kSpacing = 6;
+    const std::vector<formats::SetPicture> samples = Samples(PicturesOf(source, set));
+    const int width = static_cast<int>(samples.size()) * (kThumbnail + kSpacing);
+    QPixmap row(QSizeF(width * ratio, kThumbnail * ratio).toSize());
+    row.setDevicePixelRatio(ratio);
+    row.fill(Qt::transparent);
+    QPainter painter(&row);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    int x = 0;
+    for (const formats::SetPicture& sample : samples) {
+        const int side = std::min(sample.Side, kThumbnail);
+        painter.drawImage(QRect(x, kThumbnail - side, side, side),
+                          SharedImage(DrawSetPicture(source, sample))
+                              .scaled(QSizeF(side * ratio, side * ratio).toSize(),
+                                      Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+        x += side + kSpacing;
+    }
+    return row;
+}
+
+}  // namespace
+
+IconSetsDialog::IconSetsDialog(const formats::SetSource& source,
+                               const std::filesystem::path& folder, QWidget* parent)
+    : QDialog(parent) {
+    setWindowTitle("Icon Set");
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(20, 20, 20, 16);
+    layout->setSpacing(16);
+    layout->setSizeConstraint(QLayout::SetFixedSize);
+
+    auto* grid = new QGridLayout;
+    grid->setHorizontalSpacing(32);
+    grid->setVerticalSpacing(16);
+    layout->addLayout(grid);
+    for (int i = 0; i < kPlatformCount; ++i)
+        grid->addWidget(MakeBox(source, static_cast<IconSet>(i)), i / kColumns, i % kColumns,
+                        Qt::AlignTop);
+    layout->addWidget(MakeFolderRow(folder));
+
+    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Cancel);
+    export_ = buttons->addButton("&Export", QDialogButtonBox::AcceptRole);
+    export_->setDefault(true);
+    layout->addWidget(buttons);
+    connect(buttons, &QDialogButtonBox::accepted, this, &IconSetsDialog::accept);
+    connect(buttons, &QDialogButtonBox::rejected, this, &IconSetsDialog::reject);
+    ShowState();
+}
+
+QWidget* IconSetsDialog::MakeBox(const formats::SetSource& source, IconSet set) {
+    const auto place = static_cast<std::size_t>(set);
+    const std::string_view name = formats::kIconSetNames[place];
+    const QString key = QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size()));
+    const QStringList chosen = Settings().value(kSetsSetting).toString().split(',');
+
+    auto* room = new QWidget;
+    auto* layout = new QVBoxLayout(room);
+    layout->setContentsMargins(0, 0, 0, 0);
+    auto* box = new QCheckBox(kPlatforms[place].Caption);
+    box->setObjectName(key);
+    box->setAccessibleDescription(kPlatforms[place].Contents);
+    box->setChecked(chosen.contains(key));
+    connect(box, &QCheckBox::toggled, this, &IconSetsDialog::ShowState);
+    boxes_.push_back(box);
+    auto* pictures = new QLabel;
+    pictures->setPixmap(Thumbnails(source, set, devicePixelRatioF()));
+    layout->addWidget(box);
+    layout->addWidget(new QLabel(kPlatforms[place].Contents));
+    layout->addWidget(pictures);
+    return room;
+}
+
+QWidget* IconSetsDialog::MakeFolderRow(const std::filesystem::path& folder) {
+    auto* row = new QWidget;
+    auto* layout = new QHBoxLayout(row);
+    layout->setContentsMargins(0, 0, 0, 0);
+    const QString remembered = Settings().value(kFolderSetting).toString();
+    folder_ =
+        new QLineEdit(remembered.isEmpty() ? QString::fromStdString(folder.string()) : remembered);
+    folder_->setObjectName("Folder");
+    connect(folder_, &QLineEdit::textChanged, this, &IconSetsDialog::ShowState);
+    auto* label = new QLabel("&Folder:");
+    label->setBuddy(folder_);
+    auto* browse = new QPushButton("B&rowse...");
+    connect(browse, &QPushButton::clicked, this, [this] {
+        const QString chosen = QFileDialog::getExistingDirectory(this, "Icon Set", folder_->text());
+        if (!chosen.isEmpty())
+            folder_->setText(chosen);
+    });
+    layout->addWidget(label);
+    layout->addWidget(folder_, 1);
+    layout->addWidget(browse);
+    return row;
+}
+
+void IconSetsDialog::ShowState() {
+    if (export_)
+        export_->setEnabled(!folder_->text().isEmpty() &&
+                            std::ranges::any_of(boxes_, &QCheckBox::isChecked));
+}
+
+SetChoice IconSetsDialog::Choice() const {
+    SetChoice choice{{}, folder_->text().toStdString()};
+    for (std::size_t i = 0; i < boxes_.size(); ++i) {
+        if (boxes_[i]->isChecked())
+            choice.Sets.push_back(static_cast<IconSet>(i));
+    }
+    return choice;
+}
+
+void IconSetsDialog::accept() {
+    QStringList chosen;
+    for (const QCheckBox* box : boxes_) {
+        if (box->isChecked())
+            chosen.push_back(box->objectName());
+    }
+    Settings settings;
+    settings.setValue(kSetsSetting, chosen.join(','));
+    settings.setValue(kFolderSetting, folder_->text());
+    QDialog::accept();
+}
+
+}  // namespace orbelle::app
