@@ -40,6 +40,15 @@ QString Warning(const std::vector<formats::Finding>& findings) {
     return text.left(1).toUpper() + text.mid(1);
 }
 
+// Each once.
+std::vector<int> CheckedSizes(const editing::Editor& editor) {
+    std::vector<int> sizes = IconSizesOf(editor);
+    std::ranges::copy(SetSizesOf(editor), std::back_inserter(sizes));
+    std::ranges::sort(sizes);
+    sizes.erase(std::unique(sizes.begin(), sizes.end()), sizes.end());
+    return sizes;
+}
+
 }  // namespace
 
 SizesPanel::SizesPanel(const WindowContext& context)
@@ -245,10 +254,10 @@ void SizesPanel::Make() {
     isMaking_ = true;
     isStale_ = false;
     const document::Family& pages = editor.Document;
-    const std::vector<int> exported = IconSizesOf(editor);
+    const std::vector<int> checked = CheckedSizes(editor);
     std::vector<int> sizes = sizes_;
     if (isCheckShown_)
-        std::ranges::copy_if(exported, std::back_inserter(sizes), [this](int size) {
+        std::ranges::copy_if(checked, std::back_inserter(sizes), [this](int size) {
             return std::ranges::find(sizes_, size) == sizes_.end();
         });
     thread_.start([=, this, isChecked = isCheckShown_, current = editor.Canvas] {
@@ -256,7 +265,7 @@ void SizesPanel::Make() {
         try {
             made.Previews = maker_.Make(pages, current, sizes);
             if (isChecked)
-                made.Findings = FindingsOf(made.Previews, exported, pages);
+                made.Findings = EvidentFindings(made.Previews, checked, pages);
         } catch (const std::exception&) {
             // No memory: the pictures stay as they are; the next ones may fit.
         }

@@ -52,7 +52,8 @@ Action ReadCombine(Words& words) {
     if (pictures.size() > formats::kMaxCombinedPictures)
         throw UsageError("more than seven PNG files");
     return [=](Workspace& workspace) {
-        formats::CombinePngs(pictures, output, workspace.Editor.ExportSettings.IconPictures);
+        const formats::ExportSettings& settings = workspace.Editor.ExportSettings;
+        formats::CombinePngs(pictures, output, settings.IconPictures, settings.Packing);
     };
 }
 

@@ -47,7 +47,7 @@ void Check(Workspace& workspace) {
     const editing::Editor& editor = workspace.Editor;
     const formats::FlatFamily flat = formats::Flatten(editor.Document, editor.Canvas);
     for (const formats::Finding& finding :
-         CheckIcon(editor.Document, flat, editing::IconSizesOf(editor)))
+         CheckIcon(editor.Document, flat, IconSizesOf(editor), SetSizesOf(editor)))
         workspace.Output << DescribeFinding(finding) << '\n';
     RequirePrinted(workspace.Output);
 }

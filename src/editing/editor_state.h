@@ -1,6 +1,8 @@
 // What the commands work on, as a value that can be kept and gone back to.
 #pragma once
 
+#include <bitset>
+#include <iterator>
 #include <optional>
 #include <string>
 #include <vector>
@@ -12,7 +14,8 @@
 #include "editing/overlays.h"
 #include "editing/sliders.h"
 #include "editing/tool.h"
-#include "formats/export_image.h"
+#include "formats/export_settings.h"
+#include "formats/icon_sets.h"
 #include "graphics/geometry.h"
 
 namespace orbelle::editing {
@@ -54,6 +57,7 @@ struct EditorState {
     editing::Sliders Sliders;
     editing::Overlays Overlays;
     formats::ExportSettings ExportSettings;
+    std::bitset<std::size(formats::kIconSetNames)> ExportedSets;  // so far, by formats::IconSet
     graphics::PointF LastPointer;  // the last move on the scene, scene pixels
 
     // The page that is being edited.

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <functional>
+#include <iterator>
 #include <optional>
 
 #include "formats/export_icon.h"
@@ -61,6 +62,18 @@ std::vector<int> IconSizesOf(const EditorState& editor) {
     return sizes;
 }
 
+std::vector<int> SetSizesOf(const EditorState& editor) {
+    std::vector<int> sizes;
+    for (std::size_t set = 0; set < editor.ExportedSets.size(); ++set) {
+        if (editor.ExportedSets[set])
+            std::ranges::copy(formats::SizesOfSet(static_cast<formats::IconSet>(set)),
+                              std::back_inserter(sizes));
+    }
+    std::ranges::sort(sizes);
+    sizes.erase(std::unique(sizes.begin(), sizes.end()), sizes.end());
+    return sizes;
+}
+
 void ExportTo(Editor& editor, const std::filesystem::path& path, formats::ExportFormat format) {
     formats::ExportSettings settings = editor.ExportSettings;
     if (const std::optional<IconKind> kind = IconKindOf(format)) {
@@ -83,6 +96,8 @@ void ExportSets(Editor& editor, const std::filesystem::path& folder,
     for (const formats::RenderedSet& set :
          RenderSets(SetSourceOf(editor), sets, editor.ExportSettings))
         WriteSet(folder, set);
+    for (const formats::IconSet set : sets)
+        editor.ExportedSets.set(static_cast<std::size_t>(set));
 }
 
 std::string FileNameOf(const document::Document& document) {

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "editing/editor.h"
+#include "formats/export_image.h"
 #include "formats/icon_sets.h"
 
 namespace orbelle::editing {
@@ -15,6 +16,9 @@ namespace orbelle::editing {
 // file that the document was opened from, but for those that nothing is left for; else the table
 // for the master's size.
 std::vector<int> IconSizesOf(const EditorState& editor);
+
+// The sizes of all sets of files that were exported so far, rising.
+std::vector<int> SetSizesOf(const EditorState& editor);
 
 // Writes the page in force as a file of another kind, or the picture of the side that
 // Editor::ExportSettings tell; an icon from all pages. Their GIF threshold counts for pages without
@@ -28,7 +32,7 @@ graphics::Bitmap PictureToExport(const Editor& editor);
 formats::SetSource SetSourceOf(const Editor& editor);
 
 // Whole sets of files below a folder, one set after the other: one that fails leaves nothing of
-// itself and throws Error.
+// itself and throws Error. From then on a check looks at their sizes, too.
 void ExportSets(Editor& editor, const std::filesystem::path& folder,
                 std::span<const formats::IconSet> sets);
 

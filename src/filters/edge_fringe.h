@@ -11,4 +11,8 @@ namespace orbelle::filters {
 // pixel that is at most 3 pixels away both across and down.
 bool HasFringe(const graphics::Bitmap& picture);
 
+// The same where only colours count that are brighter, by more than 64 in one channel, than every
+// such pixel: what is left of a light ground. Dark edges are mostly shadows and outlines.
+bool HasLightFringe(const graphics::Bitmap& picture);
+
 }  // namespace orbelle::filters

@@ -29,7 +29,12 @@ double Luminance(Argb color) {
            0.0722 * light[graphics::BlueOf(color)];
 }
 
-std::vector<Argb> OutlineOf(const Bitmap& picture) {
+struct Place {
+    int X = 0;
+    int Y = 0;
+};
+
+std::vector<Place> OutlineOf(const Bitmap& picture) {
     const auto width = static_cast<std::size_t>(picture.Width());
     const auto height = static_cast<std::size_t>(picture.Height());
     // With a border that is outside.
@@ -39,16 +44,45 @@ std::vector<Argb> OutlineOf(const Bitmap& picture) {
         std::transform(picture.Row(static_cast<int>(y)), picture.Row(static_cast<int>(y)) + width,
                        &isSolid[(y + 1) * stride + 1],
                        [](Argb color) { return graphics::AlphaOf(color) >= kSolidAlpha; });
-    std::vector<Argb> outline;
+    std::vector<Place> outline;
     for (std::size_t y = 0; y < height; ++y) {
         const unsigned char* here = &isSolid[(y + 1) * stride + 1];
         for (std::size_t x = 0; x < width; ++x, ++here) {
             const bool isInside = here[-1] && here[1] && *(here - stride) && here[stride];
             if (*here && !isInside)
-                outline.push_back(picture.Row(static_cast<int>(y))[x]);
+                outline.push_back({static_cast<int>(x), static_cast<int>(y)});
         }
     }
     return outline;
+}
+
+// The highest of the solid pixels that are at most `reach` away, itself among them.
+double BestRatio(const Bitmap& picture, Place place, int reach, Argb ground) {
+    const int left = std::max(place.X - reach, 0);
+    const int right = std::min(place.X + reach, picture.Width() - 1);
+    const int bottom = std::min(place.Y + reach, picture.Height() - 1);
+    double best = 0;
+    for (int y = std::max(place.Y - reach, 0); y <= bottom; ++y) {
+        for (int x = left; x <= right; ++x) {
+            const Argb color = picture.Row(y)[x];
+            if (graphics::AlphaOf(color) >= kSolidAlpha)
+                best = std::max(best, ContrastRatio(color, ground));
+        }
+    }
+    return best;
+}
+
+std::optional<double> MedianOnOutline(const Bitmap& picture, int reach, Argb ground) {
+    std::vector<double> ratios;
+    for (const Place place : OutlineOf(picture))
+        ratios.push_back(BestRatio(picture, place, reach, ground));
+    if (ratios.empty())
+        return std::nullopt;
+    const auto middle = ratios.begin() + static_cast<std::ptrdiff_t>(ratios.size() / 2);
+    std::ranges::nth_element(ratios, middle);
+    if (ratios.size() % 2 == 1)
+        return *middle;
+    return (*std::max_element(ratios.begin(), middle) + *middle) / 2;
 }
 
 }  // namespace
@@ -60,16 +94,11 @@ double ContrastRatio(Argb first, Argb second) {
 }
 
 std::optional<double> OutlineContrast(const Bitmap& picture, Argb ground) {
-    std::vector<double> ratios;
-    for (const Argb color : OutlineOf(picture))
-        ratios.push_back(ContrastRatio(color, ground));
-    if (ratios.empty())
-        return std::nullopt;
-    const auto middle = ratios.begin() + static_cast<std::ptrdiff_t>(ratios.size() / 2);
-    std::ranges::nth_element(ratios, middle);
-    if (ratios.size() % 2 == 1)
-        return *middle;
-    return (*std::max_element(ratios.begin(), middle) + *middle) / 2;
+    return MedianOnOutline(picture, 0, ground);
+}
+
+std::optional<double> RimContrast(const Bitmap& picture, Argb ground) {
+    return MedianOnOutline(picture, kRimWidth, ground);
 }
 
 }  // namespace orbelle::filters

@@ -41,10 +41,12 @@ std::vector<Finding> FindingsAt(int size, const Bitmap& picture, const Family& f
     for (const graphics::Argb ground : {filters::kLightGround, filters::kDarkGround}) {
         const auto contrast = filters::OutlineContrast(picture, ground);
         if (contrast && *contrast < filters::kLeastContrast)
-            findings.push_back({size, Fault::Contrast, ground, *contrast});
+            findings.push_back(
+                {size, Fault::Contrast, ground, *contrast,
+                 *filters::RimContrast(picture, ground) < filters::kLeastRimContrast});
     }
     if (filters::HasFringe(picture))
-        findings.push_back({size, Fault::Fringe});
+        findings.push_back({size, Fault::Fringe, 0, 0, filters::HasLightFringe(picture)});
     const Page* artwork = family.ArtworkOf(size);
     if (LongerSide(artwork ? *artwork : family.Master) < size)
         findings.push_back({size, Fault::Upscaled});
@@ -73,11 +75,18 @@ std::vector<Finding> InOrder(std::vector<Finding> findings) {
 }
 
 std::vector<Finding> CheckIcon(const Family& family, const FlatFamily& flat,
-                               const std::vector<int>& sizes) {
+                               const std::vector<int>& iconSizes,
+                               const std::vector<int>& setSizes) {
     std::vector<Finding> findings = FindingsOfPages(family);
-    for (const int size : sizes)
-        std::ranges::copy(FindingsAt(size, PictureForSize(flat, size), family),
-                          std::back_inserter(findings));
+    const auto look = [&](int size, const Bitmap& picture) {
+        std::ranges::copy(FindingsAt(size, picture, family), std::back_inserter(findings));
+    };
+    for (const int size : iconSizes)
+        look(size, PictureForSize(flat, size));
+    for (const int size : setSizes) {
+        if (std::ranges::find(iconSizes, size) == iconSizes.end())
+            look(size, EnlargedPictureForSize(flat, size));
+    }
     return InOrder(std::move(findings));
 }
 

@@ -24,6 +24,9 @@ struct Finding {
     Fault Kind = Fault::Empty;
     graphics::Argb Ground = 0;  // Contrast: the ground, and the ratio to it
     double Contrast = 0;
+    // Contrast and Fringe: the stricter filters::RimContrast and HasLightFringe find it, too. What
+    // they do not find is rarely seen by eye; what is shown while somebody draws leaves it out.
+    bool IsEvident = true;
     bool operator==(const Finding&) const = default;
 };
 
@@ -37,8 +40,9 @@ std::vector<Finding> FindingsOfPages(const document::Family& family);
 // By rising size, then by kind, each once; a size that is Empty has no others.
 std::vector<Finding> InOrder(std::vector<Finding> findings);
 
-// All of them. `flat` is the same family, flattened.
+// All of them, evident or not, at sizes of an icon, and of sets of files where those above the
+// master's are enlarged. `flat` is the same family, flattened.
 std::vector<Finding> CheckIcon(const document::Family& family, const FlatFamily& flat,
-                               const std::vector<int>& sizes);
+                               const std::vector<int>& iconSizes, const std::vector<int>& setSizes);
 
 }  // namespace orbelle::formats

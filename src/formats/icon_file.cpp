@@ -62,8 +62,9 @@ Bytes EncodeBitmap(const Bitmap& picture) {
     return bytes;
 }
 
-Bytes EncodePicture(const Bitmap& picture, IconFormat format) {
-    return StandsAsPng(picture, format) ? graphics::EncodePng(picture) : EncodeBitmap(picture);
+Bytes EncodePicture(const Bitmap& picture, IconFormat format, graphics::PngPacking packing) {
+    return StandsAsPng(picture, format) ? graphics::EncodePng(picture, packing)
+                                        : EncodeBitmap(picture);
 }
 
 }  // namespace
@@ -74,7 +75,7 @@ bool StandsAsPng(const Bitmap& picture, IconFormat format) {
 }
 
 Bytes EncodeIcon(std::span<const Bitmap> pictures, IconFormat format, std::span<const Bytes> pngs,
-                 std::span<const Hotspot> hotspots) {
+                 std::span<const Hotspot> hotspots, graphics::PngPacking packing) {
     if (pictures.empty() || pictures.size() > kMaxEntries)
         throw std::invalid_argument("an icon holds 1 to 65535 pictures");
     Bytes icon;
@@ -92,7 +93,8 @@ Bytes EncodeIcon(std::span<const Bitmap> pictures, IconFormat format, std::span<
         const Bytes encoded =
             i < pngs.size() && !pngs[i].empty()
                 ? pngs[i]
-                : EncodePicture(CopyBitmap(picture, picture.Width(), picture.Height()), format);
+                : EncodePicture(CopyBitmap(picture, picture.Width(), picture.Height()), format,
+                                packing);
         // 256 does not fit into its byte and stands as 0.
         Append<std::uint8_t>(icon, static_cast<std::uint8_t>(picture.Width()));
         Append<std::uint8_t>(icon, static_cast<std::uint8_t>(picture.Height()));
@@ -111,7 +113,8 @@ Bytes EncodeIcon(std::span<const Bitmap> pictures, IconFormat format, std::span<
 }
 
 void CombinePngs(std::span<const std::filesystem::path> pictures,
-                 const std::filesystem::path& output, IconFormat format) {
+                 const std::filesystem::path& output, IconFormat format,
+                 graphics::PngPacking packing) {
     if (pictures.size() > kMaxCombinedPictures)
         throw std::invalid_argument("more than seven pictures for one icon");
     std::vector<Bitmap> loaded;
@@ -123,7 +126,7 @@ void CombinePngs(std::span<const std::filesystem::path> pictures,
             throw graphics::FileError(path, "larger than 256 x 256 pixels");
     }
     if (!loaded.empty())
-        graphics::WriteFile(output, EncodeIcon(loaded, format));
+        graphics::WriteFile(output, EncodeIcon(loaded, format, {}, {}, packing));
 }
 
 }  // namespace orbelle::formats

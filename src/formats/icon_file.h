@@ -8,6 +8,7 @@
 
 #include "formats/hotspot.h"
 #include "graphics/bitmap.h"
+#include "graphics/codecs/image_files.h"
 
 namespace orbelle::formats {
 
@@ -23,7 +24,8 @@ inline constexpr int kMaxIconSide = 256;
 // std::invalid_argument for no picture, an empty one or one above kMaxIconSide.
 std::vector<std::uint8_t> EncodeIcon(std::span<const graphics::Bitmap> pictures, IconFormat format,
                                      std::span<const std::vector<std::uint8_t>> pngs = {},
-                                     std::span<const Hotspot> hotspots = {});
+                                     std::span<const Hotspot> hotspots = {},
+                                     graphics::PngPacking packing = graphics::PngPacking::Fast);
 
 // Whether a picture of that size stands as PNG.
 bool StandsAsPng(const graphics::Bitmap& picture, IconFormat format);
@@ -33,6 +35,7 @@ inline constexpr int kMaxCombinedPictures = 7;
 // Puts up to seven picture files into one icon file, in the order given; empty names are passed
 // over. With no name at all nothing is written. Throws graphics::FileError.
 void CombinePngs(std::span<const std::filesystem::path> pictures,
-                 const std::filesystem::path& output, IconFormat format = IconFormat::Bmp);
+                 const std::filesystem::path& output, IconFormat format = IconFormat::Bmp,
+                 graphics::PngPacking packing = graphics::PngPacking::Fast);
 
 }  // namespace orbelle::formats

@@ -1,7 +1,9 @@
 #include "formats/icon_sets.h"
 
 #include <algorithm>
+#include <iterator>
 #include <map>
+#include <set>
 #include <utility>
 
 #include "formats/export_icon.h"
@@ -167,6 +169,20 @@ std::vector<SetFile> FilesOfSet(IconSet set, const std::string& name, Argb backg
                     {"ios/AppIcon.appiconset/Contents.json", AppIconContents()}};
     }
     return {};
+}
+
+std::vector<int> SizesOfSet(IconSet set) {
+    std::set<int> sizes;
+    for (const SetFile& file : FilesOfSet(set, "", 0)) {
+        if (const auto* icon = std::get_if<SetIcon>(&file.Content))
+            sizes.insert(icon->Sizes.begin(), icon->Sizes.end());
+        else if (const auto* picture = std::get_if<SetPicture>(&file.Content);
+                 picture && picture->IconSide == picture->Side)
+            sizes.insert(picture->Side);
+        else if (std::holds_alternative<SetIcns>(file.Content))
+            std::ranges::transform(kIcnsTypes, std::inserter(sizes, sizes.end()), &IcnsType::Side);
+    }
+    return {sizes.begin(), sizes.end()};
 }
 
 Bitmap DrawSetPicture(const SetSource& source, const SetPicture& picture) {

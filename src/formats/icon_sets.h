@@ -48,6 +48,9 @@ struct SetFile {
 // `name` is what the user calls the icon, any bytes but '/'.
 std::vector<SetFile> FilesOfSet(IconSet set, const std::string& name, graphics::Argb background);
 
+// Of the pictures that the icon fills, rising.
+std::vector<int> SizesOfSet(IconSet set);
+
 struct SetSource {
     FlatFamily Family;
     graphics::Argb Background = 0;  // the page's

@@ -12,12 +12,14 @@ namespace orbelle::formats {
 using document::Page;
 using graphics::Bitmap;
 
-std::vector<Finding> FindingsOf(const std::vector<SizePreview>& previews,
-                                const std::vector<int>& sizes, const document::Family& family) {
+std::vector<Finding> EvidentFindings(const std::vector<SizePreview>& previews,
+                                     const std::vector<int>& sizes,
+                                     const document::Family& family) {
     std::vector<Finding> findings = FindingsOfPages(family);
     for (const SizePreview& preview : previews) {
         if (std::ranges::find(sizes, preview.Size) != sizes.end())
-            std::ranges::copy(preview.Findings, std::back_inserter(findings));
+            std::ranges::copy_if(preview.Findings, std::back_inserter(findings),
+                                 &Finding::IsEvident);
     }
     return InOrder(std::move(findings));
 }

@@ -16,9 +16,9 @@ struct SizePreview {
     std::vector<Finding> Findings;
 };
 
-// What CheckIcon finds at those of the sizes that have a preview.
-std::vector<Finding> FindingsOf(const std::vector<SizePreview>& previews,
-                                const std::vector<int>& sizes, const document::Family& family);
+// What CheckIcon finds, and is evident, at those of the sizes that have a preview.
+std::vector<Finding> EvidentFindings(const std::vector<SizePreview>& previews,
+                                     const std::vector<int>& sizes, const document::Family& family);
 
 // Keeps what it made last, so that a change of a page costs only the pictures that come from it:
 // those of the master, or the one of a size that has artwork of its own.

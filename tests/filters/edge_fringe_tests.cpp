@@ -63,6 +63,19 @@ TEST(EdgeFringe, ColoursComeFromTheWholeNeighbourhood) {
     EXPECT_FALSE(HasFringe(square));
 }
 
+// The body is (64, 96, 128).
+TEST(EdgeFringe, ALightOneIsBrighterInOneChannel) {
+    const auto isLight = [](Argb edge) {
+        return HasLightFringe(RowOf({0, edge, kBody, kBody, edge, 0}));
+    };
+    EXPECT_TRUE(isLight(0x20FFFFFF));
+    EXPECT_TRUE(isLight(0x2081003F)) << "though darker in the others";
+    EXPECT_FALSE(isLight(0x208000C0));
+    EXPECT_FALSE(isLight(0x20000000));
+    EXPECT_TRUE(IsFringe(0x20000000)) << "a dark one";
+    EXPECT_FALSE(HasLightFringe(RowOf({0x20FFFFFF, kBody, kBody, 0xFFE0E0E0})));
+}
+
 TEST(EdgeFringe, OneInTwentyMayBeForeign) {
     std::vector<Argb> row;
     for (int i = 0; i < 20; ++i)

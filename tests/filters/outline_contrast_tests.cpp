@@ -62,5 +62,23 @@ TEST(OutlineContrast, TheMedianIsTheMiddleOneOrTheMeanOfTwo) {
     EXPECT_EQ(OutlineContrast({}, black), std::nullopt);
 }
 
+// A black line on black is seen by the white two pixels inside it, not three, and not by what
+// shines through.
+TEST(OutlineContrast, TheRimTakesTheBestOfWhatIsJustInside) {
+    const Argb black = 0xFF000000, white = 0xFFFFFFFF;
+    const auto framed = [](int line, Argb inside) {
+        graphics::Bitmap picture = testing::FilledPicture(12, 12, 0xFF000000);
+        for (int y = line; y < 12 - line; ++y)
+            for (int x = line; x < 12 - line; ++x)
+                picture.SetPixel(x, y, inside);
+        return picture;
+    };
+    EXPECT_EQ(OutlineContrast(framed(2, white), black), 1);
+    EXPECT_EQ(RimContrast(framed(2, white), black), 21);
+    EXPECT_EQ(RimContrast(framed(3, white), black), 1);
+    EXPECT_EQ(RimContrast(framed(1, 0x7FFFFFFF), black), 1);
+    EXPECT_EQ(RimContrast({}, black), std::nullopt);
+}
+
 }  // namespace
 }  // namespace orbelle::filters

@@ -97,6 +97,18 @@ TEST_F(SizePreviewsTest, EachIsThePictureOfAnExportWithItsFindings) {
     const Finding white{16, Fault::Contrast, 0xFFFFFFFF, 1};
     EXPECT_EQ(last[2].Findings, std::vector{white});
     EXPECT_EQ(last[0].Findings.back(), (Finding{128, Fault::Upscaled}));
+    EXPECT_EQ(EvidentFindings(last, {16}, family), std::vector{white});
+    // A dark line is as dark as the ground, but what it encloses is not: nothing to speak of.
+    document::Page framed = PageOf(16, {0xFF202020});
+    for (int y = 1; y < 15; ++y)
+        for (int x = 1; x < 15; ++x)
+            framed.Layers[0].Image.SetPixel(x, y, 0xFFFF0000);
+    family.SetArtwork(16, framed);
+    Remade({16});
+    ASSERT_EQ(last[0].Findings.size(), 1U);
+    EXPECT_EQ(last[0].Findings[0].Kind, Fault::Contrast);
+    EXPECT_TRUE(EvidentFindings(last, {16}, family).empty());
+
     family.Master.Layers.clear();
     Remade({24});
     EXPECT_EQ(last[0].Findings, (std::vector<Finding>{{24, Fault::Empty}}));

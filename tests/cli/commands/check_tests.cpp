@@ -96,5 +96,24 @@ TEST_F(CheckVerb, SizesRiseAndKindsKeepTheirOrder) {
                   R"(; {"size":32,"kind":"fringe"}; {"size":32,"kind":"clipped"})");
 }
 
+// Master 32: what is larger is scaled up, each size once; a picture in whose middle the icon stands
+// smaller is none of its sizes.
+TEST_F(CheckVerb, SizesOfSetsThatWereExportedAreLookedAt) {
+    const auto upscaled = [](std::initializer_list<int> sizes) {
+        std::string text;
+        for (const int size : sizes)
+            text += (text.empty() ? "" : "; ") + (R"({"size":)" + std::to_string(size)) +
+                    R"(,"kind":"upscaled"})";
+        return text;
+    };
+    const std::string open = "open good.png icon-sizes 32 export-set sets ";
+    EXPECT_EQ(Told(open + "ios"), upscaled({1024}));
+    EXPECT_EQ(Told(open + "macos"), upscaled({64, 128, 256, 512, 1024}));
+    EXPECT_EQ(Told(open + "android"), upscaled({48, 72, 96, 144, 192}));
+    EXPECT_EQ(Told(open + "web export-set sets ios"), upscaled({48, 180, 192, 512, 1024}));
+    EXPECT_EQ(Told("open good.png icon-sizes 32 size 48 export-set sets web size master"),
+              upscaled({180, 192, 512}));
+}
+
 }  // namespace
 }  // namespace orbelle::cli

@@ -101,6 +101,10 @@ TEST_F(ExportVerbsTest, SmallFilesShowTheSame) {
     EXPECT_LT(graphics::ReadFile("small.png").size(), graphics::ReadFile("fast.png").size());
     EXPECT_EQ(Argbs(graphics::LoadImageFromFile("fast.png")),
               Argbs(graphics::LoadImageFromFile("small.png")));
+    EXPECT_EQ(Run("icon-format png combine fast.ico fast.png compress small "
+                  "combine small.ico fast.png"),
+              "");
+    EXPECT_LT(graphics::ReadFile("small.ico").size(), graphics::ReadFile("fast.ico").size());
 }
 
 TEST_F(ExportVerbsTest, SetsAreNamedAfterTheFile) {
