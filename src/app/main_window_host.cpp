@@ -2,7 +2,6 @@
 #include "app/main_window.h"
 
 #include <QGuiApplication>
-#include <QProgressDialog>
 #include <QScrollBar>
 #include <QSignalBlocker>
 #include <QStatusBar>
@@ -32,8 +31,7 @@ namespace orbelle::app {
 namespace {
 
 constexpr int kStatusMilliseconds = 8000;
-constexpr int kPatienceMilliseconds = 500;  // before a long run is shown
-constexpr int kScrollPositions = 10;        // the scene scrolls in tenths
+constexpr int kScrollPositions = 10;  // the scene scrolls in tenths
 
 void MirrorBar(QScrollBar& shown, const document::ScrollBar& bar, int sceneSize) {
     const QSignalBlocker notTheUser(&shown);
@@ -141,24 +139,12 @@ void MainWindow::ShowStatus(const std::string& text) {
     statusBar()->showMessage(QString::fromStdString(text), kStatusMilliseconds);
 }
 
-bool MainWindow::GoOn(int done, int count) {
-    if (done >= count) {
-        progress_.reset();
-        return true;
-    }
-    if (done == 0)
-        runTime_.start();
-    // Made only now: it would come up over a question that it waits for.
-    if (!progress_ && runTime_.elapsed() >= kPatienceMilliseconds) {
-        progress_ =
-            std::make_unique<QProgressDialog>("Importing the files...", "&Cancel", 0, count, this);
-        progress_->setWindowTitle(editing::kProductName);
-        progress_->setWindowModality(Qt::ApplicationModal);
-        progress_->setMinimumDuration(0);
-    }
-    if (progress_)
-        progress_->setValue(done);
-    return !progress_ || !progress_->wasCanceled();
+bool MainWindow::GoOn(int done, int count, const std::string& doing) {
+    return progress_.GoOn(done, count, doing);
+}
+
+void MainWindow::DoMeanwhile(const std::function<void()>& work) {
+    progress_.DoMeanwhile(work);
 }
 
 SavePromptAnswer MainWindow::AskSave() {

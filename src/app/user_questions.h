@@ -2,6 +2,7 @@
 #pragma once
 
 #include <filesystem>
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -54,9 +55,12 @@ public:
     // Told in the status line, without a box, until the next command.
     virtual void ShowStatus(const std::string& text) = 0;
 
-    // How far a long run over files has come; after a while a dialog shows it. The run ends with
-    // `done` = `count`. False: the user wants to stop.
-    virtual bool GoOn(int done, int count) = 0;
+    // How far a long run over files has come, and what it is about to do; after a while a dialog
+    // shows it. The run ends with `done` = `count`. False: the user wants to stop.
+    virtual bool GoOn(int done, int count, const std::string& doing) = 0;
+    // Does a part of such a run, which may take long, on another thread, so that the dialog comes
+    // meanwhile. The editor belongs to this thread. Throws what the work throws.
+    virtual void DoMeanwhile(const std::function<void()>& work) = 0;
 
     // "Save Icon Document?": before a changed document is given up.
     virtual SavePromptAnswer AskSave() = 0;

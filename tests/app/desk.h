@@ -37,7 +37,7 @@ public:
     graphics::Bitmap Suggested;  // what recipes were asked for
     std::optional<graphics::Argb> Color;
     std::vector<std::string> Told;
-    std::string Message, Status;  // the last
+    std::string Message, Status, Doing;  // the last
     std::filesystem::path Proposed;
     ColorQuestion Question;
 
@@ -71,7 +71,12 @@ public:
         Told.emplace_back("message");
         Message = text;
     }
-    bool GoOn(int done, int) override { return done < FilesAtMost; }
+    bool GoOn(int done, int count, const std::string& doing) override {
+        if (done < count)
+            Doing = doing;
+        return done < FilesAtMost;
+    }
+    void DoMeanwhile(const std::function<void()>& work) override { work(); }
     void ShowStatus(const std::string& text) override { Status = text; }
     void ShowFolder(const std::string& text, const std::filesystem::path&) override {
         ShowMessage(text);
