@@ -100,6 +100,8 @@ public:
     std::filesystem::path AskFileToWrite(const std::string& filter,
                                          const std::filesystem::path& proposed) override;
     std::optional<int> AskGifThreshold(const graphics::Bitmap& surface) override;
+    std::optional<formats::Hotspot> AskHotspot(const graphics::Bitmap& picture,
+                                               formats::Hotspot start) override;
     std::optional<IconChoice> ChooseIconImages(const std::vector<formats::IconEntryImage>& offered,
                                                const IconQuestion& question) override;
     std::optional<int> AskSvgSide(const PageSize& own) override;

@@ -13,6 +13,7 @@
 #include "app/findings_list.h"
 #include "app/fit_dialog.h"
 #include "app/gif_optimizer_dialog.h"
+#include "app/hotspot_dialog.h"
 #include "app/icon_images_dialog.h"
 #include "app/icon_sets_dialog.h"
 #include "app/links.h"
@@ -174,6 +175,14 @@ std::optional<int> MainWindow::AskGifThreshold(const graphics::Bitmap& surface) 
     if (optimizer.exec() != QDialog::Accepted)
         return std::nullopt;
     return optimizer.OptimizeValue();
+}
+
+std::optional<formats::Hotspot> MainWindow::AskHotspot(const graphics::Bitmap& picture,
+                                                       formats::Hotspot start) {
+    HotspotDialog dialog(picture, start, this);
+    if (dialog.exec() != QDialog::Accepted)
+        return std::nullopt;
+    return dialog.Choice();
 }
 
 std::optional<IconChoice> MainWindow::ChooseIconImages(

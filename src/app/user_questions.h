@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "filters/size_recipes.h"
+#include "formats/hotspot.h"
 #include "formats/icon_reader.h"
 #include "formats/icon_sets.h"
 #include "graphics/bitmap.h"
@@ -76,6 +77,10 @@ public:
     // At which alpha (0 to 200) a pixel of the surface counts as opaque in a GIF. No value:
     // cancelled.
     virtual std::optional<int> AskGifThreshold(const graphics::Bitmap& surface) = 0;
+    // Which pixel of a picture a pointer points with, at first the nearest to `start`. No value:
+    // cancelled.
+    virtual std::optional<formats::Hotspot> AskHotspot(const graphics::Bitmap& picture,
+                                                       formats::Hotspot start) = 0;
     // Which images of an icon file to take. No value: cancelled.
     virtual std::optional<IconChoice> ChooseIconImages(
         const std::vector<formats::IconEntryImage>& offered, const IconQuestion& question) = 0;

@@ -27,6 +27,7 @@ public:
     int FilesAtMost = INT_MAX;     // then the user stops a long run
     std::filesystem::path ToRead, ToWrite;
     std::optional<int> GifThreshold;
+    std::optional<formats::Hotspot> PointsAt;
     std::optional<IconChoice> IconImages;
     IconQuestion AskedOfIcon;
     std::optional<int> SvgSide;
@@ -102,6 +103,9 @@ public:
     }
     std::optional<int> AskGifThreshold(const graphics::Bitmap&) override {
         return Answer("threshold?", GifThreshold);
+    }
+    std::optional<formats::Hotspot> AskHotspot(const graphics::Bitmap&, formats::Hotspot) override {
+        return Answer("hotspot?", PointsAt);
     }
     std::optional<IconChoice> ChooseIconImages(const std::vector<formats::IconEntryImage>&,
                                                const IconQuestion& question) override {
