@@ -50,10 +50,10 @@ bool MayReplace(const WindowContext& context, const SetChoice& choice,
     int there = 0;
     for (const IconSet set : choice.Sets)
         there += FilesThere(choice, set, source).Count;
-    return there == 0 ||
-           context.User.Confirm(FilesText(there) + " of these sets already " +
-                                    (there == 1 ? "exists" : "exist") + ", overwrite?",
-                                "Warning");
+    return there == 0 || context.User.Confirm(
+                             FilesText(there) + " of these sets already " +
+                                 (there == 1 ? "exists, overwrite it?" : "exist, overwrite them?"),
+                             "Warning");
 }
 
 class Summary {

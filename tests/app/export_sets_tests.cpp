@@ -46,7 +46,8 @@ TEST(AskExportSetsTest, AsksOnceAndTellsWhatWasWrittenAndWhatNot) {
     graphics::WriteFile(folder / "out/web", {});
     desk.Told.clear();
     AskExportSets(desk.Context);
-    EXPECT_THAT(desk.Told, ElementsAre("sets?", "1 file of these sets already exists, overwrite?"));
+    EXPECT_THAT(desk.Told,
+                ElementsAre("sets?", "1 file of these sets already exists, overwrite it?"));
     EXPECT_FALSE(fs::exists(folder / "out/ios/AppIcon.appiconset/icon-1024.png"));
 
     desk.OverwriteAnswer = true;
