@@ -70,6 +70,15 @@ take() { # NAME
     import -window root -crop $((width * scale))x$(((height - 2) * scale))+0+"$scale" +repage "$taken"
 }
 
+menu() { # LETTER...
+    xdotool key "alt+$1"
+    for letter in "${@:2}"; do
+        sleep 0.3
+        xdotool key "$letter"
+    done
+    sleep 0.8
+}
+
 # The panel of sizes on each of its grounds, below each other.
 take_grounds() { # FILE
     local ground strips=()
@@ -160,13 +169,36 @@ pictures_at() { # SCALE
     take_grounds "$PWD/samples/ok-badge.volf"
 
     make_home USED
+    sed -i /SizesClosed/d "$home/OrbelleWork.conf"
+    start_program "$PWD/samples/ok-badge.volf"
+    menu t c
+    take check
+    stop_program
+
+    make_home USED
+    printf '%s\n' 'IconSets="windows,macos,linux,web,android,ios"' "IconSetsFolder=/home/ann/icons" \
+        >>"$home/OrbelleWork.conf"
+    start_program "$PWD/samples/ok-badge.volf"
+    menu f e s
+    take icon-set
+    stop_program
+
+    "$bin/orbelle-cli" svg-size 32 open "$work/arrow.svg" save "$work/arrow.volf"
+    make_home USED
+    start_program "$work/arrow.volf"
+    menu f e c
+    xdotool type --delay 5 "$work/arrow.cur"
+    xdotool key Return
+    sleep 0.5
+    focus 'Hot Spot'
+    xdotool key --repeat 4 Right
+    xdotool key --repeat 2 Down
+    take hot-spot
+    stop_program
+
+    make_home USED
     start_program "$PWD/samples/leaf.png"
-    xdotool key alt+f
-    sleep 0.3
-    xdotool key e
-    sleep 0.3
-    xdotool key g
-    sleep 0.8
+    menu f e g
     xdotool type --delay 5 "$work/leaf.gif"
     xdotool key Return
     take gif-optimizer
@@ -178,6 +210,10 @@ pictures_at() { # SCALE
 }
 
 mkdir -p "$pictures"
+cat >"$work/arrow.svg" <<'EOF'
+<svg xmlns="http://www.w3.org/2000/svg" width="32" height="32"><path
+ d="M4.5 2.5v22l5.5-5 4 9.5 4-1.7-4-9.3h7.5z" fill="#282c34" stroke="#fff" stroke-width="1.6"/></svg>
+EOF
 pictures_at 1
 pictures_at 2
 cp "$pictures/layers.png" docs/screenshot.png

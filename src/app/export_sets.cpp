@@ -1,7 +1,9 @@
 #include "app/export_sets.h"
 
+#include <algorithm>
 #include <span>
 
+#include "app/icon_set_captions.h"
 #include "app/written_text.h"
 #include "editing/export_commands.h"
 
@@ -11,6 +13,7 @@ namespace {
 namespace fs = std::filesystem;
 
 using editing::Editor;
+using formats::IconSet;
 
 // Beside the document.
 fs::path ProposedFolder(const document::Document& document) {
@@ -25,7 +28,7 @@ struct Files {
 };
 
 // Of a set, as far as they are there.
-Files FilesThere(const SetChoice& choice, formats::IconSet set, const formats::SetSource& source) {
+Files FilesThere(const SetChoice& choice, IconSet set, const formats::SetSource& source) {
     Files files;
     for (const formats::SetFile& file : FilesOfSet(set, source.Name, source.Background)) {
         std::error_code missing;
@@ -45,39 +48,82 @@ std::string FilesText(int count) {
 bool MayReplace(const WindowContext& context, const SetChoice& choice,
                 const formats::SetSource& source) {
     int there = 0;
-    for (const formats::IconSet set : choice.Sets)
+    for (const IconSet set : choice.Sets)
         there += FilesThere(choice, set, source).Count;
-    return there == 0 ||
-           context.User.Confirm(FilesText(there) + " of these sets already " +
-                                    (there == 1 ? "exists" : "exist") + ", overwrite?",
-                                "Warning");
+    return there == 0 || context.User.Confirm(
+                             FilesText(there) + " of these sets already " +
+                                 (there == 1 ? "exists, overwrite it?" : "exist, overwrite them?"),
+                             "Warning");
 }
+
+class Summary {
+public:
+    explicit Summary(const SetChoice& choice) : choice_(choice) {}
+
+    void NoteWritten(const Files& files) {
+        ++sets_;
+        written_.Count += files.Count;
+        written_.Bytes += files.Bytes;
+    }
+    void NoteFailed(IconSet set, const std::string& problem) {
+        failures_ += '\n' + NameOf(set) + " was not written: " + problem;
+    }
+    void NoteCancelled() { isCancelled_ = true; }
+
+    void Tell(UserQuestions& user) const {
+        std::string text;
+        if (isCancelled_)
+            text = "Cancelled: " + std::to_string(sets_) + " of " +
+                   std::to_string(choice_.Sets.size()) + " sets were written.\n";
+        if (sets_ == 0)
+            return user.ShowMessage(text + "Nothing was exported." + failures_);
+        text += "Exported " + FilesText(written_.Count) + ", " + SizeText(written_.Bytes) +
+                ", in " + choice_.Folder.string();
+        user.ShowFolder(text + failures_, choice_.Folder);
+    }
+
+private:
+    const SetChoice& choice_;
+    int sets_ = 0;
+    Files written_;
+    std::string failures_;
+    bool isCancelled_ = false;
+};
 
 }  // namespace
 
 void AskExportSets(const WindowContext& context) {
-    const formats::SetSource source = SetSourceOf(context.Commands.Editor());
+    // Ends what is under way: it belongs to the picture, or it does not.
+    context.Commands.Run([](Editor&) {});
+    const Editor& editor = context.Commands.Editor();
+    const formats::SetSource source = SetSourceOf(editor);
     const std::optional<SetChoice> choice =
-        context.User.ChooseIconSets(source, ProposedFolder(context.Commands.Editor().Document));
+        context.User.ChooseIconSets(source, ProposedFolder(editor.Document));
     if (!choice || !MayReplace(context, *choice, source))
         return;
-    Files written;
-    std::string failures;
-    for (const formats::IconSet& set : choice->Sets) {
-        const Report report = context.Commands.Try(
-            [&](Editor& editor) { ExportSets(editor, choice->Folder, std::span(&set, 1)); });
-        if (report.Failed) {
-            failures += "\nNot written: " + report.Text;
-            continue;
+    Summary summary(*choice);
+    const int count = static_cast<int>(choice->Sets.size());
+    for (int i = 0; i < count; ++i) {
+        const IconSet& set = choice->Sets[static_cast<std::size_t>(i)];
+        if (!context.User.GoOn(i, count,
+                               "Writing set " + std::to_string(i + 1) + " of " +
+                                   std::to_string(count) + ": " + NameOf(set) + "...")) {
+            summary.NoteCancelled();
+            break;
         }
-        const Files files = FilesThere(*choice, set, source);
-        written.Count += files.Count;
-        written.Bytes += files.Bytes;
+        try {
+            context.User.DoMeanwhile([&, settings = editor.ExportSettings] {
+                for (const formats::RenderedSet& rendered :
+                     RenderSets(source, std::span(&set, 1), settings))
+                    WriteSet(choice->Folder, rendered);
+            });
+            summary.NoteWritten(FilesThere(*choice, set, source));
+        } catch (const std::exception&) {
+            summary.NoteFailed(set, editing::Outcome(std::current_exception()).Problem());
+        }
     }
-    context.User.ShowFolder("Exported " + FilesText(written.Count) + ", " +
-                                SizeText(written.Bytes) + ", in " + choice->Folder.string() +
-                                failures,
-                            choice->Folder);
+    context.User.GoOn(count, count, {});
+    summary.Tell(context.User);
 }
 
 }  // namespace orbelle::app

@@ -8,9 +8,11 @@
 #include <QLineEdit>
 #include <QPainter>
 #include <QPushButton>
+#include <QStyle>
 #include <algorithm>
 #include <set>
 
+#include "app/icon_set_captions.h"
 #include "app/settings.h"
 #include "app/shared_image.h"
 #include "formats/icns_file.h"
@@ -23,25 +25,22 @@ using formats::IconSet;
 
 constexpr char kSetsSetting[] = "IconSets";
 constexpr char kFolderSetting[] = "IconSetsFolder";
-constexpr int kThumbnail = 40;  // pixels a side at most
+constexpr int kThumbnail = 48;  // logical pixels a side at most
+constexpr int kThumbnailSpacing = 8;
 constexpr std::size_t kMostThumbnails = 6;
 constexpr int kColumns = 2;
 
-struct Platform {
-    const char* Caption;
-    const char* Contents;
-};
 // In the order of formats::IconSet.
-constexpr Platform kPlatforms[] = {
-    {"&Windows", "An .ico file of 14 sizes, 16 to 256"},
-    {"&macOS", "An .icns file of 16 to 1024"},
-    {"&Linux", "PNG files of 16 to 512 in the folders of a theme"},
-    {"We&b", "favicon.ico, pictures for home screens, their manifest"},
-    {"&Android", "Launcher icons of five densities, adaptive ones too"},
-    {"i&OS", "An AppIcon set with its one picture of 1024"},
+constexpr const char* kContents[] = {
+    "An .ico file of 14 sizes, 16 to 256",
+    "An .icns file of 16 to 1024",
+    "PNG files of 16 to 512 in the folders of a theme",
+    "favicon.ico, pictures for home screens, their manifest",
+    "Launcher icons of five densities, adaptive ones too",
+    "An AppIcon set with its one picture of 1024",
 };
-constexpr int kPlatformCount = std::size(kPlatforms);
-static_assert(kPlatformCount == std::size(formats::kIconSetNames));
+constexpr int kPlatformCount = std::size(kContents);
+static_assert(kPlatformCount == std::size(kIconSetCaptions));
 
 // All pictures of a set, each once, the smallest first.
 std::set<formats::SetPicture> PicturesOf(const formats::SetSource& source, IconSet set) {
@@ -58,35 +57,43 @@ std::set<formats::SetPicture> PicturesOf(const formats::SetSource& source, IconS
     return pictures;
 }
 
-// Some of them, the smallest and the largest always.
-std::vector<formats::SetPicture> Samples(const std::set<formats::SetPicture>& pictures) {
-    const std::vector<formats::SetPicture> all(pictures.begin(), pictures.end());
-    if (all.size() <= kMostThumbnails)
-        return all;
+// Some of them, the smallest and the largest always. `most`: those that are larger are shown in
+// that size, one of each kind.
+std::vector<formats::SetPicture> Samples(const std::set<formats::SetPicture>& pictures, int most) {
+    std::vector<formats::SetPicture> seen;
+    for (const formats::SetPicture& picture : pictures) {
+        const auto looksLikeIt = [&](const formats::SetPicture& other) {
+            return std::min(other.Side, most) == std::min(picture.Side, most) &&
+                   (other.IconSide == other.Side) == (picture.IconSide == picture.Side) &&
+                   other.Ground == picture.Ground;
+        };
+        std::erase_if(seen, looksLikeIt);
+        seen.push_back(picture);
+    }
+    if (seen.size() <= kMostThumbnails)
+        return seen;
     std::vector<formats::SetPicture> samples;
     for (std::size_t i = 0; i < kMostThumbnails; ++i)
-        samples.push_back(all[i * (all.size() - 1) / (kMostThumbnails - 1)]);
+        samples.push_back(seen[i * (seen.size() - 1) / (kMostThumbnails - 1)]);
     return samples;
 }
 
+// Small ones pixel by pixel, on one line.
 QPixmap Thumbnails(const formats::SetSource& source, IconSet set, qreal ratio) {
-    constexpr int kSpacing = 6;
-    const std::vector<formats::SetPicture> samples = Samples(PicturesOf(source, set));
-    const int width = static_cast<int>(samples.size()) * (kThumbnail + kSpacing);
-    QPixmap row(QSizeF(width * ratio, kThumbnail * ratio).toSize());
-    row.setDevicePixelRatio(ratio);
+    const int most = qRound(kThumbnail * ratio), spacing = qRound(kThumbnailSpacing * ratio);
+    const std::vector<formats::SetPicture> samples = Samples(PicturesOf(source, set), most);
+    QPixmap row(static_cast<int>(samples.size()) * (most + spacing), most);
     row.fill(Qt::transparent);
     QPainter painter(&row);
-    painter.setRenderHint(QPainter::SmoothPixmapTransform);
     int x = 0;
     for (const formats::SetPicture& sample : samples) {
-        const int side = std::min(sample.Side, kThumbnail);
-        painter.drawImage(QRect(x, kThumbnail - side, side, side),
-                          SharedImage(DrawSetPicture(source, sample))
-                              .scaled(QSizeF(side * ratio, side * ratio).toSize(),
-                                      Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
-        x += side + kSpacing;
+        QImage picture = SharedImage(DrawSetPicture(source, sample));
+        if (sample.Side > most)
+            picture = picture.scaled(most, most, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+        painter.drawImage(x, most - picture.height(), picture);
+        x += picture.width() + spacing;
     }
+    row.setDevicePixelRatio(ratio);
     return row;
 }
 
@@ -117,6 +124,7 @@ IconSetsDialog::IconSetsDialog(const formats::SetSource& source,
     connect(buttons, &QDialogButtonBox::accepted, this, &IconSetsDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &IconSetsDialog::reject);
     ShowState();
+    boxes_.front()->setFocus();
 }
 
 QWidget* IconSetsDialog::MakeBox(const formats::SetSource& source, IconSet set) {
@@ -126,19 +134,27 @@ QWidget* IconSetsDialog::MakeBox(const formats::SetSource& source, IconSet set) 
     const QStringList chosen = Settings().value(kSetsSetting).toString().split(',');
 
     auto* room = new QWidget;
-    auto* layout = new QVBoxLayout(room);
+    auto* layout = new QGridLayout(room);
     layout->setContentsMargins(0, 0, 0, 0);
-    auto* box = new QCheckBox(kPlatforms[place].Caption);
+    layout->setHorizontalSpacing(0);
+    layout->setVerticalSpacing(6);
+    auto* box = new QCheckBox(kIconSetCaptions[place]);
     box->setObjectName(key);
-    box->setAccessibleDescription(kPlatforms[place].Contents);
+    box->setAccessibleDescription(kContents[place]);
     box->setChecked(chosen.contains(key));
     connect(box, &QCheckBox::toggled, this, &IconSetsDialog::ShowState);
     boxes_.push_back(box);
+    auto* contents = new QLabel(kContents[place]);
+    contents->setObjectName("caption");
     auto* pictures = new QLabel;
     pictures->setPixmap(Thumbnails(source, set, devicePixelRatioF()));
-    layout->addWidget(box);
-    layout->addWidget(new QLabel(kPlatforms[place].Contents));
-    layout->addWidget(pictures);
+    layout->addWidget(box, 0, 0, 1, 2);
+    layout->addWidget(contents, 1, 1);
+    layout->addWidget(pictures, 2, 1);
+    // Below the words of the box.
+    layout->setColumnMinimumWidth(0, style()->pixelMetric(QStyle::PM_IndicatorWidth) +
+                                         style()->pixelMetric(QStyle::PM_CheckBoxLabelSpacing));
+    layout->setColumnStretch(1, 1);
     return room;
 }
 
@@ -154,6 +170,7 @@ QWidget* IconSetsDialog::MakeFolderRow(const std::filesystem::path& folder) {
     auto* label = new QLabel("&Folder:");
     label->setBuddy(folder_);
     auto* browse = new QPushButton("B&rowse...");
+    browse->setAutoDefault(false);
     connect(browse, &QPushButton::clicked, this, [this] {
         const QString chosen = QFileDialog::getExistingDirectory(this, "Icon Set", folder_->text());
         if (!chosen.isEmpty())
@@ -166,9 +183,12 @@ QWidget* IconSetsDialog::MakeFolderRow(const std::filesystem::path& folder) {
 }
 
 void IconSetsDialog::ShowState() {
-    if (export_)
-        export_->setEnabled(!folder_->text().isEmpty() &&
-                            std::ranges::any_of(boxes_, &QCheckBox::isChecked));
+    if (!export_)
+        return;
+    const bool isComplete =
+        !folder_->text().isEmpty() && std::ranges::any_of(boxes_, &QCheckBox::isChecked);
+    export_->setEnabled(isComplete);
+    export_->setToolTip(isComplete ? "" : "Choose a platform and a folder first");
 }
 
 SetChoice IconSetsDialog::Choice() const {

@@ -13,6 +13,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
+constexpr char kImporting[] = "Importing the files...";
 constexpr std::size_t kMostLines = 10;
 constexpr int kLongestAddress = 200;  // characters that are told
 
@@ -85,7 +86,7 @@ void TakeFiles(const WindowContext& context, const std::vector<fs::path>& files,
     Summary summary(opens ? "opened" : "imported", files.size());
     const int count = static_cast<int>(files.size());
     for (int i = 0; i < count; ++i) {
-        if (!context.User.GoOn(i, count)) {
+        if (!context.User.GoOn(i, count, kImporting)) {
             summary.End("Cancelled");
             break;
         }
@@ -105,7 +106,7 @@ void TakeFiles(const WindowContext& context, const std::vector<fs::path>& files,
             break;
         }
     }
-    context.User.GoOn(count, count);
+    context.User.GoOn(count, count, kImporting);
     if (const std::string text = summary.Text(); !text.empty())
         context.User.ShowMessage(text);
 }

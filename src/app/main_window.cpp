@@ -4,7 +4,6 @@
 #include <QClipboard>
 #include <QCloseEvent>
 #include <QMenu>
-#include <QProgressDialog>
 #include <QStatusBar>
 #include <QThread>
 #include <utility>
@@ -127,7 +126,7 @@ void MainWindow::ShellOpen(const QByteArray& commandLine) {
 // What a dialog has led to goes on after it has closed, within the event that closed it: so the
 // depth of event loops counts, not only what can be seen.
 bool MainWindow::IsInCommand() const {
-    return thread()->loopLevel() > 1 || progress_ || QApplication::activeModalWidget();
+    return thread()->loopLevel() > 1 || progress_.IsShown() || QApplication::activeModalWidget();
 }
 
 bool MainWindow::IsFree() const {

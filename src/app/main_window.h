@@ -2,7 +2,6 @@
 #pragma once
 
 #include <QByteArrayList>
-#include <QElapsedTimer>
 #include <QMainWindow>
 #include <QTimer>
 #include <functional>
@@ -12,12 +11,12 @@
 #include "app/main_menu.h"
 #include "app/pointer_status.h"
 #include "app/recent_files.h"
+#include "app/run_progress.h"
 #include "app/tip_balloons.h"
 #include "app/welcome_sequence.h"
 #include "app/window_actions.h"
 #include "editing/recovery.h"
 
-class QProgressDialog;
 class QScrollBar;
 
 namespace orbelle::app {
@@ -92,7 +91,8 @@ public:
     void ShowAddress(const std::string& text, const std::string& address) override;
     void ShowFolder(const std::string& text, const std::filesystem::path& folder) override;
     void ShowStatus(const std::string& text) override;
-    bool GoOn(int done, int count) override;
+    bool GoOn(int done, int count, const std::string& doing) override;
+    void DoMeanwhile(const std::function<void()>& work) override;
     SavePromptAnswer AskSave() override;
     bool Confirm(const std::string& text, const std::string& title) override;
     std::optional<PageSize> AskPageSize() override;
@@ -100,6 +100,8 @@ public:
     std::filesystem::path AskFileToWrite(const std::string& filter,
                                          const std::filesystem::path& proposed) override;
     std::optional<int> AskGifThreshold(const graphics::Bitmap& surface) override;
+    std::optional<formats::Hotspot> AskHotspot(const graphics::Bitmap& picture,
+                                               formats::Hotspot start) override;
     std::optional<IconChoice> ChooseIconImages(const std::vector<formats::IconEntryImage>& offered,
                                                const IconQuestion& question) override;
     std::optional<int> AskSvgSide(const PageSize& own) override;
@@ -150,9 +152,8 @@ private:
     RecentFiles recent_;
     WindowContext context_{*this, *this, *this, recent_};
     enum class SessionEnd { No, Agreed, Unasked } sessionEnd_ = SessionEnd::No;
-    std::unique_ptr<QProgressDialog> progress_;
-    QElapsedTimer runTime_;  // of a long run over files
-    std::string message_;    // what the last command has to tell although it went well
+    RunProgress progress_{*this};
+    std::string message_;  // what the last command has to tell although it went well
     SceneView* scene_ = nullptr;
     RecentFilesView* recentView_ = nullptr;
     QScrollBar* horizontalScroll_ = nullptr;

@@ -2,7 +2,6 @@
 #include "app/main_window.h"
 
 #include <QGuiApplication>
-#include <QProgressDialog>
 #include <QScrollBar>
 #include <QSignalBlocker>
 #include <QStatusBar>
@@ -14,6 +13,7 @@
 #include "app/findings_list.h"
 #include "app/fit_dialog.h"
 #include "app/gif_optimizer_dialog.h"
+#include "app/hotspot_dialog.h"
 #include "app/icon_images_dialog.h"
 #include "app/icon_sets_dialog.h"
 #include "app/links.h"
@@ -32,8 +32,7 @@ namespace orbelle::app {
 namespace {
 
 constexpr int kStatusMilliseconds = 8000;
-constexpr int kPatienceMilliseconds = 500;  // before a long run is shown
-constexpr int kScrollPositions = 10;        // the scene scrolls in tenths
+constexpr int kScrollPositions = 10;  // the scene scrolls in tenths
 
 void MirrorBar(QScrollBar& shown, const document::ScrollBar& bar, int sceneSize) {
     const QSignalBlocker notTheUser(&shown);
@@ -141,24 +140,12 @@ void MainWindow::ShowStatus(const std::string& text) {
     statusBar()->showMessage(QString::fromStdString(text), kStatusMilliseconds);
 }
 
-bool MainWindow::GoOn(int done, int count) {
-    if (done >= count) {
-        progress_.reset();
-        return true;
-    }
-    if (done == 0)
-        runTime_.start();
-    // Made only now: it would come up over a question that it waits for.
-    if (!progress_ && runTime_.elapsed() >= kPatienceMilliseconds) {
-        progress_ =
-            std::make_unique<QProgressDialog>("Importing the files...", "&Cancel", 0, count, this);
-        progress_->setWindowTitle(editing::kProductName);
-        progress_->setWindowModality(Qt::ApplicationModal);
-        progress_->setMinimumDuration(0);
-    }
-    if (progress_)
-        progress_->setValue(done);
-    return !progress_ || !progress_->wasCanceled();
+bool MainWindow::GoOn(int done, int count, const std::string& doing) {
+    return progress_.GoOn(done, count, doing);
+}
+
+void MainWindow::DoMeanwhile(const std::function<void()>& work) {
+    progress_.DoMeanwhile(work);
 }
 
 SavePromptAnswer MainWindow::AskSave() {
@@ -188,6 +175,14 @@ std::optional<int> MainWindow::AskGifThreshold(const graphics::Bitmap& surface) 
     if (optimizer.exec() != QDialog::Accepted)
         return std::nullopt;
     return optimizer.OptimizeValue();
+}
+
+std::optional<formats::Hotspot> MainWindow::AskHotspot(const graphics::Bitmap& picture,
+                                                       formats::Hotspot start) {
+    HotspotDialog dialog(picture, start, this);
+    if (dialog.exec() != QDialog::Accepted)
+        return std::nullopt;
+    return dialog.Choice();
 }
 
 std::optional<IconChoice> MainWindow::ChooseIconImages(

@@ -1,5 +1,4 @@
 // Unsaved work: kept while it is made, and offered again after a program that ended without asking.
-#include <QProgressDialog>
 #include <QStatusBar>
 #include <cstdlib>
 

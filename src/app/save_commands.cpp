@@ -99,6 +99,17 @@ std::string TextOfExport(const Editor& editor, const fs::path& path, const Expor
     }
 }
 
+// Where the pointer points is kept for the next export. False: the user wants to go back.
+bool AskHotspot(const WindowContext& context) {
+    const Editor& editor = context.Commands.Editor();
+    const std::optional<formats::Hotspot> hotspot =
+        context.User.AskHotspot(formats::Flatten(editor.Document, editor.Canvas).Master,
+                                editor.ExportSettings.PointerHotspot);
+    return hotspot && context.Commands.Run([&](Editor& toExport) {
+        toExport.ExportSettings.PointerHotspot = *hotspot;
+    });
+}
+
 // "*.a;*.b" of a filter, and ".a" of these.
 std::string_view PatternsOf(std::string_view filter) {
     return filter.substr(filter.find('|') + 1);
@@ -132,6 +143,8 @@ void AskExport(const WindowContext& context, const ExportEntry& entry) {
         threshold = context.User.AskGifThreshold(
             formats::DrawGifSurface(editor.Canvas, editor.Document.Background));
     if (!threshold)
+        return;
+    if (entry.Format == formats::ExportFormat::Cur && !AskHotspot(context))
         return;
     const Report report = context.Commands.Try([&](Editor& toExport) {
         toExport.ExportSettings.GifThreshold = *threshold;

@@ -2,11 +2,13 @@
 #pragma once
 
 #include <filesystem>
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
 
 #include "filters/size_recipes.h"
+#include "formats/hotspot.h"
 #include "formats/icon_reader.h"
 #include "formats/icon_sets.h"
 #include "graphics/bitmap.h"
@@ -54,9 +56,12 @@ public:
     // Told in the status line, without a box, until the next command.
     virtual void ShowStatus(const std::string& text) = 0;
 
-    // How far a long run over files has come; after a while a dialog shows it. The run ends with
-    // `done` = `count`. False: the user wants to stop.
-    virtual bool GoOn(int done, int count) = 0;
+    // How far a long run over files has come, and what it is about to do; after a while a dialog
+    // shows it. The run ends with `done` = `count`. False: the user wants to stop.
+    virtual bool GoOn(int done, int count, const std::string& doing) = 0;
+    // Does a part of such a run, which may take long, on another thread, so that the dialog comes
+    // meanwhile. The editor belongs to this thread. Throws what the work throws.
+    virtual void DoMeanwhile(const std::function<void()>& work) = 0;
 
     // "Save Icon Document?": before a changed document is given up.
     virtual SavePromptAnswer AskSave() = 0;
@@ -72,6 +77,10 @@ public:
     // At which alpha (0 to 200) a pixel of the surface counts as opaque in a GIF. No value:
     // cancelled.
     virtual std::optional<int> AskGifThreshold(const graphics::Bitmap& surface) = 0;
+    // Which pixel of a picture a pointer points with, at first the nearest to `start`. No value:
+    // cancelled.
+    virtual std::optional<formats::Hotspot> AskHotspot(const graphics::Bitmap& picture,
+                                                       formats::Hotspot start) = 0;
     // Which images of an icon file to take. No value: cancelled.
     virtual std::optional<IconChoice> ChooseIconImages(
         const std::vector<formats::IconEntryImage>& offered, const IconQuestion& question) = 0;

@@ -27,6 +27,7 @@ public:
     int FilesAtMost = INT_MAX;     // then the user stops a long run
     std::filesystem::path ToRead, ToWrite;
     std::optional<int> GifThreshold;
+    std::optional<formats::Hotspot> PointsAt;
     std::optional<IconChoice> IconImages;
     IconQuestion AskedOfIcon;
     std::optional<int> SvgSide;
@@ -37,7 +38,7 @@ public:
     graphics::Bitmap Suggested;  // what recipes were asked for
     std::optional<graphics::Argb> Color;
     std::vector<std::string> Told;
-    std::string Message, Status;  // the last
+    std::string Message, Status, Doing;  // the last
     std::filesystem::path Proposed;
     ColorQuestion Question;
 
@@ -71,7 +72,12 @@ public:
         Told.emplace_back("message");
         Message = text;
     }
-    bool GoOn(int done, int) override { return done < FilesAtMost; }
+    bool GoOn(int done, int count, const std::string& doing) override {
+        if (done < count)
+            Doing = doing;
+        return done < FilesAtMost;
+    }
+    void DoMeanwhile(const std::function<void()>& work) override { work(); }
     void ShowStatus(const std::string& text) override { Status = text; }
     void ShowFolder(const std::string& text, const std::filesystem::path&) override {
         ShowMessage(text);
@@ -97,6 +103,9 @@ public:
     }
     std::optional<int> AskGifThreshold(const graphics::Bitmap&) override {
         return Answer("threshold?", GifThreshold);
+    }
+    std::optional<formats::Hotspot> AskHotspot(const graphics::Bitmap&, formats::Hotspot) override {
+        return Answer("hotspot?", PointsAt);
     }
     std::optional<IconChoice> ChooseIconImages(const std::vector<formats::IconEntryImage>&,
                                                const IconQuestion& question) override {
