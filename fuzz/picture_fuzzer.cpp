@@ -44,7 +44,7 @@ using graphics::ByteSource;
     for (const auto channels : {graphics::FileChannels::Gray, graphics::FileChannels::Rgb,
                                 graphics::FileChannels::Paper}) {
         graphics::Argb pixels[] = {0, 0xFFFFFFFF, 0x80402010, 0xFF0080FF};
-        if (const auto colors = graphics::ColorConversion::OfProfile(profile, channels))
+        if (const auto colors = graphics::ColorConversion::OfProfile(profile, channels, 1))
             colors->Convert(pixels, std::size(pixels));
     }
 }

@@ -1,6 +1,7 @@
 #!/usr/bin/env python3
 """Makes the files whose opening memory-of-open.sh measures: make-big-files.py FOLDER"""
 
+import gzip
 import os
 import random
 import struct
@@ -110,6 +111,32 @@ def many_ico(count):
     return head + entry * count + struct.pack("<IiiHH", 40, 27, 54, 1, 32) + bytes(24) + random.randbytes(2916)
 
 
+def svg(contents):
+    return ('<svg xmlns="http://www.w3.org/2000/svg" xmlns:xlink="http://www.w3.org/1999/xlink" '
+            'width="512" height="512">' + contents + "</svg>").encode()
+
+
+def nested_uses(levels):
+    """Each level draws the one below it ten times."""
+    parts = ['<defs><rect id="a0" width="9" height="9"/>']
+    for level in range(1, levels):
+        use = f'<use xlink:href="#a{level - 1}"/>'
+        parts.append(f'<g id="a{level}">' + use * 10 + "</g>")
+    return svg("".join(parts) + f'</defs><use xlink:href="#a{levels - 1}"/>')
+
+
+def filtered(steps):
+    """Filters that look far around each pixel."""
+    step = '<feTurbulence numOctaves="20"/><feMorphology operator="dilate" radius="200"/>'
+    return svg('<filter id="f" x="0" y="0" width="1" height="1">' + step * steps +
+               '</filter><rect width="512" height="512" filter="url(#f)"/>')
+
+
+def long_path(points):
+    return svg('<path stroke="red" d="M0 0' +
+               "".join(f"L{random.randrange(512)} {random.randrange(512)}" for _ in range(points)) + '"/>')
+
+
 def filling(picture, size):
     return (picture, size, (0, 0, *size))
 
@@ -129,6 +156,11 @@ def main(folder):
     write("interlaced.png", interlaced(LARGEST))
     write("noise.bmp", bmp(LARGEST))
     write("noise.ico", ico(LARGEST))
+
+    write("uses.svg", nested_uses(12))
+    write("filters.svg", filtered(100))
+    write("path.svg", long_path(900000))
+    write("packed.svg", gzip.compress(svg(" " * (200 << 20)), 9))
 
     write("many.ico", many_ico(65535))
     write("markers.jpg", b"\xff\xd8" + (b"\xff\xe1\xff\xff" + bytes(65533)) * 7800)

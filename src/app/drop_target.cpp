@@ -51,7 +51,7 @@ bool DropTarget::eventFilter(QObject* watched, QEvent* event) {
         case QEvent::DragEnter: {
             auto& enter = *static_cast<QDropEvent*>(event);
             const OfferedFiles files = FilesIn(*enter.mimeData());
-            isWanted_ = !files.IsEmpty() || enter.mimeData()->hasImage();
+            isWanted_ = !files.IsEmpty() || OffersPicture(*enter.mimeData());
             hasDocument_ = HasDocument(files);
             Answer(enter);
             return true;
@@ -65,8 +65,11 @@ bool DropTarget::eventFilter(QObject* watched, QEvent* event) {
                 return true;
             Drop taken{FilesIn(*drop.mimeData()), {}, IsCtrlHeld(drop)};
             // A picture from a web page comes with its address.
-            if (taken.Files.Local.isEmpty() && drop.mimeData()->hasImage())
+            if (taken.Files.Local.isEmpty() && OffersPicture(*drop.mimeData())) {
+                QGuiApplication::setOverrideCursor(Qt::WaitCursor);
                 taken.Picture = ReadOffered(*drop.mimeData());
+                QGuiApplication::restoreOverrideCursor();
+            }
             emit Dropped(taken);
             return true;
         }

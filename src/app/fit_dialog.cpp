@@ -9,7 +9,7 @@ namespace orbelle::app {
 
 FitDialog::FitDialog(const PageSize& picture, const PageSize& page, QWidget* parent)
     : QDialog(parent) {
-    setWindowTitle("Import");
+    setWindowTitle("Larger Than the Page");
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(20, 20, 20, 16);
     layout->setSpacing(20);

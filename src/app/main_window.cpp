@@ -18,9 +18,9 @@
 #include "app/save_commands.h"
 #include "app/scene_view.h"
 #include "app/system_clipboard.h"
+#include "app/take_file.h"
 #include "app/welcome_window.h"
 #include "editing/buttons.h"
-#include "editing/clipboard_commands.h"
 #include "editing/document_commands.h"
 #include "editing/give_up.h"
 #include "editing/selection_commands.h"
@@ -171,10 +171,10 @@ void MainWindow::ShowAbout() {
 
 void MainWindow::Paste() {
     const QByteArrayList files = SystemClipboardFiles();
-    if (files.isEmpty())
-        RunBusy(editing::PasteFromClipboard);
-    else
+    if (!files.isEmpty())
         ImportFiles(context_, PathsOf(files));
+    else if (const TakeResult pasted = TakePasted(context_); !pasted.Text.empty())
+        ShowMessage(pasted.Text);
 }
 
 void MainWindow::FocusScene() {

@@ -28,9 +28,14 @@ graphics::Bitmap BitmapOf(QImage image) {
     return picture;
 }
 
+// What we read ourselves; of several the first. Drawings come last: whoever offers pixels, too, has
+// drawn them at the size that is meant.
+constexpr const char* kOwnKinds[] = {"image/png", "image/bmp",  "image/jpeg",
+                                     "image/gif", "image/webp", "image/svg+xml"};
+
 // Kinds of ours are read as files are, with the same limits; others by the toolkit.
 graphics::Bitmap Read(const QMimeData& data) {
-    for (const char* kind : {"image/png", "image/bmp", "image/jpeg", "image/gif"}) {
+    for (const char* kind : kOwnKinds) {
         const QByteArray bytes = data.hasFormat(kind) ? data.data(kind) : QByteArray();
         if (!bytes.isEmpty())
             return graphics::DecodeImage({reinterpret_cast<const std::uint8_t*>(bytes.constData()),
@@ -93,6 +98,11 @@ QList<QUrl> AddressesIn(const QString& text) {
 }
 
 }  // namespace
+
+bool OffersPicture(const QMimeData& data) {
+    return data.hasImage() ||
+           std::ranges::any_of(kOwnKinds, [&](const char* kind) { return data.hasFormat(kind); });
+}
 
 OfferedPicture ReadOffered(const QMimeData& data) {
     try {

@@ -16,6 +16,9 @@ struct OfferedPicture {
     std::string Problem;  // why it could not be read; then there is no picture
 };
 
+// Of a kind that we or the toolkit can read.
+bool OffersPicture(const QMimeData& data);
+// A drawing has the size that files have where nothing is said of it.
 OfferedPicture ReadOffered(const QMimeData& data);
 
 // Throws Error with the problem if there is one.

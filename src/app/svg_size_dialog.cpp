@@ -36,8 +36,8 @@ SvgSizeDialog::SvgSizeDialog(const PageSize& own, QWidget* parent) : QDialog(par
     side_->setObjectName("LongerSide");
     side_->setAccessibleName("Longer side");
     side_->SetRange(1, graphics::kMaxSvgSide);
-    const int longer = std::clamp(std::max(own.Width, own.Height), 1, graphics::kMaxSvgSide);
-    side_->SetValue(longer);
+    const int longer = std::max(own.Width, own.Height);
+    side_->SetValue(std::clamp(longer, 1, graphics::kMaxSvgSide));
     side_->setMinimumWidth(kSideWidth);
     connect(side_, &widgets::NumberSlider::Changed, this, &SvgSizeDialog::ShowPreset);
     row->addWidget(label);
@@ -80,8 +80,9 @@ QLayout* SvgSizeDialog::AddPresets(int own) {
         presets_->addButton(button, side);
         row->addWidget(button);
     };
-    if (std::ranges::find(kPresets, own) == std::end(kPresets))
-        add(own, "Own");
+    const int first = side_->Value();
+    if (std::ranges::find(kPresets, first) == std::end(kPresets))
+        add(first, first == own ? "Own" : QString::number(first));
     for (const int side : kPresets)
         add(side, QString::number(side));
     connect(presets_, &QButtonGroup::idClicked, side_, [this](int side) { side_->SetValue(side); });

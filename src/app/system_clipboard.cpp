@@ -19,17 +19,17 @@ void SetSystemClipboard(const graphics::Bitmap& picture, const std::string& text
 
 QByteArrayList SystemClipboardFiles() {
     const QMimeData* data = QGuiApplication::clipboard()->mimeData();
-    return data && !data->hasImage() ? LocalFiles(*data) : QByteArrayList();
+    return data && !OffersPicture(*data) ? LocalFiles(*data) : QByteArrayList();
 }
 
 bool SystemClipboardHasPicture() {
     const QMimeData* data = QGuiApplication::clipboard()->mimeData();
-    return data && data->hasImage();
+    return data && OffersPicture(*data);
 }
 
 OfferedPicture SystemClipboardPicture() {
     const QMimeData* data = QGuiApplication::clipboard()->mimeData();
-    return data && data->hasImage() ? ReadOffered(*data) : OfferedPicture();
+    return data && OffersPicture(*data) ? ReadOffered(*data) : OfferedPicture();
 }
 
 std::string SystemClipboardText() {

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "app/recent_files.h"
+#include "editing/clipboard_commands.h"
 #include "editing/document_commands.h"
 #include "graphics/codecs/image_files.h"
 
@@ -83,6 +84,21 @@ TakeResult OpenOther(const WindowContext& context, const fs::path& path, TakeAns
     return Ended(context.Commands.Try([&](Editor& editor) { OpenFile(editor, path, choices); }));
 }
 
+// Whether pictures are to fit the page, asked where one is larger. No value: cancelled.
+std::optional<bool> AskFit(const WindowContext& context,
+                           const std::vector<graphics::Bitmap>& pictures, TakeAnswers& answers) {
+    const Editor& editor = context.Commands.Editor();
+    const PageSize page{editor.Page().Width, editor.Page().Height};
+    const auto large = std::ranges::find_if(pictures, [&](const graphics::Bitmap& picture) {
+        return picture.Width() > page.Width || picture.Height() > page.Height;
+    });
+    if (!editor.DocumentExists || large == pictures.end())
+        return false;
+    if (!answers.FitsPage)
+        answers.FitsPage = context.User.AskFit({large->Width(), large->Height()}, page);
+    return answers.FitsPage;
+}
+
 }  // namespace
 
 TakeResult TakeToOpen(const WindowContext& context, const fs::path& path, TakeAnswers& answers) {
@@ -119,19 +135,26 @@ TakeResult TakeToImport(const WindowContext& context, const fs::path& path, Take
 
 TakeResult TakeToImport(const WindowContext& context, const std::vector<graphics::Bitmap>& pictures,
                         const fs::path& source, TakeAnswers& answers) {
-    const Editor& editor = context.Commands.Editor();
-    const PageSize page{editor.Page().Width, editor.Page().Height};
-    const auto large = std::ranges::find_if(pictures, [&](const graphics::Bitmap& picture) {
-        return picture.Width() > page.Width || picture.Height() > page.Height;
-    });
-    const bool isAsked = editor.DocumentExists && large != pictures.end();
-    if (isAsked && !answers.FitsPage)
-        answers.FitsPage = context.User.AskFit({large->Width(), large->Height()}, page);
-    if (isAsked && !answers.FitsPage)
+    const std::optional<bool> fits = AskFit(context, pictures, answers);
+    if (!fits)
         return {TakeEnd::Cancelled, {}};
-    const bool fits = isAsked && *answers.FitsPage;
     return Ended(context.Commands.Try(
-        [&](Editor& changed) { ImportPictures(changed, pictures, source, fits); }));
+        [&](Editor& changed) { ImportPictures(changed, pictures, source, *fits); }));
+}
+
+TakeResult TakePasted(const WindowContext& context) {
+    graphics::Bitmap picture;
+    Report read = context.Commands.Try([&](Editor& editor) { picture = ForeignPicture(editor); });
+    if (read.Failed)
+        return Ended(std::move(read));
+    if (picture.IsEmpty())
+        return Ended(context.Commands.Try(editing::PasteFromClipboard));
+    TakeAnswers answers;
+    const std::optional<bool> fits = AskFit(context, {picture}, answers);
+    if (!fits)
+        return {TakeEnd::Cancelled, {}};
+    return Ended(
+        context.Commands.Try([&](Editor& editor) { PastePicture(editor, picture, *fits); }));
 }
 
 }  // namespace orbelle::app

@@ -36,4 +36,8 @@ TakeResult TakeToImport(const WindowContext& context, const std::filesystem::pat
 TakeResult TakeToImport(const WindowContext& context, const std::vector<graphics::Bitmap>& pictures,
                         const std::filesystem::path& source, TakeAnswers& answers);
 
+// What lies on the clipboard as a layer. Whether another program's picture is to fit the page is
+// asked as of one that is imported.
+TakeResult TakePasted(const WindowContext& context);
+
 }  // namespace orbelle::app

@@ -1,12 +1,13 @@
 #include "editing/clipboard_commands.h"
 
-#include <optional>
+#include <utility>
 
 #include "document/layer_slots.h"
 #include "editing/selection_commands.h"
 #include "editing/slider_positions.h"
 #include "editing/stack_commands.h"
 #include "editing/undo_step.h"
+#include "filters/shrink_to_size.h"
 #include "graphics/drawing_context.h"
 
 namespace orbelle::editing {
@@ -68,28 +69,29 @@ IconLayer OwnLayer(const IconLayer& copied) {
     return layer;
 }
 
-// Another program's picture at the page's corner, opaque: over white.
-IconLayer ForeignLayer(const Bitmap& picture) {
+// Another program's picture at that place of the page, opaque: over white.
+IconLayer ForeignLayer(const Bitmap& picture, int left, int top) {
     IconLayer layer;
     layer.Image = Bitmap(picture.Width(), picture.Height());
     graphics::DrawingContext context(layer.Image);
     context.Clear(graphics::MakeArgb(255, 255, 255, 255));
     context.DrawImage(picture, 0, 0);
-    document::PlaceAt(layer, {0, 0, picture.Width(), picture.Height()});
+    document::PlaceAt(layer, {left, top, picture.Width(), picture.Height()});
     layer.BaseRect = layer.Rect;
     layer.Region = graphics::Region::FromRect(layer.Rect);
     return layer;
 }
 
-std::optional<IconLayer> ClipboardContent(Editor& editor) {
-    if (!editor.Clipboard.HasPicture())
-        return std::nullopt;
-    if (editor.ClipboardLayer && editor.Clipboard.Text() == kClipboardMark)
-        return OwnLayer(*editor.ClipboardLayer);
-    const Bitmap picture = editor.Clipboard.Picture();
-    if (picture.IsEmpty())
-        return std::nullopt;
-    return ForeignLayer(picture);
+bool IsOwn(Editor& editor) {
+    return editor.ClipboardLayer && editor.Clipboard.Text() == kClipboardMark;
+}
+
+void AddPasted(Editor& editor, IconLayer layer) {
+    BeginUndoStep(editor, steps::Paste);
+    OpenLayerSlot(editor.Page(), document::SlotCopySize::Image) = std::move(layer);
+    editor.Selection.Clear();
+    ShowSelectedLayer(editor);
+    NoteStack(editor.Changed);
 }
 
 void RemoveSelected(Editor& editor, steps::Name ofSelection, steps::Name ofLayer) {
@@ -118,17 +120,32 @@ void DeleteSelected(Editor& editor) {
     RemoveSelected(editor, steps::DeleteSelection, steps::DeleteLayer);
 }
 
+Bitmap ForeignPicture(Editor& editor) {
+    if (!editor.DocumentExists || !editor.Clipboard.HasPicture() || IsOwn(editor))
+        return {};
+    return editor.Clipboard.Picture();
+}
+
 void PasteFromClipboard(Editor& editor) {
-    if (!editor.DocumentExists)
+    if (!editor.DocumentExists || !editor.Clipboard.HasPicture())
         return;
-    std::optional<IconLayer> content = ClipboardContent(editor);
-    if (!content)
+    if (IsOwn(editor))
+        AddPasted(editor, OwnLayer(*editor.ClipboardLayer));
+    else
+        PastePicture(editor, editor.Clipboard.Picture(), false);
+}
+
+void PastePicture(Editor& editor, const Bitmap& picture, bool fitsPage) {
+    if (picture.IsEmpty())
         return;
-    BeginUndoStep(editor, steps::Paste);
-    OpenLayerSlot(editor.Page(), document::SlotCopySize::Image) = std::move(*content);
-    editor.Selection.Clear();
-    ShowSelectedLayer(editor);
-    NoteStack(editor.Changed);
+    const document::Page& page = editor.Page();
+    if (!fitsPage) {
+        AddPasted(editor, ForeignLayer(picture, 0, 0));
+        return;
+    }
+    const Bitmap fitted = filters::ShrinkIntoBox(picture, page.Width, page.Height);
+    AddPasted(editor, ForeignLayer(fitted, (page.Width - fitted.Width()) / 2,
+                                   (page.Height - fitted.Height()) / 2));
 }
 
 }  // namespace orbelle::editing

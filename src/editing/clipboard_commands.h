@@ -20,6 +20,13 @@ void CutToClipboard(Editor& editor);
 // Nothing is added when the clipboard holds no picture.
 void PasteFromClipboard(Editor& editor);
 
+// Another program's picture that would be pasted. Empty: there is none, or what was copied here is.
+graphics::Bitmap ForeignPicture(Editor& editor);
+
+// The same step with another program's picture that has been read already. One that `fitsPage` is
+// shrunk until it does and lies in the middle of the page.
+void PastePicture(Editor& editor, const graphics::Bitmap& picture, bool fitsPage);
+
 // The Edit menu's Delete: the selection if there is one, else the selected layer.
 void DeleteSelected(Editor& editor);
 

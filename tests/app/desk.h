@@ -35,6 +35,7 @@ public:
     PageSize OwnSize, LargeSize;  // of what was asked for
     std::optional<filters::SizeRecipe> Recipe;
     std::optional<SetChoice> Sets;
+    graphics::Bitmap Copied;     // by another program
     graphics::Bitmap Suggested;  // what recipes were asked for
     std::optional<graphics::Argb> Color;
     std::vector<std::string> Told;
@@ -136,8 +137,8 @@ public:
 
     void Changed(const editing::Changes&) override {}
     void Put(const graphics::Bitmap&, const std::string&) override {}
-    bool HasPicture() override { return false; }
-    graphics::Bitmap Picture() override { return {}; }
+    bool HasPicture() override { return !Copied.IsEmpty(); }
+    graphics::Bitmap Picture() override { return Copied; }
     std::string Text() override { return {}; }
     void CloseWindow() override {}
     void FocusScene() override {}

@@ -2,6 +2,7 @@
 
 #include <gmock/gmock.h>
 
+#include "app/take_file.h"
 #include "desk.h"
 #include "editing/document_commands.h"
 #include "editing/layer_commands.h"
@@ -115,6 +116,35 @@ TEST(ImportFilesTest, OneAnswerIsForAllFilesOfARun) {
     OpenFiles(opened.Context, {drawing});
     EXPECT_EQ(opened.OwnSize.Height, 24);
     EXPECT_EQ(opened.State.Page().Height, 8);
+}
+
+TEST(TakePastedTest, APictureLargerThanThePageIsAskedAbout) {
+    const struct {
+        const char* Name;
+        int Width;
+        std::optional<bool> Fits;
+        std::vector<graphics::RectF> Places;  // of the layers
+        const char* Told;
+    } cases[] = {
+        {"fitted", 32, true, {{0, 0, 8, 8}, {0, 3, 8, 2}}, "fit?"},
+        {"as large as it is", 32, false, {{0, 0, 8, 8}, {0, 0, 32, 8}}, "fit?"},
+        {"cancelled", 32, std::nullopt, {{0, 0, 8, 8}}, "fit?"},
+        {"no larger", 8, true, {{0, 0, 8, 8}, {0, 0, 8, 8}}, ""},
+        {"nothing", 0, true, {{0, 0, 8, 8}}, ""},
+    };
+    for (const auto& [name, width, fits, places, told] : cases) {
+        SCOPED_TRACE(name);
+        Desk desk;
+        desk.Run([](editing::Editor& editor) { NewDocument(editor, 8, 8); });
+        desk.Fits = fits;
+        desk.Copied = width ? FilledPicture(width, 8, 0xFFC02040) : graphics::Bitmap();
+        EXPECT_EQ(TakePasted(desk.Context).Text, "");
+        std::vector<graphics::RectF> found;
+        for (const document::IconLayer& layer : desk.State.Page().Layers)
+            found.push_back(layer.Rect);
+        EXPECT_EQ(found, places);
+        EXPECT_EQ(desk.AllTold(), told);
+    }
 }
 
 // What is given up is asked for, once.

@@ -2,14 +2,15 @@
 #include "main_window_fixture.h"
 
 #include <QClipboard>
+#include <QLabel>
 #include <QMessageBox>
 #include <QProgressDialog>
 #include <QPushButton>
 #include <QStatusBar>
 #include <QUrl>
 
+#include "app/fit_dialog.h"
 #include "app/save_prompt.h"
-#include "editing/clipboard_commands.h"
 
 namespace orbelle::app {
 namespace {
@@ -125,7 +126,7 @@ TEST_F(MainWindowTest, AnOfferedPictureThatIsTooLargeIsTold) {
             delete data;
         } else {
             QGuiApplication::clipboard()->setMimeData(data);
-            window.Run(editing::PasteFromClipboard);
+            window.Paste();
         }
         WaitUntil([&] { return !text.isEmpty(); });
         return text;
@@ -145,6 +146,45 @@ TEST_F(MainWindowTest, AnOfferedPictureThatIsTooLargeIsTold) {
                                                   "000000004944415435af061e"));
     EXPECT_TRUE(told(png, true).contains("20000 x 20000"));
     EXPECT_EQ(Page().LayerCount(), 1);
+}
+
+// The toolkit may know none of these kinds, or read them in another way.
+TEST_F(MainWindowTest, WebPAndDrawingsArePastedAndDropped) {
+    NewPage(16, 16);
+    // Two pixels: one red, one of no alpha.
+    const auto webp = QByteArray::fromHex(
+        "5249464620000000574542505650384c130000002f010000000ff090ff011ea0f98f346444ff0300");
+    auto* pixels = new QMimeData;
+    pixels->setData("image/webp", webp);
+    QGuiApplication::clipboard()->setMimeData(pixels);
+    window.Paste();
+    ASSERT_EQ(Page().LayerCount(), 2);
+    EXPECT_EQ(Page().Layers[1].ImageWidth, 2);
+    EXPECT_EQ(Page().Layers[1].Image.GetPixel(0, 0), kRed);
+
+    const auto drawing = [] {
+        auto* data = new QMimeData;
+        data->setData("image/svg+xml",
+                      "<svg xmlns='http://www.w3.org/2000/svg' width='2' height='1'>"
+                      "<rect width='2' height='1' fill='#c02040'/></svg>");
+        return data;
+    };
+    QGuiApplication::clipboard()->setMimeData(drawing());
+    AnswerDialog<FitDialog>([](FitDialog& dialog) {
+        EXPECT_EQ(dialog.findChild<QLabel*>()->text(),
+                  "The picture of 512 x 256 pixels is larger than the page of 16 x 16.");
+        dialog.accept();
+    });
+    window.Paste();
+    ASSERT_EQ(Page().LayerCount(), 3);
+    EXPECT_EQ(Page().Layers[2].Rect, (graphics::RectF{0, 4, 16, 8}));
+    EXPECT_EQ(Page().Layers[2].Image.GetPixel(8, 4), kRed);
+
+    const std::unique_ptr<QMimeData> dropped(drawing());
+    EXPECT_TRUE(IsTaken(*dropped));
+    AnswerDialog<FitDialog>([](FitDialog& dialog) { dialog.reject(); });
+    Drop(*dropped);
+    EXPECT_EQ(Page().LayerCount(), 3);
 }
 
 }  // namespace

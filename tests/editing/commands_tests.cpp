@@ -259,6 +259,22 @@ TEST_F(Commands, AnotherProgramsPictureArrivesOpaqueAtThePagesCorner) {
     EXPECT_EQ(Layer(4).Image.GetPixel(0, 0), 0xFF8F9FAF);
 }
 
+TEST_F(Commands, AnotherProgramsPictureCanBeMadeToFitThePage) {
+    OpenPage(8, 8);
+    Do(CopyToClipboard);
+    EXPECT_TRUE(ForeignPicture(editor).IsEmpty());
+    recorder.Put(FilledPicture(32, 12, 0x80204060), "words");
+    const graphics::Bitmap picture = ForeignPicture(editor);
+    Do(PastePicture, picture, true);
+    EXPECT_EQ(Steps(), 1);
+    EXPECT_EQ(Layer(1).Rect, (graphics::RectF{0, 2, 8, 3}));
+    EXPECT_EQ(Layer(1).Image.GetPixel(7, 2), 0xFF8F9FAF);
+    EXPECT_EQ(Layer(1).Region.Bounds(), Layer(1).Rect);
+    // A smaller one is as large as it is.
+    Do(PastePicture, FilledPicture(2, 3, kBlue), true);
+    EXPECT_EQ(Layer(2).Rect, (graphics::RectF{3, 2, 2, 3}));
+}
+
 TEST_F(Commands, AnOpenedDocumentHasScrollBarsAndTheLayersBeforeItsDamage) {
     const testing::TemporaryFolder folder;
     const std::filesystem::path path = folder / "a.volf";

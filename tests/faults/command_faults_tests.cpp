@@ -479,6 +479,7 @@ const Scenario kScenarios[] = {
     {"CutSelection", Simply<editing::CutToClipboard>, "", SelectPixels},
     {"PasteOwn", Simply<editing::PasteFromClipboard>, "", CopyLayer},
     {"PasteForeign", Simply<editing::PasteFromClipboard>, "", CopyElsewhere},
+    {"PasteFitted", Simply<[](Editor& editor) { PastePicture(editor, Picture(90, 70, 3), true); }>},
     {"DeleteSelection", Simply<editing::DeleteSelection>, "", SelectPixels},
     {"InvertSelection", Simply<editing::InvertSelection>, "", SelectPixels},
 

@@ -138,6 +138,25 @@ TEST(ColorsOfPng, StayWhereTheyAreSrgb) {
         EXPECT_TRUE(testing::SamePixels(DecodeImage(With(picture, chunks)), picture));
 }
 
+// A table says of its own points what the formula says that it was made by.
+TEST(ColorsOfPng, FollowTables) {
+    Bitmap picture(256, 16);
+    for (int x = 0; x < 256; ++x)
+        for (int y = 0; y < 16; ++y)
+            picture.SetPixel(x, y, MakeArgb(255 - y, x / 16 * 17, x % 16 * 17, y * 17));
+    const auto converted = [&](const FileBytes& profile) {
+        return DecodeImage(With(picture, {ProfileChunk(profile)}));
+    };
+    const Bitmap byTable = converted(testing::AdobeRgbTableProfile()),
+                 byFormula = converted(testing::AdobeRgbProfile());
+    for (int x = 0; x < 256; ++x)
+        for (int y = 0; y < 16; ++y)
+            for (int shift = 0; shift < 32; shift += 8)
+                ASSERT_NEAR(static_cast<int>(*byTable.GetPixel(x, y) >> shift & 0xFF),
+                            static_cast<int>(*byFormula.GetPixel(x, y) >> shift & 0xFF), 1)
+                    << std::hex << *picture.GetPixel(x, y);
+}
+
 TEST(ColorsOfPng, SurviveDamage) {
     const FileBytes profile = ProfileChunk(testing::AdobeRgbProfile());
     ExpectToSurviveDamage(With(OnePixel(0xFF78C83C), {profile, Gamma(50000), Primaries()}));

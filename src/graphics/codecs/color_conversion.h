@@ -9,6 +9,7 @@
 
 #include "graphics/bitmap.h"
 #include "graphics/codecs/matrix_colors.h"
+#include "graphics/codecs/table_colors.h"
 
 namespace orbelle::graphics {
 
@@ -33,9 +34,10 @@ public:
     ColorConversion() = default;
 
     // By an ICC profile: relative colorimetric with black point compensation. One of sRGB changes
-    // nothing. None when the profile is damaged, too large, or of other channels.
+    // nothing. None when the profile is damaged, too large, or of other channels. For a picture of
+    // so many pixels: in a large one tables are gone by roughly.
     static std::optional<ColorConversion> OfProfile(std::span<const std::uint8_t> profile,
-                                                    FileChannels channels);
+                                                    FileChannels channels, std::int64_t pixels);
 
     // Of samples that are light to the power of `gamma`; nothing: that follow sRGB's curve. The
     // reciprocal of 2.2 with sRGB's primary colours is what sRGB writes itself as, and changes
@@ -43,17 +45,19 @@ public:
     static ColorConversion OfGamma(std::optional<double> gamma, const Chromaticities& primaries,
                                    FileChannels channels);
 
-    bool ChangesNothing() const { return !transform_ && !matrix_ && table_.empty(); }
+    bool ChangesNothing() const { return !tables_ && !matrix_ && greys_.empty(); }
 
-    // Alpha stays as it is; of paper it becomes 255.
+    // Alpha stays as it is; of paper it becomes 255. Not for two threads at a time, nor for two
+    // copies.
     void Convert(Argb* pixels, std::int64_t count) const;
 
 private:
-    static std::optional<ColorConversion> From(void* profile, FileChannels channels);
+    static std::optional<ColorConversion> From(void* profile, FileChannels channels,
+                                               std::int64_t pixels);
 
-    std::shared_ptr<void> transform_;
+    std::shared_ptr<TableColors> tables_;
     std::shared_ptr<const MatrixColors> matrix_;
-    std::vector<Argb> table_;  // of 256 greys, alpha 0
+    std::vector<Argb> greys_;  // what the 256 become, alpha 0
     bool isPaper_ = false;
 };
 

@@ -348,7 +348,8 @@ Bitmap DecodeJpeg(const ByteSource& file, PixelBudget& budget, ColorHandling col
         band.resize(static_cast<std::size_t>(reader.Width()) * kBandRows);
     ColorConversion conversion;
     if (colors == ColorHandling::ToSrgb)
-        conversion = ColorConversion::OfProfile(reader.Profile(), reader.Channels())
+        conversion = ColorConversion::OfProfile(reader.Profile(), reader.Channels(),
+                                                reader.Width() * reader.Height())
                          .value_or(ColorConversion());
     if (!reader.ReadPixels(image.MutablePixels(), band.empty() ? nullptr : band.data(),
                            PlacementOf(orientation, width, height), conversion))

@@ -47,10 +47,8 @@ const std::uint8_t* Samples() {
 
 // What the library would rather go by.
 bool HasTable(void* profile) {
-    return std::ranges::any_of(
-        std::array{cmsSigAToB0Tag, cmsSigAToB1Tag, cmsSigAToB2Tag, cmsSigDToB0Tag, cmsSigDToB1Tag,
-                   cmsSigDToB2Tag, cmsSigDToB3Tag},
-        [=](cmsTagSignature tag) { return cmsIsTag(profile, tag); });
+    return std::ranges::any_of(std::array{cmsSigAToB0Tag, cmsSigAToB1Tag, cmsSigAToB2Tag},
+                               [=](cmsTagSignature tag) { return cmsIsTag(profile, tag); });
 }
 
 }  // namespace

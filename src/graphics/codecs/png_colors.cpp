@@ -102,7 +102,8 @@ ColorChunks FindChunks(const ByteSource& file) {
 }
 
 // A name with a zero at its end, the kind of compression, the packed profile.
-std::optional<ColorConversion> ProfileIn(const ByteSource& chunk, FileChannels channels) {
+std::optional<ColorConversion> ProfileIn(const ByteSource& chunk, FileChannels channels,
+                                         std::int64_t pixels) {
     std::uint64_t end = 0;
     while (end <= kMaxNameBytes && chunk.NumberAt<std::uint8_t>(end) != 0)
         ++end;
@@ -111,15 +112,15 @@ std::optional<ColorConversion> ProfileIn(const ByteSource& chunk, FileChannels c
         return std::nullopt;
     const auto profile =
         Inflate(PartOfSource(chunk, begin, chunk.Size() - begin), kMaxProfileBytes);
-    return profile ? ColorConversion::OfProfile(*profile, channels) : std::nullopt;
+    return profile ? ColorConversion::OfProfile(*profile, channels, pixels) : std::nullopt;
 }
 
 }  // namespace
 
-ColorConversion PngColors(const ByteSource& file, FileChannels channels) {
+ColorConversion PngColors(const ByteSource& file, FileChannels channels, std::int64_t pixels) {
     const ColorChunks found = FindChunks(file);
     if (found.Profile) {
-        if (auto conversion = ProfileIn(*found.Profile, channels))
+        if (auto conversion = ProfileIn(*found.Profile, channels, pixels))
             return *std::move(conversion);
     }
     if (found.IsSrgb || (!found.Gamma && !found.Primaries))

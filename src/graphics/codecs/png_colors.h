@@ -8,6 +8,7 @@ namespace orbelle::graphics {
 
 // By the first that is whole of iCCP, sRGB, and gAMA with cHRM; chunks behind the first pixels
 // don't count. A file without any, or one that states sRGB, is left as it is.
-ColorConversion PngColors(const ByteSource& file, FileChannels channels);
+// For a picture of so many pixels.
+ColorConversion PngColors(const ByteSource& file, FileChannels channels, std::int64_t pixels);
 
 }  // namespace orbelle::graphics

@@ -130,8 +130,9 @@ Bitmap DecodePng(const ByteSource& file, PixelBudget& budget, ColorHandling colo
     Bitmap image(static_cast<int>(reader.Width()), static_cast<int>(reader.Height()));
     if (!reader.ReadPixels(image.MutablePixels()))
         reader.ThrowProblem();
+    const std::int64_t pixels = reader.Width() * reader.Height();
     if (colors == ColorHandling::ToSrgb)
-        PngColors(file, channels).Convert(image.MutablePixels(), reader.Width() * reader.Height());
+        PngColors(file, channels, pixels).Convert(image.MutablePixels(), pixels);
     return image;
 }
 

@@ -67,12 +67,12 @@ private:
     WebPIterator frame_ = {};
 };
 
-ColorConversion ColorsOf(const WebPDemuxer& demuxer) {
+ColorConversion ColorsOf(const WebPDemuxer& demuxer, std::int64_t pixels) {
     WebPChunkIterator chunk = {};
     if (!WebPDemuxGetChunk(&demuxer, "ICCP", 1, &chunk))
         return {};
-    auto conversion =
-        ColorConversion::OfProfile({chunk.chunk.bytes, chunk.chunk.size}, FileChannels::Rgb);
+    auto conversion = ColorConversion::OfProfile({chunk.chunk.bytes, chunk.chunk.size},
+                                                 FileChannels::Rgb, pixels);
     WebPDemuxReleaseChunkIterator(&chunk);
     return std::move(conversion).value_or(ColorConversion());
 }
@@ -93,7 +93,7 @@ Bitmap DecodeWebp(const ByteSource& file, PixelBudget& budget) {
     const FirstFrame frame(*demuxer);
     Bitmap image(static_cast<int>(width), static_cast<int>(height));
     frame.Decode(image);
-    ColorsOf(*demuxer).Convert(image.MutablePixels(), width * height);
+    ColorsOf(*demuxer, width * height).Convert(image.MutablePixels(), width * height);
     return image;
 }
 
