@@ -40,8 +40,10 @@ Bitmap Picture() {
 }
 
 void AppendBig(FileBytes& file, std::uint32_t number) {
-    for (int shift = 24; shift >= 0; shift -= 8)
-        file.push_back(static_cast<std::uint8_t>(number >> shift));
+    const std::uint8_t bytes[] = {
+        static_cast<std::uint8_t>(number >> 24), static_cast<std::uint8_t>(number >> 16),
+        static_cast<std::uint8_t>(number >> 8), static_cast<std::uint8_t>(number)};
+    file.insert(file.end(), std::begin(bytes), std::end(bytes));
 }
 
 // With light itself for its samples and other primary colours, as a chunk says.

@@ -117,6 +117,7 @@ void AskExportSets(const WindowContext& context) {
                      RenderSets(source, std::span(&set, 1), settings))
                     WriteSet(choice->Folder, rendered);
             });
+            context.Commands.Run([set](Editor& exported) { NoteSetExported(exported, set); });
             summary.NoteWritten(FilesThere(*choice, set, source));
         } catch (const std::exception&) {
             summary.NoteFailed(set, editing::Outcome(std::current_exception()).Problem());

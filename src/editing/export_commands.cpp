@@ -91,13 +91,18 @@ formats::SetSource SetSourceOf(const Editor& editor) {
             FileNameOf(editor.Document)};
 }
 
+void NoteSetExported(Editor& editor, formats::IconSet set) {
+    editor.ExportedSets.set(static_cast<std::size_t>(set));
+    editor.Changed.Pixels = true;  // those of sizes that nobody looked at before
+}
+
 void ExportSets(Editor& editor, const std::filesystem::path& folder,
                 std::span<const formats::IconSet> sets) {
     for (const formats::RenderedSet& set :
          RenderSets(SetSourceOf(editor), sets, editor.ExportSettings))
         WriteSet(folder, set);
     for (const formats::IconSet set : sets)
-        editor.ExportedSets.set(static_cast<std::size_t>(set));
+        NoteSetExported(editor, set);
 }
 
 std::string FileNameOf(const document::Document& document) {

@@ -31,8 +31,11 @@ graphics::Bitmap PictureToExport(const Editor& editor);
 // What sets of files are made from.
 formats::SetSource SetSourceOf(const Editor& editor);
 
-// Whole sets of files below a folder, one set after the other: one that fails leaves nothing of
-// itself and throws Error. From then on a check looks at their sizes, too.
+// From now on a check looks at the sizes of that set, too.
+void NoteSetExported(Editor& editor, formats::IconSet set);
+
+// Whole sets of files below a folder, one set after the other, each noted as exported: one that
+// fails leaves nothing of itself and throws Error.
 void ExportSets(Editor& editor, const std::filesystem::path& folder,
                 std::span<const formats::IconSet> sets);
 

@@ -40,6 +40,7 @@ TEST(AskExportSetsTest, AsksOnceAndTellsWhatWasWrittenAndWhatNot) {
     AskExportSets(desk.Context);
     EXPECT_THAT(desk.Told, ElementsAre("sets?", "message"));
     EXPECT_THAT(desk.Message, HasSubstr("Exported 9 files, "));
+    EXPECT_THAT(SetSizesOf(desk.State), ElementsAre(16, 32, 48, 180, 192, 512, 1024));
 
     fs::remove_all(folder / "out/web");
     fs::remove(folder / "out/ios/AppIcon.appiconset/icon-1024.png");
