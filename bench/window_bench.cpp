@@ -10,7 +10,7 @@
 #include <functional>
 #include <vector>
 
-#include "app/chrome.h"
+#include "app/looks.h"
 #include "app/main_window.h"
 #include "app/scene_view.h"
 #include "app/settings.h"
@@ -124,7 +124,7 @@ void MeasurePages(app::MainWindow& window) {
 
 int main(int argc, char** argv) {
     const QApplication application(argc, argv);
-    app::ApplyChrome();
+    app::ApplyLooks(app::Looks::Light);
     app::MainWindow window;
     window.resize(app::kDefaultMainSize);
     window.show();

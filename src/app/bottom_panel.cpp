@@ -64,10 +64,7 @@ void Mirror(widgets::NumberSlider& shown, const editing::Slider& slider) {
 
 QToolButton* PictureButton(const char* artwork, const char* tip) {
     auto* button = new QToolButton;
-    QIcon icon;
-    for (const int ratio : {1, 2})
-        icon.addPixmap(widgets::Artwork(artwork, {16, 16}, ratio));
-    button->setIcon(icon);
+    button->setIcon(widgets::ArtworkIcon(artwork));
     button->setAutoRaise(true);
     button->setToolTip(tip);
     button->setAccessibleName(tip);

@@ -6,7 +6,7 @@
 #include <algorithm>
 
 #include "editing/tool_palette.h"
-#include "widgets/chrome.h"
+#include "widgets/theme.h"
 #include "widgets/track_slider.h"
 
 namespace orbelle::app {
@@ -104,12 +104,12 @@ void BrushPanel::StepBlink() {
 
 void BrushPanel::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    painter.fillRect(rect(), widgets::kChromeColor);
-    painter.fillRect(QRect(0, kEdgeGap, 1, height() - 2 * kEdgeGap), widgets::kHairlineColor);
+    painter.fillRect(rect(), widgets::CurrentTheme().Ground);
+    painter.fillRect(QRect(0, kEdgeGap, 1, height() - 2 * kEdgeGap), widgets::HairlineColor());
     if (!frame_)
         return;
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(widgets::kAccentColor, 1));
+    painter.setPen(QPen(widgets::CurrentTheme().Accent, 1));
     painter.drawRoundedRect(QRectF(rect()).adjusted(3.5, 3.5, -3.5, -3.5), 3, 3);
 }
 

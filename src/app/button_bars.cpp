@@ -17,11 +17,9 @@ namespace {
 
 using widgets::ButtonBar;
 using widgets::ButtonBarSetup;
-using widgets::ButtonBarStyle;
 
 // In the order of the editor's numbers.
 const ButtonBarSetup kMainBar = {
-    .Style = ButtonBarStyle::Win10,
     .IconSize = 32,
     .Buttons = {{.Caption = "New", .ToolTip = "New", .Artwork = "main/new"},
                 {.ToolTip = "Open", .Artwork = "main/open"},
@@ -45,7 +43,6 @@ const ButtonBarSetup kMainBar = {
 // are right.
 const ButtonBarSetup kToolBox = {
     .Direction = Qt::Vertical,
-    .Style = ButtonBarStyle::Win10,
     .Buttons = {
         {.ToolTip = "Move tool", .Artwork = "tools/move", .Latches = true},
         {.ToolTip = "Selection tool", .Artwork = "tools/select-rectangle", .Latches = true},

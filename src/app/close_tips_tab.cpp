@@ -9,7 +9,7 @@
 #include <cstdlib>
 #include <optional>
 
-#include "widgets/chrome.h"
+#include "widgets/theme.h"
 
 namespace orbelle::app {
 namespace {
@@ -29,7 +29,6 @@ CloseTipsTab::CloseTipsTab(QWidget& parent, QWidget& panel, QWidget& scrollBar)
     row->setSpacing(12);
     auto* text = new QLabel(kText);
     text->setFont(widgets::ChromeFont(8));
-    text->setStyleSheet("color: black");
     row->addWidget(text);
     auto* close = new QToolButton;
     close->setObjectName("CloseTips");
@@ -126,8 +125,8 @@ void CloseTipsTab::Step() {
 void CloseTipsTab::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(widgets::kTipEdgeColor, 1));
-    painter.setBrush(widgets::kTipColor);
+    painter.setPen(QPen(widgets::CurrentTheme().Line, 1));
+    painter.setBrush(widgets::CurrentTheme().Field);
     painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, 5), 5, 5);
 }
 

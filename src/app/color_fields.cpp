@@ -7,7 +7,7 @@
 #include <algorithm>
 
 #include "app/color_text.h"
-#include "widgets/chrome.h"
+#include "widgets/theme.h"
 
 namespace orbelle::app {
 namespace {
@@ -27,8 +27,9 @@ void DrawFrame(QPainter& painter, const QWidget& field) {
     const double half = width / 2.0;
     painter.setRenderHint(QPainter::Antialiasing, false);
     painter.setBrush(Qt::NoBrush);
-    painter.setPen(QPen(field.hasFocus() ? widgets::kAccentColor : widgets::kEdgeColor, width,
-                        Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+    painter.setPen(
+        QPen(field.hasFocus() ? widgets::CurrentTheme().Accent : widgets::CurrentTheme().Line,
+             width, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
     painter.drawRect(QRectF(field.rect()).adjusted(half, half, -half, -half));
 }
 
@@ -226,7 +227,7 @@ QSize ColorCell::sizeHint() const {
 void ColorCell::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     if (!isEnabled()) {
-        painter.setPen(widgets::kHairlineColor);
+        painter.setPen(widgets::HairlineColor());
         painter.drawRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5));
         return;
     }

@@ -4,13 +4,12 @@
 #include <QMouseEvent>
 #include <QPainter>
 
-#include "widgets/chrome.h"
+#include "widgets/theme.h"
 
 namespace orbelle::app {
 namespace {
 
 constexpr QColor kCheckerColor(230, 230, 230);
-constexpr QColor kOutline(70, 70, 70);
 constexpr int kMargin = 3;
 
 }  // namespace
@@ -36,8 +35,8 @@ void ColorWell::paintEvent(QPaintEvent*) {
         painter.fillRect(rect().adjusted(kMargin, kMargin, -kMargin, -kMargin),
                          QColor::fromRgba(color_));
     const double half = penWidth_ / 2.0;
-    painter.setPen(QPen(hasFocus() ? widgets::kAccentColor : kOutline, penWidth_, Qt::SolidLine,
-                        Qt::SquareCap, Qt::MiterJoin));
+    painter.setPen(QPen(hasFocus() ? widgets::CurrentTheme().Accent : widgets::CurrentTheme().Line,
+                        penWidth_, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
     painter.drawRect(QRectF(rect()).adjusted(half, half, -half, -half));
 }
 

@@ -6,7 +6,7 @@
 #include <cmath>
 
 #include "filters/outline_contrast.h"
-#include "widgets/chrome.h"
+#include "widgets/theme.h"
 
 namespace orbelle::app {
 namespace {
@@ -17,26 +17,6 @@ using formats::Finding;
 constexpr int kMostLines = 4;
 constexpr int kLineHeight = 20;
 constexpr int kInset = 4;  // above the first line and below the last
-constexpr char kLooks[] =
-    "QListView { background: @chrome; border: none; border-top: 1px solid @hairline;"
-    " padding: 3px 4px 4px 4px; outline: none }"
-    "QListView::item { padding: 0 4px; border-radius: 3px; border: 1px solid transparent }"
-    "QListView::item:hover { background: #e8ebee }"
-    "QListView::item:disabled { background: transparent; color: @pale }"
-    "QListView::item:selected { background: transparent; color: @text }"
-    "QListView::item:selected:active { background: #dcebfb; border-color: @accent }";
-
-QString Looks() {
-    QString looks = kLooks;
-    for (const auto& [word, color] : {std::pair("@chrome", widgets::kChromeColor),
-                                      {"@hairline", widgets::kHairlineColor},
-                                      {"@pale", widgets::kPaleTextColor},
-                                      {"@text", widgets::kTextColor},
-                                      {"@accent", widgets::kAccentColor}})
-        looks.replace(word, color.name());
-    return looks;
-}
-
 QString LineOf(const Finding& finding) {
     return QString("%1: %2").arg(finding.Size).arg(TextOf(finding));
 }
@@ -66,7 +46,6 @@ FindingsList::FindingsList() {
     setObjectName("Findings");
     setAccessibleName("Findings");
     setFont(widgets::ChromeFont(8));
-    setStyleSheet(Looks());
     setUniformItemSizes(true);
     setTextElideMode(Qt::ElideRight);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);

@@ -39,7 +39,7 @@ QPixmap PaintPreview(const Draw& draw) {
 QLabel* AddPreview(QGridLayout& layout, int column, const char* caption) {
     auto* box = new QLabel;
     box->setFixedSize(kBox + 2, kBox + 2);
-    box->setStyleSheet("border: 1px solid rgba(0, 0, 0, 50)");
+    box->setStyleSheet("border: 1px solid palette(mid)");
     box->setAccessibleName(caption);
     layout.addWidget(new QLabel(caption), 0, column);
     layout.addWidget(box, 1, column);
@@ -60,7 +60,6 @@ GifOptimizerDialog::GifOptimizerDialog(const graphics::Bitmap& surface, QWidget*
     QFont font = head->font();
     font.setPointSize(12);
     head->setFont(font);
-    head->setStyleSheet("color: rgb(55, 101, 144)");
     layout->addWidget(head);
 
     auto* previews = new QGridLayout;

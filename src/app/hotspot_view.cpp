@@ -7,7 +7,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "widgets/chrome.h"
+#include "widgets/theme.h"
 
 namespace orbelle::app {
 namespace {
@@ -17,7 +17,6 @@ constexpr int kMostShown = 320;  // a side
 constexpr int kRoom = 20;        // around the picture, for the cross's arms
 constexpr int kArm = 12;
 constexpr int kSmallestBox = 5;  // that is seen between the arms
-constexpr QColor kGroundColor(232, 234, 237);
 constexpr QColor kCheckColor(230, 230, 230);
 constexpr QColor kCrossColor(32, 32, 32);
 
@@ -108,9 +107,9 @@ void HotspotView::keyPressEvent(QKeyEvent* event) {
 void HotspotView::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     const int pen = hasFocus() ? 2 : 1;
-    const QColor edge = hasFocus() ? widgets::kAccentColor : widgets::kHairlineColor;
+    const QColor edge = hasFocus() ? widgets::CurrentTheme().Accent : widgets::HairlineColor();
     painter.fillRect(rect(), edge);
-    painter.fillRect(Grown(rect(), -pen), kGroundColor);
+    painter.fillRect(Grown(rect(), -pen), widgets::BandColor());
 
     // In device pixels from here on.
     const QTransform toDevice = painter.deviceTransform();

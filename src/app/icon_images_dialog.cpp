@@ -14,15 +14,13 @@
 #include <set>
 
 #include "app/shared_image.h"
-#include "widgets/chrome.h"
+#include "widgets/theme.h"
 
 namespace orbelle::app {
 namespace {
 
 using How = CellChoice::How;
 
-constexpr QColor kPlateColor(255, 255, 255);
-constexpr QColor kChosenPlateColor(229, 241, 255);
 constexpr QColor kCheckColor(230, 230, 230);
 constexpr int kFrameWidth = 2;
 constexpr double kCaptionPoints = 8;
@@ -129,14 +127,14 @@ void IconGridView::paintEvent(QPaintEvent* event) {
 void IconGridView::PaintCell(QPainter& painter, int index) {
     const bool chosen = choice_.IsChosen(index);
     const QRect cell = PartPlace(index).adjusted(1, 1, -1, -1);
-    painter.fillRect(cell, chosen ? kChosenPlateColor : kPlateColor);
+    painter.fillRect(cell, chosen ? widgets::PressedColor() : widgets::CurrentTheme().Field);
     PaintPicture(painter, index);
-    painter.setPen(widgets::kTextColor);
+    painter.setPen(widgets::CurrentTheme().Text);
     painter.drawText(RectOf(grid_.Caption(index)), Qt::AlignHCenter | Qt::AlignTop,
                      QString::fromStdString(grid_.SizeText(index) + '\n' + grid_.DepthText(index)));
     if (chosen) {
-        painter.setPen(
-            QPen(widgets::kAccentColor, kFrameWidth, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+        painter.setPen(QPen(widgets::CurrentTheme().Accent, kFrameWidth, Qt::SolidLine,
+                            Qt::SquareCap, Qt::MiterJoin));
         painter.drawRect(cell.adjusted(1, 1, -1, -1));
     }
     // Where several can be chosen the current one need not be.
@@ -144,7 +142,7 @@ void IconGridView::PaintCell(QPainter& painter, int index) {
         QStyleOptionFocusRect option;
         option.initFrom(this);
         option.rect = cell.adjusted(3, 3, -3, -3);
-        option.backgroundColor = kPlateColor;
+        option.backgroundColor = widgets::CurrentTheme().Field;
         style()->drawPrimitive(QStyle::PE_FrameFocusRect, &option, &painter, this);
     }
 }
@@ -153,7 +151,7 @@ void IconGridView::PaintCell(QPainter& painter, int index) {
 void IconGridView::PaintPicture(QPainter& painter, int index) {
     const auto at = static_cast<std::size_t>(index);
     const QRect place = RectOf(grid_.Thumbnail(index));
-    painter.fillRect(place, kPlateColor);
+    painter.fillRect(place, widgets::CurrentTheme().Field);
     widgets::DrawChecker(painter, place, kCheckColor);
     const QImage image = SharedImage(grid_.Images()[at].Image);
     if (image.size() == place.size()) {

@@ -8,6 +8,7 @@
 #include "app/export_formats.h"
 #include "app/export_sets.h"
 #include "app/links.h"
+#include "app/looks.h"
 #include "app/save_commands.h"
 #include "app/step_caption.h"
 #include "editing/clipboard_commands.h"
@@ -261,6 +262,14 @@ std::vector<Entry> ToolEntries() {
 }
 
 std::vector<Entry> ViewEntries() {
+    const auto looks = [](const char* name, const char* caption, Looks which) {
+        return Entry{
+            .Name = name,
+            .Caption = caption,
+            .Run = [which](const WindowContext&) { ChooseLooks(which); },
+            .Checks = true,
+            .IsOn = [which](const editing::ToolSettings&) { return CurrentLooks() == which; }};
+    };
     return {
         {.Name = kPixelGridName,
          .Caption = "Pixel &Grid",
@@ -288,6 +297,10 @@ std::vector<Entry> ViewEntries() {
          .Shortcuts = {Qt::CTRL | Qt::Key_Home},
          .Run = Edit([](editing::Editor& editor) { GoToPage(editor, document::Family::kMaster); }),
          .Command = CommandId::Master},
+        {},
+        looks("LooksLight", "&Light", Looks::Light),
+        looks("LooksDark", "&Dark", Looks::Dark),
+        looks("LooksDesktop", "As the D&esktop", Looks::AsDesktop),
     };
 }
 

@@ -1,6 +1,7 @@
 #include "app/message_boxes.h"
 
 #include <QClipboard>
+#include <QGridLayout>
 #include <QGuiApplication>
 #include <QMessageBox>
 #include <QPushButton>
@@ -10,13 +11,26 @@
 namespace orbelle::app {
 namespace {
 
+// Without the room that is kept for an icon also where there is none.
+int Exec(QMessageBox& box) {
+    auto* grid = qobject_cast<QGridLayout*>(box.layout());
+    for (int i = 0; grid && i < grid->count(); ++i) {
+        if (QSpacerItem* indent = grid->itemAt(i)->spacerItem();
+            indent && box.icon() == QMessageBox::NoIcon)
+            indent->changeSize(0, 0);
+    }
+    if (grid)
+        grid->setContentsMargins(20, 20, 20, 16);
+    return box.exec();
+}
+
 int Show(QWidget* parent, QMessageBox::Icon icon, const QString& title, const std::string& text,
          QMessageBox::StandardButtons buttons, QMessageBox::StandardButton usual) {
     QMessageBox box(icon, title, QString::fromStdString(text), buttons, parent);
     // A text may carry a file's name: markup in it is no markup.
     box.setTextFormat(Qt::PlainText);
     box.setDefaultButton(usual);
-    return box.exec();
+    return Exec(box);
 }
 
 }  // namespace
@@ -34,7 +48,7 @@ void ShowMessageToCopy(QWidget* parent, const std::string& text, const std::stri
     const QPushButton* copy = box.addButton("&Copy", QMessageBox::ActionRole);
     box.setDefaultButton(QMessageBox::Ok);
     box.setEscapeButton(QMessageBox::Ok);
-    box.exec();
+    Exec(box);
     if (box.clickedButton() == copy)
         QGuiApplication::clipboard()->setText(QString::fromStdString(address));
 }
@@ -46,7 +60,7 @@ bool OfferFolder(QWidget* parent, const std::string& text) {
     const QPushButton* open = box.addButton("Open &Folder", QMessageBox::ActionRole);
     box.setDefaultButton(QMessageBox::Ok);
     box.setEscapeButton(QMessageBox::Ok);
-    box.exec();
+    Exec(box);
     return box.clickedButton() == open;
 }
 

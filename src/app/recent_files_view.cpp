@@ -6,7 +6,7 @@
 #include <algorithm>
 
 #include "app/recent_files.h"
-#include "widgets/chrome.h"
+#include "widgets/theme.h"
 
 namespace orbelle::app {
 namespace {
@@ -59,7 +59,7 @@ protected:
         painter.setPen(kFolderColor);
         draw(end + kGap, folder_);
         if (hasFocus()) {
-            painter.setPen(widgets::kAccentColor);
+            painter.setPen(widgets::CurrentTheme().Accent);
             painter.drawRect(rect().adjusted(0, 0, -1, -1));
         }
     }

@@ -14,7 +14,7 @@
 #include "app/message_boxes.h"
 #include "app/shared_image.h"
 #include "document/compositor.h"
-#include "widgets/chrome.h"
+#include "widgets/theme.h"
 
 namespace orbelle::app {
 namespace {
@@ -22,7 +22,6 @@ namespace {
 constexpr int kPictureSide = 64;  // logical pixels
 constexpr int kVisibleRows = 3;
 constexpr int kListWidth = 420;
-constexpr QColor kSelectedColor(204, 235, 255);
 constexpr QColor kCheckerColor(232, 232, 232);
 constexpr char kHead[] = "Your work was not saved when Varnel Orbelle ended.";
 constexpr char kText[] =
@@ -94,7 +93,7 @@ RecoveryDialog::RecoveryDialog(std::vector<formats::FoundJournal>& journals, QWi
         new QListWidgetItem(icon, TextOf(journal.Entry()), list_);
     }
     QPalette palette = list_->palette();
-    palette.setColor(QPalette::Highlight, kSelectedColor);
+    palette.setColor(QPalette::Highlight, widgets::PressedColor());
     palette.setColor(QPalette::HighlightedText, palette.color(QPalette::Text));
     list_->setPalette(palette);
     list_->setCurrentRow(0);

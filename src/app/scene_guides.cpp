@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "widgets/chrome.h"
+#include "widgets/theme.h"
 
 namespace orbelle::app {
 namespace {
@@ -79,7 +79,7 @@ void DrawPixelGrid(QPainter& painter, const PageSight& page, const QRect& seen) 
 }
 
 void DrawMirrorAxes(QPainter& painter, const PageSight& page, editing::MirrorAxes axes) {
-    QColor color = widgets::kAccentColor;
+    QColor color = widgets::CurrentTheme().Accent;
     color.setAlpha(150);
     const auto [x, y, width, height] = page.OnScene;
     const DevicePixels device(painter);

@@ -13,7 +13,7 @@
 #include "app/shared_image.h"
 #include "document/scene_painter.h"
 #include "widgets/artwork.h"
-#include "widgets/chrome.h"
+#include "widgets/theme.h"
 
 namespace orbelle::app {
 namespace {
@@ -234,7 +234,8 @@ void SceneView::paintEvent(QPaintEvent* event) {
 
     const auto frame = document::ObjectFrame(editor_.Page(), editor_.View);
     if (frame && !editor_.Selection.Exists()) {
-        painter.setPen(QPen(widgets::kAccentColor, 1, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+        painter.setPen(
+            QPen(widgets::CurrentTheme().Accent, 1, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
         painter.drawRect(
             QRectF(frame->X + 0.5, frame->Y + 0.5, frame->Width - 1, frame->Height - 1));
     }

@@ -11,7 +11,7 @@
 
 #include "app/shared_image.h"
 #include "app/suggestion_tile.h"
-#include "widgets/chrome.h"
+#include "widgets/theme.h"
 
 namespace orbelle::app {
 namespace {

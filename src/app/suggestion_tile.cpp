@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "widgets/chrome.h"
+#include "widgets/theme.h"
 
 namespace orbelle::app {
 namespace {
@@ -17,8 +17,6 @@ constexpr int kGroundMargin = 10;
 constexpr int kCorner = 4;
 constexpr QColor kCheckColor(230, 230, 230);
 constexpr QColor kDarkColor(32, 32, 32);
-constexpr QColor kHoverColor(240, 247, 255);
-constexpr QColor kPressedColor(220, 235, 251);
 
 int Logical(int devicePixels, double scale) {
     return static_cast<int>(std::ceil(devicePixels / scale));
@@ -92,18 +90,20 @@ void SuggestionTile::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     const int pen = hasFocus() ? 2 : 1;
     const bool isLit = hasFocus() || underMouse();
-    painter.setPen(QPen(isLit ? widgets::kAccentColor : widgets::kHairlineColor, pen));
-    painter.setBrush(isDown() ? kPressedColor : underMouse() ? kHoverColor : QColor(Qt::white));
+    painter.setPen(QPen(isLit ? widgets::CurrentTheme().Accent : widgets::HairlineColor(), pen));
+    painter.setBrush(isDown()       ? widgets::PressedColor()
+                     : underMouse() ? widgets::HoverColor()
+                                    : widgets::CurrentTheme().Field);
     painter.setRenderHint(QPainter::Antialiasing);
     const double inset = pen / 2.0;
     painter.drawRoundedRect(QRectF(rect()).adjusted(inset, inset, -inset, -inset), kCorner,
                             kCorner);
     painter.setRenderHint(QPainter::Antialiasing, false);
-    painter.setPen(widgets::kTextColor);
+    painter.setPen(widgets::CurrentTheme().Text);
     painter.drawText(QRect(0, 0, width(), kCaptionHeight), Qt::AlignCenter, text());
 
     for (const QRect& place : {EnlargedPlace(), LightPlace() | DarkPlace()})
-        painter.fillRect(place.adjusted(-1, -1, 1, 1), widgets::kHairlineColor);
+        painter.fillRect(place.adjusted(-1, -1, 1, 1), widgets::HairlineColor());
     painter.fillRect(EnlargedPlace(), Qt::white);
     widgets::DrawChecker(painter, EnlargedPlace(), kCheckColor);
     DrawInMiddle(painter, EnlargedPlace(), picture_, layout_.Cell);

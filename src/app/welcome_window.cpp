@@ -7,7 +7,7 @@
 
 #include "editing/editor.h"
 #include "widgets/artwork.h"
-#include "widgets/chrome.h"
+#include "widgets/theme.h"
 
 namespace orbelle::app {
 namespace {

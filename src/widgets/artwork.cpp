@@ -1,7 +1,12 @@
 #include "widgets/artwork.h"
 
+#include <QFile>
+#include <QIconEngine>
 #include <QPainter>
 #include <QSvgRenderer>
+#include <utility>
+
+#include "widgets/theme.h"
 
 // The resources of a static library have to be asked for, outside of all namespaces.
 static void LoadResources() {
@@ -13,10 +18,65 @@ static void LoadResources() {
 }
 
 namespace orbelle::widgets {
+namespace {
+
+constexpr const char* kGroundInDrawings = "#F4F5F7";  // that light drawings stand on
+// What our drawings are made with, and what stands for it on dark.
+constexpr std::pair<const char*, const char*> kDarkColors[] = {
+    {"#4A5564", "#B8C0CA"},  // outlines
+    {"#DCEBFB", "#3B5674"},  // areas
+    {"#B9C4D2", "#59626E"},
+    {"#2F86E6", "#5AA2F5"},
+};
+
+constexpr double kDisabledOpacity = 0.35;
+
+// Pointers and pictures bring their own ground.
+bool FollowsTheme(const QString& name) {
+    return name.contains('/') && !name.startsWith("cursors/");
+}
+
+QByteArray Drawing(const QString& name) {
+    QFile file(":/" + name + ".svg");
+    if (!file.open(QIODevice::ReadOnly))
+        return {};
+    QByteArray drawing = file.readAll();
+    if (FollowsTheme(name) && CurrentShade() == Shade::Dark) {
+        drawing.replace(kGroundInDrawings, CurrentTheme().Ground.name().toLatin1());
+        for (const auto& [light, dark] : kDarkColors)
+            drawing.replace(light, dark);
+    }
+    return drawing;
+}
+
+class Engine : public QIconEngine {
+public:
+    explicit Engine(const QString& name) : name_(name) {}
+
+    void paint(QPainter* painter, const QRect& place, QIcon::Mode mode, QIcon::State) override {
+        if (mode == QIcon::Disabled)
+            painter->setOpacity(painter->opacity() * kDisabledOpacity);
+        painter->drawPixmap(place,
+                            Artwork(name_, place.size(), painter->device()->devicePixelRatioF()));
+    }
+    QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
+        QPixmap pixmap(size);
+        pixmap.fill(Qt::transparent);
+        QPainter painter(&pixmap);
+        paint(&painter, pixmap.rect(), mode, state);
+        return pixmap;
+    }
+    QIconEngine* clone() const override { return new Engine(name_); }
+
+private:
+    QString name_;
+};
+
+}  // namespace
 
 QPixmap Artwork(const QString& name, const QSize& size, qreal devicePixelRatio) {
     LoadResources();
-    QSvgRenderer drawing(":/" + name + ".svg");
+    QSvgRenderer drawing(Drawing(name));
     if (!drawing.isValid())
         return {};
     QPixmap pixmap(size * devicePixelRatio);
@@ -29,9 +89,8 @@ QPixmap Artwork(const QString& name, const QSize& size, qreal devicePixelRatio) 
     return pixmap;
 }
 
-QPixmap PixelArtwork(const QString& name) {
-    LoadResources();
-    return QPixmap(":/" + name + ".png");
+QIcon ArtworkIcon(const QString& name) {
+    return QIcon(new Engine(name));
 }
 
 }  // namespace orbelle::widgets

@@ -6,7 +6,7 @@
 #include <QPolygonF>
 
 #include "widgets/accessible_role.h"
-#include "widgets/chrome.h"
+#include "widgets/theme.h"
 
 namespace orbelle::widgets {
 
@@ -91,10 +91,10 @@ void Balloon::paintEvent(QPaintEvent*) {
     QPainterPath arrow;
     arrow.addPolygon(Arrow(place_).translated(place_.Tip));
     arrow.closeSubpath();
-    painter.setBrush(kTipColor);
-    painter.setPen(QPen(kTipEdgeColor, 1));
+    painter.setBrush(CurrentTheme().Field);
+    painter.setPen(QPen(CurrentTheme().Line, 1));
     painter.drawPath(body.united(arrow));
-    painter.setPen(Qt::black);
+    painter.setPen(CurrentTheme().Text);
     // Wrapped as it was measured: in a box of the text's own width words may fall otherwise.
     painter.drawText(QRect(place_.Body.topLeft() + QPoint(kPadding, kPadding), kTextRoom),
                      Qt::TextWordWrap, text_);

@@ -11,28 +11,21 @@
 #include <cmath>
 
 #include "widgets/artwork.h"
-#include "widgets/chrome.h"
+#include "widgets/theme.h"
 
 namespace orbelle::widgets {
 namespace {
 
 constexpr int kPollMilliseconds = 50;
 
-QString SkinName(ButtonBarStyle style) {
-    return style == ButtonBarStyle::Win10 ? "skins/win10" : "skins/normal";
-}
-
 }  // namespace
 
 ButtonBar::ButtonBar(const ButtonBarSetup& setup, QWidget* parent)
     : QWidget(parent),
       direction_(setup.Direction),
-      style_(setup.Style),
       iconSize_(setup.IconSize),
       buttons_(setup.Buttons),
-      states_(setup.Buttons.size()),
-      skinNormal_(PixelArtwork(SkinName(setup.Style))),
-      skinDown_(PixelArtwork(SkinName(setup.Style) + "-down")) {
+      states_(setup.Buttons.size()) {
     ShowPartsToAssistiveTools();
     setFont(ChromeFont(9));
     setMouseTracking(true);
@@ -199,6 +192,9 @@ void ButtonBar::changeEvent(QEvent* event) {
             break;
         case QEvent::FontChange:
             LayOut();
+            break;
+        case QEvent::PaletteChange:
+            iconsRatio_ = 0;
             break;
         default:
             break;

@@ -1,4 +1,4 @@
-// A toolbar that is painted by itself: skins in nine parts, icons, captions, latching buttons.
+// A toolbar that is painted by itself: icons, captions, latching buttons.
 #pragma once
 
 #include <QPixmap>
@@ -12,12 +12,9 @@
 
 namespace orbelle::widgets {
 
-enum class ButtonBarStyle { Normal, Win10 };
-
 // How a toolbar is made.
 struct ButtonBarSetup {
     Qt::Orientation Direction = Qt::Horizontal;
-    ButtonBarStyle Style = ButtonBarStyle::Normal;
     int IconSize = 16;  // logical pixels
     std::vector<BarButton> Buttons;
 };
@@ -99,13 +96,10 @@ private:
     void PaintFocus(QPainter& painter, const QRect& place) const;
 
     Qt::Orientation direction_;
-    ButtonBarStyle style_;
     int iconSize_;
     std::vector<BarButton> buttons_;
     std::vector<State> states_;
     ButtonBarLayout layout_;
-    QPixmap skinNormal_;
-    QPixmap skinDown_;
     std::vector<QPixmap> icons_;
     qreal iconsRatio_ = 0;  // that the icons were drawn for; 0: not yet
 

@@ -3,33 +3,21 @@
 
 #include "widgets/artwork.h"
 #include "widgets/button_bar.h"
-#include "widgets/chrome.h"
-#include "widgets/skin.h"
+#include "widgets/theme.h"
 
 namespace orbelle::widgets {
 namespace {
 
-constexpr QColor kArrow(0, 0, 0, 70);
 constexpr double kDisabledOpacity = 0.35;
 constexpr int kIconMargin = 5;
 constexpr int kArrowRoom = 10;
 
-// The light line of a separator.
-QColor SeparatorLight(ButtonBarStyle style) {
-    return QColor(255, 255, 255, style == ButtonBarStyle::Normal ? 200 : 100);
-}
-
-// A triangle of three rows with its middle 5 pixels from the right end, and a light edge below.
+// A triangle of three rows with its middle 5 pixels from the right end, .
 void PaintArrow(QPainter& painter, const QRect& place) {
     const int middle = place.left() + place.width() - 5;
     const int top = place.top() + (place.height() - 2) / 2;
     for (int row = 0; row < 3; ++row)
-        painter.fillRect(middle - 2 + row, top + row, 5 - 2 * row, 1, kArrow);
-    for (int row = 1; row < 4; ++row) {
-        painter.fillRect(middle - 3 + row, top + row, 1, 1, Qt::white);
-        if (row < 3)
-            painter.fillRect(middle + 3 - row, top + row, 1, 1, Qt::white);
-    }
+        painter.fillRect(middle - 2 + row, top + row, 5 - 2 * row, 1, CurrentTheme().Note);
 }
 
 }  // namespace
@@ -48,7 +36,7 @@ void ButtonBar::LoadIcons(qreal ratio) {
 void ButtonBar::paintEvent(QPaintEvent*) {
     LoadIcons(devicePixelRatioF());
     QPainter painter(this);
-    painter.fillRect(rect(), kChromeColor);
+    painter.fillRect(rect(), CurrentTheme().Ground);
     for (int i = 0; i < Count(); ++i) {
         if (buttons_[i].IsSeparator)
             PaintSeparator(painter, layout_.SeparatorLines[i]);
@@ -63,11 +51,9 @@ void ButtonBar::PaintSeparator(QPainter& painter, int line) const {
     constexpr int kBegin = 2;
     const int length = (IsHorizontal() ? height() : width()) - 4 - kBegin;
     if (IsHorizontal()) {
-        painter.fillRect(line - 1, kBegin, 1, length, kHairlineColor);
-        painter.fillRect(line, kBegin, 1, length, SeparatorLight(style_));
+        painter.fillRect(line - 1, kBegin, 1, length, HairlineColor());
     } else {
-        painter.fillRect(kBegin, line - 1, length, 1, kHairlineColor);
-        painter.fillRect(kBegin, line, length, 1, SeparatorLight(style_));
+        painter.fillRect(kBegin, line - 1, length, 1, HairlineColor());
     }
 }
 
@@ -77,10 +63,9 @@ void ButtonBar::PaintButton(QPainter& painter, int index) const {
     const bool enabled = states_[index].Enabled && isEnabled();
     painter.setOpacity(enabled ? 1 : kDisabledOpacity);
 
-    if (states_[index].Pressed)
-        DrawSkin(painter, skinDown_, place);
-    else if (enabled && index == hoverIndex_)
-        DrawSkin(painter, showDown_ ? skinDown_ : skinNormal_, place);
+    const bool isBelowPointer = enabled && index == hoverIndex_;
+    if (states_[index].Pressed || isBelowPointer)
+        DrawFace(painter, place, states_[index].Pressed || showDown_);
 
     const int across = IsHorizontal() ? place.height() : place.width();
     const int acrossMargin = (across + 1 - iconSize_) / 2;
@@ -93,7 +78,7 @@ void ButtonBar::PaintButton(QPainter& painter, int index) const {
         QRect box = place.adjusted(kIconMargin + iconSize_, 0, 1, 1);
         if (button.HasArrow)
             box.setWidth(box.width() - kArrowRoom);
-        painter.setPen(kTextColor);
+        painter.setPen(CurrentTheme().Text);
         painter.drawText(box, Qt::AlignCenter | Qt::TextSingleLine | Qt::TextDontClip,
                          button.Caption);
     }
@@ -104,7 +89,7 @@ void ButtonBar::PaintButton(QPainter& painter, int index) const {
 
 void ButtonBar::PaintFocus(QPainter& painter, const QRect& place) const {
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(kAccentColor);
+    painter.setPen(CurrentTheme().Accent);
     painter.setBrush(Qt::NoBrush);
     painter.drawRoundedRect(QRectF(place).translated(0.5, 0.5), 3, 3);
 }

@@ -3,13 +3,12 @@
 #include <QPainter>
 
 #include "widgets/accessible_role.h"
-#include "widgets/chrome.h"
+#include "widgets/theme.h"
 
 namespace orbelle::widgets {
 
 namespace {
 
-constexpr QColor kCaptionColor(128, 128, 128);
 constexpr int kUsualWidth = 200;
 
 }  // namespace
@@ -41,7 +40,7 @@ int CaptionText::heightForWidth(int width) const {
 
 void CaptionText::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    painter.setPen(kCaptionColor);
+    painter.setPen(CurrentTheme().Note);
     painter.drawText(rect(), Qt::TextWordWrap, caption_);
 }
 

@@ -7,7 +7,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "widgets/chrome.h"
+#include "widgets/theme.h"
 
 namespace orbelle::widgets {
 namespace {
@@ -16,9 +16,6 @@ constexpr int kRowHeight = 40;
 constexpr int kThumbnailSize = kRowHeight - 8;
 constexpr int kTextMargin = 8;
 
-constexpr QColor kSelectedRow(205, 236, 254);
-constexpr QColor kHiddenRow(230, 230, 230);
-constexpr QColor kRowLine(150, 150, 150);
 constexpr QColor kCheckerColor(0, 0, 0, 30);
 
 // Pictures above this are shrunk row by row of the result: QImage::scaled would make a copy of the
@@ -125,12 +122,12 @@ QRect LayerList::RowPlace(int row) const {
 
 void LayerList::paintEvent(QPaintEvent* event) {
     QPainter painter(viewport());
-    painter.fillRect(viewport()->rect(), Qt::white);
+    painter.fillRect(viewport()->rect(), CurrentTheme().Field);
     for (int row = 0; row < Count(); ++row)
         if (RowPlace(row).intersects(event->rect()))
             PaintRow(painter, row);
     if (hasFocus()) {
-        painter.setPen(kAccentColor);
+        painter.setPen(CurrentTheme().Accent);
         painter.setBrush(Qt::NoBrush);
         const int row = FocusedPart();
         const QRect place = row < 0 ? viewport()->rect() : RowPlace(row);
@@ -144,16 +141,16 @@ void LayerList::PaintRow(QPainter& painter, int row) {
     const LayerRow& shown = rows_[layer];
     const QRect place = RowPlace(row);
     if (layer == selectedIndex_)
-        painter.fillRect(place, kSelectedRow);
+        painter.fillRect(place, PressedColor());
     else if (!shown.Visible)
-        painter.fillRect(place, kHiddenRow);
+        painter.fillRect(place, BandColor());
 
     const QRect box(place.topLeft(), QSize(kRowHeight, kRowHeight));
     DrawChecker(painter, box, kCheckerColor);
     PaintThumbnail(painter, box, layer);
     PaintText(painter, place.adjusted(kRowHeight + kTextMargin, 0, -4, 0), PartName(row),
               shown.OpacityText);
-    painter.fillRect(place.x(), place.bottom(), place.width(), 1, kRowLine);
+    painter.fillRect(place.x(), place.bottom(), place.width(), 1, HairlineColor());
 }
 
 void LayerList::PaintThumbnail(QPainter& painter, const QRect& box, int layer) {
@@ -180,7 +177,7 @@ void LayerList::PaintText(QPainter& painter, const QRect& row, const QString& na
         painter.drawText(line, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
                          QFontMetrics(font).elidedText(text, Qt::ElideRight, line.width()));
     };
-    painter.setPen(kTextColor);
+    painter.setPen(CurrentTheme().Text);
     draw(row.adjusted(0, 2, 0, -kRowHeight / 2), 9, name);
     draw(row.adjusted(0, kRowHeight / 2, 0, -2), 8, opacity);
 }

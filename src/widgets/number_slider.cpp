@@ -9,7 +9,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "widgets/chrome.h"
+#include "widgets/theme.h"
 
 namespace orbelle::widgets {
 
@@ -81,11 +81,8 @@ NumberSlider::NumberSlider(QWidget* parent)
     field_->setAlignment(Qt::AlignCenter);
     field_->setAcceptDrops(false);  // the window takes them
     field_->setAttribute(Qt::WA_MacShowFocusRect, false);
-    QPalette colors = field_->palette();
+    QPalette colors;
     colors.setColor(QPalette::Base, Qt::transparent);
-    colors.setColor(QPalette::Text, kTextColor);
-    colors.setColor(QPalette::Disabled, QPalette::Text, kEdgeColor);
-    colors.setColor(QPalette::Highlight, kAccentColor);
     field_->setPalette(colors);
     SetRange(0, 100);
     Store(0);
@@ -355,24 +352,24 @@ void NumberSlider::keyPressEvent(QKeyEvent* event) {
 void NumberSlider::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setBrush(isEnabled() ? QColor(Qt::white) : kChromeColor);
-    painter.setPen(QPen(field_->hasFocus() ? kAccentColor : kEdgeColor, 1));
+    painter.setBrush(isEnabled() ? CurrentTheme().Field : CurrentTheme().Ground);
+    painter.setPen(QPen(field_->hasFocus() ? CurrentTheme().Accent : CurrentTheme().Line, 1));
     painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), 3, 3);
 
-    painter.fillRect(SpinRect(1).left(), 4, 1, height() - 8, kHairlineColor);
-    painter.fillRect(OpenRect().left(), 4, 1, height() - 8, kHairlineColor);
+    painter.fillRect(SpinRect(1).left(), 4, 1, height() - 8, HairlineColor());
+    painter.fillRect(OpenRect().left(), 4, 1, height() - 8, HairlineColor());
 
     painter.setPen(Qt::NoPen);
     for (const int direction : {1, -1}) {
         const QPointF middle =
             QRectF(SpinRect(direction)).center() + QPointF(0.5, direction * -0.5);
         const bool canSpin = direction > 0 ? value_ < scale_.MaxValue : value_ > minValue_;
-        painter.setBrush(!isEnabled() || !canSpin ? kHairlineColor
-                         : spinning_ == direction ? kAccentColor
-                                                  : kTextColor);
+        painter.setBrush(!isEnabled() || !canSpin ? HairlineColor()
+                         : spinning_ == direction ? CurrentTheme().Accent
+                                                  : CurrentTheme().Text);
         DrawTriangle(painter, middle, direction > 0 ? -4 : 4);
     }
-    painter.setPen(QPen(isEnabled() ? kTextColor : kHairlineColor, 1.5));
+    painter.setPen(QPen(isEnabled() ? CurrentTheme().Text : HairlineColor(), 1.5));
     painter.setBrush(Qt::NoBrush);
     DrawChevron(painter, QRectF(OpenRect()).center() + QPointF(0.5, 0));
 }

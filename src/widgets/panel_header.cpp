@@ -4,7 +4,7 @@
 #include <QKeyEvent>
 #include <QPainter>
 
-#include "widgets/chrome.h"
+#include "widgets/theme.h"
 
 namespace orbelle::widgets {
 
@@ -58,15 +58,15 @@ void PanelHeader::keyPressEvent(QKeyEvent* event) {
 
 void PanelHeader::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    painter.fillRect(rect(), kChromeColor);
-    painter.fillRect(0, height() - 1, width(), 1, kHairlineColor);
-    painter.setPen(isEnabled() ? kTextColor : kEdgeColor);
+    painter.fillRect(rect(), CurrentTheme().Ground);
+    painter.fillRect(0, height() - 1, width(), 1, HairlineColor());
+    painter.setPen(isEnabled() ? CurrentTheme().Text : CurrentTheme().Line);
     const QRect room = rect().adjusted(kMargin, 0, -kChevronRoom, -1);
     painter.drawText(room, Qt::AlignVCenter | Qt::AlignLeft,
                      fontMetrics().elidedText(text(), Qt::ElideRight, room.width()));
 
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(underMouse() ? kAccentColor : painter.pen().color(), 1.5));
+    painter.setPen(QPen(underMouse() ? CurrentTheme().Accent : painter.pen().color(), 1.5));
     painter.save();
     painter.translate(width() - kChevronRoom / 2, (height() - 1) / 2.0);
     if (IsClosed())
@@ -75,7 +75,7 @@ void PanelHeader::paintEvent(QPaintEvent*) {
     painter.restore();
 
     if (hasFocus()) {
-        painter.setPen(QPen(kAccentColor, 1));
+        painter.setPen(QPen(CurrentTheme().Accent, 1));
         painter.drawRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5));
     }
 }

@@ -8,8 +8,8 @@
 #include <cmath>
 #include <utility>
 
-#include "widgets/chrome.h"
 #include "widgets/size_strip_metrics.h"
+#include "widgets/theme.h"
 
 namespace orbelle::widgets {
 

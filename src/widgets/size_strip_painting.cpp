@@ -4,9 +4,9 @@
 #include <QPainterPath>
 #include <cmath>
 
-#include "widgets/chrome.h"
 #include "widgets/size_strip.h"
 #include "widgets/size_strip_metrics.h"
+#include "widgets/theme.h"
 
 namespace orbelle::widgets {
 
@@ -21,7 +21,6 @@ constexpr QColor kSkyColor(46, 102, 158);
 constexpr QColor kHorizonColor(140, 186, 214);
 constexpr QColor kTaskBarColor(28, 31, 36);
 constexpr QColor kTaskBarEdgeColor(255, 255, 255, 36);
-constexpr QColor kWarningColor(178, 98, 0);
 constexpr int kTaskBarSize = 32;  // the largest picture on it
 constexpr int kTaskBarMargin = 6;
 
@@ -29,16 +28,16 @@ constexpr int kTaskBarMargin = 6;
 void DrawPencil(QPainter& painter, const QPointF& corner) {
     QPainterPath pencil;
     pencil.addPolygon(QPolygonF({{0, 8}, {0.6, 5.6}, {5.6, 0.6}, {7.4, 2.4}, {2.4, 7.4}}));
-    painter.fillPath(pencil.translated(corner), kAccentColor);
+    painter.fillPath(pencil.translated(corner), CurrentTheme().Accent);
 }
 
 // A circle with its right half filled.
 void DrawContrastMark(QPainter& painter, const QPointF& corner) {
     const QRectF circle(corner + QPointF(0.5, 0.5), QSizeF(kMarkSize - 1, kMarkSize - 1));
-    painter.setPen(QPen(kWarningColor, 1));
+    painter.setPen(QPen(CurrentTheme().Note, 1));
     painter.setBrush(Qt::NoBrush);
     painter.drawEllipse(circle);
-    painter.setBrush(kWarningColor);
+    painter.setBrush(CurrentTheme().Note);
     painter.drawPie(circle, -90 * 16, 180 * 16);
 }
 
@@ -46,7 +45,7 @@ void DrawContrastMark(QPainter& painter, const QPointF& corner) {
 
 void SizeStrip::paintEvent(QPaintEvent* event) {
     QPainter painter(this);
-    painter.fillRect(rect(), kChromeColor);
+    painter.fillRect(rect(), CurrentTheme().Ground);
     PaintGround(painter);
     for (int part = 0; part < PartCount(); ++part) {
         if (!PartPlace(part).intersects(event->rect()))
@@ -65,8 +64,8 @@ void SizeStrip::PaintGround(QPainter& painter) const {
         painter.fillRect(ground, kGroundColors[static_cast<int>(ground_)]);
     if (ground_ == StripGround::Checks)
         DrawChecker(painter, ground, kCheckerColor);
-    painter.fillRect(0, ground.height() - 1, width(), 1, kHairlineColor);
-    painter.fillRect(width() - 1, 0, 1, height(), kHairlineColor);
+    painter.fillRect(0, ground.height() - 1, width(), 1, HairlineColor());
+    painter.fillRect(width() - 1, 0, 1, height(), HairlineColor());
 }
 
 bool SizeStrip::LiesOnTaskBar(int size) const {
@@ -115,7 +114,7 @@ void SizeStrip::PaintLabel(QPainter& painter, int part) const {
     const SizeCell& cell = cells_[part];
     QRect place = PartPlace(part);
     place.setTop(GroundHeight());
-    painter.setPen(isEnabled() ? kTextColor : kPaleTextColor);
+    painter.setPen(isEnabled() ? CurrentTheme().Text : DisabledColor());
     painter.drawText(place, Qt::AlignCenter, QString::number(cell.Size));
 
     painter.setRenderHint(QPainter::Antialiasing);
@@ -137,14 +136,14 @@ void SizeStrip::PaintFrame(QPainter& painter, int part) const {
         return;
     const double pen = isEdited ? 2 : 1;
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(isEdited || hasFocus ? kAccentColor : kEdgeColor, pen));
+    painter.setPen(QPen(isEdited || hasFocus ? CurrentTheme().Accent : CurrentTheme().Line, pen));
     painter.setBrush(Qt::NoBrush);
     QRectF cell = PartPlace(part);
     cell.setTop(PicturePlace(part).top() - kMargin + 1);
     painter.drawRoundedRect(cell.adjusted(1 + pen / 2, 1 + pen / 2, -1 - pen / 2, -1 - pen / 2), 4,
                             4);
     if (isEdited && hasFocus) {
-        painter.setPen(QPen(kAccentColor, 1));
+        painter.setPen(QPen(CurrentTheme().Accent, 1));
         painter.drawRoundedRect(cell.adjusted(4.5, 4.5, -4.5, -4.5), 2, 2);
     }
     painter.setRenderHint(QPainter::Antialiasing, false);

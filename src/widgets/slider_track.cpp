@@ -6,8 +6,8 @@
 #include <QScreen>
 #include <utility>
 
-#include "widgets/chrome.h"
 #include "widgets/slider_scale.h"
+#include "widgets/theme.h"
 
 namespace orbelle::widgets {
 
@@ -48,14 +48,14 @@ QRectF SliderTrack::ThumbRect() const {
 
 void SliderTrack::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    painter.fillRect(rect(), kEdgeColor);
-    painter.fillRect(rect().adjusted(1, 1, -1, -1), kChromeColor);
+    painter.fillRect(rect(), CurrentTheme().Line);
+    painter.fillRect(rect().adjusted(1, 1, -1, -1), CurrentTheme().Ground);
 
     painter.setRenderHint(QPainter::Antialiasing);
     const QRectF thumb = ThumbRect();
     DrawGroove(painter, kMargin, width() - kMargin, height(), thumb.center().x() - kMargin);
-    painter.setBrush(Qt::white);
-    painter.setPen(QPen(dragging_ ? kAccentColor : kEdgeColor, 1));
+    painter.setBrush(CurrentTheme().Field);
+    painter.setPen(QPen(dragging_ ? CurrentTheme().Accent : CurrentTheme().Line, 1));
     painter.drawEllipse(thumb.adjusted(0.5, 0.5, -0.5, -0.5));
 }
 

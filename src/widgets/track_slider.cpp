@@ -9,7 +9,7 @@
 #include <cmath>
 #include <utility>
 
-#include "widgets/chrome.h"
+#include "widgets/theme.h"
 
 namespace orbelle::widgets {
 
@@ -257,8 +257,11 @@ void TrackSlider::paintEvent(QPaintEvent*) {
     const int inset = kThumbSize.width() / 2;
     DrawGroove(painter, inset, inset + TrackWidth(), height(), isEnabled() ? thumb.left() : 0);
     const bool isLit = isEnabled() && (dragging_ || isOverThumb_ || hasFocus());
-    painter.setBrush(isEnabled() ? QColor(Qt::white) : kChromeColor);
-    painter.setPen(QPen(isLit ? kAccentColor : isEnabled() ? kEdgeColor : kHairlineColor, 1));
+    painter.setBrush(isEnabled() ? CurrentTheme().Field : CurrentTheme().Ground);
+    painter.setPen(QPen(isLit         ? CurrentTheme().Accent
+                        : isEnabled() ? CurrentTheme().Line
+                                      : HairlineColor(),
+                        1));
     painter.drawRoundedRect(QRectF(thumb).adjusted(0.5, 0.5, -0.5, -0.5), 3, 3);
 }
 

@@ -11,10 +11,10 @@
 #include <memory>
 #include <span>
 
-#include "app/chrome.h"
 #include "app/ending_signals.h"
 #include "app/file_dialog.h"
 #include "app/hand_over_queue.h"
+#include "app/looks.h"
 #include "app/main_window.h"
 #include "app/single_instance.h"
 #include "app/welcome_window.h"
@@ -65,7 +65,7 @@ int main(int argc, char** argv) {
     QApplication::setApplicationName("orbelle");
     QApplication::setApplicationVersion(ORBELLE_VERSION);
     QApplication::setDesktopFileName("orbelle");
-    ApplyChrome();
+    ApplyLooks(StoredLooks());
     QIcon icon;
     for (const int size : {16, 24, 32, 48, 64, 128, 256})
         icon.addFile(QString(":/icons/orbelle-%1.png").arg(size), {size, size});

@@ -5,7 +5,7 @@
 #include <QPixmap>
 #include <iostream>
 
-#include "app/chrome.h"
+#include "app/looks.h"
 #include "app/main_window.h"
 #include "app/settings.h"
 
@@ -33,7 +33,7 @@ int main(int argc, char** argv) {
         std::cerr << "usage: orbelle-screenshot PICTURE [FILE]\n";
         return 2;
     }
-    orbelle::app::ApplyChrome();
+    orbelle::app::ApplyLooks(orbelle::app::Looks::Light);
     UnattendedWindow window;
     window.resize(orbelle::app::kDefaultMainSize);
     window.show();

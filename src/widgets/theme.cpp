@@ -1,0 +1,118 @@
+#include "widgets/theme.h"
+
+#include <QPainter>
+
+namespace orbelle::widgets {
+namespace {
+
+constexpr Theme kLight{
+    .Ground = QColor(244, 245, 247),
+    .Field = QColor(255, 255, 255),
+    .Line = QColor(134, 140, 148),
+    .Text = QColor(34, 38, 43),
+    .Note = QColor(92, 99, 107),
+    .Accent = QColor(26, 111, 212),
+};
+constexpr Theme kDark{
+    .Ground = QColor(43, 45, 49),
+    .Field = QColor(31, 33, 36),
+    .Line = QColor(122, 128, 137),
+    .Text = QColor(230, 232, 235),
+    .Note = QColor(169, 175, 183),
+    .Accent = QColor(90, 162, 245),
+};
+
+Shade& ShadeInUse() {
+    static Shade shade = Shade::Light;
+    return shade;
+}
+
+// `share` of the second, 0 to 1.
+QColor Mixed(const QColor& first, const QColor& second, double share) {
+    const auto mix = [share](int from, int to) {
+        return static_cast<int>(from + (to - from) * share + 0.5);
+    };
+    return {mix(first.red(), second.red()), mix(first.green(), second.green()),
+            mix(first.blue(), second.blue())};
+}
+
+}  // namespace
+
+const Theme& ThemeOf(Shade shade) {
+    return shade == Shade::Dark ? kDark : kLight;
+}
+
+const Theme& CurrentTheme() {
+    return ThemeOf(ShadeInUse());
+}
+
+Shade CurrentShade() {
+    return ShadeInUse();
+}
+
+void SetShade(Shade shade) {
+    ShadeInUse() = shade;
+}
+
+QColor BandColor() {
+    return Mixed(CurrentTheme().Ground, CurrentTheme().Line, 0.12);
+}
+
+QColor HairlineColor() {
+    return Mixed(CurrentTheme().Ground, CurrentTheme().Line, 0.3);
+}
+
+QColor HoverColor() {
+    return Mixed(CurrentTheme().Ground, CurrentTheme().Accent, 0.1);
+}
+
+QColor PressedColor() {
+    return Mixed(CurrentTheme().Ground, CurrentTheme().Accent, 0.22);
+}
+
+QColor DisabledColor() {
+    return Mixed(CurrentTheme().Ground, CurrentTheme().Note, 0.5);
+}
+
+QFont ChromeFont(double points) {
+    QFont font(QStringList{"Verdana", "DejaVu Sans"});
+    font.setPointSizeF(points);
+    return font;
+}
+
+void DrawChecker(QPainter& painter, const QRect& place, const QColor& color) {
+    constexpr int kCell = 5;
+    for (int y = 0; y < place.height(); y += kCell)
+        for (int x = y % (2 * kCell); x < place.width(); x += 2 * kCell)
+            painter.fillRect(QRect(place.x() + x, place.y() + y, kCell, kCell) & place, color);
+}
+
+void DrawChevron(QPainter& painter, const QPointF& middle) {
+    const QPointF chevron[] = {middle + QPointF(-4, -2), middle + QPointF(0, 2),
+                               middle + QPointF(4, -2)};
+    painter.drawPolyline(chevron, 3);
+}
+
+void DrawFace(QPainter& painter, const QRectF& place, bool isDown) {
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(isDown ? QPen(CurrentTheme().Accent, 1) : QPen(Qt::NoPen));
+    painter.setBrush(isDown ? PressedColor() : HoverColor());
+    const double inset = isDown ? 0.5 : 0;
+    painter.drawRoundedRect(place.adjusted(inset, inset, -inset, -inset), kCornerRadius,
+                            kCornerRadius);
+    painter.restore();
+}
+
+void DrawGroove(QPainter& painter, int left, int right, int height, double filled) {
+    constexpr int kThickness = 4;
+    QRectF groove(left, (height - kThickness) / 2, right - left, kThickness);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(HairlineColor());
+    painter.drawRoundedRect(groove, kThickness / 2, kThickness / 2);
+    groove.setWidth(filled);
+    painter.setBrush(CurrentTheme().Accent);
+    painter.drawRoundedRect(groove, kThickness / 2, kThickness / 2);
+}
+
+}  // namespace orbelle::widgets
