@@ -10,7 +10,7 @@ constexpr Theme kLight{
     .Field = QColor(255, 255, 255),
     .Line = QColor(134, 140, 148),
     .Text = QColor(34, 38, 43),
-    .Note = QColor(92, 99, 107),
+    .Note = QColor(84, 91, 99),
     .Accent = QColor(26, 111, 212),
 };
 constexpr Theme kDark{
@@ -18,7 +18,7 @@ constexpr Theme kDark{
     .Field = QColor(31, 33, 36),
     .Line = QColor(122, 128, 137),
     .Text = QColor(230, 232, 235),
-    .Note = QColor(169, 175, 183),
+    .Note = QColor(178, 184, 192),
     .Accent = QColor(90, 162, 245),
 };
 
@@ -67,7 +67,7 @@ QColor HoverColor() {
 }
 
 QColor PressedColor() {
-    return Mixed(CurrentTheme().Ground, CurrentTheme().Accent, 0.22);
+    return Mixed(CurrentTheme().Ground, CurrentTheme().Accent, 0.18);
 }
 
 QColor DisabledColor() {

@@ -24,6 +24,7 @@
 #include "support/pictures.h"
 #include "waiting.h"
 #include "widgets/number_slider.h"
+#include "widgets/theme.h"
 
 namespace orbelle::app {
 namespace {
@@ -49,7 +50,7 @@ TEST(ColorWellTest, ShowsItsColorOnACheckerAndTheFocusAround) {
     well.Show(0x800000FF, 2);
     well.show();
     const auto pixel = [&](int x, int y) { return well.grab().toImage().pixel(x, y); };
-    EXPECT_EQ(pixel(1, 1), 0xFF464646) << "the outline is two pixels wide";
+    EXPECT_EQ(pixel(1, 1), widgets::CurrentTheme().Line.rgba()) << "the outline is two pixels wide";
     EXPECT_EQ(pixel(2, 2), 0xFFE6E6E6) << "the checker begins with a square";
     EXPECT_EQ(pixel(5, 2), 0xFFFFFFFF);
     EXPECT_NEAR(qRed(pixel(6, 4)), 127, 1) << "blue of half alpha on white";
@@ -57,7 +58,7 @@ TEST(ColorWellTest, ShowsItsColorOnACheckerAndTheFocusAround) {
     well.activateWindow();
     QApplication::processEvents();
     well.setFocus(Qt::TabFocusReason);
-    EXPECT_EQ(pixel(0, 0), 0xFF3A96FF);
+    EXPECT_EQ(pixel(0, 0), widgets::CurrentTheme().Accent.rgba());
 }
 
 class GifOptimizerDialogTest : public ::testing::Test {
@@ -232,7 +233,7 @@ TEST(IconImagesDialogTest, CellsShowPicturesAtTheirSizeOnChecksAndTheChoiceInAFr
         return shown.pixel(cells.PartPlace(cell).topLeft() + QPoint(2, 9));
     };
     EXPECT_EQ(frame(0), 0xFFFFFFFF);
-    EXPECT_EQ(frame(1), 0xFF3A96FF);
+    EXPECT_EQ(frame(1), widgets::CurrentTheme().Accent.rgba());
 }
 
 TEST(IconImagesDialogTest, AssistiveToolsSeeTheCells) {
