@@ -151,7 +151,7 @@ void IconGridView::PaintCell(QPainter& painter, int index) {
 void IconGridView::PaintPicture(QPainter& painter, int index) {
     const auto at = static_cast<std::size_t>(index);
     const QRect place = RectOf(grid_.Thumbnail(index));
-    painter.fillRect(place, widgets::CurrentTheme().Field);
+    painter.fillRect(place, Qt::white);
     widgets::DrawChecker(painter, place, kCheckColor);
     const QImage image = SharedImage(grid_.Images()[at].Image);
     if (image.size() == place.size()) {

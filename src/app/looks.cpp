@@ -5,6 +5,7 @@
 
 #include "app/settings.h"
 #include "widgets/theme.h"
+#include "widgets/theme_style.h"
 
 namespace orbelle::app {
 namespace {
@@ -27,6 +28,15 @@ constexpr char kDetails[] =
     "QStatusBar { border-top: 1px solid @hairline }"
     "QStatusBar::item { border: none }"
     "QToolTip { background: @field; color: @text; border: 1px solid @line; padding: 4px }"
+    "QScrollBar { background: @ground }"
+    "QScrollBar:vertical { width: 12px } QScrollBar:horizontal { height: 12px }"
+    "QScrollBar::handle { background: @line; border-radius: 3px; margin: 3px }"
+    "QScrollBar::handle:hover { background: @note }"
+    "QScrollBar::handle:disabled { background: @hairline }"
+    "QScrollBar::handle:vertical { min-height: 24px }"
+    "QScrollBar::handle:horizontal { min-width: 24px }"
+    "QScrollBar::add-line, QScrollBar::sub-line { width: 0; height: 0 }"
+    "QScrollBar::add-page, QScrollBar::sub-page { background: transparent }"
     "QDialogButtonBox { dialogbuttonbox-buttons-have-icons: 0 }"
     "#caption { color: @note }"
     "#Findings { background: @ground; border: none; border-top: 1px solid @hairline;"
@@ -97,7 +107,8 @@ void ApplyLooks(Looks looks) {
     const bool isDesktopDark = IsDesktopDark();
     const bool isDark = looks == Looks::Dark || (looks == Looks::AsDesktop && isDesktopDark);
     widgets::SetShade(isDark ? Shade::Dark : Shade::Light);
-    QApplication::setStyle("Fusion");
+    if (!dynamic_cast<widgets::ThemeStyle*>(QApplication::style()))
+        QApplication::setStyle(new widgets::ThemeStyle);
     QApplication::setPalette(PaletteOfTheme());
     qApp->setStyleSheet(StyleSheet());
 }

@@ -7,26 +7,35 @@
 #include <QPushButton>
 
 #include "editing/editor.h"
+#include "widgets/artwork.h"
 
 namespace orbelle::app {
 namespace {
+
+constexpr int kLeastWidth = 260;  // of the text, logical pixels
+constexpr QSize kPictureSize(38, 38);
 
 // Without the room that is kept for an icon also where there is none.
 int Exec(QMessageBox& box) {
     auto* grid = qobject_cast<QGridLayout*>(box.layout());
     for (int i = 0; grid && i < grid->count(); ++i) {
         if (QSpacerItem* indent = grid->itemAt(i)->spacerItem();
-            indent && box.icon() == QMessageBox::NoIcon)
+            indent && box.iconPixmap().isNull())
             indent->changeSize(0, 0);
     }
-    if (grid)
+    if (grid) {
         grid->setContentsMargins(20, 20, 20, 16);
+        grid->setColumnStretch(grid->columnCount() - 1, 1);
+        grid->setColumnMinimumWidth(grid->columnCount() - 1, kLeastWidth);
+    }
     return box.exec();
 }
 
 int Show(QWidget* parent, QMessageBox::Icon icon, const QString& title, const std::string& text,
          QMessageBox::StandardButtons buttons, QMessageBox::StandardButton usual) {
     QMessageBox box(icon, title, QString::fromStdString(text), buttons, parent);
+    if (icon == QMessageBox::Information)
+        box.setIconPixmap(widgets::Artwork("information", kPictureSize, box.devicePixelRatioF()));
     // A text may carry a file's name: markup in it is no markup.
     box.setTextFormat(Qt::PlainText);
     box.setDefaultButton(usual);

@@ -145,7 +145,7 @@ TEST_F(MainWindowTest, TellsAFailureAndWhatACommandHasToSay) {
 TEST_F(MainWindowTest, ConfirmIsCancelledByDefault) {
     for (const bool ok : {true, false}) {
         AnswerDialog<QMessageBox>([ok](QMessageBox& box) {
-            EXPECT_EQ(box.icon(), QMessageBox::Information);
+            EXPECT_FALSE(box.iconPixmap().isNull());
             EXPECT_EQ(box.defaultButton(), box.button(QMessageBox::Cancel));
             box.button(ok ? QMessageBox::Ok : QMessageBox::Cancel)->click();
         });

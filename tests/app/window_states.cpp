@@ -1,0 +1,198 @@
+#include "window_states.h"
+
+#include <QApplication>
+#include <QMenu>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QStatusBar>
+
+#include "app/color_dialog.h"
+#include "app/findings_list.h"
+#include "app/fit_dialog.h"
+#include "app/gif_optimizer_dialog.h"
+#include "app/hotspot_dialog.h"
+#include "app/icon_images_dialog.h"
+#include "app/icon_sets_dialog.h"
+#include "app/main_window.h"
+#include "app/message_boxes.h"
+#include "app/new_icon_dialog.h"
+#include "app/right_panel.h"
+#include "app/save_prompt.h"
+#include "app/settings.h"
+#include "app/sizes_panel.h"
+#include "app/suggest_dialog.h"
+#include "app/svg_size_dialog.h"
+#include "app/welcome_window.h"
+#include "editing/document_commands.h"
+#include "editing/export_commands.h"
+#include "editing/size_commands.h"
+#include "editing/tool_palette.h"
+#include "formats/export_icon.h"
+#include "formats/icon_reader.h"
+#include "graphics/codecs/image_files.h"
+#include "graphics/file_io.h"
+#include "support/temporary_folder.h"
+#include "waiting.h"
+#include "widgets/button_bar.h"
+#include "widgets/panel_header.h"
+
+namespace orbelle::app {
+namespace {
+
+using testing::WaitUntil;
+using Look = std::function<void(const QString& name, QWidget& shown)>;
+
+constexpr QSize kUsualSize(1100, 760);
+constexpr QSize kLargeSize(1920, 1080);
+
+class Tour {
+public:
+    Tour(const QString& samples, const Look& look) : samples_(samples), look_(look) {}
+
+    void Run() {
+        LookAtStarts();
+        LookAtDocuments();
+        LookAtMenus();
+        LookAtDialogs();
+    }
+
+private:
+    void LookAt(const QString& name, QWidget& shown) {
+        QApplication::processEvents();
+        look_(name, shown);
+    }
+    void LookAtWindow(const QString& name) {
+        WaitUntil([&] { return window_->IsAtRest(); });
+        LookAt(name, *window_);
+    }
+    void MakeWindow(const QSize& size) {
+        window_ = std::make_unique<MainWindow>();
+        window_->RestoreSettings();
+        window_->resize(size);
+        window_->show();
+    }
+    void OpenSample(const QString& name) { window_->OpenPath(samples_ + '/' + name); }
+
+    void LookAtStarts() {
+        MakeWindow(kUsualSize);
+        LookAtWindow("empty");
+        window_->StartWelcome();
+        LookAtWindow("first-start");
+        OpenSample("ok-badge.volf");
+        LookAtWindow("tips");
+        window_->SetTipsEnabled(false);
+        window_->StoreSettings();
+    }
+
+    void LookAtDocuments() {
+        OpenSample("envelope.volf");
+        LookAtWindow("document-256");
+        window_->resize(window_->minimumSizeHint());
+        LookAtWindow("minimum");
+        window_->resize(kLargeSize);
+        LookAtWindow("maximum");
+        window_->resize(kUsualSize);
+        for (const int size : {16, 24}) {
+            window_->Run([size](editing::Editor& editor) { GoToPage(editor, size); });
+            LookAtWindow(QString("size-%1").arg(size));
+        }
+        auto& sizes = *window_->findChild<SizesPanel*>();
+        for (const int ground : {1, 2, 3, 4}) {
+            sizes.SetGround(ground);
+            LookAtWindow(QString("strip-%1").arg(ground));
+        }
+        sizes.SetGround(0);
+        window_->findChild<QAction*>("CheckIcon")->trigger();
+        LookAtWindow("check");
+        window_->findChild<QAction*>("CheckIcon")->trigger();
+        for (widgets::PanelHeader* header : window_->findChildren<widgets::PanelHeader*>()) {
+            const bool wasClosed = header->IsClosed();
+            header->click();
+            LookAtWindow((wasClosed ? "open-" : "closed-") + header->text());
+            header->click();
+        }
+        for (const int side : {16, 64, 512}) {
+            window_->Run([side](editing::Editor& editor) { NewDocument(editor, side, side); });
+            LookAtWindow(QString("page-%1").arg(side));
+        }
+    }
+
+    void LookAtMenus() {
+        OpenSample("envelope.volf");
+        for (QMenu* menu : window_->menuBar()->findChildren<QMenu*>()) {
+            menu->popup(window_->mapToGlobal(QPoint(60, 60)));
+            LookAt("menu-" + menu->title().remove(QChar(0x26)), *menu);
+            menu->close();
+        }
+        using editing::Tool;
+        for (const auto& [tool, name] : {std::pair(Tool::FilledRectangle, "fill"),
+                                         {Tool::SelectRectangle, "select"},
+                                         {Tool::PencilEraser, "erase"},
+                                         {Tool::Pencil, "pencil"}}) {
+            window_->Run([tool = tool](editing::Editor& editor) { ChooseToolEntry(editor, tool); });
+            LookAtWindow(QString("tool-") + name);
+        }
+        window_->statusBar()->showMessage("Exported icon.ico: 2.1 KB");
+        LookAtWindow("status");
+    }
+
+    void LookAtDialog(const QString& name, QWidget& dialog) {
+        dialog.show();
+        LookAt("dialog-" + name, dialog);
+    }
+    void LookAtMessage(const QString& name, const std::function<void()>& show) {
+        testing::AnswerDialog<QMessageBox>([&](QMessageBox& box) {
+            LookAt("message-" + name, box);
+            box.reject();
+        });
+        show();
+    }
+
+    void LookAtDialogs() {
+        const editing::Editor& editor = window_->Editor();
+        const graphics::Bitmap picture = editor.Canvas;
+        NewIconDialog newIcon(window_.get());
+        LookAtDialog("new", newIcon);
+        ColorDialog color({"Background", 0xFF3060C0, 0x803060C0, true}, window_.get());
+        LookAtDialog("colour", color);
+        GifOptimizerDialog gif(picture, window_.get());
+        LookAtDialog("gif", gif);
+        SuggestDialog suggest(picture, 16, window_.get());
+        LookAtDialog("suggest", suggest);
+        SvgSizeDialog svg({100, 60}, window_.get());
+        LookAtDialog("svg-size", svg);
+        FitDialog fit({4000, 3000}, {256, 256}, window_.get());
+        LookAtDialog("fit", fit);
+        HotspotDialog hotspot(picture, {4, 2}, window_.get());
+        LookAtDialog("hot-spot", hotspot);
+        IconSetsDialog sets(SetSourceOf(editor), "/home/ann/icons", window_.get());
+        LookAtDialog("icon-set", sets);
+        const testing::TemporaryFolder folder;
+        const auto icon = folder / "a.ico";
+        ExportIcon(icon, formats::IconKind::Windows, SetSourceOf(editor).Family);
+        IconImagesDialog images(formats::ReadIconFile(icon), {false, true}, window_.get());
+        LookAtDialog("icon-images", images);
+        SavePrompt save(window_.get());
+        LookAtDialog("save", save);
+        WelcomeWindow about;
+        LookAtDialog("about", about);
+        QWidget* parent = window_.get();
+        LookAtMessage("plain", [=] { ShowPlainMessage(parent, "The file can't be read."); });
+        LookAtMessage("folder", [=] { OfferFolder(parent, "Exported 9 files, 120 KB"); });
+        LookAtMessage("copy", [=] { ShowMessageToCopy(parent, "The address is", "x"); });
+        LookAtMessage("question",
+                      [=] { AskOkCancel(parent, "a.ico already exists, overwrite?", "Warning"); });
+    }
+
+    const QString samples_;
+    const Look look_;
+    std::unique_ptr<MainWindow> window_;
+};
+
+}  // namespace
+
+void ForEachWindowState(const QString& samples, const Look& look) {
+    Tour(samples, look).Run();
+}
+
+}  // namespace orbelle::app
