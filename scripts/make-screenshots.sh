@@ -1,5 +1,9 @@
 #!/usr/bin/env bash
-# Takes the pictures of docs/pictures from the real window, on a display of its own, at 100 % and
+# make-screenshots.sh states FOLDER: pictures of everything that the program shows, light and dark, at
+# 100, 150 and 200 %, to be looked at: FOLDER/LOOKS-SCALE/STATE.png, and a sheet of each. Without a
+# display.
+#
+# make-screenshots.sh: takes the pictures of docs/pictures from the real window, on a display of its own, at 100 % and
 # 200 %. Needs a built tree, Xvfb, xdotool and ImageMagick.
 set -euo pipefail
 cd "$(dirname "$0")/.."
@@ -7,6 +11,21 @@ bin=$PWD/build/release/bin
 pictures=$PWD/docs/pictures
 work=$(mktemp -d)
 trap 'kill $(jobs -p) 2>/dev/null; rm -rf "$work"' EXIT
+
+if [[ ${1-} == states ]]; then
+    for looks in light dark; do
+        for scale in 1 1.5 2; do
+            folder=$2/$looks-$scale
+            mkdir -p "$folder" "$work/$looks-$scale"
+            env HOME="$work/$looks-$scale" XDG_CONFIG_HOME="$work/$looks-$scale" \
+                QT_SCALE_FACTOR=$scale QT_LOGGING_RULES='*.debug=false' \
+                "$bin/window_pictures" "$folder" "$PWD/samples" $looks 2>/dev/null
+            montage "$folder"/*.png -background '#777' -geometry 360x280+6+6 -tile 6x \
+                "$folder-sheet.png"
+        done
+    done
+    exit
+fi
 
 for tool in Xvfb xdotool import mogrify; do
     command -v "$tool" >/dev/null || { echo "make-screenshots: $tool is missing" >&2; exit 1; }

@@ -17,6 +17,7 @@
 #include "widgets/artwork.h"
 #include "widgets/number_slider.h"
 #include "widgets/panel_header.h"
+#include "widgets/theme.h"
 #include "widgets/track_slider.h"
 
 namespace orbelle::app {
@@ -39,19 +40,22 @@ QWidget* Group(const char* caption, QLayout* controls) {
     auto* group = new QWidget;
     auto* column = new QVBoxLayout(group);
     column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(6);
+    column->setSpacing(widgets::kTightSpace);
     column->addWidget(Caption(caption));
     column->addLayout(controls);
     column->addStretch();
     return group;
 }
 
-QHBoxLayout* Row(std::initializer_list<QWidget*> widgets) {
+QHBoxLayout* Row(std::initializer_list<QWidget*> controls) {
     auto* row = new QHBoxLayout;
     row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(8);
-    for (QWidget* widget : widgets)
-        row->addWidget(widget);
+    row->setSpacing(widgets::kSpace);
+    for (QWidget* widget : controls)
+        row->addWidget(widget, 0, Qt::AlignVCenter);
+    // All rows stand on one line, whatever is in them, and begin below their captions.
+    row->addStrut(widgets::kControlHeight);
+    row->addStretch(1);
     return row;
 }
 
@@ -84,7 +88,8 @@ BottomPanel::BottomPanel(const WindowContext& context) : context_(context) {
 
     content_ = new QWidget;
     auto* groups = new QHBoxLayout(content_);
-    groups->setContentsMargins(12, 8, 12, 10);
+    groups->setContentsMargins(widgets::kWideSpace, widgets::kSpace, widgets::kWideSpace,
+                               widgets::kWideSpace);
     groups->setSpacing(kGroupGap);
     for (QWidget* group : {AddPageSize(), AddBackground(), AddColors(), AddOptions()})
         groups->addWidget(group);

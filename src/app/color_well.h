@@ -16,7 +16,7 @@ public:
     // `penWidth` of the outline: 2 for the well in use, else 1.
     void Show(graphics::Argb color, int penWidth);
 
-    QSize sizeHint() const override { return {34, 34}; }
+    QSize sizeHint() const override { return {34, 26}; }
 
 signals:
     void Clicked();
