@@ -3,8 +3,8 @@
 # 100, 150 and 200 %, to be looked at: FOLDER/LOOKS-SCALE/STATE.png, and a sheet of each. Without a
 # display.
 #
-# make-screenshots.sh: takes the pictures of docs/pictures from the real window, on a display of its own, at 100 % and
-# 200 %. Needs a built tree, Xvfb, xdotool and ImageMagick.
+# make-screenshots.sh: takes the pictures of docs/pictures from the real window, on a display of its
+# own, at 100 % and 200 %. Needs a built tree, Xvfb, xdotool and ImageMagick.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 bin=$PWD/build/release/bin

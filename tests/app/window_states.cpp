@@ -4,6 +4,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QMessageBox>
+#include <QRegularExpression>
 #include <QStatusBar>
 
 #include "app/color_dialog.h"
@@ -59,7 +60,8 @@ public:
 private:
     void LookAt(const QString& name, QWidget& shown) {
         QApplication::processEvents();
-        look_(name, shown);
+        static const QRegularExpression others("[^a-z0-9]+");
+        look_(name.toLower().replace(others, "-"), shown);
     }
     void LookAtWindow(const QString& name) {
         WaitUntil([&] { return window_->IsAtRest(); });
