@@ -96,8 +96,10 @@ void Balloon::paintEvent(QPaintEvent*) {
     painter.drawPath(body.united(arrow));
     painter.setPen(CurrentTheme().Text);
     // Wrapped as it was measured: in a box of the text's own width words may fall otherwise.
-    painter.drawText(QRect(place_.Body.topLeft() + QPoint(kPadding, kPadding), kTextRoom),
-                     Qt::TextWordWrap, text_);
+    QRect room(place_.Body.topLeft() + QPoint(kPadding, kPadding), kTextRoom);
+    if (layoutDirection() == Qt::RightToLeft)
+        room.moveRight(place_.Body.right() - kPadding);
+    painter.drawText(room, Qt::TextWordWrap, text_);
 }
 
 }  // namespace orbelle::widgets
