@@ -11,7 +11,8 @@ packages=(
 )
 case ${1:-} in
     programs) ;;
-    tests | ci) packages+=(libgtest-dev libgmock-dev libbenchmark-dev xvfb xdotool icnsutils icoutils python3) ;;
+    tests | ci) packages+=(libgtest-dev libgmock-dev libbenchmark-dev xvfb xdotool icnsutils icoutils python3
+                        at-spi2-core dbus gir1.2-atspi-2.0 python3-gi) ;;
     *)
         echo "usage: install-dependencies.sh programs|tests|ci" >&2
         exit 2

@@ -4,6 +4,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 
+#include "widgets/accessible_role.h"
 #include "widgets/theme.h"
 
 namespace orbelle::app {
@@ -15,6 +16,7 @@ constexpr int kMargin = 3;
 }  // namespace
 
 ColorWell::ColorWell(const QString& name, QWidget* parent) : QWidget(parent) {
+    widgets::InstallAccessibleRole<ColorWell, QAccessible::Button>();
     setAccessibleName(name);
     setFocusPolicy(Qt::TabFocus);
     setFixedSize(ColorWell::sizeHint());

@@ -278,6 +278,12 @@ bool NumberSlider::eventFilter(QObject* watched, QEvent* event) {
     return QWidget::eventFilter(watched, event);
 }
 
+// The keys reach the field alone: it goes by the name of the whole.
+void NumberSlider::showEvent(QShowEvent* event) {
+    field_->setAccessibleName(accessibleName());
+    QWidget::showEvent(event);
+}
+
 void NumberSlider::hideEvent(QHideEvent* event) {
     EndSpin();
     EndSteps();
