@@ -9,6 +9,7 @@
 #include <cmath>
 #include <utility>
 
+#include "widgets/accessible_track.h"
 #include "widgets/theme.h"
 
 namespace orbelle::widgets {
@@ -25,6 +26,7 @@ constexpr int kPauseMilliseconds = 1000;  // ends a run
 }  // namespace
 
 TrackSlider::TrackSlider(QWidget* parent) : QSlider(Qt::Horizontal, parent) {
+    InstallAccessibleTrack();
     setFixedHeight(kHeight);
     setMouseTracking(true);
     setFocusPolicy(Qt::StrongFocus);
