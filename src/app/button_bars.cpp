@@ -6,6 +6,7 @@
 #include "app/links.h"
 #include "app/save_commands.h"
 #include "app/step_caption.h"
+#include "app/zoom_field.h"
 #include "editing/buttons.h"
 #include "editing/layer_bar.h"
 #include "editing/tool_palette.h"
@@ -18,10 +19,12 @@ namespace {
 using widgets::ButtonBar;
 using widgets::ButtonBarSetup;
 
+constexpr widgets::ButtonBarMetrics kMainMetrics = {.FaceSize = {28, 28}, .Margin = 6, .Gap = 6};
+
 // In the order of the editor's numbers.
 const ButtonBarSetup kMainBar = {
-    .IconSize = 32,
-    .Buttons = {{.Caption = "New", .ToolTip = "New", .Artwork = "main/new"},
+    .Metrics = kMainMetrics,
+    .Buttons = {{.ToolTip = "New", .Artwork = "main/new"},
                 {.ToolTip = "Open", .Artwork = "main/open"},
                 {.ToolTip = "Import", .Artwork = "main/import"},
                 {.ToolTip = "Save", .Artwork = "main/save"},
@@ -31,54 +34,66 @@ const ButtonBarSetup kMainBar = {
                 {.IsSeparator = true},
                 {.ToolTip = "Zoom In", .Artwork = "main/zoom-in"},
                 {.ToolTip = "Zoom Out", .Artwork = "main/zoom-out"},
-                {.Caption = "Original Size",
-                 .ToolTip = "Original Size",
-                 .Artwork = "main/original-size",
-                 .Latches = true,
-                 .HasArrow = true},
-                {.IsSeparator = true},
-                {.Caption = "Website", .ToolTip = "Website", .Artwork = "main/website"}}};
+                {.ToolTip = "Original Size", .Artwork = "main/original-size", .Latches = true},
+                {.IsSpring = true},
+                {.ToolTip = "Website", .Artwork = "main/website"}}};
+
+widgets::BarButton WithPopup(const char* tip, const char* artwork) {
+    return {.ToolTip = tip, .Artwork = artwork, .Latches = true, .HasPopup = true};
+}
 
 // The texts of 6 to 9 and the pictures are crossed (docs/oddities.md, "Crossed tips"): the pictures
 // are right.
 const ButtonBarSetup kToolBox = {
-    .Direction = Qt::Vertical,
-    .Buttons = {
-        {.ToolTip = "Move tool", .Artwork = "tools/move", .Latches = true},
-        {.ToolTip = "Selection tool", .Artwork = "tools/select-rectangle", .Latches = true},
-        {.IsSeparator = true},
-        {.ToolTip = "Pencil tool", .Artwork = "tools/pencil", .Latches = true},
-        {.ToolTip = "Line tool", .Artwork = "tools/line", .Latches = true},
-        {.ToolTip = "Rectangle tool", .Artwork = "tools/ellipse", .Latches = true},
-        {.ToolTip = "Filled Rectangle tool", .Artwork = "tools/filled-ellipse", .Latches = true},
-        {.ToolTip = "Ellipse tool", .Artwork = "tools/rectangle", .Latches = true},
-        {.ToolTip = "Filled Ellipse tool", .Artwork = "tools/filled-rectangle", .Latches = true},
-        {.IsSeparator = true},
-        {.ToolTip = "Color Pick tool", .Artwork = "tools/pick", .Latches = true},
-        {.ToolTip = "Erase tool", .Artwork = "tools/eraser", .Latches = true}}};
+    .Metrics = {.Direction = Qt::Vertical, .FaceSize = {32, 24}},
+    .Buttons = {{.ToolTip = "Move tool", .Artwork = "tools/move", .Latches = true},
+                WithPopup("Selection tool", "tools/select-rectangle"),
+                {.IsSeparator = true},
+                {.ToolTip = "Pencil tool", .Artwork = "tools/pencil", .Latches = true},
+                WithPopup("Line tool", "tools/line"),
+                WithPopup("Rectangle tool", "tools/ellipse"),
+                WithPopup("Filled Rectangle tool", "tools/filled-ellipse"),
+                WithPopup("Ellipse tool", "tools/rectangle"),
+                WithPopup("Filled Ellipse tool", "tools/filled-rectangle"),
+                {.IsSeparator = true},
+                {.ToolTip = "Color Pick tool", .Artwork = "tools/pick", .Latches = true},
+                WithPopup("Erase tool", "tools/eraser")}};
 
 const ButtonBarSetup kFillBar = {
     .Buttons = {{.ToolTip = "Solid", .Artwork = "tools/fill-solid"},
                 {.ToolTip = "Horizontal Gradient", .Artwork = "tools/fill-horizontal"},
                 {.ToolTip = "Vertical Gradient", .Artwork = "tools/fill-vertical"},
-                {.ToolTip = "Radial Gradient", .Artwork = "tools/fill-radial"}}};
+                {.ToolTip = "Radial Gradient", .Artwork = "tools/fill-radial"}},
+    .HasFrame = true};
 
 const ButtonBarSetup kLayerBar = {
     .Buttons = {{.ToolTip = "Import Icon...", .Artwork = "layers/add"},
                 {.ToolTip = "Remove Layer", .Artwork = "layers/remove"},
                 {.ToolTip = "Hide Layer", .Artwork = "layers/eye"},
                 {.IsSeparator = true},
-                {.ToolTip = "Set Order", .Artwork = "layers/order"},
+                {.ToolTip = "Set Order", .Artwork = "layers/order", .HasPopup = true},
                 {.Caption = "Merge Down", .Artwork = "layers/merge"}}};
 
 const ButtonBarSetup kSelectionBar = {
     .Buttons = {{.ToolTip = "Rectangle Selection", .Artwork = "tools/select-rectangle"},
                 {.ToolTip = "Ellipse Selection", .Artwork = "tools/select-ellipse"},
-                {.ToolTip = "Polygon Selection", .Artwork = "tools/select-polygon"}}};
+                {.ToolTip = "Polygon Selection", .Artwork = "tools/select-polygon"}},
+    .HasFrame = true};
 
 const ButtonBarSetup kEraserBar = {
     .Buttons = {{.ToolTip = "Brush Eraser", .Artwork = "tools/brush-eraser"},
-                {.ToolTip = "Pencil Eraser", .Artwork = "tools/pencil-eraser"}}};
+                {.ToolTip = "Pencil Eraser", .Artwork = "tools/pencil-eraser"}},
+    .HasFrame = true};
+
+struct FillLook {
+    const char* Name;
+    const char* Corner;
+};
+// By editing::FillKind.
+constexpr FillLook kFillLooks[] = {{"Solid", "tools/corner-solid"},
+                                   {"Horizontal Gradient", "tools/corner-horizontal"},
+                                   {"Vertical Gradient", "tools/corner-vertical"},
+                                   {"Radial Gradient", "tools/corner-radial"}};
 
 ButtonBar* MakeBar(const ButtonBarSetup& setup, const char* name, const char* accessibleName) {
     auto* bar = new ButtonBar(setup);
@@ -161,7 +176,9 @@ ButtonBars::ButtonBars(const WindowContext& context)
       FillBar(MakeBar(kFillBar, "FillBar", "Fill kinds")),
       LayerBar(MakeBar(kLayerBar, "LayerBar", "Layer commands")),
       SelectionBar(MakeBar(kSelectionBar, "SelectionBar", "Selection kinds")),
-      EraserBar(MakeBar(kEraserBar, "EraserBar", "Erasers")) {
+      EraserBar(MakeBar(kEraserBar, "EraserBar", "Erasers")),
+      zoom_(new ZoomField) {
+    AddZoomField(context);
     const auto connect = [context](ButtonBar* bar, const std::function<void(int)>& click) {
         // A latching button has turned itself; what it shows is the editor's to say.
         QObject::connect(bar, &ButtonBar::Clicked, bar, [context, click](int button) {
@@ -204,6 +221,33 @@ ButtonBars::ButtonBars(const WindowContext& context)
     }
 }
 
+void ButtonBars::AddZoomField(const WindowContext& context) {
+    using editing::Editor;
+    MainBar->PutBeside(editing::main_buttons::OriginalSize, *zoom_);
+    QObject::connect(zoom_, &ZoomField::ZoomWanted, zoom_, [context](double zoom) {
+        context.Commands.Run([zoom](Editor& editor) { ZoomAboutMiddle(editor, zoom); });
+    });
+    QObject::connect(zoom_, &ZoomField::FitWanted, zoom_,
+                     [context] { context.Commands.Run(editing::FitWhole); });
+    QObject::connect(zoom_, &ZoomField::StepWanted, zoom_, [context](int direction) {
+        context.Commands.Run(direction > 0 ? editing::ZoomIn : editing::ZoomOut);
+    });
+    QObject::connect(zoom_, &ZoomField::Finished, zoom_,
+                     [context] { context.Window.FocusScene(); });
+}
+
+void ButtonBars::ShowZoom(const editing::Editor& editor) {
+    zoom_->ShowZoom(editor.DocumentExists ? editor.View.Zoom : 0);
+}
+
+void ButtonBars::ShowFillKind(editing::FillKind kind) {
+    const FillLook& look = kFillLooks[static_cast<std::size_t>(kind)];
+    for (const int button : {editing::tool_buttons::Line, editing::tool_buttons::Ellipse,
+                             editing::tool_buttons::FilledEllipse, editing::tool_buttons::Rectangle,
+                             editing::tool_buttons::FilledRectangle})
+        ToolBox->SetChoice(button, look.Corner, look.Name);
+}
+
 void ButtonBars::ShowPopup(ButtonBar& popup, bool visible, int button) {
     if (visible && popup.isHidden()) {
         const QRect place = ToolBox->ButtonRect(button);
@@ -219,7 +263,9 @@ void ButtonBars::ShowStates(const editing::Editor& editor) {
     Mirror(*MainBar, states.MainBar);
     MainBar->SetToolTip(editing::main_buttons::Undo, StepCaption("Undo", states.UndoName));
     MainBar->SetToolTip(editing::main_buttons::Redo, StepCaption("Redo", states.RedoName));
+    zoom_->setEnabled(states.IsEnabled(editing::CommandId::OriginalSize));
     Mirror(*ToolBox, states.ToolBox);
+    ShowFillKind(editor.Tools.FillKind);
     Mirror(*FillBar, states.FillBar);
     Mirror(*LayerBar, states.LayerBar);
     Mirror(*SelectionBar, states.SelectionBar);

@@ -6,6 +6,8 @@
 
 namespace orbelle::app {
 
+class ZoomField;
+
 // The bars belong to the window; the three pop-ups lie on its central widget.
 class ButtonBars {
 public:
@@ -13,6 +15,8 @@ public:
 
     // Enabled and pressed states, and which pop-ups are open.
     void ShowStates(const editing::Editor& editor);
+
+    void ShowZoom(const editing::Editor& editor);
 
     widgets::ButtonBar* const MainBar;
     widgets::ButtonBar* const ToolBox;
@@ -22,7 +26,11 @@ public:
     widgets::ButtonBar* const EraserBar;
 
 private:
+    void AddZoomField(const WindowContext& context);
+    void ShowFillKind(editing::FillKind kind);
     void ShowPopup(widgets::ButtonBar& popup, bool visible, int button);
+
+    ZoomField* zoom_;
 };
 
 }  // namespace orbelle::app

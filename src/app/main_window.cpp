@@ -177,6 +177,16 @@ void MainWindow::Paste() {
         ShowMessage(pasted.Text);
 }
 
+// A control that went or was turned off under the keys leaves them to the picture, not to the next
+// control.
+bool MainWindow::focusNextPrevChild(bool next) {
+    const QWidget* focus = focusWidget();
+    if (!focus || (focus->isVisible() && focus->isEnabled()))
+        return QMainWindow::focusNextPrevChild(next);
+    FocusScene();
+    return true;
+}
+
 void MainWindow::FocusScene() {
     scene_->setFocus();
 }

@@ -129,6 +129,7 @@ public:
     void ShowControls() override;
 
 protected:
+    bool focusNextPrevChild(bool next) override;
     void closeEvent(QCloseEvent* event) override;
 
 private:

@@ -85,6 +85,7 @@ void MainWindow::ShowScene() {
     }
     pointerStatus_->ShowZoom(editor_.DocumentExists ? editor_.View.Zoom : 0);
     pointerStatus_->Refresh(editor_);
+    bars_->ShowZoom(editor_);
     MirrorBar(*horizontalScroll_, editor_.View.HorizontalScroll, editor_.View.SceneWidth);
     MirrorBar(*verticalScroll_, editor_.View.VerticalScroll, editor_.View.SceneHeight);
     scene_->update();

@@ -29,6 +29,7 @@ constexpr int kShareOfHeight = 3;
 // A larger page is not followed during a drag: copying it for the thread would hold up the hand.
 constexpr std::int64_t kMaxLivePixels = std::int64_t{4} << 20;
 constexpr int kToolSize = 12;
+constexpr QSize kToolFace(20, 20);
 constexpr int kDouble = widgets::kStripGrounds + 2;  // its button, after a separator
 
 QString Warning(const std::vector<formats::Finding>& findings) {
@@ -83,7 +84,7 @@ void SizesPanel::AddTools() {
         return widgets::BarButton{.ToolTip = tip, .Artwork = QString("sizes/") + artwork};
     };
     tools_ = new widgets::ButtonBar(
-        {.IconSize = kToolSize,
+        {.Metrics = {.IconSize = kToolSize, .FaceSize = kToolFace, .Margin = 2},
          .Buttons = {tool("checks", "On checks"),
                      tool("white", "On white"),
                      tool("grey", "On grey"),

@@ -55,7 +55,8 @@ void ScrollTo(ScrollBar& bar, double pagePlace, double scenePlace, double page, 
             graphics::RoundToEven((scenePlace - pagePlace * zoom) / room * bar.Max), 0, bar.Max);
 }
 
-void ZoomAt(Editor& editor, float x, float y, void (*zoomStep)(Editor&)) {
+template <typename ZoomStep>
+void ZoomAt(Editor& editor, double x, double y, const ZoomStep& zoomStep) {
     document::View& view = editor.View;
     if (!editor.DocumentExists)
         return;
@@ -176,6 +177,14 @@ void ZoomInAt(Editor& editor, float x, float y) {
 
 void ZoomOutAt(Editor& editor, float x, float y) {
     ZoomAt(editor, x, y, ZoomOut);
+}
+
+void ZoomAboutMiddle(Editor& editor, double zoom) {
+    ZoomAt(editor, editor.View.SceneWidth / 2.0, editor.View.SceneHeight / 2.0,
+           [zoom](Editor& zoomed) {
+               zoomed.Zoom.IsOriginalSize = false;
+               ZoomTo(zoomed, zoom);
+           });
 }
 
 void StartZoomIn(Editor& editor) {

@@ -38,6 +38,10 @@ void FitWhole(Editor& editor);
 void ZoomInAt(Editor& editor, float x, float y);
 void ZoomOutAt(Editor& editor, float x, float y);
 
+// To any zoom, within its limits, with what is in the middle of the scene staying there as near as
+// scrolling in tenths allows.
+void ZoomAboutMiddle(Editor& editor, double zoom);
+
 // Sets the least zoom and begins the animation up to 1.
 void StartZoomIn(Editor& editor);
 

@@ -80,10 +80,16 @@ public:
     }
 
     bool isValid() const override { return widget() != nullptr; }
-    int childCount() const override { return isValid() ? parts_->PartCount() : 0; }
+    int childCount() const override {
+        return isValid() ? parts_->PartCount() + static_cast<int>(parts_->WidgetsBeside().size())
+                         : 0;
+    }
     QAccessibleInterface* child(int part) const override {
         if (part < 0 || part >= childCount())
             return nullptr;
+        if (part >= parts_->PartCount())
+            return QAccessible::queryAccessibleInterface(
+                parts_->WidgetsBeside()[static_cast<std::size_t>(part - parts_->PartCount())]);
         while (static_cast<int>(ids_.size()) <= part)
             ids_.push_back(QAccessible::registerAccessibleInterface(
                 new PartInterface(widget(), parts_, static_cast<int>(ids_.size()))));

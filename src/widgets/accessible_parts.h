@@ -4,6 +4,7 @@
 #include <QAccessible>
 #include <QRect>
 #include <QString>
+#include <vector>
 
 class QWidget;
 
@@ -20,6 +21,8 @@ public:
     virtual QAccessible::Role PartRole(int part) const = 0;
     virtual QAccessible::State PartState(int part) const = 0;
     virtual int FocusedPart() const = 0;  // -1: none
+    // What stands on the control and can be reached for itself; it follows the parts.
+    virtual std::vector<QWidget*> WidgetsBeside() const { return {}; }
     // Does what a press with the mouse does.
     virtual void PressPart(int part) = 0;
 

@@ -36,8 +36,12 @@ bool FollowsTheme(const QString& name) {
     return name.contains('/') && !name.startsWith("cursors/");
 }
 
-QByteArray Drawing(const QString& name) {
-    QFile file(":/" + name + ".svg");
+// Small drawings have whole pixels for strokes; what falls between two pixels at some ratio has a
+// drawing of its own for that number of device pixels ("layers/add-24").
+QByteArray Drawing(const QString& name, int pixels) {
+    QFile file(QString(":/%1-%2.svg").arg(name).arg(pixels));
+    if (!file.exists())
+        file.setFileName(":/" + name + ".svg");
     if (!file.open(QIODevice::ReadOnly))
         return {};
     QByteArray drawing = file.readAll();
@@ -76,10 +80,11 @@ private:
 
 QPixmap Artwork(const QString& name, const QSize& size, qreal devicePixelRatio) {
     LoadResources();
-    QSvgRenderer drawing(Drawing(name));
+    const QSize pixels = size * devicePixelRatio;
+    QSvgRenderer drawing(Drawing(name, pixels.width()));
     if (!drawing.isValid())
         return {};
-    QPixmap pixmap(size * devicePixelRatio);
+    QPixmap pixmap(pixels);
     pixmap.fill(Qt::transparent);
     QPainter painter(&pixmap);
     drawing.setAspectRatioMode(Qt::KeepAspectRatio);

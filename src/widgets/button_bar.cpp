@@ -22,16 +22,19 @@ constexpr int kPollMilliseconds = 50;
 
 ButtonBar::ButtonBar(const ButtonBarSetup& setup, QWidget* parent)
     : QWidget(parent),
-      direction_(setup.Direction),
-      iconSize_(setup.IconSize),
+      metrics_(setup.Metrics),
+      hasFrame_(setup.HasFrame),
       buttons_(setup.Buttons),
-      states_(setup.Buttons.size()) {
+      states_(setup.Buttons.size()),
+      beside_(setup.Buttons.size()) {
     ShowPartsToAssistiveTools();
-    setFont(ChromeFont(9));
+    setFont(ChromeFont(kNormalText));
     setMouseTracking(true);
     // A click leaves the focus where it is: the keys belong to the picture.
     setFocusPolicy(Qt::TabFocus);
-    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    const bool canGrow = std::ranges::any_of(buttons_, &BarButton::IsSpring);
+    setSizePolicy(canGrow && IsHorizontal() ? QSizePolicy::Expanding : QSizePolicy::Fixed,
+                  canGrow && !IsHorizontal() ? QSizePolicy::Expanding : QSizePolicy::Fixed);
     hoverPoll_.setInterval(kPollMilliseconds);
     connect(&hoverPoll_, &QTimer::timeout, this, &ButtonBar::PollHover);
     LayOut();
@@ -76,6 +79,27 @@ void ButtonBar::SetToolTip(int button, const QString& text) {
     AnnounceName(*this, PartOf(i));
 }
 
+void ButtonBar::SetChoice(int button, const QString& artwork, const QString& name) {
+    const int i = IndexOf(button);
+    if (i < 0 || (states_[i].Corner == artwork && states_[i].Choice == name))
+        return;
+    states_[i].Corner = artwork;
+    states_[i].Choice = name;
+    iconsRatio_ = 0;
+    update();
+}
+
+void ButtonBar::PutBeside(int button, QWidget& widget) {
+    const int i = IndexOf(button);
+    if (i < 0)
+        return;
+    widget.setParent(this);
+    widget.resize(widget.sizeHint());
+    beside_[i] = &widget;
+    buttons_[i].RoomBeside = widget.width();
+    LayOut();
+}
+
 int ButtonBar::LastButton() const {
     return lastIndex_ + 1;
 }
@@ -85,17 +109,10 @@ QRect ButtonBar::ButtonRect(int button) const {
     return i < 0 ? QRect() : layout_.Places[i];
 }
 
-int ButtonBar::Thickness() const {
-    const int icon = iconSize_ + 10;
-    const bool hasCaption =
-        IsHorizontal() && std::ranges::any_of(buttons_, [](const BarButton& button) {
-            return !button.Caption.isEmpty();
-        });
-    return hasCaption ? std::max(icon, fontMetrics().height() + 8) : icon;
-}
-
 QSize ButtonBar::sizeHint() const {
-    return IsHorizontal() ? QSize(layout_.Length, Thickness()) : QSize(Thickness(), layout_.Length);
+    const QSize across = metrics_.FaceSize + 2 * QSize(metrics_.Margin, metrics_.Margin);
+    return IsHorizontal() ? QSize(layout_.Length, across.height())
+                          : QSize(across.width(), layout_.Length);
 }
 
 QSize ButtonBar::minimumSizeHint() const {
@@ -104,17 +121,23 @@ QSize ButtonBar::minimumSizeHint() const {
 
 void ButtonBar::LayOut() {
     const QFontMetricsF metrics(font());
-    layout_ =
-        LayOutButtonBar(buttons_, direction_, iconSize_, IsHorizontal() ? height() : width(),
-                        [&](const QString& text) {
-                            return static_cast<int>(std::ceil(metrics.horizontalAdvance(text)));
-                        });
-    updateGeometry();
+    const int lengthBefore = layout_.Length;
+    layout_ = LayOutButtonBar(buttons_, metrics_, size(), [&](const QString& text) {
+        return static_cast<int>(std::ceil(metrics.horizontalAdvance(text)));
+    });
+    for (int i = 0; i < Count(); ++i)
+        if (beside_[i]) {
+            const QRect& face = layout_.Places[i];
+            const int top = face.top() + (face.height() - beside_[i]->height()) / 2;
+            beside_[i]->move(face.right() + 1 + metrics_.Gap, top);
+        }
+    if (layout_.Length != lengthBefore)
+        updateGeometry();
     update();
 }
 
 bool ButtonBar::CanPress(int index) const {
-    return index >= 0 && states_[index].Enabled && !buttons_[index].IsSeparator;
+    return index >= 0 && states_[index].Enabled && !buttons_[index].IsGap();
 }
 
 void ButtonBar::MoveHover(const QPoint& point) {
@@ -231,8 +254,13 @@ void ButtonBar::FocusButton(int index) {
     update();
 }
 
-void ButtonBar::focusInEvent(QFocusEvent*) {
-    showFocus_ = true;
+void ButtonBar::focusInEvent(QFocusEvent* event) {
+    const Qt::FocusReason reason = event->reason();
+    // What had it before an interruption has it still.
+    if (reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason)
+        byKeyboard_ = reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason ||
+                      reason == Qt::ShortcutFocusReason;
+    showFocus_ = byKeyboard_;
     FocusButton(CanPress(focusIndex_) ? focusIndex_ : NextEnabled(-1, 1));
 }
 

@@ -14,9 +14,9 @@ namespace orbelle::widgets {
 
 // How a toolbar is made.
 struct ButtonBarSetup {
-    Qt::Orientation Direction = Qt::Horizontal;
-    int IconSize = 16;  // logical pixels
+    ButtonBarMetrics Metrics = {};
     std::vector<BarButton> Buttons;
+    bool HasFrame = false;  // it lies on other parts
 };
 
 // Buttons are numbered from 1, separators included. At first all are enabled and none is pressed.
@@ -31,6 +31,10 @@ public:
     void SetPressed(int button, bool pressed);
     void SetButtonEnabled(int button, bool enabled);
     void SetToolTip(int button, const QString& text);
+    // What a button is set to: a small drawing in its corner, and a word for assistive tools.
+    void SetChoice(int button, const QString& artwork, const QString& name);
+    // Takes it, in its own size, between the button and the next one.
+    void PutBeside(int button, QWidget& widget);
 
     // The button that the mouse or the keyboard came to last, 0 before the first.
     int LastButton() const;
@@ -43,12 +47,13 @@ public:
     QAccessible::Role WholeRole() const override { return QAccessible::ToolBar; }
     int PartCount() const override;
     QString PartName(int part) const override;
-    QString PartValue(int) const override { return {}; }
+    QString PartValue(int part) const override;
     QRect PartPlace(int part) const override;
     QAccessible::Role PartRole(int part) const override;
     QAccessible::State PartState(int part) const override;
     int FocusedPart() const override;
     void PressPart(int part) override;
+    std::vector<QWidget*> WidgetsBeside() const override;
 
 signals:
     // A press of a mouse button on an enabled button, or Space or Return with the keyboard.
@@ -72,14 +77,20 @@ private:
     struct State {
         bool Enabled = true;
         bool Pressed = false;
+        QString Corner;  // the name of a drawing
+        QString Choice;
     };
+    struct Icon {
+        QPixmap Picture;
+        QPixmap Corner;
+    };
+    static constexpr QSize kCornerSize{7, 7};
 
     // Buttons count from 0 in here.
     int Count() const { return static_cast<int>(buttons_.size()); }
     int IndexOf(int number) const;  // -1: there is no button of that number
-    bool IsHorizontal() const { return direction_ == Qt::Horizontal; }
+    bool IsHorizontal() const { return metrics_.Direction == Qt::Horizontal; }
     bool CanPress(int index) const;
-    int Thickness() const;  // that its buttons ask for
     void LayOut();
     void MoveHover(const QPoint& point);
     void PollHover();
@@ -91,22 +102,24 @@ private:
     int ButtonOfPart(int part) const;
 
     void LoadIcons(qreal ratio);
-    void PaintSeparator(QPainter& painter, int line) const;
     void PaintButton(QPainter& painter, int index) const;
+    void PaintFrame(QPainter& painter) const;
     void PaintFocus(QPainter& painter, const QRect& place) const;
 
-    Qt::Orientation direction_;
-    int iconSize_;
+    ButtonBarMetrics metrics_;
+    bool hasFrame_;
     std::vector<BarButton> buttons_;
     std::vector<State> states_;
     ButtonBarLayout layout_;
-    std::vector<QPixmap> icons_;
-    qreal iconsRatio_ = 0;  // that the icons were drawn for; 0: not yet
+    std::vector<QWidget*> beside_;  // null where none is
+    std::vector<Icon> icons_;
+    qreal iconsRatio_ = 0;  // that the icons were drawn for; 0: anew
 
     QTimer hoverPoll_;
     int hoverIndex_ = -1;
     int lastIndex_ = -1;
     int focusIndex_ = -1;
+    bool byKeyboard_ = false;  // it came by a key and not by the way of another part
     bool showFocus_ = false;
     bool showDown_ = false;
 };

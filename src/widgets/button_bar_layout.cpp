@@ -5,51 +5,58 @@
 namespace orbelle::widgets {
 namespace {
 
-constexpr int kStart = 7;
-constexpr int kGap = 8;
-constexpr int kGapAfterArrow = 16;
-constexpr int kEndMargin = 8;
+constexpr int kLineRoom = 2;  // on either side of a separator, beside the gap
+
+// The layout with `left` pixels for the springs.
+ButtonBarLayout Place(const std::vector<BarButton>& buttons, const ButtonBarMetrics& metrics,
+                      int across, int left, const std::function<int(const QString&)>& textWidth) {
+    const bool horizontal = metrics.Direction == Qt::Horizontal;
+    const QSize face = metrics.FaceSize;
+    const int acrossMargin = (across - (horizontal ? face.height() : face.width())) / 2;
+    ButtonBarLayout layout;
+    int p = metrics.Margin;
+    bool followsFace = false;
+    for (const BarButton& button : buttons) {
+        QRect& place = layout.Places.emplace_back();
+        QRect& line = layout.Lines.emplace_back();
+        if (button.IsSpring) {
+            p += left;
+        } else if (button.IsSeparator) {
+            p += metrics.Gap + kLineRoom;
+            line = horizontal ? QRect(p, acrossMargin, 1, face.height())
+                              : QRect(acrossMargin, p, face.width(), 1);
+            p += 1 + metrics.Gap + kLineRoom;
+        } else {
+            p += followsFace ? metrics.Gap : 0;
+            QSize size = face;
+            if (horizontal && !button.Caption.isEmpty())
+                size.setWidth((face.width() + metrics.IconSize) / 2 + kTightSpace +
+                              textWidth(button.Caption) + kSpace);
+            place = QRect(horizontal ? QPoint(p, acrossMargin) : QPoint(acrossMargin, p), size);
+            p += horizontal ? size.width() : size.height();
+            if (button.RoomBeside > 0)
+                p += metrics.Gap + button.RoomBeside;
+        }
+        followsFace = !button.IsGap();
+    }
+    layout.Length = p + metrics.Margin;
+    return layout;
+}
 
 }  // namespace
 
-ButtonBarLayout LayOutButtonBar(const std::vector<BarButton>& buttons, Qt::Orientation direction,
-                                int iconSize, int thickness,
+ButtonBarLayout LayOutButtonBar(const std::vector<BarButton>& buttons,
+                                const ButtonBarMetrics& metrics, const QSize& size,
                                 const std::function<int(const QString&)>& textWidth) {
-    const bool horizontal = direction == Qt::Horizontal;
-    ButtonBarLayout layout;
-    int p = kStart;
-    int end = p;
-    bool afterArrow = false;
-    for (const BarButton& button : buttons) {
-        p += afterArrow ? kGapAfterArrow : kGap;
-        afterArrow = horizontal && button.HasArrow;
-        if (button.IsSeparator) {
-            p += kGap;
-            layout.Places.emplace_back();
-            layout.SeparatorLines.push_back(p - 2);
-            end = std::max(end, p);
-            continue;
-        }
-        const int begin = p - kStart;
-        int extent = 0;
-        p += iconSize;
-        if (!horizontal) {
-            // Faces touch and don't overlap: 24 pixels from one to the next with icons of 16.
-            extent = iconSize + kGap - 1;
-        } else if (button.Caption.isEmpty()) {
-            p += 3;
-            extent = iconSize + 8 + 1 + (button.HasArrow ? 6 : 0);
-        } else {
-            const int text = textWidth(button.Caption);
-            p += 8 + text + 4;
-            extent = text + iconSize + 16 + 2;
-        }
-        layout.Places.push_back(horizontal ? QRect(begin, 0, extent, thickness - 1)
-                                           : QRect(0, begin, thickness - 1, extent));
-        layout.SeparatorLines.push_back(0);
-        end = std::max(end, begin + extent + 1);
-    }
-    layout.Length = end + kEndMargin;
+    const bool horizontal = metrics.Direction == Qt::Horizontal;
+    const int across = horizontal ? size.height() : size.width();
+    const int along = horizontal ? size.width() : size.height();
+    ButtonBarLayout layout = Place(buttons, metrics, across, 0, textWidth);
+    const int length = layout.Length;
+    const auto springs = static_cast<int>(std::ranges::count_if(buttons, &BarButton::IsSpring));
+    if (springs > 0 && along > length)
+        layout = Place(buttons, metrics, across, (along - length) / springs, textWidth);
+    layout.Length = length;
     return layout;
 }
 

@@ -9,15 +9,17 @@ namespace orbelle::widgets {
 namespace {
 
 constexpr double kDisabledOpacity = 0.35;
-constexpr int kIconMargin = 5;
-constexpr int kArrowRoom = 10;
+constexpr int kMarkSize = 5;
+constexpr int kMarkMargin = 2;
+constexpr int kCornerMargin = 1;
+constexpr double kRingDistance = 1.5;  // of the focus from the face: a face that is down has a line
 
-// A triangle of three rows with its middle 5 pixels from the right end, .
-void PaintArrow(QPainter& painter, const QRect& place) {
-    const int middle = place.left() + place.width() - 5;
-    const int top = place.top() + (place.height() - 2) / 2;
-    for (int row = 0; row < 3; ++row)
-        painter.fillRect(middle - 2 + row, top + row, 5 - 2 * row, 1, CurrentTheme().Note);
+// A triangle in the lower right corner, row by row.
+void PaintMark(QPainter& painter, const QRect& place) {
+    const int right = place.right() - kMarkMargin;
+    for (int row = 0; row < kMarkSize; ++row)
+        painter.fillRect(right - row, place.bottom() - kMarkMargin - kMarkSize + 1 + row, row + 1,
+                         1, CurrentTheme().Note);
 }
 
 }  // namespace
@@ -27,34 +29,27 @@ void ButtonBar::LoadIcons(qreal ratio) {
         return;
     iconsRatio_ = ratio;
     icons_.clear();
-    for (const BarButton& button : buttons_)
-        icons_.push_back(button.Artwork.isEmpty()
-                             ? QPixmap()
-                             : Artwork(button.Artwork, QSize(iconSize_, iconSize_), ratio));
+    for (int i = 0; i < Count(); ++i) {
+        const int size = metrics_.IconSize;
+        icons_.push_back({.Picture = Artwork(buttons_[i].Artwork, QSize(size, size), ratio),
+                          .Corner = Artwork(states_[i].Corner, kCornerSize, ratio)});
+    }
 }
 
 void ButtonBar::paintEvent(QPaintEvent*) {
     LoadIcons(devicePixelRatioF());
     QPainter painter(this);
     painter.fillRect(rect(), CurrentTheme().Ground);
+    if (hasFrame_)
+        PaintFrame(painter);
     for (int i = 0; i < Count(); ++i) {
         if (buttons_[i].IsSeparator)
-            PaintSeparator(painter, layout_.SeparatorLines[i]);
-        else
+            painter.fillRect(layout_.Lines[i], HairlineColor());
+        else if (!buttons_[i].IsSpring)
             PaintButton(painter, i);
     }
     if (showFocus_ && focusIndex_ >= 0)
         PaintFocus(painter, layout_.Places[focusIndex_]);
-}
-
-void ButtonBar::PaintSeparator(QPainter& painter, int line) const {
-    constexpr int kBegin = 2;
-    const int length = (IsHorizontal() ? height() : width()) - 4 - kBegin;
-    if (IsHorizontal()) {
-        painter.fillRect(line - 1, kBegin, 1, length, HairlineColor());
-    } else {
-        painter.fillRect(kBegin, line - 1, length, 1, HairlineColor());
-    }
 }
 
 void ButtonBar::PaintButton(QPainter& painter, int index) const {
@@ -67,31 +62,37 @@ void ButtonBar::PaintButton(QPainter& painter, int index) const {
     if (states_[index].Pressed || isBelowPointer)
         DrawFace(painter, place, states_[index].Pressed || showDown_);
 
-    const int across = IsHorizontal() ? place.height() : place.width();
-    const int acrossMargin = (across + 1 - iconSize_) / 2;
-    const int alongMargin = IsHorizontal() ? kIconMargin : (place.height() + 1 - iconSize_) / 2;
-    const QPoint icon = place.topLeft() + (IsHorizontal() ? QPoint(alongMargin, acrossMargin)
-                                                          : QPoint(acrossMargin, alongMargin));
-    painter.drawPixmap(icon, icons_[index]);
+    const int left = (metrics_.FaceSize.width() - metrics_.IconSize) / 2;
+    const int top = (metrics_.FaceSize.height() - metrics_.IconSize) / 2;
+    painter.drawPixmap(place.topLeft() + QPoint(left, top), icons_[index].Picture);
+    if (!icons_[index].Corner.isNull())
+        painter.drawPixmap(place.right() + 1 - kCornerMargin - kCornerSize.width(),
+                           place.bottom() + 1 - kCornerMargin - kCornerSize.height(),
+                           icons_[index].Corner);
+    else if (button.HasPopup)
+        PaintMark(painter, place);
 
     if (IsHorizontal() && !button.Caption.isEmpty()) {
-        QRect box = place.adjusted(kIconMargin + iconSize_, 0, 1, 1);
-        if (button.HasArrow)
-            box.setWidth(box.width() - kArrowRoom);
+        const QRect box = place.adjusted(left + metrics_.IconSize + kTightSpace, 0, 0, 0);
         painter.setPen(CurrentTheme().Text);
-        painter.drawText(box, Qt::AlignCenter | Qt::TextSingleLine | Qt::TextDontClip,
+        painter.drawText(box, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
                          button.Caption);
     }
-    if (IsHorizontal() && button.HasArrow)
-        PaintArrow(painter, place);
     painter.setOpacity(1);
+}
+
+void ButtonBar::PaintFrame(QPainter& painter) const {
+    painter.setPen(CurrentTheme().Line);
+    painter.drawRect(rect().adjusted(0, 0, -1, -1));
 }
 
 void ButtonBar::PaintFocus(QPainter& painter, const QRect& place) const {
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(CurrentTheme().Accent);
     painter.setBrush(Qt::NoBrush);
-    painter.drawRoundedRect(QRectF(place).translated(0.5, 0.5), 3, 3);
+    painter.drawRoundedRect(
+        QRectF(place).adjusted(-kRingDistance, -kRingDistance, kRingDistance, kRingDistance),
+        kCornerRadius + kRingDistance, kCornerRadius + kRingDistance);
 }
 
 }  // namespace orbelle::widgets

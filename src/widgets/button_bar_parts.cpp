@@ -1,14 +1,18 @@
-// What the toolbar tells assistive tools: its parts are the buttons without the separators.
+// What the toolbar tells assistive tools: its parts are the buttons without the gaps between
+// groups.
+#include <algorithm>
+#include <iterator>
+
 #include "widgets/button_bar.h"
 
 namespace orbelle::widgets {
 
 int ButtonBar::PartOf(int index) const {
-    if (index < 0 || buttons_[index].IsSeparator)
+    if (index < 0 || buttons_[index].IsGap())
         return -1;
     int part = 0;
     for (int i = 0; i < index; ++i)
-        part += buttons_[i].IsSeparator ? 0 : 1;
+        part += buttons_[i].IsGap() ? 0 : 1;
     return part;
 }
 
@@ -22,7 +26,7 @@ int ButtonBar::ButtonOfPart(int part) const {
 int ButtonBar::PartCount() const {
     int count = 0;
     for (const BarButton& button : buttons_)
-        count += button.IsSeparator ? 0 : 1;
+        count += button.IsGap() ? 0 : 1;
     return count;
 }
 
@@ -31,12 +35,16 @@ QString ButtonBar::PartName(int part) const {
     return button.ToolTip.isEmpty() ? button.Caption : button.ToolTip;
 }
 
+QString ButtonBar::PartValue(int part) const {
+    return states_[ButtonOfPart(part)].Choice;
+}
+
 QRect ButtonBar::PartPlace(int part) const {
     return layout_.Places[ButtonOfPart(part)];
 }
 
 QAccessible::Role ButtonBar::PartRole(int part) const {
-    return buttons_[ButtonOfPart(part)].HasArrow ? QAccessible::ButtonMenu : QAccessible::Button;
+    return buttons_[ButtonOfPart(part)].HasPopup ? QAccessible::ButtonMenu : QAccessible::Button;
 }
 
 QAccessible::State ButtonBar::PartState(int part) const {
@@ -46,12 +54,18 @@ QAccessible::State ButtonBar::PartState(int part) const {
     state.checkable = buttons_[index].Latches;
     state.pressed = states_[index].Pressed;
     state.checked = state.checkable && state.pressed;
-    state.hasPopup = buttons_[index].HasArrow;
+    state.hasPopup = buttons_[index].HasPopup;
     return state;
 }
 
 int ButtonBar::FocusedPart() const {
     return PartOf(focusIndex_);
+}
+
+std::vector<QWidget*> ButtonBar::WidgetsBeside() const {
+    std::vector<QWidget*> widgets;
+    std::ranges::copy_if(beside_, std::back_inserter(widgets), [](QWidget* w) { return w; });
+    return widgets;
 }
 
 void ButtonBar::PressPart(int part) {

@@ -14,7 +14,7 @@ namespace orbelle::widgets {
 namespace {
 
 constexpr int kThumbSize = 16;
-constexpr int kMargin = 8;
+constexpr int kMargin = kSpace;
 constexpr QSize kPopupSize(kMargin + kTrackTravel + kThumbSize + kMargin,
                            kMargin + kThumbSize + kMargin);
 
@@ -24,7 +24,7 @@ SliderTrack::SliderTrack(QWidget* parent) : QWidget(parent, Qt::Popup) {
     // A press beside the open track only closes it: not also what lies below, which may be the
     // button that would open it again.
     setAttribute(Qt::WA_NoMouseReplay);
-    setFixedSize(kPopupSize);
+    resize(kPopupSize);
 }
 
 void SliderTrack::SetPlace(double place) {
@@ -32,9 +32,14 @@ void SliderTrack::SetPlace(double place) {
     update();
 }
 
+int SliderTrack::Travel() const {
+    return qMax(width() - 2 * kMargin - kThumbSize, 1);
+}
+
 void SliderTrack::OpenAt(const QWidget& control) {
+    resize(control.width(), height());
     const QRect room = control.screen()->availableGeometry();
-    QPoint corner = control.mapToGlobal(QPoint(control.width() - width(), control.height()));
+    QPoint corner = control.mapToGlobal(QPoint(0, control.height()));
     if (corner.y() + height() > room.bottom())
         corner.ry() -= control.height() + height();
     corner.rx() = qMax(corner.x(), room.left());
@@ -43,7 +48,7 @@ void SliderTrack::OpenAt(const QWidget& control) {
 }
 
 QRectF SliderTrack::ThumbRect() const {
-    return {kMargin + place_, kMargin, kThumbSize, kThumbSize};
+    return {kMargin + place_ * Travel() / kTrackTravel, kMargin, kThumbSize, kThumbSize};
 }
 
 void SliderTrack::paintEvent(QPaintEvent*) {
@@ -75,7 +80,8 @@ void SliderTrack::mouseMoveEvent(QMouseEvent* event) {
     if (!(event->buttons() & Qt::LeftButton))
         EndDrag();
     if (dragging_)
-        emit Dragged(event->position().x() - kMargin);
+        emit Dragged((event->position().x() - kMargin - kThumbSize / 2) * kTrackTravel / Travel() +
+                     kThumbSize / 2);
 }
 
 void SliderTrack::mouseReleaseEvent(QMouseEvent* event) {

@@ -11,17 +11,18 @@ class SliderTrack : public QWidget {
 public:
     explicit SliderTrack(QWidget* parent);
 
-    // The left edge of the thumb, in pixels from the track's beginning.
+    // The left edge of the thumb, from the track's beginning, in units of the scale
+    // (slider_scale.h): pixels where the pop-up has its own width.
     double Place() const { return place_; }
     void SetPlace(double place);
-    // Shows it below the control, or above where the screen ends.
+    // Shows it below the control and as wide, or above where the screen ends.
     void OpenAt(const QWidget& control);
 
     // In the coordinates of the pop-up.
     QRectF ThumbRect() const;
 
 signals:
-    // A drag of the thumb; `x` is the pointer's, from the track's beginning.
+    // A drag of the thumb; `x` is the pointer's, from the track's beginning, in the same units.
     void Pressed();
     void Dragged(double x);
     void Released();
@@ -39,6 +40,7 @@ protected:
 
 private:
     void EndDrag();
+    int Travel() const;  // of the thumb, pixels
 
     double place_ = 0;
     bool dragging_ = false;

@@ -144,6 +144,26 @@ TEST_F(ViewCommands, TheWheelZoomsAtThePointer) {
     EXPECT_FALSE(editor.View.HorizontalScroll.Visible);
 }
 
+TEST_F(ViewCommands, AnyZoomKeepsTheMiddleOfTheScene) {
+    Do(ZoomAboutMiddle, 3.0);
+    EXPECT_EQ(editor.View.Zoom, 1) << "no document";
+    Page(100, 100);
+    Do(ResizeScene, 100, 100);
+    Do(OriginalSize);
+    Do(ZoomAboutMiddle, 3.0);
+    EXPECT_FALSE(OriginalSizeButton().Pressed);
+    EXPECT_EQ(editor.View.HorizontalScroll.Value, 100);
+    Do(ScrollHorizontally, 40);
+    // The middle lies at page pixel (50 + 40) / 3 = 30 across: (50 - 150) / -400 = a quarter.
+    Do(ZoomAboutMiddle, 5.0);
+    EXPECT_EQ(editor.View.HorizontalScroll.Value, 100);
+    EXPECT_EQ(editor.View.VerticalScroll.Value, 200);
+    for (const auto& [wanted, zoom] : {std::pair(0.25, 0.25), {40, 20}, {0.05, 0.2}}) {
+        Do(ZoomAboutMiddle, wanted);
+        EXPECT_EQ(editor.View.Zoom, zoom);
+    }
+}
+
 TEST_F(ViewCommands, FitWholeTakesTheLargestWholeStepThatShowsThePage) {
     const struct {
         int Width, Height;

@@ -4,9 +4,11 @@
 
 #include <QCursor>
 #include <QElapsedTimer>
+#include <QLineEdit>
 
 #include "app/waiting.h"
 #include "support/hands.h"
+#include "widgets/theme.h"
 
 namespace orbelle::widgets {
 namespace {
@@ -19,13 +21,12 @@ using BarButtons = std::vector<BarButton>;
 const BarButton kPlain;
 const BarButton kLatching{.Latches = true};
 const BarButton kSeparator{.IsSeparator = true};
-const QColor kBackground(245, 246, 247);
-const QColor kAccent(58, 150, 255);
+const QColor kBackground = CurrentTheme().Ground;
 
 // A shown bar and the numbers of the clicks that it raised.
 struct ShownBar {
     explicit ShownBar(const BarButtons& buttons, Qt::Orientation direction = Qt::Horizontal)
-        : Bar({.Direction = direction, .Buttons = buttons}),
+        : Bar({.Metrics = {.Direction = direction}, .Buttons = buttons}),
           Count(static_cast<int>(buttons.size())) {
         QObject::connect(&Bar, &ButtonBar::Clicked, [this](int n) { Clicks.push_back(n); });
         Bar.resize(Bar.sizeHint());
@@ -43,7 +44,8 @@ struct ShownBar {
         const QImage image = Bar.grab().toImage();
         for (int button = 1; button <= Count; ++button)
             if (const QRect place = Bar.ButtonRect(button);
-                !place.isEmpty() && image.pixelColor(place.left(), place.center().y()) == kAccent)
+                !place.isEmpty() &&
+                image.pixelColor(place.left() - 2, place.center().y()) == CurrentTheme().Accent)
                 return button;
         return 0;
     }
@@ -54,31 +56,42 @@ struct ShownBar {
 };
 
 TEST(ButtonBarLayoutTest, PlacesButtonsAlongTheBar) {
-    const auto layOut = [](Qt::Orientation direction, int iconSize, const BarButtons& buttons) {
-        return LayOutButtonBar(
-            buttons, direction, iconSize, iconSize + 10,
-            [](const QString& text) { return 10 * static_cast<int>(text.size()); });
+    const auto layOut = [](const ButtonBarMetrics& metrics, const QSize& size,
+                           const BarButtons& buttons) {
+        return LayOutButtonBar(buttons, metrics, size, [](const QString& text) {
+            return 10 * static_cast<int>(text.size());
+        });
     };
-    const BarButton arrow{.HasArrow = true}, caption{.Caption = "New"};
-    const auto plain = layOut(Qt::Horizontal, 16, {kPlain, kPlain, kSeparator, kPlain});
-    EXPECT_THAT(plain.Places, ElementsAre(QRect(8, 0, 25, 25), QRect(35, 0, 25, 25), QRect(),
-                                          QRect(78, 0, 25, 25)));
-    EXPECT_THAT(plain.SeparatorLines, ElementsAre(0, 0, 75, 0));
-    EXPECT_EQ(plain.Length, 112);
-    const auto captions = layOut(Qt::Horizontal, 32, {caption, arrow, kPlain});
-    EXPECT_THAT(captions.Places,
-                ElementsAre(QRect(8, 0, 80, 41), QRect(90, 0, 47, 41), QRect(141, 0, 41, 41)));
-    EXPECT_EQ(captions.Length, 191);
-    const auto vertical = layOut(Qt::Vertical, 16, {caption, arrow, kSeparator, kPlain});
-    EXPECT_THAT(vertical.Places, ElementsAre(QRect(0, 8, 25, 23), QRect(0, 32, 25, 23), QRect(),
-                                             QRect(0, 72, 25, 23)));
-    EXPECT_THAT(vertical.SeparatorLines, ElementsAre(0, 0, 69, 0));
-    EXPECT_EQ(vertical.Length, 104);
+    const BarButton caption{.Caption = "New"}, spring{.IsSpring = true}, withRoom{.RoomBeside = 80};
+    // The line has as much room on either side.
+    const auto plain = layOut({}, {0, 32}, {kPlain, kPlain, kSeparator, kPlain});
+    EXPECT_THAT(plain.Places, ElementsAre(QRect(4, 4, 24, 24), QRect(30, 4, 24, 24), QRect(),
+                                          QRect(63, 4, 24, 24)));
+    EXPECT_EQ(plain.Lines[2], QRect(58, 4, 1, 24));
+    EXPECT_EQ(plain.Length, 91);
+
+    // The picture's middle, half of it, 4, the words, 8.
+    const ButtonBarMetrics wide = {.FaceSize = {28, 28}, .Margin = 6, .Gap = 6};
+    EXPECT_EQ(layOut(wide, {0, 40}, {caption}).Places[0], QRect(6, 6, 64, 28));
+
+    // What is left stands before the last button; none in a bar that is too short.
+    for (const int length : {300, 10}) {
+        const auto spread = layOut(wide, {length, 40}, {kPlain, withRoom, spring, kPlain});
+        EXPECT_EQ(spread.Length, 188);
+        EXPECT_EQ(spread.Places[1], QRect(40, 6, 28, 28));
+        EXPECT_EQ(spread.Places[3], QRect(length == 300 ? 266 : 154, 6, 28, 28));
+    }
+
+    const auto vertical = layOut({.Direction = Qt::Vertical, .FaceSize = {30, 24}}, {38, 0},
+                                 {caption, kSeparator, kPlain});
+    EXPECT_THAT(vertical.Places, ElementsAre(QRect(4, 4, 30, 24), QRect(), QRect(4, 37, 30, 24)));
+    EXPECT_EQ(vertical.Lines[1], QRect(4, 32, 30, 1));
+    EXPECT_EQ(vertical.Length, 65);
 }
 
 TEST(ButtonBarLayoutTest, HitsTheButtonUnderThePointer) {
     const ButtonBarLayout layout = {
-        .Places = {{8, 0, 25, 25}, {}, {51, 0, 25, 25}}, .SeparatorLines = {}, .Length = 0};
+        .Places = {{8, 0, 25, 25}, {}, {51, 0, 25, 25}}, .Lines = {}, .Length = 0};
     const std::pair<QPoint, int> cases[] = {{{7, 0}, -1},  {{8, 0}, 0},  {{32, 24}, 0},
                                             {{33, 9}, -1}, {{0, 0}, -1}, {{51, 9}, 2},
                                             {{8, 25}, -1}};
@@ -148,17 +161,19 @@ TEST(ButtonBarTest, HoverEndsWithoutAMoveOutside) {
     EXPECT_TRUE(WaitUntil([&] { return shown.Face(1) == kBackground; }, 5));
 }
 
-TEST(ButtonBarTest, DrawsTheSeparatorLines) {
-    ButtonBar bar({.Buttons = {kSeparator}});
-    bar.resize(40, 26);
-    const QImage image = bar.grab().toImage();
-    // Two lines at 20 and 21, from 2 to 22.
-    const std::pair<QPoint, QColor> pixels[] = {
-        {{20, 2}, {220, 220, 220}}, {{20, 21}, {220, 220, 220}}, {{21, 2}, {253, 253, 253}},
-        {{20, 1}, kBackground},     {{20, 22}, kBackground},     {{19, 10}, kBackground},
-        {{22, 10}, kBackground}};
-    for (const auto& [place, color] : pixels)
-        EXPECT_EQ(image.pixelColor(place), color) << place.x() << ", " << place.y();
+// A command of the menu gives the focus back to whatever had it, and an empty window to the first.
+TEST(ButtonBarTest, ShowsTheFocusOnlyWhereTheKeyboardBroughtIt) {
+    const std::pair<Qt::FocusReason, int> cases[] = {{Qt::TabFocusReason, 1},
+                                                     {Qt::BacktabFocusReason, 1},
+                                                     {Qt::ShortcutFocusReason, 1},
+                                                     {Qt::OtherFocusReason, 0},
+                                                     {Qt::ActiveWindowFocusReason, 0}};
+    for (const auto& [reason, ring] : cases) {
+        ShownBar shown({kPlain});
+        QFocusEvent focus(QEvent::FocusIn, reason);
+        QApplication::sendEvent(&shown.Bar, &focus);
+        EXPECT_EQ(shown.Ring(), ring) << reason;
+    }
 }
 
 TEST(ButtonBarTest, KeysWalkOverEnabledButtonsAndPress) {
@@ -189,18 +204,24 @@ TEST(ButtonBarTest, KeysWalkOverEnabledButtonsAndPress) {
 
 TEST(ButtonBarTest, AssistiveToolsReachTheButtons) {
     ShownBar shown({{.Caption = "New"}, kSeparator, {.Caption = "U", .ToolTip = "Undo"}});
+    auto* field = new QLineEdit;
+    shown.Bar.PutBeside(1, *field);
+    shown.Bar.SetChoice(1, {}, "Solid");
     shown.Bar.SetButtonEnabled(3, false);
     shown.Bar.SetPressed(3, true);
     QAccessibleInterface* bar = QAccessible::queryAccessibleInterface(&shown.Bar);
     ASSERT_NE(bar, nullptr);
     EXPECT_EQ(bar->role(), QAccessible::ToolBar);
-    ASSERT_EQ(bar->childCount(), 2);
+    ASSERT_EQ(bar->childCount(), 3);
+    EXPECT_EQ(bar->child(2), QAccessible::queryAccessibleInterface(field));
+    EXPECT_EQ(bar->indexOfChild(bar->child(2)), 2);
     QAccessibleInterface* first = bar->child(0);
     QAccessibleInterface* undo = bar->child(1);
-    EXPECT_EQ(bar->child(2), nullptr);
+    EXPECT_EQ(bar->child(3), nullptr);
     EXPECT_EQ(bar->indexOfChild(undo), 1);
     EXPECT_EQ(bar->childAt(undo->rect().center().x(), undo->rect().center().y()), undo);
     EXPECT_EQ(first->text(QAccessible::Name), "New");
+    EXPECT_EQ(first->text(QAccessible::Value), "Solid");
     EXPECT_EQ(undo->text(QAccessible::Name), "Undo");
     EXPECT_TRUE(undo->state().disabled && undo->state().pressed);
     EXPECT_FALSE(first->state().disabled || first->state().pressed);

@@ -237,7 +237,8 @@ TEST_F(NumberSliderTest, TellsNothingMoreWhenItIsDestroyedInADrag) {
 
 TEST_F(NumberSliderTest, TheTrackOpensAndOnlyItsThumbIsDragged) {
     EXPECT_FALSE(track_.isVisible());
-    Click(slider_, open_);
+    slider_.resize(132, 24);
+    Click(slider_, {123, 12});
     ASSERT_TRUE(track_.isVisible());
     const double trackStart = track_.ThumbRect().left() - 13;
     const auto at = [&](double x) { return QPointF(trackStart + x, OnThumb().y()); };
@@ -254,6 +255,23 @@ TEST_F(NumberSliderTest, TheTrackOpensAndOnlyItsThumbIsDragged) {
     Release(track_, at(-20));
     DragTo(track_, at(40));
     EXPECT_EQ(gestures_.Told(), "pressed 102 255 0 released");
+}
+
+TEST_F(NumberSliderTest, TheTrackIsAsWideAsItsField) {
+    for (const int width : {92, 132, 300}) {
+        track_.hide();
+        slider_.resize(width, 24);
+        slider_.SetValue(51);
+        Click(slider_, {width - 9.0, 12});
+        EXPECT_EQ(track_.width(), width);
+        Press(track_, OnThumb());
+        DragTo(track_, {OnThumb().x() - 1, OnThumb().y()});
+        EXPECT_NEAR(slider_.Value(), 51, 5) << "the thumb stays below the pointer";
+        DragTo(track_, {width - 9.0, OnThumb().y()});
+        EXPECT_EQ(slider_.Value(), 255);
+        EXPECT_LE(track_.ThumbRect().right(), width - 8);
+        Release(track_, OnThumb());
+    }
 }
 
 TEST_F(NumberSliderTest, KeysStepOnTheOpenTrack) {
