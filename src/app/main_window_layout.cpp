@@ -25,7 +25,7 @@
 namespace orbelle::app {
 namespace {
 
-constexpr int kRightPanelWidth = 248;
+constexpr int kRightPanelWidth = 264;
 constexpr int kWheelStep = 120;  // of a wheel's notch
 
 }  // namespace
@@ -51,7 +51,7 @@ void MainWindow::AddPanels() {
     sceneAndSizes->setLayout(sceneColumn);
     middle->addWidget(sceneAndSizes, 1);
     rightPanel_ = new RightPanel(*this, *bars_->LayerBar);
-    connect(rightPanel_, &RightPanel::LayerPicked, this, &MainWindow::FocusScene);
+    connect(rightPanel_, &RightPanel::KeysFree, this, &MainWindow::FocusScene);
     auto* scroller = new QScrollArea;
     scroller->setObjectName("RightScroller");
     scroller->setWidget(rightPanel_);

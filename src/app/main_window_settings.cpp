@@ -82,7 +82,7 @@ void MainWindow::StoreSettings() const {
     settings.setValue(kTips, TipsEnabled() ? 1 : 0);
     settings.setValue(kPixelGridOff, scene_->IsPixelGridShown() ? 0 : 1);
     for (const RightPanel::Header& header : rightPanel_->Headers())
-        settings.setValue(header.StoredAs, flag(!header.Title->IsClosed()));
+        settings.setValue(header.StoredAs, flag(header.IsOpen));
     settings.setValue(kBrushOpacity, editor_.Sliders.BrushOpacity.Value);
     settings.setValue(kBrushSize, editor_.Sliders.BrushSize.Value);
     for (std::size_t i = 0; i < 2; ++i)

@@ -2,13 +2,18 @@
 
 #include <QGridLayout>
 #include <QLabel>
+#include <QResizeEvent>
+#include <QStyle>
 #include <QVBoxLayout>
+#include <algorithm>
 #include <cstdio>
+#include <optional>
 
 #include "app/shared_image.h"
 #include "editing/adjust_sliders.h"
 #include "editing/give_up.h"
 #include "editing/layer_commands.h"
+#include "widgets/theme.h"
 
 namespace orbelle::app {
 namespace {
@@ -18,11 +23,12 @@ using editing::Editor;
 using editing::Sliders;
 using widgets::TrackSlider;
 
-constexpr int kMargin = 12;
+constexpr int kMargin = widgets::kWideSpace;
 constexpr int kCaptionWidth = 70;
-constexpr int kValueWidth = 32;
 constexpr char kFilterCaption[] = "No filters are used, click Style menu to choose a filter.";
 constexpr int kMinLayerList = 84;
+constexpr QSize kRoomy(800, 560);  // a window below it has room for one panel
+constexpr int kColorful = 40;      // of 255, the least saturation that has a hue
 
 // One drag of a slider as the three parts of a command.
 template <typename Press, typename Change, typename Release>
@@ -40,6 +46,28 @@ void ConnectDrag(CommandRunner& commands, TrackSlider& slider, editing::Slider S
                      [&commands, release] { commands.RunDuringDrag(release); });
     QObject::connect(&slider, &TrackSlider::GivenUp, &slider,
                      [&commands] { commands.RunDuringDrag(editing::CancelDrag); });
+}
+
+// Of what is seen, weighed by its alpha; a sample of larger pictures.
+std::optional<QColor> MeanColor(const graphics::Bitmap& picture) {
+    constexpr int kSamples = 48;  // a side
+    const int stepX = std::max(picture.Width() / kSamples, 1);
+    const int stepY = std::max(picture.Height() / kSamples, 1);
+    long long red = 0, green = 0, blue = 0, weight = 0;
+    for (int y = stepY / 2; y < picture.Height(); y += stepY) {
+        const graphics::Argb* row = picture.Row(y);
+        for (int x = stepX / 2; x < picture.Width(); x += stepX) {
+            const long long alpha = graphics::AlphaOf(row[x]);
+            red += alpha * graphics::RedOf(row[x]);
+            green += alpha * graphics::GreenOf(row[x]);
+            blue += alpha * graphics::BlueOf(row[x]);
+            weight += alpha;
+        }
+    }
+    if (weight == 0)
+        return std::nullopt;
+    const auto channel = [weight](long long sum) { return static_cast<int>(sum / weight); };
+    return QColor(channel(red), channel(green), channel(blue));
 }
 
 // ".50", as layers are labelled.
@@ -72,6 +100,7 @@ RightPanel::RightPanel(CommandRunner& commands, QWidget& layerBar) : commands_(c
             [kind](Editor& editor) { ReleaseAdjustment(editor, kind); });
     };
     addAdjustment("Hue", &Sliders::Hue, Adjustment::Hue);
+    SliderOf(&Sliders::Hue).SetGroove(TrackSlider::Groove::Hues);
     addAdjustment("Saturation", &Sliders::Saturation, Adjustment::Saturation);
     addAdjustment("Brightness", &Sliders::Brightness, Adjustment::Brightness);
     addAdjustment("Contrast", &Sliders::Contrast, Adjustment::Contrast);
@@ -100,7 +129,7 @@ RightPanel::RightPanel(CommandRunner& commands, QWidget& layerBar) : commands_(c
         const int index = layers_->SelectedIndex();
         commands_.Run([index](Editor& editor) { SelectLayer(editor, index); });
     });
-    connect(layers_, &widgets::LayerList::Picked, this, &RightPanel::LayerPicked);
+    connect(layers_, &widgets::LayerList::Picked, this, &RightPanel::KeysFree);
 }
 
 QWidget* RightPanel::AddSection(const char* name, const char* storedAs, const char* title) {
@@ -108,20 +137,89 @@ QWidget* RightPanel::AddSection(const char* name, const char* storedAs, const ch
     header->setObjectName(name);
     auto* content = new QWidget;
     auto* rows = new QGridLayout(content);
-    rows->setContentsMargins(kMargin, 6, kMargin, 8);
-    rows->setHorizontalSpacing(8);
-    rows->setVerticalSpacing(4);
+    rows->setContentsMargins(kMargin, widgets::kTightSpace, kMargin, widgets::kSpace);
+    rows->setHorizontalSpacing(widgets::kSpace);
+    rows->setVerticalSpacing(0);
     layout()->addWidget(header);
     layout()->addWidget(content);
     headers_.push_back({storedAs, header, content});
-    connect(header, &widgets::PanelHeader::Clicked, content,
-            [content](bool IsClosed) { content->setVisible(!IsClosed); });
+    const std::size_t index = headers_.size() - 1;
+    connect(header, &widgets::PanelHeader::Clicked, this,
+            [this, index](bool isClosed) { SetOpen(headers_[index], !isClosed); });
     return content;
 }
 
 void RightPanel::SetOpen(const Header& header, bool open) {
-    header.Title->SetClosed(!open);
-    header.Content->setVisible(open);
+    const auto found = std::ranges::find(headers_, header.Title, &Header::Title);
+    found->IsOpen = open;
+    if (open)
+        last_ = found->Title;
+    else if (last_ == found->Title)
+        last_ = nullptr;
+    ShowPanels();
+}
+
+void RightPanel::ShowPanels() {
+    for (const Header& header : headers_) {
+        const bool open = header.IsOpen && (!isCramped_ || header.Title == last_);
+        header.Title->SetClosed(!open);
+        header.Content->setVisible(open);
+    }
+}
+
+// What had to close for want of room opens again with it.
+void RightPanel::FollowWindow() {
+    const QSize size = window()->size();
+    const bool isCramped = size.width() < kRoomy.width() || size.height() < kRoomy.height();
+    if (isCramped == isCramped_)
+        return;
+    isCramped_ = isCramped;
+    const auto firstOpen = std::ranges::find_if(headers_, &Header::IsOpen);
+    if (!last_ && firstOpen != headers_.end())
+        last_ = firstOpen->Title;
+    ShowPanels();
+}
+
+void RightPanel::showEvent(QShowEvent* event) {
+    window()->installEventFilter(this);
+    FollowWindow();
+    QWidget::showEvent(event);
+}
+
+bool RightPanel::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == window() && event->type() == QEvent::Resize)
+        FollowWindow();
+    return QWidget::eventFilter(watched, event);
+}
+
+// The rows end at one place whether the scroll bar is there or not.
+void RightPanel::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    const int gutter = style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+    const bool isScrolled = event->size().width() < parentWidget()->parentWidget()->width();
+    for (const Header& header : headers_) {
+        if (header.Content->layout()->contentsMargins().left() > 0)
+            header.Content->layout()->setContentsMargins(
+                kMargin, widgets::kTightSpace, widgets::kSpace + (isScrolled ? 0 : gutter),
+                widgets::kSpace);
+    }
+}
+
+TrackSlider& RightPanel::SliderOf(editing::Slider Sliders::*state) const {
+    return *std::ranges::find(adjusters_, state, &Adjuster::State)->Slider;
+}
+
+// The tracks of opacity and saturation lead to the colour of what they change.
+void RightPanel::ShowColors(const document::Page& page) {
+    QColor mean = widgets::CurrentTheme().Accent;
+    if (page.HasSelection())
+        mean = MeanColor(page.Selected().Image).value_or(mean);
+    SliderOf(&Sliders::Opacity).SetGroove(TrackSlider::Groove::Opacity, mean);
+    const bool isColorful = mean.hsvSaturation() >= kColorful;
+    SliderOf(&Sliders::Saturation)
+        .SetGroove(TrackSlider::Groove::Saturation,
+                   QColor::fromHsv((isColorful ? mean : widgets::CurrentTheme().Accent).hsvHue(),
+                                   220, 220));
 }
 
 TrackSlider* RightPanel::AddSlider(QWidget& section, const char* caption,
@@ -130,14 +228,19 @@ TrackSlider* RightPanel::AddSlider(QWidget& section, const char* caption,
     const editing::Slider range = Sliders().*state;
     slider->setRange(range.Minimum, range.Maximum);
     slider->setAccessibleName(caption);
+    slider->SetNeutral(range.Neutral);
     auto* text = new QLabel(caption);
     text->setFixedWidth(kCaptionWidth);
-    auto* value = new QLabel;
+    // An adjustment counts from where it changes nothing.
+    const bool isPercent = state == &Sliders::Opacity;
+    auto* value = isPercent ? new widgets::ValueField(*slider, 0, "%")
+                            : new widgets::ValueField(*slider, range.Neutral);
     value->setObjectName(QString(caption) + "Value");
-    value->setFixedWidth(kValueWidth);
-    value->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    value->setAccessibleName(QString(caption) + " value");
+    connect(value, &widgets::ValueField::Finished, this, &RightPanel::KeysFree);
     auto* rows = static_cast<QGridLayout*>(section.layout());
     const int row = rows->rowCount();
+    rows->setRowMinimumHeight(row, widgets::kControlHeight);
     rows->addWidget(text, row, 0);
     rows->addWidget(slider, row, 1);
     rows->addWidget(value, row, 2);
@@ -150,14 +253,16 @@ void RightPanel::ShowStates(const Sliders& sliders) {
         const editing::Slider& state = sliders.*adjuster.State;
         adjuster.Slider->setEnabled(state.Enabled);
         adjuster.Slider->SetValue(state.Value);
-        adjuster.Value->setText(adjuster.Slider == opacity_ ? QString::number(state.Value) + "%"
-                                                            : QString::number(state.Label));
+        adjuster.Value->setEnabled(state.Enabled);
+        adjuster.Value->Show(adjuster.Slider == opacity_ ? state.Value : state.Label);
     }
 }
 
 void RightPanel::EndRuns() {
-    for (const Adjuster& adjuster : adjusters_)
+    for (const Adjuster& adjuster : adjusters_) {
+        adjuster.Value->CommitTyping();
         adjuster.Slider->EndRun();
+    }
 }
 
 void RightPanel::ShowLayers(const Editor& editor) {
@@ -169,6 +274,7 @@ void RightPanel::ShowLayers(const Editor& editor) {
              OpacityText(layer.Opacity), layer.Visible});
     layers_->SetRows(std::move(rows));
     layers_->SetSelectedIndex(editor.Page().SelectedLayer);
+    ShowColors(editor.Page());
 }
 
 }  // namespace orbelle::app

@@ -9,8 +9,7 @@
 #include "widgets/layer_list.h"
 #include "widgets/panel_header.h"
 #include "widgets/track_slider.h"
-
-class QLabel;
+#include "widgets/value_field.h"
 
 namespace orbelle::app {
 
@@ -22,7 +21,8 @@ public:
     RightPanel(CommandRunner& commands, QWidget& layerBar);
 
     void ShowStates(const editing::Sliders& sliders);
-    // Another command follows: what keys and wheel do to the sliders ends.
+    // Another command follows: what keys and wheel do to the sliders ends, a number that is being
+    // typed counts.
     void EndRuns();
     // The layer list anew.
     void ShowLayers(const editing::Editor& editor);
@@ -34,26 +34,40 @@ public:
         const char* StoredAs;  // the setting that holds whether it is open
         widgets::PanelHeader* Title;
         QWidget* Content;
+        bool IsOpen = true;  // so the user wants it, where there is room
     };
     const std::vector<Header>& Headers() const { return headers_; }
     void SetOpen(const Header& header, bool open);
 
 signals:
-    void LayerPicked();  // by the mouse, in the list
+    // A layer was picked by the mouse, a number typed: the keys may go elsewhere.
+    void KeysFree();
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void showEvent(QShowEvent* event) override;
 
 private:
+    void FollowWindow();
+    void ShowPanels();
+    void ShowColors(const document::Page& page);
+
     struct Adjuster {
         widgets::TrackSlider* Slider;
-        QLabel* Value;
+        widgets::ValueField* Value;
         editing::Slider editing::Sliders::*State;
     };
 
+    widgets::TrackSlider& SliderOf(editing::Slider editing::Sliders::*state) const;
     QWidget* AddSection(const char* name, const char* storedAs, const char* title);
     widgets::TrackSlider* AddSlider(QWidget& section, const char* caption,
                                     editing::Slider editing::Sliders::*state);
 
     CommandRunner& commands_;
     std::vector<Header> headers_;
+    bool isCramped_ = false;         // the window is so small that one panel at a time is open
+    const QWidget* last_ = nullptr;  // the header that was opened last
     std::vector<Adjuster> adjusters_;
     widgets::TrackSlider* opacity_ = nullptr;
     widgets::LayerList* layers_ = nullptr;

@@ -26,6 +26,7 @@ using widgets::StripGround;
 // So much of the room that it shares with the scene the panel takes for larger pictures than those
 // that are always shown.
 constexpr int kShareOfHeight = 3;
+constexpr int kHeaderRoom = 20;
 // A larger page is not followed during a drag: copying it for the thread would hold up the hand.
 constexpr std::int64_t kMaxLivePixels = std::int64_t{4} << 20;
 constexpr int kToolSize = 12;
@@ -207,7 +208,7 @@ void SizesPanel::Follow(const editing::Changes& changes) {
 
 std::vector<int> SizesPanel::FittingSizes() const {
     const editing::Editor& editor = context_.Commands.Editor();
-    const int height = parentWidget()->height() / kShareOfHeight - header_->height();
+    const int height = parentWidget()->height() / kShareOfHeight - kHeaderRoom;
     return editing::SizesThatFit(StripSizes(editor), editor.Document.EditedSize,
                                  strip_->LargestSizeWithin(height), strip_->RoomIn(width()),
                                  [this](int size) { return strip_->CellWidth(size); });

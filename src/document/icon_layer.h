@@ -1,6 +1,10 @@
 // One image layer of the page, an icon object.
 #pragma once
 
+#include <cstddef>
+#include <string>
+#include <string_view>
+
 #include "graphics/bitmap.h"
 #include "graphics/geometry.h"
 #include "graphics/path.h"
@@ -35,7 +39,16 @@ struct IconLayer {
     bool Visible = true;
     graphics::Path Path;         // outline of a plate; null until a style makes one
     bool ClipNextLayer = false;  // the layer above is cut to this one's plate when composed
+
+    std::string Name;  // that the user gave it, UTF-8; empty: it goes by its place
 };
+
+// The longest name of a layer, bytes.
+inline constexpr std::size_t kMaxLayerName = 200;
+
+// The name as a layer may have it: one line of UTF-8 without blanks around it, cut to what fits.
+// What is no UTF-8, and what does not show, is left out.
+std::string CleanLayerName(std::string_view name);
 
 // Where a picture with this place is drawn: every number cut toward zero, as far as 1e9 either way;
 // not-a-number gives 0. A document may hold any number.

@@ -18,6 +18,7 @@ IconLayer& OpenLayerSlot(Page& page, SlotCopySize size) {
     const auto selected = page.Layers.begin() + page.SelectedLayer;
     page.Layers.insert(selected + 1, *selected);
     ++page.SelectedLayer;
+    page.Selected().Name.clear();
     for (int i = page.SelectedLayer; i < page.LayerCount(); ++i) {
         IconLayer& layer = page.Layers[static_cast<std::size_t>(i)];
         const bool fromRect = size == SlotCopySize::Rect;

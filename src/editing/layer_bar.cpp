@@ -5,6 +5,18 @@
 #include "editing/stack_commands.h"
 
 namespace orbelle::editing {
+namespace {
+
+// No undo step (docs/oddities.md, "Without undo").
+void HideOrShowLayer(Editor& editor, int index) {
+    if (index < 0 || index >= editor.Page().LayerCount())
+        return;
+    document::IconLayer& layer = editor.Page().Layers[static_cast<std::size_t>(index)];
+    layer.Visible = !layer.Visible;
+    NoteStack(editor.Changed);
+}
+
+}  // namespace
 
 void PressAddLayer(Editor& editor) {
     EndSelection(editor);
@@ -19,11 +31,13 @@ void PressRemoveLayer(Editor& editor) {
 
 void PressHideLayer(Editor& editor) {
     EndSelection(editor);
-    if (!editor.Page().HasSelection())
-        return;
-    document::IconLayer& layer = editor.Page().Selected();
-    layer.Visible = !layer.Visible;
-    NoteStack(editor.Changed);
+    HideOrShowLayer(editor, editor.Page().SelectedLayer);
+}
+
+void PressEye(Editor& editor, int layer) {
+    if (layer == editor.Page().SelectedLayer)
+        EndSelection(editor);
+    HideOrShowLayer(editor, layer);
 }
 
 void PressMergeDown(Editor& editor) {

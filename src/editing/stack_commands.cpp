@@ -4,6 +4,7 @@
 #include <cmath>
 #include <utility>
 
+#include "editing/layer_commands.h"
 #include "editing/slider_positions.h"
 #include "editing/undo_step.h"
 #include "filters/create_region.h"
@@ -53,10 +54,10 @@ steps::Name StepOf(LayerOrder order) {
     return steps::ToBack;
 }
 
-void MoveLayer(document::Page& page, LayerOrder order) {
+// The selected one.
+void MoveLayer(document::Page& page, int to) {
     const auto first = page.Layers.begin();
     const int from = page.SelectedLayer;
-    const int to = PlaceAfter(order, from, page.LayerCount() - 1);
     if (to > from)
         std::rotate(first + from, first + from + 1, first + to + 1);
     else
@@ -142,6 +143,8 @@ IconLayer Merged(const IconLayer& upper, const IconLayer& lower) {
     const RectF bounds = boxes.Bounds();
 
     IconLayer merged = lower;
+    if (merged.Name.empty())
+        merged.Name = upper.Name;
     merged.Rect = bounds;
     merged.BaseRect = bounds;
     merged.ImageWidth = graphics::RoundToEven(bounds.Width);
@@ -177,8 +180,46 @@ void SetLayerOrder(Editor& editor, LayerOrder order) {
     if (!editor.Page().HasSelection() || editor.Page().LayerCount() == 1)
         return;
     BeginUndoStep(editor, StepOf(order));
-    MoveLayer(editor.Page(), order);
+    document::Page& page = editor.Page();
+    MoveLayer(page, PlaceAfter(order, page.SelectedLayer, page.LayerCount() - 1));
     ShowStack(editor);
+}
+
+bool CanMoveLayer(const document::Page& page, int layer) {
+    if (layer < 0 || layer >= page.LayerCount())
+        return false;
+    const IconLayer& moved = page.Layers[static_cast<std::size_t>(layer)];
+    return moved.Visible && !moved.ClipNextLayer;
+}
+
+void MoveLayerTo(Editor& editor, int layer, int to) {
+    document::Page& page = editor.Page();
+    if (!CanMoveLayer(page, layer) || to < 0 || to >= page.LayerCount())
+        return;
+    if (to == layer)
+        return SelectLayer(editor, layer);
+    BeginUndoStep(editor, steps::SetOrder);
+    page.SelectedLayer = layer;
+    MoveLayer(page, to);
+    ShowStack(editor);
+}
+
+std::string NameOfLayer(const document::Page& page, int layer) {
+    const std::string& name = page.Layers[static_cast<std::size_t>(layer)].Name;
+    return name.empty() ? "Icon " + std::to_string(layer + 1) : name;
+}
+
+void RenameLayer(Editor& editor, int layer, const std::string& name) {
+    document::Page& page = editor.Page();
+    if (layer < 0 || layer >= page.LayerCount())
+        return;
+    const std::string clean = document::CleanLayerName(name);
+    IconLayer& renamed = page.Layers[static_cast<std::size_t>(layer)];
+    if (clean == renamed.Name || clean == NameOfLayer(page, layer))
+        return;
+    BeginUndoStep(editor, steps::RenameLayer);
+    renamed.Name = clean;
+    editor.Changed.Stack = true;
 }
 
 void FlipRotateLayer(Editor& editor, FlipRotate mode) {

@@ -43,6 +43,7 @@ void FinishOverlay(const OverlayLayers& layers) {
 UnderlayLayers OpenUnderlay(Editor& editor, steps::Name step) {
     const OverlayLayers room = OpenOverlay(editor, step, OverlayUndo::OneStep);
     room.New = room.Source;
+    room.Source.Name.clear();
     --editor.Page().SelectedLayer;
     return {room.Source, room.New};
 }

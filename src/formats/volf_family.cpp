@@ -55,10 +55,10 @@ document::SizePage ReadSize(const ByteSource& content, std::uint64_t& place,
 
 }  // namespace
 
-std::vector<document::SizePage> ReadFamily(const ByteSource& file, std::uint64_t place,
-                                           PixelAllowance& allowance) {
+FamilyRead ReadFamily(const ByteSource& file, std::uint64_t place, PixelAllowance& allowance) {
     const PartOfSource content = FindContent(file, place);
-    std::vector<document::SizePage> sizes;
+    FamilyRead read;
+    std::vector<document::SizePage>& sizes = read.Sizes;
     std::uint64_t at = sizeof(std::int32_t);
     const auto count = content.NumberAt<std::int32_t>(0);
     while (static_cast<std::int64_t>(sizes.size()) < count) {
@@ -66,7 +66,8 @@ std::vector<document::SizePage> ReadFamily(const ByteSource& file, std::uint64_t
         if (sizes.size() > 1 && sizes[sizes.size() - 2].Size >= sizes.back().Size)
             throw Error("its sizes are not in order");
     }
-    return sizes;
+    read.Names = ReadNames(content, at);
+    return read;
 }
 
 }  // namespace orbelle::formats

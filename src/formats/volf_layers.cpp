@@ -117,10 +117,12 @@ LayersRead LayerReader::Read(std::int32_t count) {
     ForEachInParallel(records.size(), [&](std::size_t i) { DecodePicture(records[i]); });
     const std::vector<std::string> end = std::exchange(read.Problems, {});
     for (std::size_t i = 0; i < records.size(); ++i) {
-        if (records[i].Problem.empty())
-            page_.Layers.push_back(std::move(records[i].Layer));
-        else
+        if (!records[i].Problem.empty()) {
             AddProblem(read, i, records[i].Problem);
+            continue;
+        }
+        page_.Layers.push_back(std::move(records[i].Layer));
+        read.Places.push_back(static_cast<int>(i));
     }
     read.Problems.insert(read.Problems.end(), end.begin(), end.end());
     return read;

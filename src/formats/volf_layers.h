@@ -26,6 +26,7 @@ struct LayersRead {
     std::uint64_t End = 0;              // in the file, behind the last layer that was read
     bool IsComplete = true;             // as many records as there should be
     std::vector<std::string> Problems;  // "layer N: " and what is wrong with it
+    std::vector<int> Places;            // of the page's layers among those in the file
 };
 
 // Reads `count` layers from `place` on to the page, which has its size already. A layer whose

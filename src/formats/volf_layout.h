@@ -23,4 +23,7 @@ inline constexpr std::size_t kFamilyHeadBytes = 22;   // magic, version, length,
 inline constexpr std::size_t kFamilyLengthAt = 14;    // of the content
 inline constexpr std::size_t kFamilyChecksumAt = 18;  // CRC-32 of the content
 
+// The names of layers, behind the last size in that content.
+inline constexpr std::string_view kNamesMagic = "OrbelleNames";
+
 }  // namespace orbelle::formats

@@ -29,6 +29,7 @@ public:
 private:
     void ReadHeader();
     std::string DamageOfLayers(const LayersRead& read) const;
+    void NameLayers(std::vector<LayerName>& names, const std::vector<int>& places);
 
     const ByteSource& file_;
     std::int32_t count_ = 0;  // of layers, as the header says
@@ -46,13 +47,33 @@ LoadedDocument Reader::Read() {
     // Nobody knows where it begins behind layers that could not be read.
     if (read.IsComplete) {
         try {
-            document_.Sizes = ReadFamily(file_, read.End, allowance_);
+            FamilyRead family = ReadFamily(file_, read.End, allowance_);
+            document_.Sizes = std::move(family.Sizes);
+            NameLayers(family.Names, read.Places);
         } catch (const Error& error) {
             damage += std::string(damage.empty() ? "" : "; ") +
                       "the artwork of single sizes could not be read: " + error.what();
         }
     }
     return {std::move(document_), damage};
+}
+
+// `places` are those of the master's layers in the file. Names of layers that are not there go.
+void Reader::NameLayers(std::vector<LayerName>& names, const std::vector<int>& places) {
+    for (LayerName& name : names) {
+        const auto place = std::ranges::lower_bound(places, name.Layer);
+        if (name.Size == document::Family::kMaster) {
+            if (place != places.end() && *place == name.Layer)
+                document_.Master.Layers[static_cast<std::size_t>(place - places.begin())].Name =
+                    std::move(name.Name);
+            continue;
+        }
+        const auto page = std::ranges::find(document_.Sizes, name.Size, &document::SizePage::Size);
+        if (page == document_.Sizes.end() || name.Layer < 0 ||
+            name.Layer >= page->Artwork.LayerCount())
+            continue;
+        page->Artwork.Layers[static_cast<std::size_t>(name.Layer)].Name = std::move(name.Name);
+    }
 }
 
 std::string Reader::DamageOfLayers(const LayersRead& read) const {

@@ -6,6 +6,7 @@
 #include "formats/document_limits.h"
 #include "formats/parallel.h"
 #include "formats/volf_layout.h"
+#include "formats/volf_names.h"
 #include "graphics/checksum.h"
 #include "graphics/codecs/image_files.h"
 #include "graphics/errors.h"
@@ -56,7 +57,8 @@ void AppendLayers(DocumentFrame& frame, const document::Page& page) {
 }
 
 // Length and checksum come when it is filled.
-void AppendFamily(DocumentFrame& frame, const Document& document) {
+void AppendFamily(DocumentFrame& frame, const Document& document,
+                  const std::vector<LayerName>& names) {
     std::vector<std::uint8_t>& file = frame.Bytes;
     file.insert(file.end(), kFamilyMagic.begin(), kFamilyMagic.end());
     Append<std::uint16_t>(file, kFamilyVersion);
@@ -67,6 +69,7 @@ void AppendFamily(DocumentFrame& frame, const Document& document) {
         Append<std::int32_t>(file, page.Size);
         AppendLayers(frame, page.Artwork);
     }
+    AppendNames(file, names);
 }
 
 // Where the family begins in a frame; its end where there is none.
@@ -117,8 +120,9 @@ DocumentFrame EncodeFrame(const Document& document) {
     Append<std::int32_t>(file, document.Master.Height);
     Append<graphics::Argb>(file, document.Background);
     AppendLayers(frame, document.Master);
-    if (!document.Sizes.empty())
-        AppendFamily(frame, document);
+    const std::vector<LayerName> names = NamesOf(document);
+    if (!document.Sizes.empty() || !names.empty())
+        AppendFamily(frame, document, names);
     return frame;
 }
 

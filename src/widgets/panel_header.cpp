@@ -10,9 +10,7 @@ namespace orbelle::widgets {
 
 namespace {
 
-constexpr int kHeight = 24;
-constexpr int kMargin = 8;
-constexpr int kChevronRoom = 24;
+constexpr int kChevronRoom = 28;  // at the left
 
 }  // namespace
 
@@ -20,8 +18,10 @@ PanelHeader::PanelHeader(const QString& title, QWidget* parent) : QAbstractButto
     setText(title);
     setCheckable(true);
     setChecked(true);
-    setFont(ChromeFont(8.25));
-    setFixedHeight(kHeight);
+    QFont font = ChromeFont(kNormalText);
+    font.setWeight(QFont::DemiBold);
+    setFont(font);
+    setFixedHeight(kHeaderHeight);
     setAttribute(Qt::WA_Hover);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     // A click leaves the keyboard with the picture that is being edited.
@@ -39,14 +39,14 @@ void PanelHeader::SetClosed(bool closed) {
 
 void PanelHeader::SetTools(QWidget& tools) {
     auto* row = new QHBoxLayout(this);
-    row->setContentsMargins(0, 0, kChevronRoom, 1);
+    row->setContentsMargins(0, 0, kSpace, 0);
     row->addStretch();
     row->addWidget(&tools);
     connect(this, &QAbstractButton::toggled, &tools, &QWidget::setVisible);
 }
 
 QSize PanelHeader::sizeHint() const {
-    return {kMargin + fontMetrics().horizontalAdvance(text()) + kChevronRoom, kHeight};
+    return {kChevronRoom + fontMetrics().horizontalAdvance(text()) + kSpace, kHeaderHeight};
 }
 
 void PanelHeader::keyPressEvent(QKeyEvent* event) {
@@ -58,17 +58,17 @@ void PanelHeader::keyPressEvent(QKeyEvent* event) {
 
 void PanelHeader::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    painter.fillRect(rect(), CurrentTheme().Ground);
-    painter.fillRect(0, height() - 1, width(), 1, HairlineColor());
-    painter.setPen(isEnabled() ? CurrentTheme().Text : CurrentTheme().Line);
-    const QRect room = rect().adjusted(kMargin, 0, -kChevronRoom, -1);
+    painter.fillRect(rect(), BandColor());
+    painter.fillRect(0, 0, width(), 1, HairlineColor());
+    painter.setPen(isEnabled() ? CurrentTheme().Text : DisabledColor());
+    const QRect room = rect().adjusted(kChevronRoom, 0, -kSpace, 0);
     painter.drawText(room, Qt::AlignVCenter | Qt::AlignLeft,
                      fontMetrics().elidedText(text(), Qt::ElideRight, room.width()));
 
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QPen(underMouse() ? CurrentTheme().Accent : painter.pen().color(), 1.5));
     painter.save();
-    painter.translate(width() - kChevronRoom / 2, (height() - 1) / 2.0);
+    painter.translate(kChevronRoom / 2, height() / 2.0);
     if (IsClosed())
         painter.rotate(-90);
     DrawChevron(painter, {0, 0});

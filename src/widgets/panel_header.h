@@ -5,7 +5,8 @@
 
 namespace orbelle::widgets {
 
-// Open at first. To assistive tools it is a button that is checked while its panel is open.
+// A quiet band with a chevron at its left. Open at first. To assistive tools it is a button that is
+// checked while its panel is open.
 class PanelHeader : public QAbstractButton {
     Q_OBJECT
 
@@ -15,7 +16,7 @@ public:
     bool IsClosed() const;
     void SetClosed(bool closed);  // does not raise Clicked
 
-    // Stand beside the chevron while the panel is open.
+    // Stand at the right while the panel is open.
     void SetTools(QWidget& tools);
 
     QSize sizeHint() const override;

@@ -58,7 +58,7 @@ void SliderTrack::paintEvent(QPaintEvent*) {
 
     painter.setRenderHint(QPainter::Antialiasing);
     const QRectF thumb = ThumbRect();
-    DrawGroove(painter, kMargin, width() - kMargin, height(), thumb.center().x() - kMargin);
+    DrawGroove(painter, kMargin, width() - kMargin, height(), kMargin, thumb.center().x());
     painter.setBrush(CurrentTheme().Field);
     painter.setPen(QPen(dragging_ ? CurrentTheme().Accent : CurrentTheme().Line, 1));
     painter.drawEllipse(thumb.adjusted(0.5, 0.5, -0.5, -0.5));

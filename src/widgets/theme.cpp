@@ -87,6 +87,11 @@ void DrawChecker(QPainter& painter, const QRect& place, const QColor& color) {
             painter.fillRect(QRect(place.x() + x, place.y() + y, kCell, kCell) & place, color);
 }
 
+void DrawGreyChecks(QPainter& painter, const QRect& place) {
+    painter.fillRect(place, QColor(172, 175, 180));
+    DrawChecker(painter, place, QColor(148, 151, 156));
+}
+
 void DrawChevron(QPainter& painter, const QPointF& middle) {
     const QPointF chevron[] = {middle + QPointF(-4, -2), middle + QPointF(0, 2),
                                middle + QPointF(4, -2)};
@@ -104,13 +109,14 @@ void DrawFace(QPainter& painter, const QRectF& place, bool isDown) {
     painter.restore();
 }
 
-void DrawGroove(QPainter& painter, int left, int right, int height, double filled) {
+void DrawGroove(QPainter& painter, int left, int right, int height, double litFrom, double litTo) {
     constexpr int kThickness = 4;
     QRectF groove(left, (height - kThickness) / 2, right - left, kThickness);
     painter.setPen(Qt::NoPen);
     painter.setBrush(HairlineColor());
     painter.drawRoundedRect(groove, kThickness / 2, kThickness / 2);
-    groove.setWidth(filled);
+    groove.setLeft(litFrom);
+    groove.setRight(litTo);
     painter.setBrush(CurrentTheme().Accent);
     painter.drawRoundedRect(groove, kThickness / 2, kThickness / 2);
 }

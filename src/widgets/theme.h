@@ -56,14 +56,17 @@ QFont ChromeFont(double points);
 // Squares of 5 x 5 pixels, every other one, the first in the top left corner.
 void DrawChecker(QPainter& painter, const QRect& place, const QColor& color);
 
+// Mid-grey checks below a picture: white and black, gloss and shadow show on them.
+void DrawGreyChecks(QPainter& painter, const QRect& place);
+
 // A mark that points down, 8 x 4 pixels, in the painter's pen.
 void DrawChevron(QPainter& painter, const QPointF& middle);
 
 // The face of a button below the pointer, or of one that is down.
 void DrawFace(QPainter& painter, const QRectF& place, bool isDown);
 
-// The line that a slider's thumb runs along, between `left` and `right` with `filled` of it lit;
-// all in pixels, centred in `height`.
-void DrawGroove(QPainter& painter, int left, int right, int height, double filled);
+// The line that a slider's thumb runs along, between `left` and `right`, lit from `litFrom` to
+// `litTo`; all in pixels, centred in `height`.
+void DrawGroove(QPainter& painter, int left, int right, int height, double litFrom, double litTo);
 
 }  // namespace orbelle::widgets

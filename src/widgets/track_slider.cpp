@@ -1,8 +1,10 @@
 #include "widgets/track_slider.h"
 
+#include <QApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QPainterPath>
 #include <QWheelEvent>
 #include <algorithm>
 #include <climits>
@@ -22,6 +24,8 @@ constexpr QSize kThumbSize(10, 16);
 constexpr int kDragStop = 5;
 constexpr int kWheelNotch = 120;
 constexpr int kPauseMilliseconds = 1000;  // ends a run
+constexpr int kTickReach = 7;             // above and below the middle
+constexpr int kPaintedThickness = 6;
 
 }  // namespace
 
@@ -43,6 +47,17 @@ void TrackSlider::SetValue(int value) {
         PlaceThumb();
 }
 
+void TrackSlider::SetNeutral(int value) {
+    neutral_ = value;
+    update();
+}
+
+void TrackSlider::SetGroove(Groove groove, const QColor& color) {
+    groove_ = groove;
+    color_ = color;
+    update();
+}
+
 int TrackSlider::TrackWidth() const {
     return qMax(width() - kThumbSize.width(), 0);
 }
@@ -51,8 +66,13 @@ QRect TrackSlider::ThumbRect() const {
     return {QPoint(thumbLeft_, (height() - kThumbSize.height()) / 2), kThumbSize};
 }
 
+double TrackSlider::PlaceOf(int value) const {
+    return kThumbSize.width() / 2.0 +
+           (maximum() > 0 ? double(TrackWidth()) * value / maximum() : 0);
+}
+
 void TrackSlider::PlaceThumb() {
-    const double left = maximum() > 0 ? double(TrackWidth()) * value() / maximum() : 0;
+    const double left = PlaceOf(value()) - kThumbSize.width() / 2.0;
     thumbLeft_ = qBound(0, static_cast<int>(std::nearbyint(left)), TrackWidth());
     update();
 }
@@ -76,17 +96,39 @@ void TrackSlider::DragThumb(int left, int direction) {
         emit Changed(value());
 }
 
+void TrackSlider::BeginDrag() {
+    EndDrag();
+    EndRun();
+    dragging_ = true;
+    moved_ = false;
+    valueBefore_ = value();
+    emit Pressed();
+}
+
+void TrackSlider::Drag(int value) {
+    if (!dragging_)
+        return;
+    const int before = this->value();
+    setValue(value);
+    if (this->value() != before)
+        emit Changed(this->value());
+}
+
+void TrackSlider::TakeValue(int value) {
+    if (std::clamp(value, minimum(), maximum()) == this->value())
+        return;
+    BeginDrag();
+    Drag(value);
+    EndDrag();
+}
+
 void TrackSlider::mousePressEvent(QMouseEvent* event) {
     if (event->button() != Qt::LeftButton) {
         event->ignore();
         return;
     }
-    EndDrag();
-    EndRun();
     const QPoint place = event->position().toPoint();
-    dragging_ = true;
-    valueBefore_ = value();
-    emit Pressed();
+    BeginDrag();
     if (!ThumbRect().contains(place))
         DragThumb(place.x() - kThumbSize.width() / 2, place.x() < thumbLeft_ ? -1 : 1);
     downX_ = place.x();
@@ -102,6 +144,7 @@ void TrackSlider::mouseMoveEvent(QMouseEvent* event) {
         EndDrag();
     if (dragging_) {
         const int moved = place.x() - downX_;
+        moved_ = moved_ || moved != 0;
         DragThumb(downLeft_ + moved, moved);
     } else if (ThumbRect().contains(place) != isOverThumb_) {
         isOverThumb_ = !isOverThumb_;
@@ -110,8 +153,29 @@ void TrackSlider::mouseMoveEvent(QMouseEvent* event) {
 }
 
 void TrackSlider::mouseReleaseEvent(QMouseEvent* event) {
-    if (event->button() == Qt::LeftButton)
-        EndDrag();
+    if (event->button() != Qt::LeftButton)
+        return;
+    if (!dragging_ || moved_ || neutral_ < 0)
+        return EndDrag();
+    // The first half of a double click, perhaps.
+    dragging_ = isOverThumb_ = false;
+    running_ = true;
+    pause_.start(QApplication::doubleClickInterval(), this);
+    PlaceThumb();
+}
+
+void TrackSlider::mouseDoubleClickEvent(QMouseEvent* event) {
+    if (event->button() != Qt::LeftButton || neutral_ < 0)
+        return mousePressEvent(event);
+    if (running_) {
+        running_ = false;
+        pause_.stop();
+        dragging_ = true;
+    } else {
+        BeginDrag();
+    }
+    Drag(neutral_);
+    EndDrag();
 }
 
 void TrackSlider::EndDrag() {
@@ -252,12 +316,59 @@ void TrackSlider::sliderChange(SliderChange change) {
     PlaceThumb();
 }
 
+void TrackSlider::PaintGroove(QPainter& painter) const {
+    const int left = kThumbSize.width() / 2, right = left + TrackWidth();
+    const bool restsWithin = neutral_ > minimum() && neutral_ < maximum();
+    const double rest = std::nearbyint(PlaceOf(neutral_));
+    if (restsWithin)
+        painter.fillRect(QRectF(rest - 0.5, height() / 2.0 - kTickReach, 1, 2 * kTickReach),
+                         isEnabled() ? CurrentTheme().Line : HairlineColor());
+    const double thumb = QRectF(ThumbRect()).center().x();
+    const double from = restsWithin ? rest : left;
+    const double lit = isEnabled() ? thumb : from;
+    if (groove_ == Groove::Lit || !isEnabled())
+        return DrawGroove(painter, left, right, height(), std::min(from, lit), std::max(from, lit));
+
+    const QRectF place(left, (height() - kPaintedThickness) / 2, right - left, kPaintedThickness);
+    QLinearGradient colors(place.topLeft(), place.topRight());
+    switch (groove_) {
+        case Groove::Hues:
+            for (int i = 0; i <= 6; ++i)
+                colors.setColorAt(i / 6.0, QColor::fromHsv(i % 6 * 60, 200, 235));
+            break;
+        case Groove::Saturation: {
+            const int grey = qGray(color_.rgb());
+            colors.setColorAt(0, QColor(grey, grey, grey));
+            colors.setColorAt(1, color_);
+            break;
+        }
+        case Groove::Opacity:
+        case Groove::Lit: {
+            QColor clear = color_;
+            clear.setAlpha(0);
+            colors.setColorAt(0, clear);
+            colors.setColorAt(1, color_);
+            break;
+        }
+    }
+    QPainterPath shape;
+    shape.addRoundedRect(place, kPaintedThickness / 2, kPaintedThickness / 2);
+    painter.save();
+    painter.setClipPath(shape);
+    if (groove_ == Groove::Opacity)
+        DrawGreyChecks(painter, place.toRect());
+    painter.fillRect(place, colors);
+    painter.restore();
+    painter.setBrush(Qt::NoBrush);
+    painter.setPen(QPen(CurrentTheme().Line, 1));
+    painter.drawPath(shape);
+}
+
 void TrackSlider::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     const QRect thumb = ThumbRect();
-    const int inset = kThumbSize.width() / 2;
-    DrawGroove(painter, inset, inset + TrackWidth(), height(), isEnabled() ? thumb.left() : 0);
+    PaintGroove(painter);
     const bool isLit = isEnabled() && (dragging_ || isOverThumb_ || hasFocus());
     painter.setBrush(isEnabled() ? CurrentTheme().Field : CurrentTheme().Ground);
     painter.setPen(QPen(isLit         ? CurrentTheme().Accent

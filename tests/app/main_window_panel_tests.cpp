@@ -1,7 +1,6 @@
 // The panels: the layer list, sliders, number fields and colour wells.
 #include "main_window_fixture.h"
 
-#include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QWheelEvent>
@@ -14,6 +13,7 @@
 #include "widgets/layer_list.h"
 #include "widgets/number_slider.h"
 #include "widgets/track_slider.h"
+#include "widgets/value_field.h"
 
 namespace orbelle::app {
 namespace {
@@ -57,7 +57,7 @@ TEST_F(MainWindowTest, ARunOfTheWheelIsOneDragFromOneSnapshot) {
     const auto color = [&] { return *Page().Selected().Image.GetPixel(1, 1); };
     slider.setFocus();
     turn({120, 120, 120});
-    EXPECT_EQ(Part<QLabel>("BrightnessValue").text(), "3");
+    EXPECT_EQ(Part<widgets::ValueField>("BrightnessValue").text(), "3");
     EXPECT_NE(color(), 0xFFF08010);
     turn({-120, -120, -120});
     EXPECT_EQ(color(), 0xFFF08010);
@@ -183,14 +183,14 @@ TEST_F(MainWindowTest, SlidersOfTheRightPanelAreLabelled) {
         {"Contrast", "0", Qt::Key_Right, "1"},    {"Scale", "0", Qt::Key_Left, "-1"},
     };
     for (const auto& [name, neutral, key, stepped] : cases) {
-        const auto& label = Part<QLabel>(name + "Value");
+        const auto& label = Part<widgets::ValueField>(name + "Value");
         EXPECT_EQ(label.text(), neutral) << name;
         Strike(Part<widgets::TrackSlider>(name), key);
         EXPECT_EQ(label.text(), stepped) << name;
         EXPECT_TRUE(window.Editor().History.UndoIndex() > 0) << name;
     }
     window.Run(editing::Undo);
-    EXPECT_EQ(Part<QLabel>("ContrastValue").text(), "0");
+    EXPECT_EQ(Part<widgets::ValueField>("ContrastValue").text(), "0");
 }
 
 TEST_F(MainWindowTest, ColourWellsTakeTurns) {

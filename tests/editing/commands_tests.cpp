@@ -5,6 +5,7 @@
 #include "editing/layer_bar.h"
 #include "editing/layer_commands.h"
 #include "editing/page_commands.h"
+#include "editing/selection_commands.h"
 #include "editing/stack_commands.h"
 #include "editing/style_commands.h"
 #include "editing/tips.h"
@@ -177,6 +178,86 @@ TEST_F(Commands, OrderOfOneLayerIsNoStepAndOneWithoutRoomIsOne) {
     EXPECT_EQ(Steps(), 3);
     OpenPage(8, 8);
     Do(SetLayerOrder, LayerOrder::ToFront);
+    EXPECT_EQ(Steps(), 0);
+}
+
+// By the names of the layers, from the bottom; the selected one with a star.
+TEST_F(Commands, AHandTakesLayersToOtherPlaces) {
+    OpenPage(8, 8);
+    editor.Page().Layers.clear();
+    for (const char* name : {"a", "b", "c", "d"})
+        PutLayer(testing::FilledPicture(2, 2, kBlue), 0, 0).Name = name;
+    const auto stack = [&] {
+        std::string names;
+        for (int i = 0; i < editor.Page().LayerCount(); ++i)
+            names += Layer(i).Name + (i == editor.Page().SelectedLayer ? "*" : "");
+        return names;
+    };
+    const std::tuple<int, int, int, const char*> cases[] = {
+        {0, 2, 1, "bca*d"}, {3, 1, 2, "bd*ca"},  {2, 2, 2, "bdc*a"}, {0, 4, 2, "bdc*a"},
+        {4, 0, 2, "bdc*a"}, {0, -1, 2, "bdc*a"}, {0, 3, 3, "dcab*"},
+    };
+    for (const auto& [from, to, steps, after] : cases) {
+        Do(MoveLayerTo, from, to);
+        EXPECT_EQ(stack(), after);
+        EXPECT_EQ(Steps(), steps);
+    }
+    EXPECT_EQ(editor.History.UndoName(), "Set Order");
+    Do(Undo);
+    EXPECT_EQ(stack(), "bdc*a");
+    Layer(0).Visible = false;
+    Layer(1).ClipNextLayer = true;
+    for (const int fixed : {0, 1})
+        Do(MoveLayerTo, fixed, 3);
+    EXPECT_EQ(stack(), "bdc*a") << "as for Set Order";
+}
+
+TEST_F(Commands, LayersHaveNamesOfTheirOwn) {
+    OpenPage(8, 8);
+    PutLayer(testing::FilledPicture(2, 2, kBlue), 0, 0);
+    Do(RenameLayer, 1, " Icon 2 ");
+    Do(RenameLayer, 2, "Sky");
+    EXPECT_EQ(Steps(), 0) << "it is called so already, and there is no third";
+    Do(RenameLayer, 1, " Sky\n");
+    EXPECT_EQ(NameOfLayer(editor.Page(), 1), "Sky");
+    EXPECT_EQ(editor.History.UndoName(), "Rename Layer");
+    EXPECT_TRUE(editor.Document.Modified);
+    Do(RenameLayer, 1, "Sky");
+    EXPECT_EQ(Steps(), 1);
+
+    Do(CopyToClipboard);
+    Do(PasteFromClipboard);
+    EXPECT_EQ(NameOfLayer(editor.Page(), 2), "Sky") << "a copy of it";
+    Do(PressAddLayer);
+    EXPECT_EQ(NameOfLayer(editor.Page(), 3), "Icon 4");
+    Do(SelectLayer, 1);
+    Do(DropShadow);
+    EXPECT_EQ(NameOfLayer(editor.Page(), 1), "Icon 2") << "the shadow";
+    EXPECT_EQ(NameOfLayer(editor.Page(), 2), "Sky");
+    Do(RenameLayer, 2, "");
+    EXPECT_EQ(NameOfLayer(editor.Page(), 2), "Icon 3");
+    Do(Undo);
+    EXPECT_EQ(NameOfLayer(editor.Page(), 2), "Sky");
+    Do(SelectLayer, 2);
+    Do(MergeDown);
+    EXPECT_EQ(NameOfLayer(editor.Page(), 1), "Sky") << "its shadow has none";
+    Do(RenameLayer, 0, "Ground");
+    Do(MergeDown);
+    EXPECT_EQ(NameOfLayer(editor.Page(), 0), "Ground");
+}
+
+TEST_F(Commands, AnEyeHidesItsLayerAndLeavesTheSelectedOne) {
+    OpenPage(8, 8);
+    PutLayer(testing::FilledPicture(2, 2, kBlue), 0, 0);
+    Do(SelectAll);
+    Do(PressEye, 0);
+    EXPECT_FALSE(Layer(0).Visible);
+    EXPECT_EQ(editor.Page().SelectedLayer, 1);
+    EXPECT_TRUE(editor.Selection.Exists());
+    Do(PressEye, 1);
+    Do(PressEye, 2);
+    EXPECT_FALSE(Layer(1).Visible);
+    EXPECT_FALSE(editor.Selection.Exists());
     EXPECT_EQ(Steps(), 0);
 }
 

@@ -139,6 +139,95 @@ TEST(VolfFamily, DamageCostsTheSizesButNotTheMaster) {
     EXPECT_TRUE(Decode(file).Document.Sizes.empty());
 }
 
+Document Named() {
+    Document document = TwoSizes();
+    document.Master.Layers[0].Name = "Ground";
+    document.Sizes[0].Artwork.Layers[1].Name = "Gr\xC3\xBC\xC3\x9F";
+    return document;
+}
+
+std::string NameIn(const document::Page& page, std::size_t layer) {
+    return page.Layers.at(layer).Name;
+}
+
+TEST(VolfFamily, NamesOfLayersStandBehindTheSizesByteForByte) {
+    Document document = MasterOnly();
+    const std::size_t master = EncodeDocument(document).size();
+    document.Master.Layers[0].Name = "Sky";
+    const Bytes file = EncodeDocument(document);
+    const Bytes content = {0,   0,   0,   0,   'O', 'r', 'b', 'e', 'l', 'l', 'e', 'N',  //
+                           'a', 'm', 'e', 's', 1,   0,   0,   0,   0,   0,   0,   0,
+                           0,   0,   0,   0,   3,   0,   0,   0,   'S', 'k', 'y'};
+    EXPECT_THAT(Bytes(file.begin() + static_cast<std::ptrdiff_t>(master + kCountAt), file.end()),
+                ElementsAreArray(content));
+    EXPECT_EQ(NameIn(Decode(file).Document.Master, 0), "Sky");
+    const LoadedDocument read = Decode(EncodeDocument(Named()));
+    EXPECT_EQ(read.Damage, "");
+    EXPECT_EQ(NameIn(read.Document.Master, 0), "Ground");
+    EXPECT_EQ(NameIn(read.Document.Sizes[0].Artwork, 0), "");
+    EXPECT_EQ(NameIn(read.Document.Sizes[0].Artwork, 1), "Gr\xC3\xBC\xC3\x9F");
+}
+
+// A layer that is left out takes its name along; what is no name costs no more than itself.
+TEST(VolfFamily, NamesThatAreWrongCostNothingElse) {
+    Document document = MasterOnly();
+    document.Master.Layers.resize(3, document.Master.Layers[0]);
+    for (const auto& [layer, name] : {std::pair(0, "a"), {1, "b"}, {2, "c"}})
+        document.Master.Layers[static_cast<std::size_t>(layer)].Name = name;
+    const Bytes good = EncodeDocument(document);
+    document.Master.Layers.resize(1);
+    document.Master.Layers[0].Name.clear();
+    const std::size_t layerBytes = EncodeDocument(document).size() - 34;
+    Bytes file = good;
+    file[34 + layerBytes + 76 + 40] ^= 0xFF;  // in the second picture
+    LoadedDocument read = Decode(file);
+    ASSERT_EQ(read.Document.Master.LayerCount(), 2) << read.Damage;
+    EXPECT_EQ(NameIn(read.Document.Master, 0), "a");
+    EXPECT_EQ(NameIn(read.Document.Master, 1), "c");
+
+    const std::size_t family = 34 + 3 * layerBytes, first = kCountAt + 4 + 16;
+    const std::tuple<std::size_t, std::int32_t, const char*> cases[] = {
+        {first - 4, INT32_MAX, "abc"}, {first - 4, 2, "ab"},
+        {first - 4, -1, ""},           {first, 16, "bc"},
+        {first + 4, -1, "bc"},         {first + 4, 3, "bc"},
+        {first + 8, 201, ""},          {first + 8, 0, ""},
+        {first + 8, INT32_MIN, ""},    {kCountAt + 4, 0, ""}};
+    for (const auto& [offset, value, names] : cases) {
+        file = good;
+        Put(file, family + offset, value);
+        Seal(file, family);
+        read = Decode(file);
+        EXPECT_EQ(read.Damage, "");
+        std::string told;
+        for (const document::IconLayer& layer : read.Document.Master.Layers)
+            told += layer.Name;
+        EXPECT_EQ(told, names) << offset << ": " << value;
+    }
+    for (std::size_t cut = family + first; cut < good.size(); ++cut) {
+        file.assign(good.begin(), good.begin() + static_cast<std::ptrdiff_t>(cut));
+        Seal(file, family);
+        EXPECT_EQ(Decode(file).Document.Master.LayerCount(), 3);
+    }
+}
+
+TEST(VolfFamily, ANameIsOneLineOfText) {
+    const std::string longest(document::kMaxLayerName, 'x');
+    const std::pair<std::string, std::string> cases[] = {
+        {"  Sky \t", "Sky"},
+        {"a\r\nb\x7F", "ab"},
+        {"\xC3\xBC\xE2\x82\xAC\xF0\x9F\x98\x80", "\xC3\xBC\xE2\x82\xAC\xF0\x9F\x98\x80"},
+        {"a\xFF\xC3", "a"},
+        {"\xC0\x80\xED\xA0\x80z", "z"},
+        {"\xE2\x80\xAE"
+         "evil",
+         "evil"},
+        {longest + "yz", longest},
+        {longest.substr(1) + "\xC3\xBC", longest.substr(1)},
+        {"   ", ""}};
+    for (const auto& [name, clean] : cases)
+        EXPECT_EQ(document::CleanLayerName(name), clean);
+}
+
 // A document of the most pixels has no room for a size.
 TEST(VolfFamily, ItsPixelsCountWithTheMasters) {
     Document document = MasterOnly();

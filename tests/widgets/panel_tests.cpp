@@ -10,6 +10,7 @@
 #include "widgets/layer_list.h"
 #include "widgets/number_slider.h"
 #include "widgets/panel_header.h"
+#include "widgets/theme.h"
 #include "widgets/track_slider.h"
 
 namespace orbelle::widgets {
@@ -22,7 +23,7 @@ int AccentPixels(QWidget& widget) {
     int count = 0;
     for (int y = 0; y < picture.height(); ++y)
         for (int x = 0; x < picture.width(); ++x)
-            count += picture.pixelColor(x, y) == QColor(58, 150, 255);
+            count += picture.pixelColor(x, y) == CurrentTheme().Accent;
     return count;
 }
 
@@ -52,9 +53,10 @@ TEST(PanelHeaderTest, TurnsAtAClickAndAtSpaceAndReturnAndShowsIt) {
     Click(header, {20, 12});
     EXPECT_TRUE(header.IsClosed());
     const QImage closed = header.grab().toImage();
-    const QRect chevron(176, 0, 24, 24);
+    const QRect chevron(0, 0, 28, kHeaderHeight);
+    const QRect rest(28, 0, 172, kHeaderHeight);
     EXPECT_NE(open.copy(chevron), closed.copy(chevron));
-    EXPECT_EQ(open.copy(0, 0, 176, 24), closed.copy(0, 0, 176, 24));
+    EXPECT_EQ(open.copy(rest), closed.copy(rest));
     const QAccessibleInterface* button = QAccessible::queryAccessibleInterface(&header);
     ASSERT_TRUE(button);
     EXPECT_EQ(button->text(QAccessible::Name), "Icon Opacity");

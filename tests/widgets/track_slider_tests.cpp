@@ -7,6 +7,7 @@
 #include <QWheelEvent>
 
 #include "support/hands.h"
+#include "widgets/value_field.h"
 
 namespace orbelle::widgets {
 namespace {
@@ -96,6 +97,95 @@ TEST_F(TrackSliderTest, APressBesideTheThumbTakesItThere) {
     EXPECT_EQ(gestures_.Told(), "pressed 100 48 released");
     Click(slider_, At(1));
     EXPECT_EQ(gestures_.Told(), "pressed 0 released");
+}
+
+// The first click changes the value, so both together have to be one drag.
+TEST_F(TrackSliderTest, ADoubleClickOnTheTrackIsOneDragToTheRest) {
+    slider_.SetNeutral(40);
+    const auto doubleClick = [&](double x) {
+        Click(slider_, At(x));
+        SendMouse(slider_, QEvent::MouseButtonDblClick, At(x), Qt::LeftButton, Qt::LeftButton);
+        Release(slider_, At(x));
+    };
+    doubleClick(145);
+    EXPECT_EQ(gestures_.Told(), "pressed 70 40 released");
+    doubleClick(85);
+    EXPECT_EQ(gestures_.Told(), "pressed released") << "it rests already";
+    Click(slider_, At(145));
+    EXPECT_EQ(gestures_.Told(), "pressed 70");
+    slider_.EndRun();
+    EXPECT_EQ(gestures_.Told(), "released") << "before another command";
+    Click(slider_, At(45));
+    Strike(slider_, Qt::Key_Escape);
+    EXPECT_EQ(gestures_.Told(), "pressed 20 70 given-up");
+    Press(slider_, At(145));
+    DragTo(slider_, At(155));
+    Release(slider_, At(155));
+    EXPECT_EQ(gestures_.Told(), "pressed 75 released") << "nobody double-clicks so";
+}
+
+// "" is what the slider tells of what changes nothing.
+TEST_F(TrackSliderTest, TheNumberBesideItIsTyped) {
+    ValueField field(slider_, 50);
+    field.show();
+    field.activateWindow();
+    QApplication::processEvents();
+    QObject::connect(&slider_, &TrackSlider::Changed, &field,
+                     [&](int value) { field.Show(value - 50); });
+    field.Show(0);
+    const auto type = [&](const char* text) {
+        field.setFocus();
+        field.selectAll();
+        for (const char* letter = text; *letter; ++letter)
+            Strike(field, Qt::Key_unknown, QString(*letter));
+    };
+    const std::tuple<const char*, Qt::Key, const char*, const char*> cases[] = {
+        {"7", Qt::Key_Return, "pressed 57 released", "7"},
+        {"-12", Qt::Key_Return, "pressed 38 released", "-12"},
+        {"999", Qt::Key_Return, "pressed 100 released", "50"},
+        {"20", Qt::Key_Escape, "", "50"},
+        {"50", Qt::Key_Return, "", "50"},
+        {"-", Qt::Key_Return, "", "50"},
+        {"b0", Qt::Key_Return, "pressed 50 released", "0"},
+        {"3", Qt::Key_Tab, "pressed 53 released", "3"}};
+    for (const auto& [text, key, told, shown] : cases) {
+        type(text);
+        EXPECT_EQ(gestures_.Told(), "") << "not letter by letter: " << text;
+        field.Show(slider_.value() - 50);
+        if (key == Qt::Key_Tab)
+            field.clearFocus();
+        else
+            Strike(field, key, "\r");
+        EXPECT_EQ(gestures_.Told(), told) << text;
+        EXPECT_EQ(field.text(), shown) << text;
+    }
+    Strike(field, Qt::Key_Up);
+    EXPECT_EQ(gestures_.Told(), "pressed 54");
+}
+
+TEST_F(TrackSliderTest, TheNumberBesideItIsDragged) {
+    ValueField field(slider_, 0, "%");
+    field.show();
+    field.activateWindow();
+    QApplication::processEvents();
+    field.Show(50);
+    EXPECT_EQ(field.text(), "50%");
+    Press(field, {20, 10});
+    for (const int x : {21, 40, 300, 25})
+        DragTo(field, {double(x), 10});
+    Release(field, {25, 10});
+    EXPECT_EQ(gestures_.Told(), "pressed 70 100 55 released");
+    EXPECT_FALSE(field.hasFocus());
+    Press(field, {20, 10});
+    DragTo(field, {10, 10});
+    Strike(slider_, Qt::Key_Escape);
+    DragTo(field, {0, 10});
+    Release(field, {0, 10});
+    EXPECT_EQ(gestures_.Told(), "pressed 45 55 given-up");
+    Click(field, {20, 10});
+    EXPECT_TRUE(field.hasFocus());
+    EXPECT_EQ(field.selectedText(), "50%") << "to be typed over";
+    EXPECT_EQ(gestures_.Told(), "");
 }
 
 TEST_F(TrackSliderTest, KeysThatFollowEachOtherAreOneGesture) {
