@@ -92,7 +92,8 @@ void SizesPanel::AddTools() {
                      tool("dark", "On dark"),
                      tool("desktop", "On a desktop and its task bar"),
                      {.IsSeparator = true},
-                     tool("double", "Double: each pixel as a square of four")}});
+                     tool("double", "Double: each pixel as a square of four")},
+         .OnBand = true});
     tools_->setObjectName("SizesTools");
     tools_->setAccessibleName("What the sizes lie on");
     header_->SetTools(*tools_);

@@ -24,6 +24,7 @@ ButtonBar::ButtonBar(const ButtonBarSetup& setup, QWidget* parent)
     : QWidget(parent),
       metrics_(setup.Metrics),
       hasFrame_(setup.HasFrame),
+      onBand_(setup.OnBand),
       buttons_(setup.Buttons),
       states_(setup.Buttons.size()),
       beside_(setup.Buttons.size()) {

@@ -17,6 +17,7 @@ struct ButtonBarSetup {
     ButtonBarMetrics Metrics = {};
     std::vector<BarButton> Buttons;
     bool HasFrame = false;  // it lies on other parts
+    bool OnBand = false;    // it stands in the header of a panel
 };
 
 // Buttons are numbered from 1, separators included. At first all are enabled and none is pressed.
@@ -108,6 +109,7 @@ private:
 
     ButtonBarMetrics metrics_;
     bool hasFrame_;
+    bool onBand_;
     std::vector<BarButton> buttons_;
     std::vector<State> states_;
     ButtonBarLayout layout_;

@@ -39,7 +39,7 @@ void ButtonBar::LoadIcons(qreal ratio) {
 void ButtonBar::paintEvent(QPaintEvent*) {
     LoadIcons(devicePixelRatioF());
     QPainter painter(this);
-    painter.fillRect(rect(), CurrentTheme().Ground);
+    painter.fillRect(rect(), onBand_ ? BandColor() : CurrentTheme().Ground);
     if (hasFrame_)
         PaintFrame(painter);
     for (int i = 0; i < Count(); ++i) {
