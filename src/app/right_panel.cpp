@@ -1,5 +1,6 @@
 #include "app/right_panel.h"
 
+#include <QAction>
 #include <QGridLayout>
 #include <QLabel>
 #include <QResizeEvent>
@@ -12,7 +13,9 @@
 #include "app/shared_image.h"
 #include "editing/adjust_sliders.h"
 #include "editing/give_up.h"
+#include "editing/layer_bar.h"
 #include "editing/layer_commands.h"
+#include "editing/stack_commands.h"
 #include "widgets/theme.h"
 
 namespace orbelle::app {
@@ -130,6 +133,25 @@ RightPanel::RightPanel(CommandRunner& commands, QWidget& layerBar) : commands_(c
         commands_.Run([index](Editor& editor) { SelectLayer(editor, index); });
     });
     connect(layers_, &widgets::LayerList::Picked, this, &RightPanel::KeysFree);
+    connect(layers_, &widgets::LayerList::EyePressed, this, [this](int layer) {
+        commands_.Run([layer](Editor& editor) { PressEye(editor, layer); });
+    });
+    connect(layers_, &widgets::LayerList::Moved, this, [this](int layer, int to) {
+        commands_.Run([=](Editor& editor) { MoveLayerTo(editor, layer, to); });
+    });
+    connect(layers_, &widgets::LayerList::Renamed, this, [this](int layer, const QString& name) {
+        commands_.Run([layer, text = name.toStdString()](Editor& editor) {
+            RenameLayer(editor, layer, text);
+        });
+    });
+    // F2 wherever the keys are.
+    auto* rename = new QAction("Rename Layer", this);
+    rename->setShortcut(Qt::Key_F2);
+    connect(rename, &QAction::triggered, this, [this] {
+        if (layers_->isVisible())
+            layers_->StartRename();
+    });
+    addAction(rename);
 }
 
 QWidget* RightPanel::AddSection(const char* name, const char* storedAs, const char* title) {
@@ -259,6 +281,7 @@ void RightPanel::ShowStates(const Sliders& sliders) {
 }
 
 void RightPanel::EndRuns() {
+    layers_->CommitName();
     for (const Adjuster& adjuster : adjusters_) {
         adjuster.Value->CommitTyping();
         adjuster.Slider->EndRun();
@@ -267,11 +290,14 @@ void RightPanel::EndRuns() {
 
 void RightPanel::ShowLayers(const Editor& editor) {
     std::vector<widgets::LayerRow> rows;
-    for (const document::IconLayer& layer : editor.Page().Layers)
+    for (int i = 0; i < editor.Page().LayerCount(); ++i) {
+        const document::IconLayer& layer = editor.Page().Layers[static_cast<std::size_t>(i)];
         rows.push_back(
             {SharedImage(layer.Image),
              QSize(static_cast<int>(layer.Rect.Width), static_cast<int>(layer.Rect.Height)),
-             OpacityText(layer.Opacity), layer.Visible});
+             OpacityText(layer.Opacity), layer.Visible, QString::fromStdString(layer.Name),
+             editing::CanMoveLayer(editor.Page(), i)});
+    }
     layers_->SetRows(std::move(rows));
     layers_->SetSelectedIndex(editor.Page().SelectedLayer);
     ShowColors(editor.Page());

@@ -21,8 +21,8 @@ public:
     RightPanel(CommandRunner& commands, QWidget& layerBar);
 
     void ShowStates(const editing::Sliders& sliders);
-    // Another command follows: what keys and wheel do to the sliders ends, a number that is being
-    // typed counts.
+    // Another command follows: what keys and wheel do to the sliders ends, a number or name that
+    // is being typed counts.
     void EndRuns();
     // The layer list anew.
     void ShowLayers(const editing::Editor& editor);

@@ -11,7 +11,7 @@ enum class SlotCopySize { Image, Rect };
 
 // Opens a slot directly above the selected layer, or on top when none is selected, and selects it.
 // Until the caller fills it, the slot holds a copy of the layer below it, but for its name (a blank
-// record on top of an unselected stack). Throws Error when the stack holds kMaxMadeLayers or more already.
+// record on top of an unselected stack). Throws Error when that holds kMaxMadeLayers or more.
 IconLayer& OpenLayerSlot(Page& page, SlotCopySize size);
 
 // Fills the layer with the picture at its own size in the middle of the page; the offsets truncate,

@@ -3,6 +3,7 @@
 
 #include <QAbstractScrollArea>
 #include <QImage>
+#include <QLineEdit>
 #include <QString>
 #include <vector>
 
@@ -19,8 +20,11 @@ struct LayerRow {
     QSize Size;    // of the layer on the page
     QString OpacityText;
     bool Visible = true;
+    QString Name = {};    // empty: it goes by its place, "Icon 3"
+    bool CanMove = true;  // to another place, by the hand
 };
 
+// Rows are dragged, shown and hidden, and named in place.
 class LayerList : public QAbstractScrollArea, public AccessibleParts {
     Q_OBJECT
 
@@ -34,6 +38,11 @@ public:
     // One for each layer, from the bottom up.
     void SetRows(std::vector<LayerRow> rows);
     int Count() const { return static_cast<int>(rows_.size()); }
+
+    // The name of the selected row to be typed over.
+    void StartRename();
+    // A name that is being typed counts from now on.
+    void CommitName() { EndRename(true); }
 
     // Parts are rows from the top.
     QAccessible::Role WholeRole() const override { return QAccessible::List; }
@@ -50,14 +59,25 @@ signals:
     // A press on the list, after the selection has followed it; also below the last row. Keys that
     // move the selection raise it as a left press in the middle of the row.
     void Clicked(Qt::MouseButton button, Qt::KeyboardModifiers modifiers, const QPoint& position);
-    // After Clicked, by the mouse alone: the keys may go elsewhere.
+    // After what the mouse did, and after the typing of a name: the keys may go elsewhere.
     void Picked();
+    // The eye at the right of a row, or Space on the selected one.
+    void EyePressed(int layer);
+    // A row was dragged to where the layer `to` is.
+    void Moved(int layer, int to);
+    // A double click or F2, and a name that was typed.
+    void Renamed(int layer, const QString& name);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
+    bool event(QEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
@@ -65,11 +85,18 @@ protected:
 private:
     int LayerOfRow(int row) const { return Count() - row - 1; }
     QRect RowPlace(int row) const;  // in the viewport
+    QRect EyePlace(int row) const;
+    QRect TextPlace(int row) const;
+    int RowAt(const QPoint& place) const;  // -1: none
     void FitScrollBar();
     void PaintRow(QPainter& painter, int row);
     void PaintThumbnail(QPainter& painter, const QRect& box, int layer);
-    void PaintText(QPainter& painter, const QRect& row, const QString& name,
-                   const QString& opacity) const;
+    void PaintText(QPainter& painter, int row) const;
+    void PaintEye(QPainter& painter, int row) const;
+    void PaintDrop(QPainter& painter) const;
+    void DragRow(int y);
+    void EndDrag();
+    void EndRename(bool takesName);
     void SelectRow(int row);
     void Select(int layer);
 
@@ -83,6 +110,12 @@ private:
     std::vector<QImage> thumbnails_;
     std::vector<Shown> shownBefore_;  // so that going from page to page and back makes none anew
     int selectedIndex_ = -1;
+
+    int pressedRow_ = -1;  // that may be dragged from here on
+    int pressedY_ = 0;
+    int gap_ = -1;               // a row is being dragged to between this row and the one above it
+    QLineEdit* name_ = nullptr;  // that is being typed
+    int renamed_ = -1;           // the layer
 };
 
 }  // namespace orbelle::widgets

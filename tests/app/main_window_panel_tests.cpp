@@ -12,6 +12,7 @@
 #include "editing/undo_commands.h"
 #include "widgets/layer_list.h"
 #include "widgets/number_slider.h"
+#include "widgets/panel_header.h"
 #include "widgets/track_slider.h"
 #include "widgets/value_field.h"
 
@@ -34,6 +35,77 @@ TEST_F(MainWindowTest, TheLayerListFollowsAndSelects) {
     Part<widgets::NumberSlider>("PageWidth").setFocus();
     Strike(*QApplication::focusWidget(), Qt::Key_Return, "\r");
     EXPECT_EQ(QApplication::focusWidget(), &Scene());
+}
+
+TEST_F(MainWindowTest, RowsOfTheLayerListAreHiddenMovedAndNamed) {
+    NewPage(32, 32);
+    window.Run([](editing::Editor& editor) { AddEmptyLayer(editor, 32, 32); });
+    auto& list = Part<widgets::LayerList>("Layers");
+    ASSERT_TRUE(WaitUntil([&] { return list.Count() == 2; }));
+    Press(*list.viewport(), {double(list.viewport()->width() - 12), 60});
+    EXPECT_FALSE(Page().Layers[0].Visible);
+    EXPECT_EQ(Page().SelectedLayer, 1);
+    Press(*list.viewport(), {60, 20});
+    DragTo(*list.viewport(), {60, 50});
+    DragTo(*list.viewport(), {60, 78});
+    Release(*list.viewport(), {60, 78});
+    EXPECT_FALSE(Page().Layers[1].Visible) << "the other one has moved up";
+    EXPECT_EQ(window.Editor().History.UndoName(), "Set Order");
+    emit list.Renamed(0, " Sky ");
+    ASSERT_TRUE(WaitUntil([&] { return list.PartName(1) == "Sky"; }));
+    window.Run(editing::Undo);
+    ASSERT_TRUE(WaitUntil([&] { return list.PartName(1) == "Icon 1"; }));
+}
+
+// One drag of the opacity slider by each of its hands.
+TEST_F(MainWindowTest, ANumberBesideASliderIsOneStep) {
+    NewPage(32, 32);
+    auto& slider = Part<widgets::TrackSlider>("Opacity");
+    auto& field = Part<widgets::ValueField>("OpacityValue");
+    const auto opacity = [&] { return Page().Selected().Opacity; };
+    field.setFocus();
+    field.selectAll();
+    for (const char* letter : {"4", "0"})
+        Strike(field, Qt::Key_unknown, letter);
+    EXPECT_EQ(opacity(), 1) << "not digit by digit";
+    Strike(field, Qt::Key_Return, "\r");
+    EXPECT_EQ(opacity(), 0.4F);
+    EXPECT_EQ(field.text(), "40%");
+    EXPECT_EQ(window.Editor().History.UndoIndex(), 1);
+    Click(slider, {double(slider.width() / 2), 10});
+    SendMouse(slider, QEvent::MouseButtonDblClick, {double(slider.width() / 2), 10}, Qt::LeftButton,
+              Qt::LeftButton);
+    Release(slider, {double(slider.width() / 2), 10});
+    EXPECT_EQ(opacity(), 1);
+    EXPECT_EQ(window.Editor().History.UndoIndex(), 2);
+    window.Run(editing::Undo);
+    EXPECT_EQ(opacity(), 0.4F);
+}
+
+TEST_F(MainWindowTest, ASmallWindowOpensOnePanelAtATime) {
+    const auto open = [&] {
+        std::string names;
+        for (const char* name :
+             {"OpacityPanel", "ColorPanel", "SizePanel", "FilterPanel", "LayerPanel"})
+            if (!Part<widgets::PanelHeader>(name).IsClosed())
+                names += std::string(name, 1);
+        return names;
+    };
+    const auto click = [&](const char* name) { Part<widgets::PanelHeader>(name).click(); };
+    ASSERT_EQ(open(), "OCSFL");
+    click("FilterPanel");
+    window.resize(1000, 540);
+    QApplication::processEvents();
+    EXPECT_EQ(open(), "O");
+    click("ColorPanel");
+    EXPECT_EQ(open(), "C");
+    click("ColorPanel");
+    EXPECT_EQ(open(), "");
+    click("LayerPanel");
+    EXPECT_EQ(open(), "L");
+    window.resize(1000, 700);
+    QApplication::processEvents();
+    EXPECT_EQ(open(), "OSL") << "as it was wanted";
 }
 
 // However the wheel comes back, the picture does; Escape leaves no step.
