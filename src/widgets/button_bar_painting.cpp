@@ -1,5 +1,6 @@
 // How the toolbar looks.
 #include <QPainter>
+#include <cmath>
 
 #include "widgets/artwork.h"
 #include "widgets/button_bar.h"
@@ -20,6 +21,17 @@ void PaintMark(QPainter& painter, const QRect& place) {
     for (int row = 0; row < kMarkSize; ++row)
         painter.fillRect(right - row, place.bottom() - kMarkMargin - kMarkSize + 1 + row, row + 1,
                          1, CurrentTheme().Note);
+}
+
+// As thin as the screen's pixels allow without one line being thicker than another.
+void PaintLine(QPainter& painter, const QRect& line, qreal ratio) {
+    const auto whole = [ratio](int place) { return std::round(place * ratio) / ratio; };
+    const auto size = [ratio](int length) {
+        return (length == 1 ? std::floor(ratio) : std::round(length * ratio)) / ratio;
+    };
+    painter.fillRect(
+        QRectF(whole(line.x()), whole(line.y()), size(line.width()), size(line.height())),
+        HairlineColor());
 }
 
 }  // namespace
@@ -44,7 +56,7 @@ void ButtonBar::paintEvent(QPaintEvent*) {
         PaintFrame(painter);
     for (int i = 0; i < Count(); ++i) {
         if (buttons_[i].IsSeparator)
-            painter.fillRect(layout_.Lines[i], HairlineColor());
+            PaintLine(painter, layout_.Lines[i], devicePixelRatioF());
         else if (!buttons_[i].IsSpring)
             PaintButton(painter, i);
     }

@@ -15,7 +15,7 @@ namespace orbelle::widgets {
 
 namespace {
 
-constexpr QSize kSize(92, 24);
+constexpr QSize kSize(92, kControlHeight);
 constexpr int kButtonWidth = 18;
 constexpr int kRepeatDelay = 400;    // milliseconds
 constexpr int kRepeatInterval = 60;  // milliseconds
@@ -72,7 +72,7 @@ NumberSlider::NumberSlider(QWidget* parent)
     QAccessible::installFactory(Accessible::Make);
     setFocusProxy(field_);
     setFocusPolicy(Qt::StrongFocus);
-    setFont(ChromeFont(8.25));
+    setFont(ChromeFont(kSmallText));
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     field_->installEventFilter(this);
     field_->setFrame(false);
@@ -360,7 +360,8 @@ void NumberSlider::paintEvent(QPaintEvent*) {
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setBrush(isEnabled() ? CurrentTheme().Field : CurrentTheme().Ground);
     painter.setPen(QPen(field_->hasFocus() ? CurrentTheme().Accent : CurrentTheme().Line, 1));
-    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), 3, 3);
+    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), kCornerRadius,
+                            kCornerRadius);
 
     painter.fillRect(SpinRect(1).left(), 4, 1, height() - 8, HairlineColor());
     painter.fillRect(OpenRect().left(), 4, 1, height() - 8, HairlineColor());
