@@ -37,6 +37,8 @@ constexpr char kDetails[] =
     "QScrollBar::handle:horizontal { min-width: 24px }"
     "QScrollBar::add-line, QScrollBar::sub-line { width: 0; height: 0 }"
     "QScrollBar::add-page, QScrollBar::sub-page { background: transparent }"
+    "QComboBox QAbstractItemView { background: @field; color: @text; border: 1px solid @line;"
+    " selection-background-color: @pressed; selection-color: @text; outline: none }"
     "QDialogButtonBox { dialogbuttonbox-buttons-have-icons: 0 }"
     "#caption { color: @note }"
     "#Findings { background: @ground; border: none; border-top: 1px solid @hairline;"
