@@ -11,7 +11,7 @@
 #include <cmath>
 #include <utility>
 
-#include "widgets/accessible_track.h"
+#include "widgets/accessible_slider.h"
 #include "widgets/theme.h"
 
 namespace orbelle::widgets {
@@ -30,7 +30,7 @@ constexpr int kPaintedThickness = 6;
 }  // namespace
 
 TrackSlider::TrackSlider(QWidget* parent) : QSlider(Qt::Horizontal, parent) {
-    InstallAccessibleTrack();
+    InstallAccessibleSlider<TrackSlider>();
     setFixedHeight(kHeight);
     setMouseTracking(true);
     setFocusPolicy(Qt::StrongFocus);

@@ -1,16 +1,16 @@
-#include "widgets/accessible_track.h"
+// What a slider that tells its drags is to assistive tools.
+#pragma once
 
 #include <QAccessibleWidget>
 #include <algorithm>
 
-#include "widgets/track_slider.h"
-
 namespace orbelle::widgets {
-namespace {
 
-class AccessibleTrack : public QAccessibleWidget, public QAccessibleValueInterface {
+// A value that a tool sets is one drag: pressed, changed, released.
+template <typename Slider>
+class AccessibleSlider : public QAccessibleWidget, public QAccessibleValueInterface {
 public:
-    explicit AccessibleTrack(TrackSlider* slider)
+    explicit AccessibleSlider(Slider* slider)
         : QAccessibleWidget(slider, QAccessible::Slider), slider_(slider) {}
 
     void* interface_cast(QAccessible::InterfaceType type) override {
@@ -38,18 +38,16 @@ public:
     }
 
 private:
-    TrackSlider* slider_;
+    Slider* slider_;
 };
 
-QAccessibleInterface* Make(const QString&, QObject* object) {
-    auto* slider = qobject_cast<TrackSlider*>(object);
-    return slider ? new AccessibleTrack(slider) : nullptr;
-}
-
-}  // namespace
-
-void InstallAccessibleTrack() {
-    QAccessible::installFactory(Make);
+// For all controls of that class. Calling it again is harmless.
+template <typename Slider>
+void InstallAccessibleSlider() {
+    QAccessible::installFactory([](const QString&, QObject* object) -> QAccessibleInterface* {
+        auto* slider = qobject_cast<Slider*>(object);
+        return slider ? new AccessibleSlider<Slider>(slider) : nullptr;
+    });
 }
 
 }  // namespace orbelle::widgets
