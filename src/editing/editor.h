@@ -28,7 +28,10 @@ struct Editor : EditorState {
     std::optional<document::IconLayer> ClipboardLayer;
     Changes Changed;  // by the command that runs
 
-    document::SceneLooks Looks;  // the host's
+    // The host's wishes.
+    document::SceneLooks Looks;
+    bool AnimatesZoom = true;
+    double OpeningZoom = 1;  // 1 or more
 
     // Kept by Run.
     ControlStates States;
