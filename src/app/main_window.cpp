@@ -62,6 +62,7 @@ MainWindow::MainWindow() {
     });
     statusBar()->setSizeGripEnabled(false);
 
+    TakeLooks();
     ShowScene();
     MainWindow::ShowControls();
     ShowTitle();

@@ -143,6 +143,7 @@ private:
     Report ReportOf(const editing::Outcome& outcome);
     bool Tell(const Report& report);
     void ShowScene();
+    void TakeLooks();  // of the scene
     void ShowTitle();
     void TakeDrop(const Drop& drop);
     void PopUpOrderMenu(const QPoint& at);

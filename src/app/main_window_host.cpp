@@ -6,6 +6,7 @@
 #include <QSignalBlocker>
 #include <QStatusBar>
 #include <algorithm>
+#include <cmath>
 
 #include "app/bottom_panel.h"
 #include "app/color_dialog.h"
@@ -27,6 +28,7 @@
 #include "app/suggest_dialog.h"
 #include "app/svg_size_dialog.h"
 #include "app/system_clipboard.h"
+#include "widgets/theme.h"
 
 namespace orbelle::app {
 namespace {
@@ -69,8 +71,10 @@ void MainWindow::Changed(const editing::Changes& changes) {
     if (changes.Tip)
         tips_->Show(*changes.Tip);
     if (changes.LayerMenu)
-        PopUpOrderMenu(
-            scene_->mapToGlobal(QPointF(changes.LayerMenu->X, changes.LayerMenu->Y).toPoint()));
+        PopUpOrderMenu(scene_->mapToGlobal(
+            scene_->FromScene(QRectF(changes.LayerMenu->X, changes.LayerMenu->Y, 0, 0))
+                .topLeft()
+                .toPoint()));
     message_ = changes.Message;
 }
 
@@ -88,7 +92,19 @@ void MainWindow::ShowScene() {
     bars_->ShowZoom(editor_);
     MirrorBar(*horizontalScroll_, editor_.View.HorizontalScroll, editor_.View.SceneWidth);
     MirrorBar(*verticalScroll_, editor_.View.VerticalScroll, editor_.View.SceneHeight);
+    scene_->FollowSelection();
     scene_->update();
+}
+
+void MainWindow::TakeLooks() {
+    const document::SceneLooks looks{.Ground = widgets::SceneColor().rgb(),
+                                     .SmoothWhenSmall = true};
+    editor_.AnimatesZoom = widgets::IsMotionWanted();
+    editor_.OpeningZoom = std::max(std::floor(scene_->devicePixelRatioF()), 1.0);
+    if (editor_.Looks == looks)
+        return;
+    editor_.Looks = looks;
+    RunDuringDrag([](editing::Editor& editor) { editor.Changed.Scene = true; });
 }
 
 void MainWindow::ShowControls() {
@@ -97,6 +113,7 @@ void MainWindow::ShowControls() {
     bars_->ShowStates(editor_);
     rightPanel_->ShowStates(editor_.Sliders);
     bottomPanel_->ShowStates(editor_);
+    pointerStatus_->ShowHint(editor_);
     scene_->ShowCursor();
 }
 

@@ -107,6 +107,7 @@ QWidget* MainWindow::MakeScene() {
 void MainWindow::ConnectScene() {
     scene_->setFocus();
     using editing::Editor;
+    connect(scene_, &SceneView::LooksChanged, this, &MainWindow::TakeLooks);
     connect(scene_, &SceneView::Resized, this, [this](int width, int height) {
         RunDuringDrag([=](Editor& editor) { ResizeScene(editor, width, height); });
     });

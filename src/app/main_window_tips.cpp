@@ -29,6 +29,7 @@ QRect SeenPart(const QWidget& widget, const QWidget& on) {
     return SeenPart(widget, widget.rect(), on);
 }
 
+// Both in scene pixels.
 QRect PageOnScene(const editing::Editor& editor) {
     if (!editor.DocumentExists)
         return {};
@@ -84,6 +85,9 @@ std::optional<TipSurroundings::Target> MainWindow::TargetOf(editing::TipPlace pl
     };
     if (NeedsLayerList(place) && !rightPanel_->IsLayerListVisible())
         return std::nullopt;
+    const auto onWidget = [this](const QRect& rect) {
+        return scene_->FromScene(rect).toAlignedRect();
+    };
     switch (place) {
         case TipPlace::NewAndOpenButtons:
             return target(
@@ -96,9 +100,11 @@ std::optional<TipSurroundings::Target> MainWindow::TargetOf(editing::TipPlace pl
                                   {editing::main_buttons::Undo, editing::main_buttons::Redo}),
                           {Below});
         case TipPlace::SelectedLayer:
-            return target(SeenPart(*scene_, LayerOnScene(editor_), central), {Right, Left});
+            return target(SeenPart(*scene_, onWidget(LayerOnScene(editor_)), central),
+                          {Right, Left});
         case TipPlace::Page:
-            return target(SeenPart(*scene_, PageOnScene(editor_), central), {Right, Left});
+            return target(SeenPart(*scene_, onWidget(PageOnScene(editor_)), central),
+                          {Right, Left});
         case TipPlace::OpacitySlider: {
             const QWidget& slider = rightPanel_->OpacitySlider();
             const QRect withCaption(0, slider.y(), slider.geometry().right() + 1, slider.height());
@@ -129,7 +135,8 @@ std::vector<QRect> MainWindow::TipObstacles() const {
         obstacles.push_back(SeenPart(*part, central));
     // The whole row: a balloon has not much to do up there, where no button is.
     obstacles.emplace_back(0, 0, central.width(), bars_->MainBar->height());
-    obstacles.push_back(SeenPart(*scene_, LayerOnScene(editor_), central));
+    obstacles.push_back(
+        SeenPart(*scene_, scene_->FromScene(LayerOnScene(editor_)).toAlignedRect(), central));
     std::erase_if(obstacles, [](const QRect& rect) { return rect.isEmpty(); });
     return obstacles;
 }

@@ -1,31 +1,74 @@
 #include "app/pointer_status.h"
 
 #include <QColor>
+#include <QPainter>
+#include <QPixmap>
 #include <cmath>
 
+#include "app/tool_hint.h"
 #include "editing/drag_readout.h"
 #include "editing/scene_mapping.h"
+#include "widgets/theme.h"
 
 namespace orbelle::app {
 namespace {
 
-QLabel* AddField(QStatusBar& line, const char* name, int width) {
+constexpr int kChipSide = 14;
+
+// As wide as the widest text that it is to show, so that its neighbours stand still.
+QLabel* AddField(QStatusBar& line, const char* name, const QString& caption,
+                 const QString& widest) {
     auto* field = new QLabel;
     field->setObjectName(name);
-    field->setMinimumWidth(width);
+    field->setToolTip(caption);
+    field->setMinimumWidth(field->fontMetrics().horizontalAdvance(widest) + widgets::kWideSpace);
     field->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    field->setContentsMargins(0, 0, 12, 0);
+    field->setContentsMargins(0, 0, widgets::kWideSpace, 0);
     line.addPermanentWidget(field);
     return field;
+}
+
+QLabel* AddHint(QStatusBar& line) {
+    auto* hint = new QLabel;
+    hint->setObjectName("ToolHint");
+    hint->setContentsMargins(widgets::kSpace, 0, 0, 0);
+    // A long one must not make the window wider.
+    hint->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    line.addWidget(hint, 1);
+    return hint;
+}
+
+QLabel* AddChip(QStatusBar& line) {
+    auto* chip = new QLabel;
+    chip->setObjectName("PointerColorChip");
+    chip->setFixedSize(kChipSide, kChipSide);
+    line.addPermanentWidget(chip);
+    return chip;
+}
+
+// On checks, in a frame.
+QPixmap Chip(const QColor& color, double scale) {
+    QPixmap chip(QSizeF(kChipSide * scale, kChipSide * scale).toSize());
+    chip.setDevicePixelRatio(scale);
+    chip.fill(Qt::white);
+    QPainter painter(&chip);
+    const QRect whole(0, 0, kChipSide, kChipSide);
+    widgets::DrawChecker(painter, whole, QColor(216, 216, 216));
+    painter.fillRect(whole, color);
+    painter.setPen(widgets::CurrentTheme().Line);
+    painter.drawRect(QRectF(whole).adjusted(0.5, 0.5, -0.5, -0.5));
+    return chip;
 }
 
 }  // namespace
 
 PointerStatus::PointerStatus(QStatusBar& line)
-    : drag_(AddField(line, "DragReadout", 160)),
-      position_(AddField(line, "PointerPosition", 96)),
-      color_(AddField(line, "PointerColor", 96)),
-      zoom_(AddField(line, "Zoom", 64)) {}
+    : hint_(AddHint(line)),
+      position_(AddField(line, "PointerPosition", QObject::tr("Position"), "-000, -000")),
+      drag_(AddField(line, "DragReadout", QObject::tr("Size"), "000 x 000 at 000, 000")),
+      chip_(AddChip(line)),
+      color_(AddField(line, "PointerColor", QObject::tr("Color under the pointer"), "#FFDDDDDD")),
+      zoom_(AddField(line, "Zoom", QObject::tr("Zoom"), "2000%")) {}
 
 void PointerStatus::ShowPointer(const editing::Editor& editor, float x, float y) {
     pointer_ = {x, y};
@@ -40,18 +83,31 @@ void PointerStatus::Refresh(const editing::Editor& editor) {
                      static_cast<float>(pointer_->y()));
     const int column = graphics::RoundToEven(page.X), row = graphics::RoundToEven(page.Y);
     position_->setText(QString("%1, %2").arg(column).arg(row));
-    const auto color = editor.Canvas.GetPixel(column, row);
-    color_->setText(color ? QColor::fromRgba(*color).name(QColor::HexArgb).toUpper() : QString());
+    ShowColor(editor.Canvas.GetPixel(column, row));
+}
+
+void PointerStatus::ShowColor(std::optional<graphics::Argb> color) {
+    if (!color) {
+        color_->clear();
+        return chip_->clear();
+    }
+    const QColor shown = QColor::fromRgba(*color);
+    color_->setText(shown.name(QColor::HexArgb).toUpper());
+    chip_->setPixmap(Chip(shown, chip_->devicePixelRatioF()));
 }
 
 void PointerStatus::ClearPointer() {
     pointer_.reset();
     position_->clear();
-    color_->clear();
+    ShowColor(std::nullopt);
 }
 
 void PointerStatus::ShowZoom(double zoom) {
     zoom_->setText(zoom > 0 ? QString::number(std::lround(zoom * 100)) + "%" : QString());
+}
+
+void PointerStatus::ShowHint(const editing::Editor& editor) {
+    hint_->setText(editor.DocumentExists ? HintOf(editor.Tools.InUse) : QString());
 }
 
 void PointerStatus::ShowDrag(const editing::Editor& editor) {

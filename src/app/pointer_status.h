@@ -1,4 +1,5 @@
-// Tells in the status line where the pointer is on the page, what lies there and what it drags.
+// Tells in the status line what the tool does, where the pointer is on the page, what lies there
+// and what it drags.
 #pragma once
 
 #include <QLabel>
@@ -12,7 +13,7 @@ namespace orbelle::app {
 
 class PointerStatus {
 public:
-    // Adds its fields to the line's right end.
+    // The tool's hint at the left, its other fields at the right end.
     explicit PointerStatus(QStatusBar& line);
 
     // The pointer in scene pixels.
@@ -21,13 +22,19 @@ public:
     void Refresh(const editing::Editor& editor);
     void ClearPointer();
     void ShowZoom(double zoom);
+    // Of the tool in use; none without a document.
+    void ShowHint(const editing::Editor& editor);
     // Place and size of what is being dragged; nothing without a drag.
     void ShowDrag(const editing::Editor& editor);
 
 private:
+    void ShowColor(std::optional<graphics::Argb> color);
+
     std::optional<QPointF> pointer_;  // scene pixels; none: not over the scene
-    QLabel* drag_;
+    QLabel* hint_;
     QLabel* position_;
+    QLabel* drag_;
+    QLabel* chip_;
     QLabel* color_;
     QLabel* zoom_;
 };

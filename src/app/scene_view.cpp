@@ -1,6 +1,5 @@
 #include "app/scene_view.h"
 
-#include <QApplication>
 #include <QKeyEvent>
 #include <QPaintEvent>
 #include <QPainter>
@@ -10,7 +9,9 @@
 #include <optional>
 
 #include "app/scene_guides.h"
+#include "app/scene_marks.h"
 #include "app/shared_image.h"
+#include "app/tool_cursors.h"
 #include "document/scene_painter.h"
 #include "widgets/artwork.h"
 #include "widgets/theme.h"
@@ -18,61 +19,18 @@
 namespace orbelle::app {
 namespace {
 
-// Hot spots of the pointers, as their drawings have them.
-constexpr QPoint kMoveSpot(16, 16), kLineSpot(16, 16), kPickSpot(2, 29), kEraseSpot(10, 27);
+constexpr int kWalkMilliseconds = 120;
 
-// Visible on light and dark ground: a dark line beside a white one.
-void DrawOutline(QPainter& painter, const QRectF& rect, bool isOval) {
-    const QRectF inner = rect.adjusted(0.5, 0.5, -0.5, -0.5);
-    for (const auto& [color, outline] :
-         {std::pair(QColor(255, 255, 255, 190), inner.adjusted(-1, -1, 1, 1)),
-          std::pair(QColor(0, 0, 0, 220), inner)}) {
-        painter.setPen(QPen(color, 1, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
-        if (isOval)
-            painter.drawEllipse(outline);
-        else
-            painter.drawRect(outline);
-    }
-}
-
-QRectF RectOf(const graphics::RectF& rect) {
-    return {rect.X, rect.Y, rect.Width, rect.Height};
-}
-
-// Dark and light dashes.
-void DrawRubberBand(QPainter& painter, const editing::OverlayLine& line) {
-    const QLineF band(line.Start.X, line.Start.Y, line.End.X, line.End.Y);
-    painter.setPen(QPen(Qt::white, 1));
-    painter.drawLine(band);
-    painter.setPen(QPen(Qt::black, 1, Qt::DashLine));
-    painter.drawLine(band);
-}
-
-void DrawOverlays(QPainter& painter, const editing::Overlays& overlays) {
-    const editing::OverlayShape& frame = overlays.SelectionFrame;
-    if (frame.Visible && frame.Rect.Width > 0 && frame.Rect.Height > 0) {
-        painter.setRenderHint(QPainter::Antialiasing, frame.IsOval);
-        DrawOutline(painter, RectOf(frame.Rect), frame.IsOval);
-    }
-    if (overlays.RubberBand.Visible) {
-        painter.setRenderHint(QPainter::Antialiasing);
-        DrawRubberBand(painter, overlays.RubberBand);
-    }
-    if (overlays.PointerMark.Visible) {
-        painter.setRenderHint(QPainter::Antialiasing, overlays.PointerMark.IsOval);
-        DrawOutline(painter, RectOf(overlays.PointerMark.Rect), overlays.PointerMark.IsOval);
-    }
-}
-
-editing::Pointer PointerOf(const QMouseEvent& event, Qt::MouseButton button) {
+// `place` is the event's, in scene pixels.
+editing::Pointer PointerOf(const QMouseEvent& event, const QPointF& place, Qt::MouseButton button) {
     editing::Pointer pointer;
     pointer.Button = button == Qt::LeftButton ? 1 : 2;
     const Qt::KeyboardModifiers keys =
         event.modifiers() & (Qt::ShiftModifier | Qt::ControlModifier | Qt::AltModifier);
     pointer.Shift = keys == Qt::ShiftModifier ? 1 : keys == Qt::NoModifier ? 0 : 2;
     // In the middle of its scene pixel, so that it hits what is shown there at every zoom.
-    pointer.X = static_cast<float>(std::floor(event.position().x()) + 0.5);
-    pointer.Y = static_cast<float>(std::floor(event.position().y()) + 0.5);
+    pointer.X = static_cast<float>(std::floor(place.x()) + 0.5);
+    pointer.Y = static_cast<float>(std::floor(place.y()) + 0.5);
     return pointer;
 }
 
@@ -97,11 +55,6 @@ std::optional<editing::Direction> HalfStepOf(const QKeyEvent& event) {
     }
 }
 
-QCursor ToolCursor(const char* artwork, QPoint hotSpot) {
-    return QCursor(widgets::Artwork(artwork, {32, 32}, qGuiApp->devicePixelRatio()), hotSpot.x(),
-                   hotSpot.y());
-}
-
 }  // namespace
 
 SceneView::SceneView(const editing::Editor& editor, QWidget* parent)
@@ -112,31 +65,51 @@ SceneView::SceneView(const editing::Editor& editor, QWidget* parent)
     setMinimumSize(160, 120);
     setMouseTracking(true);
     ShowCursor();
+    walk_.setInterval(kWalkMilliseconds);
+    connect(&walk_, &QTimer::timeout, this, &SceneView::Walk);
+}
+
+double SceneView::Scale() const {
+    return devicePixelRatioF();
+}
+
+// Where the toolkit begins the widget between two pixels of the screen, the scene begins on the
+// nearest one.
+QPointF SceneView::Shift() const {
+    const QPointF corner = QPointF(mapTo(window(), QPoint())) * Scale();
+    return corner - QPointF(std::round(corner.x()), std::round(corner.y()));
+}
+
+QPointF SceneView::ToScene(const QPointF& place) const {
+    return place * Scale() + Shift();
+}
+
+QRectF SceneView::FromScene(const QRectF& rect) const {
+    return {(rect.topLeft() - Shift()) / Scale(), rect.size() / Scale()};
+}
+
+void SceneView::FollowSelection() {
+    if (editor_.Selection.Exists() && editor_.PolygonPoints.empty())
+        edge_.Follow(editor_.Selection.Region(), editor_.Page().Width, editor_.Page().Height);
+    else
+        edge_.Clear();
+    if (edge_.IsEmpty() || !widgets::IsMotionWanted())
+        walk_.stop();
+    else if (!walk_.isActive())
+        walk_.start();
+}
+
+void SceneView::Walk() {
+    if (!isActiveWindow() || !isVisible())
+        return;
+    ++step_;
+    update();
 }
 
 void SceneView::ShowCursor() {
-    using editing::Tool;
-    static const QCursor move = ToolCursor("cursors/move", kMoveSpot);
-    static const QCursor line = ToolCursor("cursors/line", kLineSpot);
-    static const QCursor pick = ToolCursor("cursors/pick", kPickSpot);
-    static const QCursor erase = ToolCursor("cursors/erase", kEraseSpot);
-    const QCursor* cursor = &line;
-    switch (editor_.Tools.InUse) {
-        case Tool::Move:
-            cursor = &move;
-            break;
-        case Tool::ColorPick:
-            cursor = &pick;
-            break;
-        case Tool::PencilEraser:
-        case Tool::BrushEraser:
-            cursor = &erase;
-            break;
-        default:
-            break;
-    }
-    if (this->cursor() != *cursor)
-        setCursor(*cursor);
+    const QCursor& cursor = CursorOf(editor_.Tools.InUse);
+    if (this->cursor() != cursor)
+        setCursor(cursor);
 }
 
 void SceneView::ShowWelcome(int strength) {
@@ -151,11 +124,11 @@ void SceneView::mousePressEvent(QMouseEvent* event) {
         return;
     setFocus();
     isHeld_ = isLeft;
-    emit PointerPressed(PointerOf(*event, event->button()));
+    emit PointerPressed(PointerOf(*event, ToScene(event->position()), event->button()));
 }
 
 void SceneView::mouseMoveEvent(QMouseEvent* event) {
-    const editing::Pointer pointer = PointerOf(*event, Qt::LeftButton);
+    const editing::Pointer pointer = PointerOf(*event, ToScene(event->position()), Qt::LeftButton);
     // A message box that comes up in a drag takes the release for itself.
     if (isHeld_ && !(event->buttons() & Qt::LeftButton)) {
         isHeld_ = false;
@@ -169,7 +142,7 @@ void SceneView::mouseReleaseEvent(QMouseEvent* event) {
     if (!isLeft && isHeld_)
         return;
     isHeld_ = false;
-    emit PointerReleased(PointerOf(*event, event->button()));
+    emit PointerReleased(PointerOf(*event, ToScene(event->position()), event->button()));
 }
 
 void SceneView::leaveEvent(QEvent*) {
@@ -217,36 +190,49 @@ void SceneView::DrawGuides(QPainter& painter, const QRect& seen) const {
     if (isPixelGridShown_ && editor_.View.Zoom >= kGridZoom)
         DrawPixelGrid(painter, page, seen);
     DrawMirrorAxes(painter, page, editor_.Tools.Mirror);
+    edge_.Draw(painter, page, LineWidth(), step_);
+}
+
+int SceneView::LineWidth() const {
+    return std::max(static_cast<int>(Scale()), 1);
+}
+
+// From here on the painter works in scene pixels, which are whole pixels of the screen.
+void SceneView::PaintInScenePixels(QPainter& painter) const {
+    painter.scale(1 / Scale(), 1 / Scale());
+    const QTransform toScreen = painter.deviceTransform();
+    if (std::abs(toScreen.m11() - 1) > 1e-6)
+        return;  // a picture of the window at another scale
+    const QTransform snapped =
+        QTransform::fromTranslate(std::round(toScreen.dx()), std::round(toScreen.dy()));
+    painter.setTransform(snapped * toScreen.inverted() * painter.transform());
 }
 
 void SceneView::paintEvent(QPaintEvent* event) {
+    if (shownScale_ != Scale())
+        QTimer::singleShot(0, this, &SceneView::TellSize);
     QPainter painter(this);
     const graphics::Bitmap& scene = editor_.Scene;
-    if (scene.Width() < width() || scene.Height() < height())
-        painter.fillRect(rect(), QColor::fromRgb(document::kSceneColor));
     if (scene.IsEmpty() || welcome_ >= 0) {
+        painter.fillRect(rect(), widgets::SceneColor());
         DrawWelcome(painter);
         return;
     }
-    // The painter scales without smoothing, so at 200 % a scene pixel is a hard 2 x 2 square.
+    const QRectF seen(ToScene(event->rect().topLeft()), event->rect().size() * Scale());
+    PaintInScenePixels(painter);
+    if (scene.Width() < seen.right() || scene.Height() < seen.bottom())
+        painter.fillRect(seen.toAlignedRect(), widgets::SceneColor());
     painter.drawImage(0, 0, SharedImage(scene, QImage::Format_RGB32));
-    DrawGuides(painter, event->rect());
-
+    DrawGuides(painter, seen.toAlignedRect());
     const auto frame = document::ObjectFrame(editor_.Page(), editor_.View);
-    if (frame && !editor_.Selection.Exists()) {
-        painter.setPen(
-            QPen(widgets::CurrentTheme().Accent, 1, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
-        painter.drawRect(
-            QRectF(frame->X + 0.5, frame->Y + 0.5, frame->Width - 1, frame->Height - 1));
-    }
-    painter.setBrush(Qt::NoBrush);
-    DrawOverlays(painter, editor_.Overlays);
+    if (frame && !editor_.Selection.Exists())
+        DrawLayerFrame(painter, *frame, LineWidth());
+    DrawOverlays(painter, editor_.Overlays, LineWidth());
 }
 
 void SceneView::DrawWelcome(QPainter& painter) const {
     if (welcome_ < 0)
         return;
-    painter.fillRect(rect(), QColor::fromRgb(document::kSceneColor));
     const int left = (width() - 280) / 2, top = (height() - 80) / 2;
     // The picture is there or it is not; only the texts fade.
     const double picture = std::round(std::round(welcome_ * 10.0 / kWelcomeStrongest) / 10);
@@ -270,7 +256,23 @@ void SceneView::DrawWelcome(QPainter& painter) const {
 }
 
 void SceneView::resizeEvent(QResizeEvent*) {
-    emit Resized(std::max(width(), 1), std::max(height(), 1));
+    TellSize();
+}
+
+// A part of a pixel at the end counts as one.
+void SceneView::TellSize() {
+    constexpr double kNothing = 1e-6;
+    shownScale_ = Scale();
+    const auto pixels = [this](int side) {
+        return std::max(static_cast<int>(std::ceil(side * Scale() - kNothing)), 1);
+    };
+    emit Resized(pixels(width()), pixels(height()));
+}
+
+void SceneView::changeEvent(QEvent* event) {
+    if (event->type() == QEvent::PaletteChange)
+        emit LooksChanged();
+    QWidget::changeEvent(event);
 }
 
 void SceneView::wheelEvent(QWheelEvent* event) {
@@ -284,10 +286,10 @@ void SceneView::wheelEvent(QWheelEvent* event) {
     wheelDelta_ += event->angleDelta().y();
     for (; wheelDelta_ >= QWheelEvent::DefaultDeltasPerStep;
          wheelDelta_ -= QWheelEvent::DefaultDeltasPerStep)
-        emit ZoomInWanted(event->position());
+        emit ZoomInWanted(ToScene(event->position()));
     for (; wheelDelta_ <= -QWheelEvent::DefaultDeltasPerStep;
          wheelDelta_ += QWheelEvent::DefaultDeltasPerStep)
-        emit ZoomOutWanted(event->position());
+        emit ZoomOutWanted(ToScene(event->position()));
 }
 
 }  // namespace orbelle::app

@@ -1,8 +1,10 @@
 // The scene on the screen.
 #pragma once
 
+#include <QTimer>
 #include <QWidget>
 
+#include "app/scene_marks.h"
 #include "editing/editor.h"
 #include "editing/nudge.h"
 #include "editing/scene_input.h"
@@ -13,14 +15,21 @@ namespace orbelle::app {
 
 inline constexpr int kWelcomeStrongest = 250;
 
-// Shows Editor::Scene from the top left corner, one scene pixel for each logical pixel, and over it
-// the outline around the selected layer and the overlay shapes. Hands on the mouse and the keys.
+// Shows Editor::Scene from the top left corner, one scene pixel for each pixel of the screen
+// whatever its scale, and over it what scene_guides.h and scene_marks.h draw. Hands on the mouse
+// and the keys.
 class SceneView : public QWidget {
     Q_OBJECT
 
 public:
     // `editor` outlives the view.
     explicit SceneView(const editing::Editor& editor, QWidget* parent = nullptr);
+
+    // From a place on the widget to one on the scene; the other way.
+    QPointF ToScene(const QPointF& place) const;
+    QRectF FromScene(const QRectF& rect) const;
+    // The selection or the page has changed.
+    void FollowSelection();
 
     // The pointer's shape, by the tool.
     void ShowCursor();
@@ -32,6 +41,7 @@ public:
     void ShowPixelGrid(bool shown);
 
 signals:
+    void LooksChanged();                   // those of the program
     void Resized(int width, int height);   // scene pixels, each at least 1
     void ZoomInWanted(const QPointF& at);  // Ctrl and the wheel, one step
     void ZoomOutWanted(const QPointF& at);
@@ -53,9 +63,16 @@ protected:
     void keyReleaseEvent(QKeyEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
+    void changeEvent(QEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
 
 private:
+    double Scale() const;   // pixels of the screen per logical pixel
+    QPointF Shift() const;  // of the scene, scene pixels
+    int LineWidth() const;  // of marks, scene pixels
+    void TellSize();
+    void Walk();
+    void PaintInScenePixels(QPainter& painter) const;
     void DrawWelcome(QPainter& painter) const;
     void DrawGuides(QPainter& painter, const QRect& seen) const;
 
@@ -64,6 +81,10 @@ private:
     bool isPixelGridShown_ = true;
     int welcome_ = -1;
     int wheelDelta_ = 0;  // what is left of a step
+    double shownScale_ = 1;
+    SelectionEdge edge_;
+    QTimer walk_;  // of the dashes along it
+    int step_ = 0;
 };
 
 }  // namespace orbelle::app

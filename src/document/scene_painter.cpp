@@ -1,5 +1,9 @@
 #include "document/scene_painter.h"
 
+#include <algorithm>
+#include <cmath>
+#include <vector>
+
 #include "graphics/checkerboard.h"
 #include "graphics/drawing_context.h"
 
@@ -11,8 +15,9 @@ namespace {
 
 constexpr Argb kCheckerLight = MakeArgb(255, 255, 255, 255);
 constexpr Argb kCheckerDark = MakeArgb(255, 240, 240, 240);
-constexpr Argb kPageShadow = MakeArgb(255, 128, 128, 128);
-constexpr float kShadowWidth = 20;
+constexpr double kShadowStrength = 0.35;  // of black
+constexpr int kShadowFade = 10;           // scene pixels
+constexpr int kShadowDrop = 3;
 constexpr Argb kPageFrame = MakeArgb(200, 0, 0, 0);
 
 RectF ToRectF(const RectI& rect) {
@@ -20,33 +25,68 @@ RectF ToRectF(const RectI& rect) {
             static_cast<float>(rect.Height)};
 }
 
+// How much of the shadow is seen along one side of the page, for the scene pixels from `from` on:
+// it comes up over the fade's width at the page's start, so that nothing of it is seen before the
+// page, and goes down again over the same width beyond `end`.
+std::vector<double> ShadowAlong(int from, int to, int start, int end) {
+    std::vector<double> strengths;
+    for (int at = from; at < to; ++at) {
+        const double inside = std::min(at - start, end - 1 + kShadowFade - at) + 0.5;
+        const double share = std::clamp(inside / kShadowFade, 0.0, 1.0);
+        strengths.push_back(share * share * (3 - 2 * share));
+    }
+    return strengths;
+}
+
+// On a scene that is all of one colour.
+void DrawPageShadow(Bitmap& scene, Argb ground, const RectI& page) {
+    const int right = page.X + page.Width, bottom = page.Y + page.Height;
+    const int fromX = std::max(page.X, 0), fromY = std::max(page.Y, 0);
+    const int toX = std::min(right + kShadowFade, scene.Width());
+    const int toY = std::min(bottom + kShadowDrop + kShadowFade, scene.Height());
+    if (fromX >= toX || fromY >= toY || (right >= toX && bottom >= toY))
+        return;
+    const std::vector<double> across = ShadowAlong(fromX, toX, page.X, right);
+    const std::vector<double> down =
+        ShadowAlong(fromY, toY, page.Y + kShadowDrop, bottom + kShadowDrop);
+    const auto shaded = [](unsigned channel, double light) {
+        return static_cast<unsigned>(std::lround(channel * light));
+    };
+    for (int y = fromY; y < toY; ++y) {
+        Argb* row = scene.MutableRow(y);
+        for (int x = y < bottom ? std::max(right, fromX) : fromX; x < toX; ++x) {
+            const double light = 1 - kShadowStrength * across[static_cast<std::size_t>(x - fromX)] *
+                                         down[static_cast<std::size_t>(y - fromY)];
+            row[x] = MakeArgb(255, shaded(RedOf(ground), light), shaded(GreenOf(ground), light),
+                              shaded(BlueOf(ground), light));
+        }
+    }
+}
+
 void DrawPageBackground(Bitmap& scene, Argb background, const RectI& page) {
-    DrawingContext context(scene);
-    const RectF rect = ToRectF(page);
     if (background != 0)
-        context.FillRectangle(SolidBrush{background}, rect);
+        DrawingContext(scene).FillRectangle(SolidBrush{background}, ToRectF(page));
     else
         DrawCheckerboard(scene, page, kCheckerDark, kCheckerLight);
-    const SolidBrush shadow{kPageShadow};
-    context.FillRectangle(shadow, {rect.X + rect.Width, rect.Y, kShadowWidth, rect.Height});
-    context.FillRectangle(shadow,
-                          {rect.X, rect.Y + rect.Height, rect.Width + kShadowWidth, kShadowWidth});
 }
 
 }  // namespace
 
 void DrawScene(Bitmap& scene, const Bitmap& canvas, Argb background, const View& view,
-               const Selection& selection) {
+               const Selection& selection, const SceneLooks& looks) {
     if (!view.ViewActive)
         return;
     if (scene.Width() != view.SceneWidth || scene.Height() != view.SceneHeight)
         scene = Bitmap(view.SceneWidth, view.SceneHeight);
     DrawingContext context(scene);
-    context.SetInterpolationMode(InterpolationMode::NearestNeighbor);
-    context.Clear(kSceneColor);
+    context.SetInterpolationMode(looks.SmoothWhenSmall && view.Zoom < 1
+                                     ? InterpolationMode::HighQuality
+                                     : InterpolationMode::NearestNeighbor);
+    context.Clear(looks.Ground);
 
     const RectI page = PageOnScene(canvas, view);
     const RectF rect = ToRectF(page);
+    DrawPageShadow(scene, looks.Ground, page);
     DrawPageBackground(scene, background, page);
     context.DrawRectangle({SolidBrush{kPageFrame}, 1},
                           {rect.X - 1, rect.Y - 1, rect.Width + 1, rect.Height + 1});

@@ -5,6 +5,7 @@
 #include <optional>
 
 #include "document/compositor.h"
+#include "document/scene_painter.h"
 #include "document/undo_history.h"
 #include "editing/changes.h"
 #include "editing/control_states.h"
@@ -26,6 +27,11 @@ struct Editor : EditorState {
     // belong together, and the clipboard is not taken back.
     std::optional<document::IconLayer> ClipboardLayer;
     Changes Changed;  // by the command that runs
+
+    // The host's wishes.
+    document::SceneLooks Looks;
+    bool AnimatesZoom = true;
+    double OpeningZoom = 1;  // 1 or more
 
     // Kept by Run.
     ControlStates States;

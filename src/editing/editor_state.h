@@ -36,6 +36,7 @@ struct ZoomState {
     // Of the master while the page of a size is in force.
     std::optional<document::View> MasterView;
 
+    double Target = 1;        // of the animation
     bool IsAnimated = false;  // TickZoomAnimation is to be run until this is false
 };
 

@@ -26,7 +26,7 @@ void PaintScene(Editor& editor) {
     // While a polygon is open its outline is shown in place of the selection.
     const bool polygonOpen = !editor.PolygonPoints.empty();
     document::DrawScene(editor.Scene, editor.Canvas, editor.Document.Background, editor.View,
-                        polygonOpen ? document::Selection() : editor.Selection);
+                        polygonOpen ? document::Selection() : editor.Selection, editor.Looks);
     if (polygonOpen)
         DrawOpenPolygon(editor);
 }

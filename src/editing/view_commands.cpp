@@ -75,10 +75,11 @@ double FillingZoom(int sceneWidth, int sceneHeight, const document::Page& page) 
     return std::min((sceneWidth - kMargin) / page.Width, (sceneHeight - kMargin) / page.Height);
 }
 
-// The same in tenths.
+// The same in whole steps from 1 on, else in tenths.
 double FitZoom(const Editor& editor) {
     const double zoom = FillingZoom(editor.View.SceneWidth, editor.View.SceneHeight, editor.Page());
-    return std::clamp(document::RoundToTenth(zoom), editor.Zoom.Minimum, editor.Zoom.Maximum);
+    return std::clamp(zoom >= 1 ? std::floor(zoom) : document::RoundToTenth(zoom),
+                      editor.Zoom.Minimum, editor.Zoom.Maximum);
 }
 
 void EnterOriginalSize(Editor& editor) {
@@ -188,15 +189,18 @@ void ZoomAboutMiddle(Editor& editor, double zoom) {
 }
 
 void StartZoomIn(Editor& editor) {
-    editor.Zoom.IsAnimated = true;
+    editor.Zoom.Target = editor.OpeningZoom;
+    editor.Zoom.IsAnimated = editor.AnimatesZoom;
     editor.Zoom.IsOriginalSize = false;
-    ZoomTo(editor, editor.Zoom.Minimum);
+    ZoomTo(editor, editor.AnimatesZoom ? editor.Zoom.Minimum : editor.Zoom.Target);
 }
 
 void TickZoomAnimation(Editor& editor) {
-    constexpr double kStep = 0.2, kTarget = 1;
-    ZoomTo(editor, std::min(editor.View.Zoom + kStep, kTarget));
-    editor.Zoom.IsAnimated = editor.View.Zoom < kTarget;
+    constexpr int kTicks = 4;
+    const ZoomState& zoom = editor.Zoom;
+    const double step = (zoom.Target - zoom.Minimum) / kTicks;
+    ZoomTo(editor, std::min(editor.View.Zoom + step, zoom.Target));
+    editor.Zoom.IsAnimated = editor.View.Zoom < zoom.Target;
 }
 
 }  // namespace orbelle::editing

@@ -22,8 +22,8 @@ void ScrollVertically(Editor& editor, int value);
 // middle comes into the middle.
 void ZoomIn(Editor& editor);
 void ZoomOut(Editor& editor);
-// A toggle: to zoom 1; back to the zoom before, or to one at which the whole page fits the window
-// when that was 1 or the page was resized since.
+// A toggle: to zoom 1; back to the zoom before, or to one at which the whole page fits the window,
+// whole from 1 on, when that was 1 or the page was resized since.
 void OriginalSize(Editor& editor);
 
 // The largest of the zooms 1, 2, 3 ... at which the whole page is seen on a scene of that size,
@@ -42,10 +42,11 @@ void ZoomOutAt(Editor& editor, float x, float y);
 // scrolling in tenths allows.
 void ZoomAboutMiddle(Editor& editor, double zoom);
 
-// Sets the least zoom and begins the animation up to 1.
+// A page has come: it is seen at the opening zoom. Sets the least zoom and begins the animation up
+// to that, unless the host wants none.
 void StartZoomIn(Editor& editor);
 
-// One tick of the zoom animation, 0.2 more.
+// One of the zoom animation's four ticks.
 void TickZoomAnimation(Editor& editor);
 
 }  // namespace orbelle::editing

@@ -1,6 +1,8 @@
 #include "widgets/theme.h"
 
+#include <QApplication>
 #include <QPainter>
+#include <QStyle>
 
 namespace orbelle::widgets {
 namespace {
@@ -72,6 +74,14 @@ QColor PressedColor() {
 
 QColor DisabledColor() {
     return Mixed(CurrentTheme().Ground, CurrentTheme().Note, 0.5);
+}
+
+QColor SceneColor() {
+    return CurrentShade() == Shade::Dark ? QColor(35, 37, 40) : QColor(74, 77, 82);
+}
+
+bool IsMotionWanted() {
+    return QApplication::style()->styleHint(QStyle::SH_Widget_Animation_Duration) > 0;
 }
 
 QFont ChromeFont(double points) {

@@ -37,6 +37,11 @@ QColor HoverColor();     // a face below the pointer
 QColor PressedColor();   // a face that is down, a row that is chosen
 QColor DisabledColor();  // words and lines of what can't be used
 
+QColor SceneColor();  // around the page
+
+// Whether the desktop lets things move by themselves.
+bool IsMotionWanted();
+
 // Sizes of text, points.
 inline constexpr double kSmallText = 8.25;
 inline constexpr double kNormalText = 9;

@@ -123,8 +123,27 @@ TEST_F(MainWindowTest, TheStatusLineFollowsWhatLiesUnderThePointer) {
         editor.Changed.Pixels = true;
     });
     EXPECT_EQ(Part<QLabel>("PointerColor").text(), "#FFF08010");
+    const auto chip = [&] { return Part<QLabel>("PointerColorChip").pixmap().toImage(); };
+    EXPECT_EQ(chip().pixel(7, 7), 0xFFF08010);
     window.Run([](editing::Editor& editor) { SetPageSize(editor, 44, 64); });
     EXPECT_EQ(Part<QLabel>("PointerPosition").text(), "-1, 5");
+    EXPECT_TRUE(chip().isNull());
+}
+
+TEST_F(MainWindowTest, TheStatusLineBeginsWithTheToolsHint) {
+    const auto& hint = Part<QLabel>("ToolHint");
+    EXPECT_EQ(hint.text(), "");
+    NewPage(64, 64);
+    QStringList hints;
+    for (const editing::Tool tool : {editing::Tool::Move, editing::Tool::FilledEllipse,
+                                     editing::Tool::SelectPolygon, editing::Tool::BrushEraser}) {
+        window.Run([tool](editing::Editor& editor) { editor.Tools.InUse = tool; });
+        hints += hint.text();
+        EXPECT_LE(hint.fontMetrics().horizontalAdvance(hint.text()), hint.width() - 8);
+        EXPECT_LT(hint.geometry().right(), Part<QLabel>("PointerPosition").x());
+    }
+    EXPECT_EQ(hints[1], "Drag to draw; Shift: circle");
+    EXPECT_EQ(hints.removeDuplicates(), 0);
 }
 
 TEST_F(MainWindowTest, TheStatusLineTellsPlaceAndSizeOfADrag) {

@@ -21,22 +21,57 @@
 #include "editing/layer_commands.h"
 #include "editing/view_commands.h"
 #include "widgets/panel_header.h"
+#include "widgets/theme.h"
 
 namespace orbelle::app {
 namespace {
 
 TEST_F(MainWindowTest, ShowsTheSceneAndTheFrameAroundTheLayer) {
-    EXPECT_EQ(Scene().grab().toImage().pixel(5, 5), document::kSceneColor);
+    const QRgb ground = widgets::SceneColor().rgb();
+    EXPECT_EQ(Scene().grab().toImage().pixel(5, 5), ground);
     OpenPicture(100, 60);
     const QImage shown = Scene().grab().toImage();
     EXPECT_EQ(window.windowTitle(), "Varnel Orbelle - Project *");
     EXPECT_EQ(shown.pixel(shown.width() / 2, shown.height() / 2), kRed);
     const auto frame = document::ObjectFrame(Page(), window.Editor().View);
     ASSERT_TRUE(frame);
-    const QRgb corner = shown.pixel(frame->X, frame->Y);
-    EXPECT_GT(qBlue(corner), qRed(corner) + 60);
-    EXPECT_EQ(shown.pixel(frame->X + frame->Width - 1, frame->Y + frame->Height - 1), corner);
-    EXPECT_EQ(shown.pixel(frame->X - 1, frame->Y - 1), document::kSceneColor);
+    // A light line between two dark ones, on all sides.
+    const QPoint first(frame->X, frame->Y),
+        last(first.x() + frame->Width - 1, first.y() + frame->Height - 1);
+    for (const auto& [place, out] : {std::pair(first, QPoint(-1, -1)), {last, QPoint(1, 1)}}) {
+        EXPECT_EQ(shown.pixel(place), 0xFFFFFFFF);
+        EXPECT_LT(qGray(shown.pixel(place + out)), 60);
+        EXPECT_LT(qGray(shown.pixel(place - out)), 60);
+    }
+    EXPECT_EQ(shown.pixel(first - QPoint(2, 2)), ground);
+    widgets::SetShade(widgets::Shade::Dark);
+    QEvent change(QEvent::PaletteChange);
+    QApplication::sendEvent(&Scene(), &change);
+    EXPECT_NE(widgets::SceneColor().rgb(), ground);
+    EXPECT_EQ(Scene().grab().toImage().pixel(5, 5), widgets::SceneColor().rgb());
+    widgets::SetShade(widgets::Shade::Light);
+}
+
+TEST_F(MainWindowTest, TheDashesOfASelectionLieAroundIt) {
+    OpenPicture(100, 60);
+    const QImage before = Scene().grab().toImage();
+    window.Run([](editing::Editor& editor) {
+        editor.Selection.AddFrame({20, 20, 10, 10}, document::FrameShape::Rectangle);
+        editor.Changed.Scene = true;
+    });
+    const QImage shown = Scene().grab().toImage();
+    const document::View& view = window.Editor().View;
+    const int zoom = static_cast<int>(view.Zoom);
+    const int left = PageOffsetX(Page(), view) + 20 * zoom;
+    const int top = PageOffsetY(Page(), view) + 20 * zoom;
+    int dark = 0, light = 0;
+    for (int x = left; x < left + 10 * zoom; ++x) {
+        dark += shown.pixel(x, top - 1) == 0xFF000000;
+        light += shown.pixel(x, top - 1) == 0xFFFFFFFF;
+    }
+    EXPECT_EQ(dark + light, 10 * zoom);
+    EXPECT_NEAR(dark, light, 4);
+    EXPECT_EQ(shown.pixel(left, top), before.pixel(left, top)) << "what is selected is not covered";
 }
 
 TEST_F(MainWindowTest, ScrollBarsMirrorTheView) {

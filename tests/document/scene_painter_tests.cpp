@@ -1,6 +1,6 @@
 #include "document/scene_painter.h"
 
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 #include <tuple>
 
@@ -14,7 +14,7 @@ using graphics::Bitmap;
 using graphics::RectI;
 using testing::FilledPicture;
 
-constexpr Argb kShadow = 0xFF808080, kDark = 0xFFF0F0F0, kLight = 0xFFFFFFFF;
+constexpr Argb kDark = 0xFFF0F0F0, kLight = 0xFFFFFFFF;
 constexpr Argb kBlue = 0xFF0000FF, kGreen = 0xFF00FF00;
 
 // A blank page in the middle of a scene of 100 x 60.
@@ -65,17 +65,18 @@ TEST(DrawScene, ShowsCheckerShadowAndFrameAroundThePage) {
     Shown shown(40, 20, 1);
     shown.ExpectPixels({{28, 30, kSceneColor}, {90, 30, kSceneColor}, {80, 19, kSceneColor}});
     shown.ExpectPixels({{32, 22, kDark}, {36, 22, kLight}, {32, 26, kLight}, {36, 26, kDark}});
-    shown.ExpectPixels(
-        {{72, 30, kShadow}, {89, 30, kShadow}, {31, 42, kShadow}, {89, 59, kShadow}});
+    // Black at 35 %, fading over 10 pixels, 3 further down; none before the page's left and top.
+    shown.ExpectPixels({{75, 36, 0xFF5E5E5E}, {75, 30, 0xFF606060}, {50, 45, 0xFF4E4E4E}});
+    shown.ExpectPixels({{31, 45, 0xFF6C6C6C}, {50, 42, 0xFF484848}, {29, 45, kSceneColor}});
+    shown.ExpectPixels({{75, 22, kSceneColor}, {80, 30, kSceneColor}, {50, 53, kSceneColor}});
     // Black at alpha 200 over the scene and the shadow, just outside (30, 20) to (69, 39).
     shown.ExpectPixels({{29, 19, 0xFF181818}, {29, 39, 0xFF181818}, {69, 19, 0xFF181818}});
-    shown.ExpectPixels({{70, 30, 0xFF1C1C1C}, {50, 40, 0xFF1C1C1C}, {70, 40, 0xFF1C1C1C}});
-    shown.ExpectPixels({{28, 30, kSceneColor}, {71, 30, kShadow}, {50, 41, kShadow}});
+    shown.ExpectPixels({{70, 30, 0xFF111111}, {50, 40, 0xFF101010}, {70, 40, 0xFF101010}});
     shown.ExpectPixels({{30, 20, kDark}, {69, 39, kDark}, {69, 34, kLight}});
     shown.background = kBlue;
     shown.canvas = FilledPicture(40, 20, kGreen);
     shown.canvas.SetPixel(5, 5, 0);
-    shown.ExpectPixels({{30, 20, kGreen}, {35, 25, kBlue}, {69, 39, kGreen}, {71, 39, kShadow}});
+    shown.ExpectPixels({{30, 20, kGreen}, {35, 25, kBlue}, {69, 39, kGreen}});
 }
 
 // Cells are counted from the page's corner, also where that lies beyond the scene.
@@ -96,9 +97,34 @@ TEST(DrawScene, BackgroundPictureAndOutlineOfAZoomedPageHaveOneCorner) {
     shown.canvas.SetPixel(1, 1, kGreen);
     shown.ExpectPixels({{39, 25, kGreen}, {41, 27, kGreen}, {42, 27, kBlue}, {38, 25, kBlue}});
     shown.ExpectPixels({{36, 22, kBlue}, {62, 22, kBlue}, {36, 36, kBlue}, {62, 36, kBlue}});
-    shown.ExpectPixels({{35, 30, 0xFF181818}, {63, 30, 0xFF1C1C1C}, {34, 30, kSceneColor}});
-    shown.ExpectPixels({{40, 21, 0xFF181818}, {40, 37, 0xFF1C1C1C}, {40, 20, kSceneColor}});
-    shown.ExpectPixels({{64, 22, kShadow}, {82, 56, kShadow}, {83, 30, kSceneColor}});
+    shown.ExpectPixels({{35, 30, 0xFF181818}, {34, 30, kSceneColor}, {73, 30, kSceneColor}});
+    shown.ExpectPixels({{40, 21, 0xFF181818}, {40, 20, kSceneColor}, {50, 50, kSceneColor}});
+    EXPECT_LT(shown.scene.GetPixel(63, 30), 0xFF181818) << "the outline over the shadow";
+    EXPECT_LT(shown.scene.GetPixel(50, 37), 0xFF181818);
+}
+
+// Green beside blue, at a zoom of 1 / 2 one pixel of each from two: filtered, they run into each
+// other.
+TEST(DrawScene, HasTheLooksThatTheHostWants) {
+    Shown shown(40, 40, 0.5);
+    shown.canvas = FilledPicture(40, 40, kGreen);
+    for (int y = 0; y < 40; ++y)
+        for (int x = 1; x < 40; x += 2)
+            shown.canvas.SetPixel(x, y, kBlue);
+    const auto middle = [&](const SceneLooks& looks) {
+        DrawScene(shown.scene, shown.canvas, 0, shown.view, {}, looks);
+        return *shown.scene.GetPixel(50, 30);
+    };
+    EXPECT_THAT(middle({}), ::testing::AnyOf(kGreen, kBlue));
+    const Argb mixed = middle({.SmoothWhenSmall = true});
+    EXPECT_NEAR(graphics::GreenOf(mixed), 128, 10);
+    EXPECT_NEAR(graphics::BlueOf(mixed), 128, 10);
+    middle({.Ground = 0xFF4A4D52});
+    EXPECT_EQ(shown.scene.GetPixel(5, 5), 0xFF4A4D52);
+    // Below the page's middle all of the shadow is seen: 35 % of black, beyond the outline.
+    EXPECT_EQ(shown.scene.GetPixel(50, 41), 0xFF303235);
+    shown.view.Zoom = 1;
+    EXPECT_EQ(middle({.SmoothWhenSmall = true}), kGreen);
 }
 
 TEST(DrawScene, StaysInsideTheSceneAtEveryZoom) {

@@ -17,6 +17,7 @@ protected:
         Do(NewDocument, width, height);
         while (editor.Zoom.IsAnimated)
             Do(TickZoomAnimation);
+        SetZoom(1);
     }
 
     std::vector<double> Series(void (*command)(Editor&), int steps) {
@@ -34,7 +35,7 @@ protected:
 };
 
 TEST_F(ViewCommands, ZoomStepsStayBetweenTheirEndsAndStopAtOne) {
-    Do(NewDocument, 10, 10);
+    Do(NewDocument, 512, 512);
     EXPECT_EQ(editor.View.Zoom, 0.2);
     EXPECT_TRUE(editor.Zoom.IsAnimated);
     EXPECT_THAT(Series(TickZoomAnimation, 5), ElementsAre(0.4, 0.6, 0.8, 1, 1));
@@ -115,12 +116,21 @@ TEST_F(ViewCommands, OriginalSizeGoesBackToTheZoomBeforeOrToAFit) {
     Page(100, 119);
     Do(OriginalSize);
     Do(OriginalSize);
-    EXPECT_EQ(editor.View.Zoom, 6.4);  // (768 - 4) / 119, in tenths
+    EXPECT_EQ(editor.View.Zoom, 6);  // of (768 - 4) / 119
     Do(ZoomOut);
     Do(OriginalSize);
     Do(SetPageSize, 417, 119);
     Do(OriginalSize);
-    EXPECT_EQ(editor.View.Zoom, 2.4);  // (1024 - 4) / 417
+    EXPECT_EQ(editor.View.Zoom, 2);  // of (1024 - 4) / 417
+    Do(ResizeScene, 204, 768);
+    Do(OriginalSize);
+    Do(OriginalSize);
+    EXPECT_EQ(editor.View.Zoom, 2) << "the zoom before";
+    Do(SetPageSize, 500, 119);
+    Do(OriginalSize);
+    Do(OriginalSize);
+    EXPECT_EQ(editor.View.Zoom, 0.4);  // (204 - 4) / 500
+    Do(ResizeScene, 1024, 768);
     Page(200, 190);
     Do(OriginalSize);
     Do(OriginalSize);
@@ -162,6 +172,17 @@ TEST_F(ViewCommands, AnyZoomKeepsTheMiddleOfTheScene) {
         Do(ZoomAboutMiddle, wanted);
         EXPECT_EQ(editor.View.Zoom, zoom);
     }
+}
+
+TEST_F(ViewCommands, APageOpensAtTheZoomThatTheHostWants) {
+    editor.OpeningZoom = 2;
+    Do(NewDocument, 16, 16);
+    EXPECT_THAT(Series(TickZoomAnimation, 4), ElementsAre(0.7, 1.1, 1.6, 2));
+    EXPECT_FALSE(editor.Zoom.IsAnimated);
+    editor.AnimatesZoom = false;
+    Do(OpenPicture, graphics::Bitmap(64, 64), "");
+    EXPECT_FALSE(editor.Zoom.IsAnimated);
+    EXPECT_EQ(editor.View.Zoom, 2);
 }
 
 TEST_F(ViewCommands, FitWholeTakesTheLargestWholeStepThatShowsThePage) {
