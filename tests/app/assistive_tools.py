@@ -5,7 +5,7 @@ import time
 import gi
 
 gi.require_version("Atspi", "2.0")
-from gi.repository import Atspi
+from gi.repository import Atspi, GLib
 
 SECONDS = 20
 faults = []
@@ -14,7 +14,10 @@ faults = []
 def wait_for(find):
     until = time.monotonic() + SECONDS
     while time.monotonic() < until:
-        found = find()
+        try:
+            found = find()
+        except (GLib.Error, AttributeError):  # what was asked is gone, or not there yet
+            found = None
         if found:
             return found
         time.sleep(0.05)
