@@ -108,7 +108,7 @@ take_grounds() { # FILE
         start_program "$1"
         xdotool mousemove $(at 500 200)
         take sizes-grounds
-        mogrify -crop $((826 * scale))x$((191 * scale))+$((26 * scale))+$((453 * scale)) +repage "$taken"
+        mogrify -crop $((796 * scale))x$((196 * scale))+$((40 * scale))+$((453 * scale)) +repage "$taken"
         strips+=("$work/ground-$ground.png")
         mv "$taken" "${strips[-1]}"
         stop_program
@@ -133,12 +133,12 @@ pictures_at() { # SCALE
     start_program "$PWD/samples/ok-badge.volf"
     xdotool mousemove $(at 500 700)
     take layers
-    click 13 224
+    click 19 216
     take fill-kinds
-    click 13 106
+    click 19 104
     take selection-kinds
-    click 13 330
-    click 52 330
+    click 19 326
+    click 58 326
     sleep 1.2
     xdotool mousemove $(at 420 330) mousemove $(at 424 334)
     take brush-eraser
@@ -162,7 +162,7 @@ pictures_at() { # SCALE
 
     make_home USED 1
     start_program "$PWD/samples/glass-folder.volf"
-    click 13 249
+    click 19 241
     take tips
     stop_program
 
@@ -177,10 +177,10 @@ pictures_at() { # SCALE
     make_home USED
     sed -i /SizesClosed/d "$home/OrbelleWork.conf"
     start_program "$PWD/samples/ok-badge.volf"
-    click 455 600
+    click 428 612
     xdotool mousemove $(at 500 200)
     take sizes
-    click 455 600 3
+    click 428 612 3
     xdotool key s
     sleep 1
     take suggest

@@ -70,10 +70,11 @@ TEST(WindowStatesTest, NoWordIsCutAndNothingOverlaps) {
                 << name.toStdString() << ": " << Describe(*widget);
             for (const QObject* other : widget->parentWidget()->children()) {
                 const auto* sibling = qobject_cast<const QWidget*>(other);
-                if (sibling && sibling != widget && sibling->isVisible())
+                if (sibling && sibling != widget && sibling->isVisible()) {
                     EXPECT_FALSE(Overlap(*widget, *sibling))
                         << name.toStdString() << ": " << Describe(*widget) << " and "
                         << Describe(*sibling);
+                }
             }
         }
     });
