@@ -1,14 +1,13 @@
 #include "app/new_icon_dialog.h"
 
-#include <QButtonGroup>
 #include <QDialogButtonBox>
 #include <QGridLayout>
 #include <QLabel>
-#include <QToolButton>
 #include <QVBoxLayout>
 
 #include "app/message_boxes.h"
 #include "app/settings.h"
+#include "app/size_presets.h"
 #include "document/document.h"
 #include "editing/document_commands.h"
 #include "widgets/number_slider.h"
@@ -35,7 +34,9 @@ NewIconDialog::NewIconDialog(QWidget* parent) : QDialog(parent) {
     pageWidth_ = AddSide(*rows, "PageWidth", "&Width:", kNewWidth);
     pageHeight_ = AddSide(*rows, "PageHeight", "&Height:", kNewHeight);
 
-    layout->addLayout(AddPresets());
+    presets_ = new SizePresets;
+    layout->addWidget(presets_);
+    AddPresets();
     ShowPreset();
 
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
@@ -85,36 +86,19 @@ widgets::NumberSlider* NewIconDialog::AddSide(QGridLayout& rows, const char* nam
     return side;
 }
 
-// One stop for Tab; arrow keys go from one to the next.
-QLayout* NewIconDialog::AddPresets() {
-    auto* row = new QHBoxLayout;
-    row->setSpacing(2);
-    presets_ = new QButtonGroup(this);
-    for (const int side : kPresets) {
-        auto* button = new QToolButton;
-        button->setText(QString::number(side));
-        button->setAccessibleName(QString("%1 x %1").arg(side));
-        button->setToolTip(button->accessibleName());
-        button->setAutoRaise(true);
-        button->setCheckable(true);
-        button->setFocusPolicy(Qt::StrongFocus);
-        presets_->addButton(button, side);
-        row->addWidget(button);
-    }
-    connect(presets_, &QButtonGroup::idClicked, this, [this](int side) {
+void NewIconDialog::AddPresets() {
+    for (const int side : kPresets)
+        presets_->Add(side, QString::number(side), QString("%1 x %1").arg(side));
+    connect(presets_, &SizePresets::Chosen, this, [this](int side) {
         pageWidth_->SetValue(side);
         pageHeight_->SetValue(side);
     });
-    return row;
 }
 
 // The one that both sides have, if any.
 void NewIconDialog::ShowPreset() {
     const PageSize size = Size();
-    presets_->setExclusive(false);
-    for (QAbstractButton* button : presets_->buttons())
-        button->setChecked(size.Width == size.Height && presets_->id(button) == size.Width);
-    presets_->setExclusive(true);
+    presets_->Show(size.Width == size.Height ? size.Width : 0);
 }
 
 }  // namespace orbelle::app

@@ -5,7 +5,6 @@
 
 #include "app/user_questions.h"
 
-class QButtonGroup;
 class QGridLayout;
 
 namespace orbelle::widgets {
@@ -13,6 +12,8 @@ class NumberSlider;
 }
 
 namespace orbelle::app {
+
+class SizePresets;
 
 // Starts with the size chosen last; one press takes one of the usual sizes. OK with a side outside
 // 1 to 512 shows a message and leaves the dialog open, with that side to be typed anew; otherwise
@@ -29,12 +30,12 @@ public:
 private:
     widgets::NumberSlider* AddSide(QGridLayout& rows, const char* name, const QString& caption,
                                    const char* setting);
-    QLayout* AddPresets();
+    void AddPresets();
     void ShowPreset();
 
     widgets::NumberSlider* pageWidth_;
     widgets::NumberSlider* pageHeight_;
-    QButtonGroup* presets_;
+    SizePresets* presets_;
 };
 
 }  // namespace orbelle::app

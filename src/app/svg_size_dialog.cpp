@@ -1,13 +1,12 @@
 #include "app/svg_size_dialog.h"
 
-#include <QButtonGroup>
 #include <QDialogButtonBox>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QToolButton>
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "app/size_presets.h"
 #include "graphics/codecs/image_files.h"
 #include "widgets/number_slider.h"
 
@@ -45,7 +44,9 @@ SvgSizeDialog::SvgSizeDialog(const PageSize& own, QWidget* parent) : QDialog(par
     row->addWidget(new QLabel("px"));
     layout->addLayout(row);
 
-    layout->addLayout(AddPresets(longer));
+    presets_ = new SizePresets;
+    layout->addWidget(presets_);
+    AddPresets(longer);
     ShowPreset();
 
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
@@ -64,36 +65,20 @@ void SvgSizeDialog::accept() {
     QDialog::accept();
 }
 
-// One stop for Tab; arrow keys go from one to the next.
-QLayout* SvgSizeDialog::AddPresets(int own) {
-    auto* row = new QHBoxLayout;
-    row->setSpacing(2);
-    presets_ = new QButtonGroup(this);
-    const auto add = [&](int side, const QString& text) {
-        auto* button = new QToolButton;
-        button->setText(text);
-        button->setAccessibleName(QString("%1 pixels").arg(side));
-        button->setToolTip(button->accessibleName());
-        button->setAutoRaise(true);
-        button->setCheckable(true);
-        button->setFocusPolicy(Qt::StrongFocus);
-        presets_->addButton(button, side);
-        row->addWidget(button);
+void SvgSizeDialog::AddPresets(int own) {
+    const auto add = [this](int side, const QString& text) {
+        presets_->Add(side, text, QString("%1 pixels").arg(side));
     };
     const int first = side_->Value();
     if (std::ranges::find(kPresets, first) == std::end(kPresets))
         add(first, first == own ? "Own" : QString::number(first));
     for (const int side : kPresets)
         add(side, QString::number(side));
-    connect(presets_, &QButtonGroup::idClicked, side_, [this](int side) { side_->SetValue(side); });
-    return row;
+    connect(presets_, &SizePresets::Chosen, side_, [this](int side) { side_->SetValue(side); });
 }
 
 void SvgSizeDialog::ShowPreset() {
-    presets_->setExclusive(false);
-    for (QAbstractButton* button : presets_->buttons())
-        button->setChecked(presets_->id(button) == side_->Value());
-    presets_->setExclusive(true);
+    presets_->Show(side_->Value());
 }
 
 }  // namespace orbelle::app

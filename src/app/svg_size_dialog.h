@@ -5,13 +5,13 @@
 
 #include "app/user_questions.h"
 
-class QButtonGroup;
-
 namespace orbelle::widgets {
 class NumberSlider;
 }
 
 namespace orbelle::app {
+
+class SizePresets;
 
 // Begins with the drawing's own size, as far as it can be drawn so; one press takes one of the
 // usual sizes. The longer side counts.
@@ -25,11 +25,11 @@ public:
     void accept() override;
 
 private:
-    QLayout* AddPresets(int own);
+    void AddPresets(int own);
     void ShowPreset();
 
     widgets::NumberSlider* side_;
-    QButtonGroup* presets_;
+    SizePresets* presets_;
 };
 
 }  // namespace orbelle::app
