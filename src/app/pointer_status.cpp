@@ -9,6 +9,7 @@
 #include "editing/drag_readout.h"
 #include "editing/scene_mapping.h"
 #include "widgets/theme.h"
+#include "widgets/words.h"
 
 namespace orbelle::app {
 namespace {
@@ -64,11 +65,12 @@ QPixmap Chip(const QColor& color, double scale) {
 
 PointerStatus::PointerStatus(QStatusBar& line)
     : hint_(AddHint(line)),
-      position_(AddField(line, "PointerPosition", QObject::tr("Position"), "-000, -000")),
-      drag_(AddField(line, "DragReadout", QObject::tr("Size"), "000 x 000 at 000, 000")),
+      position_(AddField(line, "PointerPosition", Words::tr("Position"), "-000, -000")),
+      drag_(AddField(line, "DragReadout", Words::tr("Size"),
+                     Words::tr("%1 %2 %3 at %4, %5").arg("000", "x", "000", "000", "000"))),
       chip_(AddChip(line)),
-      color_(AddField(line, "PointerColor", QObject::tr("Color under the pointer"), "#FFDDDDDD")),
-      zoom_(AddField(line, "Zoom", QObject::tr("Zoom"), "2000%")) {}
+      color_(AddField(line, "PointerColor", Words::tr("Color under the pointer"), "#FFDDDDDD")),
+      zoom_(AddField(line, "Zoom", Words::tr("Zoom"), "2000%")) {}
 
 void PointerStatus::ShowPointer(const editing::Editor& editor, float x, float y) {
     pointer_ = {x, y};
@@ -115,12 +117,12 @@ void PointerStatus::ShowDrag(const editing::Editor& editor) {
     if (!readout)
         return drag_->clear();
     const auto& [x, y, width, height] = readout->Area;
-    drag_->setText(readout->IsMove ? QString("at %1, %2, moved by %3, %4")
+    drag_->setText(readout->IsMove ? Words::tr("at %1, %2, moved by %3, %4")
                                          .arg(x)
                                          .arg(y)
                                          .arg(readout->MovedX)
                                          .arg(readout->MovedY)
-                                   : QString("%1 %2 %3 at %4, %5")
+                                   : Words::tr("%1 %2 %3 at %4, %5")
                                          .arg(width)
                                          .arg(QChar(0x00D7))
                                          .arg(height)
