@@ -116,6 +116,9 @@ std::optional<QString> TranslationOf(const QString& text) {
 }  // namespace
 
 QString TranslatedText(std::string_view text) {
+    // Most commands have nothing to tell.
+    if (text.empty())
+        return {};
     return TranslatedOrSame(QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())));
 }
 
