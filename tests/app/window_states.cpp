@@ -241,12 +241,8 @@ private:
         LookAtDialog("save", save);
         WelcomeWindow about;
         LookAtDialog("about", about);
-        for (QPushButton* button : save.findChildren<QPushButton*>()) {
-            button->setDown(true);
-            LookAtDialog("save-down", save);
-            button->setDown(false);
-            break;
-        }
+        save.findChild<QPushButton*>()->setDown(true);
+        LookAtDialog("save-down", save);
         LookAtRecovery();
         LookAtProgress();
         QWidget* parent = window_.get();
