@@ -72,7 +72,9 @@ void LayerList::PaintRow(QPainter& painter, int row) {
     // What is dragged or hidden has a paler picture; its words are as easily read.
     painter.setOpacity((IsDragged(row) ? kDraggedOpacity : 1) *
                        (rows_[layer].Visible ? 1 : kHiddenOpacity));
-    DrawGreyChecks(painter, box);
+    painter.setBrushOrigin(box.topLeft());
+    painter.fillRect(box, GreyChecks());
+    painter.setBrushOrigin(0, 0);
     PaintThumbnail(painter, box, layer);
     painter.setOpacity(1);
     if (layer != renamed_)
