@@ -96,6 +96,8 @@ BottomPanel::BottomPanel(const WindowContext& context) : context_(context) {
         groups->addWidget(group);
     groups->addStretch(1);
     column->addWidget(content_);
+    // Folded, it does not let the window become so narrow that words above and below are cut.
+    title_->setMinimumWidth(content_->minimumSizeHint().width());
     brush_ = new BrushPanel(context.Commands, content_);
     content_->installEventFilter(this);
     connect(title_, &widgets::PanelHeader::Clicked, content_,

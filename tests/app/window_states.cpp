@@ -63,6 +63,7 @@ public:
     Tour(const QString& samples, const Look& look) : samples_(samples), look_(look) {}
 
     void Run() {
+        Settings().clear();
         LookAtStarts();
         LookAtDocuments();
         LookAtHands();
