@@ -198,6 +198,9 @@ private:
             window_->Run([tool = tool](editing::Editor& editor) { ChooseToolEntry(editor, tool); });
             LookAtWindow(QString("tool-") + name);
         }
+        window_->Run([](editing::Editor& editor) { ChooseToolEntry(editor, Tool::BrushEraser); });
+        WaitUntil([&] { return Part<QWidget>("BrushPanel").y() == 0; });
+        LookAtWindow("tool-brush");
         window_->statusBar()->showMessage("Exported icon.ico: 2.1 KB");
         LookAtWindow("status");
     }
