@@ -148,6 +148,8 @@ private:
     // Controls below the pointer, held down, with the keys.
     void LookAtHands() {
         OpenSample("envelope.volf");
+        window_->Run(
+            [](editing::Editor& editor) { ChooseToolEntry(editor, editing::Tool::Pencil); });
         auto& bar = Part<widgets::ButtonBar>("MainBar");
         const QPointF first = bar.ButtonRect(1).center();
         Hover(bar, first);
