@@ -1,5 +1,7 @@
 #include "app/ask_commands.h"
 
+#include <QStringList>
+
 #include "app/import_files.h"
 #include "app/recent_files.h"
 #include "app/save_commands.h"
@@ -8,6 +10,7 @@
 #include "editing/document_commands.h"
 #include "editing/page_commands.h"
 #include "editing/size_commands.h"
+#include "widgets/words.h"
 
 namespace orbelle::app {
 
@@ -17,15 +20,34 @@ using editing::Editor;
 
 namespace {
 
-constexpr char kPictureFilters[] =
-    "|ICO Files (*.ICO)|*.ico|PNG Files (*.PNG)|*.png|GIF Files (*.GIF)|*.gif"
-    "|JPEG Files (*.JPG;*.JPEG)|*.jpg;*.jpeg|BMP Files (*.BMP)|*.bmp|CUR Files (*.CUR)|*.cur"
-    "|WebP Files (*.WEBP)|*.webp|SVG Files (*.SVG;*.SVGZ)|*.svg;*.svgz";
-constexpr char kOpenFilter[] =
-    "All Supported Formats|*.volf;*.ico;*.png;*.gif;*.jpg;*.jpeg;*.bmp;*.cur;*.webp;*.svg;*.svgz"
-    "|Varnel Orbelle Files (*.VOLF)|*.volf";
-constexpr char kImportFilter[] =
-    "All Supported Formats|*.ico;*.png;*.gif;*.jpg;*.jpeg;*.bmp;*.cur;*.webp;*.svg;*.svgz";
+// "text|patterns" of each kind of picture that is read.
+QString PictureFilters() {
+    return QStringList{Words::tr("ICO Files (*.ICO)"),         "*.ico",
+                       Words::tr("PNG Files (*.PNG)"),         "*.png",
+                       Words::tr("GIF Files (*.GIF)"),         "*.gif",
+                       Words::tr("JPEG Files (*.JPG;*.JPEG)"), "*.jpg;*.jpeg",
+                       Words::tr("BMP Files (*.BMP)"),         "*.bmp",
+                       Words::tr("CUR Files (*.CUR)"),         "*.cur",
+                       Words::tr("WebP Files (*.WEBP)"),       "*.webp",
+                       Words::tr("SVG Files (*.SVG;*.SVGZ)"),  "*.svg;*.svgz"}
+        .join('|');
+}
+
+constexpr char kPicturePatterns[] =
+    "*.ico;*.png;*.gif;*.jpg;*.jpeg;*.bmp;*.cur;*.webp;*.svg;*.svgz";
+
+std::string OpenFilter() {
+    return QStringList{Words::tr("All Supported Formats"), QString("*.volf;") + kPicturePatterns,
+                       Words::tr("Varnel Orbelle Files (*.VOLF)"), "*.volf", PictureFilters()}
+        .join('|')
+        .toStdString();
+}
+
+std::string ImportFilter() {
+    return QStringList{Words::tr("All Supported Formats"), kPicturePatterns, PictureFilters()}
+        .join('|')
+        .toStdString();
+}
 
 void OpenPath(const WindowContext& context, const fs::path& path) {
     TakeAnswers answers;
@@ -47,7 +69,7 @@ void AskNew(const WindowContext& context) {
 void AskOpen(const WindowContext& context) {
     if (!MayGiveUpDocument(context))
         return;
-    const fs::path path = context.User.AskFile(std::string(kOpenFilter) + kPictureFilters);
+    const fs::path path = context.User.AskFile(OpenFilter());
     if (!path.empty())
         OpenPath(context, path);
 }
@@ -56,7 +78,9 @@ void OpenRecent(const WindowContext& context, const fs::path& path) {
     std::error_code unknown;
     if (fs::status(path, unknown).type() == fs::file_type::not_found) {
         context.Recent.Forget(path);
-        context.User.ShowMessage(path.string() + ": the file is not there any more");
+        context.User.ShowMessage(Words::tr("%1: the file is not there any more")
+                                     .arg(QString::fromStdString(path.string()))
+                                     .toStdString());
         return;
     }
     if (MayGiveUpDocument(context))
@@ -72,7 +96,7 @@ void OpenHandedOver(const WindowContext& context, std::string_view command) {
 }
 
 void AskImport(const WindowContext& context) {
-    const fs::path path = context.User.AskFile(std::string(kImportFilter) + kPictureFilters);
+    const fs::path path = context.User.AskFile(ImportFilter());
     if (!path.empty())
         ImportFiles(context, {path});
 }
@@ -82,7 +106,8 @@ void AskPageBackground(const WindowContext& context) {
     if (!editor.States.IsEnabled(editing::CommandId::PageBackground))
         return;
     const graphics::Argb old = editor.Document.Background;
-    const ColorQuestion question{"Page Background", old, graphics::SetAlphaByte(old, 255)};
+    const ColorQuestion question{QT_TRANSLATE_NOOP("Words", "Page Background"), old,
+                                 graphics::SetAlphaByte(old, 255)};
     if (const auto color = context.User.AskColor(question))
         context.Commands.Run([&](Editor& changed) {
             SetPageBackground(changed, graphics::SetAlphaByte(*color, 255));
@@ -93,8 +118,9 @@ void AskWellColor(const WindowContext& context, int well) {
     const graphics::Argb present =
         context.Commands.Editor().Tools.Colors[static_cast<std::size_t>(well)];
     const std::optional<graphics::Argb> chosen =
-        context.User.AskColor({well == 0 ? "Foreground Color" : "Background Color", present,
-                               editing::ColorToChoose(present), true});
+        context.User.AskColor({well == 0 ? QT_TRANSLATE_NOOP("Words", "Foreground Color")
+                                         : QT_TRANSLATE_NOOP("Words", "Background Color"),
+                               present, editing::ColorToChoose(present), true});
     context.Commands.Run([&](Editor& editor) {
         if (chosen)
             ChooseWellColor(editor, well, *chosen);

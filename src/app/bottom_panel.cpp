@@ -19,6 +19,7 @@
 #include "widgets/panel_header.h"
 #include "widgets/theme.h"
 #include "widgets/track_slider.h"
+#include "widgets/words.h"
 
 namespace orbelle::app {
 namespace {
@@ -29,14 +30,14 @@ constexpr int kSliderWidth = 120;
 constexpr int kGroupGap = 28;
 constexpr int kWidePen = 2;  // around the well in use
 
-QLabel* Caption(const char* text) {
+QLabel* Caption(const QString& text) {
     auto* label = new QLabel(text);
     label->setObjectName("caption");
     return label;
 }
 
 // A caption above its controls.
-QWidget* Group(const char* caption, QLayout* controls) {
+QWidget* Group(const QString& caption, QLayout* controls) {
     auto* group = new QWidget;
     auto* column = new QVBoxLayout(group);
     column->setContentsMargins(0, 0, 0, 0);
@@ -66,7 +67,7 @@ void Mirror(widgets::NumberSlider& shown, const editing::Slider& slider) {
         shown.SetValue(slider.Value);
 }
 
-QToolButton* PictureButton(const char* artwork, const char* tip) {
+QToolButton* PictureButton(const char* artwork, const QString& tip) {
     auto* button = new QToolButton;
     button->setIcon(widgets::ArtworkIcon(artwork));
     button->setAutoRaise(true);
@@ -82,7 +83,7 @@ BottomPanel::BottomPanel(const WindowContext& context) : context_(context) {
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
-    title_ = new widgets::PanelHeader("Properties");
+    title_ = new widgets::PanelHeader(Words::tr("Properties"));
     title_->setObjectName("Properties");
     column->addWidget(title_);
 
@@ -102,7 +103,7 @@ BottomPanel::BottomPanel(const WindowContext& context) : context_(context) {
 }
 
 QWidget* BottomPanel::AddPageSize() {
-    const auto side = [this](const char* name, const char* caption,
+    const auto side = [this](const char* name, const QString& caption,
                              editing::Slider editing::Sliders::*state,
                              void (*change)(Editor&, int)) {
         auto* slider = new widgets::NumberSlider;
@@ -123,11 +124,12 @@ QWidget* BottomPanel::AddPageSize() {
         GiveFocusBack(*slider);
         return slider;
     };
-    pageWidth_ =
-        side("PageWidth", "Page width", &editing::Sliders::PageWidth, editing::ChangePageWidth);
-    pageHeight_ =
-        side("PageHeight", "Page height", &editing::Sliders::PageHeight, editing::ChangePageHeight);
-    return Group("Page size", Row({pageWidth_, new QLabel(QString(QChar(0x00D7))), pageHeight_}));
+    pageWidth_ = side("PageWidth", Words::tr("Page width"), &editing::Sliders::PageWidth,
+                      editing::ChangePageWidth);
+    pageHeight_ = side("PageHeight", Words::tr("Page height"), &editing::Sliders::PageHeight,
+                       editing::ChangePageHeight);
+    return Group(Words::tr("Page size"),
+                 Row({pageWidth_, new QLabel(QString(QChar(0x00D7))), pageHeight_}));
 }
 
 void BottomPanel::GiveFocusBack(widgets::NumberSlider& slider) {
@@ -136,11 +138,11 @@ void BottomPanel::GiveFocusBack(widgets::NumberSlider& slider) {
 }
 
 QWidget* BottomPanel::AddBackground() {
-    backgroundSwatch_ = new ColorWell("Page background");
+    backgroundSwatch_ = new ColorWell(Words::tr("Page background"));
     backgroundSwatch_->setObjectName("BackgroundSwatch");
-    backgroundSwatch_->setToolTip("Page background");
+    backgroundSwatch_->setToolTip(Words::tr("Page background"));
     connect(backgroundSwatch_, &ColorWell::Clicked, this, [this] { AskPageBackground(context_); });
-    QToolButton* none = PictureButton("tools/no-colour", "No page background");
+    QToolButton* none = PictureButton("tools/no-colour", Words::tr("No page background"));
     none->setObjectName("NoBackground");
     connect(none, &QToolButton::pressed, this, [this] {
         context_.Commands.Run([](Editor& editor) {
@@ -148,32 +150,32 @@ QWidget* BottomPanel::AddBackground() {
                 SetPageBackground(editor, 0);
         });
     });
-    return Group("Background", Row({backgroundSwatch_, none}));
+    return Group(Words::tr("Background"), Row({backgroundSwatch_, none}));
 }
 
 QWidget* BottomPanel::AddColors() {
-    const char* const names[] = {"Foreground color", "Background color"};
+    const QString names[] = {Words::tr("Foreground color"), Words::tr("Background color")};
     for (int i = 0; i < 2; ++i) {
         auto* well = new ColorWell(names[i]);
         well->setObjectName(QString("ForeColorOLE%1").arg(i));
-        well->setToolTip(QString("%1: click to use it, double-click to change it").arg(names[i]));
+        well->setToolTip(Words::tr("%1: click to use it, double-click to change it").arg(names[i]));
         connect(well, &ColorWell::Clicked, this, [this, i] {
             context_.Commands.Run([i](Editor& editor) { UseColorWell(editor, i); });
         });
         connect(well, &ColorWell::DoubleClicked, this, [this, i] { AskWellColor(context_, i); });
         wells_[static_cast<std::size_t>(i)] = well;
     }
-    QToolButton* exchange = PictureButton("tools/swap", "Exchange the colors");
+    QToolButton* exchange = PictureButton("tools/swap", Words::tr("Exchange the colors"));
     exchange->setObjectName("ExchangeColor");
     connect(exchange, &QToolButton::clicked, this,
             [this] { context_.Commands.Run(editing::ExchangeColor); });
-    return Group("Colors", Row({wells_[0], exchange, wells_[1]}));
+    return Group(Words::tr("Colors"), Row({wells_[0], exchange, wells_[1]}));
 }
 
 QWidget* BottomPanel::AddOptions() {
     colorOpacity_ = new widgets::TrackSlider;
     colorOpacity_->setObjectName("ColorOpacity");
-    colorOpacity_->setAccessibleName("Color opacity");
+    colorOpacity_->setAccessibleName(Words::tr("Color opacity"));
     const editing::Slider opacity = editing::Sliders().ColorOpacity;
     colorOpacity_->setRange(opacity.Minimum, opacity.Maximum);
     colorOpacity_->setFixedWidth(kSliderWidth);
@@ -184,7 +186,7 @@ QWidget* BottomPanel::AddOptions() {
     opacityValue_->setFixedWidth(40);
     lineWidth_ = new widgets::NumberSlider;
     lineWidth_->setObjectName("LineWidth");
-    lineWidth_->setAccessibleName("Line width");
+    lineWidth_->setAccessibleName(Words::tr("Line width"));
     connect(lineWidth_, &widgets::NumberSlider::Changed, this, [this](int value) {
         context_.Commands.Run([value](Editor& editor) { ChangeLineWidth(editor, value); });
     });
@@ -193,8 +195,8 @@ QWidget* BottomPanel::AddOptions() {
     auto* row = new QHBoxLayout(both);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(kGroupGap);
-    row->addWidget(Group("Color opacity", Row({colorOpacity_, opacityValue_})));
-    row->addWidget(Group("Line width", Row({lineWidth_})));
+    row->addWidget(Group(Words::tr("Color opacity"), Row({colorOpacity_, opacityValue_})));
+    row->addWidget(Group(Words::tr("Line width"), Row({lineWidth_})));
     return both;
 }
 

@@ -8,6 +8,7 @@
 #include "editing/tool_palette.h"
 #include "widgets/theme.h"
 #include "widgets/track_slider.h"
+#include "widgets/words.h"
 
 namespace orbelle::app {
 namespace {
@@ -27,7 +28,7 @@ BrushPanel::BrushPanel(CommandRunner& commands, QWidget* parent) : QWidget(paren
     rows->setContentsMargins(12, 8, 12, 8);
     rows->setHorizontalSpacing(8);
     rows->setVerticalSpacing(6);
-    const auto addRow = [&](int row, const char* caption, const char* name, QLabel*& value,
+    const auto addRow = [&](int row, const QString& caption, const char* name, QLabel*& value,
                             editing::Slider editing::Sliders::*state,
                             void (*change)(editing::Editor&, int)) {
         const editing::Slider range = editing::Sliders().*state;
@@ -46,9 +47,9 @@ BrushPanel::BrushPanel(CommandRunner& commands, QWidget* parent) : QWidget(paren
         });
         return slider;
     };
-    size_ = addRow(0, "Brush size", "BrushSize", sizeValue_, &editing::Sliders::BrushSize,
-                   editing::ChangeBrushSize);
-    opacity_ = addRow(1, "Brush opacity", "BrushOpacity", opacityValue_,
+    size_ = addRow(0, Words::tr("Brush size"), "BrushSize", sizeValue_,
+                   &editing::Sliders::BrushSize, editing::ChangeBrushSize);
+    opacity_ = addRow(1, Words::tr("Brush opacity"), "BrushOpacity", opacityValue_,
                       &editing::Sliders::BrushOpacity, editing::ChangeBrushOpacity);
     slide_.setInterval(kSlideMilliseconds);
     blink_.setInterval(kBlinkMilliseconds);

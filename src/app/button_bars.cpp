@@ -12,6 +12,7 @@
 #include "editing/tool_palette.h"
 #include "editing/undo_commands.h"
 #include "editing/view_commands.h"
+#include "widgets/words.h"
 
 namespace orbelle::app {
 namespace {
@@ -22,80 +23,95 @@ using widgets::ButtonBarSetup;
 constexpr widgets::ButtonBarMetrics kMainMetrics = {.FaceSize = {28, 28}, .Margin = 6, .Gap = 6};
 
 // In the order of the editor's numbers.
-const ButtonBarSetup kMainBar = {
-    .Metrics = kMainMetrics,
-    .Buttons = {{.ToolTip = "New", .Artwork = "main/new"},
-                {.ToolTip = "Open", .Artwork = "main/open"},
-                {.ToolTip = "Import", .Artwork = "main/import"},
-                {.ToolTip = "Save", .Artwork = "main/save"},
-                {.IsSeparator = true},
-                {.ToolTip = "Undo", .Artwork = "main/undo"},
-                {.ToolTip = "Redo", .Artwork = "main/redo"},
-                {.IsSeparator = true},
-                {.ToolTip = "Zoom In", .Artwork = "main/zoom-in"},
-                {.ToolTip = "Zoom Out", .Artwork = "main/zoom-out"},
-                {.ToolTip = "Original Size", .Artwork = "main/original-size", .Latches = true},
-                {.IsSpring = true},
-                {.ToolTip = "Website", .Artwork = "main/website"}}};
+ButtonBarSetup MainBarSetup() {
+    return {.Metrics = kMainMetrics,
+            .Buttons = {{.ToolTip = Words::tr("New"), .Artwork = "main/new"},
+                        {.ToolTip = Words::tr("Open"), .Artwork = "main/open"},
+                        {.ToolTip = Words::tr("Import"), .Artwork = "main/import"},
+                        {.ToolTip = Words::tr("Save"), .Artwork = "main/save"},
+                        {.IsSeparator = true},
+                        {.ToolTip = Words::tr("Undo"), .Artwork = "main/undo"},
+                        {.ToolTip = Words::tr("Redo"), .Artwork = "main/redo"},
+                        {.IsSeparator = true},
+                        {.ToolTip = Words::tr("Zoom In"), .Artwork = "main/zoom-in"},
+                        {.ToolTip = Words::tr("Zoom Out"), .Artwork = "main/zoom-out"},
+                        {.ToolTip = Words::tr("Original Size"),
+                         .Artwork = "main/original-size",
+                         .Latches = true},
+                        {.IsSpring = true},
+                        {.ToolTip = Words::tr("Website"), .Artwork = "main/website"}}};
+}
 
-widgets::BarButton WithPopup(const char* tip, const char* artwork) {
+widgets::BarButton WithPopup(const QString& tip, const char* artwork) {
     return {.ToolTip = tip, .Artwork = artwork, .Latches = true, .HasPopup = true};
 }
 
 // The texts of 6 to 9 and the pictures are crossed (docs/oddities.md, "Crossed tips"): the pictures
 // are right.
-const ButtonBarSetup kToolBox = {
-    .Metrics = {.Direction = Qt::Vertical, .FaceSize = {32, 24}},
-    .Buttons = {{.ToolTip = "Move tool", .Artwork = "tools/move", .Latches = true},
-                WithPopup("Selection tool", "tools/select-rectangle"),
+ButtonBarSetup ToolBoxSetup() {
+    return {.Metrics = {.Direction = Qt::Vertical, .FaceSize = {32, 24}},
+            .Buttons = {
+                {.ToolTip = Words::tr("Move tool"), .Artwork = "tools/move", .Latches = true},
+                WithPopup(Words::tr("Selection tool"), "tools/select-rectangle"),
                 {.IsSeparator = true},
-                {.ToolTip = "Pencil tool", .Artwork = "tools/pencil", .Latches = true},
-                WithPopup("Line tool", "tools/line"),
-                WithPopup("Rectangle tool", "tools/ellipse"),
-                WithPopup("Filled Rectangle tool", "tools/filled-ellipse"),
-                WithPopup("Ellipse tool", "tools/rectangle"),
-                WithPopup("Filled Ellipse tool", "tools/filled-rectangle"),
+                {.ToolTip = Words::tr("Pencil tool"), .Artwork = "tools/pencil", .Latches = true},
+                WithPopup(Words::tr("Line tool"), "tools/line"),
+                WithPopup(Words::tr("Rectangle tool"), "tools/ellipse"),
+                WithPopup(Words::tr("Filled Rectangle tool"), "tools/filled-ellipse"),
+                WithPopup(Words::tr("Ellipse tool"), "tools/rectangle"),
+                WithPopup(Words::tr("Filled Ellipse tool"), "tools/filled-rectangle"),
                 {.IsSeparator = true},
-                {.ToolTip = "Color Pick tool", .Artwork = "tools/pick", .Latches = true},
-                WithPopup("Erase tool", "tools/eraser")}};
+                {.ToolTip = Words::tr("Color Pick tool"), .Artwork = "tools/pick", .Latches = true},
+                WithPopup(Words::tr("Erase tool"), "tools/eraser")}};
+}
 
-const ButtonBarSetup kFillBar = {
-    .Buttons = {{.ToolTip = "Solid", .Artwork = "tools/fill-solid"},
-                {.ToolTip = "Horizontal Gradient", .Artwork = "tools/fill-horizontal"},
-                {.ToolTip = "Vertical Gradient", .Artwork = "tools/fill-vertical"},
-                {.ToolTip = "Radial Gradient", .Artwork = "tools/fill-radial"}},
-    .HasFrame = true};
+ButtonBarSetup FillBarSetup() {
+    return {
+        .Buttons = {{.ToolTip = Words::tr("Solid"), .Artwork = "tools/fill-solid"},
+                    {.ToolTip = Words::tr("Horizontal Gradient"),
+                     .Artwork = "tools/fill-horizontal"},
+                    {.ToolTip = Words::tr("Vertical Gradient"), .Artwork = "tools/fill-vertical"},
+                    {.ToolTip = Words::tr("Radial Gradient"), .Artwork = "tools/fill-radial"}},
+        .HasFrame = true};
+}
 
-const ButtonBarSetup kLayerBar = {
-    .Buttons = {{.ToolTip = "Import Icon...", .Artwork = "layers/add"},
-                {.ToolTip = "Remove Layer", .Artwork = "layers/remove"},
-                {.ToolTip = "Hide Layer", .Artwork = "layers/eye"},
+ButtonBarSetup LayerBarSetup() {
+    return {.Buttons = {
+                {.ToolTip = Words::tr("Import Icon..."), .Artwork = "layers/add"},
+                {.ToolTip = Words::tr("Remove Layer"), .Artwork = "layers/remove"},
+                {.ToolTip = Words::tr("Hide Layer"), .Artwork = "layers/eye"},
                 {.IsSeparator = true},
-                {.ToolTip = "Set Order", .Artwork = "layers/order", .HasPopup = true},
-                {.Caption = "Merge Down", .Artwork = "layers/merge"}}};
+                {.ToolTip = Words::tr("Set Order"), .Artwork = "layers/order", .HasPopup = true},
+                {.Caption = Words::tr("Merge Down"), .Artwork = "layers/merge"}}};
+}
 
-const ButtonBarSetup kSelectionBar = {
-    .Buttons = {{.ToolTip = "Rectangle Selection", .Artwork = "tools/select-rectangle"},
-                {.ToolTip = "Ellipse Selection", .Artwork = "tools/select-ellipse"},
-                {.ToolTip = "Polygon Selection", .Artwork = "tools/select-polygon"}},
-    .HasFrame = true};
+ButtonBarSetup SelectionBarSetup() {
+    return {
+        .Buttons = {{.ToolTip = Words::tr("Rectangle Selection"),
+                     .Artwork = "tools/select-rectangle"},
+                    {.ToolTip = Words::tr("Ellipse Selection"), .Artwork = "tools/select-ellipse"},
+                    {.ToolTip = Words::tr("Polygon Selection"), .Artwork = "tools/select-polygon"}},
+        .HasFrame = true};
+}
 
-const ButtonBarSetup kEraserBar = {
-    .Buttons = {{.ToolTip = "Brush Eraser", .Artwork = "tools/brush-eraser"},
-                {.ToolTip = "Pencil Eraser", .Artwork = "tools/pencil-eraser"}},
-    .HasFrame = true};
+ButtonBarSetup EraserBarSetup() {
+    return {.Buttons = {{.ToolTip = Words::tr("Brush Eraser"), .Artwork = "tools/brush-eraser"},
+                        {.ToolTip = Words::tr("Pencil Eraser"), .Artwork = "tools/pencil-eraser"}},
+            .HasFrame = true};
+}
 
 struct FillLook {
     const char* Name;
     const char* Corner;
 };
 // By editing::FillKind.
-constexpr FillLook kFillLooks[] = {{"Solid", "tools/corner-solid"},
-                                   {"Horizontal Gradient", "tools/corner-horizontal"},
-                                   {"Vertical Gradient", "tools/corner-vertical"},
-                                   {"Radial Gradient", "tools/corner-radial"}};
+constexpr FillLook kFillLooks[] = {
+    {QT_TRANSLATE_NOOP("Words", "Solid"), "tools/corner-solid"},
+    {QT_TRANSLATE_NOOP("Words", "Horizontal Gradient"), "tools/corner-horizontal"},
+    {QT_TRANSLATE_NOOP("Words", "Vertical Gradient"), "tools/corner-vertical"},
+    {QT_TRANSLATE_NOOP("Words", "Radial Gradient"), "tools/corner-radial"}};
 
-ButtonBar* MakeBar(const ButtonBarSetup& setup, const char* name, const char* accessibleName) {
+ButtonBar* MakeBar(const ButtonBarSetup& setup, const char* name, const QString& accessibleName) {
     auto* bar = new ButtonBar(setup);
     bar->setObjectName(name);
     bar->setAccessibleName(accessibleName);
@@ -171,12 +187,12 @@ void ClickLayers(const WindowContext& context, int button) {
 }  // namespace
 
 ButtonBars::ButtonBars(const WindowContext& context)
-    : MainBar(MakeBar(kMainBar, "MainBar", "Main tool bar")),
-      ToolBox(MakeBar(kToolBox, "ToolBox", "Tools")),
-      FillBar(MakeBar(kFillBar, "FillBar", "Fill kinds")),
-      LayerBar(MakeBar(kLayerBar, "LayerBar", "Layer commands")),
-      SelectionBar(MakeBar(kSelectionBar, "SelectionBar", "Selection kinds")),
-      EraserBar(MakeBar(kEraserBar, "EraserBar", "Erasers")),
+    : MainBar(MakeBar(MainBarSetup(), "MainBar", Words::tr("Main tool bar"))),
+      ToolBox(MakeBar(ToolBoxSetup(), "ToolBox", Words::tr("Tools"))),
+      FillBar(MakeBar(FillBarSetup(), "FillBar", Words::tr("Fill kinds"))),
+      LayerBar(MakeBar(LayerBarSetup(), "LayerBar", Words::tr("Layer commands"))),
+      SelectionBar(MakeBar(SelectionBarSetup(), "SelectionBar", Words::tr("Selection kinds"))),
+      EraserBar(MakeBar(EraserBarSetup(), "EraserBar", Words::tr("Erasers"))),
       zoom_(new ZoomField) {
     AddZoomField(context);
     const auto connect = [context](ButtonBar* bar, const std::function<void(int)>& click) {
@@ -245,7 +261,7 @@ void ButtonBars::ShowFillKind(editing::FillKind kind) {
     for (const int button : {editing::tool_buttons::Line, editing::tool_buttons::Ellipse,
                              editing::tool_buttons::FilledEllipse, editing::tool_buttons::Rectangle,
                              editing::tool_buttons::FilledRectangle})
-        ToolBox->SetChoice(button, look.Corner, look.Name);
+        ToolBox->SetChoice(button, look.Corner, Words::tr(look.Name));
 }
 
 void ButtonBars::ShowPopup(ButtonBar& popup, bool visible, int button) {
@@ -261,8 +277,10 @@ void ButtonBars::ShowPopup(ButtonBar& popup, bool visible, int button) {
 void ButtonBars::ShowStates(const editing::Editor& editor) {
     const editing::ControlStates& states = editor.States;
     Mirror(*MainBar, states.MainBar);
-    MainBar->SetToolTip(editing::main_buttons::Undo, StepCaption("Undo", states.UndoName));
-    MainBar->SetToolTip(editing::main_buttons::Redo, StepCaption("Redo", states.RedoName));
+    MainBar->SetToolTip(editing::main_buttons::Undo,
+                        StepCaption(Words::tr("Undo"), Words::tr("Undo %1"), states.UndoName));
+    MainBar->SetToolTip(editing::main_buttons::Redo,
+                        StepCaption(Words::tr("Redo"), Words::tr("Redo %1"), states.RedoName));
     zoom_->setEnabled(states.IsEnabled(editing::CommandId::OriginalSize));
     Mirror(*ToolBox, states.ToolBox);
     ShowFillKind(editor.Tools.FillKind);

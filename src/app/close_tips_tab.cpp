@@ -10,14 +10,16 @@
 #include <optional>
 
 #include "widgets/theme.h"
+#include "widgets/words.h"
 
 namespace orbelle::app {
 namespace {
 
 constexpr int kTickMilliseconds = 30;
 constexpr int kGap = 4;
-constexpr char kText[] =
-    "You can choose Help/Tips to close the tips if you already know how to use the Orbelle.";
+constexpr char kText[] = QT_TRANSLATE_NOOP(
+    "Words",
+    "You can choose Help/Tips to close the tips if you already know how to use the Orbelle.");
 
 }  // namespace
 
@@ -27,14 +29,14 @@ CloseTipsTab::CloseTipsTab(QWidget& parent, QWidget& panel, QWidget& scrollBar)
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(12, 4, 4, 4);
     row->setSpacing(12);
-    auto* text = new QLabel(kText);
+    auto* text = new QLabel(Words::tr(kText));
     text->setFont(widgets::ChromeFont(8));
     row->addWidget(text);
     auto* close = new QToolButton;
     close->setObjectName("CloseTips");
     close->setText(QString(QChar(0x00D7)));
     close->setAutoRaise(true);
-    close->setToolTip("Close");
+    close->setToolTip(Words::tr("Close"));
     row->addWidget(close);
     connect(close, &QToolButton::clicked, this, [this] {
         closed_ = true;

@@ -12,6 +12,7 @@
 #include "app/color_text.h"
 #include "app/settings.h"
 #include "widgets/number_slider.h"
+#include "widgets/words.h"
 
 namespace orbelle::app {
 namespace {
@@ -55,7 +56,7 @@ unsigned ChannelOf(Argb color, std::size_t channel) {
 
 ColorDialog::ColorDialog(const ColorQuestion& question, QWidget* parent)
     : QDialog(parent), hasAlpha_(question.HasAlpha) {
-    setWindowTitle(question.Title);
+    setWindowTitle(Words::tr(question.Title));
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(20, 20, 20, 16);
     layout->setSpacing(16);
@@ -97,7 +98,7 @@ QWidget* ColorDialog::AddStrips() {
     auto* row = new QHBoxLayout(strips);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(12);
-    const auto strip = [&](const char* name, int most, auto take) {
+    const auto strip = [&](const QString& name, int most, auto take) {
         auto* slider = new ColorStrip;
         slider->setAccessibleName(name);
         slider->setToolTip(name);
@@ -109,7 +110,7 @@ QWidget* ColorDialog::AddStrips() {
     square_ = new ColorSquare;
     connect(square_, &ColorSquare::Chosen, this, &ColorDialog::TakeShade);
     row->addWidget(square_);
-    hues_ = strip("Hue", kMostHue, [this](int hue) { TakeHue(hue); });
+    hues_ = strip(Words::tr("Hue"), kMostHue, [this](int hue) { TakeHue(hue); });
     QGradientStops hues;
     constexpr int kSixths = 6;
     for (int i = 0; i <= kSixths; ++i)
@@ -117,7 +118,7 @@ QWidget* ColorDialog::AddStrips() {
                      QColor::fromHsv((kSixths - i) * 60 % 360, kMost, kMost)});
     hues_->ShowColors(hues);
     if (hasAlpha_)
-        alphas_ = strip("Alpha", kMost, [this](int alpha) {
+        alphas_ = strip(Words::tr("Alpha"), kMost, [this](int alpha) {
             Take(graphics::SetAlphaByte(color_, static_cast<unsigned>(alpha)));
         });
     return strips;
@@ -128,8 +129,8 @@ void ColorDialog::AddComparison(QGridLayout& rows, Argb oldColor) {
     both->setSpacing(4);
     auto* captions = new QHBoxLayout;
     captions->setSpacing(0);
-    captions->addWidget(Caption("New"), 1);
-    captions->addWidget(Caption("Old"), 1);
+    captions->addWidget(Caption(Words::tr("New")), 1);
+    captions->addWidget(Caption(Words::tr("Old")), 1);
     both->addLayout(captions);
     comparison_ = new ColorComparison(oldColor);
     both->addWidget(comparison_);
@@ -140,8 +141,8 @@ void ColorDialog::AddComparison(QGridLayout& rows, Argb oldColor) {
 void ColorDialog::AddText(QGridLayout& rows) {
     text_ = new QLineEdit;
     text_->setObjectName("ColorText");
-    text_->setAccessibleName("Color");
-    text_->setToolTip(hasAlpha_ ? "#RRGGBB or #AARRGGBB" : "#RRGGBB");
+    text_->setAccessibleName(Words::tr("Color"));
+    text_->setToolTip(hasAlpha_ ? Words::tr("#RRGGBB or #AARRGGBB") : "#RRGGBB");
     text_->setValidator(
         new QRegularExpressionValidator(QRegularExpression("\\s*#?[0-9A-Fa-f]{0,8}\\s*"), text_));
     connect(text_, &QLineEdit::textEdited, this, [this](const QString& text) {
@@ -153,17 +154,19 @@ void ColorDialog::AddText(QGridLayout& rows) {
         if (!text_->hasFocus())
             text_->setText(ColorText(color_, hasAlpha_));
     });
-    auto* label = new QLabel("Colo&r:");
+    auto* label = new QLabel(Words::tr("Colo&r:"));
     label->setBuddy(text_);
     rows.addWidget(label, 2, 0);
     rows.addWidget(text_, 2, 1);
 }
 
 void ColorDialog::AddNumbers(QGridLayout& rows) {
-    const char* const captions[] = {"R&ed:", "&Green:", "&Blue:", "&Alpha:"};
+    const char* const captions[] = {
+        QT_TRANSLATE_NOOP("Words", "R&ed:"), QT_TRANSLATE_NOOP("Words", "&Green:"),
+        QT_TRANSLATE_NOOP("Words", "&Blue:"), QT_TRANSLATE_NOOP("Words", "&Alpha:")};
     for (std::size_t channel = 0; channel < (hasAlpha_ ? 4 : 3); ++channel) {
         auto* number = new widgets::NumberSlider;
-        number->setAccessibleName(QString(captions[channel]).remove('&').remove(':'));
+        number->setAccessibleName(Words::tr(captions[channel]).remove('&').remove(':'));
         number->SetRange(0, kMost);
         number->SetFollowsTyping(true);
         connect(number, &widgets::NumberSlider::Changed, this, [this, channel](int value) {
@@ -171,7 +174,7 @@ void ColorDialog::AddNumbers(QGridLayout& rows) {
             const int shift = kShifts[channel];
             Take((color_ & ~(Argb{0xFF} << shift)) | byte << shift);
         });
-        auto* label = new QLabel(captions[channel]);
+        auto* label = new QLabel(Words::tr(captions[channel]));
         label->setBuddy(number);
         const int row = rows.rowCount();
         rows.addWidget(label, row, 0);
@@ -185,7 +188,7 @@ QWidget* ColorDialog::AddRecent() {
     auto* row = new QHBoxLayout(recent);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(8);
-    row->addWidget(Caption("Recent colors"));
+    row->addWidget(Caption(Words::tr("Recent colors")));
     row->addSpacing(4);
     const std::vector<Argb> colors = ReadRecentColors();
     for (std::size_t i = 0; i < kRecentCount; ++i) {

@@ -8,6 +8,7 @@
 
 #include "app/color_text.h"
 #include "widgets/theme.h"
+#include "widgets/words.h"
 
 namespace orbelle::app {
 namespace {
@@ -50,7 +51,7 @@ int ValueAt(double place, int most, int length) {
 }  // namespace
 
 ColorSquare::ColorSquare(QWidget* parent) : QWidget(parent) {
-    setAccessibleName("Saturation and brightness");
+    setAccessibleName(Words::tr("Saturation and brightness"));
     setToolTip(accessibleName());
     setFocusPolicy(Qt::StrongFocus);
     setFixedSize(ColorSquare::sizeHint());
@@ -61,7 +62,7 @@ void ColorSquare::Show(int hue, int saturation, int brightness) {
     saturation_ = saturation;
     brightness_ = brightness;
     setAccessibleDescription(
-        QString("saturation %1, brightness %2").arg(saturation).arg(brightness));
+        Words::tr("saturation %1, brightness %2").arg(saturation).arg(brightness));
     update();
 }
 
@@ -187,7 +188,7 @@ ColorComparison::ColorComparison(Argb oldColor, QWidget* parent) : QWidget(paren
 void ColorComparison::Show(Argb newColor) {
     new_ = newColor;
     const QString colors =
-        QString("new %1, old %2").arg(ColorText(new_, true), ColorText(old_, true));
+        Words::tr("new %1, old %2").arg(ColorText(new_, true), ColorText(old_, true));
     setAccessibleName(colors);
     setToolTip(colors);
     update();
@@ -206,7 +207,7 @@ void ColorComparison::paintEvent(QPaintEvent*) {
 }
 
 ColorCell::ColorCell(QWidget* parent) : QAbstractButton(parent) {
-    setAccessibleName("No color yet");
+    setAccessibleName(Words::tr("No color yet"));
     setFocusPolicy(Qt::StrongFocus);
     setEnabled(false);
     setFixedSize(ColorCell::sizeHint());

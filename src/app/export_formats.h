@@ -1,27 +1,36 @@
 // The Export submenu: what its entries are called, and their file dialogs' filters.
 #pragma once
 
+#include <QtGlobal>
+
 #include "formats/export_image.h"
 
 namespace orbelle::app {
 
 struct ExportEntry {
     formats::ExportFormat Format;
-    const char* Caption;
-    const char* Filter;  // "text|patterns"
-    int Mnemonic = 0;    // the caption's letter that chooses it
+    const char* Kind;      // the format's name
+    const char* Caption;   // '&' marks the mnemonic
+    const char* FileText;  // of the file dialog's filter
+    const char* Patterns;
 };
 
 // In the order of the menu.
 inline constexpr ExportEntry kExportEntries[] = {
-    {formats::ExportFormat::Ico, "ICO Windows Icon File", "Windows ICO Files (*.ICO)|*.ico"},
-    {formats::ExportFormat::Icns, "ICNS macOS Icon File", "macOS Icon Files (*.ICNS)|*.icns", 2},
-    {formats::ExportFormat::Cur, "CUR Windows Cursor", "Windows Cursors (*.CUR)|*.cur"},
-    {formats::ExportFormat::Png, "PNG with Transparency",
-     "PNG Portable Network Graphics (*.PNG)|*.png"},
-    {formats::ExportFormat::Gif, "GIF Image", "GIF Files (*.GIF)|*.gif"},
-    {formats::ExportFormat::Jpeg, "JPEG Image", "JPEG Files (*.JPG;*.JPEG)|*.jpg;*.jpeg"},
-    {formats::ExportFormat::Bmp, "BMP Image", "BMP Windows Bitmap (*.BMP)|*.bmp"},
+    {formats::ExportFormat::Ico, "ICO", QT_TRANSLATE_NOOP("Words", "&ICO Windows Icon File"),
+     QT_TRANSLATE_NOOP("Words", "Windows ICO Files (*.ICO)"), "*.ico"},
+    {formats::ExportFormat::Icns, "ICNS", QT_TRANSLATE_NOOP("Words", "IC&NS macOS Icon File"),
+     QT_TRANSLATE_NOOP("Words", "macOS Icon Files (*.ICNS)"), "*.icns"},
+    {formats::ExportFormat::Cur, "CUR", QT_TRANSLATE_NOOP("Words", "&CUR Windows Cursor"),
+     QT_TRANSLATE_NOOP("Words", "Windows Cursors (*.CUR)"), "*.cur"},
+    {formats::ExportFormat::Png, "PNG", QT_TRANSLATE_NOOP("Words", "&PNG with Transparency"),
+     QT_TRANSLATE_NOOP("Words", "PNG Portable Network Graphics (*.PNG)"), "*.png"},
+    {formats::ExportFormat::Gif, "GIF", QT_TRANSLATE_NOOP("Words", "&GIF Image"),
+     QT_TRANSLATE_NOOP("Words", "GIF Files (*.GIF)"), "*.gif"},
+    {formats::ExportFormat::Jpeg, "JPEG", QT_TRANSLATE_NOOP("Words", "&JPEG Image"),
+     QT_TRANSLATE_NOOP("Words", "JPEG Files (*.JPG;*.JPEG)"), "*.jpg;*.jpeg"},
+    {formats::ExportFormat::Bmp, "BMP", QT_TRANSLATE_NOOP("Words", "&BMP Image"),
+     QT_TRANSLATE_NOOP("Words", "BMP Windows Bitmap (*.BMP)"), "*.bmp"},
 };
 
 }  // namespace orbelle::app

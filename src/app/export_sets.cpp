@@ -6,6 +6,7 @@
 #include "app/icon_set_captions.h"
 #include "app/written_text.h"
 #include "editing/export_commands.h"
+#include "widgets/words.h"
 
 namespace orbelle::app {
 namespace {
@@ -41,8 +42,8 @@ Files FilesThere(const SetChoice& choice, IconSet set, const formats::SetSource&
     return files;
 }
 
-std::string FilesText(int count) {
-    return count == 1 ? "1 file" : std::to_string(count) + " files";
+QString FilesText(int count) {
+    return count == 1 ? Words::tr("1 file") : Words::tr("%n files", nullptr, count);
 }
 
 bool MayReplace(const WindowContext& context, const SetChoice& choice,
@@ -50,10 +51,13 @@ bool MayReplace(const WindowContext& context, const SetChoice& choice,
     int there = 0;
     for (const IconSet set : choice.Sets)
         there += FilesThere(choice, set, source).Count;
-    return there == 0 || context.User.Confirm(
-                             FilesText(there) + " of these sets already " +
-                                 (there == 1 ? "exists, overwrite it?" : "exist, overwrite them?"),
-                             "Warning");
+    if (there == 0)
+        return true;
+    const QString question =
+        there == 1
+            ? Words::tr("1 file of these sets already exists, overwrite it?")
+            : Words::tr("%n files of these sets already exist, overwrite them?", nullptr, there);
+    return context.User.Confirm(question.toStdString(), Words::tr("Warning").toStdString());
 }
 
 class Summary {
@@ -66,27 +70,33 @@ public:
         written_.Bytes += files.Bytes;
     }
     void NoteFailed(IconSet set, const std::string& problem) {
-        failures_ += '\n' + NameOf(set) + " was not written: " + problem;
+        failures_ +=
+            '\n' +
+            Words::tr("%1 was not written: %2").arg(NameOf(set), QString::fromStdString(problem));
     }
     void NoteCancelled() { isCancelled_ = true; }
 
     void Tell(UserQuestions& user) const {
-        std::string text;
+        QString text;
         if (isCancelled_)
-            text = "Cancelled: " + std::to_string(sets_) + " of " +
-                   std::to_string(choice_.Sets.size()) + " sets were written.\n";
+            text = Words::tr("Cancelled: %1 of %2 sets were written.")
+                       .arg(sets_)
+                       .arg(choice_.Sets.size()) +
+                   '\n';
         if (sets_ == 0)
-            return user.ShowMessage(text + "Nothing was exported." + failures_);
-        text += "Exported " + FilesText(written_.Count) + ", " + SizeText(written_.Bytes) +
-                ", in " + choice_.Folder.string();
-        user.ShowFolder(text + failures_, choice_.Folder);
+            return user.ShowMessage(
+                (text + Words::tr("Nothing was exported.") + failures_).toStdString());
+        text += Words::tr("Exported %1, %2, in %3")
+                    .arg(FilesText(written_.Count), SizeText(written_.Bytes),
+                         QString::fromStdString(choice_.Folder.string()));
+        user.ShowFolder((text + failures_).toStdString(), choice_.Folder);
     }
 
 private:
     const SetChoice& choice_;
     int sets_ = 0;
     Files written_;
-    std::string failures_;
+    QString failures_;
     bool isCancelled_ = false;
 };
 
@@ -105,9 +115,9 @@ void AskExportSets(const WindowContext& context) {
     const int count = static_cast<int>(choice->Sets.size());
     for (int i = 0; i < count; ++i) {
         const IconSet& set = choice->Sets[static_cast<std::size_t>(i)];
-        if (!context.User.GoOn(i, count,
-                               "Writing set " + std::to_string(i + 1) + " of " +
-                                   std::to_string(count) + ": " + NameOf(set) + "...")) {
+        const QString doing =
+            Words::tr("Writing set %1 of %2: %3...").arg(i + 1).arg(count).arg(NameOf(set));
+        if (!context.User.GoOn(i, count, doing.toStdString())) {
             summary.NoteCancelled();
             break;
         }

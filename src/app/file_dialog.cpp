@@ -6,17 +6,18 @@
 #include <QFileInfo>
 
 #include "app/settings.h"
+#include "widgets/words.h"
 
 namespace orbelle::app {
 namespace {
 
 constexpr char kLastFolder[] = "LastFolder";
 
-// One title for all uses, also for saving (docs/oddities.md, "Open File...").
+// One title for all uses, also for saving (docs/oddities.md, Words::tr("Open File...")).
 class FileDialog : public QFileDialog {
 public:
     FileDialog(QWidget* parent, const std::string& filter)
-        : QFileDialog(parent, "Open File...", Settings().value(kLastFolder).toString()) {
+        : QFileDialog(parent, Words::tr("Open File..."), Settings().value(kLastFolder).toString()) {
         setOption(QFileDialog::HideNameFilterDetails);
         setNameFilters(NameFilters(filter));
     }

@@ -7,6 +7,7 @@
 
 #include "filters/outline_contrast.h"
 #include "widgets/theme.h"
+#include "widgets/words.h"
 
 namespace orbelle::app {
 namespace {
@@ -26,25 +27,26 @@ QString LineOf(const Finding& finding) {
 QString TextOf(const Finding& finding) {
     switch (finding.Kind) {
         case Fault::Empty:
-            return "nothing can be seen";
+            return Words::tr("nothing can be seen");
         case Fault::Contrast:
             // Rounded down: what is below the limit must not read as the limit.
-            return QString("hard to see on %1 (contrast %2 : 1)")
-                .arg(finding.Ground == filters::kLightGround ? "white" : "dark")
+            return (finding.Ground == filters::kLightGround
+                        ? Words::tr("hard to see on white (contrast %1 : 1)")
+                        : Words::tr("hard to see on dark (contrast %1 : 1)"))
                 .arg(std::floor(finding.Contrast * 10) / 10, 0, 'f', 1);
         case Fault::Fringe:
-            return "foreign colours along the edge";
+            return Words::tr("foreign colours along the edge");
         case Fault::Upscaled:
-            return "larger than the page that it is made from";
+            return Words::tr("larger than the page that it is made from");
         case Fault::Clipped:
             break;
     }
-    return "the page cuts layers off";
+    return Words::tr("the page cuts layers off");
 }
 
 FindingsList::FindingsList() {
     setObjectName("Findings");
-    setAccessibleName("Findings");
+    setAccessibleName(Words::tr("Findings"));
     setFont(widgets::ChromeFont(8));
     setUniformItemSizes(true);
     setTextElideMode(Qt::ElideRight);
@@ -78,7 +80,7 @@ void FindingsList::Show(const std::vector<Finding>& findings) {
     for (const Finding& finding : findings_)
         AddLine(LineOf(finding), true);
     if (findings_.empty())
-        AddLine("Nothing found", false);
+        AddLine(Words::tr("Nothing found"), false);
     const auto same = findItems(text, Qt::MatchExactly);
     if (!same.empty())
         setCurrentItem(same.first());

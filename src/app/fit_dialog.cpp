@@ -5,22 +5,24 @@
 #include <QLabel>
 #include <QVBoxLayout>
 
+#include "widgets/words.h"
+
 namespace orbelle::app {
 
 FitDialog::FitDialog(const PageSize& picture, const PageSize& page, QWidget* parent)
     : QDialog(parent) {
-    setWindowTitle("Larger Than the Page");
+    setWindowTitle(Words::tr("Larger Than the Page"));
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(20, 20, 20, 16);
     layout->setSpacing(20);
     layout->setSizeConstraint(QLayout::SetFixedSize);
     layout->addWidget(
-        new QLabel(QString("The picture of %1 x %2 pixels is larger than the page of %3 x %4.")
+        new QLabel(Words::tr("The picture of %1 x %2 pixels is larger than the page of %3 x %4.")
                        .arg(picture.Width)
                        .arg(picture.Height)
                        .arg(page.Width)
                        .arg(page.Height)));
-    fits_ = new QCheckBox("&Fit to Page");
+    fits_ = new QCheckBox(Words::tr("&Fit to Page"));
     fits_->setObjectName("FitToPage");
     fits_->setChecked(true);
     layout->addWidget(fits_);

@@ -11,6 +11,7 @@
 #include "formats/gif_palette.h"
 #include "graphics/checkerboard.h"
 #include "widgets/number_slider.h"
+#include "widgets/words.h"
 
 namespace orbelle::app {
 namespace {
@@ -21,8 +22,9 @@ constexpr graphics::Argb kWhite = graphics::MakeArgb(255, 255, 255, 255);
 constexpr graphics::Argb kChecker = graphics::MakeArgb(255, 235, 235, 235);
 constexpr int kSliderEnd = 150;  // a larger threshold can be typed
 constexpr char kSetting[] = "Optimize";
-constexpr char kHint[] =
-    "You can input a new transparent value if you not satisfactory current transparent result.";
+constexpr char kHint[] = QT_TRANSLATE_NOOP(
+    "Words",
+    "You can input a new transparent value if you not satisfactory current transparent result.");
 
 // A white box with the checkerboard, and on it what `draw` paints.
 template <typename Draw>
@@ -36,7 +38,7 @@ QPixmap PaintPreview(const Draw& draw) {
     return QPixmap::fromImage(SharedImage(box));
 }
 
-QLabel* AddPreview(QGridLayout& layout, int column, const char* caption) {
+QLabel* AddPreview(QGridLayout& layout, int column, const QString& caption) {
     auto* box = new QLabel;
     box->setFixedSize(kBox + 2, kBox + 2);
     box->setStyleSheet("border: 1px solid palette(mid)");
@@ -50,13 +52,13 @@ QLabel* AddPreview(QGridLayout& layout, int column, const char* caption) {
 
 GifOptimizerDialog::GifOptimizerDialog(const graphics::Bitmap& surface, QWidget* parent)
     : QDialog(parent), surface_(surface) {
-    setWindowTitle("GIF Transparency Optimizer");
+    setWindowTitle(Words::tr("GIF Transparency Optimizer"));
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(20, 20, 20, 16);
     layout->setSpacing(16);
     layout->setSizeConstraint(QLayout::SetFixedSize);
 
-    auto* head = new QLabel("GIF Optimizer...");
+    auto* head = new QLabel(Words::tr("GIF Optimizer..."));
     QFont font = head->font();
     font.setPointSize(12);
     head->setFont(font);
@@ -67,8 +69,8 @@ GifOptimizerDialog::GifOptimizerDialog(const graphics::Bitmap& surface, QWidget*
     previews->setVerticalSpacing(6);
     previews->setRowStretch(1, 1);
     layout->addLayout(previews);
-    QLabel* original = AddPreview(*previews, 0, "Original");
-    result_ = AddPreview(*previews, 1, "Transparency  GIF");
+    QLabel* original = AddPreview(*previews, 0, Words::tr("Original"));
+    result_ = AddPreview(*previews, 1, Words::tr("Transparency  GIF"));
     result_->setObjectName("Result");
     original->setPixmap(PaintPreview([&](graphics::DrawingContext& context) {
         context.DrawImageRect(surface_, PreviewRect(surface_, kBox, kBox));
@@ -77,10 +79,10 @@ GifOptimizerDialog::GifOptimizerDialog(const graphics::Bitmap& surface, QWidget*
     auto* row = new QHBoxLayout;
     row->setSpacing(12);
     layout->addLayout(row);
-    auto* label = new QLabel("&Transparency Adjustment:");
+    auto* label = new QLabel(Words::tr("&Transparency Adjustment:"));
     threshold_ = new widgets::NumberSlider;
     threshold_->setObjectName("Threshold");
-    threshold_->setAccessibleName("Transparency Adjustment");
+    threshold_->setAccessibleName(Words::tr("Transparency Adjustment"));
     threshold_->SetRange(0, kSliderEnd);
     threshold_->SetFollowsTyping(true);
     label->setBuddy(threshold_);
@@ -88,7 +90,7 @@ GifOptimizerDialog::GifOptimizerDialog(const graphics::Bitmap& surface, QWidget*
     row->addWidget(threshold_);
     row->addStretch();
 
-    auto* hint = new QLabel(kHint);
+    auto* hint = new QLabel(Words::tr(kHint));
     hint->setWordWrap(true);
     hint->setFixedWidth(2 * kBox + 20);
     layout->addWidget(hint);

@@ -8,6 +8,7 @@
 #include "app/hotspot_view.h"
 #include "app/shared_image.h"
 #include "widgets/number_slider.h"
+#include "widgets/words.h"
 
 namespace orbelle::app {
 
@@ -15,27 +16,28 @@ HotspotDialog::HotspotDialog(const graphics::Bitmap& picture, formats::Hotspot s
                              QWidget* parent)
     : QDialog(parent),
       view_(new HotspotView(SharedImage(picture), devicePixelRatioF())),
-      x_(MakeNumber("X", "Pixels from the left edge", picture.Width())),
-      y_(MakeNumber("Y", "Pixels from the upper edge", picture.Height())) {
-    setWindowTitle("Hot Spot");
+      x_(MakeNumber("X", Words::tr("Pixels from the left edge"), picture.Width())),
+      y_(MakeNumber("Y", Words::tr("Pixels from the upper edge"), picture.Height())) {
+    setWindowTitle(Words::tr("Hot Spot"));
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(20, 20, 20, 16);
     layout->setSpacing(16);
     layout->setSizeConstraint(QLayout::SetFixedSize);
-    layout->addWidget(new QLabel("Drag the cross to the pixel that the pointer points with."));
+    layout->addWidget(
+        new QLabel(Words::tr("Drag the cross to the pixel that the pointer points with.")));
 
     auto* grid = new QGridLayout;
     grid->setHorizontalSpacing(12);
     grid->setVerticalSpacing(12);
     grid->addWidget(view_, 0, 0, 3, 1);
-    const auto addNumber = [&](int row, const char* text, widgets::NumberSlider* number) {
+    const auto addNumber = [&](int row, const QString& text, widgets::NumberSlider* number) {
         auto* label = new QLabel(text);
         label->setBuddy(number);
         grid->addWidget(label, row, 1);
         grid->addWidget(number, row, 2);
     };
-    addNumber(0, "&X:", x_);
-    addNumber(1, "&Y:", y_);
+    addNumber(0, Words::tr("&X:"), x_);
+    addNumber(1, Words::tr("&Y:"), y_);
     grid->setRowStretch(2, 1);
     layout->addLayout(grid);
 
@@ -49,7 +51,8 @@ HotspotDialog::HotspotDialog(const graphics::Bitmap& picture, formats::Hotspot s
     view_->setFocus();
 }
 
-widgets::NumberSlider* HotspotDialog::MakeNumber(const char* name, const char* meaning, int count) {
+widgets::NumberSlider* HotspotDialog::MakeNumber(const char* name, const QString& meaning,
+                                                 int count) {
     auto* number = new widgets::NumberSlider;
     number->setObjectName(name);
     number->setAccessibleName(name);

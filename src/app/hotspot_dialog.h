@@ -29,7 +29,7 @@ public:
     void accept() override;
 
 private:
-    widgets::NumberSlider* MakeNumber(const char* name, const char* meaning, int count);
+    widgets::NumberSlider* MakeNumber(const char* name, const QString& meaning, int count);
     void TakeNumbers();
     void ShowNumbers();
 

@@ -8,6 +8,7 @@
 #include <cmath>
 
 #include "widgets/theme.h"
+#include "widgets/words.h"
 
 namespace orbelle::app {
 namespace {
@@ -41,8 +42,8 @@ HotspotView::HotspotView(const QImage& picture, double scale, QWidget* parent)
     setFixedSize(HotspotView::sizeHint());
     setFocusPolicy(Qt::StrongFocus);
     setCursor(Qt::CrossCursor);
-    setAccessibleName("Hot spot");
-    setToolTip("Click or drag. Arrow keys move the cross by a pixel, with Shift by 8.");
+    setAccessibleName(Words::tr("Hot spot"));
+    setToolTip(Words::tr("Click or drag. Arrow keys move the cross by a pixel, with Shift by 8."));
     SetValue({});
 }
 

@@ -4,6 +4,8 @@
 #include <tuple>
 #include <utility>
 
+#include "widgets/words.h"
+
 namespace orbelle::app {
 namespace {
 
@@ -92,7 +94,7 @@ std::string IconGrid::SizeText(int index) const {
 std::string IconGrid::DepthText(int index) const {
     const formats::IconEntryImage& image = images_[static_cast<std::size_t>(index)];
     const bool isPng = image.Format == formats::IconEntryFormat::Png;
-    return (isPng ? "PNG, " : "") + std::to_string(image.Bits) + " bit";
+    return (isPng ? Words::tr("PNG, %1 bit") : Words::tr("%1 bit")).arg(image.Bits).toStdString();
 }
 
 int IconGrid::Best() const {

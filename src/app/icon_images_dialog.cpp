@@ -15,6 +15,7 @@
 
 #include "app/shared_image.h"
 #include "widgets/theme.h"
+#include "widgets/words.h"
 
 namespace orbelle::app {
 namespace {
@@ -27,9 +28,10 @@ constexpr double kCaptionPoints = 8;
 constexpr int kMargin = 20;
 // What the dialog is wider and higher than its cells at most, with the window's frame.
 constexpr QSize kAroundCells(2 * kMargin + 40, 240);
-constexpr char kHint[] =
-    "An icon can include several image formats, choose a image format you want.";
-constexpr char kSeveralHint[] = " With Ctrl or Shift you choose several.";
+constexpr char kHint[] = QT_TRANSLATE_NOOP(
+    "Words", "An icon can include several image formats, choose a image format you want.");
+constexpr char kSeveralHint[] =
+    QT_TRANSLATE_NOOP("Words", "With Ctrl or Shift you choose several.");
 
 QRect RectOf(const graphics::RectI& rect) {
     return {rect.X, rect.Y, rect.Width, rect.Height};
@@ -72,7 +74,7 @@ IconGridView::IconGridView(const std::vector<formats::IconEntryImage>& offered, 
       choice_(grid_.Count(), grid_.Best(), takesSeveral),
       shrunk_(offered.size()) {
     widgets::ShowPartsToAssistiveTools();
-    setAccessibleName("Images of the icon");
+    setAccessibleName(Words::tr("Images of the icon"));
     setFocusPolicy(Qt::StrongFocus);
     setFixedSize(grid_.Size().Width, grid_.Size().Height);
 }
@@ -98,7 +100,7 @@ QString IconGridView::PartName(int part) const {
 }
 
 QString IconGridView::PartValue(int part) const {
-    return QString("%1 of %2").arg(part + 1).arg(grid_.Count());
+    return Words::tr("%1 of %2").arg(part + 1).arg(grid_.Count());
 }
 
 QRect IconGridView::PartPlace(int part) const {
@@ -229,14 +231,17 @@ void IconGridView::focusInEvent(QFocusEvent* event) {
 IconImagesDialog::IconImagesDialog(const std::vector<formats::IconEntryImage>& offered,
                                    const IconQuestion& question, QWidget* parent)
     : QDialog(parent) {
-    setWindowTitle("Choose Icon Format");
+    setWindowTitle(Words::tr("Choose Icon Format"));
     const QSize room = screen()->availableSize() - kAroundCells;
     grid_ = new IconGridView(offered, question.TakesSeveral, room);
 
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(kMargin, kMargin, kMargin, 16);
     layout->setSpacing(16);
-    auto* hint = new QLabel(QString(kHint) + (question.TakesSeveral ? kSeveralHint : ""));
+    QString text = Words::tr(kHint);
+    if (question.TakesSeveral)
+        text += ' ' + Words::tr(kSeveralHint);
+    auto* hint = new QLabel(text);
     hint->setWordWrap(true);
     layout->addWidget(hint);
 
@@ -265,7 +270,7 @@ IconImagesDialog::IconImagesDialog(const std::vector<formats::IconEntryImage>& o
     connect(grid_, &IconGridView::DoubleClicked, ok, &QPushButton::click);
     ok->setEnabled(!offered.empty());
     if (question.OffersAllSizes && HasSeveralSizes(offered)) {
-        auto* all = buttons->addButton("Open &All Sizes", QDialogButtonBox::ActionRole);
+        auto* all = buttons->addButton(Words::tr("Open &All Sizes"), QDialogButtonBox::ActionRole);
         all->setAutoDefault(false);
         connect(all, &QPushButton::clicked, this, [this] { Take(true); });
     }

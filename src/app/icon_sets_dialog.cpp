@@ -17,6 +17,7 @@
 #include "app/shared_image.h"
 #include "formats/icns_file.h"
 #include "formats/icon_sets.h"
+#include "widgets/words.h"
 
 namespace orbelle::app {
 namespace {
@@ -32,12 +33,12 @@ constexpr int kColumns = 2;
 
 // In the order of formats::IconSet.
 constexpr const char* kContents[] = {
-    "An .ico file of 14 sizes, 16 to 256",
-    "An .icns file of 16 to 1024",
-    "PNG files of 16 to 512 in the folders of a theme",
-    "favicon.ico, pictures for home screens, their manifest",
-    "Launcher icons of five densities, adaptive ones too",
-    "An AppIcon set with its one picture of 1024",
+    QT_TRANSLATE_NOOP("Words", "An .ico file of 14 sizes, 16 to 256"),
+    QT_TRANSLATE_NOOP("Words", "An .icns file of 16 to 1024"),
+    QT_TRANSLATE_NOOP("Words", "PNG files of 16 to 512 in the folders of a theme"),
+    QT_TRANSLATE_NOOP("Words", "favicon.ico, pictures for home screens, their manifest"),
+    QT_TRANSLATE_NOOP("Words", "Launcher icons of five densities, adaptive ones too"),
+    QT_TRANSLATE_NOOP("Words", "An AppIcon set with its one picture of 1024"),
 };
 constexpr int kPlatformCount = std::size(kContents);
 static_assert(kPlatformCount == std::size(kIconSetCaptions));
@@ -102,7 +103,7 @@ QPixmap Thumbnails(const formats::SetSource& source, IconSet set, qreal ratio) {
 IconSetsDialog::IconSetsDialog(const formats::SetSource& source,
                                const std::filesystem::path& folder, QWidget* parent)
     : QDialog(parent) {
-    setWindowTitle("Icon Set");
+    setWindowTitle(Words::tr("Icon Set"));
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(20, 20, 20, 16);
     layout->setSpacing(16);
@@ -118,7 +119,7 @@ IconSetsDialog::IconSetsDialog(const formats::SetSource& source,
     layout->addWidget(MakeFolderRow(folder));
 
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Cancel);
-    export_ = buttons->addButton("&Export", QDialogButtonBox::AcceptRole);
+    export_ = buttons->addButton(Words::tr("&Export"), QDialogButtonBox::AcceptRole);
     export_->setDefault(true);
     layout->addWidget(buttons);
     connect(buttons, &QDialogButtonBox::accepted, this, &IconSetsDialog::accept);
@@ -138,13 +139,13 @@ QWidget* IconSetsDialog::MakeBox(const formats::SetSource& source, IconSet set) 
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setHorizontalSpacing(0);
     layout->setVerticalSpacing(6);
-    auto* box = new QCheckBox(kIconSetCaptions[place]);
+    auto* box = new QCheckBox(Words::tr(kIconSetCaptions[place]));
     box->setObjectName(key);
-    box->setAccessibleDescription(kContents[place]);
+    box->setAccessibleDescription(Words::tr(kContents[place]));
     box->setChecked(chosen.contains(key));
     connect(box, &QCheckBox::toggled, this, &IconSetsDialog::ShowState);
     boxes_.push_back(box);
-    auto* contents = new QLabel(kContents[place]);
+    auto* contents = new QLabel(Words::tr(kContents[place]));
     contents->setObjectName("caption");
     auto* pictures = new QLabel;
     pictures->setPixmap(Thumbnails(source, set, devicePixelRatioF()));
@@ -167,12 +168,13 @@ QWidget* IconSetsDialog::MakeFolderRow(const std::filesystem::path& folder) {
         new QLineEdit(remembered.isEmpty() ? QString::fromStdString(folder.string()) : remembered);
     folder_->setObjectName("Folder");
     connect(folder_, &QLineEdit::textChanged, this, &IconSetsDialog::ShowState);
-    auto* label = new QLabel("&Folder:");
+    auto* label = new QLabel(Words::tr("&Folder:"));
     label->setBuddy(folder_);
-    auto* browse = new QPushButton("B&rowse...");
+    auto* browse = new QPushButton(Words::tr("B&rowse..."));
     browse->setAutoDefault(false);
     connect(browse, &QPushButton::clicked, this, [this] {
-        const QString chosen = QFileDialog::getExistingDirectory(this, "Icon Set", folder_->text());
+        const QString chosen =
+            QFileDialog::getExistingDirectory(this, Words::tr("Icon Set"), folder_->text());
         if (!chosen.isEmpty())
             folder_->setText(chosen);
     });
@@ -188,7 +190,7 @@ void IconSetsDialog::ShowState() {
     const bool isComplete =
         !folder_->text().isEmpty() && std::ranges::any_of(boxes_, &QCheckBox::isChecked);
     export_->setEnabled(isComplete);
-    export_->setToolTip(isComplete ? "" : "Choose a platform and a folder first");
+    export_->setToolTip(isComplete ? QString() : Words::tr("Choose a platform and a folder first"));
 }
 
 SetChoice IconSetsDialog::Choice() const {

@@ -7,21 +7,20 @@
 #include "app/take_file.h"
 #include "document/undo_history.h"
 #include "editing/document_commands.h"
+#include "widgets/words.h"
 
 namespace orbelle::app {
 namespace {
 
 namespace fs = std::filesystem;
 
-constexpr char kImporting[] = "Importing the files...";
 constexpr std::size_t kMostLines = 10;
 constexpr int kLongestAddress = 200;  // characters that are told
 
 // "1,000"
-std::string Grouped(std::size_t number) {
+QString Grouped(std::size_t number) {
     return QLocale(QLocale::English, QLocale::UnitedStates)
-        .toString(static_cast<qulonglong>(number))
-        .toStdString();
+        .toString(static_cast<qulonglong>(number));
 }
 
 // No further import can succeed.
@@ -39,10 +38,12 @@ TakeResult Import(const WindowContext& context, const fs::path& file, TakeAnswer
     return TakeToOpen(context, file, answers);
 }
 
+enum class Stop { None, Cancelled, Full };
+
 class Summary {
 public:
-    // `verb`: what was to be done with so many files.
-    Summary(const char* verb, std::size_t files) : verb_(verb), files_(files) {}
+    // Of so many files, which were to be opened or imported.
+    Summary(bool opens, std::size_t files) : opens_(opens), files_(files) {}
 
     void Note(TakeResult result) {
         done_ += result.End == TakeEnd::Done ? 1 : 0;
@@ -50,44 +51,50 @@ public:
         if (!result.Text.empty())
             lines_.push_back(std::move(result.Text));
     }
-    // `how`: "Cancelled" or "Stopped".
-    void End(const char* how) { stopped_ = how; }
+    void End(Stop stop) { stop_ = stop; }
 
     // Empty: there is nothing to tell.
     std::string Text() const {
-        std::string text;
-        if (files_ > 1 && stopped_)
-            text += std::string(stopped_) + ": " + Grouped(done_) + " of " + Grouped(files_) +
-                    " files were " + verb_ + ".\n";
+        QStringList lines;
+        if (files_ > 1 && stop_ != Stop::None)
+            lines += StopText().arg(Grouped(done_), Grouped(files_));
         if (files_ > 1 && failed_ > 0)
-            text += Grouped(failed_) + " of " + Grouped(files_) + " files could not be " + verb_ +
-                    ":\n";
+            lines += (opens_ ? Words::tr("%1 of %2 files could not be opened:")
+                             : Words::tr("%1 of %2 files could not be imported:"))
+                         .arg(Grouped(failed_), Grouped(files_));
         for (std::size_t i = 0; i < std::min(lines_.size(), kMostLines); ++i)
-            text += lines_[i] + '\n';
+            lines += QString::fromStdString(lines_[i]);
         if (lines_.size() > kMostLines)
-            text += "and " + Grouped(lines_.size() - kMostLines) + " more\n";
-        if (!text.empty())
-            text.pop_back();
-        return text;
+            lines += Words::tr("and %1 more").arg(Grouped(lines_.size() - kMostLines));
+        return lines.join('\n').toStdString();
     }
 
 private:
-    const char* verb_;
+    QString StopText() const {
+        if (stop_ == Stop::Cancelled)
+            return opens_ ? Words::tr("Cancelled: %1 of %2 files were opened.")
+                          : Words::tr("Cancelled: %1 of %2 files were imported.");
+        return opens_ ? Words::tr("Stopped: %1 of %2 files were opened.")
+                      : Words::tr("Stopped: %1 of %2 files were imported.");
+    }
+
+    bool opens_;
     std::size_t files_;
     std::size_t done_ = 0;
     std::size_t failed_ = 0;
-    const char* stopped_ = nullptr;
+    Stop stop_ = Stop::None;
     std::vector<std::string> lines_;
 };
 
 // Where a file is to be opened each is until one is; the others are imported.
 void TakeFiles(const WindowContext& context, const std::vector<fs::path>& files, bool opens) {
     TakeAnswers answers;
-    Summary summary(opens ? "opened" : "imported", files.size());
+    Summary summary(opens, files.size());
+    const std::string doing = Words::tr("Importing the files...").toStdString();
     const int count = static_cast<int>(files.size());
     for (int i = 0; i < count; ++i) {
-        if (!context.User.GoOn(i, count, kImporting)) {
-            summary.End("Cancelled");
+        if (!context.User.GoOn(i, count, doing)) {
+            summary.End(Stop::Cancelled);
             break;
         }
         const fs::path& file = files[static_cast<std::size_t>(i)];
@@ -97,16 +104,16 @@ void TakeFiles(const WindowContext& context, const std::vector<fs::path>& files,
         opens = opens && end != TakeEnd::Done;
         summary.Note(std::move(result));
         if (end == TakeEnd::Cancelled) {
-            summary.End("Cancelled");
+            summary.End(Stop::Cancelled);
             break;
         }
         if (end == TakeEnd::Failed && !opens && i + 1 < count &&
             IsFull(context.Commands.Editor())) {
-            summary.End("Stopped");
+            summary.End(Stop::Full);
             break;
         }
     }
-    context.User.GoOn(count, count, kImporting);
+    context.User.GoOn(count, count, doing);
     if (const std::string text = summary.Text(); !text.empty())
         context.User.ShowMessage(text);
 }
@@ -127,10 +134,14 @@ void TakePicture(const WindowContext& context, const OfferedPicture& offered, bo
 
 // In a box where nothing else came with it.
 void TellFar(const WindowContext& context, const QStringList& addresses, bool isAlone) {
-    QString text = addresses[0].left(kLongestAddress) + " is not on this computer";
-    if (addresses.size() > 1)
-        text = QString::number(addresses.size()) + " of the addresses are not on this computer";
-    text += ": only files that are can be opened.";
+    const auto count = static_cast<int>(addresses.size());
+    const QString text =
+        count == 1 ? Words::tr("%1 is not on this computer: only files that are can be opened.")
+                         .arg(addresses[0].left(kLongestAddress))
+                   : Words::tr(
+                         "%n of the addresses are not on this computer: only files that are "
+                         "can be opened.",
+                         nullptr, count);
     if (isAlone)
         context.User.ShowMessage(text.toStdString());
     else

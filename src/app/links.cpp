@@ -7,23 +7,30 @@
 #include <algorithm>
 #include <iterator>
 
+#include "widgets/words.h"
+
 namespace orbelle::app {
 
 void OpenLink(const WindowContext& context, const QString& address) {
     const std::string text = address.toStdString();
     if (QDesktopServices::openUrl(QUrl(address)))
-        context.User.ShowStatus("Opened in the browser: " + text);
+        context.User.ShowStatus(Words::tr("Opened in the browser: %1").arg(address).toStdString());
     else
-        context.User.ShowAddress("There is no browser that could show this page:\n" + text, text);
+        context.User.ShowAddress(
+            Words::tr("There is no browser that could show this page:").toStdString() + '\n' + text,
+            text);
 }
 
 void OpenFolder(const WindowContext& context, const std::filesystem::path& folder) {
     const std::string text = folder.string();
-    if (QDesktopServices::openUrl(QUrl::fromLocalFile(QString::fromStdString(text))))
-        context.User.ShowStatus("Opened the folder: " + text);
+    const QString shown = QString::fromStdString(text);
+    if (QDesktopServices::openUrl(QUrl::fromLocalFile(shown)))
+        context.User.ShowStatus(Words::tr("Opened the folder: %1").arg(shown).toStdString());
     else
-        context.User.ShowAddress("There is no file manager that could show the folder:\n" + text,
-                                 text);
+        context.User.ShowAddress(
+            Words::tr("There is no file manager that could show the folder:").toStdString() + '\n' +
+                text,
+            text);
 }
 
 void OpenSamples(const WindowContext& context) {
@@ -36,17 +43,23 @@ void OpenSamples(const WindowContext& context) {
         std::ranges::find_if(kFolders, [&](const char* folder) { return program.exists(folder); });
     if (found == std::end(kFolders)) {
         const std::string expected = clean(kFolders[0]).toStdString();
-        context.User.ShowAddress("The folder of samples is missing. It belongs here:\n" + expected,
-                                 expected);
+        context.User.ShowAddress(
+            Words::tr("The folder of samples is missing. It belongs here:").toStdString() + '\n' +
+                expected,
+            expected);
         return;
     }
     const QString folder = clean(*found);
     const std::string text = folder.toStdString();
     if (QDesktopServices::openUrl(QUrl::fromLocalFile(folder)))
-        context.User.ShowStatus("Opened the folder of samples: " + text);
+        context.User.ShowStatus(
+            Words::tr("Opened the folder of samples: %1").arg(folder).toStdString());
     else
         context.User.ShowAddress(
-            "There is no file manager that could show the folder of samples:\n" + text, text);
+            Words::tr("There is no file manager that could show the folder of samples:")
+                    .toStdString() +
+                '\n' + text,
+            text);
 }
 
 }  // namespace orbelle::app

@@ -19,6 +19,7 @@
 #include "editing/tool_palette.h"
 #include "editing/undo_commands.h"
 #include "editing/view_commands.h"
+#include "widgets/words.h"
 
 namespace orbelle::app {
 namespace {
@@ -28,8 +29,6 @@ using editing::CommandId;
 constexpr char kTipsName[] = "Tips";
 constexpr char kPixelGridName[] = "PixelGrid";
 constexpr char kCheckName[] = "CheckIcon";
-constexpr char kUndoCaption[] = "&Undo";
-constexpr char kRedoCaption[] = "&Redo";
 
 using Action = std::function<void(const WindowContext&)>;
 
@@ -64,37 +63,37 @@ std::vector<Entry> ExportEntries() {
     for (const ExportEntry& format : kExportEntries) {
         entries.push_back(
             {kNames[entries.size()],
-             QString(format.Caption).insert(format.Mnemonic, '&'),
+             Words::tr(format.Caption),
              {},
              [&format](const WindowContext& context) { AskExport(context, format); }});
     }
     entries.push_back({});
-    entries.push_back({"ExportSets", "Icon &Set...", {}, AskExportSets});
+    entries.push_back({"ExportSets", Words::tr("Icon &Set..."), {}, AskExportSets});
     return entries;
 }
 
 std::vector<Entry> FileEntries() {
     return {
-        {"New", "&New", {Qt::CTRL | Qt::Key_N}, AskNew},
-        {"Open", "&Open", {Qt::CTRL | Qt::Key_O}, AskOpen},
-        {"OpenRecent", "Open &Recent"},
+        {"New", Words::tr("&New"), {Qt::CTRL | Qt::Key_N}, AskNew},
+        {"Open", Words::tr("&Open"), {Qt::CTRL | Qt::Key_O}, AskOpen},
+        {"OpenRecent", Words::tr("Open &Recent")},
         {},
         {"Save",
-         "&Save",
+         Words::tr("&Save"),
          {Qt::CTRL | Qt::Key_S},
          [](const WindowContext& context) { AskSave(context); },
          CommandId::Save},
         {"SaveAs",
-         "Save &As...",
+         Words::tr("Save &As..."),
          {Qt::CTRL | Qt::SHIFT | Qt::Key_S},
          [](const WindowContext& context) { AskSaveAs(context); },
          CommandId::SaveAs},
         {},
-        {"Import", "&Import...", {Qt::CTRL | Qt::Key_I}, AskImport},
-        {"Export", "&Export...", {}, {}, CommandId::Export, ExportEntries()},
+        {"Import", Words::tr("&Import..."), {Qt::CTRL | Qt::Key_I}, AskImport},
+        {"Export", Words::tr("&Export..."), {}, {}, CommandId::Export, ExportEntries()},
         {},
         {"Exit",
-         "E&xit",
+         Words::tr("E&xit"),
          {Qt::CTRL | Qt::Key_Q},
          [](const WindowContext& context) { context.Window.CloseWindow(); }},
     };
@@ -102,16 +101,16 @@ std::vector<Entry> FileEntries() {
 
 std::vector<Entry> ImageEntries() {
     return {
-        {"ImageOpacity", "&Opacity..."},
-        {"Grey", "&Grey"},
+        {"ImageOpacity", Words::tr("&Opacity...")},
+        {"Grey", Words::tr("&Grey")},
         {},
         {"BackgroundColor",
-         "&Background Color",
+         Words::tr("&Background Color"),
          {},
          {},
          {},
-         {{"SetBackgroundColor", "&Set Background Color"},
-          {"TransparencyBackgroundColor", "&Transparency Background Color"}}},
+         {{"SetBackgroundColor", Words::tr("&Set Background Color")},
+          {"TransparencyBackgroundColor", Words::tr("&Transparency Background Color")}}},
     };
 }
 
@@ -120,97 +119,104 @@ std::vector<Entry> EditEntries() {
     using editing::LayerOrder;
     using Shortcuts = QList<QKeySequence>;
     using State = CommandId;
-    const auto entry = [](const char* name, const char* caption, const Shortcuts& shortcuts,
+    const auto entry = [](const char* name, const QString& caption, const Shortcuts& shortcuts,
                           void (*command)(editing::Editor&), State state) {
         return Entry{name, caption, shortcuts, Edit(command), state};
     };
-    const auto turn = [](const char* name, const char* caption, FlipRotate mode, State state) {
+    const auto turn = [](const char* name, const QString& caption, FlipRotate mode, State state) {
         return Entry{name,
                      caption,
                      {},
                      Edit([mode](editing::Editor& editor) { FlipRotateLayer(editor, mode); }),
                      state};
     };
-    const auto move = [](const char* name, const char* caption, const Shortcuts& shortcuts,
+    const auto move = [](const char* name, const QString& caption, const Shortcuts& shortcuts,
                          LayerOrder order, State state) {
         return Entry{name, caption, shortcuts,
                      Edit([order](editing::Editor& editor) { SetLayerOrder(editor, order); }),
                      state};
     };
     return {
-        entry("Undo", kUndoCaption, {Qt::CTRL | Qt::Key_Z}, editing::Undo, CommandId::Undo),
-        entry("Redo", kRedoCaption, {Qt::CTRL | Qt::Key_Y, Qt::CTRL | Qt::SHIFT | Qt::Key_Z},
+        entry("Undo", Words::tr("&Undo"), {Qt::CTRL | Qt::Key_Z}, editing::Undo, CommandId::Undo),
+        entry("Redo", Words::tr("&Redo"), {Qt::CTRL | Qt::Key_Y, Qt::CTRL | Qt::SHIFT | Qt::Key_Z},
               editing::Redo, CommandId::Redo),
         {},
-        entry("Cut", "Cu&t", {Qt::CTRL | Qt::Key_X}, editing::CutToClipboard, CommandId::Cut),
-        entry("Copy", "&Copy", {Qt::CTRL | Qt::Key_C}, editing::CopyToClipboard, CommandId::Copy),
+        entry("Cut", Words::tr("Cu&t"), {Qt::CTRL | Qt::Key_X}, editing::CutToClipboard,
+              CommandId::Cut),
+        entry("Copy", Words::tr("&Copy"), {Qt::CTRL | Qt::Key_C}, editing::CopyToClipboard,
+              CommandId::Copy),
         {"Paste",
-         "&Paste",
+         Words::tr("&Paste"),
          {Qt::CTRL | Qt::Key_V},
          [](const WindowContext& context) { context.Window.Paste(); },
          CommandId::Paste},
-        entry("Delete", "&Delete", {}, editing::DeleteSelected, CommandId::Delete),
+        entry("Delete", Words::tr("&Delete"), {}, editing::DeleteSelected, CommandId::Delete),
         {},
-        entry("SelectAll", "Select &All", {Qt::CTRL | Qt::Key_A}, editing::SelectAll,
+        entry("SelectAll", Words::tr("Select &All"), {Qt::CTRL | Qt::Key_A}, editing::SelectAll,
               CommandId::SelectAll),
-        entry("Deselect", "D&eselect", {Qt::CTRL | Qt::Key_D}, editing::EndSelection,
+        entry("Deselect", Words::tr("D&eselect"), {Qt::CTRL | Qt::Key_D}, editing::EndSelection,
               CommandId::Deselect),
-        entry("InvertSelection", "&Invert Selection", {Qt::CTRL | Qt::SHIFT | Qt::Key_I},
+        entry("InvertSelection", Words::tr("&Invert Selection"), {Qt::CTRL | Qt::SHIFT | Qt::Key_I},
               editing::InvertSelection, CommandId::InvertSelection),
         {},
-        entry("MergeDown", "&Merge Down", {}, editing::MergeDown, CommandId::MergeDown),
+        entry("MergeDown", Words::tr("&Merge Down"), {}, editing::MergeDown, CommandId::MergeDown),
         {},
-        turn("FlipHorizontal", "Flip &Horizontal", FlipRotate::FlipHorizontal,
+        turn("FlipHorizontal", Words::tr("Flip &Horizontal"), FlipRotate::FlipHorizontal,
              CommandId::FlipHorizontal),
-        turn("FlipVertical", "Flip &Veritcal", FlipRotate::FlipVertical, CommandId::FlipVertical),
-        turn("Rotate90Cw", "Rotate &90 CW", FlipRotate::Rotate90Cw, CommandId::Rotate90Cw),
-        turn("Rotate90Cww", "Rotate 90 CW&W", FlipRotate::Rotate90Cww, CommandId::Rotate90Cww),
+        turn("FlipVertical", Words::tr("Flip &Veritcal"), FlipRotate::FlipVertical,
+             CommandId::FlipVertical),
+        turn("Rotate90Cw", Words::tr("Rotate &90 CW"), FlipRotate::Rotate90Cw,
+             CommandId::Rotate90Cw),
+        turn("Rotate90Cww", Words::tr("Rotate 90 CW&W"), FlipRotate::Rotate90Cww,
+             CommandId::Rotate90Cww),
         {},
-        move("BackOne", "&Back One", {Qt::CTRL | Qt::Key_BracketLeft}, LayerOrder::BackOne,
-             CommandId::BackOne),
-        move("ForwardOne", "&Foward One", {Qt::CTRL | Qt::Key_BracketRight}, LayerOrder::ForwardOne,
-             CommandId::ForwardOne),
-        move("ToBack", "To Bac&k", {Qt::CTRL | Qt::SHIFT | Qt::Key_BracketLeft}, LayerOrder::ToBack,
-             CommandId::ToBack),
-        move("ToFront", "To Fro&nt", {Qt::CTRL | Qt::SHIFT | Qt::Key_BracketRight},
+        move("BackOne", Words::tr("&Back One"), {Qt::CTRL | Qt::Key_BracketLeft},
+             LayerOrder::BackOne, CommandId::BackOne),
+        move("ForwardOne", Words::tr("&Foward One"), {Qt::CTRL | Qt::Key_BracketRight},
+             LayerOrder::ForwardOne, CommandId::ForwardOne),
+        move("ToBack", Words::tr("To Bac&k"), {Qt::CTRL | Qt::SHIFT | Qt::Key_BracketLeft},
+             LayerOrder::ToBack, CommandId::ToBack),
+        move("ToFront", Words::tr("To Fro&nt"), {Qt::CTRL | Qt::SHIFT | Qt::Key_BracketRight},
              LayerOrder::ToFront, CommandId::ToFront),
     };
 }
 
 std::vector<Entry> StyleEntries() {
-    const auto entry = [](const char* name, const char* caption, void (*command)(editing::Editor&),
-                          CommandId state) {
+    const auto entry = [](const char* name, const QString& caption,
+                          void (*command)(editing::Editor&), CommandId state) {
         return Entry{name, caption, {}, Style(command), state};
     };
-    const auto fold = [](const char* name, const char* caption, filters::Fold direction) {
+    const auto fold = [](const char* name, const QString& caption, filters::Fold direction) {
         return Entry{name, caption, {}, Style([direction](editing::Editor& editor) {
                          Origami(editor, direction);
                      })};
     };
     return {
-        entry("DisabledState", "&Disabled State", editing::DisabledState, CommandId::DisabledState),
-        entry("HotState", "&Hot State", editing::HotState, CommandId::HotState),
+        entry("DisabledState", Words::tr("&Disabled State"), editing::DisabledState,
+              CommandId::DisabledState),
+        entry("HotState", Words::tr("&Hot State"), editing::HotState, CommandId::HotState),
         {},
-        entry("Fresh", "Varnel &Fresh Style", editing::Fresh, CommandId::Fresh),
-        entry("Ios", "&IOS Style", editing::Ios, CommandId::Ios),
+        entry("Fresh", Words::tr("Varnel &Fresh Style"), editing::Fresh, CommandId::Fresh),
+        entry("Ios", Words::tr("&IOS Style"), editing::Ios, CommandId::Ios),
         {"Origami",
-         "&Origami style",
+         Words::tr("&Origami style"),
          {},
          {},
          CommandId::Origami,
-         {fold("OrigamiVertical", "&Vertical", filters::Fold::Vertical),
-          fold("OrigamiHorizontal", "&Horizontal", filters::Fold::Horizontal)}},
-        entry("Mac", "&Mac Style", editing::Mac, CommandId::Mac),
-        entry("Vista", "&Vista Style", editing::Vista, CommandId::Vista),
-        entry("Crystal", "&Crystal Style", editing::Crystal, CommandId::Crystal),
+         {fold("OrigamiVertical", Words::tr("&Vertical"), filters::Fold::Vertical),
+          fold("OrigamiHorizontal", Words::tr("&Horizontal"), filters::Fold::Horizontal)}},
+        entry("Mac", Words::tr("&Mac Style"), editing::Mac, CommandId::Mac),
+        entry("Vista", Words::tr("&Vista Style"), editing::Vista, CommandId::Vista),
+        entry("Crystal", Words::tr("&Crystal Style"), editing::Crystal, CommandId::Crystal),
         {},
-        entry("Blur", "&Blur", editing::Blur, CommandId::Blur),
-        entry("Sharpen", "Shar&pen", editing::Sharpen, CommandId::Sharpen),
+        entry("Blur", Words::tr("&Blur"), editing::Blur, CommandId::Blur),
+        entry("Sharpen", Words::tr("Shar&pen"), editing::Sharpen, CommandId::Sharpen),
         {},
-        entry("Irradiation", "I&rradiation", editing::Irradiation, CommandId::Irradiation),
-        entry("Shade", "&Shade", editing::Shade, CommandId::Shade),
-        entry("Reflection", "Ref&lection", editing::Reflection, CommandId::Reflection),
-        entry("DropShadow", "Drop Shado&w", editing::DropShadow, CommandId::DropShadow),
+        entry("Irradiation", Words::tr("I&rradiation"), editing::Irradiation,
+              CommandId::Irradiation),
+        entry("Shade", Words::tr("&Shade"), editing::Shade, CommandId::Shade),
+        entry("Reflection", Words::tr("Ref&lection"), editing::Reflection, CommandId::Reflection),
+        entry("DropShadow", Words::tr("Drop Shado&w"), editing::DropShadow, CommandId::DropShadow),
     };
 }
 
@@ -222,7 +228,7 @@ std::optional<CommandId> CommandOf(editing::Tool tool) {
 }
 
 std::vector<Entry> ToolEntries() {
-    const auto entry = [](const char* name, const char* caption, editing::Tool tool) {
+    const auto entry = [](const char* name, const QString& caption, editing::Tool tool) {
         return Entry{
             .Name = name,
             .Caption = caption,
@@ -231,7 +237,7 @@ std::vector<Entry> ToolEntries() {
             .Checks = true,
             .IsOn = [tool](const editing::ToolSettings& tools) { return tools.InUse == tool; }};
     };
-    const auto mirror = [](const char* name, const char* caption, const QKeySequence& shortcut,
+    const auto mirror = [](const char* name, const QString& caption, const QKeySequence& shortcut,
                            void (*command)(editing::Editor&), bool editing::MirrorAxes::*axis) {
         return Entry{
             .Name = name,
@@ -243,26 +249,26 @@ std::vector<Entry> ToolEntries() {
             .IsOn = [axis](const editing::ToolSettings& tools) { return tools.Mirror.*axis; }};
     };
     return {
-        entry("SelectionTool", "&Selecetion", editing::Tool::Move),
-        entry("PencilTool", "&Pencil", editing::Tool::Pencil),
-        entry("LineTool", "&Line", editing::Tool::Line),
-        entry("EllipseTool", "&Ellipse", editing::Tool::Ellipse),
-        entry("RectangleTool", "&Rectangle", editing::Tool::Rectangle),
+        entry("SelectionTool", Words::tr("&Selecetion"), editing::Tool::Move),
+        entry("PencilTool", Words::tr("&Pencil"), editing::Tool::Pencil),
+        entry("LineTool", Words::tr("&Line"), editing::Tool::Line),
+        entry("EllipseTool", Words::tr("&Ellipse"), editing::Tool::Ellipse),
+        entry("RectangleTool", Words::tr("&Rectangle"), editing::Tool::Rectangle),
         {},
-        mirror("MirrorLeftRight", "&Mirror Left/Right", Qt::CTRL | Qt::Key_M,
+        mirror("MirrorLeftRight", Words::tr("&Mirror Left/Right"), Qt::CTRL | Qt::Key_M,
                editing::ToggleMirrorLeftRight, &editing::MirrorAxes::LeftRight),
-        mirror("MirrorTopBottom", "Mirror &Top/Bottom", Qt::CTRL | Qt::SHIFT | Qt::Key_M,
+        mirror("MirrorTopBottom", Words::tr("Mirror &Top/Bottom"), Qt::CTRL | Qt::SHIFT | Qt::Key_M,
                editing::ToggleMirrorTopBottom, &editing::MirrorAxes::TopBottom),
         {},
         {.Name = kCheckName,
-         .Caption = "&Check Icon",
+         .Caption = Words::tr("&Check Icon"),
          .Run = [](const WindowContext& context) { context.Window.ToggleCheck(); },
          .Checks = true},
     };
 }
 
 std::vector<Entry> ViewEntries() {
-    const auto looks = [](const char* name, const char* caption, Looks which) {
+    const auto looks = [](const char* name, const QString& caption, Looks which) {
         return Entry{
             .Name = name,
             .Caption = caption,
@@ -272,40 +278,40 @@ std::vector<Entry> ViewEntries() {
     };
     return {
         {.Name = kPixelGridName,
-         .Caption = "Pixel &Grid",
+         .Caption = Words::tr("Pixel &Grid"),
          .Shortcuts = {Qt::CTRL | Qt::Key_Apostrophe},
          .Run = [](const WindowContext& context) { context.Window.TogglePixelGrid(); },
          .Checks = true},
         {.Name = "FitWhole",
-         .Caption = "Fit in &Whole Steps",
+         .Caption = Words::tr("Fit in &Whole Steps"),
          .Shortcuts = {Qt::CTRL | Qt::Key_9},
          .Run = Edit(editing::FitWhole),
          .Command = CommandId::FitWhole},
         {},
         {.Name = "NextSize",
-         .Caption = "&Next Size",
+         .Caption = Words::tr("&Next Size"),
          .Shortcuts = {Qt::CTRL | Qt::Key_PageDown},
          .Run = Edit(editing::GoToNextPage),
          .Command = CommandId::NextSize},
         {.Name = "PreviousSize",
-         .Caption = "&Previous Size",
+         .Caption = Words::tr("&Previous Size"),
          .Shortcuts = {Qt::CTRL | Qt::Key_PageUp},
          .Run = Edit(editing::GoToPreviousPage),
          .Command = CommandId::PreviousSize},
         {.Name = "Master",
-         .Caption = "&Master",
+         .Caption = Words::tr("&Master"),
          .Shortcuts = {Qt::CTRL | Qt::Key_Home},
          .Run = Edit([](editing::Editor& editor) { GoToPage(editor, document::Family::kMaster); }),
          .Command = CommandId::Master},
         {},
-        looks("LooksLight", "&Light", Looks::Light),
-        looks("LooksDark", "&Dark", Looks::Dark),
-        looks("LooksDesktop", "As the D&esktop", Looks::AsDesktop),
+        looks("LooksLight", Words::tr("&Light"), Looks::Light),
+        looks("LooksDark", Words::tr("&Dark"), Looks::Dark),
+        looks("LooksDesktop", Words::tr("As the D&esktop"), Looks::AsDesktop),
     };
 }
 
 std::vector<Entry> HelpEntries() {
-    const auto link = [](const char* name, const char* caption, const QString& address) {
+    const auto link = [](const char* name, const QString& caption, const QString& address) {
         return Entry{
             .Name = name, .Caption = caption, .Run = [address](const WindowContext& context) {
                 OpenLink(context, address);
@@ -313,16 +319,16 @@ std::vector<Entry> HelpEntries() {
     };
     return {
         {.Name = kTipsName,
-         .Caption = "&Tips",
+         .Caption = Words::tr("&Tips"),
          .Run = [](const WindowContext& context) { context.Window.ToggleTips(); },
          .Checks = true},
-        {.Name = "Samples", .Caption = "&Samples", .Run = OpenSamples},
-        link("DownloadSampleIcons", "&Free Download Sample Icons...", kSampleIcons),
-        link("DownloadIcons", "&Download Over 20,000 Professional Icons...", kMoreIcons),
+        {.Name = "Samples", .Caption = Words::tr("&Samples"), .Run = OpenSamples},
+        link("DownloadSampleIcons", Words::tr("&Free Download Sample Icons..."), kSampleIcons),
+        link("DownloadIcons", Words::tr("&Download Over 20,000 Professional Icons..."), kMoreIcons),
         {},
-        link("WebsiteEntry", "Varnel &Website", kWebsite),
+        link("WebsiteEntry", Words::tr("Varnel &Website"), kWebsite),
         {.Name = "About",
-         .Caption = "&About",
+         .Caption = Words::tr("&About"),
          .Run = [](const WindowContext& context) { context.Window.ShowAbout(); }},
     };
 }
@@ -363,13 +369,13 @@ MainMenu::MainMenu(QMainWindow& window, const WindowContext& context) {
             }
         };
     const Entry menus[] = {
-        {.Name = "FileMenu", .Caption = "&File", .Entries = FileEntries()},
-        {.Name = "ImageMenu", .Caption = "&Image", .Entries = ImageEntries()},
-        {.Name = "EditMenu", .Caption = "&Edit", .Entries = EditEntries()},
-        {.Name = "StyleMenu", .Caption = "&Style", .Entries = StyleEntries()},
-        {.Name = "ToolMenu", .Caption = "&Tool", .Entries = ToolEntries()},
-        {.Name = "ViewMenu", .Caption = "&View", .Entries = ViewEntries()},
-        {.Name = "HelpMenu", .Caption = "&Help", .Entries = HelpEntries()},
+        {.Name = "FileMenu", .Caption = Words::tr("&File"), .Entries = FileEntries()},
+        {.Name = "ImageMenu", .Caption = Words::tr("&Image"), .Entries = ImageEntries()},
+        {.Name = "EditMenu", .Caption = Words::tr("&Edit"), .Entries = EditEntries()},
+        {.Name = "StyleMenu", .Caption = Words::tr("&Style"), .Entries = StyleEntries()},
+        {.Name = "ToolMenu", .Caption = Words::tr("&Tool"), .Entries = ToolEntries()},
+        {.Name = "ViewMenu", .Caption = Words::tr("&View"), .Entries = ViewEntries()},
+        {.Name = "HelpMenu", .Caption = Words::tr("&Help"), .Entries = HelpEntries()},
     };
     for (const Entry& entry : menus) {
         QMenu* menu = window.menuBar()->addMenu(entry.Caption);
@@ -408,8 +414,8 @@ void MainMenu::ShowStates(const editing::Editor& editor) {
         state.Action->setEnabled(editor.States.IsEnabled(state.Command));
     for (const Mark& mark : marks_)
         mark.Action->setChecked(mark.IsOn(editor.Tools));
-    undo_->setText(StepCaption(kUndoCaption, editor.States.UndoName));
-    redo_->setText(StepCaption(kRedoCaption, editor.States.RedoName));
+    undo_->setText(StepCaption(Words::tr("&Undo"), Words::tr("&Undo %1"), editor.States.UndoName));
+    redo_->setText(StepCaption(Words::tr("&Redo"), Words::tr("&Redo %1"), editor.States.RedoName));
 }
 
 }  // namespace orbelle::app

@@ -21,6 +21,7 @@
 #include "editing/scene_input.h"
 #include "editing/tips.h"
 #include "editing/view_commands.h"
+#include "widgets/words.h"
 
 namespace orbelle::app {
 namespace {
@@ -94,8 +95,8 @@ QWidget* MainWindow::MakeScene() {
     scene_ = new SceneView(editor_);
     horizontalScroll_ = new QScrollBar(Qt::Horizontal);
     verticalScroll_ = new QScrollBar(Qt::Vertical);
-    horizontalScroll_->setAccessibleName("Horizontal position");
-    verticalScroll_->setAccessibleName("Vertical position");
+    horizontalScroll_->setAccessibleName(Words::tr("Horizontal position"));
+    verticalScroll_->setAccessibleName(Words::tr("Vertical position"));
     layout->addWidget(scene_, 0, 0);
     layout->addWidget(verticalScroll_, 0, 1);
     layout->addWidget(horizontalScroll_, 1, 0);
@@ -169,7 +170,7 @@ void MainWindow::AddShortcuts() {
                 [this, command = shortcut.Command] { Run(command); });
         addAction(action);
     }
-    auto* escape = new QAction("Give up", this);
+    auto* escape = new QAction(Words::tr("Give up"), this);
     escape->setShortcut(Qt::Key_Escape);
     connect(escape, &QAction::triggered, this, &MainWindow::GiveUp);
     addAction(escape);

@@ -6,6 +6,7 @@
 #include "app/recovery_dialog.h"
 #include "editing/document_commands.h"
 #include "graphics/errors.h"
+#include "widgets/words.h"
 
 namespace orbelle::app {
 namespace {
@@ -25,7 +26,12 @@ void MainWindow::StartRecovery() {
     // Told by the thread that writes.
     const auto tell = [this](const std::string& problem) {
         QMetaObject::invokeMethod(
-            this, [this, problem] { ShowStatus("Unsaved work can't be kept safe: " + problem); },
+            this,
+            [this, problem] {
+                ShowStatus(Words::tr("Unsaved work can't be kept safe: %1")
+                               .arg(QString::fromStdString(problem))
+                               .toStdString());
+            },
             Qt::QueuedConnection);
     };
     try {

@@ -8,6 +8,7 @@
 
 #include "editing/editor.h"
 #include "widgets/artwork.h"
+#include "widgets/words.h"
 
 namespace orbelle::app {
 namespace {
@@ -54,7 +55,7 @@ void ShowMessageToCopy(QWidget* parent, const std::string& text, const std::stri
                     QMessageBox::Ok, parent);
     box.setTextFormat(Qt::PlainText);
     box.setTextInteractionFlags(Qt::TextSelectableByMouse);
-    const QPushButton* copy = box.addButton("&Copy", QMessageBox::ActionRole);
+    const QPushButton* copy = box.addButton(Words::tr("&Copy"), QMessageBox::ActionRole);
     box.setDefaultButton(QMessageBox::Ok);
     box.setEscapeButton(QMessageBox::Ok);
     Exec(box);
@@ -66,7 +67,7 @@ bool OfferFolder(QWidget* parent, const std::string& text) {
     QMessageBox box(QMessageBox::NoIcon, editing::kProductName, QString::fromStdString(text),
                     QMessageBox::Ok, parent);
     box.setTextFormat(Qt::PlainText);
-    const QPushButton* open = box.addButton("Open &Folder", QMessageBox::ActionRole);
+    const QPushButton* open = box.addButton(Words::tr("Open &Folder"), QMessageBox::ActionRole);
     box.setDefaultButton(QMessageBox::Ok);
     box.setEscapeButton(QMessageBox::Ok);
     Exec(box);

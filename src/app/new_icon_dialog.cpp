@@ -11,6 +11,7 @@
 #include "document/document.h"
 #include "editing/document_commands.h"
 #include "widgets/number_slider.h"
+#include "widgets/words.h"
 
 namespace orbelle::app {
 namespace {
@@ -21,7 +22,7 @@ constexpr int kPresets[] = {16, 24, 32, 48, 64, 128, 256, 512};
 }  // namespace
 
 NewIconDialog::NewIconDialog(QWidget* parent) : QDialog(parent) {
-    setWindowTitle("New Icon...");
+    setWindowTitle(Words::tr("New Icon..."));
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(20, 20, 20, 16);
     layout->setSpacing(20);
@@ -31,8 +32,8 @@ NewIconDialog::NewIconDialog(QWidget* parent) : QDialog(parent) {
     rows->setHorizontalSpacing(12);
     rows->setVerticalSpacing(12);
     layout->addLayout(rows);
-    pageWidth_ = AddSide(*rows, "PageWidth", "&Width:", kNewWidth);
-    pageHeight_ = AddSide(*rows, "PageHeight", "&Height:", kNewHeight);
+    pageWidth_ = AddSide(*rows, "PageWidth", Words::tr("&Width:"), kNewWidth);
+    pageHeight_ = AddSide(*rows, "PageHeight", Words::tr("&Height:"), kNewHeight);
 
     presets_ = new SizePresets;
     layout->addWidget(presets_);
@@ -82,7 +83,7 @@ widgets::NumberSlider* NewIconDialog::AddSide(QGridLayout& rows, const char* nam
     const int row = rows.rowCount();
     rows.addWidget(label, row, 0);
     rows.addWidget(side, row, 1);
-    rows.addWidget(new QLabel("px"), row, 2);
+    rows.addWidget(new QLabel(Words::tr("px")), row, 2);
     return side;
 }
 

@@ -2,28 +2,54 @@
 
 #include <QColor>
 #include <QPainter>
-#include <QPixmap>
 #include <cmath>
 
 #include "app/tool_hint.h"
 #include "editing/drag_readout.h"
 #include "editing/scene_mapping.h"
 #include "widgets/theme.h"
+#include "widgets/words.h"
 
 namespace orbelle::app {
 namespace {
 
 constexpr int kChipSide = 14;
 
-// As wide as the widest text that it is to show, so that its neighbours stand still.
-QLabel* AddField(QStatusBar& line, const char* name, const QString& caption,
-                 const QString& widest) {
-    auto* field = new QLabel;
-    field->setObjectName(name);
-    field->setToolTip(caption);
-    field->setMinimumWidth(field->fontMetrics().horizontalAdvance(widest) + widgets::kWideSpace);
-    field->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    field->setContentsMargins(0, 0, widgets::kWideSpace, 0);
+// As wide as the widest text that it is to show, so that its neighbours stand still; if fixed, a
+// new text does not lay out the line anew at every step of a drag.
+class Field : public QLabel {
+public:
+    Field(const char* name, const QString& caption, QString widest, bool isFixed)
+        : widest_(std::move(widest)), isFixed_(isFixed) {
+        setObjectName(name);
+        setToolTip(caption);
+        setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+        setContentsMargins(0, 0, widgets::kWideSpace, 0);
+        Fit();
+    }
+
+private:
+    void changeEvent(QEvent* event) override {
+        QLabel::changeEvent(event);
+        if (event->type() == QEvent::FontChange)
+            Fit();
+    }
+    void Fit() {
+        const QFontMetrics metrics = fontMetrics();
+        const int width = metrics.horizontalAdvance(widest_) + widgets::kWideSpace;
+        if (isFixed_)
+            setFixedSize(width, metrics.height());
+        else
+            setMinimumWidth(width);
+    }
+
+    QString widest_;
+    bool isFixed_;
+};
+
+QLabel* AddField(QStatusBar& line, const char* name, const QString& caption, const QString& widest,
+                 bool isFixed = true) {
+    auto* field = new Field(name, caption, widest, isFixed);
     line.addPermanentWidget(field);
     return field;
 }
@@ -38,37 +64,52 @@ QLabel* AddHint(QStatusBar& line) {
     return hint;
 }
 
-QLabel* AddChip(QStatusBar& line) {
-    auto* chip = new QLabel;
-    chip->setObjectName("PointerColorChip");
-    chip->setFixedSize(kChipSide, kChipSide);
+}  // namespace
+
+// On checks, in a frame.
+class ColorChip : public QWidget {
+public:
+    ColorChip() {
+        setObjectName("PointerColorChip");
+        setFixedSize(kChipSide, kChipSide);
+    }
+
+    void Show(std::optional<QRgb> color) {
+        if (color_ == color)
+            return;
+        color_ = color;
+        update();
+    }
+
+private:
+    void paintEvent(QPaintEvent* /*event*/) override {
+        if (!color_)
+            return;
+        QPainter painter(this);
+        painter.fillRect(rect(), Qt::white);
+        widgets::DrawChecker(painter, rect(), QColor(216, 216, 216));
+        painter.fillRect(rect(), QColor::fromRgba(*color_));
+        painter.setPen(widgets::CurrentTheme().Line);
+        painter.drawRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5));
+    }
+
+    std::optional<QRgb> color_;
+};
+
+static ColorChip* AddChip(QStatusBar& line) {
+    auto* chip = new ColorChip;
     line.addPermanentWidget(chip);
     return chip;
 }
 
-// On checks, in a frame.
-QPixmap Chip(const QColor& color, double scale) {
-    QPixmap chip(QSizeF(kChipSide * scale, kChipSide * scale).toSize());
-    chip.setDevicePixelRatio(scale);
-    chip.fill(Qt::white);
-    QPainter painter(&chip);
-    const QRect whole(0, 0, kChipSide, kChipSide);
-    widgets::DrawChecker(painter, whole, QColor(216, 216, 216));
-    painter.fillRect(whole, color);
-    painter.setPen(widgets::CurrentTheme().Line);
-    painter.drawRect(QRectF(whole).adjusted(0.5, 0.5, -0.5, -0.5));
-    return chip;
-}
-
-}  // namespace
-
 PointerStatus::PointerStatus(QStatusBar& line)
     : hint_(AddHint(line)),
-      position_(AddField(line, "PointerPosition", QObject::tr("Position"), "-000, -000")),
-      drag_(AddField(line, "DragReadout", QObject::tr("Size"), "000 x 000 at 000, 000")),
+      position_(AddField(line, "PointerPosition", Words::tr("Position"), "-000, -000")),
+      drag_(AddField(line, "DragReadout", Words::tr("Size"),
+                     Words::tr("%1 %2 %3 at %4, %5").arg("000", "x", "000", "000", "000"), false)),
       chip_(AddChip(line)),
-      color_(AddField(line, "PointerColor", QObject::tr("Color under the pointer"), "#FFDDDDDD")),
-      zoom_(AddField(line, "Zoom", QObject::tr("Zoom"), "2000%")) {}
+      color_(AddField(line, "PointerColor", Words::tr("Color under the pointer"), "#FFDDDDDD")),
+      zoom_(AddField(line, "Zoom", Words::tr("Zoom"), "2000%")) {}
 
 void PointerStatus::ShowPointer(const editing::Editor& editor, float x, float y) {
     pointer_ = {x, y};
@@ -87,13 +128,8 @@ void PointerStatus::Refresh(const editing::Editor& editor) {
 }
 
 void PointerStatus::ShowColor(std::optional<graphics::Argb> color) {
-    if (!color) {
-        color_->clear();
-        return chip_->clear();
-    }
-    const QColor shown = QColor::fromRgba(*color);
-    color_->setText(shown.name(QColor::HexArgb).toUpper());
-    chip_->setPixmap(Chip(shown, chip_->devicePixelRatioF()));
+    chip_->Show(color);
+    color_->setText(color ? QColor::fromRgba(*color).name(QColor::HexArgb).toUpper() : QString());
 }
 
 void PointerStatus::ClearPointer() {
@@ -115,12 +151,12 @@ void PointerStatus::ShowDrag(const editing::Editor& editor) {
     if (!readout)
         return drag_->clear();
     const auto& [x, y, width, height] = readout->Area;
-    drag_->setText(readout->IsMove ? QString("at %1, %2, moved by %3, %4")
+    drag_->setText(readout->IsMove ? Words::tr("at %1, %2, moved by %3, %4")
                                          .arg(x)
                                          .arg(y)
                                          .arg(readout->MovedX)
                                          .arg(readout->MovedY)
-                                   : QString("%1 %2 %3 at %4, %5")
+                                   : Words::tr("%1 %2 %3 at %4, %5")
                                          .arg(width)
                                          .arg(QChar(0x00D7))
                                          .arg(height)

@@ -11,6 +11,8 @@
 
 namespace orbelle::app {
 
+class ColorChip;
+
 class PointerStatus {
 public:
     // The tool's hint at the left, its other fields at the right end.
@@ -34,7 +36,7 @@ private:
     QLabel* hint_;
     QLabel* position_;
     QLabel* drag_;
-    QLabel* chip_;
+    ColorChip* chip_;
     QLabel* color_;
     QLabel* zoom_;
 };

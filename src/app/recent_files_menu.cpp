@@ -2,6 +2,7 @@
 
 #include "app/ask_commands.h"
 #include "app/recent_files.h"
+#include "widgets/words.h"
 
 namespace orbelle::app {
 namespace {
@@ -41,8 +42,8 @@ void RecentFilesMenu::Fill() {
     }
     menuAction()->setEnabled(!isEmpty());
     addSeparator();
-    connect(addAction("&Clear Menu"), &QAction::triggered, &context_.Recent, &RecentFiles::Clear,
-            Qt::QueuedConnection);
+    connect(addAction(Words::tr("&Clear Menu")), &QAction::triggered, &context_.Recent,
+            &RecentFiles::Clear, Qt::QueuedConnection);
 }
 
 }  // namespace orbelle::app

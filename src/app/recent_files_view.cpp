@@ -7,6 +7,7 @@
 
 #include "app/recent_files.h"
 #include "widgets/theme.h"
+#include "widgets/words.h"
 
 namespace orbelle::app {
 namespace {
@@ -76,7 +77,7 @@ private:
 RecentFilesView::RecentFilesView(const RecentFiles& files, QWidget& scene)
     : QWidget(&scene), files_(files), scene_(scene) {
     setObjectName("RecentFiles");
-    setAccessibleName("Recent files");
+    setAccessibleName(Words::tr("Recent files"));
     scene.installEventFilter(this);
     connect(&files, &RecentFiles::Changed, this, &RecentFilesView::Fill);
     Fill();
@@ -120,7 +121,7 @@ void RecentFilesView::paintEvent(QPaintEvent*) {
     painter.setFont(widgets::ChromeFont(9));
     painter.setPen(kHeadColor);
     painter.drawText(QRect(kInset, 0, width(), kRowHeight), Qt::AlignLeft | Qt::AlignVCenter,
-                     "Recent files");
+                     Words::tr("Recent files"));
 }
 
 }  // namespace orbelle::app

@@ -15,6 +15,7 @@
 #include "app/shared_image.h"
 #include "document/compositor.h"
 #include "widgets/theme.h"
+#include "widgets/words.h"
 
 namespace orbelle::app {
 namespace {
@@ -23,9 +24,11 @@ constexpr int kPictureSide = 64;  // logical pixels
 constexpr int kVisibleRows = 3;
 constexpr int kListWidth = 420;
 constexpr QColor kCheckerColor(232, 232, 232);
-constexpr char kHead[] = "Your work was not saved when Varnel Orbelle ended.";
-constexpr char kText[] =
-    "It can be restored as it was. What you keep for later is offered again at the next start.";
+constexpr char kHead[] =
+    QT_TRANSLATE_NOOP("Words", "Your work was not saved when Varnel Orbelle ended.");
+constexpr char kText[] = QT_TRANSLATE_NOOP(
+    "Words",
+    "It can be restored as it was. What you keep for later is offered again at the next start.");
 
 QImage PictureOf(document::Document document, qreal scale) {
     const int side = qRound(kPictureSide * scale);
@@ -54,35 +57,36 @@ QString TextOf(const formats::JournalEntry& entry) {
     const QString name = QFile::decodeName(entry.Document.Path.filename().c_str());
     const QString time =
         QLocale().toString(QDateTime::fromMSecsSinceEpoch(entry.Time), QLocale::ShortFormat);
-    return QString("%1\n%2\n%3, %4 x %5 pixels")
-        .arg(name.isEmpty() ? QString("Not saved yet") : name, time,
-             page.LayerCount() == 1 ? QString("1 layer")
-                                    : QString("%1 layers").arg(page.LayerCount()))
-        .arg(page.Width)
-        .arg(page.Height);
+    const QString layers = page.LayerCount() == 1
+                               ? Words::tr("1 layer")
+                               : Words::tr("%n layers", nullptr, page.LayerCount());
+    const QString contents =
+        Words::tr("%1, %2 x %3 pixels").arg(layers).arg(page.Width).arg(page.Height);
+    return QStringList{name.isEmpty() ? Words::tr("Not saved yet") : name, time, contents}.join(
+        '\n');
 }
 
 }  // namespace
 
 RecoveryDialog::RecoveryDialog(std::vector<formats::FoundJournal>& journals, QWidget* parent)
     : QDialog(parent), journals_(journals), list_(new QListWidget) {
-    setWindowTitle("Restore Work");
+    setWindowTitle(Words::tr("Restore Work"));
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(20, 20, 20, 16);
     layout->setSpacing(8);
     layout->setSizeConstraint(QLayout::SetFixedSize);
-    auto* head = new QLabel(kHead);
+    auto* head = new QLabel(Words::tr(kHead));
     QFont bold = head->font();
     bold.setBold(true);
     head->setFont(bold);
     layout->addWidget(head);
-    auto* text = new QLabel(kText);
+    auto* text = new QLabel(Words::tr(kText));
     text->setWordWrap(true);
     text->setFixedWidth(kListWidth);
     layout->addWidget(text);
     layout->addSpacing(8);
 
-    list_->setAccessibleName("Work that was not saved");
+    list_->setAccessibleName(Words::tr("Work that was not saved"));
     list_->setIconSize({kPictureSide, kPictureSide});
     list_->setSpacing(4);
     for (const formats::FoundJournal& journal : journals_) {
@@ -104,9 +108,11 @@ RecoveryDialog::RecoveryDialog(std::vector<formats::FoundJournal>& journals, QWi
     layout->addSpacing(8);
 
     auto* buttons = new QDialogButtonBox;
-    QPushButton* restore = buttons->addButton("&Restore", QDialogButtonBox::AcceptRole);
-    QPushButton* keep = buttons->addButton("&Keep for Later", QDialogButtonBox::RejectRole);
-    QPushButton* discard = buttons->addButton("&Discard", QDialogButtonBox::DestructiveRole);
+    QPushButton* restore = buttons->addButton(Words::tr("&Restore"), QDialogButtonBox::AcceptRole);
+    QPushButton* keep =
+        buttons->addButton(Words::tr("&Keep for Later"), QDialogButtonBox::RejectRole);
+    QPushButton* discard =
+        buttons->addButton(Words::tr("&Discard"), QDialogButtonBox::DestructiveRole);
     layout->addWidget(buttons);
     connect(restore, &QPushButton::clicked, this, &QDialog::accept);
     connect(keep, &QPushButton::clicked, this, &QDialog::reject);
@@ -122,7 +128,8 @@ int RecoveryDialog::Chosen() const {
 
 void RecoveryDialog::Discard() {
     const int chosen = Chosen();
-    if (!AskOkCancel(this, "Discard this work for good?", "Discard"))
+    if (!AskOkCancel(this, Words::tr("Discard this work for good?").toStdString(),
+                     Words::tr("Discard").toStdString()))
         return;
     journals_[static_cast<std::size_t>(chosen)].Remove();
     journals_.erase(journals_.begin() + chosen);

@@ -17,6 +17,7 @@
 #include "editing/layer_commands.h"
 #include "editing/stack_commands.h"
 #include "widgets/theme.h"
+#include "widgets/words.h"
 
 namespace orbelle::app {
 namespace {
@@ -28,7 +29,8 @@ using widgets::TrackSlider;
 
 constexpr int kMargin = widgets::kWideSpace;
 constexpr int kCaptionWidth = 70;
-constexpr char kFilterCaption[] = "No filters are used, click Style menu to choose a filter.";
+constexpr char kFilterCaption[] =
+    QT_TRANSLATE_NOOP("Words", "No filters are used, click Style menu to choose a filter.");
 constexpr int kMinLayerList = 84;
 constexpr QSize kRoomy(800, 560);  // a window below it has room for one panel
 constexpr int kColorful = 40;      // of 255, the least saturation that has a hue
@@ -88,12 +90,12 @@ RightPanel::RightPanel(CommandRunner& commands, QWidget& layerBar) : commands_(c
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
 
-    QWidget* opacity = AddSection("OpacityPanel", "CtlTitle1", "Icon Opacity");
-    opacity_ = AddSlider(*opacity, "Opacity", &Sliders::Opacity);
+    QWidget* opacity = AddSection("OpacityPanel", "CtlTitle1", Words::tr("Icon Opacity"));
+    opacity_ = AddSlider(*opacity, QT_TRANSLATE_NOOP("Words", "Opacity"), &Sliders::Opacity);
     ConnectDrag(commands, *opacity_, &Sliders::Opacity, editing::PressOpacity,
                 editing::ChangeOpacity, editing::ReleaseOpacity);
 
-    QWidget* color = AddSection("ColorPanel", "CtlTitle2", "HUE/Saturation");
+    QWidget* color = AddSection("ColorPanel", "CtlTitle2", Words::tr("HUE/Saturation"));
     const auto addAdjustment = [&](const char* caption, editing::Slider Sliders::*state,
                                    Adjustment kind) {
         ConnectDrag(
@@ -102,28 +104,30 @@ RightPanel::RightPanel(CommandRunner& commands, QWidget& layerBar) : commands_(c
             [kind](Editor& editor, int value) { ChangeAdjustment(editor, kind, value); },
             [kind](Editor& editor) { ReleaseAdjustment(editor, kind); });
     };
-    addAdjustment("Hue", &Sliders::Hue, Adjustment::Hue);
+    addAdjustment(QT_TRANSLATE_NOOP("Words", "Hue"), &Sliders::Hue, Adjustment::Hue);
     SliderOf(&Sliders::Hue).SetGroove(TrackSlider::Groove::Hues);
-    addAdjustment("Saturation", &Sliders::Saturation, Adjustment::Saturation);
-    addAdjustment("Brightness", &Sliders::Brightness, Adjustment::Brightness);
-    addAdjustment("Contrast", &Sliders::Contrast, Adjustment::Contrast);
+    addAdjustment(QT_TRANSLATE_NOOP("Words", "Saturation"), &Sliders::Saturation,
+                  Adjustment::Saturation);
+    addAdjustment(QT_TRANSLATE_NOOP("Words", "Brightness"), &Sliders::Brightness,
+                  Adjustment::Brightness);
+    addAdjustment(QT_TRANSLATE_NOOP("Words", "Contrast"), &Sliders::Contrast, Adjustment::Contrast);
 
-    QWidget* size = AddSection("SizePanel", "CtlTitle3", "Icon Resize");
-    ConnectDrag(commands, *AddSlider(*size, "Scale", &Sliders::Scale), &Sliders::Scale,
-                editing::PressScale, editing::ChangeScale, editing::ReleaseScale);
+    QWidget* size = AddSection("SizePanel", "CtlTitle3", Words::tr("Icon Resize"));
+    ConnectDrag(commands, *AddSlider(*size, QT_TRANSLATE_NOOP("Words", "Scale"), &Sliders::Scale),
+                &Sliders::Scale, editing::PressScale, editing::ChangeScale, editing::ReleaseScale);
 
-    QWidget* filter = AddSection("FilterPanel", "CtlTitle5", "Icon Filter");
+    QWidget* filter = AddSection("FilterPanel", "CtlTitle5", Words::tr("Icon Filter"));
     auto* caption = new widgets::CaptionText;
     caption->setMinimumHeight(30);
-    caption->SetCaption(kFilterCaption);
+    caption->SetCaption(Words::tr(kFilterCaption));
     filter->layout()->addWidget(caption);
 
-    QWidget* layers = AddSection("LayerPanel", "CtlTitle6", "Layer");
+    QWidget* layers = AddSection("LayerPanel", "CtlTitle6", Words::tr("Layer"));
     layers->layout()->setContentsMargins(0, 0, 0, 0);
     layers->layout()->addWidget(&layerBar);
     layers_ = new widgets::LayerList;
     layers_->setObjectName("Layers");
-    layers_->setAccessibleName("Layers");
+    layers_->setAccessibleName(Words::tr("Layers"));
     layers_->setMinimumHeight(kMinLayerList);
     layers->layout()->addWidget(layers_);
     column->setStretchFactor(layers, 1);
@@ -145,7 +149,7 @@ RightPanel::RightPanel(CommandRunner& commands, QWidget& layerBar) : commands_(c
         });
     });
     // F2 wherever the keys are.
-    auto* rename = new QAction("Rename Layer", this);
+    auto* rename = new QAction(Words::tr("Rename Layer"), this);
     rename->setShortcut(Qt::Key_F2);
     connect(rename, &QAction::triggered, this, [this] {
         if (layers_->isVisible())
@@ -154,7 +158,7 @@ RightPanel::RightPanel(CommandRunner& commands, QWidget& layerBar) : commands_(c
     addAction(rename);
 }
 
-QWidget* RightPanel::AddSection(const char* name, const char* storedAs, const char* title) {
+QWidget* RightPanel::AddSection(const char* name, const char* storedAs, const QString& title) {
     auto* header = new widgets::PanelHeader(title);
     header->setObjectName(name);
     auto* content = new QWidget;
@@ -249,16 +253,16 @@ TrackSlider* RightPanel::AddSlider(QWidget& section, const char* caption,
     auto* slider = new TrackSlider;
     const editing::Slider range = Sliders().*state;
     slider->setRange(range.Minimum, range.Maximum);
-    slider->setAccessibleName(caption);
+    slider->setAccessibleName(Words::tr(caption));
     slider->SetNeutral(range.Neutral);
-    auto* text = new QLabel(caption);
+    auto* text = new QLabel(Words::tr(caption));
     text->setFixedWidth(kCaptionWidth);
     // An adjustment counts from where it changes nothing.
     const bool isPercent = state == &Sliders::Opacity;
     auto* value = isPercent ? new widgets::ValueField(*slider, 0, "%")
                             : new widgets::ValueField(*slider, range.Neutral);
     value->setObjectName(QString(caption) + "Value");
-    value->setAccessibleName(QString(caption) + " value");
+    value->setAccessibleName(Words::tr("%1 value").arg(Words::tr(caption)));
     connect(value, &widgets::ValueField::Finished, this, &RightPanel::KeysFree);
     auto* rows = static_cast<QGridLayout*>(section.layout());
     const int row = rows->rowCount();

@@ -60,7 +60,7 @@ private:
     };
 
     widgets::TrackSlider& SliderOf(editing::Slider editing::Sliders::*state) const;
-    QWidget* AddSection(const char* name, const char* storedAs, const char* title);
+    QWidget* AddSection(const char* name, const char* storedAs, const QString& title);
     widgets::TrackSlider* AddSlider(QWidget& section, const char* caption,
                                     editing::Slider editing::Sliders::*state);
 

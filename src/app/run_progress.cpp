@@ -6,6 +6,7 @@
 #include <future>
 
 #include "editing/editor.h"
+#include "widgets/words.h"
 
 namespace orbelle::app {
 namespace {
@@ -50,7 +51,8 @@ void RunProgress::ShowInTime() {
     if (!dialog_ && time_.elapsed() < kPatienceMilliseconds)
         return;
     if (!dialog_) {
-        dialog_ = std::make_unique<QProgressDialog>(QString(), "&Cancel", 0, count_, &parent_);
+        dialog_ =
+            std::make_unique<QProgressDialog>(QString(), Words::tr("&Cancel"), 0, count_, &parent_);
         dialog_->setWindowTitle(editing::kProductName);
         dialog_->setWindowModality(Qt::ApplicationModal);
         dialog_->setMinimumDuration(0);

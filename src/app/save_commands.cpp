@@ -9,6 +9,7 @@
 #include "editing/document_commands.h"
 #include "editing/export_commands.h"
 #include "formats/icns_file.h"
+#include "widgets/words.h"
 
 namespace orbelle::app {
 
@@ -18,8 +19,14 @@ using editing::Editor;
 
 namespace {
 
-constexpr char kSaveFilter[] = "Varnel Orbelle File(*.VOLF)|*.volf";
-constexpr char kWarning[] = "Warning";
+// "text|patterns"
+std::string FilterOf(const char* text, const char* patterns) {
+    return Words::tr(text).toStdString() + '|' + patterns;
+}
+
+bool Confirm(const WindowContext& context, const QString& question) {
+    return context.User.Confirm(question.toStdString(), Words::tr("Warning").toStdString());
+}
 
 // In ASCII letters, as extensions are.
 bool EndsWith(std::string_view name, std::string_view ending) {
@@ -31,7 +38,7 @@ bool EndsWith(std::string_view name, std::string_view ending) {
 
 // Where the user wants a file to be, with its extension; empty: nowhere. A pipe would keep the
 // window waiting until somebody reads from it.
-fs::path AskWhereTo(const WindowContext& context, const char* filter) {
+fs::path AskWhereTo(const WindowContext& context, const std::string& filter) {
     fs::path path = context.User.AskFileToWrite(
         filter, ProposedName(context.Commands.Editor().Document, filter));
     if (path.empty())
@@ -40,24 +47,25 @@ fs::path AskWhereTo(const WindowContext& context, const char* filter) {
     std::error_code unknown;
     if (!fs::is_fifo(path, unknown))
         return path;
-    context.User.ShowMessage(path.string() + ": a pipe, not a file");
+    context.User.ShowMessage(Words::tr("%1: a pipe, not a file")
+                                 .arg(QString::fromStdString(path.string()))
+                                 .toStdString());
     return {};
 }
 
 bool MayOverwrite(const WindowContext& context, const fs::path& path) {
     std::error_code ignored;
     return !fs::exists(path, ignored) ||
-           context.User.Confirm("Image already exists, overwrite it?", kWarning);
+           Confirm(context, Words::tr("Image already exists, overwrite it?"));
 }
 
 // What another program has put where the document's file was is not overwritten unasked.
 bool MayReplace(const WindowContext& context, const fs::path& path) {
     const graphics::FileStamp found = graphics::StampOf(path);
     return found == graphics::FileStamp() || found == context.Commands.Editor().Document.Stamp ||
-           context.User.Confirm(path.filename().string() +
-                                    " was changed by another program since you opened it. "
-                                    "Overwrite it?",
-                                kWarning);
+           Confirm(context,
+                   Words::tr("%1 was changed by another program since you opened it. Overwrite it?")
+                       .arg(QString::fromStdString(path.filename().string())));
 }
 
 std::optional<std::uintmax_t> SizeOf(const fs::path& path) {
@@ -86,16 +94,14 @@ std::vector<int> IcnsSides() {
 
 std::string TextOfExport(const Editor& editor, const fs::path& path, const ExportEntry& entry) {
     const int width = editor.Page().Width, height = editor.Page().Height;
-    const std::string_view caption = entry.Caption;
-    const std::string_view kind = caption.substr(0, caption.find(' '));
     switch (entry.Format) {
         case formats::ExportFormat::Ico:
         case formats::ExportFormat::Cur:
-            return ExportedIconText(path, SizeOf(path), kind, IconSizesOf(editor));
+            return ExportedIconText(path, SizeOf(path), entry.Kind, IconSizesOf(editor));
         case formats::ExportFormat::Icns:
-            return ExportedIconText(path, SizeOf(path), kind, IcnsSides());
+            return ExportedIconText(path, SizeOf(path), entry.Kind, IcnsSides());
         default:
-            return ExportedText(path, SizeOf(path), kind, width, height);
+            return ExportedText(path, SizeOf(path), entry.Kind, width, height);
     }
 }
 
@@ -128,12 +134,13 @@ bool AskSave(const WindowContext& context) {
 }
 
 bool AskSaveAs(const WindowContext& context) {
-    const fs::path path = AskWhereTo(context, kSaveFilter);
+    const fs::path path = AskWhereTo(
+        context, FilterOf(QT_TRANSLATE_NOOP("Words", "Varnel Orbelle File(*.VOLF)"), "*.volf"));
     return !path.empty() && MayOverwrite(context, path) && Write(context, path);
 }
 
 void AskExport(const WindowContext& context, const ExportEntry& entry) {
-    const fs::path path = AskWhereTo(context, entry.Filter);
+    const fs::path path = AskWhereTo(context, FilterOf(entry.FileText, entry.Patterns));
     if (path.empty() || !MayOverwrite(context, path))
         return;
     const Editor& editor = context.Commands.Editor();

@@ -7,22 +7,23 @@
 #include <QVBoxLayout>
 
 #include "widgets/artwork.h"
+#include "widgets/words.h"
 
 namespace orbelle::app {
 namespace {
 
-constexpr char kHead[] = "Save Icon Document? ";
+constexpr char kHead[] = QT_TRANSLATE_NOOP("Words", "Save Icon Document? ");
 constexpr int kTextWidth = 400;
 constexpr QSize kPictureSize(38, 38);
 
-QLabel* Paragraph(const char* text) {
+QLabel* Paragraph(const QString& text) {
     auto* label = new QLabel(text);
     label->setWordWrap(true);
     label->setFixedWidth(kTextWidth);
     return label;
 }
 
-QLabel* Head(const char* text) {
+QLabel* Head(const QString& text) {
     QLabel* label = Paragraph(text);
     QFont font = label->font();
     font.setBold(true);
@@ -33,7 +34,7 @@ QLabel* Head(const char* text) {
 }  // namespace
 
 SavePrompt::SavePrompt(QWidget* parent) : QDialog(parent) {
-    setWindowTitle(kHead);
+    setWindowTitle(Words::tr(kHead));
     auto* whole = new QHBoxLayout(this);
     whole->setContentsMargins(20, 20, 20, 16);
     whole->setSpacing(16);
@@ -45,22 +46,22 @@ SavePrompt::SavePrompt(QWidget* parent) : QDialog(parent) {
     layout->setSpacing(8);
     whole->addLayout(layout);
 
-    layout->addWidget(Head(kHead));
+    layout->addWidget(Head(Words::tr(kHead)));
     layout->addWidget(
-        Paragraph("Save the icon document as VOLF format? You can open and continue editing the "
-                  "icon document next time."));
+        Paragraph(Words::tr("Save the icon document as VOLF format? You can open and continue "
+                            "editing the icon document next time.")));
     layout->addSpacing(12);
-    layout->addWidget(Head("What's VOLF format? "));
-    layout->addWidget(Paragraph("The VOLF format is Orbelle software document. "));
-    layout->addWidget(
-        Paragraph("Orbelle's native format, stores an image with support for most imaging options "
-                  "available in Orbelle."));
+    layout->addWidget(Head(Words::tr("What's VOLF format? ")));
+    layout->addWidget(Paragraph(Words::tr("The VOLF format is Orbelle software document. ")));
+    layout->addWidget(Paragraph(
+        Words::tr("Orbelle's native format, stores an image with support for most imaging "
+                  "options available in Orbelle.")));
     layout->addSpacing(16);
 
     auto* buttons = new QHBoxLayout;
     buttons->addStretch();
     layout->addLayout(buttons);
-    const auto addButton = [&](const char* caption, SavePromptAnswer answer) {
+    const auto addButton = [&](const QString& caption, SavePromptAnswer answer) {
         auto* button = new QPushButton(caption);
         buttons->addWidget(button);
         connect(button, &QPushButton::clicked, this, [this, answer] {
@@ -69,9 +70,9 @@ SavePrompt::SavePrompt(QWidget* parent) : QDialog(parent) {
         });
         return button;
     };
-    QPushButton* yes = addButton("&Yes", SavePromptAnswer::Yes);
-    addButton("&No", SavePromptAnswer::No);
-    addButton("&Cancel", SavePromptAnswer::Cancel);
+    QPushButton* yes = addButton(Words::tr("&Yes"), SavePromptAnswer::Yes);
+    addButton(Words::tr("&No"), SavePromptAnswer::No);
+    addButton(Words::tr("&Cancel"), SavePromptAnswer::Cancel);
     yes->setDefault(true);
     yes->setFocus();
 }

@@ -10,6 +10,8 @@ namespace orbelle::app {
 namespace {
 
 constexpr QColor kDark(0, 0, 0, 170), kLight(255, 255, 255);
+// Opaque, which is fast: a frame as large as the page is drawn at every step of a drag.
+constexpr QColor kFrameDark(25, 26, 28);
 constexpr QColor kFaintDark(0, 0, 0, 90), kFaintLight(255, 255, 255, 110);
 constexpr int kDash = 4;  // in widths of the line
 // A selection of more edges than that has no dashes: it would be nothing but dashes.
@@ -28,6 +30,15 @@ void DrawLine(QPainter& painter, const QRectF& rect, bool isOval, const QColor& 
         painter.drawEllipse(middle);
     else
         painter.drawRect(middle);
+}
+
+// The same in whole pixels, much faster than a pen. No pixel is filled twice.
+void FillLine(QPainter& painter, const QRect& rect, const QColor& color, int width) {
+    const int between = std::max(rect.height() - 2 * width, 0);
+    painter.fillRect(rect.x(), rect.y(), rect.width(), width, color);
+    painter.fillRect(rect.x(), rect.y() + width, width, between, color);
+    painter.fillRect(rect.right() + 1 - width, rect.y() + width, width, between, color);
+    painter.fillRect(rect.x(), rect.bottom() + 1 - width, rect.width(), width, color);
 }
 
 QRectF Grown(const QRectF& rect, double by) {
@@ -107,13 +118,13 @@ void EachRun(int count, Is&& is, Found&& found) {
 }  // namespace
 
 void DrawLayerFrame(QPainter& painter, const graphics::RectI& frame, int width) {
-    painter.setBrush(Qt::NoBrush);
-    painter.setRenderHint(QPainter::Antialiasing, false);
     // The frame stands two pixels off the layer.
-    const QRectF line = Grown(QRectF(frame.X, frame.Y, frame.Width, frame.Height), 2 * width - 2);
-    DrawLine(painter, Grown(line, width), false, kDark, width);
-    DrawLine(painter, line, false, kLight, width);
-    DrawLine(painter, Grown(line, -width), false, kDark, width);
+    const int off = 2 * width - 2;
+    const QRect line =
+        QRect(frame.X, frame.Y, frame.Width, frame.Height).adjusted(-off, -off, off, off);
+    FillLine(painter, line.adjusted(-width, -width, width, width), kFrameDark, width);
+    FillLine(painter, line, kLight, width);
+    FillLine(painter, line.adjusted(width, width, -width, -width), kFrameDark, width);
 }
 
 void DrawOverlays(QPainter& painter, const editing::Overlays& overlays, int width) {

@@ -15,6 +15,7 @@
 #include "document/scene_painter.h"
 #include "widgets/artwork.h"
 #include "widgets/theme.h"
+#include "widgets/words.h"
 
 namespace orbelle::app {
 namespace {
@@ -59,7 +60,7 @@ std::optional<editing::Direction> HalfStepOf(const QKeyEvent& event) {
 
 SceneView::SceneView(const editing::Editor& editor, QWidget* parent)
     : QWidget(parent), editor_(editor) {
-    setAccessibleName("Scene");
+    setAccessibleName(Words::tr("Scene"));
     setFocusPolicy(Qt::StrongFocus);
     setAttribute(Qt::WA_OpaquePaintEvent);
     setMinimumSize(160, 120);
@@ -245,14 +246,14 @@ void SceneView::DrawWelcome(QPainter& painter) const {
     painter.setFont(head);
     painter.setPen(QColor(255, 255, 255, welcome_));
     painter.drawText(QRect(left, top - 30, 350, 28), Qt::AlignLeft | Qt::AlignTop,
-                     "Welcome to Use Orbelle!");
+                     Words::tr("Welcome to Use Orbelle!"));
     painter.setFont(widgets::ChromeFont(10));
     painter.setPen(QColor(200, 200, 200, welcome_));
     painter.drawText(
         QRect(left, top, 350, 200), Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap,
-        "To be familiar with using the Orbelle quickly, we recommend you to try each function or "
-        "tool, then our artificial intelligence help system will guide you how to use each "
-        "function or tool. - Varnel Software\"");
+        Words::tr("To be familiar with using the Orbelle quickly, we recommend you to try each "
+                  "function or tool, then our artificial intelligence help system will guide you "
+                  "how to use each function or tool. - Varnel Software\""));
 }
 
 void SceneView::resizeEvent(QResizeEvent*) {

@@ -4,6 +4,7 @@
 
 #include "app/ask_commands.h"
 #include "editing/size_commands.h"
+#include "widgets/words.h"
 
 namespace orbelle::app {
 namespace {
@@ -18,9 +19,11 @@ bool CanHaveArtwork(int size) {
 void DrawByHand(const WindowContext& context, int size) {
     const bool isThere = context.Commands.Editor().Document.ArtworkOf(size) != nullptr;
     if (context.Commands.Run([size](Editor& editor) { EditSize(editor, size); }) && !isThere)
-        context.User.ShowStatus(document::NameOfSize(size) +
-                                " has a picture of its own now. Undo takes that back, and so does "
-                                "Back to Master's in its menu.");
+        context.User.ShowStatus(
+            Words::tr("%1 has a picture of its own now. Undo takes that back, and so does "
+                      "Back to Master's in its menu.")
+                .arg(QString::fromStdString(document::NameOfSize(size)))
+                .toStdString());
 }
 
 void GoToMaster(const WindowContext& context) {
@@ -50,12 +53,14 @@ void PopUpSizeMenu(const WindowContext& context, int size, const std::vector<int
     auto* menu = new QMenu(&parent);
     menu->setObjectName("SizeMenu");
     menu->setAttribute(Qt::WA_DeleteOnClose);
-    menu->addAction("&Draw by Hand", &parent, [context, size] { DrawByHand(context, size); })
+    menu->addAction(Words::tr("&Draw by Hand"), &parent,
+                    [context, size] { DrawByHand(context, size); })
         ->setEnabled(CanHaveArtwork(size));
 
-    menu->addAction("&Suggest...", &parent, [context, size] { AskSuggest(context, size); })
+    menu->addAction(Words::tr("&Suggest..."), &parent,
+                    [context, size] { AskSuggest(context, size); })
         ->setEnabled(CanHaveArtwork(size));
-    QMenu* copies = menu->addMenu("&Copy to Size...");
+    QMenu* copies = menu->addMenu(Words::tr("&Copy to Size..."));
     for (const int to : sizes) {
         if (to == size || !CanHaveArtwork(to))
             continue;
@@ -65,7 +70,7 @@ void PopUpSizeMenu(const WindowContext& context, int size, const std::vector<int
             });
     }
     menu->addSeparator();
-    menu->addAction("&Back to Master's", &parent,
+    menu->addAction(Words::tr("&Back to Master's"), &parent,
                     [context, size] {
                         context.Commands.Run([size](Editor& editor) { DropArtwork(editor, size); });
                     })

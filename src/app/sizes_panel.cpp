@@ -16,6 +16,7 @@
 #include "editing/size_strip.h"
 #include "widgets/button_bar.h"
 #include "widgets/panel_header.h"
+#include "widgets/words.h"
 
 namespace orbelle::app {
 namespace {
@@ -54,7 +55,9 @@ std::vector<int> CheckedSizes(const editing::Editor& editor) {
 }  // namespace
 
 SizesPanel::SizesPanel(const WindowContext& context)
-    : context_(context), header_(new widgets::PanelHeader("Sizes")), findings_(new FindingsList) {
+    : context_(context),
+      header_(new widgets::PanelHeader(Words::tr("Sizes"))),
+      findings_(new FindingsList) {
     setObjectName("SizesPanel");
     header_->setObjectName("Sizes");
     thread_.setMaxThreadCount(1);
@@ -81,21 +84,21 @@ SizesPanel::~SizesPanel() {
 }
 
 void SizesPanel::AddTools() {
-    const auto tool = [](const char* artwork, const char* tip) {
+    const auto tool = [](const char* artwork, const QString& tip) {
         return widgets::BarButton{.ToolTip = tip, .Artwork = QString("sizes/") + artwork};
     };
     tools_ = new widgets::ButtonBar(
         {.Metrics = {.IconSize = kToolSize, .FaceSize = kToolFace, .Margin = 2},
-         .Buttons = {tool("checks", "On checks"),
-                     tool("white", "On white"),
-                     tool("grey", "On grey"),
-                     tool("dark", "On dark"),
-                     tool("desktop", "On a desktop and its task bar"),
+         .Buttons = {tool("checks", Words::tr("On checks")),
+                     tool("white", Words::tr("On white")),
+                     tool("grey", Words::tr("On grey")),
+                     tool("dark", Words::tr("On dark")),
+                     tool("desktop", Words::tr("On a desktop and its task bar")),
                      {.IsSeparator = true},
-                     tool("double", "Double: each pixel as a square of four")},
+                     tool("double", Words::tr("Double: each pixel as a square of four"))},
          .OnBand = true});
     tools_->setObjectName("SizesTools");
-    tools_->setAccessibleName("What the sizes lie on");
+    tools_->setAccessibleName(Words::tr("What the sizes lie on"));
     header_->SetTools(*tools_);
     connect(tools_, &widgets::ButtonBar::Clicked, this, &SizesPanel::ClickTool);
 }
@@ -103,7 +106,7 @@ void SizesPanel::AddTools() {
 void SizesPanel::AddStrip() {
     strip_ = new SizeStrip;
     strip_->setObjectName("SizeStrip");
-    strip_->setAccessibleName("Sizes");
+    strip_->setAccessibleName(Words::tr("Sizes"));
     scroller_ = new QScrollArea;
     scroller_->setFrameShape(QFrame::NoFrame);
     scroller_->setFocusPolicy(Qt::NoFocus);

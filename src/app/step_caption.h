@@ -6,11 +6,11 @@
 
 namespace orbelle::app {
 
-// The verb alone when there is no step.
-inline QString StepCaption(const QString& verb, std::string_view step) {
+// `alone` when there is no step, else `withStep` with the step in place of its %1.
+inline QString StepCaption(const QString& alone, const QString& withStep, std::string_view step) {
     if (step.empty())
-        return verb;
-    return verb + ' ' + QString::fromUtf8(step.data(), static_cast<qsizetype>(step.size()));
+        return alone;
+    return withStep.arg(QString::fromUtf8(step.data(), static_cast<qsizetype>(step.size())));
 }
 
 }  // namespace orbelle::app

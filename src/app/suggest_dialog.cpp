@@ -12,6 +12,7 @@
 #include "app/shared_image.h"
 #include "app/suggestion_tile.h"
 #include "widgets/theme.h"
+#include "widgets/words.h"
 
 namespace orbelle::app {
 namespace {
@@ -23,25 +24,32 @@ constexpr int kSpacing = 12;
 // What the dialog is wider and higher than its tiles at most, with the window's frame.
 constexpr QSize kAroundTiles(2 * kMargin + 40, 190);
 
-struct Words {
+struct Texts {
     const char* Name;
     const char* Meaning;
 };
 
-Words WordsOf(SizeRecipe recipe) {
+Texts TextsOf(SizeRecipe recipe) {
     switch (recipe) {
         case SizeRecipe::Plain:
-            return {"Plain", "The whole icon, as an export shrinks it"};
+            return {QT_TRANSLATE_NOOP("Words", "Plain"),
+                    QT_TRANSLATE_NOOP("Words", "The whole icon, as an export shrinks it")};
         case SizeRecipe::Sharper:
-            return {"Sharper", "The whole icon, its colors sharpened"};
+            return {QT_TRANSLATE_NOOP("Words", "Sharper"),
+                    QT_TRANSLATE_NOOP("Words", "The whole icon, its colors sharpened")};
         case SizeRecipe::Fill:
-            return {"Filled", "The icon without its margin"};
+            return {QT_TRANSLATE_NOOP("Words", "Filled"),
+                    QT_TRANSLATE_NOOP("Words", "The icon without its margin")};
         case SizeRecipe::FillOutline:
-            return {"Filled, outlined", "The icon without its margin, with a dark outline"};
+            return {QT_TRANSLATE_NOOP("Words", "Filled, outlined"),
+                    QT_TRANSLATE_NOOP("Words", "The icon without its margin, with a dark outline")};
         case SizeRecipe::Outline:
-            return {"Outlined", "The whole icon, with a dark outline"};
+            return {QT_TRANSLATE_NOOP("Words", "Outlined"),
+                    QT_TRANSLATE_NOOP("Words", "The whole icon, with a dark outline")};
         case SizeRecipe::Snapped:
-            return {"Snapped to pixels", "The icon with its strongest edges on whole pixels"};
+            return {
+                QT_TRANSLATE_NOOP("Words", "Snapped to pixels"),
+                QT_TRANSLATE_NOOP("Words", "The icon with its strongest edges on whole pixels")};
     }
     return {};
 }
@@ -50,7 +58,7 @@ int CaptionWidth() {
     const QFontMetrics metrics(widgets::ChromeFont(9));
     int width = 0;
     for (const SizeRecipe recipe : filters::kSizeRecipes)
-        width = std::max(width, metrics.horizontalAdvance(WordsOf(recipe).Name));
+        width = std::max(width, metrics.horizontalAdvance(Words::tr(TextsOf(recipe).Name)));
     return width;
 }
 
@@ -74,12 +82,13 @@ QWidget* WithinRoom(QWidget* row, QSize room) {
 SuggestDialog::SuggestDialog(const graphics::Bitmap& master, int size, QWidget* parent)
     : QDialog(parent) {
     const QString name = QString("%1 x %1").arg(size);
-    setWindowTitle("Suggest for " + name);
+    setWindowTitle(Words::tr("Suggest for %1").arg(name));
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(kMargin, kMargin, kMargin, 16);
     layout->setSpacing(16);
     layout->setSizeConstraint(QLayout::SetFixedSize);
-    layout->addWidget(new QLabel("Click a picture to start drawing " + name + " by hand from it."));
+    layout->addWidget(
+        new QLabel(Words::tr("Click a picture to start drawing %1 by hand from it.").arg(name)));
 
     constexpr int kCount = filters::kSizeRecipes.size();
     constexpr QSize kBetween((kCount - 1) * kSpacing, 0);
@@ -91,8 +100,8 @@ SuggestDialog::SuggestDialog(const graphics::Bitmap& master, int size, QWidget* 
     places->setContentsMargins(0, 0, 0, 0);
     places->setSpacing(kSpacing);
     for (const SizeRecipe recipe : filters::kSizeRecipes) {
-        const Words words = WordsOf(recipe);
-        auto* tile = new SuggestionTile(words.Name, words.Meaning,
+        const Texts texts = TextsOf(recipe);
+        auto* tile = new SuggestionTile(Words::tr(texts.Name), Words::tr(texts.Meaning),
                                         SharedImage(ApplyRecipe(recipe, master, size)), tiles);
         connect(tile, &QPushButton::clicked, this, [this, recipe] {
             recipe_ = recipe;

@@ -9,6 +9,7 @@
 #include "app/size_presets.h"
 #include "graphics/codecs/image_files.h"
 #include "widgets/number_slider.h"
+#include "widgets/words.h"
 
 namespace orbelle::app {
 namespace {
@@ -19,21 +20,21 @@ constexpr int kPresets[] = {512, 256, 128, 64, 48, 32};
 }  // namespace
 
 SvgSizeDialog::SvgSizeDialog(const PageSize& own, QWidget* parent) : QDialog(parent) {
-    setWindowTitle("Size of the Drawing");
+    setWindowTitle(Words::tr("Size of the Drawing"));
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(20, 20, 20, 16);
     layout->setSpacing(20);
     layout->setSizeConstraint(QLayout::SetFixedSize);
     layout->addWidget(new QLabel(
-        QString("The drawing's own size is %1 x %2 pixels.").arg(own.Width).arg(own.Height)));
+        Words::tr("The drawing's own size is %1 x %2 pixels.").arg(own.Width).arg(own.Height)));
 
     auto* row = new QHBoxLayout;
     row->setSpacing(12);
-    auto* label = new QLabel("&Longer side:");
+    auto* label = new QLabel(Words::tr("&Longer side:"));
     side_ = new widgets::NumberSlider;
     label->setBuddy(side_);
     side_->setObjectName("LongerSide");
-    side_->setAccessibleName("Longer side");
+    side_->setAccessibleName(Words::tr("Longer side"));
     side_->SetRange(1, graphics::kMaxSvgSide);
     const int longer = std::max(own.Width, own.Height);
     side_->SetValue(std::clamp(longer, 1, graphics::kMaxSvgSide));
@@ -41,7 +42,7 @@ SvgSizeDialog::SvgSizeDialog(const PageSize& own, QWidget* parent) : QDialog(par
     connect(side_, &widgets::NumberSlider::Changed, this, &SvgSizeDialog::ShowPreset);
     row->addWidget(label);
     row->addWidget(side_);
-    row->addWidget(new QLabel("px"));
+    row->addWidget(new QLabel(Words::tr("px")));
     layout->addLayout(row);
 
     presets_ = new SizePresets;
@@ -67,11 +68,11 @@ void SvgSizeDialog::accept() {
 
 void SvgSizeDialog::AddPresets(int own) {
     const auto add = [this](int side, const QString& text) {
-        presets_->Add(side, text, QString("%1 pixels").arg(side));
+        presets_->Add(side, text, Words::tr("%1 pixels").arg(side));
     };
     const int first = side_->Value();
     if (std::ranges::find(kPresets, first) == std::end(kPresets))
-        add(first, first == own ? "Own" : QString::number(first));
+        add(first, first == own ? Words::tr("Own") : QString::number(first));
     for (const int side : kPresets)
         add(side, QString::number(side));
     connect(presets_, &SizePresets::Chosen, side_, [this](int side) { side_->SetValue(side); });

@@ -1,5 +1,9 @@
 #include "app/written_text.h"
 
+#include <QStringList>
+
+#include "widgets/words.h"
+
 namespace orbelle::app {
 
 namespace fs = std::filesystem;
@@ -9,53 +13,58 @@ namespace {
 constexpr std::uintmax_t kKilobyte = 1024;
 constexpr std::uintmax_t kMegabyte = kKilobyte * kKilobyte;
 
-std::string Told(const char* done, const fs::path& path, const std::string& contents,
-                 std::optional<std::uintmax_t> bytes) {
-    std::string text = std::string(done) + ' ' + path.filename().string() + contents;
+QString NameOf(const fs::path& path) {
+    return QString::fromStdString(path.filename().string());
+}
+
+// With the size and the folder, where these are known, behind what was done.
+std::string Told(QStringList facts, const fs::path& path, std::optional<std::uintmax_t> bytes) {
     if (bytes)
-        text += ", " + SizeText(*bytes);
+        facts += SizeText(*bytes);
     if (path.has_parent_path())
-        text += ", in " + path.parent_path().string();
-    return text;
+        facts += Words::tr("in %1").arg(QString::fromStdString(path.parent_path().string()));
+    return facts.join(", ").toStdString();
 }
 
 }  // namespace
 
-std::string SizeText(std::uintmax_t bytes) {
+QString SizeText(std::uintmax_t bytes) {
     if (bytes < kKilobyte)
-        return std::to_string(bytes) + (bytes == 1 ? " byte" : " bytes");
+        return bytes == 1 ? Words::tr("1 byte")
+                          : Words::tr("%n bytes", nullptr, static_cast<int>(bytes));
     const std::uintmax_t kilobytes = (bytes + kKilobyte / 2) / kKilobyte;
     if (kilobytes < kKilobyte)
-        return std::to_string(kilobytes) + " KB";
-    // No format of the C library: its decimal point is the user's.
+        return Words::tr("%1 KB").arg(kilobytes);
     const std::uintmax_t tenths =
         bytes / kMegabyte * 10 + (bytes % kMegabyte * 10 + kMegabyte / 2) / kMegabyte;
-    return std::to_string(tenths / 10) + '.' + std::to_string(tenths % 10) + " MB";
+    return Words::tr("%1.%2 MB").arg(tenths / 10).arg(tenths % 10);
 }
 
 std::string SavedText(const fs::path& path, std::optional<std::uintmax_t> bytes) {
-    return Told("Saved", path, "", bytes);
+    return Told({Words::tr("Saved %1").arg(NameOf(path))}, path, bytes);
 }
 
 std::string ExportedText(const fs::path& path, std::optional<std::uintmax_t> bytes,
-                         std::string_view format, int width, int height) {
-    return Told("Exported", path,
-                ", " + std::string(format) + " of " + std::to_string(width) + " x " +
-                    std::to_string(height) + " px",
-                bytes);
+                         const QString& format, int width, int height) {
+    return Told({Words::tr("Exported %1").arg(NameOf(path)),
+                 Words::tr("%1 of %2 x %3 px").arg(format).arg(width).arg(height)},
+                path, bytes);
 }
 
 std::string ExportedIconText(const fs::path& path, std::optional<std::uintmax_t> bytes,
-                             std::string_view format, const std::vector<int>& sides) {
+                             const QString& format, const std::vector<int>& sides) {
     if (sides.empty())
-        return "Nothing was exported: the page is below 16 px, the least size of an icon";
-    std::string list;
-    for (std::size_t i = 0; i < sides.size(); ++i) {
-        if (i > 0)
-            list += i + 1 == sides.size() ? " and " : ", ";
-        list += std::to_string(sides[i]);
-    }
-    return Told("Exported", path, ", " + std::string(format) + " of " + list + " px", bytes);
+        return Words::tr("Nothing was exported: the page is below 16 px, the least size of an icon")
+            .toStdString();
+    QStringList numbers;
+    for (const int side : sides)
+        numbers += QString::number(side);
+    QString list = numbers.takeLast();
+    if (!numbers.isEmpty())
+        list = Words::tr("%1 and %2").arg(numbers.join(", "), list);
+    return Told(
+        {Words::tr("Exported %1").arg(NameOf(path)), Words::tr("%1 of %2 px").arg(format, list)},
+        path, bytes);
 }
 
 }  // namespace orbelle::app

@@ -10,6 +10,7 @@
 #include <cmath>
 
 #include "widgets/theme.h"
+#include "widgets/words.h"
 
 namespace orbelle::app {
 namespace {
@@ -27,8 +28,8 @@ QString Percent(double zoom) {
 
 ZoomField::ZoomField(QWidget* parent) : QComboBox(parent) {
     setObjectName("ZoomField");
-    setAccessibleName("Zoom");
-    setToolTip("Zoom");
+    setAccessibleName(Words::tr("Zoom"));
+    setToolTip(Words::tr("Zoom"));
     setFont(widgets::ChromeFont(widgets::kNormalText));
     setEditable(true);
     setInsertPolicy(NoInsert);
@@ -36,8 +37,8 @@ ZoomField::ZoomField(QWidget* parent) : QComboBox(parent) {
     for (const int percent : kPercents)
         addItem(QString::number(percent) + "%", percent / 100.0);
     insertSeparator(count());
-    addItem("Fit");
-    addItem("1:1", 1.0);
+    addItem(Words::tr("Fit"));
+    addItem(Words::tr("1:1"), 1.0);
     setMaxVisibleItems(count());
     for (int entry = 0; entry < count(); ++entry)
         if (!itemText(entry).isEmpty())

@@ -52,9 +52,23 @@ void DrawPageShadow(Bitmap& scene, Argb ground, const RectI& page) {
     const auto shaded = [](unsigned channel, double light) {
         return static_cast<unsigned>(std::lround(channel * light));
     };
+    // Along the middle of a side all rows, or all pixels of a row, are alike.
+    const auto isLikeLast = [](const std::vector<double>& strengths, int i) {
+        const auto at = static_cast<std::size_t>(i);
+        return i > 0 && strengths[at] == strengths[at - 1];
+    };
     for (int y = fromY; y < toY; ++y) {
         Argb* row = scene.MutableRow(y);
-        for (int x = y < bottom ? std::max(right, fromX) : fromX; x < toX; ++x) {
+        const int begin = y < bottom ? std::max(right, fromX) : fromX;
+        if (isLikeLast(down, y - fromY) && y != bottom) {
+            std::copy(scene.Row(y - 1) + begin, scene.Row(y - 1) + toX, row + begin);
+            continue;
+        }
+        for (int x = begin; x < toX; ++x) {
+            if (x > begin && isLikeLast(across, x - fromX)) {
+                row[x] = row[x - 1];
+                continue;
+            }
             const double light = 1 - kShadowStrength * across[static_cast<std::size_t>(x - fromX)] *
                                          down[static_cast<std::size_t>(y - fromY)];
             row[x] = MakeArgb(255, shaded(RedOf(ground), light), shaded(GreenOf(ground), light),

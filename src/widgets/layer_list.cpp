@@ -7,6 +7,7 @@
 #include <cmath>
 
 #include "widgets/layer_list_metrics.h"
+#include "widgets/words.h"
 
 namespace orbelle::widgets {
 namespace {
@@ -147,12 +148,12 @@ void LayerList::focusOutEvent(QFocusEvent*) {
 
 QString LayerList::PartName(int part) const {
     const QString& name = rows_[LayerOfRow(part)].Name;
-    return name.isEmpty() ? QString("Icon %1").arg(Count() - part) : name;
+    return name.isEmpty() ? Words::tr("Icon %1").arg(Count() - part) : name;
 }
 
 QString LayerList::PartValue(int part) const {
     const LayerRow& row = rows_[LayerOfRow(part)];
-    return row.Visible ? row.OpacityText : tr("%1, hidden").arg(row.OpacityText);
+    return row.Visible ? row.OpacityText : Words::tr("%1, hidden").arg(row.OpacityText);
 }
 
 QRect LayerList::PartPlace(int part) const {

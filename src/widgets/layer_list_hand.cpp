@@ -9,6 +9,7 @@
 #include "widgets/layer_list.h"
 #include "widgets/layer_list_metrics.h"
 #include "widgets/theme.h"
+#include "widgets/words.h"
 
 namespace orbelle::widgets {
 namespace {
@@ -124,7 +125,7 @@ void LayerList::StartRename() {
         return;
     renamed_ = selectedIndex_;
     name_ = new QLineEdit(PartName(row), viewport());
-    name_->setAccessibleName(tr("Layer name"));
+    name_->setAccessibleName(Words::tr("Layer name"));
     name_->setMaxLength(kLongestName);
     name_->setFont(ChromeFont(kNormalText));
     const QRect place = TextPlace(row);

@@ -73,7 +73,9 @@ void LayerList::PaintRow(QPainter& painter, int row) {
     const QRect box(place.left() + kSpace, place.top() + inset, kLayerThumbnail, kLayerThumbnail);
     if (!rows_[layer].Visible)
         painter.setOpacity(painter.opacity() * kHiddenOpacity);
-    DrawGreyChecks(painter, box);
+    painter.setBrushOrigin(box.topLeft());
+    painter.fillRect(box, GreyChecks());
+    painter.setBrushOrigin(0, 0);
     PaintThumbnail(painter, box, layer);
     painter.setOpacity(isDragged ? kDraggedOpacity : 1);
     if (layer != renamed_)

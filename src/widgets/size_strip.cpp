@@ -10,6 +10,7 @@
 
 #include "widgets/size_strip_metrics.h"
 #include "widgets/theme.h"
+#include "widgets/words.h"
 
 namespace orbelle::widgets {
 
@@ -117,9 +118,9 @@ int SizeStrip::PartAt(const QPoint& point) const {
 }
 
 QString SizeStrip::PartName(int part) const {
-    return QString("%1 x %1, %2")
-        .arg(cells_[part].Size)
-        .arg(cells_[part].IsDrawnByHand ? "drawn by hand" : "from the master");
+    return (cells_[part].IsDrawnByHand ? Words::tr("%1 x %1, drawn by hand")
+                                       : Words::tr("%1 x %1, from the master"))
+        .arg(cells_[part].Size);
 }
 
 QString SizeStrip::PartValue(int part) const {

@@ -97,9 +97,15 @@ void DrawChecker(QPainter& painter, const QRect& place, const QColor& color) {
             painter.fillRect(QRect(place.x() + x, place.y() + y, kCell, kCell) & place, color);
 }
 
-void DrawGreyChecks(QPainter& painter, const QRect& place) {
-    painter.fillRect(place, QColor(172, 175, 180));
-    DrawChecker(painter, place, QColor(148, 151, 156));
+QBrush GreyChecks() {
+    static const QImage tile = [] {
+        QImage checks(10, 10, QImage::Format_RGB32);
+        checks.fill(QColor(172, 175, 180));
+        QPainter painter(&checks);
+        DrawChecker(painter, checks.rect(), QColor(148, 151, 156));
+        return checks;
+    }();
+    return QBrush(tile);
 }
 
 void DrawChevron(QPainter& painter, const QPointF& middle) {

@@ -61,8 +61,9 @@ QFont ChromeFont(double points);
 // Squares of 5 x 5 pixels, every other one, the first in the top left corner.
 void DrawChecker(QPainter& painter, const QRect& place, const QColor& color);
 
-// Mid-grey checks below a picture: white and black, gloss and shadow show on them.
-void DrawGreyChecks(QPainter& painter, const QRect& place);
+// The same in mid-grey, from the painter's brush origin on: what lies below a picture, so that
+// white and black, gloss and shadow show.
+QBrush GreyChecks();
 
 // A mark that points down, 8 x 4 pixels, in the painter's pen.
 void DrawChevron(QPainter& painter, const QPointF& middle);

@@ -125,4 +125,22 @@ int ThemeStyle::pixelMetric(PixelMetric metric, const QStyleOption* option,
     }
 }
 
+QSize ThemeStyle::sizeFromContents(ContentsType type, const QStyleOption* option,
+                                   const QSize& contents, const QWidget* widget) const {
+    const QSize size = QProxyStyle::sizeFromContents(type, option, contents, widget);
+    const auto* frame = qstyleoption_cast<const QStyleOptionFrame*>(option);
+    const bool isControl =
+        type == CT_PushButton || (type == CT_LineEdit && frame && frame->lineWidth > 0);
+    return isControl ? size.expandedTo({0, kControlHeight}) : size;
+}
+
+QRect ThemeStyle::subElementRect(SubElement element, const QStyleOption* option,
+                                 const QWidget* widget) const {
+    const QRect place = QProxyStyle::subElementRect(element, option, widget);
+    // Text stands clear of a field's frame; fields within other controls have none.
+    const auto* frame = qstyleoption_cast<const QStyleOptionFrame*>(option);
+    const bool isField = element == SE_LineEditContents && frame && frame->lineWidth > 0;
+    return isField ? place.adjusted(kSpace - 2, 0, 2 - kSpace, 0) : place;
+}
+
 }  // namespace orbelle::widgets

@@ -4,7 +4,6 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
-#include <QPainterPath>
 #include <QWheelEvent>
 #include <algorithm>
 #include <climits>
@@ -351,17 +350,18 @@ void TrackSlider::PaintGroove(QPainter& painter) const {
             break;
         }
     }
-    QPainterPath shape;
-    shape.addRoundedRect(place, kPaintedThickness / 2, kPaintedThickness / 2);
-    painter.save();
-    painter.setClipPath(shape);
-    if (groove_ == Groove::Opacity)
-        DrawGreyChecks(painter, place.toRect());
-    painter.fillRect(place, colors);
-    painter.restore();
+    const auto paint = [&](const QBrush& brush, const QPen& pen) {
+        painter.setBrush(brush);
+        painter.setPen(pen);
+        painter.drawRoundedRect(place, kPaintedThickness / 2, kPaintedThickness / 2);
+    };
+    if (groove_ == Groove::Opacity) {
+        painter.setBrushOrigin(place.topLeft());
+        paint(GreyChecks(), Qt::NoPen);
+        painter.setBrushOrigin(0, 0);
+    }
+    paint(colors, QPen(CurrentTheme().Line, 1));
     painter.setBrush(Qt::NoBrush);
-    painter.setPen(QPen(CurrentTheme().Line, 1));
-    painter.drawPath(shape);
 }
 
 void TrackSlider::paintEvent(QPaintEvent*) {

@@ -445,7 +445,9 @@ TEST_F(AskCommandsTest, TheStatusLineSaysWhatWasWrittenWhere) {
     Desk desk;
     Change(desk);
     const std::string in = ", in " + folder.Path().string();
-    const auto size = [](const fs::path& path) { return SizeText(fs::file_size(path)); };
+    const auto size = [](const fs::path& path) {
+        return SizeText(fs::file_size(path)).toStdString();
+    };
     desk.ToWrite = fresh;
     AskSave(desk.Context);
     EXPECT_EQ(desk.Status, "Saved fresh.volf, " + size(fresh) + in);

@@ -18,10 +18,12 @@
 #include "app/main_window.h"
 #include "app/single_instance.h"
 #include "app/welcome_window.h"
+#include "widgets/words.h"
 
 namespace {
 
 using namespace orbelle::app;
+using orbelle::Words;
 
 // The text that a shell passes on: the path between quotation marks, or nothing.
 QByteArray CommandLineOf(const QString& file, std::span<char*> arguments) {
@@ -72,14 +74,14 @@ int main(int argc, char** argv) {
     QApplication::setWindowIcon(icon);
 
     QCommandLineParser parser;
-    parser.setApplicationDescription("Varnel Orbelle, an icon editor.");
+    parser.setApplicationDescription(Words::tr("Varnel Orbelle, an icon editor."));
     parser.addHelpOption();
     parser.addVersionOption();
-    parser.addPositionalArgument("FILE", "The document or picture to open.", "[FILE]");
+    parser.addPositionalArgument("FILE", Words::tr("The document or picture to open."), "[FILE]");
     parser.process(application);
     const QStringList files = parser.positionalArguments();
     if (files.size() > 1) {
-        qCritical("orbelle: only one FILE can be opened");
+        qCritical("orbelle: %s", qUtf8Printable(Words::tr("only one FILE can be opened")));
         return 1;
     }
     const QByteArray commandLine =
