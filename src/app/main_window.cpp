@@ -40,6 +40,7 @@ MainWindow::MainWindow() {
     setObjectName("MainWindow");
     editor_.ExportSettings.LeavesScratchPictures = true;
     editor_.ExportSettings.AddsArtworkSizes = true;
+    editor_.OpensWhole = true;
     menu_ = std::make_unique<MainMenu>(*this, context_);
     (new RecentFilesMenu(context_, this))->Join(*findChild<QAction*>("OpenRecent"));
     bars_ = std::make_unique<ButtonBars>(context_);

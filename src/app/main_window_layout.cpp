@@ -111,6 +111,8 @@ QWidget* MainWindow::MakeScene() {
     verticalScroll_ = new QScrollBar(Qt::Vertical);
     horizontalScroll_->setAccessibleName(Words::tr("Horizontal position"));
     verticalScroll_->setAccessibleName(Words::tr("Vertical position"));
+    for (QScrollBar* bar : {horizontalScroll_, verticalScroll_})
+        bar->setFocusPolicy(Qt::TabFocus);
     layout->addWidget(scene_, 0, 0);
     layout->addWidget(verticalScroll_, 0, 1);
     layout->addWidget(horizontalScroll_, 1, 0);

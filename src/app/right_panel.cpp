@@ -233,6 +233,13 @@ void RightPanel::resizeEvent(QResizeEvent* event) {
     }
 }
 
+// The colour of what has no hue follows the theme.
+void RightPanel::changeEvent(QEvent* event) {
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange && layers_)
+        ShowColors(commands_.Editor().Page());
+}
+
 TrackSlider& RightPanel::SliderOf(editing::Slider Sliders::*state) const {
     return *std::ranges::find(adjusters_, state, &Adjuster::State)->Slider;
 }

@@ -5,6 +5,8 @@
 #include <QPixmap>
 #include <QString>
 
+class QPainter;
+
 namespace orbelle::widgets {
 
 // The drawing of that name ("tools/pencil") in a size of logical pixels, drawn sharp for the
@@ -12,7 +14,10 @@ namespace orbelle::widgets {
 // of that name.
 QPixmap Artwork(const QString& name, const QSize& size, qreal devicePixelRatio);
 
-// The same in whatever size, ratio and theme it is painted.
+// With its corner on the nearest whole pixel of the screen: between two it would blur.
+void DrawSharp(QPainter& painter, const QPointF& corner, const QPixmap& pixmap);
+
+// A drawing in whatever size, ratio and theme it is painted.
 QIcon ArtworkIcon(const QString& name);
 
 }  // namespace orbelle::widgets

@@ -177,7 +177,8 @@ TEST_F(RealWindowTest, WhatAnotherProgramDragsHereBecomesALayerOrOpens) {
     Do({"keyup", "ctrl"});
     ASSERT_TRUE(FocusWindow("^Save Icon Document"));
     Press({"alt+n"});
-    EXPECT_TRUE(WaitUntil([&] { return Count(kOther) == 60 * 40 && Count() == 0; }));
+    EXPECT_TRUE(WaitUntil([&] { return Count(kOther) >= 4 * 60 * 40 && Count() == 0; }))
+        << "a small page comes as large as it fits";
     peer.kill();
     peer.waitForFinished();
 }
@@ -252,11 +253,12 @@ TEST_F(RealWindowTest, ClosingAsksAndWhatItSavesOpensAgain) {
 TEST_F(RealWindowTest, ExportsEachFormat) {
     ASSERT_TRUE(StartWith());
     // The side is that of the first picture in the file.
-    const std::tuple<const char*, const char*, int, int> formats[] = {{"i", "ico", 128, 0},
-                                                                      {"p", "png", 200, 0},
-                                                                      {"g", "gif", 200, 0},
-                                                                      {"j", "jpg", 200, 3},
-                                                                      {"b", "bmp", 200, 0}};
+    const std::tuple<const char*, const char*, int, int> formats[] = {
+        {"i", "ico", 256, 0},
+        {"p", "png", kPictureSide, 0},
+        {"g", "gif", kPictureSide, 0},
+        {"j", "jpg", kPictureSide, 3},
+        {"b", "bmp", kPictureSide, 0}};
     for (const auto& [mnemonic, ending, side, tolerance] : formats) {
         const QImage picture = Export(mnemonic, ending);
         ASSERT_EQ(picture.size(), QSize(side, side)) << ending;
@@ -275,7 +277,7 @@ TEST_F(RealWindowTest, ASecondStartHandsItsFileOver) {
     HandOver({});
     EXPECT_EQ(Scene(), before);
     HandOver({Write("other.png", PictureOf(kOther, {100, 80}))});
-    EXPECT_TRUE(WaitUntil([&] { return Count(kOther) == 100 * 80 && Count() == 0; }));
+    EXPECT_TRUE(WaitUntil([&] { return Count(kOther) > 0 && Count() == 0; }));
     EXPECT_EQ(program.state(), QProcess::Running);
 }
 
