@@ -203,7 +203,8 @@ TEST_F(WindowStatesTest, EveryTextIsTranslated) {
     static const QRegularExpression other(
         "^[^a-zA-Z]*$|#[0-9a-fA-F]{6,8}|^X -?[0-9]+, Y |^[XY]$|^Varnel Orbelle$|^v[0-9.]*$|"
         "^[0-9]+ x [0-9]+|[a-z-]+\\.(volf|png|ico)\\b|^/|^Right_Layer$|^qt_|"
-        "^Exported |^The file can|^The address|^x$|^Warning$");
+        "^Exported |^Writing |^The file can|^The address|^x$|^Warning$|"
+        "\\n[0-9]+ [A-Z][a-z]+ [0-9]{4} [0-9:]+\\n");
     std::set<std::string> plain;
     ForEachWindowState(ORBELLE_SAMPLES, [&](const QString& name, QWidget& shown) {
         QStringList texts;
