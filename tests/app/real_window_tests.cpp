@@ -1,5 +1,7 @@
 // What only the real program shows: a pointer and keys, files, its end, a second copy, other
 // programs; and the pictures that orbelle-screenshot takes.
+#include <gmock/gmock.h>
+
 #include "real_window.h"
 
 namespace orbelle::app {
