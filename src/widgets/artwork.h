@@ -7,10 +7,14 @@
 
 namespace orbelle::widgets {
 
+enum class Shade;
+
 // The drawing of that name ("tools/pencil") in a size of logical pixels, drawn sharp for the
 // screen's pixel ratio, in colours that are seen well on the theme in use. Null when there is none
 // of that name.
 QPixmap Artwork(const QString& name, const QSize& size, qreal devicePixelRatio);
+// In the colours of a shade, for what is light or dark whatever the theme.
+QPixmap Artwork(const QString& name, const QSize& size, qreal devicePixelRatio, Shade shade);
 
 // The same in whatever size, ratio and theme it is painted.
 QIcon ArtworkIcon(const QString& name);
