@@ -19,6 +19,7 @@
 #include "widgets/panel_header.h"
 #include "widgets/theme.h"
 #include "widgets/track_slider.h"
+#include "widgets/value_field.h"
 #include "widgets/words.h"
 
 namespace orbelle::app {
@@ -96,7 +97,10 @@ BottomPanel::BottomPanel(const WindowContext& context) : context_(context) {
         groups->addWidget(group);
     groups->addStretch(1);
     column->addWidget(content_);
+    // Folded, it does not let the window become so narrow that words above and below are cut.
+    title_->setMinimumWidth(content_->minimumSizeHint().width());
     brush_ = new BrushPanel(context.Commands, content_);
+    connect(brush_, &BrushPanel::KeysFree, this, [this] { context_.Window.FocusScene(); });
     content_->installEventFilter(this);
     connect(title_, &widgets::PanelHeader::Clicked, content_,
             [this](bool IsClosed) { content_->setVisible(!IsClosed); });
@@ -182,8 +186,12 @@ QWidget* BottomPanel::AddOptions() {
     connect(colorOpacity_, &widgets::TrackSlider::Changed, this, [this](int value) {
         context_.Commands.Run([value](Editor& editor) { ChangeColorOpacity(editor, value); });
     });
-    opacityValue_ = new QLabel;
-    opacityValue_->setFixedWidth(40);
+    colorOpacity_->SetNeutral(opacity.Neutral);
+    opacityValue_ = new widgets::ValueField(*colorOpacity_, 0, "%");
+    opacityValue_->setObjectName("ColorOpacityValue");
+    opacityValue_->setAccessibleName(Words::tr("%1 value").arg(colorOpacity_->accessibleName()));
+    connect(opacityValue_, &widgets::ValueField::Finished, this,
+            [this] { context_.Window.FocusScene(); });
     lineWidth_ = new widgets::NumberSlider;
     lineWidth_->setObjectName("LineWidth");
     lineWidth_->setAccessibleName(Words::tr("Line width"));
@@ -209,6 +217,8 @@ void BottomPanel::CommitTyping() {
     pageWidth_->CommitTyping();
     pageHeight_->CommitTyping();
     lineWidth_->CommitTyping();
+    opacityValue_->CommitTyping();
+    brush_->CommitTyping();
 }
 
 const QWidget& BottomPanel::Colors() const {
@@ -237,7 +247,11 @@ void BottomPanel::ShowStates(const Editor& editor) {
                                                   i == editor.Tools.ActiveColor ? kWidePen : 1);
     colorOpacity_->setEnabled(sliders.ColorOpacity.Enabled);
     colorOpacity_->SetValue(sliders.ColorOpacity.Value);
-    opacityValue_->setText(QString::number(sliders.ColorOpacity.Value) + "%");
+    opacityValue_->setEnabled(sliders.ColorOpacity.Enabled);
+    opacityValue_->Show(sliders.ColorOpacity.Value);
+    const auto inUse = static_cast<std::size_t>(editor.Tools.ActiveColor);
+    colorOpacity_->SetGroove(widgets::TrackSlider::Groove::Opacity,
+                             QColor::fromRgb(editor.Tools.Colors[inUse]));
     brush_->ShowStates(sliders);
 
     const bool brush = editor.Tools.InUse == editing::Tool::BrushEraser;

@@ -6,12 +6,11 @@
 
 #include "app/window_actions.h"
 
-class QLabel;
-
 namespace orbelle::widgets {
 class NumberSlider;
 class TrackSlider;
 class PanelHeader;
+class ValueField;
 }  // namespace orbelle::widgets
 
 namespace orbelle::app {
@@ -29,7 +28,7 @@ public:
 
     widgets::PanelHeader& Header() const { return *title_; }
     void SetOpen(bool open);
-    // A page size that is being typed counts from now on.
+    // A number that is being typed counts from now on.
     void CommitTyping();
     const QWidget& Colors() const;  // the wells and their caption
     const QWidget& BrushOptions() const;
@@ -53,7 +52,7 @@ private:
     ColorWell* backgroundSwatch_ = nullptr;
     std::array<ColorWell*, 2> wells_{};
     widgets::TrackSlider* colorOpacity_ = nullptr;
-    QLabel* opacityValue_ = nullptr;
+    widgets::ValueField* opacityValue_ = nullptr;
     widgets::NumberSlider* lineWidth_ = nullptr;
     BrushPanel* brush_ = nullptr;
     bool brushIsIn_ = false;

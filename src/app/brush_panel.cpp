@@ -8,6 +8,7 @@
 #include "editing/tool_palette.h"
 #include "widgets/theme.h"
 #include "widgets/track_slider.h"
+#include "widgets/value_field.h"
 #include "widgets/words.h"
 
 namespace orbelle::app {
@@ -25,32 +26,15 @@ constexpr int kEdgeGap = 8;
 BrushPanel::BrushPanel(CommandRunner& commands, QWidget* parent) : QWidget(parent) {
     setObjectName("BrushPanel");
     auto* rows = new QGridLayout(this);
-    rows->setContentsMargins(12, 8, 12, 8);
-    rows->setHorizontalSpacing(8);
-    rows->setVerticalSpacing(6);
-    const auto addRow = [&](int row, const QString& caption, const char* name, QLabel*& value,
-                            editing::Slider editing::Sliders::*state,
-                            void (*change)(editing::Editor&, int)) {
-        const editing::Slider range = editing::Sliders().*state;
-        auto* slider = new widgets::TrackSlider;
-        slider->setRange(range.Minimum, range.Maximum);
-        slider->setObjectName(name);
-        slider->setAccessibleName(caption);
-        value = new QLabel;
-        value->setFixedWidth(40);
-        value->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-        rows->addWidget(new QLabel(caption), row, 0);
-        rows->addWidget(slider, row, 1);
-        rows->addWidget(value, row, 2);
-        connect(slider, &widgets::TrackSlider::Changed, this, [&commands, change](int to) {
-            commands.Run([=](editing::Editor& editor) { change(editor, to); });
-        });
-        return slider;
-    };
-    size_ = addRow(0, Words::tr("Brush size"), "BrushSize", sizeValue_,
-                   &editing::Sliders::BrushSize, editing::ChangeBrushSize);
-    opacity_ = addRow(1, Words::tr("Brush opacity"), "BrushOpacity", opacityValue_,
-                      &editing::Sliders::BrushOpacity, editing::ChangeBrushOpacity);
+    rows->setContentsMargins(widgets::kWideSpace, widgets::kSpace, widgets::kWideSpace,
+                             widgets::kSpace);
+    rows->setHorizontalSpacing(widgets::kSpace);
+    rows->setVerticalSpacing(widgets::kTightSpace);
+    size_ = AddOption(commands, Words::tr("Brush size"), "BrushSize", &editing::Sliders::BrushSize,
+                      editing::ChangeBrushSize, {});
+    opacity_ = AddOption(commands, Words::tr("Brush opacity"), "BrushOpacity",
+                         &editing::Sliders::BrushOpacity, editing::ChangeBrushOpacity, "%");
+    opacity_.Slider->SetNeutral(editing::Sliders().BrushOpacity.Neutral);
     slide_.setInterval(kSlideMilliseconds);
     blink_.setInterval(kBlinkMilliseconds);
     connect(&slide_, &QTimer::timeout, this, &BrushPanel::StepSlide);
@@ -58,11 +42,44 @@ BrushPanel::BrushPanel(CommandRunner& commands, QWidget* parent) : QWidget(paren
     hide();
 }
 
+BrushPanel::Option BrushPanel::AddOption(CommandRunner& commands, const QString& caption,
+                                         const char* name, editing::Slider editing::Sliders::*state,
+                                         void (*change)(editing::Editor&, int),
+                                         const QString& unit) {
+    const editing::Slider range = editing::Sliders().*state;
+    auto* slider = new widgets::TrackSlider;
+    slider->setRange(range.Minimum, range.Maximum);
+    slider->setObjectName(name);
+    slider->setAccessibleName(caption);
+    auto* value = new widgets::ValueField(*slider, 0, unit);
+    value->setObjectName(QString(name) + "Value");
+    value->setAccessibleName(Words::tr("%1 value").arg(caption));
+    auto* rows = static_cast<QGridLayout*>(layout());
+    const int row = rows->rowCount();
+    rows->addWidget(new QLabel(caption), row, 0);
+    rows->addWidget(slider, row, 1);
+    rows->addWidget(value, row, 2);
+    connect(slider, &widgets::TrackSlider::Changed, this, [&commands, change](int to) {
+        commands.Run([=](editing::Editor& editor) { change(editor, to); });
+    });
+    connect(value, &widgets::ValueField::Finished, this, &BrushPanel::KeysFree);
+    return {slider, value};
+}
+
+void BrushPanel::Option::Show(int value) const {
+    Slider->SetValue(value);
+    Value->Show(value);
+}
+
 void BrushPanel::ShowStates(const editing::Sliders& sliders) {
-    size_->SetValue(sliders.BrushSize.Value);
-    opacity_->SetValue(sliders.BrushOpacity.Value);
-    sizeValue_->setText(QString::number(sliders.BrushSize.Value));
-    opacityValue_->setText(QString::number(sliders.BrushOpacity.Value) + "%");
+    size_.Show(sliders.BrushSize.Value);
+    opacity_.Show(sliders.BrushOpacity.Value);
+    opacity_.Slider->SetGroove(widgets::TrackSlider::Groove::Opacity, widgets::CurrentTheme().Note);
+}
+
+void BrushPanel::CommitTyping() {
+    size_.Value->CommitTyping();
+    opacity_.Value->CommitTyping();
 }
 
 void BrushPanel::Place() {

@@ -6,11 +6,10 @@
 
 #include "app/command_runner.h"
 
-class QLabel;
-
 namespace orbelle::widgets {
 class TrackSlider;
-}
+class ValueField;
+}  // namespace orbelle::widgets
 
 namespace orbelle::app {
 
@@ -26,6 +25,12 @@ public:
     void Slide(bool open);
     // After the parent has a new size.
     void Place();
+    // A number that is being typed counts from now on.
+    void CommitTyping();
+
+signals:
+    // A number was typed: the keys may go elsewhere.
+    void KeysFree();
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -34,10 +39,19 @@ private:
     void StepSlide();
     void StepBlink();
 
-    widgets::TrackSlider* size_ = nullptr;
-    widgets::TrackSlider* opacity_ = nullptr;
-    QLabel* sizeValue_ = nullptr;
-    QLabel* opacityValue_ = nullptr;
+    struct Option {
+        widgets::TrackSlider* Slider = nullptr;
+        widgets::ValueField* Value = nullptr;
+
+        void Show(int value) const;
+    };
+
+    Option AddOption(CommandRunner& commands, const QString& caption, const char* name,
+                     editing::Slider editing::Sliders::*state,
+                     void (*change)(editing::Editor&, int), const QString& unit);
+
+    Option size_;
+    Option opacity_;
     QTimer slide_;
     QTimer blink_;
     int blinks_ = 0;

@@ -195,12 +195,15 @@ ButtonBars::ButtonBars(const WindowContext& context)
       EraserBar(MakeBar(EraserBarSetup(), "EraserBar", Words::tr("Erasers"))),
       zoom_(new ZoomField) {
     AddZoomField(context);
-    const auto connect = [context](ButtonBar* bar, const std::function<void(int)>& click) {
+    const auto connect = [this, context](ButtonBar* bar, const std::function<void(int)>& click) {
         // A latching button has turned itself; what it shows is the editor's to say.
-        QObject::connect(bar, &ButtonBar::Clicked, bar, [context, click](int button) {
+        QObject::connect(bar, &ButtonBar::Clicked, bar, [this, context, bar, click](int button) {
+            const bool byKeys = bar->hasFocus();
             click(button);
             context.Window.ShowControls();
             context.Window.FocusScene();
+            if (byKeys && bar == ToolBox)
+                FocusPopup();
         });
     };
     const auto run = [context](void (*command)(editing::Editor&, int), int button) {
@@ -211,6 +214,7 @@ ButtonBars::ButtonBars(const WindowContext& context)
         ClickMain(context, button);
     });
     connect(ToolBox, [run](int button) { run(editing::ClickToolButton, button); });
+    ConnectPopupKeys(context);
     connect(FillBar, [run](int button) {
         run([](editing::Editor& editor,
                int pressed) { ChooseFill(editor, static_cast<editing::FillKind>(pressed - 1)); },
@@ -262,6 +266,21 @@ void ButtonBars::ShowFillKind(editing::FillKind kind) {
                              editing::tool_buttons::FilledEllipse, editing::tool_buttons::Rectangle,
                              editing::tool_buttons::FilledRectangle})
         ToolBox->SetChoice(button, look.Corner, Words::tr(look.Name));
+}
+
+// What the keys have opened has them, until something is chosen or Escape leaves it.
+void ButtonBars::FocusPopup() const {
+    for (ButtonBar* popup : {FillBar, SelectionBar, EraserBar})
+        if (popup->isVisible())
+            popup->setFocus(Qt::TabFocusReason);
+}
+
+void ButtonBars::ConnectPopupKeys(const WindowContext& context) {
+    for (ButtonBar* popup : {FillBar, SelectionBar, EraserBar})
+        QObject::connect(popup, &ButtonBar::LeaveWanted, popup, [this, context] {
+            context.Commands.Run(editing::CloseToolPopup);
+            ToolBox->setFocus(Qt::TabFocusReason);
+        });
 }
 
 void ButtonBars::ShowPopup(ButtonBar& popup, bool visible, int button) {

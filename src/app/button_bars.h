@@ -27,6 +27,8 @@ public:
 
 private:
     void AddZoomField(const WindowContext& context);
+    void ConnectPopupKeys(const WindowContext& context);
+    void FocusPopup() const;
     void ShowFillKind(editing::FillKind kind);
     void ShowPopup(widgets::ButtonBar& popup, bool visible, int button);
 

@@ -12,6 +12,7 @@ namespace {
 
 constexpr QColor kCheckerColor(230, 230, 230);
 constexpr int kMargin = 3;
+constexpr int kFocusWidth = 2, kFocusRoom = 3;
 
 }  // namespace
 
@@ -33,13 +34,24 @@ void ColorWell::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.fillRect(rect(), Qt::white);
     widgets::DrawChecker(painter, rect(), kCheckerColor);
+    const auto drawEdge = [&](const QRectF& place, const QColor& color, int width) {
+        const double half = width / 2.0;
+        painter.setPen(QPen(color, width, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+        painter.drawRect(place.adjusted(half, half, -half, -half));
+    };
+    // The focus lies around the well, whatever its color is.
+    QRect well = rect();
+    if (hasFocus()) {
+        painter.fillRect(rect(), widgets::CurrentTheme().Field);
+        drawEdge(rect(), widgets::CurrentTheme().Accent, kFocusWidth);
+        well.adjust(kFocusRoom, kFocusRoom, -kFocusRoom, -kFocusRoom);
+        painter.fillRect(well, Qt::white);
+        widgets::DrawChecker(painter, well, kCheckerColor);
+    }
     if (graphics::AlphaOf(color_) != 0)
-        painter.fillRect(rect().adjusted(kMargin, kMargin, -kMargin, -kMargin),
+        painter.fillRect(well.adjusted(kMargin, kMargin, -kMargin, -kMargin),
                          QColor::fromRgba(color_));
-    const double half = penWidth_ / 2.0;
-    painter.setPen(QPen(hasFocus() ? widgets::CurrentTheme().Accent : widgets::CurrentTheme().Line,
-                        penWidth_, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
-    painter.drawRect(QRectF(rect()).adjusted(half, half, -half, -half));
+    drawEdge(well, widgets::CurrentTheme().Line, penWidth_);
 }
 
 void ColorWell::mousePressEvent(QMouseEvent* event) {

@@ -32,6 +32,7 @@ constexpr char kDetails[] =
     "QScrollBar:vertical { width: 12px } QScrollBar:horizontal { height: 12px }"
     "QScrollBar::handle { background: @line; border-radius: 3px; margin: 3px }"
     "QScrollBar::handle:hover { background: @note }"
+    "QScrollBar::handle:focus { background: @accent }"
     "QScrollBar::handle:disabled { background: @hairline }"
     "QScrollBar::handle:vertical { min-height: 24px }"
     "QScrollBar::handle:horizontal { min-width: 24px }"

@@ -10,6 +10,7 @@
 
 #include "app/bottom_panel.h"
 #include "app/color_dialog.h"
+#include "app/core_words.h"
 #include "app/file_dialog.h"
 #include "app/findings_list.h"
 #include "app/fit_dialog.h"
@@ -137,8 +138,10 @@ void MainWindow::ToggleCheck() {
 }
 
 void MainWindow::ShowTitle() {
+    QString title = editor_.Document.Path.empty() ? TranslatedText(editor_.Title)
+                                                  : QString::fromStdString(editor_.Title);
     // Qt would take "[*]" in a file's name for its mark of a changed document.
-    setWindowTitle(QString::fromStdString(editor_.Title).replace("[*]", "[*][*]"));
+    setWindowTitle(title.replace("[*]", "[*][*]"));
 }
 
 void MainWindow::ShowMessage(const std::string& text) {

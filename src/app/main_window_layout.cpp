@@ -6,7 +6,9 @@
 #include <QHBoxLayout>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QStyle>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "app/ask_commands.h"
 #include "app/bottom_panel.h"
@@ -26,8 +28,20 @@
 namespace orbelle::app {
 namespace {
 
-constexpr int kRightPanelWidth = 264;
-constexpr int kWheelStep = 120;  // of a wheel's notch
+constexpr int kRightPanelWidth = 264;  // at least
+constexpr int kWheelStep = 120;        // of a wheel's notch
+
+// Scrolls up and down, and is as wide as what is in it asks for, beside the scroll bar.
+class PanelScroller : public QScrollArea {
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (watched == widget() && event->type() == QEvent::LayoutRequest)
+            setFixedWidth(
+                std::max(kRightPanelWidth, widget()->minimumSizeHint().width() +
+                                               style()->pixelMetric(QStyle::PM_ScrollBarExtent)));
+        return QScrollArea::eventFilter(watched, event);
+    }
+};
 
 }  // namespace
 
@@ -53,7 +67,7 @@ void MainWindow::AddPanels() {
     middle->addWidget(sceneAndSizes, 1);
     rightPanel_ = new RightPanel(*this, *bars_->LayerBar);
     connect(rightPanel_, &RightPanel::KeysFree, this, &MainWindow::FocusScene);
-    auto* scroller = new QScrollArea;
+    auto* scroller = new PanelScroller;
     scroller->setObjectName("RightScroller");
     scroller->setWidget(rightPanel_);
     scroller->setWidgetResizable(true);
@@ -108,6 +122,8 @@ QWidget* MainWindow::MakeScene() {
     verticalScroll_ = new QScrollBar(Qt::Vertical);
     horizontalScroll_->setAccessibleName(Words::tr("Horizontal position"));
     verticalScroll_->setAccessibleName(Words::tr("Vertical position"));
+    for (QScrollBar* bar : {horizontalScroll_, verticalScroll_})
+        bar->setFocusPolicy(Qt::TabFocus);
     layout->addWidget(scene_, 0, 0);
     layout->addWidget(verticalScroll_, 0, 1);
     layout->addWidget(horizontalScroll_, 1, 0);

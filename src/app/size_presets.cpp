@@ -30,6 +30,10 @@ void SizePresets::Show(int side) {
     for (QAbstractButton* button : buttons_->buttons())
         button->setChecked(buttons_->id(button) == side);
     buttons_->setExclusive(true);
+    // Tab comes to the chosen one, arrows go from there; with none chosen to each.
+    for (QAbstractButton* button : buttons_->buttons())
+        button->setFocusPolicy(button->isChecked() || !buttons_->checkedButton() ? Qt::StrongFocus
+                                                                                 : Qt::ClickFocus);
 }
 
 }  // namespace orbelle::app

@@ -90,7 +90,8 @@ void SuggestionTile::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     const int pen = hasFocus() ? 2 : 1;
     const bool isLit = hasFocus() || underMouse();
-    painter.setPen(QPen(isLit ? widgets::CurrentTheme().Accent : widgets::HairlineColor(), pen));
+    painter.setPen(
+        QPen(isLit ? widgets::CurrentTheme().Accent : widgets::CurrentTheme().Line, pen));
     painter.setBrush(isDown()       ? widgets::PressedColor()
                      : underMouse() ? widgets::HoverColor()
                                     : widgets::CurrentTheme().Field);

@@ -97,6 +97,10 @@ void ChooseToolByKey(Editor& editor, int button) {
     editor.Tools.OpenPopup = Popup::None;
 }
 
+void CloseToolPopup(Editor& editor) {
+    editor.Tools.OpenPopup = Popup::None;
+}
+
 void ChooseFill(Editor& editor, FillKind kind) {
     editor.Tools.FillKind = kind;
     editor.Tools.OpenPopup = Popup::None;

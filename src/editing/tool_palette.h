@@ -12,6 +12,9 @@ void ClickToolButton(Editor& editor, int button);
 // The same by a key: the pop-up is the mouse's and stays closed.
 void ChooseToolByKey(Editor& editor, int button);
 
+// Leaves a pop-up with nothing chosen.
+void CloseToolPopup(Editor& editor);
+
 // Buttons of the pop-ups; the pop-up closes.
 void ChooseFill(Editor& editor, FillKind kind);
 void ChooseSelection(Editor& editor, Tool tool);  // one of the three selections

@@ -20,7 +20,6 @@ static void LoadResources() {
 namespace orbelle::widgets {
 namespace {
 
-constexpr const char* kGroundInDrawings = "#F4F5F7";  // that light drawings stand on
 // What our drawings are made with, and what stands for it on dark.
 constexpr std::pair<const char*, const char*> kDarkColors[] = {
     {"#4A5564", "#B8C0CA"},  // outlines
@@ -45,11 +44,9 @@ QByteArray Drawing(const QString& name, int pixels, Shade shade) {
     if (!file.open(QIODevice::ReadOnly))
         return {};
     QByteArray drawing = file.readAll();
-    if (FollowsTheme(name) && shade == Shade::Dark) {
-        drawing.replace(kGroundInDrawings, ThemeOf(shade).Ground.name().toLatin1());
+    if (FollowsTheme(name) && shade == Shade::Dark)
         for (const auto& [light, dark] : kDarkColors)
             drawing.replace(light, dark);
-    }
     return drawing;
 }
 
@@ -60,8 +57,8 @@ public:
     void paint(QPainter* painter, const QRect& place, QIcon::Mode mode, QIcon::State) override {
         if (mode == QIcon::Disabled)
             painter->setOpacity(painter->opacity() * kDisabledOpacity);
-        painter->drawPixmap(place,
-                            Artwork(name_, place.size(), painter->device()->devicePixelRatioF()));
+        DrawSharp(*painter, place.topLeft(),
+                  Artwork(name_, place.size(), painter->device()->devicePixelRatioF()));
     }
     QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
         QPixmap pixmap(size);
@@ -96,6 +93,12 @@ QPixmap Artwork(const QString& name, const QSize& size, qreal devicePixelRatio, 
     painter.end();
     pixmap.setDevicePixelRatio(devicePixelRatio);
     return pixmap;
+}
+
+void DrawSharp(QPainter& painter, const QPointF& corner, const QPixmap& pixmap) {
+    const QTransform toDevice = painter.deviceTransform();
+    const QPoint whole = toDevice.map(corner).toPoint();
+    painter.drawPixmap(toDevice.inverted().map(QPointF(whole)), pixmap);
 }
 
 QIcon ArtworkIcon(const QString& name) {

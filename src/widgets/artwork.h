@@ -5,6 +5,8 @@
 #include <QPixmap>
 #include <QString>
 
+class QPainter;
+
 namespace orbelle::widgets {
 
 enum class Shade;
@@ -16,7 +18,10 @@ QPixmap Artwork(const QString& name, const QSize& size, qreal devicePixelRatio);
 // In the colours of a shade, for what is light or dark whatever the theme.
 QPixmap Artwork(const QString& name, const QSize& size, qreal devicePixelRatio, Shade shade);
 
-// The same in whatever size, ratio and theme it is painted.
+// With its corner on the nearest whole pixel of the screen: between two it would blur.
+void DrawSharp(QPainter& painter, const QPointF& corner, const QPixmap& pixmap);
+
+// A drawing in whatever size, ratio and theme it is painted.
 QIcon ArtworkIcon(const QString& name);
 
 }  // namespace orbelle::widgets

@@ -231,6 +231,12 @@ void ButtonBar::resizeEvent(QResizeEvent*) {
 }
 
 bool ButtonBar::event(QEvent* event) {
+    // Before it is the window's.
+    if (event->type() == QEvent::ShortcutOverride && hasFrame_ &&
+        static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape) {
+        event->accept();
+        return true;
+    }
     if (event->type() != QEvent::ToolTip)
         return QWidget::event(event);
     const auto* help = static_cast<QHelpEvent*>(event);
@@ -284,6 +290,10 @@ void ButtonBar::keyPressEvent(QKeyEvent* event) {
             if (CanPress(focusIndex_) && !event->isAutoRepeat())
                 Press(focusIndex_);
             return;
+        case Qt::Key_Escape:
+            if (hasFrame_)
+                return emit LeaveWanted();
+            [[fallthrough]];
         default:
             QWidget::keyPressEvent(event);
     }

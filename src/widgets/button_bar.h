@@ -59,6 +59,8 @@ public:
 signals:
     // A press of a mouse button on an enabled button, or Space or Return with the keyboard.
     void Clicked(int button);
+    // Escape on a bar that lies on other parts.
+    void LeaveWanted();
 
 protected:
     bool event(QEvent* event) override;

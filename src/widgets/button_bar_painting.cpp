@@ -15,12 +15,18 @@ constexpr int kMarkMargin = 2;
 constexpr int kCornerMargin = 1;
 constexpr double kRingDistance = 1.5;  // of the focus from the face: a face that is down has a line
 
-// A triangle in the lower right corner, row by row.
-void PaintMark(QPainter& painter, const QRect& place) {
-    const int right = place.right() - kMarkMargin;
-    for (int row = 0; row < kMarkSize; ++row)
-        painter.fillRect(right - row, place.bottom() - kMarkMargin - kMarkSize + 1 + row, row + 1,
-                         1, CurrentTheme().Note);
+// A triangle in the lower right corner, row by row of the screen.
+void PaintMark(QPainter& painter, const QRect& place, qreal ratio) {
+    const QPointF corner = QPointF(place.bottomRight()) + QPointF(1 - kMarkMargin, 1 - kMarkMargin);
+    const QTransform toDevice = painter.deviceTransform();
+    const QPointF whole = toDevice.inverted().map(QPointF(toDevice.map(corner).toPoint()));
+    const int rows = qRound(kMarkSize * ratio);
+    for (int row = 1; row <= rows; ++row) {
+        const double width = row / ratio;
+        painter.fillRect(
+            QRectF(whole.x() - width, whole.y() - (rows - row + 1) / ratio, width, 1 / ratio),
+            CurrentTheme().Note);
+    }
 }
 
 // As thin as the screen's pixels allow without one line being thicker than another.
@@ -76,13 +82,15 @@ void ButtonBar::PaintButton(QPainter& painter, int index) const {
 
     const int left = (metrics_.FaceSize.width() - metrics_.IconSize) / 2;
     const int top = (metrics_.FaceSize.height() - metrics_.IconSize) / 2;
-    painter.drawPixmap(place.topLeft() + QPoint(left, top), icons_[index].Picture);
+    DrawSharp(painter, place.topLeft() + QPoint(left, top), icons_[index].Picture);
     if (!icons_[index].Corner.isNull())
-        painter.drawPixmap(place.right() + 1 - kCornerMargin - kCornerSize.width(),
-                           place.bottom() + 1 - kCornerMargin - kCornerSize.height(),
-                           icons_[index].Corner);
+        DrawSharp(
+            painter,
+            place.bottomRight() + QPoint(1, 1) -
+                QPoint(kCornerMargin + kCornerSize.width(), kCornerMargin + kCornerSize.height()),
+            icons_[index].Corner);
     else if (button.HasPopup)
-        PaintMark(painter, place);
+        PaintMark(painter, place, devicePixelRatioF());
 
     if (IsHorizontal() && !button.Caption.isEmpty()) {
         const QRect box = place.adjusted(left + metrics_.IconSize + kTightSpace, 0, 0, 0);

@@ -88,6 +88,7 @@ private:
     QRect EyePlace(int row) const;
     QRect TextPlace(int row) const;
     int RowAt(const QPoint& place) const;  // -1: none
+    bool IsDragged(int row) const { return gap_ >= 0 && row == pressedRow_; }
     void FitScrollBar();
     void PaintRow(QPainter& painter, int row);
     void PaintThumbnail(QPainter& painter, const QRect& box, int layer);

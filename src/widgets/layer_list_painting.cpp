@@ -62,8 +62,6 @@ void LayerList::paintEvent(QPaintEvent* event) {
 void LayerList::PaintRow(QPainter& painter, int row) {
     const int layer = LayerOfRow(row);
     const QRect place = RowPlace(row);
-    const bool isDragged = gap_ >= 0 && row == pressedRow_;
-    painter.setOpacity(isDragged ? kDraggedOpacity : 1);
     if (layer == selectedIndex_) {
         painter.setPen(Qt::NoPen);
         painter.setBrush(PressedColor());
@@ -71,17 +69,17 @@ void LayerList::PaintRow(QPainter& painter, int row) {
     }
     const int inset = (kLayerRowHeight - kLayerThumbnail) / 2;
     const QRect box(place.left() + kSpace, place.top() + inset, kLayerThumbnail, kLayerThumbnail);
-    if (!rows_[layer].Visible)
-        painter.setOpacity(painter.opacity() * kHiddenOpacity);
+    // What is dragged or hidden has a paler picture; its words are as easily read.
+    painter.setOpacity((IsDragged(row) ? kDraggedOpacity : 1) *
+                       (rows_[layer].Visible ? 1 : kHiddenOpacity));
     painter.setBrushOrigin(box.topLeft());
     painter.fillRect(box, GreyChecks());
     painter.setBrushOrigin(0, 0);
     PaintThumbnail(painter, box, layer);
-    painter.setOpacity(isDragged ? kDraggedOpacity : 1);
+    painter.setOpacity(1);
     if (layer != renamed_)
         PaintText(painter, row);
     PaintEye(painter, row);
-    painter.setOpacity(1);
 }
 
 void LayerList::PaintThumbnail(QPainter& painter, const QRect& box, int layer) {
@@ -107,7 +105,7 @@ void LayerList::PaintText(QPainter& painter, int row) const {
         painter.drawText(line, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
                          QFontMetrics(font).elidedText(text, Qt::ElideRight, line.width()));
     };
-    painter.setPen(shown.Visible ? CurrentTheme().Text : CurrentTheme().Note);
+    painter.setPen(shown.Visible && !IsDragged(row) ? CurrentTheme().Text : CurrentTheme().Note);
     draw(place.adjusted(0, 2, 0, -kLayerRowHeight / 2), kNormalText, PartName(row));
     painter.setPen(CurrentTheme().Note);
     draw(place.adjusted(0, kLayerRowHeight / 2, 0, -2), kSmallText, shown.OpacityText);

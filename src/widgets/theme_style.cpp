@@ -9,7 +9,7 @@ namespace orbelle::widgets {
 namespace {
 
 constexpr int kIndicator = 16;  // a check box's side, logical pixels
-constexpr double kLineWidth = 1, kFocusWidth = 1.5;
+constexpr double kLineWidth = 1, kFocusWidth = 2;
 
 bool Has(const QStyleOption& option, QStyle::StateFlag flag) {
     return option.state & flag;

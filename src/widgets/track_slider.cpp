@@ -370,7 +370,9 @@ void TrackSlider::paintEvent(QPaintEvent*) {
     const QRect thumb = ThumbRect();
     PaintGroove(painter);
     const bool isLit = isEnabled() && (dragging_ || isOverThumb_ || hasFocus());
-    painter.setBrush(isEnabled() ? CurrentTheme().Field : CurrentTheme().Ground);
+    painter.setBrush(!isEnabled() ? CurrentTheme().Ground
+                     : hasFocus() ? CurrentTheme().Accent
+                                  : CurrentTheme().Field);
     painter.setPen(QPen(isLit         ? CurrentTheme().Accent
                         : isEnabled() ? CurrentTheme().Line
                                       : HairlineColor(),

@@ -177,10 +177,10 @@ void ValueField::paintEvent(QPaintEvent* event) {
                         kCornerRadius);
     outside.addRect(rect());
     painter.fillPath(outside.subtracted(edge), CurrentTheme().Ground);
-    const bool isLit = isEnabled() && underMouse();
-    painter.setPen(QPen(hasFocus() ? CurrentTheme().Accent
-                        : isLit    ? CurrentTheme().Line
-                                   : HairlineColor(),
+    painter.setPen(QPen(!isEnabled()   ? HairlineColor()
+                        : hasFocus()   ? CurrentTheme().Accent
+                        : underMouse() ? CurrentTheme().Note
+                                       : CurrentTheme().Line,
                         1));
     painter.drawPath(edge);
 }

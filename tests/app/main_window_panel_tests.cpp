@@ -9,6 +9,7 @@
 #include "editing/buttons.h"
 #include "editing/color_wells.h"
 #include "editing/layer_commands.h"
+#include "editing/tool_palette.h"
 #include "editing/undo_commands.h"
 #include "widgets/layer_list.h"
 #include "widgets/number_slider.h"
@@ -273,6 +274,36 @@ TEST_F(MainWindowTest, ColourWellsTakeTurns) {
     Press(Part<ColorWell>("ForeColorOLE1"), {10, 10});
     EXPECT_EQ(window.Editor().Tools.ActiveColor, 1);
     EXPECT_EQ(Part<widgets::TrackSlider>("ColorOpacity").value(), 50);
+}
+
+TEST_F(MainWindowTest, OpacitiesAndTheBrushAreTypedOrResetByADoubleClick) {
+    NewPage(32, 32);
+    window.Run([](editing::Editor& editor) {
+        SetWellColor(editor, 0, 0xFFFF0000);
+        ChooseToolEntry(editor, editing::Tool::Pencil);
+    });
+    const auto type = [this](const char* name, const QString& number) {
+        auto& field = Part<widgets::ValueField>(name);
+        field.setFocus();
+        field.selectAll();
+        for (const QChar digit : number)
+            Strike(field, Qt::Key(digit.unicode()), digit);
+        Strike(field, Qt::Key_Return);
+        return field.text();
+    };
+    EXPECT_EQ(type("ColorOpacityValue", "40"), "40%");
+    EXPECT_EQ(window.Editor().Tools.Colors[0], 0x66FF0000);
+    auto& track = Part<widgets::TrackSlider>("ColorOpacity");
+    SendMouse(track, QEvent::MouseButtonDblClick, {50, 10}, Qt::LeftButton, Qt::LeftButton);
+    Release(track, {50, 10});
+    EXPECT_EQ(window.Editor().Tools.Colors[0], 0xFFFF0000);
+
+    window.Run(
+        [](editing::Editor& editor) { ChooseToolEntry(editor, editing::Tool::BrushEraser); });
+    EXPECT_EQ(type("BrushSizeValue", "250"), "100") << "the largest";
+    EXPECT_EQ(type("BrushOpacityValue", "0"), "1%") << "the least";
+    EXPECT_EQ(window.Editor().Sliders.BrushSize.Value, 100);
+    EXPECT_EQ(window.Editor().Sliders.BrushOpacity.Value, 1);
 }
 
 }  // namespace

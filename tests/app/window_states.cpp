@@ -6,6 +6,8 @@
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QMimeData>
+#include <QProgressDialog>
+#include <QPushButton>
 #include <QRegularExpression>
 #include <QStatusBar>
 
@@ -20,7 +22,9 @@
 #include "app/message_boxes.h"
 #include "app/new_icon_dialog.h"
 #include "app/recent_files.h"
+#include "app/recovery_dialog.h"
 #include "app/right_panel.h"
+#include "app/run_progress.h"
 #include "app/save_prompt.h"
 #include "app/settings.h"
 #include "app/sizes_panel.h"
@@ -35,12 +39,16 @@
 #include "filters/shrink_to_size.h"
 #include "formats/export_icon.h"
 #include "formats/icon_reader.h"
+#include "formats/journal_file.h"
 #include "graphics/codecs/image_files.h"
 #include "graphics/file_io.h"
+#include "support/hands.h"
 #include "support/temporary_folder.h"
 #include "waiting.h"
 #include "widgets/button_bar.h"
+#include "widgets/layer_list.h"
 #include "widgets/panel_header.h"
+#include "widgets/track_slider.h"
 
 namespace orbelle::app {
 namespace {
@@ -50,14 +58,19 @@ using Look = std::function<void(const QString& name, QWidget& shown)>;
 
 constexpr QSize kUsualSize(1100, 760);
 constexpr QSize kLargeSize(1920, 1080);
+constexpr int kFadeMilliseconds = 600;  // until the welcome text stands
+constexpr float kLargestZoom = 20;
+constexpr std::int64_t kSomeTime = 1'764'000'000'000;
 
 class Tour {
 public:
     Tour(const QString& samples, const Look& look) : samples_(samples), look_(look) {}
 
     void Run() {
+        Settings().clear();
         LookAtStarts();
         LookAtDocuments();
+        LookAtHands();
         LookAtMenus();
         LookAtDialogs();
     }
@@ -84,6 +97,8 @@ private:
         MakeWindow(kUsualSize);
         LookAtWindow("empty");
         window_->StartWelcome();
+        const QDeadlineTimer fade(kFadeMilliseconds);
+        WaitUntil([&] { return fade.hasExpired(); });
         LookAtWindow("first-start");
         LookAtRecentFiles();
         OpenSample("ok-badge.volf");
@@ -143,8 +158,6 @@ private:
             LookAtWindow((wasClosed ? "open-" : "closed-") + header->text());
             header->click();
         }
-        window_->Run([](editing::Editor& editor) { ZoomAboutMiddle(editor, 20); });
-        LookAtWindow("zoom-20");
         const graphics::Bitmap picture = window_->Editor().Canvas;
         for (const int side : {16, 64, 256, 512}) {
             window_->Run([&](editing::Editor& editor) {
@@ -152,6 +165,56 @@ private:
             });
             LookAtWindow(QString("page-%1").arg(side));
         }
+        OpenSample("envelope.volf");
+        window_->Run([](editing::Editor& editor) { ZoomAboutMiddle(editor, kLargestZoom); });
+        LookAtWindow("zoom-20");
+    }
+
+    template <typename Widget>
+    Widget& Part(const char* name) {
+        return *window_->findChild<Widget*>(name);
+    }
+    static void Hover(QWidget& widget, const QPointF& place) {
+        testing::SendMouse(widget, QEvent::MouseMove, place, Qt::NoButton, Qt::NoButton);
+    }
+    // Controls below the pointer, held down, with the keys.
+    void LookAtHands() {
+        OpenSample("envelope.volf");
+        window_->Run(
+            [](editing::Editor& editor) { ChooseToolEntry(editor, editing::Tool::Pencil); });
+        auto& bar = Part<widgets::ButtonBar>("MainBar");
+        const QPointF first = bar.ButtonRect(1).center();
+        Hover(bar, first);
+        LookAtWindow("hand-hover-bar");
+        for (const char* name : {"MainBar", "ToolBox", "LayerBar"}) {
+            Part<QWidget>(name).setFocus(Qt::TabFocusReason);
+            LookAtWindow(QString("hand-keys-") + name);
+        }
+        for (const char* name : {"ColorOpacity", "PageWidth", "OpacityPanel", "ExchangeColor",
+                                 "ForeColorOLE0", "OpacityValue", "Sizes", "SizeStrip", "Layers"})
+            if (auto* control = window_->findChild<QWidget*>(name)) {
+                control->setFocus(Qt::TabFocusReason);
+                LookAtWindow(QString("hand-keys-") + name);
+            }
+        auto& slider = Part<widgets::TrackSlider>("ColorOpacity");
+        testing::Press(slider, QPointF(slider.width() / 2.0, slider.height() / 2.0));
+        LookAtWindow("hand-slider-down");
+        testing::Release(slider, QPointF(slider.width() / 2.0, slider.height() / 2.0));
+
+        auto& list = Part<widgets::LayerList>("Layers");
+        const QPointF row = list.PartPlace(0).center();
+        testing::Press(*list.viewport(), row);
+        testing::DragTo(*list.viewport(), list.PartPlace(list.PartCount() - 1).center());
+        LookAtWindow("hand-drag-row");
+        testing::Strike(list, Qt::Key_Escape);
+        testing::Release(*list.viewport(), row);
+        list.EyePressed(list.SelectedIndex());
+        LookAtWindow("hidden-row");
+        list.EyePressed(list.SelectedIndex());
+        list.StartRename();
+        LookAtWindow("rename-row");
+        list.CommitName();
+        window_->FocusScene();
     }
 
     void LookAtMenus() {
@@ -169,6 +232,9 @@ private:
             window_->Run([tool = tool](editing::Editor& editor) { ChooseToolEntry(editor, tool); });
             LookAtWindow(QString("tool-") + name);
         }
+        window_->Run([](editing::Editor& editor) { ChooseToolEntry(editor, Tool::BrushEraser); });
+        WaitUntil([&] { return Part<QWidget>("BrushPanel").y() == 0; });
+        LookAtWindow("tool-brush");
         window_->statusBar()->showMessage("Exported icon.ico: 2.1 KB");
         LookAtWindow("status");
     }
@@ -213,12 +279,40 @@ private:
         LookAtDialog("save", save);
         WelcomeWindow about;
         LookAtDialog("about", about);
+        save.findChild<QPushButton*>()->setDown(true);
+        LookAtDialog("save-down", save);
+        LookAtRecovery();
+        LookAtProgress();
         QWidget* parent = window_.get();
         LookAtMessage("plain", [=] { ShowPlainMessage(parent, "The file can't be read."); });
         LookAtMessage("folder", [=] { OfferFolder(parent, "Exported 9 files, 120 KB"); });
         LookAtMessage("copy", [=] { ShowMessageToCopy(parent, "The address is", "x"); });
         LookAtMessage("question",
                       [=] { AskOkCancel(parent, "a.ico already exists, overwrite?", "Warning"); });
+    }
+
+    void LookAtRecovery() {
+        const testing::TemporaryFolder folder;
+        document::Document document = window_->Editor().Document;
+        for (const char* name : {"", "/home/ann/icons/envelope.volf", "/home/ann/icons/a.volf"}) {
+            document.Path = name;
+            formats::JournalFile(folder / "journals").Keep(document, kSomeTime);
+            std::vector<formats::FoundJournal> journals =
+                formats::FindJournals(folder / "journals");
+            RecoveryDialog dialog(journals, window_.get());
+            LookAtDialog(QString("recovery-%1").arg(journals.size()), dialog);
+        }
+    }
+    void LookAtProgress() {
+        RunProgress progress(*window_);
+        progress.GoOn(0, 9, {});
+        WaitUntil([&] {
+            progress.GoOn(4, 9, "Writing /home/ann/icons/envelope/512x512.png");
+            return progress.IsShown();
+        });
+        for (QWidget* dialog : QApplication::topLevelWidgets())
+            if (qobject_cast<QProgressDialog*>(dialog) && dialog->isVisible())
+                LookAt("dialog-progress", *dialog);
     }
 
     const QString samples_;

@@ -1,13 +1,24 @@
 #include "window_states.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <QAbstractButton>
 #include <QAbstractScrollArea>
+#include <QComboBox>
 #include <QLabel>
 #include <QLayout>
+#include <QListWidget>
+#include <QMenu>
+#include <QMenuBar>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QWidget>
+#include <set>
+
+#include "app/language.h"
+#include "app/settings.h"
+#include "widgets/accessible_parts.h"
 
 namespace orbelle::app {
 namespace {
@@ -58,27 +69,156 @@ bool Overlap(const QWidget& first, const QWidget& second) {
            first.geometry().intersects(second.geometry());
 }
 
-TEST(WindowStatesTest, NoWordIsCutAndNothingOverlaps) {
+void ExpectRoomForAll(const QString& name, QWidget& shown) {
+    for (const QWidget* widget : shown.findChildren<QWidget*>()) {
+        if (!widget->isVisible() || widget->window() != &shown)
+            continue;
+        EXPECT_TRUE(HasRoom(*widget)) << name.toStdString() << ": " << Describe(*widget);
+        EXPECT_FALSE(IsCutAtTheSide(*widget)) << name.toStdString() << ": " << Describe(*widget);
+        for (const QObject* other : widget->parentWidget()->children()) {
+            const auto* sibling = qobject_cast<const QWidget*>(other);
+            if (sibling && sibling != widget && sibling->isVisible()) {
+                EXPECT_FALSE(Overlap(*widget, *sibling))
+                    << name.toStdString() << ": " << Describe(*widget) << " and "
+                    << Describe(*sibling);
+            }
+        }
+    }
+}
+
+// As if no test had been here before.
+class WindowStatesTest : public ::testing::Test {
+protected:
+    void SetUp() override { Settings().clear(); }
+};
+
+TEST_F(WindowStatesTest, NoWordIsCutAndNothingOverlaps) {
     int states = 0;
     ForEachWindowState(ORBELLE_SAMPLES, [&](const QString& name, QWidget& shown) {
         ++states;
-        for (const QWidget* widget : shown.findChildren<QWidget*>()) {
-            if (!widget->isVisible() || widget->window() != &shown)
-                continue;
-            EXPECT_TRUE(HasRoom(*widget)) << name.toStdString() << ": " << Describe(*widget);
-            EXPECT_FALSE(IsCutAtTheSide(*widget))
-                << name.toStdString() << ": " << Describe(*widget);
-            for (const QObject* other : widget->parentWidget()->children()) {
-                const auto* sibling = qobject_cast<const QWidget*>(other);
-                if (sibling && sibling != widget && sibling->isVisible()) {
-                    EXPECT_FALSE(Overlap(*widget, *sibling))
-                        << name.toStdString() << ": " << Describe(*widget) << " and "
-                        << Describe(*sibling);
-                }
-            }
-        }
+        ExpectRoomForAll(name, shown);
     });
     EXPECT_GT(states, 40);
+}
+
+// Of our texts; the toolkit's own need not be installed.
+bool IsOurs(const char* context) {
+    return qstrcmp(context, "Words") == 0 || qstrcmp(context, "Core") == 0;
+}
+
+// German, and what it was asked for in vain.
+class Listening : public QTranslator {
+public:
+    Listening() { EXPECT_TRUE(load(":/translations/orbelle_de.qm")); }
+
+    QString translate(const char* context, const char* text, const char* comment,
+                      int count) const override {
+        QString translation = QTranslator::translate(context, text, comment, count);
+        if (translation.isNull() && IsOurs(context))
+            Missing.insert(text);
+        return translation;
+    }
+
+    mutable std::set<std::string> Missing;
+};
+
+// The letters of a menu's entries, or of a dialog's controls, each once.
+void ExpectMnemonicsDiffer(const QString& name, QWidget& shown) {
+    QStringList texts;
+    if (const auto* menu = qobject_cast<const QMenu*>(&shown)) {
+        for (const QAction* action : menu->actions())
+            texts += action->text();
+    } else if (const auto* bar = shown.findChild<QMenuBar*>()) {
+        for (const QAction* action : bar->actions())
+            texts += action->text();
+    } else {
+        for (const QWidget* widget : shown.findChildren<QWidget*>()) {
+            const auto* label = qobject_cast<const QLabel*>(widget);
+            const auto* button = qobject_cast<const QAbstractButton*>(widget);
+            if (widget->isVisible() && label && label->buddy())
+                texts += label->text();
+            if (widget->isVisible() && button)
+                texts += button->text();
+        }
+    }
+    QStringList letters;
+    for (const QString& text : texts)
+        if (const QKeySequence key = QKeySequence::mnemonic(text); !key.isEmpty())
+            letters += key.toString();
+    for (const QString& letter : letters)
+        EXPECT_EQ(letters.count(letter), 1) << name.toStdString() << ": " << letter.toStdString();
+}
+
+TEST_F(WindowStatesTest, GermanLacksNothingAndHasRoom) {
+    const Language german{QLocale("de_DE")};
+    Listening translator;
+    QCoreApplication::installTranslator(&translator);
+    ForEachWindowState(ORBELLE_SAMPLES, [&](const QString& name, QWidget& shown) {
+        ExpectRoomForAll(name, shown);
+        ExpectMnemonicsDiffer(name, shown);
+    });
+    EXPECT_THAT(translator.Missing, ::testing::IsEmpty());
+}
+
+// Puts all that is translated between brackets.
+class Bracketing : public QTranslator {
+public:
+    bool isEmpty() const override { return false; }
+    QString translate(const char*, const char* text, const char*, int count) const override {
+        return QChar(0x27E6) + QString(text).replace("%n", QString::number(count)) + QChar(0x27E7);
+    }
+};
+
+// What has been translated taken out, from within.
+QString Untranslated(QString text) {
+    static const QRegularExpression translated("\\x{27E6}[^\\x{27E6}\\x{27E7}]*\\x{27E7}");
+    while (text.contains(translated))
+        text.remove(translated);
+    return text;
+}
+
+void AddTexts(const QObject& object, QStringList& texts) {
+    for (const char* property : {"text", "title", "windowTitle", "toolTip", "statusTip",
+                                 "accessibleName", "accessibleDescription", "placeholderText"})
+        texts += object.property(property).toString();
+    if (const auto* box = qobject_cast<const QComboBox*>(&object))
+        for (int i = 0; i < box->count(); ++i)
+            texts += box->itemText(i);
+    if (const auto* list = qobject_cast<const QListWidget*>(&object))
+        for (int i = 0; i < list->count(); ++i)
+            texts += list->item(i)->text();
+}
+
+// The parts that a control tells assistive tools of.
+void AddParts(QWidget& widget, QStringList& texts) {
+    const auto* parts = dynamic_cast<const widgets::AccessibleParts*>(&widget);
+    for (int part = 0; parts && part < parts->PartCount(); ++part)
+        texts << parts->PartName(part) << parts->PartValue(part);
+}
+
+TEST_F(WindowStatesTest, EveryTextIsTranslated) {
+    Bracketing translator;
+    QCoreApplication::installTranslator(&translator);
+    // Numbers, colours, names of formats and products, and what the states themselves put in.
+    static const QRegularExpression other(
+        "^[^a-zA-Z]*$|#[0-9a-fA-F]{6,8}|^X -?[0-9]+, Y |^[XY]$|^Varnel Orbelle$|^v[0-9.]*$|"
+        "^[0-9]+ x [0-9]+|[a-z-]+\\.(volf|png|ico)\\b|^/|^Right_Layer$|^qt_|"
+        "^Exported |^Writing |^The file can|^The address|^x$|^Warning$|"
+        "\\n[0-9]+ [A-Z][a-z]+ [0-9]{4} [0-9:]+\\n");
+    std::set<std::string> plain;
+    ForEachWindowState(ORBELLE_SAMPLES, [&](const QString& name, QWidget& shown) {
+        QStringList texts;
+        AddTexts(shown, texts);
+        for (QObject* object : shown.findChildren<QObject*>()) {
+            AddTexts(*object, texts);
+            if (auto* widget = qobject_cast<QWidget*>(object))
+                AddParts(*widget, texts);
+        }
+        for (const QString& text : texts)
+            if (!other.match(Untranslated(text)).hasMatch())
+                plain.insert((name + ": " + text).toStdString());
+    });
+    EXPECT_THAT(plain, ::testing::IsEmpty());
 }
 
 }  // namespace
