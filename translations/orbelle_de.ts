@@ -2246,5 +2246,17 @@
         <comment>the locale that numbers in these texts are written for</comment>
         <translation>de_DE</translation>
     </message>
+    <message>
+        <source>Remove from List</source>
+        <translation>Aus der Liste entfernen</translation>
+    </message>
+    <message>
+        <source>or drop a picture here</source>
+        <translation>oder ein Bild hier ablegen</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Start</translation>
+    </message>
 </context>
 </TS>
