@@ -80,6 +80,17 @@ TEST(DrawScene, ShowsCheckerShadowAndFrameAroundThePage) {
 }
 
 // Cells are counted from the page's corner, also where that lies beyond the scene.
+TEST(DrawScene, APageWiderThanTheSceneHasItsShadowBelow) {
+    Shown wide(300, 20, 1);  // down to 40
+    wide.Draw();
+    const Argb ground = wide.scene.GetPixel(0, 0).value();
+    for (const int x : {0, 50, 99}) {
+        EXPECT_NE(wide.scene.GetPixel(x, 42), ground) << x;
+        EXPECT_EQ(wide.scene.GetPixel(x, 42), wide.scene.GetPixel(50, 42)) << x;
+        EXPECT_EQ(wide.scene.GetPixel(x, 53), ground) << x;
+    }
+}
+
 TEST(DrawScene, TheCheckerScrollsWithThePage) {
     Shown shown(116, 76, 1);
     shown.ExpectPixels({{0, 0, kDark}, {4, 0, kLight}});  // from (-8, -8)
