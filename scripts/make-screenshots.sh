@@ -34,7 +34,7 @@ done
 # Pixels of the window at 100 %.
 width=1100 height=760
 
-export XDG_RUNTIME_DIR=$work/run DBUS_SESSION_BUS_ADDRESS=disabled: QT_QPA_PLATFORM=xcb
+export XDG_RUNTIME_DIR=$work/run DBUS_SESSION_BUS_ADDRESS=disabled: QT_QPA_PLATFORM=xcb LANGUAGE=en
 mkdir -m 700 "$work/run"
 
 start_display() { # SCALE

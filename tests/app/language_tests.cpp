@@ -5,6 +5,7 @@
 
 #include <QFile>
 #include <QLibraryInfo>
+#include <QProcess>
 
 #include "app/core_words.h"
 #include "app/written_text.h"
@@ -30,6 +31,21 @@ TEST(LanguageTest, TheToolkitSpeaksTheSame) {
         GTEST_SKIP() << "the toolkit's translations are not installed";
     const Language language{QLocale("de_DE")};
     EXPECT_EQ(QCoreApplication::translate("QPlatformTheme", "Cancel"), "Abbrechen");
+}
+
+TEST(LanguageTest, TheProgramTakesThatOfTheDesktop) {
+    for (const auto& [languages, expected] : {std::pair("de", "ein Icon-Editor."),
+                                              {"en:de", "an icon editor."},
+                                              {"fr:de", "ein Icon-Editor."}}) {
+        QProcess program;
+        QProcessEnvironment desktop = QProcessEnvironment::systemEnvironment();
+        desktop.insert("LANGUAGE", languages);
+        desktop.insert("LC_ALL", "C.UTF-8");
+        program.setProcessEnvironment(desktop);
+        program.start(ORBELLE_PROGRAM, {"--help"});
+        ASSERT_TRUE(program.waitForFinished());
+        EXPECT_TRUE(program.readAllStandardOutput().contains(expected)) << languages;
+    }
 }
 
 TEST(LanguageTest, NumbersAreWrittenAsTheTextsAre) {

@@ -14,6 +14,7 @@
 int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const QApplication application(argc, argv);
+    QApplication::setApplicationVersion(ORBELLE_VERSION);
     const QStringList arguments = QApplication::arguments();
     if (arguments.size() != 4 && arguments.size() != 5) {
         std::cerr << "usage: window_pictures FOLDER SAMPLES light|dark [LOCALE]\n";
