@@ -85,7 +85,8 @@ void BrushPanel::CommitTyping() {
 void BrushPanel::Place() {
     const QSize room = parentWidget()->size();
     const int top = open_ && !slide_.isActive() ? 0 : std::min(y(), room.height());
-    setGeometry(room.width() - kWidth, isHidden() ? room.height() : top, kWidth, room.height());
+    const int left = isRightToLeft() ? 0 : room.width() - kWidth;
+    setGeometry(left, isHidden() ? room.height() : top, kWidth, room.height());
 }
 
 void BrushPanel::Slide(bool open) {
@@ -123,7 +124,8 @@ void BrushPanel::StepBlink() {
 void BrushPanel::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.fillRect(rect(), widgets::CurrentTheme().Ground);
-    painter.fillRect(QRect(0, kEdgeGap, 1, height() - 2 * kEdgeGap), widgets::HairlineColor());
+    painter.fillRect(QRect(isRightToLeft() ? width() - 1 : 0, kEdgeGap, 1, height() - 2 * kEdgeGap),
+                     widgets::HairlineColor());
     if (!frame_)
         return;
     painter.setRenderHint(QPainter::Antialiasing);

@@ -287,7 +287,8 @@ void ButtonBars::ShowPopup(ButtonBar& popup, bool visible, int button) {
     if (visible && popup.isHidden()) {
         const QRect place = ToolBox->ButtonRect(button);
         popup.resize(popup.sizeHint());
-        popup.move(ToolBox->mapTo(popup.parentWidget(), QPoint(ToolBox->width() + 1, place.top())));
+        const int left = ToolBox->isRightToLeft() ? -1 - popup.width() : ToolBox->width() + 1;
+        popup.move(ToolBox->mapTo(popup.parentWidget(), QPoint(left, place.top())));
         popup.raise();
     }
     popup.setVisible(visible);

@@ -201,8 +201,9 @@ QSize ColorComparison::sizeHint() const {
 void ColorComparison::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     const int middle = width() / 2;
-    FillOnChecker(painter, QRect(0, 0, middle, height()), QColor::fromRgba(new_));
-    FillOnChecker(painter, QRect(middle, 0, width() - middle, height()), QColor::fromRgba(old_));
+    const QRect left(0, 0, middle, height()), right(middle, 0, width() - middle, height());
+    FillOnChecker(painter, isRightToLeft() ? right : left, QColor::fromRgba(new_));
+    FillOnChecker(painter, isRightToLeft() ? left : right, QColor::fromRgba(old_));
     DrawFrame(painter, *this);
 }
 

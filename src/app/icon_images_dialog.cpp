@@ -121,6 +121,7 @@ QAccessible::State IconGridView::PartState(int part) const {
 void IconGridView::paintEvent(QPaintEvent* event) {
     QPainter painter(this);
     painter.setFont(CaptionFont());
+    painter.setLayoutDirection(Qt::LayoutDirectionAuto);  // "16 x 16" whatever stands around it
     for (int i = 0; i < grid_.Count(); ++i)
         if (PartPlace(i).intersects(event->rect()))
             PaintCell(painter, i);

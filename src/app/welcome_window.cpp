@@ -54,6 +54,7 @@ void WelcomeWindow::EndStart() {
 
 void WelcomeWindow::paintEvent(QPaintEvent*) {
     QPainter painter(this);
+    painter.setLayoutDirection(Qt::LeftToRight);  // the words stand beside the picture
     painter.fillRect(rect(), kGround);
     painter.drawPixmap(0, 0, picture_);
     painter.setFont(widgets::ChromeFont(20));

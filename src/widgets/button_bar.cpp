@@ -6,6 +6,7 @@
 #include <QHelpEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QStyle>
 #include <QToolTip>
 #include <algorithm>
 #include <cmath>
@@ -126,11 +127,19 @@ void ButtonBar::LayOut() {
     layout_ = LayOutButtonBar(buttons_, metrics_, size(), [&](const QString& text) {
         return static_cast<int>(std::ceil(metrics.horizontalAdvance(text)));
     });
+    const auto mirror = [this](QRect& place) {
+        if (!place.isEmpty())
+            place = QStyle::visualRect(layoutDirection(), rect(), place);
+    };
+    std::ranges::for_each(layout_.Places, mirror);
+    std::ranges::for_each(layout_.Lines, mirror);
     for (int i = 0; i < Count(); ++i)
         if (beside_[i]) {
             const QRect& face = layout_.Places[i];
             const int top = face.top() + (face.height() - beside_[i]->height()) / 2;
-            beside_[i]->move(face.right() + 1 + metrics_.Gap, top);
+            beside_[i]->move(isRightToLeft() ? face.left() - metrics_.Gap - beside_[i]->width()
+                                             : face.right() + 1 + metrics_.Gap,
+                             top);
         }
     if (layout_.Length != lengthBefore)
         updateGeometry();
@@ -215,6 +224,7 @@ void ButtonBar::changeEvent(QEvent* event) {
             EndHover();
             break;
         case QEvent::FontChange:
+        case QEvent::LayoutDirectionChange:
             LayOut();
             break;
         case QEvent::PaletteChange:
@@ -277,11 +287,14 @@ void ButtonBar::focusOutEvent(QFocusEvent*) {
 }
 
 void ButtonBar::keyPressEvent(QKeyEvent* event) {
+    const int toTheRight = isRightToLeft() ? -1 : 1;
     switch (event->key()) {
         case Qt::Key_Left:
+            return FocusButton(NextEnabled(focusIndex_, -toTheRight));
+        case Qt::Key_Right:
+            return FocusButton(NextEnabled(focusIndex_, toTheRight));
         case Qt::Key_Up:
             return FocusButton(NextEnabled(focusIndex_, -1));
-        case Qt::Key_Right:
         case Qt::Key_Down:
             return FocusButton(NextEnabled(focusIndex_, 1));
         case Qt::Key_Space:

@@ -1,5 +1,6 @@
 // How the toolbar looks.
 #include <QPainter>
+#include <QStyle>
 #include <cmath>
 
 #include "widgets/artwork.h"
@@ -15,17 +16,19 @@ constexpr int kMarkMargin = 2;
 constexpr int kCornerMargin = 1;
 constexpr double kRingDistance = 1.5;  // of the focus from the face: a face that is down has a line
 
-// A triangle in the lower right corner, row by row of the screen.
-void PaintMark(QPainter& painter, const QRect& place, qreal ratio) {
-    const QPointF corner = QPointF(place.bottomRight()) + QPointF(1 - kMarkMargin, 1 - kMarkMargin);
+// A triangle in a lower corner, row by row of the screen.
+void PaintMark(QPainter& painter, const QRect& place, qreal ratio, bool isAtLeft) {
+    const QPointF corner =
+        isAtLeft ? QPointF(place.bottomLeft()) + QPointF(kMarkMargin, 1 - kMarkMargin)
+                 : QPointF(place.bottomRight()) + QPointF(1 - kMarkMargin, 1 - kMarkMargin);
     const QTransform toDevice = painter.deviceTransform();
     const QPointF whole = toDevice.inverted().map(QPointF(toDevice.map(corner).toPoint()));
     const int rows = qRound(kMarkSize * ratio);
     for (int row = 1; row <= rows; ++row) {
         const double width = row / ratio;
-        painter.fillRect(
-            QRectF(whole.x() - width, whole.y() - (rows - row + 1) / ratio, width, 1 / ratio),
-            CurrentTheme().Note);
+        painter.fillRect(QRectF(isAtLeft ? whole.x() : whole.x() - width,
+                                whole.y() - (rows - row + 1) / ratio, width, 1 / ratio),
+                         CurrentTheme().Note);
     }
 }
 
@@ -80,23 +83,25 @@ void ButtonBar::PaintButton(QPainter& painter, int index) const {
     if (states_[index].Pressed || isBelowPointer)
         DrawFace(painter, place, states_[index].Pressed || showDown_);
 
+    const auto within = [&](const QPoint& corner, const QSize& size) {
+        return QStyle::visualRect(layoutDirection(), place, QRect(place.topLeft() + corner, size));
+    };
     const int left = (metrics_.FaceSize.width() - metrics_.IconSize) / 2;
     const int top = (metrics_.FaceSize.height() - metrics_.IconSize) / 2;
-    DrawSharp(painter, place.topLeft() + QPoint(left, top), icons_[index].Picture);
+    const QSize icon(metrics_.IconSize, metrics_.IconSize);
+    DrawSharp(painter, within({left, top}, icon).topLeft(), icons_[index].Picture);
+    const QPoint corner(place.width() - kCornerMargin - kCornerSize.width(),
+                        place.height() - kCornerMargin - kCornerSize.height());
     if (!icons_[index].Corner.isNull())
-        DrawSharp(
-            painter,
-            place.bottomRight() + QPoint(1, 1) -
-                QPoint(kCornerMargin + kCornerSize.width(), kCornerMargin + kCornerSize.height()),
-            icons_[index].Corner);
+        DrawSharp(painter, within(corner, kCornerSize).topLeft(), icons_[index].Corner);
     else if (button.HasPopup)
-        PaintMark(painter, place, devicePixelRatioF());
+        PaintMark(painter, place, devicePixelRatioF(), isRightToLeft());
 
     if (IsHorizontal() && !button.Caption.isEmpty()) {
-        const QRect box = place.adjusted(left + metrics_.IconSize + kTightSpace, 0, 0, 0);
+        const int textLeft = left + metrics_.IconSize + kTightSpace;
         painter.setPen(CurrentTheme().Text);
-        painter.drawText(box, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
-                         button.Caption);
+        painter.drawText(within({textLeft, 0}, {place.width() - textLeft, place.height()}),
+                         Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, button.Caption);
     }
     painter.setOpacity(1);
 }

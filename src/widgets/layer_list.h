@@ -84,7 +84,8 @@ protected:
 
 private:
     int LayerOfRow(int row) const { return Count() - row - 1; }
-    QRect RowPlace(int row) const;  // in the viewport
+    QRect RowPlace(int row) const;             // in the viewport
+    QRect Mirrored(const QRect& place) const;  // where the words go from right to left
     QRect EyePlace(int row) const;
     QRect TextPlace(int row) const;
     int RowAt(const QPoint& place) const;  // -1: none

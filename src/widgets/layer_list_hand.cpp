@@ -3,6 +3,7 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QScrollBar>
+#include <QStyle>
 #include <algorithm>
 #include <utility>
 
@@ -18,13 +19,19 @@ constexpr int kLongestName = 200;
 
 }  // namespace
 
+QRect LayerList::Mirrored(const QRect& place) const {
+    return QStyle::visualRect(layoutDirection(), viewport()->rect(), place);
+}
+
 QRect LayerList::EyePlace(int row) const {
     const QRect place = RowPlace(row);
-    return {place.right() + 1 - kLayerEyeWidth, place.top(), kLayerEyeWidth, place.height()};
+    return Mirrored(
+        {place.right() + 1 - kLayerEyeWidth, place.top(), kLayerEyeWidth, place.height()});
 }
 
 QRect LayerList::TextPlace(int row) const {
-    return RowPlace(row).adjusted(kSpace + kLayerThumbnail + kSpace, 0, -kLayerEyeWidth, 0);
+    return Mirrored(
+        RowPlace(row).adjusted(kSpace + kLayerThumbnail + kSpace, 0, -kLayerEyeWidth, 0));
 }
 
 int LayerList::RowAt(const QPoint& place) const {

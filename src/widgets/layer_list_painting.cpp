@@ -1,6 +1,7 @@
 // How the list of layers is painted.
 #include <QPainter>
 #include <QPainterPath>
+#include <QStyle>
 #include <algorithm>
 
 #include "widgets/layer_list.h"
@@ -68,7 +69,8 @@ void LayerList::PaintRow(QPainter& painter, int row) {
         painter.drawRoundedRect(FaceOf(place), kCornerRadius, kCornerRadius);
     }
     const int inset = (kLayerRowHeight - kLayerThumbnail) / 2;
-    const QRect box(place.left() + kSpace, place.top() + inset, kLayerThumbnail, kLayerThumbnail);
+    const QRect box =
+        Mirrored({place.left() + kSpace, place.top() + inset, kLayerThumbnail, kLayerThumbnail});
     // What is dragged or hidden has a paler picture; its words are as easily read.
     painter.setOpacity((IsDragged(row) ? kDraggedOpacity : 1) *
                        (rows_[layer].Visible ? 1 : kHiddenOpacity));
@@ -99,10 +101,12 @@ void LayerList::PaintThumbnail(QPainter& painter, const QRect& box, int layer) {
 void LayerList::PaintText(QPainter& painter, int row) const {
     const LayerRow& shown = rows_[LayerOfRow(row)];
     const QRect place = TextPlace(row);
+    const Qt::Alignment leading = QStyle::visualAlignment(layoutDirection(), Qt::AlignLeft);
+    painter.setLayoutDirection(Qt::LayoutDirectionAuto);  // of each text as it is
     const auto draw = [&](const QRect& line, double points, const QString& text) {
         const QFont font = ChromeFont(points);
         painter.setFont(font);
-        painter.drawText(line, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
+        painter.drawText(line, leading | Qt::AlignVCenter | Qt::TextSingleLine,
                          QFontMetrics(font).elidedText(text, Qt::ElideRight, line.width()));
     };
     painter.setPen(shown.Visible && !IsDragged(row) ? CurrentTheme().Text : CurrentTheme().Note);
@@ -139,7 +143,7 @@ void LayerList::PaintDrop(QPainter& painter) const {
     painter.setPen(QPen(CurrentTheme().Accent, 2));
     painter.setBrush(CurrentTheme().Field);
     painter.drawLine(QPointF(kSpace, y), QPointF(viewport()->width() - kTightSpace, y));
-    painter.drawEllipse(QPointF(kSpace, y), 3, 3);
+    painter.drawEllipse(QPointF(isRightToLeft() ? viewport()->width() - kSpace : kSpace, y), 3, 3);
 }
 
 }  // namespace orbelle::widgets

@@ -6,6 +6,7 @@
 #include <QPainter>
 #include <QPainterPath>
 #include <QRegularExpressionValidator>
+#include <QStyle>
 #include <algorithm>
 #include <utility>
 
@@ -241,16 +242,19 @@ QSize NumberSlider::minimumSizeHint() const {
 QRect NumberSlider::SpinRect(int direction) const {
     const int half = height() / 2;
     const int left = width() - 2 * kButtonWidth;
-    return direction > 0 ? QRect(left, 0, kButtonWidth, half)
-                         : QRect(left, half, kButtonWidth, height() - half);
+    return QStyle::visualRect(layoutDirection(), rect(),
+                              direction > 0 ? QRect(left, 0, kButtonWidth, half)
+                                            : QRect(left, half, kButtonWidth, height() - half));
 }
 
 QRect NumberSlider::OpenRect() const {
-    return {width() - kButtonWidth, 0, kButtonWidth, height()};
+    return QStyle::visualRect(layoutDirection(), rect(),
+                              QRect(width() - kButtonWidth, 0, kButtonWidth, height()));
 }
 
 void NumberSlider::resizeEvent(QResizeEvent* event) {
-    field_->setGeometry(2, 2, width() - 2 * kButtonWidth - 3, height() - 4);
+    field_->setGeometry(QStyle::visualRect(
+        layoutDirection(), rect(), QRect(2, 2, width() - 2 * kButtonWidth - 3, height() - 4)));
     QWidget::resizeEvent(event);
 }
 
@@ -363,8 +367,9 @@ void NumberSlider::paintEvent(QPaintEvent*) {
     painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), kCornerRadius,
                             kCornerRadius);
 
-    painter.fillRect(SpinRect(1).left(), 4, 1, height() - 8, HairlineColor());
-    painter.fillRect(OpenRect().left(), 4, 1, height() - 8, HairlineColor());
+    for (const QRect& button : {SpinRect(1), OpenRect()})
+        painter.fillRect(isRightToLeft() ? button.right() : button.left(), 4, 1, height() - 8,
+                         HairlineColor());
 
     painter.setPen(Qt::NoPen);
     for (const int direction : {1, -1}) {

@@ -3,6 +3,7 @@
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QPainter>
+#include <QStyle>
 
 #include "widgets/theme.h"
 
@@ -39,9 +40,12 @@ void PanelHeader::SetClosed(bool closed) {
 
 void PanelHeader::SetTools(QWidget& tools) {
     auto* row = new QHBoxLayout(this);
-    row->setContentsMargins(0, 0, kSpace, 0);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(0);
+    row->addSpacing(sizeHint().width());
     row->addStretch();
     row->addWidget(&tools);
+    row->addSpacing(kSpace);
     connect(this, &QAbstractButton::toggled, &tools, &QWidget::setVisible);
 }
 
@@ -61,16 +65,18 @@ void PanelHeader::paintEvent(QPaintEvent*) {
     painter.fillRect(rect(), BandColor());
     painter.fillRect(0, 0, width(), 1, HairlineColor());
     painter.setPen(isEnabled() ? CurrentTheme().Text : DisabledColor());
-    const QRect room = rect().adjusted(kChevronRoom, 0, -kSpace, 0);
+    const QRect room =
+        QStyle::visualRect(layoutDirection(), rect(), rect().adjusted(kChevronRoom, 0, -kSpace, 0));
     painter.drawText(room, Qt::AlignVCenter | Qt::AlignLeft,
                      fontMetrics().elidedText(text(), Qt::ElideRight, room.width()));
 
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QPen(underMouse() ? CurrentTheme().Accent : painter.pen().color(), 1.5));
     painter.save();
-    painter.translate(kChevronRoom / 2, height() / 2.0);
+    const int fromLeft = isRightToLeft() ? width() - kChevronRoom / 2 : kChevronRoom / 2;
+    painter.translate(fromLeft, height() / 2.0);
     if (IsClosed())
-        painter.rotate(-90);
+        painter.rotate(isRightToLeft() ? 90 : -90);
     DrawChevron(painter, {0, 0});
     painter.restore();
 

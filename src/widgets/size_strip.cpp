@@ -3,6 +3,7 @@
 #include <QContextMenuEvent>
 #include <QHelpEvent>
 #include <QKeyEvent>
+#include <QStyle>
 #include <QToolTip>
 #include <algorithm>
 #include <cmath>
@@ -100,7 +101,8 @@ QRect SizeStrip::PartPlace(int part) const {
     int x = kStart;
     for (int i = 0; i < part; ++i)
         x += CellWidth(cells_[i].Size);
-    return {x, 0, CellWidth(cells_[part].Size), GroundHeight() + kLabelHeight};
+    const QRect place(x, 0, CellWidth(cells_[part].Size), GroundHeight() + kLabelHeight);
+    return QStyle::visualRect(layoutDirection(), rect(), place);
 }
 
 QRect SizeStrip::CellPlace(int size) const {
@@ -220,9 +222,9 @@ void SizeStrip::keyPressEvent(QKeyEvent* event) {
         return emit MenuWanted(cells_[part].Size, mapToGlobal(PartPlace(part).bottomLeft()));
     switch (event->key()) {
         case Qt::Key_Left:
-            return FocusPart(part - 1);
+            return FocusPart(isRightToLeft() ? part + 1 : part - 1);
         case Qt::Key_Right:
-            return FocusPart(part + 1);
+            return FocusPart(isRightToLeft() ? part - 1 : part + 1);
         case Qt::Key_Home:
             return FocusPart(0);
         case Qt::Key_End:

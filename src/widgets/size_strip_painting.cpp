@@ -65,7 +65,7 @@ void SizeStrip::PaintGround(QPainter& painter) const {
     if (ground_ == StripGround::Checks)
         DrawChecker(painter, ground, kCheckerColor);
     painter.fillRect(0, ground.height() - 1, width(), 1, HairlineColor());
-    painter.fillRect(width() - 1, 0, 1, height(), HairlineColor());
+    painter.fillRect(isRightToLeft() ? 0 : width() - 1, 0, 1, height(), HairlineColor());
 }
 
 bool SizeStrip::LiesOnTaskBar(int size) const {
@@ -81,7 +81,9 @@ void SizeStrip::PaintDesktop(QPainter& painter, const QRect& ground) const {
         if (!LiesOnTaskBar(cells_[part].Size))
             continue;
         const int height = Side(kTaskBarSize) + 2 * kTaskBarMargin;
-        const QRect bar(PartPlace(part).left(), ground.height() - height, width(), height);
+        const QRect first = PartPlace(part);
+        const QRect bar(isRightToLeft() ? first.right() + 1 - width() : first.left(),
+                        ground.height() - height, width(), height);
         painter.fillRect(bar, kTaskBarColor);
         painter.fillRect(QRect(bar.topLeft(), QSize(bar.width(), 1)), kTaskBarEdgeColor);
         break;

@@ -61,6 +61,11 @@ int TrackSlider::TrackWidth() const {
     return qMax(width() - kThumbSize.width(), 0);
 }
 
+QPoint TrackSlider::PlaceFrom(const QMouseEvent& event) const {
+    const QPoint place = event.position().toPoint();
+    return isRightToLeft() ? QPoint(width() - 1 - place.x(), place.y()) : place;
+}
+
 QRect TrackSlider::ThumbRect() const {
     return {QPoint(thumbLeft_, (height() - kThumbSize.height()) / 2), kThumbSize};
 }
@@ -126,7 +131,7 @@ void TrackSlider::mousePressEvent(QMouseEvent* event) {
         event->ignore();
         return;
     }
-    const QPoint place = event->position().toPoint();
+    const QPoint place = PlaceFrom(*event);
     BeginDrag();
     if (!ThumbRect().contains(place))
         DragThumb(place.x() - kThumbSize.width() / 2, place.x() < thumbLeft_ ? -1 : 1);
@@ -137,7 +142,7 @@ void TrackSlider::mousePressEvent(QMouseEvent* event) {
 }
 
 void TrackSlider::mouseMoveEvent(QMouseEvent* event) {
-    const QPoint place = event->position().toPoint();
+    const QPoint place = PlaceFrom(*event);
     // A message box that comes up in a drag takes the release for itself.
     if (!(event->buttons() & Qt::LeftButton))
         EndDrag();
@@ -233,11 +238,14 @@ bool TrackSlider::event(QEvent* event) {
 }
 
 void TrackSlider::keyPressEvent(QKeyEvent* event) {
+    const int toTheRight = isRightToLeft() ? -singleStep() : singleStep();
     switch (event->key()) {
         case Qt::Key_Left:
+            return Step(-toTheRight);
+        case Qt::Key_Right:
+            return Step(toTheRight);
         case Qt::Key_Down:
             return Step(-singleStep());
-        case Qt::Key_Right:
         case Qt::Key_Up:
             return Step(singleStep());
         case Qt::Key_PageDown:
@@ -367,6 +375,10 @@ void TrackSlider::PaintGroove(QPainter& painter) const {
 void TrackSlider::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
+    if (isRightToLeft()) {
+        painter.translate(width(), 0);
+        painter.scale(-1, 1);
+    }
     const QRect thumb = ThumbRect();
     PaintGroove(painter);
     const bool isLit = isEnabled() && (dragging_ || isOverThumb_ || hasFocus());

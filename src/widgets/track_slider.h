@@ -72,6 +72,7 @@ protected:
 
 private:
     int TrackWidth() const;
+    QPoint PlaceFrom(const QMouseEvent& event) const;  // as if the track went from left to right
     QRect ThumbRect() const;
     void PlaceThumb();
     void DragThumb(int left, int direction);

@@ -31,6 +31,7 @@
 #include "app/suggest_dialog.h"
 #include "app/svg_size_dialog.h"
 #include "app/welcome_window.h"
+#include "editing/buttons.h"
 #include "editing/document_commands.h"
 #include "editing/export_commands.h"
 #include "editing/size_commands.h"
@@ -231,6 +232,14 @@ private:
                                          {Tool::Pencil, "pencil"}}) {
             window_->Run([tool = tool](editing::Editor& editor) { ChooseToolEntry(editor, tool); });
             LookAtWindow(QString("tool-") + name);
+        }
+        namespace buttons = editing::tool_buttons;
+        for (const auto& [button, name] : {std::pair(buttons::Selection, "popup-select"),
+                                           {buttons::Rectangle, "popup-fill"},
+                                           {buttons::Eraser, "popup-erase"}}) {
+            window_->Run(
+                [button = button](editing::Editor& editor) { ClickToolButton(editor, button); });
+            LookAtWindow(name);
         }
         window_->Run([](editing::Editor& editor) { ChooseToolEntry(editor, Tool::BrushEraser); });
         WaitUntil([&] { return Part<QWidget>("BrushPanel").y() == 0; });

@@ -5,6 +5,7 @@
 
 #include <QAbstractButton>
 #include <QAbstractScrollArea>
+#include <QApplication>
 #include <QComboBox>
 #include <QLabel>
 #include <QLayout>
@@ -14,6 +15,7 @@
 #include <QPushButton>
 #include <QRegularExpression>
 #include <QWidget>
+#include <algorithm>
 #include <set>
 
 #include "app/language.h"
@@ -70,12 +72,28 @@ bool Overlap(const QWidget& first, const QWidget& second) {
            first.geometry().intersects(second.geometry());
 }
 
+// Words that a control paints by itself, below what stands on it. A recorded painter has no
+// direction from right to left.
+bool IsCovered(QWidget& widget) {
+    if (widget.isRightToLeft())
+        return false;
+    const std::vector<testing::DrawnText> texts = testing::TextsOf(widget);
+    return std::ranges::any_of(widget.children(), [&](const QObject* child) {
+        const auto* part = qobject_cast<const QWidget*>(child);
+        return part && part->isVisible() &&
+               std::ranges::any_of(texts, [&](const testing::DrawnText& text) {
+                   return text.Place.toRect().intersects(part->geometry());
+               });
+    });
+}
+
 void ExpectRoomForAll(const QString& name, QWidget& shown) {
-    for (const QWidget* widget : shown.findChildren<QWidget*>()) {
+    for (QWidget* widget : shown.findChildren<QWidget*>()) {
         if (!widget->isVisible() || widget->window() != &shown)
             continue;
         EXPECT_TRUE(HasRoom(*widget)) << name.toStdString() << ": " << Describe(*widget);
         EXPECT_FALSE(IsCutAtTheSide(*widget)) << name.toStdString() << ": " << Describe(*widget);
+        EXPECT_FALSE(IsCovered(*widget)) << name.toStdString() << ": " << Describe(*widget);
         for (const QObject* other : widget->parentWidget()->children()) {
             const auto* sibling = qobject_cast<const QWidget*>(other);
             if (sibling && sibling != widget && sibling->isVisible()) {
@@ -91,9 +109,19 @@ void ExpectRoomForAll(const QString& name, QWidget& shown) {
 class WindowStatesTest : public ::testing::Test {
 protected:
     void SetUp() override { Settings().clear(); }
+    void TearDown() override { QApplication::setLayoutDirection(Qt::LeftToRight); }
 };
 
-TEST_F(WindowStatesTest, NoWordIsCutAndNothingOverlaps) {
+class DirectionTest : public WindowStatesTest,
+                      public ::testing::WithParamInterface<Qt::LayoutDirection> {};
+
+INSTANTIATE_TEST_SUITE_P(Ways, DirectionTest, ::testing::Values(Qt::LeftToRight, Qt::RightToLeft),
+                         [](const auto& way) {
+                             return way.param == Qt::LeftToRight ? "LeftToRight" : "RightToLeft";
+                         });
+
+TEST_P(DirectionTest, NoWordIsCutAndNothingOverlaps) {
+    QApplication::setLayoutDirection(GetParam());
     int states = 0;
     ForEachWindowState(ORBELLE_SAMPLES, [&](const QString& name, QWidget& shown) {
         ++states;
