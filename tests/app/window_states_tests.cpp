@@ -20,7 +20,6 @@
 
 #include "app/language.h"
 #include "app/settings.h"
-#include "app/start_view.h"
 #include "drawn_text.h"
 #include "widgets/accessible_parts.h"
 
@@ -73,18 +72,30 @@ bool Overlap(const QWidget& first, const QWidget& second) {
            first.geometry().intersects(second.geometry());
 }
 
+// Whether something of the widget is seen in the part of its parent.
+bool PaintsOn(QWidget& widget, const QRect& place) {
+    QImage picture(widget.size(), QImage::Format_ARGB32_Premultiplied);
+    picture.fill(Qt::transparent);
+    widget.render(&picture, {}, {}, QWidget::DrawChildren);
+    const QRect seen = place.translated(-widget.pos()) & picture.rect();
+    for (int y = seen.top(); y <= seen.bottom(); ++y)
+        for (int x = seen.left(); x <= seen.right(); ++x)
+            if (qAlpha(picture.pixel(x, y)) != 0)
+                return true;
+    return false;
+}
+
 // Words that a control paints by itself, below what stands on it. A recorded painter has no
 // direction from right to left.
 bool IsCovered(QWidget& widget) {
     if (widget.isRightToLeft())
         return false;
     const std::vector<testing::DrawnText> texts = testing::TextsOf(widget);
-    return std::ranges::any_of(widget.children(), [&](const QObject* child) {
-        const auto* part = qobject_cast<const QWidget*>(child);
-        // What can be begun stands over the whole scene, around the words of the welcome.
-        return part && part->isVisible() && !qobject_cast<const StartView*>(part) &&
+    return std::ranges::any_of(widget.children(), [&](QObject* child) {
+        auto* part = qobject_cast<QWidget*>(child);
+        return part && part->isVisible() &&
                std::ranges::any_of(texts, [&](const testing::DrawnText& text) {
-                   return text.Place.toRect().intersects(part->geometry());
+                   return PaintsOn(*part, text.Place.toRect());
                });
     });
 }
