@@ -148,17 +148,12 @@ int main(int argc, char** argv) {
     for (const double zoom : {1.0, 8.0}) {
         std::printf("at %.0f %%\n", zoom * 100);
         window.Run([zoom](editing::Editor& editor) {
-            editor.View.Zoom = zoom;
-            FitScrollBars(editor);
+            ZoomAboutMiddle(editor, zoom);
             SelectLayer(editor, 0);
             editor.Changed.Scene = true;
         });
         MeasureHands(window);
     }
-    window.Run([](editing::Editor& editor) {
-        editor.View.Zoom = 1;
-        FitScrollBars(editor);
-        editor.Changed.Scene = true;
-    });
+    window.Run([](editing::Editor& editor) { ZoomAboutMiddle(editor, 1); });
     MeasurePages(window);
 }

@@ -5,14 +5,14 @@ set -euo pipefail
 
 packages=(
     g++ cmake ninja-build pkg-config
-    qt6-base-dev qt6-svg-dev libagg-dev libpixman-1-dev libpng-dev libjpeg62-turbo-dev libgif-dev libhwy-dev libdeflate-dev
+    qt6-base-dev qt6-svg-dev qt6-l10n-tools libagg-dev libpixman-1-dev libpng-dev libjpeg62-turbo-dev libgif-dev libhwy-dev libdeflate-dev
     libwebp-dev liblcms2-dev librsvg2-dev zlib1g-dev
     libcli11-dev nlohmann-json3-dev
 )
 case ${1:-} in
     programs) ;;
     tests | ci) packages+=(libgtest-dev libgmock-dev libbenchmark-dev xvfb xdotool icnsutils icoutils python3
-                        at-spi2-core dbus gir1.2-atspi-2.0 python3-gi) ;;
+                        at-spi2-core dbus gir1.2-atspi-2.0 python3-gi qt6-translations-l10n) ;;
     *)
         echo "usage: install-dependencies.sh programs|tests|ci" >&2
         exit 2

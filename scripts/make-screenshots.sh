@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
-# make-screenshots.sh states FOLDER: pictures of everything that the program shows, light and dark, at
-# 100, 150 and 200 %, to be looked at: FOLDER/LOOKS-SCALE/STATE.png, and a sheet of each. Without a
-# display.
+# make-screenshots.sh states FOLDER [LOCALE]: pictures of everything that the program shows, light and
+# dark, at 100, 150 and 200 %, to be looked at: FOLDER/LOOKS-SCALE/STATE.png, and a sheet of each. In
+# English, or the language of the locale ("de"). Without a display.
 #
 # make-screenshots.sh: takes the pictures of docs/pictures from the real window, on a display of its
 # own, at 100 % and 200 %. Needs a built tree, Xvfb, xdotool and ImageMagick.
@@ -19,7 +19,7 @@ if [[ ${1-} == states ]]; then
             mkdir -p "$folder" "$work/$looks-$scale"
             env HOME="$work/$looks-$scale" XDG_CONFIG_HOME="$work/$looks-$scale" \
                 QT_SCALE_FACTOR=$scale QT_LOGGING_RULES='*.debug=false' \
-                "$bin/window_pictures" "$folder" "$PWD/samples" $looks 2>/dev/null
+                "$bin/window_pictures" "$folder" "$PWD/samples" $looks "${3:-en}" 2>/dev/null
             montage "$folder"/*.png -background '#777' -geometry 360x280+6+6 -tile 6x \
                 "$folder-sheet.png"
         done
@@ -34,7 +34,7 @@ done
 # Pixels of the window at 100 %.
 width=1100 height=760
 
-export XDG_RUNTIME_DIR=$work/run DBUS_SESSION_BUS_ADDRESS=disabled: QT_QPA_PLATFORM=xcb
+export XDG_RUNTIME_DIR=$work/run DBUS_SESSION_BUS_ADDRESS=disabled: QT_QPA_PLATFORM=xcb LANGUAGE=en
 mkdir -m 700 "$work/run"
 
 start_display() { # SCALE

@@ -32,7 +32,7 @@ DropTarget::DropTarget(QWidget& window, std::function<bool()> isEmpty)
 }
 
 // False: not taken.
-bool DropTarget::Answer(QDropEvent& event) const {
+bool DropTarget::Answer(QDropEvent& event) {
     // The toolkit lets drops through to a window that a dialog blocks.
     const bool isTaken = isWanted_ && !QApplication::activeModalWidget();
     const bool opens = isEmpty_() || hasDocument_ || IsCtrlHeld(event);
@@ -43,6 +43,7 @@ bool DropTarget::Answer(QDropEvent& event) const {
         const Qt::DropAction other = opens ? Qt::CopyAction : Qt::LinkAction;
         event.setDropAction(offered & wanted ? wanted : other);
     }
+    emit Hovers(event.isAccepted() && event.type() != QEvent::Drop);
     return event.isAccepted();
 }
 
@@ -56,6 +57,9 @@ bool DropTarget::eventFilter(QObject* watched, QEvent* event) {
             Answer(enter);
             return true;
         }
+        case QEvent::DragLeave:
+            emit Hovers(false);
+            return true;
         case QEvent::DragMove:
             Answer(*static_cast<QDropEvent*>(event));
             return true;

@@ -29,12 +29,14 @@ public:
 
 signals:
     void Dropped(const Drop& drop);
+    // Something that would be taken has come over the window; it has left or been dropped.
+    void Hovers(bool isThere);
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    bool Answer(QDropEvent& event) const;
+    bool Answer(QDropEvent& event);
 
     std::function<bool()> isEmpty_;
     // What hovers over the window.

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <span>
 
+#include "app/core_words.h"
 #include "app/icon_set_captions.h"
 #include "app/written_text.h"
 #include "editing/export_commands.h"
@@ -69,10 +70,8 @@ public:
         written_.Count += files.Count;
         written_.Bytes += files.Bytes;
     }
-    void NoteFailed(IconSet set, const std::string& problem) {
-        failures_ +=
-            '\n' +
-            Words::tr("%1 was not written: %2").arg(NameOf(set), QString::fromStdString(problem));
+    void NoteFailed(IconSet set, const QString& problem) {
+        failures_ += '\n' + Words::tr("%1 was not written: %2").arg(NameOf(set), problem);
     }
     void NoteCancelled() { isCancelled_ = true; }
 
@@ -130,7 +129,8 @@ void AskExportSets(const WindowContext& context) {
             context.Commands.Run([set](Editor& exported) { NoteSetExported(exported, set); });
             summary.NoteWritten(FilesThere(*choice, set, source));
         } catch (const std::exception&) {
-            summary.NoteFailed(set, editing::Outcome(std::current_exception()).Problem());
+            summary.NoteFailed(
+                set, TranslatedText(editing::Outcome(std::current_exception()).Problem()));
         }
     }
     context.User.GoOn(count, count, {});

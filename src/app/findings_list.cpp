@@ -33,7 +33,7 @@ QString TextOf(const Finding& finding) {
             return (finding.Ground == filters::kLightGround
                         ? Words::tr("hard to see on white (contrast %1 : 1)")
                         : Words::tr("hard to see on dark (contrast %1 : 1)"))
-                .arg(std::floor(finding.Contrast * 10) / 10, 0, 'f', 1);
+                .arg(NumberLocale().toString(std::floor(finding.Contrast * 10) / 10, 'f', 1));
         case Fault::Fringe:
             return Words::tr("foreign colours along the edge");
         case Fault::Upscaled:

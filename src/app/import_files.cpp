@@ -1,6 +1,6 @@
 #include "app/import_files.h"
 
-#include <QLocale>
+#include <QStringList>
 #include <algorithm>
 
 #include "app/save_commands.h"
@@ -19,8 +19,7 @@ constexpr int kLongestAddress = 200;  // characters that are told
 
 // "1,000"
 QString Grouped(std::size_t number) {
-    return QLocale(QLocale::English, QLocale::UnitedStates)
-        .toString(static_cast<qulonglong>(number));
+    return NumberLocale().toString(static_cast<qulonglong>(number));
 }
 
 // No further import can succeed.

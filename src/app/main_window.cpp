@@ -11,6 +11,7 @@
 #include "app/ask_commands.h"
 #include "app/bottom_panel.h"
 #include "app/close_tips_tab.h"
+#include "app/core_words.h"
 #include "app/file_dialog.h"
 #include "app/import_files.h"
 #include "app/recent_files_menu.h"
@@ -39,6 +40,7 @@ MainWindow::MainWindow() {
     setObjectName("MainWindow");
     editor_.ExportSettings.LeavesScratchPictures = true;
     editor_.ExportSettings.AddsArtworkSizes = true;
+    editor_.OpensWhole = true;
     menu_ = std::make_unique<MainMenu>(*this, context_);
     (new RecentFilesMenu(context_, this))->Join(*findChild<QAction*>("OpenRecent"));
     bars_ = std::make_unique<ButtonBars>(context_);
@@ -110,8 +112,9 @@ bool MainWindow::RunDuringDrag(const editing::Command& step) {
 }
 
 Report MainWindow::ReportOf(const editing::Outcome& outcome) {
-    std::string said = std::exchange(message_, {});
-    return {outcome.Failed(), outcome.Failed() ? outcome.Problem() : std::move(said)};
+    const std::string said = std::exchange(message_, {});
+    return {outcome.Failed(),
+            TranslatedText(outcome.Failed() ? outcome.Problem() : said).toStdString()};
 }
 
 bool MainWindow::Tell(const Report& report) {

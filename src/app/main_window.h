@@ -24,10 +24,10 @@ namespace orbelle::app {
 class BottomPanel;
 class CloseTipsTab;
 struct Drop;
-class RecentFilesView;
 class RightPanel;
 class SceneView;
 class SizesPanel;
+class StartView;
 
 // Owns the editor, hands it the user's input and shows what it tells.
 class MainWindow : public QMainWindow,
@@ -138,6 +138,7 @@ private:
     QWidget* MakeScene();
     void ConnectScene();
     void AddPanels();
+    void AddStart();
     void AddShortcuts();
     bool IsInCommand() const;
     Report ReportOf(const editing::Outcome& outcome);
@@ -157,7 +158,7 @@ private:
     RunProgress progress_{*this};
     std::string message_;  // what the last command has to tell although it went well
     SceneView* scene_ = nullptr;
-    RecentFilesView* recentView_ = nullptr;
+    StartView* startView_ = nullptr;
     QScrollBar* horizontalScroll_ = nullptr;
     QScrollBar* verticalScroll_ = nullptr;
     QTimer zoomAnimation_;

@@ -10,6 +10,7 @@
 
 #include "app/bottom_panel.h"
 #include "app/color_dialog.h"
+#include "app/core_words.h"
 #include "app/file_dialog.h"
 #include "app/findings_list.h"
 #include "app/fit_dialog.h"
@@ -20,11 +21,11 @@
 #include "app/links.h"
 #include "app/message_boxes.h"
 #include "app/new_icon_dialog.h"
-#include "app/recent_files_view.h"
 #include "app/right_panel.h"
 #include "app/save_prompt.h"
 #include "app/scene_view.h"
 #include "app/sizes_panel.h"
+#include "app/start_view.h"
 #include "app/suggest_dialog.h"
 #include "app/svg_size_dialog.h"
 #include "app/system_clipboard.h"
@@ -79,13 +80,13 @@ void MainWindow::Changed(const editing::Changes& changes) {
 }
 
 bool MainWindow::IsAtRest() const {
-    return !IsZoomAnimationRunning() && sizesPanel_->IsAtRest();
+    return !IsZoomAnimationRunning() && sizesPanel_->IsAtRest() && startView_->IsAtRest();
 }
 
 void MainWindow::ShowScene() {
     if (editor_.DocumentExists) {
         welcome_->Stop();
-        recentView_->hide();
+        startView_->hide();
     }
     pointerStatus_->ShowZoom(editor_.DocumentExists ? editor_.View.Zoom : 0);
     pointerStatus_->Refresh(editor_);
@@ -137,8 +138,10 @@ void MainWindow::ToggleCheck() {
 }
 
 void MainWindow::ShowTitle() {
+    QString title = editor_.Document.Path.empty() ? TranslatedText(editor_.Title)
+                                                  : QString::fromStdString(editor_.Title);
     // Qt would take "[*]" in a file's name for its mark of a changed document.
-    setWindowTitle(QString::fromStdString(editor_.Title).replace("[*]", "[*][*]"));
+    setWindowTitle(title.replace("[*]", "[*][*]"));
 }
 
 void MainWindow::ShowMessage(const std::string& text) {

@@ -6,17 +6,19 @@
 #include <QHBoxLayout>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QStyle>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "app/ask_commands.h"
 #include "app/bottom_panel.h"
 #include "app/close_tips_tab.h"
 #include "app/drop_target.h"
-#include "app/recent_files_view.h"
 #include "app/right_panel.h"
 #include "app/scene_view.h"
 #include "app/shortcuts.h"
 #include "app/sizes_panel.h"
+#include "app/start_view.h"
 #include "editing/nudge.h"
 #include "editing/scene_input.h"
 #include "editing/tips.h"
@@ -26,8 +28,20 @@
 namespace orbelle::app {
 namespace {
 
-constexpr int kRightPanelWidth = 264;
-constexpr int kWheelStep = 120;  // of a wheel's notch
+constexpr int kRightPanelWidth = 264;  // at least
+constexpr int kWheelStep = 120;        // of a wheel's notch
+
+// Scrolls up and down, and is as wide as what is in it asks for, beside the scroll bar.
+class PanelScroller : public QScrollArea {
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (watched == widget() && event->type() == QEvent::LayoutRequest)
+            setFixedWidth(
+                std::max(kRightPanelWidth, widget()->minimumSizeHint().width() +
+                                               style()->pixelMetric(QStyle::PM_ScrollBarExtent)));
+        return QScrollArea::eventFilter(watched, event);
+    }
+};
 
 }  // namespace
 
@@ -53,7 +67,7 @@ void MainWindow::AddPanels() {
     middle->addWidget(sceneAndSizes, 1);
     rightPanel_ = new RightPanel(*this, *bars_->LayerBar);
     connect(rightPanel_, &RightPanel::KeysFree, this, &MainWindow::FocusScene);
-    auto* scroller = new QScrollArea;
+    auto* scroller = new PanelScroller;
     scroller->setObjectName("RightScroller");
     scroller->setWidget(rightPanel_);
     scroller->setWidgetResizable(true);
@@ -73,18 +87,29 @@ void MainWindow::AddPanels() {
     connect(tips_.get(), &TipBalloons::Placed, closeTips_,
             [this] { closeTips_->StepAsideFor(tips_->OpenBalloons()); });
     connect(tips_.get(), &TipBalloons::BalloonClicked, closeTips_, &CloseTipsTab::SlideUp);
-    recentView_ = new RecentFilesView(recent_, *scene_);
-    // Queued: the file that is opened may take the row away that was clicked.
+    AddStart();
+    welcome_ = std::make_unique<WelcomeSequence>(*scene_);
+    connect(welcome_.get(), &WelcomeSequence::Read, this,
+            [this] { tips_->Show({editing::tips::Welcome}); });
+    connect(welcome_.get(), &WelcomeSequence::Shown, startView_, &StartView::MakeRoomForWelcome);
+}
+
+// Queued: what is chosen may take the button away that was clicked.
+void MainWindow::AddStart() {
+    startView_ = new StartView(recent_, *scene_);
     connect(
-        recentView_, &RecentFilesView::Wanted, this,
+        startView_, &StartView::NewWanted, this, [this] { AskNew(context_); },
+        Qt::QueuedConnection);
+    connect(
+        startView_, &StartView::OpenWanted, this, [this] { AskOpen(context_); },
+        Qt::QueuedConnection);
+    connect(
+        startView_, &StartView::Wanted, this,
         [this](const std::filesystem::path& path) {
             FocusScene();
             OpenRecent(context_, path);
         },
         Qt::QueuedConnection);
-    welcome_ = std::make_unique<WelcomeSequence>(*scene_);
-    connect(welcome_.get(), &WelcomeSequence::Read, this,
-            [this] { tips_->Show({editing::tips::Welcome}); });
 }
 
 QWidget* MainWindow::MakeScene() {
@@ -156,6 +181,7 @@ void MainWindow::ConnectScene() {
     // Queued: the program that the files come from waits until the drop has been taken.
     auto* drops = new DropTarget(*this, [this] { return !editor_.DocumentExists; });
     connect(drops, &DropTarget::Dropped, this, &MainWindow::TakeDrop, Qt::QueuedConnection);
+    connect(drops, &DropTarget::Hovers, startView_, &StartView::ShowDrag);
     connect(horizontalScroll_, &QScrollBar::valueChanged, this, [this](int value) {
         RunDuringDrag([=](Editor& editor) { ScrollHorizontally(editor, value); });
     });

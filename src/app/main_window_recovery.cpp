@@ -2,6 +2,7 @@
 #include <QStatusBar>
 #include <cstdlib>
 
+#include "app/core_words.h"
 #include "app/main_window.h"
 #include "app/recovery_dialog.h"
 #include "editing/document_commands.h"
@@ -29,7 +30,7 @@ void MainWindow::StartRecovery() {
             this,
             [this, problem] {
                 ShowStatus(Words::tr("Unsaved work can't be kept safe: %1")
-                               .arg(QString::fromStdString(problem))
+                               .arg(TranslatedText(problem))
                                .toStdString());
             },
             Qt::QueuedConnection);

@@ -5,10 +5,10 @@
 
 #include "app/bottom_panel.h"
 #include "app/close_tips_tab.h"
-#include "app/recent_files_view.h"
 #include "app/right_panel.h"
 #include "app/scene_view.h"
 #include "app/sizes_panel.h"
+#include "app/start_view.h"
 #include "document/scene_painter.h"
 #include "editing/buttons.h"
 
@@ -127,12 +127,14 @@ std::vector<QRect> MainWindow::TipObstacles() const {
     std::vector<QRect> obstacles;
     // The scroll bars count more than a strip of the picture beside them.
     const std::initializer_list<const QWidget*> parts = {
-        bars_->ToolBox,  bars_->FillBar,    bars_->SelectionBar, bars_->EraserBar,
-        rightPanel_,     bottomPanel_,      sizesPanel_,         recentView_,
-        closeTips_,      horizontalScroll_, horizontalScroll_,   horizontalScroll_,
-        verticalScroll_, verticalScroll_,   verticalScroll_};
+        bars_->ToolBox,    bars_->FillBar,    bars_->SelectionBar, bars_->EraserBar,
+        rightPanel_,       bottomPanel_,      sizesPanel_,         closeTips_,
+        horizontalScroll_, horizontalScroll_, horizontalScroll_,   verticalScroll_,
+        verticalScroll_,   verticalScroll_};
     for (const QWidget* part : parts)
         obstacles.push_back(SeenPart(*part, central));
+    for (const QRect& place : startView_->Places())
+        obstacles.push_back(SeenPart(*startView_, place, central));
     // The whole row: a balloon has not much to do up there, where no button is.
     obstacles.emplace_back(0, 0, central.width(), bars_->MainBar->height());
     obstacles.push_back(

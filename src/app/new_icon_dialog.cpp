@@ -5,6 +5,7 @@
 #include <QLabel>
 #include <QVBoxLayout>
 
+#include "app/core_words.h"
 #include "app/message_boxes.h"
 #include "app/settings.h"
 #include "app/size_presets.h"
@@ -57,7 +58,7 @@ void NewIconDialog::accept() {
     pageHeight_->CommitTyping();
     for (widgets::NumberSlider* side : {pageWidth_, pageHeight_})
         if (side->Value() < 1 || side->Value() > document::kMaxPageSide) {
-            ShowPlainMessage(this, editing::kPageSizeMessage);
+            ShowPlainMessage(this, TranslatedText(editing::kPageSizeMessage).toStdString());
             side->FocusNumber();
             return;
         }

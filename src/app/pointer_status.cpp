@@ -54,12 +54,28 @@ QLabel* AddField(QStatusBar& line, const char* name, const QString& caption, con
     return field;
 }
 
+// A long one does not make the window wider; its end is left out where there is no room for it.
+class Hint : public QLabel {
+public:
+    Hint() {
+        setObjectName("ToolHint");
+        setContentsMargins(widgets::kSpace, 0, 0, 0);
+        setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    }
+
+    QSize minimumSizeHint() const override { return {0, QLabel::minimumSizeHint().height()}; }
+
+protected:
+    void paintEvent(QPaintEvent*) override {
+        QPainter painter(this);
+        const QRect room = contentsRect();
+        painter.drawText(room, Qt::AlignLeft | Qt::AlignVCenter,
+                         fontMetrics().elidedText(text(), Qt::ElideRight, room.width()));
+    }
+};
+
 QLabel* AddHint(QStatusBar& line) {
-    auto* hint = new QLabel;
-    hint->setObjectName("ToolHint");
-    hint->setContentsMargins(widgets::kSpace, 0, 0, 0);
-    // A long one must not make the window wider.
-    hint->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    auto* hint = new Hint;
     line.addWidget(hint, 1);
     return hint;
 }

@@ -7,7 +7,8 @@
 #include <QStyle>
 #include <QVBoxLayout>
 #include <algorithm>
-#include <cstdio>
+#include <charconv>
+#include <iterator>
 #include <optional>
 
 #include "app/shared_image.h"
@@ -77,9 +78,10 @@ std::optional<QColor> MeanColor(const graphics::Bitmap& picture) {
 
 // ".50", as layers are labelled.
 QString OpacityText(float opacity) {
-    char text[16];
-    std::snprintf(text, sizeof text, "%.2f", static_cast<double>(opacity));
-    return text[0] == '0' ? text + 1 : text;
+    char text[16] = "";
+    std::to_chars(text, std::end(text) - 1, static_cast<double>(opacity), std::chars_format::fixed,
+                  2);
+    return QString(text[0] == '0' ? text + 1 : text).replace('.', NumberLocale().decimalPoint());
 }
 
 }  // namespace

@@ -4,13 +4,15 @@
 #include <QString>
 #include <string_view>
 
+#include "app/core_words.h"
+
 namespace orbelle::app {
 
 // `alone` when there is no step, else `withStep` with the step in place of its %1.
 inline QString StepCaption(const QString& alone, const QString& withStep, std::string_view step) {
     if (step.empty())
         return alone;
-    return withStep.arg(QString::fromUtf8(step.data(), static_cast<qsizetype>(step.size())));
+    return withStep.arg(TranslatedText(step));
 }
 
 }  // namespace orbelle::app

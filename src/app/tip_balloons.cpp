@@ -1,5 +1,7 @@
 #include "app/tip_balloons.h"
 
+#include "app/core_words.h"
+
 namespace orbelle::app {
 namespace {
 
@@ -43,7 +45,7 @@ void TipBalloons::Show(const editing::TipRequest& request) {
     const auto set = [](Tip& tip, const std::optional<editing::Tip>& chosen) {
         if (!chosen)
             return;
-        tip.Balloon->SetText(QString::fromStdString(chosen->Text));
+        tip.Balloon->SetText(TranslatedText(chosen->Text));
         tip.Place = chosen->Place;
     };
     set(first_, choice.FirstBalloon);

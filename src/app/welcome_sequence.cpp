@@ -21,11 +21,15 @@ void WelcomeSequence::Start() {
     strength_ = 0;
     step_ = kStep;
     fading_.start();
+    emit Shown(true);
 }
 
 void WelcomeSequence::Stop() {
+    if (!fading_.isActive())
+        return;
     fading_.stop();
     scene_.ShowWelcome(-1);
+    emit Shown(false);
 }
 
 void WelcomeSequence::Tick() {

@@ -18,6 +18,7 @@ public:
     void Stop();  // the text is gone
 
 signals:
+    void Shown(bool isThere);
     // The text has stood long enough; it begins to fade.
     void Read();
 

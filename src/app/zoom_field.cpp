@@ -1,5 +1,6 @@
 #include "app/zoom_field.h"
 
+#include <QAbstractItemView>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QPainter>
@@ -7,6 +8,7 @@
 #include <QStyle>
 #include <QStyleOptionComboBox>
 #include <QWheelEvent>
+#include <algorithm>
 #include <cmath>
 
 #include "widgets/theme.h"
@@ -73,6 +75,15 @@ void ZoomField::ShowText() {
 
 QSize ZoomField::sizeHint() const {
     return {kWidth, widgets::kControlHeight};
+}
+
+// The list is as wide as its words, whatever the field is.
+void ZoomField::showPopup() {
+    int width = 0;
+    for (int entry = 0; entry < count(); ++entry)
+        width = std::max(width, fontMetrics().horizontalAdvance(itemText(entry)));
+    view()->setMinimumWidth(width + 2 * widgets::kWideSpace);
+    QComboBox::showPopup();
 }
 
 void ZoomField::Choose(int entry) {

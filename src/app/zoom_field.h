@@ -16,6 +16,7 @@ public:
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override { return sizeHint(); }
+    void showPopup() override;
 
 signals:
     void ZoomWanted(double zoom);

@@ -59,7 +59,7 @@ void DrawPageShadow(Bitmap& scene, Argb ground, const RectI& page) {
     };
     for (int y = fromY; y < toY; ++y) {
         Argb* row = scene.MutableRow(y);
-        const int begin = y < bottom ? std::max(right, fromX) : fromX;
+        const int begin = y < bottom ? std::clamp(right, fromX, toX) : fromX;
         if (isLikeLast(down, y - fromY) && y != bottom) {
             std::copy(scene.Row(y - 1) + begin, scene.Row(y - 1) + toX, row + begin);
             continue;

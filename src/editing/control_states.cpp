@@ -69,7 +69,7 @@ private:
     }
 
     void EnableViewCommands() {
-        const double zoom = editor_.View.Zoom;
+        const double zoom = editor_.Zoom.IsAnimated ? editor_.Zoom.Target : editor_.View.Zoom;
         Enable({CommandId::ChooseTool, CommandId::Mirror, CommandId::OriginalSize,
                 CommandId::FitWhole, CommandId::PageBackground},
                editor_.DocumentExists);

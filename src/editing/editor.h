@@ -31,7 +31,8 @@ struct Editor : EditorState {
     // The host's wishes.
     document::SceneLooks Looks;
     bool AnimatesZoom = true;
-    double OpeningZoom = 1;  // 1 or more
+    double OpeningZoom = 1;   // 1 or more
+    bool OpensWhole = false;  // a page that fits comes at the largest whole zoom that shows it
 
     // Kept by Run.
     ControlStates States;

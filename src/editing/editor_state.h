@@ -36,8 +36,9 @@ struct ZoomState {
     // Of the master while the page of a size is in force.
     std::optional<document::View> MasterView;
 
-    double Target = 1;        // of the animation
-    bool IsAnimated = false;  // TickZoomAnimation is to be run until this is false
+    double Target = 1;          // of the animation
+    bool IsAnimated = false;    // TickZoomAnimation is to be run until this is false
+    bool FollowsScene = false;  // neither zoomed nor scrolled since the page came (FollowScene)
 };
 
 // What a command that fails leaves as it was; the undo history, too. A copy costs a pointer a

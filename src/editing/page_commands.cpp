@@ -77,7 +77,8 @@ void ReleasePageSize(Editor& editor) {
     if (!drag)
         return;
     document::Page& page = editor.Page();
-    if (!HasSizeOf(page, *drag)) {
+    const bool changes = !HasSizeOf(page, *drag);
+    if (changes) {
         // The step to undo holds the size before the drag.
         const int width = std::exchange(page.Width, drag->Width);
         const int height = std::exchange(page.Height, drag->Height);
@@ -86,6 +87,8 @@ void ReleasePageSize(Editor& editor) {
         page.Height = height;
     }
     editor.Drag = {};
+    if (changes)
+        FollowScene(editor);
 }
 
 void TakeBackPageSize(Editor& editor, const PageSizeDrag& drag) {
@@ -116,6 +119,7 @@ void FollowPageSize(Editor& editor) {
     ShowSizeOfPage(editor);
     editor.Zoom.PageSizeChanged = true;
     FitScrollBars(editor);
+    FollowScene(editor);
     editor.Selection.KeepOnPage(page.Width, page.Height);
     editor.Changed.Pixels = true;
 }

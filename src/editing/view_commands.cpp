@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "graphics/geometry.h"
 
@@ -30,7 +31,7 @@ void CentrePage(Editor& editor) {
     FitScrollBars(editor);
 }
 
-void ZoomTo(Editor& editor, double zoom) {
+void SetZoom(Editor& editor, double zoom) {
     // Steps of a fifth must not drift.
     constexpr double kExact = 1000;
     editor.View.Zoom =
@@ -39,9 +40,22 @@ void ZoomTo(Editor& editor, double zoom) {
     editor.Changed.Scene = true;
 }
 
+// What the user does meets the page as it is to be seen, not on its way there.
+void EndAnimation(Editor& editor) {
+    if (std::exchange(editor.Zoom.IsAnimated, false))
+        SetZoom(editor, editor.Zoom.Target);
+}
+
+// By the user.
+void ZoomTo(Editor& editor, double zoom) {
+    editor.Zoom.FollowsScene = false;
+    SetZoom(editor, zoom);
+}
+
 void Scroll(Editor& editor, ScrollBar& bar, int value) {
     if (!bar.Visible)
         return;
+    editor.Zoom.FollowsScene = false;
     bar.Value = std::clamp(value, 0, bar.Max);
     editor.Changed.Scene = true;
 }
@@ -60,6 +74,7 @@ void ZoomAt(Editor& editor, double x, double y, const ZoomStep& zoomStep) {
     document::View& view = editor.View;
     if (!editor.DocumentExists)
         return;
+    EndAnimation(editor);
     const document::Page& page = editor.Page();
     const double pageX = (x - document::PageOffsetX(page, view)) / view.Zoom;
     const double pageY = (y - document::PageOffsetY(page, view)) / view.Zoom;
@@ -80,6 +95,13 @@ double FitZoom(const Editor& editor) {
     const double zoom = FillingZoom(editor.View.SceneWidth, editor.View.SceneHeight, editor.Page());
     return std::clamp(zoom >= 1 ? std::floor(zoom) : document::RoundToTenth(zoom),
                       editor.Zoom.Minimum, editor.Zoom.Maximum);
+}
+
+// Of a page that has come.
+double FirstZoom(const Editor& editor) {
+    const document::View& view = editor.View;
+    const double whole = WholeFitZoom(view.SceneWidth, view.SceneHeight, editor.Page());
+    return editor.OpensWhole && whole >= 1 ? whole : editor.OpeningZoom;
 }
 
 void EnterOriginalSize(Editor& editor) {
@@ -113,7 +135,20 @@ void ResizeScene(Editor& editor, int width, int height) {
     editor.View.SceneWidth = width;
     editor.View.SceneHeight = height;
     FitScrollBars(editor);
+    FollowScene(editor);
     editor.Changed.Scene = true;
+}
+
+void FollowScene(Editor& editor) {
+    ZoomState& zoom = editor.Zoom;
+    if (!zoom.FollowsScene || !std::holds_alternative<std::monostate>(editor.Drag))
+        return;
+    zoom.Target = FirstZoom(editor);
+    const double shown = editor.View.Zoom;
+    if (zoom.IsAnimated ? shown < zoom.Target : shown == zoom.Target)
+        return;
+    zoom.IsAnimated = false;
+    SetZoom(editor, zoom.Target);
 }
 
 void FitScrollBars(Editor& editor) {
@@ -133,6 +168,7 @@ void ScrollVertically(Editor& editor, int value) {
 void ZoomIn(Editor& editor) {
     if (!editor.States.IsEnabled(CommandId::ZoomIn))
         return;
+    EndAnimation(editor);
     editor.Zoom.IsOriginalSize = false;
     const double zoom = editor.View.Zoom;
     ZoomTo(editor, zoom + (zoom < 1 ? 0.2 : 2));
@@ -141,6 +177,7 @@ void ZoomIn(Editor& editor) {
 void ZoomOut(Editor& editor) {
     if (!editor.States.IsEnabled(CommandId::ZoomOut))
         return;
+    EndAnimation(editor);
     editor.Zoom.IsOriginalSize = false;
     const double zoom = editor.View.Zoom;
     const double next = zoom - (zoom >= 2 ? 2 : 0.2);
@@ -150,6 +187,7 @@ void ZoomOut(Editor& editor) {
 void OriginalSize(Editor& editor) {
     if (!editor.DocumentExists)
         return;
+    EndAnimation(editor);
     editor.Zoom.IsOriginalSize = !editor.Zoom.IsOriginalSize;
     if (editor.Zoom.IsOriginalSize)
         EnterOriginalSize(editor);
@@ -168,6 +206,7 @@ double WholeFitZoom(int sceneWidth, int sceneHeight, const document::Page& page)
 void FitWhole(Editor& editor) {
     if (!editor.DocumentExists)
         return;
+    EndAnimation(editor);
     editor.Zoom.IsOriginalSize = false;
     ZoomTo(editor, WholeFitZoom(editor.View.SceneWidth, editor.View.SceneHeight, editor.Page()));
 }
@@ -189,17 +228,20 @@ void ZoomAboutMiddle(Editor& editor, double zoom) {
 }
 
 void StartZoomIn(Editor& editor) {
-    editor.Zoom.Target = editor.OpeningZoom;
+    editor.Zoom.Target = FirstZoom(editor);
     editor.Zoom.IsAnimated = editor.AnimatesZoom;
     editor.Zoom.IsOriginalSize = false;
-    ZoomTo(editor, editor.AnimatesZoom ? editor.Zoom.Minimum : editor.Zoom.Target);
+    editor.Zoom.FollowsScene = editor.OpensWhole;
+    SetZoom(editor, editor.AnimatesZoom ? editor.Zoom.Minimum : editor.Zoom.Target);
 }
 
 void TickZoomAnimation(Editor& editor) {
     constexpr int kTicks = 4;
     const ZoomState& zoom = editor.Zoom;
+    if (!zoom.IsAnimated)
+        return;
     const double step = (zoom.Target - zoom.Minimum) / kTicks;
-    ZoomTo(editor, std::min(editor.View.Zoom + step, zoom.Target));
+    SetZoom(editor, std::min(editor.View.Zoom + step, zoom.Target));
     editor.Zoom.IsAnimated = editor.View.Zoom < zoom.Target;
 }
 

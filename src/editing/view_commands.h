@@ -6,8 +6,12 @@
 namespace orbelle::editing {
 
 // The scene has a new size in scene pixels (each at least 1). The page stays scrolled as far as
-// before.
+// before, and one that nobody has zoomed yet as large as it fits.
 void ResizeScene(Editor& editor, int width, int height);
+
+// The page's size or the scene's has changed: to the zoom at which the page would come now, unless
+// the user has zoomed or scrolled since it came. During a drag nothing moves.
+void FollowScene(Editor& editor);
 
 // The bars as the page's size asks for, scrolled as far as before; one of a page that fits is
 // hidden and in its middle.
@@ -42,11 +46,12 @@ void ZoomOutAt(Editor& editor, float x, float y);
 // scrolling in tenths allows.
 void ZoomAboutMiddle(Editor& editor, double zoom);
 
-// A page has come: it is seen at the opening zoom. Sets the least zoom and begins the animation up
-// to that, unless the host wants none.
+// A page has come: it is seen at the opening zoom, or, if the host wants that and the whole page
+// can be seen at zoom 1, at the largest whole zoom that shows it. Sets the least zoom and begins
+// the animation up to that, unless the host wants none.
 void StartZoomIn(Editor& editor);
 
-// One of the zoom animation's four ticks.
+// One of the zoom animation's four ticks; nothing when it is over.
 void TickZoomAnimation(Editor& editor);
 
 }  // namespace orbelle::editing

@@ -14,12 +14,13 @@ namespace orbelle::formats {
 // How many pixels a document that is being read may still have.
 class PixelAllowance {
 public:
+    explicit PixelAllowance(std::int64_t pixels = kMaxDocumentPixels) : left_(pixels) {}
     // Throws Error when there are not so many.
     void Take(std::int64_t pixels);
     std::int64_t Left() const { return left_; }
 
 private:
-    std::int64_t left_ = kMaxDocumentPixels;
+    std::int64_t left_;
 };
 
 struct LayersRead {

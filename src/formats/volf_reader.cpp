@@ -22,7 +22,7 @@ constexpr std::size_t kMaxToldProblems = 3;
 
 class Reader {
 public:
-    explicit Reader(const ByteSource& file) : file_(file) {}
+    Reader(const ByteSource& file, std::int64_t maxPixels) : file_(file), allowance_(maxPixels) {}
 
     LoadedDocument Read();
 
@@ -118,14 +118,14 @@ bool IsDocument(const ByteSource& file) {
            std::equal(start.begin(), start.end(), kVolfMagic.begin());
 }
 
-LoadedDocument DecodeDocument(const ByteSource& file) {
-    return Reader(file).Read();
+LoadedDocument DecodeDocument(const ByteSource& file, std::int64_t maxPixels) {
+    return Reader(file, maxPixels).Read();
 }
 
-LoadedDocument LoadDocument(const std::filesystem::path& path) {
+LoadedDocument LoadDocument(const std::filesystem::path& path, std::int64_t maxPixels) {
     const graphics::FileSource file(path);
     try {
-        LoadedDocument loaded = DecodeDocument(file);
+        LoadedDocument loaded = DecodeDocument(file, maxPixels);
         file.RequireWasRead();
         if (!loaded.Damage.empty())
             loaded.Damage = graphics::FileError(path, loaded.Damage).what();

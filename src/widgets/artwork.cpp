@@ -37,14 +37,14 @@ bool FollowsTheme(const QString& name) {
 
 // Small drawings have whole pixels for strokes; what falls between two pixels at some ratio has a
 // drawing of its own for that number of device pixels ("layers/add-24").
-QByteArray Drawing(const QString& name, int pixels) {
+QByteArray Drawing(const QString& name, int pixels, Shade shade) {
     QFile file(QString(":/%1-%2.svg").arg(name).arg(pixels));
     if (!file.exists())
         file.setFileName(":/" + name + ".svg");
     if (!file.open(QIODevice::ReadOnly))
         return {};
     QByteArray drawing = file.readAll();
-    if (FollowsTheme(name) && CurrentShade() == Shade::Dark)
+    if (FollowsTheme(name) && shade == Shade::Dark)
         for (const auto& [light, dark] : kDarkColors)
             drawing.replace(light, dark);
     return drawing;
@@ -76,9 +76,13 @@ private:
 }  // namespace
 
 QPixmap Artwork(const QString& name, const QSize& size, qreal devicePixelRatio) {
+    return Artwork(name, size, devicePixelRatio, CurrentShade());
+}
+
+QPixmap Artwork(const QString& name, const QSize& size, qreal devicePixelRatio, Shade shade) {
     LoadResources();
     const QSize pixels = size * devicePixelRatio;
-    QSvgRenderer drawing(Drawing(name, pixels.width()));
+    QSvgRenderer drawing(Drawing(name, pixels.width(), shade));
     if (!drawing.isValid())
         return {};
     QPixmap pixmap(pixels);

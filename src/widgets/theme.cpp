@@ -77,7 +77,27 @@ QColor DisabledColor() {
 }
 
 QColor SceneColor() {
-    return CurrentShade() == Shade::Dark ? QColor(35, 37, 40) : QColor(74, 77, 82);
+    return CurrentShade() == Shade::Dark ? QColor(56, 59, 64) : QColor(74, 77, 82);
+}
+
+Theme SceneTheme() {
+    const QColor scene = SceneColor();
+    return {
+        .Ground = scene,
+        .Field = Mixed(scene, kDark.Text, 0.07),
+        .Line = QColor(157, 162, 169),
+        .Text = QColor(240, 242, 244),
+        .Note = QColor(203, 207, 213),
+        .Accent = kDark.Accent,
+    };
+}
+
+QColor SceneHoverColor() {
+    return Mixed(SceneColor(), kDark.Text, 0.13);
+}
+
+QColor ScenePressedColor() {
+    return Mixed(SceneColor(), kDark.Text, 0.18);
 }
 
 bool IsMotionWanted() {

@@ -37,7 +37,12 @@ QColor HoverColor();     // a face below the pointer
 QColor PressedColor();   // a face that is down, a row that is chosen
 QColor DisabledColor();  // words and lines of what can't be used
 
-QColor SceneColor();  // around the page
+QColor SceneColor();  // around the page, dark in both shades
+
+// The six for what stands on the scene itself, and its faces below the pointer and down.
+Theme SceneTheme();
+QColor SceneHoverColor();
+QColor ScenePressedColor();
 
 // Whether the desktop lets things move by themselves.
 bool IsMotionWanted();

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QCoreApplication>
+#include <QLocale>
 
 namespace orbelle {
 
@@ -10,5 +11,10 @@ namespace orbelle {
 class Words {
     Q_DECLARE_TR_FUNCTIONS(Words)
 };
+
+// As these texts write numbers, whatever the user's own locale is.
+inline QLocale NumberLocale() {
+    return QLocale(Words::tr("en_US", "the locale that numbers in these texts are written for"));
+}
 
 }  // namespace orbelle

@@ -18,7 +18,7 @@ home=$(mktemp -d)
 trap 'kill $(jobs -p) 2>/dev/null; wait; rm -rf "$home"' EXIT
 mkdir -m 700 "$home/run"
 export HOME=$home XDG_CONFIG_HOME=$home XDG_CACHE_HOME=$home XDG_STATE_HOME=$home XDG_DATA_HOME=$home
-export XDG_RUNTIME_DIR=$home/run QT_QPA_PLATFORM=xcb QT_LINUX_ACCESSIBILITY_ALWAYS_ON=1
+export XDG_RUNTIME_DIR=$home/run QT_QPA_PLATFORM=xcb QT_LINUX_ACCESSIBILITY_ALWAYS_ON=1 LANGUAGE=en
 Xvfb -displayfd 3 -screen 0 1280x900x24 -nolisten tcp 3>"$home/display" 2>/dev/null &
 until [[ -s $home/display ]]; do sleep 0.05; done
 DISPLAY=:$(cat "$home/display")

@@ -30,6 +30,7 @@ TEST_F(BeginnersPathTest, GoesFromTheFirstStartToAnExportedIcon) {
     ASSERT_TRUE(FocusWindow("^New Icon"));
     Press({"Return"});
     ASSERT_TRUE(FocusMain());
+    Press({"ctrl+0"});
     const QRgb empty = At(page + QPoint(20, 20));
 
     Press({"b"});

@@ -13,8 +13,8 @@ namespace {
 using orbelle::testing::WaitUntil;
 
 constexpr QRgb kOther = 0xFF20C060, kThird = 0xFFC0A020;
-constexpr QSize kOtherSize{100, 80};
-constexpr int kWholeOther = 100 * 80;
+constexpr QSize kOtherSize{300, 280};
+constexpr int kWholeOther = 300 * 280;
 
 class KeptWorkTest : public RealWindowTest {
 protected:
@@ -226,6 +226,7 @@ TEST_F(KeptWorkTest, AHandOverWaitsForDialogsMenusAndDrags) {
     ASSERT_TRUE(AnswerBox("^Save Icon Document", "Escape"));
     ASSERT_TRUE(FocusWindow("^Save Icon Document")) << "the other one's";
     Press({"alt+n"});
+    MoveTo({0, 0});
     EXPECT_TRUE(showsThird());
     EXPECT_FALSE(IsAsked());
     ASSERT_TRUE(FocusMain());

@@ -33,6 +33,13 @@ TEST(ThemeTest, WordsAndLinesAreSeenWellOnBothGrounds) {
             EXPECT_GE(Contrast(theme.Note, face), kOfWords);
             EXPECT_GE(Contrast(theme.Accent, face), kOfLines);
         }
+        const widgets::Theme scene = widgets::SceneTheme();
+        for (const QColor& ground :
+             {scene.Ground, scene.Field, widgets::SceneHoverColor(), widgets::ScenePressedColor()})
+            EXPECT_GE(Contrast(scene.Text, ground), kOfWords);
+        EXPECT_GE(Contrast(scene.Note, scene.Ground), kOfWords);
+        EXPECT_GE(Contrast(scene.Line, scene.Ground), kOfLines);
+        EXPECT_GE(Contrast(scene.Accent, scene.Ground), kOfLines);
     }
     widgets::SetShade(Shade::Light);
 }

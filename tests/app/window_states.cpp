@@ -1,9 +1,11 @@
 #include "window_states.h"
 
 #include <QApplication>
+#include <QDragEnterEvent>
 #include <QMenu>
 #include <QMenuBar>
 #include <QMessageBox>
+#include <QMimeData>
 #include <QProgressDialog>
 #include <QPushButton>
 #include <QRegularExpression>
@@ -19,6 +21,7 @@
 #include "app/main_window.h"
 #include "app/message_boxes.h"
 #include "app/new_icon_dialog.h"
+#include "app/recent_files.h"
 #include "app/recovery_dialog.h"
 #include "app/right_panel.h"
 #include "app/run_progress.h"
@@ -34,6 +37,7 @@
 #include "editing/size_commands.h"
 #include "editing/tool_palette.h"
 #include "editing/view_commands.h"
+#include "filters/shrink_to_size.h"
 #include "formats/export_icon.h"
 #include "formats/icon_reader.h"
 #include "formats/journal_file.h"
@@ -97,10 +101,35 @@ private:
         const QDeadlineTimer fade(kFadeMilliseconds);
         WaitUntil([&] { return fade.hasExpired(); });
         LookAtWindow("first-start");
+        LookAtRecentFiles();
         OpenSample("ok-badge.volf");
         LookAtWindow("tips");
         window_->SetTipsEnabled(false);
         window_->StoreSettings();
+    }
+
+    void LookAtRecentFiles() {
+        RecentFiles files;
+        files.Restore();
+        for (const char* name :
+             {"glass-folder.volf", "ok-badge.volf", "envelope.volf", "none.volf"})
+            files.Note((samples_ + '/' + name).toStdString());
+        MakeWindow(kUsualSize);
+        LookAtWindow("empty-recent");
+        window_->findChild<QWidget*>("StartOpen")->setFocus();
+        QMimeData dragged;
+        dragged.setUrls({QUrl::fromLocalFile(samples_ + "/envelope.volf")});
+        QDragEnterEvent enter({9, 9}, Qt::CopyAction, &dragged, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(window_.get(), &enter);
+        LookAtWindow("empty-drag");
+        QDragLeaveEvent leave;
+        QApplication::sendEvent(window_.get(), &leave);
+        for (const QSize& size : {QSize(800, 560), window_->minimumSizeHint()}) {
+            window_->resize(size);
+            LookAtWindow(QString("empty-%1").arg(size.height()));
+        }
+        window_->resize(kUsualSize);
+        files.Clear();
     }
 
     void LookAtDocuments() {
@@ -130,8 +159,11 @@ private:
             LookAtWindow((wasClosed ? "open-" : "closed-") + header->text());
             header->click();
         }
-        for (const int side : {16, 64, 512}) {
-            window_->Run([side](editing::Editor& editor) { NewDocument(editor, side, side); });
+        const graphics::Bitmap picture = window_->Editor().Canvas;
+        for (const int side : {16, 64, 256, 512}) {
+            window_->Run([&](editing::Editor& editor) {
+                OpenPicture(editor, filters::ScaleToSize(picture, side));
+            });
             LookAtWindow(QString("page-%1").arg(side));
         }
         OpenSample("envelope.volf");

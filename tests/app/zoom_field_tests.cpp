@@ -47,6 +47,7 @@ TEST_F(ZoomFieldTest, TakesWhatIsTyped) {
 }
 
 TEST_F(ZoomFieldTest, KeepsWhatIsTypedUntilItCountsOrIsGivenUp) {
+    window.Run(editing::OriginalSize);
     Type("400");
     window.Run(editing::ZoomIn);
     EXPECT_EQ(Field().currentText(), "400");

@@ -35,7 +35,6 @@ TEST_F(RunTest, WhatIsToldIsWhatChanged) {
         {PressHideLayer, "pixels scene stack controls "},
         {[](Editor& e) { SetPageBackground(e, kBlue); }, "pixels stack controls "},
         {[](Editor& e) { NewDocument(e, 3, 3); }, "pixels scene stack controls title "},
-        {TickZoomAnimation, "scene controls "},
         {TickZoomAnimation, "scene "},
         {[](Editor& e) { ClickToolButton(e, 5); }, "scene controls "},
         {[this](Editor& e) { MoveScene(e, OnPage(1, 1)); }, "overlays "},

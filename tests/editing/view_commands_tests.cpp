@@ -2,6 +2,7 @@
 
 #include "editing/buttons.h"
 #include "editing/page_commands.h"
+#include "editing/undo_commands.h"
 #include "editing_fixture.h"
 
 namespace orbelle::editing {
@@ -183,6 +184,53 @@ TEST_F(ViewCommands, APageOpensAtTheZoomThatTheHostWants) {
     Do(OpenPicture, graphics::Bitmap(64, 64), "");
     EXPECT_FALSE(editor.Zoom.IsAnimated);
     EXPECT_EQ(editor.View.Zoom, 2);
+}
+
+TEST_F(ViewCommands, ASmallPageComesAsLargeAsItFitsAndStaysSoUntilTheUserZooms) {
+    Do(ResizeScene, 500, 300);
+    editor.OpensWhole = true;
+    editor.OpeningZoom = 2;
+    Do(NewDocument, 64, 64);
+    EXPECT_THAT(Series(TickZoomAnimation, 4), ElementsAre(1.2, 2.1, 3.1, 4)) << "of 296 / 64";
+    EXPECT_FALSE(editor.Zoom.IsAnimated);
+    const auto zoomAt = [&](int width, int height) {
+        Do(ResizeScene, width, height);
+        return editor.View.Zoom;
+    };
+    EXPECT_EQ(zoomAt(500, 200), 3) << "of 196 / 64";
+    EXPECT_EQ(zoomAt(2000, 2000), 20);
+    EXPECT_EQ(zoomAt(100, 68), 1);
+    EXPECT_EQ(zoomAt(100, 67), 2) << "the whole page can't be seen: as ever";
+    EXPECT_TRUE(editor.View.HorizontalScroll.Visible);
+    EXPECT_EQ(zoomAt(500, 300), 4);
+    EXPECT_FALSE(editor.View.HorizontalScroll.Visible);
+    Do(SetPageSize, 200, 64);
+    EXPECT_EQ(editor.View.Zoom, 2) << "of 496 / 200";
+    Do(Undo);
+    EXPECT_EQ(editor.View.Zoom, 4);
+    Do(PressPageSize);
+    Step(ResizeScene, 300, 200);
+    EXPECT_EQ(editor.View.Zoom, 4) << "nothing moves below a drag";
+    Step(ReleasePageSize);
+    Do(ZoomOut);
+    EXPECT_EQ(zoomAt(500, 300), 2) << "the user's";
+
+    Do(NewDocument, 256, 256);
+    EXPECT_EQ(zoomAt(1100, 1000), 0.2) << "still coming";
+    EXPECT_THAT(Series(TickZoomAnimation, 4), ElementsAre(0.9, 1.6, 2.3, 3));
+    for (const auto& [command, zoom] : {std::pair(&ZoomIn, 5), {&ZoomOut, 1}, {&OriginalSize, 1}}) {
+        Do(NewDocument, 256, 256);
+        Do(command);
+        Do(TickZoomAnimation);
+        EXPECT_EQ(editor.View.Zoom, zoom) << "as if it had come";
+    }
+    Do(NewDocument, 300, 300);
+    Do(TickZoomAnimation);
+    EXPECT_EQ(zoomAt(200, 100), 0.9) << "less than 2 still";
+    Do(TickZoomAnimation);
+    Do(TickZoomAnimation);
+    Do(ScrollVertically, 0);
+    EXPECT_EQ(zoomAt(2000, 2000), 1.8) << "scrolled";
 }
 
 TEST_F(ViewCommands, FitWholeTakesTheLargestWholeStepThatShowsThePage) {

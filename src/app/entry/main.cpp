@@ -14,6 +14,7 @@
 #include "app/ending_signals.h"
 #include "app/file_dialog.h"
 #include "app/hand_over_queue.h"
+#include "app/language.h"
 #include "app/looks.h"
 #include "app/main_window.h"
 #include "app/single_instance.h"
@@ -67,6 +68,7 @@ int main(int argc, char** argv) {
     QApplication::setApplicationName("orbelle");
     QApplication::setApplicationVersion(ORBELLE_VERSION);
     QApplication::setDesktopFileName("orbelle");
+    const Language language;
     ApplyLooks(StoredLooks());
     QIcon icon;
     for (const int size : {16, 24, 32, 48, 64, 128, 256})

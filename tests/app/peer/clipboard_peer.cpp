@@ -1,7 +1,8 @@
 // Another program on the same display, to exchange pictures with:
 //   clipboard_peer take FILE    writes the clipboard's picture, prints the clipboard's text
 //   clipboard_peer offer FILE   puts the picture there, prints "ready" and stays
-//   clipboard_peer drag FILE    shows a window, prints "ready"; a press on it drags the file away
+//   clipboard_peer drag FILE    shows a window, prints "ready"; a press on it drags the file away,
+//                               and prints "accepted" as soon as a window would take it
 #include <QClipboard>
 #include <QDrag>
 #include <QGuiApplication>
@@ -32,6 +33,10 @@ protected:
         data->setUrls({QUrl::fromLocalFile(file_)});
         auto* drag = new QDrag(this);
         drag->setMimeData(data);
+        connect(drag, &QDrag::actionChanged, [](Qt::DropAction action) {
+            if (action != Qt::IgnoreAction)
+                std::cout << "accepted" << std::endl;
+        });
         drag->exec(Qt::CopyAction | Qt::MoveAction | Qt::LinkAction, Qt::MoveAction);
     }
 
