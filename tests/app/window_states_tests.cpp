@@ -19,6 +19,7 @@
 #include <set>
 
 #include "app/language.h"
+#include "app/scene_view.h"
 #include "app/settings.h"
 #include "drawn_text.h"
 #include "widgets/accessible_parts.h"
@@ -72,10 +73,10 @@ bool Overlap(const QWidget& first, const QWidget& second) {
            first.geometry().intersects(second.geometry());
 }
 
-// Words that a control paints by itself, below what stands on it. A recorded painter has no
-// direction from right to left.
+// Words that a control paints by itself, below what stands on it; those of the scene shine through
+// what can be begun. A recorded painter has no direction from right to left.
 bool IsCovered(QWidget& widget) {
-    if (widget.isRightToLeft())
+    if (widget.isRightToLeft() || qobject_cast<SceneView*>(&widget))
         return false;
     const std::vector<testing::DrawnText> texts = testing::TextsOf(widget);
     return std::ranges::any_of(widget.children(), [&](const QObject* child) {
