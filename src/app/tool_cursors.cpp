@@ -12,8 +12,14 @@ namespace {
 constexpr QPoint kMoveSpot(16, 16), kLineSpot(16, 16), kPickSpot(2, 29), kEraseSpot(10, 27);
 
 QCursor Drawn(const char* artwork, QPoint hotSpot) {
-    return QCursor(widgets::Artwork(artwork, {32, 32}, qGuiApp->devicePixelRatio()), hotSpot.x(),
-                   hotSpot.y());
+    const qreal ratio = qGuiApp->devicePixelRatio();
+    QPixmap pointer = widgets::Artwork(artwork, {32, 32}, ratio);
+    // X11 takes the pointer's pixels as they are, and would take the hot spot for one of them.
+    if (QGuiApplication::platformName() == "xcb") {
+        pointer.setDevicePixelRatio(1);
+        hotSpot *= ratio;
+    }
+    return QCursor(pointer, hotSpot.x(), hotSpot.y());
 }
 
 }  // namespace

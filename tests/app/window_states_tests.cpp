@@ -19,6 +19,7 @@
 #include <set>
 
 #include "app/language.h"
+#include "app/scene_view.h"
 #include "app/settings.h"
 #include "drawn_text.h"
 #include "widgets/accessible_parts.h"
@@ -141,6 +142,12 @@ TEST_P(DirectionTest, NoWordIsCutAndNothingOverlaps) {
         ExpectRoomForAll(name, shown);
     });
     EXPECT_GT(states, 40);
+}
+
+TEST_F(WindowStatesTest, NothingOverlapsWhereWordsGoFromRightToLeft) {
+    QApplication::setLayoutDirection(Qt::RightToLeft);
+    ForEachWindowState(ORBELLE_SAMPLES, ExpectRoomForAll);
+    QApplication::setLayoutDirection(Qt::LeftToRight);
 }
 
 // Of our texts; the toolkit's own need not be installed.
