@@ -135,7 +135,8 @@ void StartView::Place() {
     const int tiles = middle + kMiddle.height() + kWideSpace;
     if (top >= kSpace && tiles + TilesHeight() + kSpace <= height() &&
         width() >= kMiddle.width() + 2 * kSpace) {
-        PlaceButtons(top, true);
+        // Together as wide as the place below them.
+        PlaceButtons(top, std::max(ButtonWidth(), (kMiddle.width() - kWideSpace) / 2), true);
         hint_->setGeometry(QRect(QPoint((width() - kMiddle.width()) / 2, middle), kMiddle));
         hint_->SetShown(!isWelcome_, true);
         hint_->show();
@@ -156,7 +157,7 @@ void StartView::PlaceClosely() {
     const int all = start + kWideSpace + TilesHeight();
     const bool hasTiles = all + 2 * kSpace <= height();
     const int top = std::max((height() - (hasTiles ? all : start)) / 2, 0);
-    PlaceButtons(top, !isWelcome_);
+    PlaceButtons(top, std::min(ButtonWidth(), width()), !isWelcome_);
     hint_->setGeometry((width() - hint.width()) / 2, top + buttons + kSpace, hint.width(),
                        hint.height());
     hint_->setVisible(hasHint);
@@ -177,8 +178,8 @@ int StartView::ButtonsHeight() const {
     return AreButtonsStacked() ? 2 * height + kSpace : height;
 }
 
-void StartView::PlaceButtons(int top, bool areShown) {
-    const QSize size(std::min(ButtonWidth(), width()), new_->sizeHint().height());
+void StartView::PlaceButtons(int top, int buttonWidth, bool areShown) {
+    const QSize size(buttonWidth, new_->sizeHint().height());
     const QPoint step = AreButtonsStacked() ? QPoint(0, size.height() + kSpace)
                                             : QPoint(size.width() + kWideSpace, 0);
     QRect place(QPoint((width() - size.width() - step.x()) / 2, top), size);

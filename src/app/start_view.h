@@ -55,7 +55,7 @@ private:
     int ButtonWidth() const;
     bool AreButtonsStacked() const;
     int ButtonsHeight() const;
-    void PlaceButtons(int top, bool areShown);
+    void PlaceButtons(int top, int buttonWidth, bool areShown);
     void PlaceTiles(int top, bool areShown);
 
     RecentFiles& files_;
