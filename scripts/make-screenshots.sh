@@ -20,7 +20,7 @@ if [[ ${1-} == states ]]; then
             env HOME="$work/$looks-$scale" XDG_CONFIG_HOME="$work/$looks-$scale" \
                 QT_SCALE_FACTOR=$scale QT_LOGGING_RULES='*.debug=false' \
                 "$bin/window_pictures" "$folder" "$PWD/samples" $looks "${3:-en}" 2>/dev/null
-            montage "$folder"/*.png -background '#777' -geometry 360x280+6+6 -tile 6x \
+            montage "$folder/*.png[360x280]" -background '#777' -geometry 360x280+6+6 -tile 6x \
                 "$folder-sheet.png"
         done
     done

@@ -12,10 +12,10 @@
 namespace orbelle::widgets {
 
 struct SizeCell {
-    int Size = 0;    // pixels a side
-    QImage Picture;  // of as many pixels; null: not known yet
+    int Size = 0;         // pixels a side
+    QImage Picture = {};  // of as many pixels; null: not known yet
     bool IsDrawnByHand = false;
-    QString Warning;  // why it bears the mark of a warning; empty: it has none
+    QString Warning = {};  // why it bears the mark of a warning; empty: it has none
     bool operator==(const SizeCell&) const = default;
 };
 
