@@ -1,6 +1,7 @@
 #include "app/run_progress.h"
 
 #include <QGuiApplication>
+#include <QProgressBar>
 #include <QProgressDialog>
 #include <chrono>
 #include <future>
@@ -57,6 +58,7 @@ void RunProgress::ShowInTime() {
         dialog_->setWindowModality(Qt::ApplicationModal);
         dialog_->setMinimumDuration(0);
         dialog_->setMinimumWidth(kWidth);
+        dialog_->findChild<QProgressBar*>()->setTextVisible(false);
         dialog_->show();
     }
     dialog_->setLabelText(QString::fromStdString(doing_));
