@@ -15,6 +15,7 @@ NOT_TOLD = {"formats/set_texts.cpp", "graphics/color_profile.cpp"}
 # Mistakes of the caller, and what never leaves the core.
 NEVER_SHOWN = re.compile(r"(?:std::invalid_argument|static_assert)\s*\([^;]*;", re.S)
 OTHER = {"volf ", "TOC ", r"orbelle journal 1\n", "Varnel Orbelle",
+         "too large for a preview",  # there is none then, and nothing is said
          "Icon "}  # of the command line; the window has its own
 LITERAL = re.compile(r'"((?:[^"\\\n]|\\.)*)"')
 PLACEHOLDER = re.compile(r"%(?:n|L?[1-9])")

@@ -1821,11 +1821,11 @@
     </message>
     <message>
         <source>Your work was not saved when Varnel Orbelle ended.</source>
-        <translation>Beim Ende von Varnel Orbelle war diese Arbeit nicht gespeichert.</translation>
+        <translation>Varnel Orbelle endete, bevor gespeichert war.</translation>
     </message>
     <message>
         <source>It can be restored as it was. What you keep for later is offered again at the next start.</source>
-        <translation>Sie lässt sich wiederherstellen, wie sie war. Was für später behalten wird, kommt beim nächsten Start wieder zur Auswahl.</translation>
+        <translation>Die Arbeit lässt sich wiederherstellen, wie sie war. Was für später behalten wird, kommt beim nächsten Start wieder zur Auswahl.</translation>
     </message>
     <message>
         <source>1 layer</source>
@@ -2128,7 +2128,7 @@
     </message>
     <message>
         <source>Drag a layer to move it; arrow keys: by a pixel</source>
-        <translation>Ziehen verschiebt eine Ebene; Pfeiltasten: um einen Pixel</translation>
+        <translation>Ziehen verschiebt Ebenen; Pfeiltasten: 1 Pixel</translation>
     </message>
     <message>
         <source>Drag to draw; click: one pixel</source>

@@ -15,6 +15,7 @@
 #include "editing/page_commands.h"
 #include "editing/tool_palette.h"
 #include "widgets/artwork.h"
+#include "widgets/motion.h"
 #include "widgets/number_slider.h"
 #include "widgets/panel_header.h"
 #include "widgets/theme.h"
@@ -102,8 +103,8 @@ BottomPanel::BottomPanel(const WindowContext& context) : context_(context) {
     brush_ = new BrushPanel(context.Commands, content_);
     connect(brush_, &BrushPanel::KeysFree, this, [this] { context_.Window.FocusScene(); });
     content_->installEventFilter(this);
-    connect(title_, &widgets::PanelHeader::Clicked, content_,
-            [this](bool IsClosed) { content_->setVisible(!IsClosed); });
+    connect(title_, &widgets::PanelHeader::Clicked, this,
+            [this](bool isClosed) { SetOpen(!isClosed); });
 }
 
 QWidget* BottomPanel::AddPageSize() {
@@ -209,8 +210,11 @@ QWidget* BottomPanel::AddOptions() {
 }
 
 void BottomPanel::SetOpen(bool open) {
+    const bool opens = open && content_->isHidden();
     title_->SetClosed(!open);
     content_->setVisible(open);
+    if (opens)
+        widgets::FadeIn(*content_);
 }
 
 void BottomPanel::CommitTyping() {

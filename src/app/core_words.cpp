@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "app/core_texts.h"
+#include "widgets/words.h"
 
 namespace orbelle::app {
 namespace {
@@ -116,10 +117,11 @@ std::optional<QString> TranslationOf(const QString& text) {
 }  // namespace
 
 QString TranslatedText(std::string_view text) {
-    // Most commands have nothing to tell.
-    if (text.empty())
-        return {};
-    return TranslatedOrSame(QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())));
+    const QString own = QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+    // Most commands have nothing to tell, and in English there is nothing to look for.
+    if (own.isEmpty() || NumberLocale().language() == QLocale::English)
+        return own;
+    return TranslatedOrSame(own);
 }
 
 }  // namespace orbelle::app

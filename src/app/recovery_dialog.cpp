@@ -79,6 +79,8 @@ RecoveryDialog::RecoveryDialog(std::vector<formats::FoundJournal>& journals, QWi
     QFont bold = head->font();
     bold.setBold(true);
     head->setFont(bold);
+    head->setWordWrap(true);
+    head->setFixedWidth(kListWidth);
     layout->addWidget(head);
     auto* text = new QLabel(Words::tr(kText));
     text->setWordWrap(true);

@@ -17,6 +17,7 @@
 #include "editing/layer_bar.h"
 #include "editing/layer_commands.h"
 #include "editing/stack_commands.h"
+#include "widgets/motion.h"
 #include "widgets/theme.h"
 #include "widgets/words.h"
 
@@ -190,8 +191,11 @@ void RightPanel::SetOpen(const Header& header, bool open) {
 void RightPanel::ShowPanels() {
     for (const Header& header : headers_) {
         const bool open = header.IsOpen && (!isCramped_ || header.Title == last_);
+        const bool opens = open && header.Content->isHidden();
         header.Title->SetClosed(!open);
         header.Content->setVisible(open);
+        if (opens)
+            widgets::FadeIn(*header.Content);
     }
 }
 

@@ -114,8 +114,16 @@ void SceneView::ShowCursor() {
 }
 
 void SceneView::ShowWelcome(int strength) {
+    const bool hasBegun = welcome_ >= 0, goesOn = strength >= 0;
     welcome_ = strength;
-    update();
+    if (hasBegun && goesOn)
+        update(WelcomePlace());  // what stands around it need not be painted at every step
+    else
+        update();
+}
+
+QRect SceneView::WelcomePlace() const {
+    return {(width() - 280) / 2 - 60, (height() - 80) / 2 - 30, 60 + 350, 30 + 200};
 }
 
 // While the left button holds a drag the others do nothing: a menu would swallow its release.
@@ -234,7 +242,7 @@ void SceneView::paintEvent(QPaintEvent* event) {
 void SceneView::DrawWelcome(QPainter& painter) const {
     if (welcome_ < 0)
         return;
-    const int left = (width() - 280) / 2, top = (height() - 80) / 2;
+    const int left = WelcomePlace().left() + 60, top = WelcomePlace().top() + 30;
     // The picture is there or it is not; only the texts fade.
     const double picture = std::round(std::round(welcome_ * 10.0 / kWelcomeStrongest) / 10);
     painter.setOpacity(picture);

@@ -73,6 +73,7 @@ private:
     void TellSize();
     void Walk();
     void PaintInScenePixels(QPainter& painter) const;
+    QRect WelcomePlace() const;
     void DrawWelcome(QPainter& painter) const;
     void DrawGuides(QPainter& painter, const QRect& seen) const;
 

@@ -15,6 +15,7 @@
 #include "editing/export_commands.h"
 #include "editing/size_strip.h"
 #include "widgets/button_bar.h"
+#include "widgets/motion.h"
 #include "widgets/panel_header.h"
 #include "widgets/words.h"
 
@@ -155,8 +156,11 @@ void SizesPanel::SetDoubled(bool doubled) {
 }
 
 void SizesPanel::SetOpen(bool open) {
+    const bool opens = open && scroller_->isHidden();
     header_->SetClosed(!open);
     scroller_->setVisible(open);
+    if (opens)
+        widgets::FadeIn(*scroller_);
     findings_->setVisible(open && isCheckShown_);
     Refresh();
 }

@@ -3,6 +3,7 @@
 #include <QFile>
 #include <QIconEngine>
 #include <QPainter>
+#include <QPixmapCache>
 #include <QSvgRenderer>
 #include <utility>
 
@@ -50,6 +51,20 @@ QByteArray Drawing(const QString& name, int pixels, Shade shade) {
     return drawing;
 }
 
+// In pixels of the screen; null: there is no such drawing.
+QPixmap Rendered(const QString& name, const QSize& pixels, Shade shade) {
+    LoadResources();
+    QSvgRenderer drawing(Drawing(name, pixels.width(), shade));
+    if (!drawing.isValid())
+        return {};
+    QPixmap pixmap(pixels);
+    pixmap.fill(Qt::transparent);
+    QPainter painter(&pixmap);
+    drawing.setAspectRatioMode(Qt::KeepAspectRatio);
+    drawing.render(&painter, QRectF(pixmap.rect()));
+    return pixmap;
+}
+
 class Engine : public QIconEngine {
 public:
     explicit Engine(const QString& name) : name_(name) {}
@@ -80,17 +95,17 @@ QPixmap Artwork(const QString& name, const QSize& size, qreal devicePixelRatio) 
 }
 
 QPixmap Artwork(const QString& name, const QSize& size, qreal devicePixelRatio, Shade shade) {
-    LoadResources();
     const QSize pixels = size * devicePixelRatio;
-    QSvgRenderer drawing(Drawing(name, pixels.width(), shade));
-    if (!drawing.isValid())
-        return {};
-    QPixmap pixmap(pixels);
-    pixmap.fill(Qt::transparent);
-    QPainter painter(&pixmap);
-    drawing.setAspectRatioMode(Qt::KeepAspectRatio);
-    drawing.render(&painter, QRectF(pixmap.rect()));
-    painter.end();
+    const QString key = QString("%1 %2 %3 %4")
+                            .arg(name)
+                            .arg(pixels.width())
+                            .arg(pixels.height())
+                            .arg(static_cast<int>(shade));
+    QPixmap pixmap;
+    if (!QPixmapCache::find(key, &pixmap)) {
+        pixmap = Rendered(name, pixels, shade);
+        QPixmapCache::insert(key, pixmap);
+    }
     pixmap.setDevicePixelRatio(devicePixelRatio);
     return pixmap;
 }

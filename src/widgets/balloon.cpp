@@ -66,6 +66,7 @@ void Balloon::Stand(const BalloonPlace& place) {
 
 void Balloon::showEvent(QShowEvent* event) {
     raise();
+    coming_.Start();
     QAccessibleEvent alert(this, QAccessible::Alert);
     QAccessible::updateAccessibility(&alert);
     QWidget::showEvent(event);
@@ -84,6 +85,7 @@ void Balloon::mouseReleaseEvent(QMouseEvent* event) {
 void Balloon::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
+    painter.setOpacity(coming_.Share());
     painter.translate(-pos());
     QPainterPath body;
     body.addRoundedRect(QRectF(place_.Body).adjusted(0.5, 0.5, -0.5, -0.5), kBalloonCorner,

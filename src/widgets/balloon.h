@@ -4,6 +4,7 @@
 #include <QWidget>
 
 #include "widgets/balloon_place.h"
+#include "widgets/motion.h"
 
 namespace orbelle::widgets {
 
@@ -32,6 +33,7 @@ protected:
 private:
     QString text_;
     BalloonPlace place_;
+    Motion coming_{*this};
 };
 
 }  // namespace orbelle::widgets

@@ -76,8 +76,8 @@ void PanelHeader::paintEvent(QPaintEvent*) {
     painter.save();
     const int fromLeft = isRightToLeft() ? width() - kChevronRoom / 2 : kChevronRoom / 2;
     painter.translate(fromLeft, height() / 2.0);
-    if (IsClosed())
-        painter.rotate(isRightToLeft() ? 90 : -90);
+    const double turned = IsClosed() ? turning_.Share() : 1 - turning_.Share();
+    painter.rotate((isRightToLeft() ? 90 : -90) * turned);
     DrawChevron(painter, {0, 0});
     painter.restore();
 

@@ -3,6 +3,8 @@
 
 #include <QAbstractButton>
 
+#include "widgets/motion.h"
+
 namespace orbelle::widgets {
 
 // A quiet band with a chevron at its left. Open at first. To assistive tools it is a button that is
@@ -28,6 +30,9 @@ signals:
 protected:
     void paintEvent(QPaintEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    Motion turning_{*this};  // of the chevron
 };
 
 }  // namespace orbelle::widgets

@@ -44,7 +44,10 @@ void SizeStrip::SetCells(std::vector<SizeCell> cells) {
 void SizeStrip::SetEditedSize(int size) {
     if (size == editedSize_)
         return;
+    frameBefore_ = EditedFrame();
     editedSize_ = size;
+    if (!frameBefore_.isEmpty())
+        moving_.Start();
     QAccessible::State changed;
     changed.selected = true;
     for (int part = 0; part < PartCount(); ++part)

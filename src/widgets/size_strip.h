@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "widgets/accessible_parts.h"
+#include "widgets/motion.h"
 
 namespace orbelle::widgets {
 
@@ -94,9 +95,13 @@ private:
     void PaintPicture(QPainter& painter, int part) const;
     void PaintLabel(QPainter& painter, int part) const;
     void PaintFrame(QPainter& painter, int part) const;
+    QRectF FrameOf(int part) const;  // around picture and label
+    QRectF EditedFrame() const;      // as it is shown now; empty: none
 
     std::vector<SizeCell> cells_;
     int editedSize_ = 0;
+    QRectF frameBefore_;  // that the edited one's comes from
+    Motion moving_{*this};
     int focusedSize_ = 0;  // that the keys came to last
     int hovered_ = -1;     // part
     StripGround ground_ = StripGround::Checks;

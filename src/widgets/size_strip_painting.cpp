@@ -2,6 +2,7 @@
 #include <QLinearGradient>
 #include <QPainter>
 #include <QPainterPath>
+#include <algorithm>
 #include <cmath>
 
 #include "widgets/size_strip.h"
@@ -48,7 +49,8 @@ void SizeStrip::paintEvent(QPaintEvent* event) {
     painter.fillRect(rect(), CurrentTheme().Ground);
     PaintGround(painter);
     for (int part = 0; part < PartCount(); ++part) {
-        if (!PartPlace(part).intersects(event->rect()))
+        const bool isEdited = cells_[part].Size == editedSize_;
+        if (!isEdited && !PartPlace(part).intersects(event->rect()))
             continue;
         PaintPicture(painter, part);
         PaintLabel(painter, part);
@@ -130,7 +132,25 @@ void SizeStrip::PaintLabel(QPainter& painter, int part) const {
     painter.setRenderHint(QPainter::Antialiasing, false);
 }
 
-// Around picture and label.
+QRectF SizeStrip::FrameOf(int part) const {
+    QRectF cell = PartPlace(part);
+    cell.setTop(PicturePlace(part).top() - kMargin + 1);
+    return cell;
+}
+
+QRectF SizeStrip::EditedFrame() const {
+    const auto edited = std::ranges::find(cells_, editedSize_, &SizeCell::Size);
+    if (edited == cells_.end())
+        return {};
+    const QRectF frame = FrameOf(static_cast<int>(edited - cells_.begin()));
+    const double share = moving_.Share();
+    const auto between = [share](const QPointF& from, const QPointF& to) {
+        return from + (to - from) * share;
+    };
+    return {between(frameBefore_.topLeft(), frame.topLeft()),
+            between(frameBefore_.bottomRight(), frame.bottomRight())};
+}
+
 void SizeStrip::PaintFrame(QPainter& painter, int part) const {
     const bool isEdited = cells_[part].Size == editedSize_;
     const bool hasFocus = this->hasFocus() && part == FocusedPart();
@@ -140,8 +160,7 @@ void SizeStrip::PaintFrame(QPainter& painter, int part) const {
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QPen(isEdited || hasFocus ? CurrentTheme().Accent : CurrentTheme().Line, pen));
     painter.setBrush(Qt::NoBrush);
-    QRectF cell = PartPlace(part);
-    cell.setTop(PicturePlace(part).top() - kMargin + 1);
+    const QRectF cell = isEdited ? EditedFrame() : FrameOf(part);
     painter.drawRoundedRect(cell.adjusted(1 + pen / 2, 1 + pen / 2, -1 - pen / 2, -1 - pen / 2), 4,
                             4);
     if (isEdited && hasFocus) {

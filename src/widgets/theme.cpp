@@ -32,6 +32,11 @@ Shade& ShadeInUse() {
     return shade;
 }
 
+bool& MotionInUse() {
+    static bool isWanted = true;
+    return isWanted;
+}
+
 // `share` of the second, 0 to 1.
 QColor Mixed(const QColor& first, const QColor& second, double share) {
     const auto mix = [share](int from, int to) {
@@ -104,7 +109,12 @@ QColor ScenePressedColor() {
 }
 
 bool IsMotionWanted() {
-    return QApplication::style()->styleHint(QStyle::SH_Widget_Animation_Duration) > 0;
+    return MotionInUse() &&
+           QApplication::style()->styleHint(QStyle::SH_Widget_Animation_Duration) > 0;
+}
+
+void SetMotionWanted(bool isWanted) {
+    MotionInUse() = isWanted;
 }
 
 double TextScale() {

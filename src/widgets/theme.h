@@ -44,8 +44,9 @@ Theme SceneTheme();
 QColor SceneHoverColor();
 QColor ScenePressedColor();
 
-// Whether the desktop lets things move by themselves.
+// Whether things may move by themselves: the toolkit knows of most desktops, the program of others.
 bool IsMotionWanted();
+void SetMotionWanted(bool isWanted);  // true at first
 
 // Sizes of text, points.
 inline constexpr double kSmallText = 8.25;

@@ -129,9 +129,10 @@ QSize ThemeStyle::sizeFromContents(ContentsType type, const QStyleOption* option
                                    const QSize& contents, const QWidget* widget) const {
     const QSize size = QProxyStyle::sizeFromContents(type, option, contents, widget);
     const auto* frame = qstyleoption_cast<const QStyleOptionFrame*>(option);
-    const bool isControl =
-        type == CT_PushButton || (type == CT_LineEdit && frame && frame->lineWidth > 0);
-    return isControl ? size.expandedTo({0, kControlHeight}) : size;
+    if (type == CT_PushButton)
+        return (size + QSize(kSpace, 0)).expandedTo({0, kControlHeight});
+    const bool isField = type == CT_LineEdit && frame && frame->lineWidth > 0;
+    return isField ? size.expandedTo({0, kControlHeight}) : size;
 }
 
 QRect ThemeStyle::subElementRect(SubElement element, const QStyleOption* option,

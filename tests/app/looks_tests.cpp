@@ -1,5 +1,10 @@
 #include "app/looks.h"
 
+#include <QDir>
+#include <QFile>
+#include <QStandardPaths>
+
+#include "app/desktop_motion.h"
 #include "app/settings.h"
 #include "filters/outline_contrast.h"
 #include "main_window_fixture.h"
@@ -42,6 +47,27 @@ TEST(ThemeTest, WordsAndLinesAreSeenWellOnBothGrounds) {
         EXPECT_GE(Contrast(scene.Accent, scene.Ground), kOfLines);
     }
     widgets::SetShade(Shade::Light);
+}
+
+TEST(DesktopMotionTest, IsWhatTheDesktopsFilesSay) {
+    EXPECT_TRUE(DoesDesktopWantMotion());
+    const QString config = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation);
+    QDir().mkpath(config + "/gtk-3.0");
+    const std::tuple<const char*, const char*, bool> cases[] = {
+        {"gtk-3.0/settings.ini", "[Settings]\ngtk-font-name=Sans, 10\n", true},
+        {"gtk-3.0/settings.ini", "[Settings]\ngtk-enable-animations=1\n", true},
+        {"gtk-3.0/settings.ini", "[Settings]\ngtk-enable-animations=false\n", false},
+        {"kdeglobals", "[KDE]\nAnimationDurationFactor=0.5\n", true},
+        {"kdeglobals", "[KDE]\nAnimationDurationFactor=0\n", false},
+    };
+    for (const auto& [name, text, expected] : cases) {
+        QFile file(config + '/' + name);
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(text);
+        file.close();
+        EXPECT_EQ(DoesDesktopWantMotion(), expected) << text;
+        file.remove();
+    }
 }
 
 class LooksTest : public MainWindowTest {

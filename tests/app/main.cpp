@@ -4,6 +4,7 @@
 #include <QApplication>
 
 #include "support/temporary_folder.h"
+#include "widgets/theme.h"
 
 int main(int argc, char** argv) {
     const orbelle::testing::TemporaryFolder home;
@@ -14,5 +15,7 @@ int main(int argc, char** argv) {
     qputenv("LANGUAGE", "en");
     ::testing::InitGoogleTest(&argc, argv);
     const QApplication application(argc, argv);
+    // Nobody waits for it but the tests of it.
+    orbelle::widgets::SetMotionWanted(false);
     return RUN_ALL_TESTS();
 }

@@ -165,7 +165,7 @@ TEST_F(RecentFilesTest, TheEmptyWindowShowsThoseThatAreThere) {
         menu.actions()[0]->trigger();
         menu.close();
     });
-    QContextMenuEvent wanted(QContextMenuEvent::Keyboard, {});
+    QContextMenuEvent wanted(QContextMenuEvent::Keyboard, {}, {});
     QApplication::sendEvent(Tiles()[1], &wanted);
     EXPECT_TRUE(WaitUntil([&] { return Names() == "9 6 5 4 3 2"; }));
     EXPECT_EQ(window.focusWidget(), Tiles()[1]) << "the one that follows";

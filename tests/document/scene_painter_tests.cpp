@@ -79,6 +79,13 @@ TEST(DrawScene, ShowsCheckerShadowAndFrameAroundThePage) {
     shown.ExpectPixels({{30, 20, kGreen}, {35, 25, kBlue}, {69, 39, kGreen}});
 }
 
+TEST(DrawScene, ThePageMayReachBeyondTheScene) {
+    Shown shown(400, 20, 1);
+    shown.background = kBlue;
+    shown.ExpectPixels({{0, 36, kBlue}, {99, 36, kBlue}, {0, 19, 0xFF181818}, {0, 41, 0xFF484848}});
+    shown.ExpectPixels({{0, 44, 0xFF4A4A4A}, {99, 44, 0xFF4A4A4A}, {99, 53, kSceneColor}});
+}
+
 // Cells are counted from the page's corner, also where that lies beyond the scene.
 TEST(DrawScene, TheCheckerScrollsWithThePage) {
     Shown shown(116, 76, 1);

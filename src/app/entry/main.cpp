@@ -11,6 +11,7 @@
 #include <memory>
 #include <span>
 
+#include "app/desktop_motion.h"
 #include "app/ending_signals.h"
 #include "app/file_dialog.h"
 #include "app/hand_over_queue.h"
@@ -19,6 +20,7 @@
 #include "app/main_window.h"
 #include "app/single_instance.h"
 #include "app/welcome_window.h"
+#include "widgets/theme.h"
 #include "widgets/words.h"
 
 namespace {
@@ -69,6 +71,7 @@ int main(int argc, char** argv) {
     QApplication::setApplicationVersion(ORBELLE_VERSION);
     QApplication::setDesktopFileName("orbelle");
     const Language language;
+    orbelle::widgets::SetMotionWanted(DoesDesktopWantMotion());
     ApplyLooks(StoredLooks());
     QIcon icon;
     for (const int size : {16, 24, 32, 48, 64, 128, 256})

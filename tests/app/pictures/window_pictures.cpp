@@ -9,6 +9,7 @@
 
 #include "app/language.h"
 #include "app/looks.h"
+#include "widgets/theme.h"
 #include "window_states.h"
 
 int main(int argc, char** argv) {
@@ -21,6 +22,7 @@ int main(int argc, char** argv) {
         return 2;
     }
     const orbelle::app::Language language{QLocale(arguments.value(4, "en"))};
+    orbelle::widgets::SetMotionWanted(false);
     using orbelle::app::Looks;
     orbelle::app::ApplyLooks(arguments[3] == "dark" ? Looks::Dark : Looks::Light);
     const QDir folder(arguments[1]);
