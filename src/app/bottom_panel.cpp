@@ -57,7 +57,7 @@ QHBoxLayout* Row(std::initializer_list<QWidget*> controls) {
     for (QWidget* widget : controls)
         row->addWidget(widget, 0, Qt::AlignVCenter);
     // All rows stand on one line, whatever is in them, and begin below their captions.
-    row->addStrut(widgets::kControlHeight);
+    row->addStrut(widgets::HeightFor(widgets::kControlHeight));
     row->addStretch(1);
     return row;
 }

@@ -14,7 +14,7 @@
 namespace orbelle::app {
 namespace {
 
-constexpr int kWidth = 236;
+constexpr int kUsualWidth = 236;
 constexpr int kSlideStep = 10;         // pixels a tick
 constexpr int kSlideMilliseconds = 8;  // a tick
 constexpr int kBlinkMilliseconds = 250;
@@ -85,8 +85,9 @@ void BrushPanel::CommitTyping() {
 void BrushPanel::Place() {
     const QSize room = parentWidget()->size();
     const int top = open_ && !slide_.isActive() ? 0 : std::min(y(), room.height());
-    const int left = isRightToLeft() ? 0 : room.width() - kWidth;
-    setGeometry(left, isHidden() ? room.height() : top, kWidth, room.height());
+    const int width = widgets::WidthFor(kUsualWidth);
+    const int left = isRightToLeft() ? 0 : room.width() - width;
+    setGeometry(left, isHidden() ? room.height() : top, width, room.height());
 }
 
 void BrushPanel::Slide(bool open) {

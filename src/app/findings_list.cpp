@@ -17,6 +17,7 @@ using formats::Finding;
 
 constexpr int kMostLines = 4;
 constexpr int kLineHeight = 20;
+constexpr double kPoints = 8;
 constexpr int kInset = 4;  // above the first line and below the last
 QString LineOf(const Finding& finding) {
     return QString("%1: %2").arg(finding.Size).arg(TextOf(finding));
@@ -47,7 +48,7 @@ QString TextOf(const Finding& finding) {
 FindingsList::FindingsList() {
     setObjectName("Findings");
     setAccessibleName(Words::tr("Findings"));
-    setFont(widgets::ChromeFont(8));
+    setFont(widgets::ChromeFont(kPoints));
     setUniformItemSizes(true);
     setTextElideMode(Qt::ElideRight);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -64,7 +65,7 @@ void FindingsList::Tell(int row, bool byMouse) {
 
 void FindingsList::AddLine(const QString& text, bool isFinding) {
     auto* line = new QListWidgetItem(text, this);
-    line->setSizeHint(QSize(0, kLineHeight));
+    line->setSizeHint(QSize(0, widgets::HeightFor(kLineHeight, kPoints)));
     if (!isFinding)
         line->setFlags(Qt::NoItemFlags);
 }
@@ -90,7 +91,8 @@ void FindingsList::Show(const std::vector<Finding>& findings) {
 }
 
 void FindingsList::FitHeight() {
-    setFixedHeight(std::clamp(count(), 1, kMostLines) * kLineHeight + 2 * kInset);
+    setFixedHeight(std::clamp(count(), 1, kMostLines) * widgets::HeightFor(kLineHeight, kPoints) +
+                   2 * kInset);
 }
 
 void FindingsList::keyPressEvent(QKeyEvent* event) {

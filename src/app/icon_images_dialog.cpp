@@ -133,7 +133,8 @@ void IconGridView::PaintCell(QPainter& painter, int index) {
     painter.fillRect(cell, chosen ? widgets::PressedColor() : widgets::CurrentTheme().Field);
     PaintPicture(painter, index);
     painter.setPen(widgets::CurrentTheme().Text);
-    painter.drawText(RectOf(grid_.Caption(index)), Qt::AlignHCenter | Qt::AlignTop,
+    painter.drawText(RectOf(grid_.Caption(index)),
+                     Qt::AlignHCenter | Qt::AlignTop | Qt::TextDontClip,
                      QString::fromStdString(grid_.SizeText(index) + '\n' + grid_.DepthText(index)));
     if (chosen) {
         painter.setPen(QPen(widgets::CurrentTheme().Accent, kFrameWidth, Qt::SolidLine,
@@ -233,7 +234,8 @@ IconImagesDialog::IconImagesDialog(const std::vector<formats::IconEntryImage>& o
                                    const IconQuestion& question, QWidget* parent)
     : QDialog(parent) {
     setWindowTitle(Words::tr("Choose Icon Format"));
-    const QSize room = screen()->availableSize() - kAroundCells;
+    const QSize around(kAroundCells.width(), widgets::WidthFor(kAroundCells.height()));
+    const QSize room = screen()->availableSize() - around;
     grid_ = new IconGridView(offered, question.TakesSeveral, room);
 
     auto* layout = new QVBoxLayout(this);

@@ -38,7 +38,7 @@ private:
         const QFontMetrics metrics = fontMetrics();
         const int width = metrics.horizontalAdvance(widest_) + widgets::kWideSpace;
         if (isFixed_)
-            setFixedSize(width, metrics.height());
+            setFixedSize(width, metrics.height() + 1);
         else
             setMinimumWidth(width);
     }

@@ -84,7 +84,7 @@ RecoveryDialog::RecoveryDialog(std::vector<formats::FoundJournal>& journals, QWi
     layout->addWidget(head);
     auto* text = new QLabel(Words::tr(kText));
     text->setWordWrap(true);
-    text->setFixedWidth(kListWidth);
+    text->setFixedWidth(widgets::WidthFor(kListWidth));
     layout->addWidget(text);
     layout->addSpacing(8);
 
@@ -104,8 +104,9 @@ RecoveryDialog::RecoveryDialog(std::vector<formats::FoundJournal>& journals, QWi
     list_->setPalette(palette);
     list_->setCurrentRow(0);
     const int rows = std::min<int>(kVisibleRows, list_->count());
-    list_->setFixedSize(kListWidth, rows * (list_->sizeHintForRow(0) + 2 * list_->spacing()) +
-                                        2 * list_->frameWidth());
+    list_->setFixedSize(
+        widgets::WidthFor(kListWidth),
+        rows * (list_->sizeHintForRow(0) + 2 * list_->spacing()) + 2 * list_->frameWidth());
     layout->addWidget(list_);
     layout->addSpacing(8);
 

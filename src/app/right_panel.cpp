@@ -269,7 +269,7 @@ TrackSlider* RightPanel::AddSlider(QWidget& section, const char* caption,
     slider->setAccessibleName(Words::tr(caption));
     slider->SetNeutral(range.Neutral);
     auto* text = new QLabel(Words::tr(caption));
-    text->setFixedWidth(kCaptionWidth);
+    text->setFixedWidth(widgets::WidthFor(kCaptionWidth));
     // An adjustment counts from where it changes nothing.
     const bool isPercent = state == &Sliders::Opacity;
     auto* value = isPercent ? new widgets::ValueField(*slider, 0, "%")
@@ -279,7 +279,7 @@ TrackSlider* RightPanel::AddSlider(QWidget& section, const char* caption,
     connect(value, &widgets::ValueField::Finished, this, &RightPanel::KeysFree);
     auto* rows = static_cast<QGridLayout*>(section.layout());
     const int row = rows->rowCount();
-    rows->setRowMinimumHeight(row, widgets::kControlHeight);
+    rows->setRowMinimumHeight(row, widgets::HeightFor(widgets::kControlHeight));
     rows->addWidget(text, row, 0);
     rows->addWidget(slider, row, 1);
     rows->addWidget(value, row, 2);

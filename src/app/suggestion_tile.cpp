@@ -11,12 +11,15 @@ namespace {
 
 constexpr int kLargestFactor = 8;
 constexpr int kPadding = 10;
-constexpr int kCaptionHeight = 26;
 constexpr int kGap = 10;  // between the enlargement and the grounds
 constexpr int kGroundMargin = 10;
 constexpr int kCorner = 4;
 constexpr QColor kCheckColor(230, 230, 230);
 constexpr QColor kDarkColor(32, 32, 32);
+
+int CaptionHeight() {
+    return widgets::HeightFor(26);
+}
 
 int Logical(int devicePixels, double scale) {
     return static_cast<int>(std::ceil(devicePixels / scale));
@@ -32,7 +35,7 @@ TileLayout LayOut(int size, int factor, int captionWidth, double scale) {
     const int width = std::max({layout.Enlarged, columns * ground, captionWidth});
     layout.Ground = {width / columns, ground};
     layout.Tile = {width + 2 * kPadding,
-                   kCaptionHeight + layout.Enlarged + kGap + rows * ground + kPadding};
+                   CaptionHeight() + layout.Enlarged + kGap + rows * ground + kPadding};
     return layout;
 }
 
@@ -73,11 +76,11 @@ SuggestionTile::SuggestionTile(const QString& name, const QString& meaning, cons
 }
 
 QRect SuggestionTile::EnlargedPlace() const {
-    return {(width() - layout_.Enlarged) / 2, kCaptionHeight, layout_.Enlarged, layout_.Enlarged};
+    return {(width() - layout_.Enlarged) / 2, CaptionHeight(), layout_.Enlarged, layout_.Enlarged};
 }
 
 QRect SuggestionTile::LightPlace() const {
-    return {{kPadding, kCaptionHeight + layout_.Enlarged + kGap}, layout_.Ground};
+    return {{kPadding, CaptionHeight() + layout_.Enlarged + kGap}, layout_.Ground};
 }
 
 QRect SuggestionTile::DarkPlace() const {
@@ -101,7 +104,7 @@ void SuggestionTile::paintEvent(QPaintEvent*) {
                             kCorner);
     painter.setRenderHint(QPainter::Antialiasing, false);
     painter.setPen(widgets::CurrentTheme().Text);
-    painter.drawText(QRect(0, 0, width(), kCaptionHeight), Qt::AlignCenter, text());
+    painter.drawText(QRect(0, 0, width(), CaptionHeight()), Qt::AlignCenter, text());
 
     for (const QRect& place : {EnlargedPlace(), LightPlace() | DarkPlace()})
         painter.fillRect(place.adjusted(-1, -1, 1, 1), widgets::HairlineColor());

@@ -44,7 +44,8 @@ ZoomField::ZoomField(QWidget* parent) : QComboBox(parent) {
     setMaxVisibleItems(count());
     for (int entry = 0; entry < count(); ++entry)
         if (!itemText(entry).isEmpty())
-            setItemData(entry, QSize(0, widgets::kControlHeight), Qt::SizeHintRole);
+            setItemData(entry, QSize(0, widgets::HeightFor(widgets::kControlHeight)),
+                        Qt::SizeHintRole);
     setCurrentIndex(-1);
 
     lineEdit()->setValidator(new QRegularExpressionValidator(
@@ -74,7 +75,7 @@ void ZoomField::ShowText() {
 }
 
 QSize ZoomField::sizeHint() const {
-    return {kWidth, widgets::kControlHeight};
+    return {widgets::WidthFor(kWidth), widgets::HeightFor(widgets::kControlHeight)};
 }
 
 // The list is as wide as its words, whatever the field is.

@@ -101,7 +101,8 @@ void ButtonBar::PaintButton(QPainter& painter, int index) const {
         const int textLeft = left + metrics_.IconSize + kTightSpace;
         painter.setPen(CurrentTheme().Text);
         painter.drawText(within({textLeft, 0}, {place.width() - textLeft, place.height()}),
-                         Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, button.Caption);
+                         Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine | Qt::TextDontClip,
+                         button.Caption);
     }
     painter.setOpacity(1);
 }

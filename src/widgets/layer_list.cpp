@@ -37,7 +37,7 @@ LayerList::LayerList(QWidget* parent) : QAbstractScrollArea(parent) {
     setFrameShape(QFrame::NoFrame);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setFocusPolicy(Qt::StrongFocus);
-    verticalScrollBar()->setSingleStep(kLayerRowHeight);
+    verticalScrollBar()->setSingleStep(LayerRowHeight());
     FitScrollBar();
 }
 
@@ -89,13 +89,13 @@ void LayerList::SetRows(std::vector<LayerRow> rows) {
 
 void LayerList::FitScrollBar() {
     const int height = viewport()->height();
-    verticalScrollBar()->setRange(0, std::max(kLayerRowHeight * Count() + 2 - height, 0));
+    verticalScrollBar()->setRange(0, std::max(LayerRowHeight() * Count() + 2 - height, 0));
     verticalScrollBar()->setPageStep(height);
 }
 
 QRect LayerList::RowPlace(int row) const {
-    return {0, row * kLayerRowHeight - verticalScrollBar()->value(), viewport()->width(),
-            kLayerRowHeight};
+    return {0, row * LayerRowHeight() - verticalScrollBar()->value(), viewport()->width(),
+            LayerRowHeight()};
 }
 
 void LayerList::resizeEvent(QResizeEvent*) {

@@ -83,8 +83,8 @@ void LayerList::DragRow(int y) {
         grabKeyboard();  // Escape
     QScrollBar& bar = *verticalScrollBar();
     if (y < 0 || y >= viewport()->height())
-        bar.setValue(bar.value() + (y < 0 ? -kLayerRowHeight : kLayerRowHeight) / 2);
-    gap_ = std::clamp((y + bar.value() + kLayerRowHeight / 2) / kLayerRowHeight, 0, Count());
+        bar.setValue(bar.value() + (y < 0 ? -LayerRowHeight() : LayerRowHeight()) / 2);
+    gap_ = std::clamp((y + bar.value() + LayerRowHeight() / 2) / LayerRowHeight(), 0, Count());
     viewport()->update();
 }
 
@@ -137,8 +137,8 @@ void LayerList::StartRename() {
     name_->setFont(ChromeFont(kNormalText));
     const QRect place = TextPlace(row);
     name_->setGeometry(place.left() - kTightSpace,
-                       place.top() + (place.height() - kControlHeight) / 2,
-                       place.width() + kTightSpace, kControlHeight);
+                       place.top() + (place.height() - HeightFor(kControlHeight)) / 2,
+                       place.width() + kTightSpace, HeightFor(kControlHeight));
     name_->installEventFilter(this);
     name_->show();
     name_->selectAll();

@@ -68,7 +68,7 @@ void LayerList::PaintRow(QPainter& painter, int row) {
         painter.setBrush(PressedColor());
         painter.drawRoundedRect(FaceOf(place), kCornerRadius, kCornerRadius);
     }
-    const int inset = (kLayerRowHeight - kLayerThumbnail) / 2;
+    const int inset = (LayerRowHeight() - kLayerThumbnail) / 2;
     const QRect box =
         Mirrored({place.left() + kSpace, place.top() + inset, kLayerThumbnail, kLayerThumbnail});
     // What is dragged or hidden has a paler picture; its words are as easily read.
@@ -110,9 +110,9 @@ void LayerList::PaintText(QPainter& painter, int row) const {
                          QFontMetrics(font).elidedText(text, Qt::ElideRight, line.width()));
     };
     painter.setPen(shown.Visible && !IsDragged(row) ? CurrentTheme().Text : CurrentTheme().Note);
-    draw(place.adjusted(0, 2, 0, -kLayerRowHeight / 2), kNormalText, PartName(row));
+    draw(place.adjusted(0, 2, 0, -LayerRowHeight() / 2), kNormalText, PartName(row));
     painter.setPen(CurrentTheme().Note);
-    draw(place.adjusted(0, kLayerRowHeight / 2, 0, -2), kSmallText, shown.OpacityText);
+    draw(place.adjusted(0, LayerRowHeight() / 2, 0, -2), kSmallText, shown.OpacityText);
 }
 
 // Open, or with a line through it.

@@ -232,11 +232,11 @@ void NumberSlider::Spin(int direction) {
 }
 
 QSize NumberSlider::sizeHint() const {
-    return kSize;
+    return {WidthFor(kSize.width()), HeightFor(kSize.height(), kSmallText)};
 }
 
 QSize NumberSlider::minimumSizeHint() const {
-    return {2 * kButtonWidth + 30, kSize.height()};
+    return {2 * kButtonWidth + WidthFor(30), sizeHint().height()};
 }
 
 QRect NumberSlider::SpinRect(int direction) const {

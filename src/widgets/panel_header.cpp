@@ -22,7 +22,7 @@ PanelHeader::PanelHeader(const QString& title, QWidget* parent) : QAbstractButto
     QFont font = ChromeFont(kNormalText);
     font.setWeight(QFont::DemiBold);
     setFont(font);
-    setFixedHeight(kHeaderHeight);
+    setFixedHeight(HeightFor(kHeaderHeight));
     setAttribute(Qt::WA_Hover);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     // A click leaves the keyboard with the picture that is being edited.
@@ -50,7 +50,8 @@ void PanelHeader::SetTools(QWidget& tools) {
 }
 
 QSize PanelHeader::sizeHint() const {
-    return {kChevronRoom + fontMetrics().horizontalAdvance(text()) + kSpace, kHeaderHeight};
+    return {kChevronRoom + fontMetrics().horizontalAdvance(text()) + kSpace,
+            HeightFor(kHeaderHeight)};
 }
 
 void PanelHeader::keyPressEvent(QKeyEvent* event) {

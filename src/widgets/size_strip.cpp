@@ -19,7 +19,7 @@ using namespace strip_metrics;
 
 SizeStrip::SizeStrip(QWidget* parent) : QWidget(parent) {
     ShowPartsToAssistiveTools();
-    setFont(ChromeFont(8));
+    setFont(ChromeFont(kLabelPoints));
     setMouseTracking(true);
     // A click leaves the keyboard with the picture that is being edited.
     setFocusPolicy(Qt::TabFocus);
@@ -83,7 +83,7 @@ int SizeStrip::RoomIn(int width) const {
 }
 
 int SizeStrip::LargestSizeWithin(int height) const {
-    return static_cast<int>((height - kLabelHeight - 2 * kMargin) / Scale());
+    return static_cast<int>((height - LabelHeight() - 2 * kMargin) / Scale());
 }
 
 int SizeStrip::GroundHeight() const {
@@ -97,14 +97,14 @@ QSize SizeStrip::sizeHint() const {
     int width = 2 * kStart;
     for (const SizeCell& cell : cells_)
         width += CellWidth(cell.Size);
-    return {width, GroundHeight() + kLabelHeight};
+    return {width, GroundHeight() + LabelHeight()};
 }
 
 QRect SizeStrip::PartPlace(int part) const {
     int x = kStart;
     for (int i = 0; i < part; ++i)
         x += CellWidth(cells_[i].Size);
-    const QRect place(x, 0, CellWidth(cells_[part].Size), GroundHeight() + kLabelHeight);
+    const QRect place(x, 0, CellWidth(cells_[part].Size), GroundHeight() + LabelHeight());
     return QStyle::visualRect(layoutDirection(), rect(), place);
 }
 

@@ -1,8 +1,11 @@
 #include "widgets/theme.h"
 
 #include <QApplication>
+#include <QFontMetrics>
 #include <QPainter>
 #include <QStyle>
+#include <algorithm>
+#include <cmath>
 
 namespace orbelle::widgets {
 namespace {
@@ -114,9 +117,24 @@ void SetMotionWanted(bool isWanted) {
     MotionInUse() = isWanted;
 }
 
+double TextScale() {
+    constexpr double kUsual = kNormalText;
+    const double points = QApplication::font().pointSizeF();
+    return points > 0 ? points / kUsual : 1;
+}
+
+int HeightFor(int least, double points) {
+    constexpr int kAround = 6;
+    return std::max(least, QFontMetrics(ChromeFont(points)).height() + kAround);
+}
+
+int WidthFor(int usual) {
+    return static_cast<int>(std::ceil(usual * std::max(TextScale(), 1.0)));
+}
+
 QFont ChromeFont(double points) {
     QFont font(QStringList{"Verdana", "DejaVu Sans"});
-    font.setPointSizeF(points);
+    font.setPointSizeF(points * TextScale());
     return font;
 }
 

@@ -61,7 +61,14 @@ inline constexpr int kCornerRadius = 4;
 inline constexpr int kControlHeight = 26;  // of a row of a panel, too
 inline constexpr int kHeaderHeight = 28;   // of a panel
 
-// Verdana, or what the system has nearest to it.
+// How large the desktop has its text, 1 for 9 points.
+double TextScale();
+
+// For a line of text of that size, and for a width of words: at least what it is at the usual size.
+int HeightFor(int least, double points = kNormalText);
+int WidthFor(int usual);
+
+// Verdana, or what the system has nearest to it, as much larger or smaller as the desktop's text.
 QFont ChromeFont(double points);
 
 // Squares of 5 x 5 pixels, every other one, the first in the top left corner.

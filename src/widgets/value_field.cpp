@@ -22,7 +22,7 @@ constexpr int kHeight = kControlHeight - kTightSpace;
 
 ValueField::ValueField(TrackSlider& slider, int offset, const QString& unit)
     : slider_(&slider), offset_(offset), unit_(unit) {
-    setFixedSize(kWidth, kHeight);
+    setFixedSize(WidthFor(kWidth), HeightFor(kHeight));
     setFrame(false);
     setTextMargins(2, 0, 2, 0);
     setAlignment(Qt::AlignRight | Qt::AlignVCenter);

@@ -34,7 +34,7 @@ public:
         QColor color = painter()->pen().color();
         color.setAlphaF(color.alphaF() * static_cast<float>(painter()->opacity()));
         if (!item.text().trimmed().isEmpty() && place.width() > 1 && place.height() > 1)
-            Texts.push_back({item.text(), place, color});
+            Texts.push_back({item.text(), place, painter()->worldTransform().mapRect(box), color});
     }
 };
 

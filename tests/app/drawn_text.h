@@ -13,6 +13,7 @@ namespace orbelle::testing {
 struct DrawnText {
     QString Text;
     QRectF Place;  // in the control's logical pixels, as far as it is not clipped
+    QRectF Whole;  // with what is clipped
     QColor Color;  // of the pen, with its opacity as alpha
 };
 

@@ -101,12 +101,27 @@ bool IsCovered(QWidget& widget) {
     });
 }
 
+// Lines of text that reach above or below the control that paints them.
+bool IsCutInHeight(QWidget& widget) {
+    const auto* scroller = qobject_cast<const QAbstractScrollArea*>(widget.parentWidget());
+    // The welcome stands in a room of its own.
+    if ((scroller && scroller->viewport() == &widget) || qobject_cast<SceneView*>(&widget))
+        return false;
+    constexpr double kTolerance = 1;  // of rounding
+    return std::ranges::any_of(testing::TextsOf(widget), [&](const testing::DrawnText& text) {
+        return text.Whole.top() < -kTolerance ||
+               text.Whole.bottom() > widget.height() + kTolerance ||
+               text.Place.height() < text.Whole.height() - kTolerance;
+    });
+}
+
 void ExpectRoomForAll(const QString& name, QWidget& shown) {
     for (QWidget* widget : shown.findChildren<QWidget*>()) {
         if (!widget->isVisible() || widget->window() != &shown)
             continue;
         EXPECT_TRUE(HasRoom(*widget)) << name.toStdString() << ": " << Describe(*widget);
         EXPECT_FALSE(IsCutAtTheSide(*widget)) << name.toStdString() << ": " << Describe(*widget);
+        EXPECT_FALSE(IsCutInHeight(*widget)) << name.toStdString() << ": " << Describe(*widget);
         EXPECT_FALSE(IsCovered(*widget)) << name.toStdString() << ": " << Describe(*widget);
         for (const QObject* other : widget->parentWidget()->children()) {
             const auto* sibling = qobject_cast<const QWidget*>(other);
@@ -149,6 +164,26 @@ TEST_F(WindowStatesTest, NothingOverlapsWhereWordsGoFromRightToLeft) {
     ForEachWindowState(ORBELLE_SAMPLES, ExpectRoomForAll);
     QApplication::setLayoutDirection(Qt::LeftToRight);
 }
+
+// Of the desktop, in percent.
+class TextSizeTest : public WindowStatesTest, public ::testing::WithParamInterface<int> {
+protected:
+    TextSizeTest() {
+        QFont font = usual_;
+        font.setPointSizeF(usual_.pointSizeF() * GetParam() / 100);
+        QApplication::setFont(font);
+    }
+    ~TextSizeTest() override { QApplication::setFont(usual_); }
+
+private:
+    const QFont usual_ = QApplication::font();
+};
+
+TEST_P(TextSizeTest, NoWordIsCutAndNothingOverlaps) {
+    ForEachWindowState(ORBELLE_SAMPLES, ExpectRoomForAll);
+}
+
+INSTANTIATE_TEST_SUITE_P(Percent, TextSizeTest, ::testing::Values(80, 150, 200));
 
 // Of our texts; the toolkit's own need not be installed.
 bool IsOurs(const char* context) {
