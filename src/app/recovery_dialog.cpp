@@ -66,6 +66,13 @@ QString TextOf(const formats::JournalEntry& entry) {
         '\n');
 }
 
+// As wide as the list. A layout of fixed size does not ask for the height that this needs.
+void WrapWords(QLabel& label) {
+    const int width = widgets::WidthFor(kListWidth);
+    label.setWordWrap(true);
+    label.setFixedSize(width, label.heightForWidth(width));
+}
+
 }  // namespace
 
 RecoveryDialog::RecoveryDialog(std::vector<formats::FoundJournal>& journals, QWidget* parent)
@@ -79,12 +86,10 @@ RecoveryDialog::RecoveryDialog(std::vector<formats::FoundJournal>& journals, QWi
     QFont bold = head->font();
     bold.setBold(true);
     head->setFont(bold);
-    head->setWordWrap(true);
-    head->setFixedWidth(kListWidth);
+    WrapWords(*head);
     layout->addWidget(head);
     auto* text = new QLabel(Words::tr(kText));
-    text->setWordWrap(true);
-    text->setFixedWidth(widgets::WidthFor(kListWidth));
+    WrapWords(*text);
     layout->addWidget(text);
     layout->addSpacing(8);
 
