@@ -123,7 +123,9 @@ void SceneView::ShowWelcome(int strength) {
 }
 
 QRect SceneView::WelcomePlace() const {
-    return {(width() - 280) / 2 - 60, (height() - 80) / 2 - 30, 60 + 350, 30 + 200};
+    using widgets::WidthFor;
+    return {(width() - WidthFor(280)) / 2 - 60, (height() - WidthFor(80)) / 2 - WidthFor(30),
+            60 + WidthFor(350), WidthFor(30 + 200)};
 }
 
 // While the left button holds a drag the others do nothing: a menu would swallow its release.
@@ -242,23 +244,24 @@ void SceneView::paintEvent(QPaintEvent* event) {
 void SceneView::DrawWelcome(QPainter& painter) const {
     if (welcome_ < 0)
         return;
-    const int left = WelcomePlace().left() + 60, top = WelcomePlace().top() + 30;
+    const QRect place = WelcomePlace();
+    const QRect words =
+        place.adjusted(60, 0, 0, 0) & rect().adjusted(0, 0, -widgets::kWideSpace, 0);
     // The picture is there or it is not; only the texts fade.
     const double picture = std::round(std::round(welcome_ * 10.0 / kWelcomeStrongest) / 10);
     painter.setOpacity(picture);
-    painter.drawPixmap(left - 60, top - 30,
-                       widgets::Artwork("board", {40, 40}, devicePixelRatioF()));
+    painter.drawPixmap(place.topLeft(), widgets::Artwork("board", {40, 40}, devicePixelRatioF()));
     painter.setOpacity(1);
     QFont head = widgets::ChromeFont(11);
     head.setBold(true);
     painter.setFont(head);
     painter.setPen(QColor(255, 255, 255, welcome_));
-    painter.drawText(QRect(left, top - 30, 350, 28), Qt::AlignLeft | Qt::AlignTop,
-                     Words::tr("Welcome to Use Orbelle!"));
+    painter.drawText(words, Qt::AlignLeft | Qt::AlignTop, Words::tr("Welcome to Use Orbelle!"));
     painter.setFont(widgets::ChromeFont(10));
     painter.setPen(QColor(200, 200, 200, welcome_));
     painter.drawText(
-        QRect(left, top, 350, 200), Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap,
+        words.adjusted(0, widgets::WidthFor(30), 0, 0),
+        Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap,
         Words::tr("To be familiar with using the Orbelle quickly, we recommend you to try each "
                   "function or tool, then our artificial intelligence help system will guide you "
                   "how to use each function or tool. - Varnel Software\""));

@@ -19,9 +19,15 @@ using widgets::kWideSpace;
 
 constexpr std::size_t kMostTiles = 6;
 constexpr int kButtonWidth = 152;
-// The welcome text and some room around it, from so far above the middle of the scene on.
-constexpr QSize kMiddle(456, 140);
-constexpr int kAboveMiddle = 84;
+// The welcome text and some room around it.
+QSize MiddleSize() {
+    return {widgets::WidthFor(456), widgets::WidthFor(140)};
+}
+
+// From so far above the middle of the scene on.
+int AboveMiddle() {
+    return widgets::WidthFor(84);
+}
 
 }  // namespace
 
@@ -130,14 +136,15 @@ int StartView::TilesHeight() const {
 
 void StartView::Place() {
     setGeometry(scene_.rect());
-    const int middle = height() / 2 - kAboveMiddle;
+    const QSize middleSize = MiddleSize();
+    const int middle = height() / 2 - AboveMiddle();
     const int top = middle - kWideSpace - ButtonsHeight();
-    const int tiles = middle + kMiddle.height() + kWideSpace;
+    const int tiles = middle + middleSize.height() + kWideSpace;
     if (top >= kSpace && tiles + TilesHeight() + kSpace <= height() &&
-        width() >= kMiddle.width() + 2 * kSpace) {
+        width() >= middleSize.width() + 2 * kSpace) {
         // Together as wide as the place below them.
-        PlaceButtons(top, std::max(ButtonWidth(), (kMiddle.width() - kWideSpace) / 2), true);
-        hint_->setGeometry(QRect(QPoint((width() - kMiddle.width()) / 2, middle), kMiddle));
+        PlaceButtons(top, std::max(ButtonWidth(), (middleSize.width() - kWideSpace) / 2), true);
+        hint_->setGeometry(QRect(QPoint((width() - middleSize.width()) / 2, middle), middleSize));
         hint_->SetShown(!isWelcome_, true);
         hint_->show();
         PlaceTiles(tiles, true);

@@ -19,7 +19,6 @@
 #include <set>
 
 #include "app/language.h"
-#include "app/scene_view.h"
 #include "app/settings.h"
 #include "drawn_text.h"
 #include "widgets/accessible_parts.h"
@@ -104,8 +103,7 @@ bool IsCovered(QWidget& widget) {
 // Lines of text that reach above or below the control that paints them.
 bool IsCutInHeight(QWidget& widget) {
     const auto* scroller = qobject_cast<const QAbstractScrollArea*>(widget.parentWidget());
-    // The welcome stands in a room of its own.
-    if ((scroller && scroller->viewport() == &widget) || qobject_cast<SceneView*>(&widget))
+    if (scroller && scroller->viewport() == &widget)
         return false;
     constexpr double kTolerance = 1;  // of rounding
     return std::ranges::any_of(testing::TextsOf(widget), [&](const testing::DrawnText& text) {
