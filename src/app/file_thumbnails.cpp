@@ -104,7 +104,11 @@ void FileThumbnails::Work::Run() {
             wish = Wanted;
             number = Number;
         }
-        Fulfil(wish, number);
+        try {
+            Fulfil(wish, number);
+        } catch (const std::exception&) {
+            // There is not enough memory: the rest has no pictures.
+        }
         done = number;
     }
 }
