@@ -117,7 +117,7 @@ std::optional<QString> TranslationOf(const QString& text) {
 }  // namespace
 
 QString TranslatedText(std::string_view text) {
-    const QString own = QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+    QString own = QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
     // Most commands have nothing to tell, and in English there is nothing to look for.
     if (own.isEmpty() || NumberLocale().language() == QLocale::English)
         return own;
