@@ -125,24 +125,26 @@ Action ReadGifThreshold(Words& words) {
 }
 
 constexpr Verb kVerbs[] = {
-    {"export", "PATH", "write the page as .ico .cur .icns .png .gif .jpg .jpeg or .bmp",
-     ReadExport},
+    {"export", "PATH", "write the page as .ico .cur .icns .png .gif .jpg .jpeg or .bmp", ReadExport,
+     "open leaf.png export leaf.ico"},
     {"export-size", "N|page", "the longer side (1 to 1024) of the pictures exported from here on",
-     ReadExportSize},
+     ReadExportSize, "open logo.volf export-size 180 export touch.png", "page"},
     {"export-set", "DIR SET...",
-     "whole sets of files under DIR: windows macos linux web android ios", ReadExportSet},
-    {"combine", "OUT.ico PNG...", "one to seven PNG files into one icon file", ReadCombine},
+     "whole sets of files under DIR: windows macos linux web android ios", ReadExportSet,
+     "open logo.svg export-set icons windows linux web", "windows macos linux web android ios"},
+    {"combine", "OUT.ico PNG...", "one to seven PNG files into one icon file", ReadCombine,
+     "combine app.ico app-16.png app-32.png app-256.png"},
     {"icon-sizes", "N N...|LIST",
-     "sizes (1 to 256) of the icons exported from here on, or windows favicon table",
-     ReadIconSizes},
+     "sizes (1 to 256) of the icons exported from here on, or windows favicon table", ReadIconSizes,
+     "open leaf.png icon-sizes 256 48 32 16 export leaf.ico", "windows favicon table"},
     {"icon-format", "bmp|png256|png", "how pictures stand in the icons written from here on",
-     ReadIconFormat},
+     ReadIconFormat, "open leaf.png icon-format png export leaf.ico", "bmp png256 png"},
     {"hotspot", "X Y", "the pixel that the .cur files exported from here on point with; 0 0",
-     ReadHotspot},
+     ReadHotspot, "open arrow.png hotspot 3 1 export arrow.cur"},
     {"compress", "fast|small", "how hard the PNG pictures exported from here on are packed",
-     ReadCompress},
+     ReadCompress, "open leaf.png compress small export small.png", "fast small"},
     {"gif-threshold", "T", "alpha (0 to 200) from which a GIF's pixels count as opaque; 130",
-     ReadGifThreshold},
+     ReadGifThreshold, "open leaf.png gif-threshold 60 export leaf.gif"},
 };
 
 }  // namespace

@@ -72,18 +72,21 @@ void Save(Workspace& workspace, const fs::path& path) {
 }
 
 constexpr Verb kVerbs[] = {
-    {"new", "W H", "a page of that size (1 to 512) with one empty layer", ReadNew},
-    {"open", "PATH", "a .volf document, or a picture that becomes the page", ReadPath<Open>},
+    {"new", "W H", "a page of that size (1 to 512) with one empty layer", ReadNew,
+     "new 64 64 save blank.volf"},
+    {"open", "PATH", "a .volf document, or a picture that becomes the page", ReadPath<Open>,
+     "open leaf.png export leaf.ico"},
     {"import", "PATH", "a picture as a new layer, or as the page when there is none",
-     ReadPath<Import>},
+     ReadPath<Import>, "open leaf.volf import star.png save leaf.volf"},
     {"import-fit", "PATH", "the same, shrunk until it fits the page where it is larger",
-     ReadPath<ImportFit>},
+     ReadPath<ImportFit>, "new 256 256 import-fit photo.jpg export photo.ico"},
     {"svg-size", "N", "the longer side (1 to 1024) of the SVG drawings read from here on; 512",
-     ReadSvgSize},
+     ReadSvgSize, "svg-size 1024 open logo.svg export-set icons macos"},
     {"icon-entry", "K|all",
      "the image (from 0) that the next open or import of an icon file takes; open takes all, too",
-     ReadIconEntry},
-    {"save", "PATH", "write the document as a .volf file", ReadPath<Save>},
+     ReadIconEntry, "icon-entry all open app.ico save app.volf", "all"},
+    {"save", "PATH", "write the document as a .volf file", ReadPath<Save>,
+     "open leaf.png style crystal save leaf.volf"},
 };
 
 }  // namespace

@@ -90,17 +90,22 @@ void WriteScene(Workspace& workspace, const std::filesystem::path& path) {
 }
 
 constexpr Verb kVerbs[] = {
-    {"info", "", "print the document as one JSON object on one line", ReadNothing<Info>},
+    {"info", "", "print the document as one JSON object on one line", ReadNothing<Info>,
+     "open leaf.volf info"},
     {"entries", "PATH", "print the images of an icon file as one JSON array on one line",
-     ReadPath<Entries>},
+     ReadPath<Entries>, "entries app.ico"},
     {"check", "", "print what is wrong with the icon at its export sizes, a JSON object a line",
-     ReadNothing<Check>},
-    {"region", "N", "print layer N's region: a line 'y x0 x1' for each run of pixels", ReadRegion},
-    {"selection", "", "print the selection's region in the same form", ReadNothing<PrintSelection>},
-    {"write-layer", "N PATH", "write layer N's own pixels as a PNG", ReadWriteLayer},
-    {"write-page", "PATH", "write the composed page as a PNG", ReadPath<WritePage>},
+     ReadNothing<Check>, "open leaf.volf icon-sizes favicon check"},
+    {"region", "N", "print layer N's region: a line 'y x0 x1' for each run of pixels", ReadRegion,
+     "open leaf.png region 0"},
+    {"selection", "", "print the selection's region in the same form", ReadNothing<PrintSelection>,
+     "open leaf.png select-all selection"},
+    {"write-layer", "N PATH", "write layer N's own pixels as a PNG", ReadWriteLayer,
+     "open leaf.volf write-layer 0 bottom.png"},
+    {"write-page", "PATH", "write the composed page as a PNG", ReadPath<WritePage>,
+     "open leaf.volf write-page page.png"},
     {"write-scene", "PATH", "write the scene as the window shows it, 1024 by 768, as a PNG",
-     ReadPath<WriteScene>},
+     ReadPath<WriteScene>, "open leaf.volf zoom 2 write-scene scene.png"},
 };
 
 }  // namespace

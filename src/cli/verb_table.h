@@ -22,6 +22,8 @@ struct Verb {
     std::string_view Arguments;  // for the help
     std::string_view Help;
     Action (*Read)(Words& arguments);  // throws UsageError; changes nothing
+    std::string_view Example;          // verbs of a run, as a shell takes them
+    std::string_view Values = {};      // words that an argument may be, a blank between them
 };
 
 // The Read of a verb without arguments.
@@ -46,11 +48,19 @@ std::span<const Verb> PointerVerbs();
 std::span<const Verb> StackVerbs();
 std::span<const Verb> ReportVerbs();
 
+// All of them, in that order.
+std::vector<const Verb*> AllVerbs();
+
 // Null when there is none of that name.
 const Verb* FindVerb(std::string_view name);
 
+// Why a word is none: it has the verb that was meant, where one is near.
+std::string DescribeUnknownVerb(const std::string& word);
+
 // A line for each verb, after a line end.
 std::string VerbHelp();
+// All there is to tell about one of them, whole lines.
+std::string VerbHelp(const Verb& verb);
 
 // A verb with arguments that have been checked.
 struct Call {

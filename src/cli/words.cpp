@@ -4,6 +4,7 @@
 #include <charconv>
 #include <optional>
 #include <sstream>
+#include <utility>
 
 namespace orbelle::cli {
 namespace {
@@ -33,7 +34,45 @@ std::optional<int> ParseInteger(std::string_view word) {
     return value;
 }
 
+// How many letters have to be put in, left out, changed or exchanged with the next one.
+std::size_t Distance(std::string_view a, std::string_view b) {
+    // The rows of the last two letters of `a`, and of the present one.
+    std::vector<std::size_t> before, last, row(b.size() + 1);
+    for (std::size_t j = 0; j <= b.size(); ++j)
+        row[j] = j;
+    for (std::size_t i = 1; i <= a.size(); ++i) {
+        before = std::exchange(last, row);
+        row[0] = i;
+        for (std::size_t j = 1; j <= b.size(); ++j) {
+            const std::size_t change = last[j - 1] + (a[i - 1] == b[j - 1] ? 0 : 1);
+            row[j] = std::min({last[j] + 1, row[j - 1] + 1, change});
+            if (i > 1 && j > 1 && a[i - 1] == b[j - 2] && a[i - 2] == b[j - 1])
+                row[j] = std::min(row[j], before[j - 2] + 1);
+        }
+    }
+    return row.back();
+}
+
 }  // namespace
+
+std::string DidYouMean(std::string_view word, std::span<const std::string_view> names) {
+    std::string small(word);
+    for (char& c : small)
+        c = c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+    // A letter of three may be wrong.
+    std::size_t least = small.size() / 3 + 1;
+    std::string_view nearest;
+    if (small.size() > 2 && small.size() < 64) {
+        for (const std::string_view name : names) {
+            const std::size_t distance = Distance(small, name);
+            if (distance < least) {
+                least = distance;
+                nearest = name;
+            }
+        }
+    }
+    return nearest.empty() ? "" : "; did you mean " + std::string(nearest) + "?";
+}
 
 std::string JoinWords(std::span<const std::string> words) {
     std::string line;

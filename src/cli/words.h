@@ -22,6 +22,10 @@ public:
 // The words as they could be typed: those with blanks, and empty ones, between double quotes.
 std::string JoinWords(std::span<const std::string> words);
 
+// "; did you mean NAME?" with the name that a misspelt word is likely to stand for; empty when none
+// is near. Capitals don't matter.
+std::string DidYouMean(std::string_view word, std::span<const std::string_view> names);
+
 // Reads arguments one after the other; a reader takes the next word. All throw UsageError when it
 // is missing, malformed or out of range; `name` is the argument's name for the message.
 class Words {

@@ -1,4 +1,4 @@
-#include <CLI/CLI.hpp>
+#include <algorithm>
 #include <cerrno>
 #include <cstring>
 #include <fstream>
@@ -6,6 +6,7 @@
 #include <new>
 
 #include "cli/entry/process.h"
+#include "cli/options.h"
 #include "cli/recover.h"
 #include "cli/script.h"
 #include "cli/verb_table.h"
@@ -31,57 +32,37 @@ std::vector<Call> ParseScriptFile(const std::string& name) {
     return ParseScript(file, name);
 }
 
+void Run(const Options& options) {
+    const std::vector<Call> calls =
+        options.Script ? ParseScriptFile(*options.Script) : ParseCalls(options.Verbs);
+    Workspace workspace(std::cout);
+    RunCalls(calls, workspace);
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
     PrepareProcess();
     std::ios::sync_with_stdio(false);
     try {
-        CLI::App app(
-            "The icon editor without a window:\n"
-            "  orbelle-cli VERB [ARG...] [VERB [ARG...]]...\n"
-            "  orbelle-cli --script FILE\n"
-            "  orbelle-cli --recover [list | N PATH]\n",
-            "orbelle-cli");
-        app.set_version_flag("--version", "orbelle-cli " ORBELLE_VERSION);
-        std::string script;
-        app.add_option("--script", script,
-                       "Read the verbs from FILE, one a line; '-': standard input")
-            ->type_name("FILE");
-        std::vector<std::string> recover;
-        const CLI::Option* recovers =
-            app.add_option(
-                   "--recover", recover,
-                   "List what the window kept safe when it was killed, or write number N to "
-                   "PATH as a document")
-                ->type_name("[list | N PATH]")
-                ->expected(0, 2);
-        app.footer([] { return "Verbs, run in order:" + VerbHelp(); });
-        // From the first word that is no option on, all words belong to verbs, whatever they look
-        // like.
-        app.prefix_command();
-        try {
-            app.parse(argc, argv);
-        } catch (const CLI::Success& help) {
-            const int status = app.exit(help);
-            RequirePrinted(std::cout);
-            return status;
+        const std::vector<std::string> words(argv + std::min(argc, 1), argv + argc);
+        const Options options = ReadOptions(words);
+        switch (options.Task) {
+            case Options::Task::Help:
+                std::cout << (options.HelpOn ? VerbHelp(*options.HelpOn) : ProgramHelp());
+                RequirePrinted(std::cout);
+                break;
+            case Options::Task::Version:
+                std::cout << "orbelle-cli " ORBELLE_VERSION "\n";
+                RequirePrinted(std::cout);
+                break;
+            case Options::Task::Recover:
+                Recover(options.Recover, std::cout);
+                break;
+            case Options::Task::Run:
+                Run(options);
+                break;
         }
-        const std::vector<std::string> words = app.remaining();
-        if (recovers->count() > 0) {
-            if (!words.empty() || !script.empty())
-                throw UsageError("--recover stands alone");
-            Recover(recover, std::cout);
-            return 0;
-        }
-        if (words.empty() == script.empty())
-            throw UsageError("either verbs or --script FILE are needed; see orbelle-cli --help");
-        const std::vector<Call> calls =
-            script.empty() ? ParseCalls(words) : ParseScriptFile(script);
-        Workspace workspace(std::cout);
-        RunCalls(calls, workspace);
-    } catch (const CLI::ParseError& error) {
-        return Report(error, kWrongUsage);
     } catch (const UsageError& error) {
         return Report(error, kWrongUsage);
     } catch (const std::bad_alloc&) {
