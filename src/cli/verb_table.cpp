@@ -16,9 +16,15 @@ std::string Usage(const Verb& verb) {
 
 std::string Describe(const Call& call, std::string problem) {
     // The core's messages begin with the path, which mostly ends the call already.
-    const std::string path = call.Words.back() + ": ";
-    if (problem.starts_with(path))
-        problem.erase(0, path.size());
+    std::string path = call.Words.back();
+    for (const FileUse& use : call.Files) {
+        if (use.File.IsStandard() && problem.starts_with(kMemoryFiles))
+            path = problem.substr(0, problem.find(": "));
+        else if (!use.File.Format.empty() && call.Words.back().ends_with(use.File.Path.string()))
+            path = use.File.Path.string();
+    }
+    if (problem.starts_with(path + ": "))
+        problem.erase(0, path.size() + 2);
     return call.Place + JoinWords(call.Words) + ": " + problem;
 }
 
@@ -73,7 +79,11 @@ std::vector<Call> ParseCalls(std::span<const std::string> words) {
         const auto taken = [&] { return words.first(1 + arguments.Taken()); };
         try {
             Action action = verb->Read(arguments);
-            calls.push_back({{taken().begin(), taken().end()}, std::move(action)});
+            calls.push_back({{taken().begin(), taken().end()},
+                             std::move(action),
+                             {},
+                             arguments.Files(),
+                             arguments.Prints()});
         } catch (const UsageError& error) {
             throw UsageError(JoinWords(taken()) + ": " + error.what());
         }

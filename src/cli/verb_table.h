@@ -9,6 +9,7 @@
 #include <string_view>
 #include <vector>
 
+#include "cli/used_files.h"
 #include "cli/words.h"
 #include "cli/workspace.h"
 
@@ -32,10 +33,19 @@ Action ReadNothing(Words&) {
     return kRun;
 }
 
-// The Read of a verb whose one argument is the path of a file.
-template <void (*kRun)(Workspace&, const std::filesystem::path&)>
-Action ReadPath(Words& arguments) {
-    return [path = arguments.Path("PATH")](Workspace& workspace) { kRun(workspace, path); };
+// The same of one that prints.
+template <void (*kRun)(Workspace&)>
+Action ReadPrinter(Words& words) {
+    words.NotePrinting();
+    return kRun;
+}
+
+// The Read of a verb whose one argument is a file to read.
+template <void (*kRun)(Workspace&, const InputFile&), FileRole kKind = FileRole::Read>
+Action ReadInput(Words& words) {
+    return [file = words.Input("PATH", kKind)](Workspace& workspace) {
+        kRun(workspace, InputFile(workspace, file));
+    };
 }
 
 // By topic, in the order of the help.
@@ -67,6 +77,8 @@ struct Call {
     std::vector<std::string> Words;  // as typed, the verb first
     Action Run;
     std::string Place{};  // in a script: "FILE:LINE: "
+    std::vector<FileUse> Files{};
+    bool Prints = false;
 };
 
 // All calls in the words. Throws UsageError, which begins with the verb that it is about.

@@ -140,6 +140,28 @@ graphics::Argb Words::Color(const char* name) {
     return word.size() == 7 ? graphics::SetAlphaByte(color, 255) : color;
 }
 
+FileName Words::Input(const char* name, FileRole kind) {
+    files_.push_back({kind, ParseFileName(Text(name), name)});
+    return files_.back().File;
+}
+
+FileName Words::Output(const char* name, std::span<const std::string_view> formats, FileRole kind) {
+    const FileName file = ParseFileName(Text(name), name);
+    if (!file.Format.empty() && std::ranges::find(formats, file.Format) == formats.end()) {
+        std::string list;
+        for (const std::string_view format : formats)
+            list.append(list.empty() ? "" : ", ").append(format);
+        throw UsageError(std::string(name) + ": no " + file.Format + " is written here, but " +
+                         list);
+    }
+    files_.push_back({kind, file});
+    return file;
+}
+
+void Words::NoteSets(const std::filesystem::path& folder, std::vector<formats::IconSet> sets) {
+    files_.push_back({FileRole::SetFolder, {{}, folder}, std::move(sets)});
+}
+
 std::filesystem::path Words::Path(const char* name) {
     const std::string& word = Text(name);
     if (word.empty())

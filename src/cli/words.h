@@ -9,6 +9,7 @@
 #include <string_view>
 #include <vector>
 
+#include "cli/file_name.h"
 #include "graphics/color.h"
 
 namespace orbelle::cli {
@@ -60,8 +61,21 @@ public:
     // #RRGGBB (alpha 255) or #AARRGGBB.
     graphics::Argb Color(const char* name);
 
-    // Any word but an empty one.
+    // A file that is read or written; "-" is standard input or output. What is written is one of
+    // `formats`, where a format is said.
+    FileName Input(const char* name, FileRole kind = FileRole::Read);
+    FileName Output(const char* name, std::span<const std::string_view> formats,
+                    FileRole kind = FileRole::Written);
+
+    // A folder, without anything special; any word but an empty one.
     std::filesystem::path Path(const char* name);
+
+    // What the verb uses besides: sets of files in a folder, standard output.
+    void NoteSets(const std::filesystem::path& folder, std::vector<formats::IconSet> sets);
+    void NotePrinting() { prints_ = true; }
+
+    const std::vector<FileUse>& Files() const { return files_; }
+    bool Prints() const { return prints_; }
 
     // The place of the word in the list.
     std::size_t Choice(const char* name, std::span<const std::string_view> choices);
@@ -78,6 +92,8 @@ public:
 private:
     std::span<const std::string> words_;
     std::size_t taken_ = 0;
+    std::vector<FileUse> files_;
+    bool prints_ = false;
 };
 
 }  // namespace orbelle::cli

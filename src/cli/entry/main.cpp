@@ -7,6 +7,7 @@
 
 #include "cli/entry/process.h"
 #include "cli/options.h"
+#include "cli/plan.h"
 #include "cli/recover.h"
 #include "cli/script.h"
 #include "cli/verb_table.h"
@@ -35,6 +36,7 @@ std::vector<Call> ParseScriptFile(const std::string& name) {
 void Run(const Options& options) {
     const std::vector<Call> calls =
         options.Script ? ParseScriptFile(*options.Script) : ParseCalls(options.Verbs);
+    PlanRun(calls, options.Script == "-");
     Workspace workspace(std::cout);
     RunCalls(calls, workspace);
 }
