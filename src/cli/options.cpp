@@ -7,24 +7,36 @@
 namespace orbelle::cli {
 namespace {
 
-constexpr std::string_view kOptions[] = {"--help", "--version", "--script", "--recover"};
+constexpr std::string_view kOptions[] = {"--help", "--version", "--script",     "--recover",
+                                         "--each", "--jobs",    "--keep-going", "--json"};
+
+constexpr int kMaxJobs = 1024;
 
 constexpr char kHelp[] =
     R"(The icon editor without a window:
   orbelle-cli VERB [ARG...] [VERB [ARG...]]...
   orbelle-cli --script FILE
+  orbelle-cli --each FILE... [--jobs N] [--keep-going] [--json] -- VERB [ARG...]...
   orbelle-cli --recover [list | N PATH]
 
 Options:
   -h, --help [VERB]           print this, or what a verb does, with an example
   -v, --version               print the version
   --script FILE               read the verbs from FILE, one a line; '-': standard input
+  --each FILE... --           run the verbs, or --script FILE, once for each file; '-': the files
+                              named on standard input, one a line. In the words of the verbs {}
+                              is the file, {name} its name, {stem} the name without extension,
+                              {dir} its folder
+  --jobs N                    so many files at a time; one for each core if not said
+  --keep-going                a file that fails does not keep the others from being done
+  --json                      print an object for each file, one a line
   --recover [list | N PATH]   list what the window kept safe when it was killed, or write
                               number N to PATH as a document
 
 Examples:
   orbelle-cli open leaf.png style crystal save leaf.volf export leaf.ico
   orbelle-cli open logo.svg export-set icons windows macos linux web android ios
+  orbelle-cli --each icons/*.svg -- open {} export {dir}/{stem}.ico
 
 Verbs, run in order:)";
 
@@ -54,12 +66,17 @@ private:
     // The word of an option that needs one.
     std::string TakeValue(const std::string& option);
     void ReadOption(const std::string& option);
+    void ReadFiles();
+    void FinishEach();
     void ReadVerbs();
     void RequireEnd(const char* problem) const;
 
     std::vector<std::string> words_;
     std::size_t taken_ = 0;
     Options options_;
+    Options::EachFile each_;
+    bool isEach_ = false;
+    std::string eachOption_;  // the last one that needs --each
 };
 
 // "--OPTION=VALUE" are two words.
@@ -98,11 +115,46 @@ void Reader::ReadOption(const std::string& option) {
         while (!IsAtEnd() && options_.Recover.size() < 2)
             options_.Recover.push_back(Take());
         RequireEnd("--recover stands alone");
+    } else if (option == "--each") {
+        ReadFiles();
+    } else if (option == "--jobs") {
+        const std::string count = TakeValue(option);
+        each_.Jobs = Words({&count, 1}).Integer("--jobs", 1, kMaxJobs);
+        eachOption_ = option;
+    } else if (option == "--keep-going") {
+        each_.KeepsGoing = true;
+        eachOption_ = option;
+    } else if (option == "--json") {
+        each_.IsJson = true;
+        eachOption_ = option;
     } else if (option == "--script") {
         options_.Script = TakeValue(option);
     } else {
         throw UsageError(option + ": unknown option" + DidYouMean(option, kOptions));
     }
+}
+
+void Reader::ReadFiles() {
+    isEach_ = true;
+    while (!IsAtEnd() && (Next() == "-" || !Next().starts_with('-')))
+        each_.Files.push_back(Take());
+    if (each_.Files.empty())
+        throw UsageError("--each: FILE is missing");
+}
+
+// Between the options and the verbs.
+void Reader::FinishEach() {
+    if (!isEach_ && !eachOption_.empty())
+        throw UsageError(eachOption_ + " goes with --each");
+    if (!isEach_)
+        return;
+    if (!IsAtEnd() && Next().starts_with("--script"))
+        ReadOption(TakeOption());
+    if (options_.Task == Options::Task::Run && IsAtEnd() && !options_.Script)
+        throw UsageError("--each: \"--\" and verbs are missing after the files");
+    if (std::ranges::count(each_.Files, "-") + (options_.Script == "-" ? 1 : 0) > 1)
+        throw UsageError("standard input can be read once");
+    options_.Each = each_;
 }
 
 // A question about the verb before it takes the place of the run.
@@ -123,6 +175,7 @@ Options Reader::Read() {
         ReadOption(TakeOption());
     if (!IsAtEnd() && Next() == "--")
         Take();
+    FinishEach();
     if (options_.Task == Options::Task::Run)
         ReadVerbs();
     if (options_.Task == Options::Task::Run &&

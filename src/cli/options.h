@@ -17,6 +17,14 @@ struct Options {
     Options::Task Task = Task::Run;
     const Verb* HelpOn = nullptr;      // null: on all
     std::vector<std::string> Recover;  // the words after --recover
+    // Verbs that run once for each of these, which may be none.
+    struct EachFile {
+        std::vector<std::string> Files;  // "-": those named on standard input
+        std::optional<int> Jobs;
+        bool KeepsGoing = false;
+        bool IsJson = false;
+    };
+    std::optional<EachFile> Each;
     // One of both for Task::Run: a file, "-" for standard input; or the words of the verbs.
     std::optional<std::string> Script;
     std::vector<std::string> Verbs;

@@ -4,7 +4,9 @@
 #include <fstream>
 #include <iostream>
 #include <new>
+#include <thread>
 
+#include "cli/batch.h"
 #include "cli/entry/process.h"
 #include "cli/options.h"
 #include "cli/plan.h"
@@ -16,6 +18,7 @@ namespace {
 
 using namespace orbelle::cli;
 
+constexpr int kSucceeded = 0;
 constexpr int kFailed = 1;
 constexpr int kWrongUsage = 2;
 
@@ -24,21 +27,56 @@ int Report(const std::exception& error, int status) {
     return status;
 }
 
-std::vector<Call> ParseScriptFile(const std::string& name) {
+std::vector<VerbLine> ReadScriptFile(const std::string& name) {
     if (name == "-")
-        return ParseScript(std::cin, name);
+        return ReadScript(std::cin, name);
     std::ifstream file(name, std::ios::binary);
     if (!file)
         throw UsageError(name + ": " + std::strerror(errno));
-    return ParseScript(file, name);
+    return ReadScript(file, name);
 }
 
-void Run(const Options& options) {
-    const std::vector<Call> calls =
-        options.Script ? ParseScriptFile(*options.Script) : ParseCalls(options.Verbs);
-    PlanRun(calls, options.Script == "-");
+// In the place of "-" those that standard input names.
+std::vector<std::string> ReadFileNames(const std::vector<std::string>& words) {
+    std::vector<std::string> names;
+    for (const std::string& word : words) {
+        if (word != "-") {
+            names.push_back(word);
+            continue;
+        }
+        for (std::string line; std::getline(std::cin, line);) {
+            if (!line.empty())
+                names.push_back(line);
+        }
+        if (std::cin.bad())
+            throw UsageError("-: can't be read");
+    }
+    return names;
+}
+
+int RunEach(const Options::EachFile& each, std::vector<VerbLine> lines, bool inputIsTaken) {
+    const bool namesAreInput = std::ranges::find(each.Files, "-") != each.Files.end();
+    const int cores = static_cast<int>(std::max(std::thread::hardware_concurrency(), 1U));
+    const Batch batch{.Files = ReadFileNames(each.Files),
+                      .Lines = std::move(lines),
+                      .Jobs = each.Jobs.value_or(cores),
+                      .KeepsGoing = each.KeepsGoing,
+                      .IsJson = each.IsJson,
+                      .InputIsTaken = inputIsTaken || namesAreInput};
+    return RunBatch(batch, {std::cout, std::cerr, IsTerminalForErrors()}) ? kSucceeded : kFailed;
+}
+
+int Run(const Options& options) {
+    const bool inputIsTaken = options.Script == "-";
+    const std::vector<VerbLine> lines =
+        options.Script ? ReadScriptFile(*options.Script) : std::vector{VerbLine{options.Verbs}};
+    if (options.Each)
+        return RunEach(*options.Each, lines, inputIsTaken);
+    const std::vector<Call> calls = ParseLines(lines);
+    PlanRun(calls, inputIsTaken);
     Workspace workspace(std::cout);
     RunCalls(calls, workspace);
+    return kSucceeded;
 }
 
 }  // namespace
@@ -46,6 +84,7 @@ void Run(const Options& options) {
 int main(int argc, char** argv) {
     PrepareProcess();
     std::ios::sync_with_stdio(false);
+    std::cin.tie(nullptr);  // several threads may be at work
     try {
         const std::vector<std::string> words(argv + std::min(argc, 1), argv + argc);
         const Options options = ReadOptions(words);
@@ -62,8 +101,7 @@ int main(int argc, char** argv) {
                 Recover(options.Recover, std::cout);
                 break;
             case Options::Task::Run:
-                Run(options);
-                break;
+                return Run(options);
         }
     } catch (const UsageError& error) {
         return Report(error, kWrongUsage);
@@ -73,5 +111,5 @@ int main(int argc, char** argv) {
     } catch (const std::exception& error) {
         return Report(error, kFailed);
     }
-    return 0;
+    return kSucceeded;
 }
