@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "cli/words.h"
+#include "cli/usage_error.h"
 
 namespace orbelle::cli {
 

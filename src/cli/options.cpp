@@ -2,13 +2,15 @@
 
 #include <algorithm>
 
+#include "cli/completion.h"
 #include "cli/verb_table.h"
 
 namespace orbelle::cli {
 namespace {
 
-constexpr std::string_view kOptions[] = {"--help", "--version", "--script",     "--recover",
-                                         "--each", "--jobs",    "--keep-going", "--json"};
+constexpr std::string_view kOptions[] = {"--help",       "--version", "--script",
+                                         "--recover",    "--each",    "--jobs",
+                                         "--keep-going", "--json",    "--completion"};
 
 constexpr int kMaxJobs = 1024;
 
@@ -32,6 +34,7 @@ Options:
   --json                      print an object for each file, one a line
   --recover [list | N PATH]   list what the window kept safe when it was killed, or write
                               number N to PATH as a document
+  --completion bash|zsh|fish  print what completes the words of a command line
 
 Examples:
   orbelle-cli open leaf.png style crystal save leaf.volf export leaf.ico
@@ -110,6 +113,11 @@ void Reader::ReadOption(const std::string& option) {
     } else if (option == "-v" || option == "--version") {
         options_.Task = Options::Task::Version;
         RequireEnd("--version stands alone");
+    } else if (option == "--completion") {
+        options_.Task = Options::Task::Completion;
+        const std::string shell = TakeValue(option);
+        options_.Shell = kShells[Words({&shell, 1}).Choice("--completion", kShells)];
+        RequireEnd("--completion stands alone");
     } else if (option == "--recover") {
         options_.Task = Options::Task::Recover;
         while (!IsAtEnd() && options_.Recover.size() < 2)

@@ -12,10 +12,11 @@ namespace orbelle::cli {
 struct Verb;
 
 struct Options {
-    enum class Task { Run, Help, Version, Recover };
+    enum class Task { Run, Help, Version, Completion, Recover };
 
     Options::Task Task = Task::Run;
     const Verb* HelpOn = nullptr;      // null: on all
+    std::string Shell;                 // for Task::Completion
     std::vector<std::string> Recover;  // the words after --recover
     // Verbs that run once for each of these, which may be none.
     struct EachFile {

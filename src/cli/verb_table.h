@@ -25,6 +25,7 @@ struct Verb {
     Action (*Read)(Words& arguments);  // throws UsageError; changes nothing
     std::string_view Example;          // verbs of a run, as a shell takes them
     std::string_view Values = {};      // words that an argument may be, a blank between them
+    std::string_view Files = {};  // likewise the extensions of files that it may be; "/": a folder
 };
 
 // The Read of a verb without arguments.

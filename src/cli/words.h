@@ -4,21 +4,15 @@
 #include <filesystem>
 #include <limits>
 #include <span>
-#include <stdexcept>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "cli/file_name.h"
+#include "cli/usage_error.h"
 #include "graphics/color.h"
 
 namespace orbelle::cli {
-
-// Wrong usage; what() says what is wrong.
-class UsageError : public std::runtime_error {
-public:
-    using std::runtime_error::runtime_error;
-};
 
 // The words as they could be typed: those with blanks, and empty ones, between double quotes.
 std::string JoinWords(std::span<const std::string> words);

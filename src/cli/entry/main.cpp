@@ -7,6 +7,7 @@
 #include <thread>
 
 #include "cli/batch.h"
+#include "cli/completion.h"
 #include "cli/entry/process.h"
 #include "cli/options.h"
 #include "cli/plan.h"
@@ -95,6 +96,10 @@ int main(int argc, char** argv) {
                 break;
             case Options::Task::Version:
                 std::cout << "orbelle-cli " ORBELLE_VERSION "\n";
+                RequirePrinted(std::cout);
+                break;
+            case Options::Task::Completion:
+                std::cout << CompletionScript(options.Shell);
                 RequirePrinted(std::cout);
                 break;
             case Options::Task::Recover:
