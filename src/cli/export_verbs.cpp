@@ -71,6 +71,7 @@ Action ReadCombine(Words& words) {
         const formats::ExportSettings& settings = workspace.Editor.ExportSettings;
         std::list<InputFile> inputs;
         std::vector<fs::path> paths;
+        paths.reserve(pictures.size());
         for (const FileName& picture : pictures)
             paths.push_back(inputs.emplace_back(workspace, picture).Path());
         const OutputFile file(output);

@@ -5,8 +5,6 @@
 namespace orbelle::cli {
 namespace {
 
-namespace fs = std::filesystem;
-
 class Planner {
 public:
     void Add(const Call& call);

@@ -146,7 +146,7 @@ FileName Words::Input(const char* name, FileRole kind) {
 }
 
 FileName Words::Output(const char* name, std::span<const std::string_view> formats, FileRole kind) {
-    const FileName file = ParseFileName(Text(name), name);
+    FileName file = ParseFileName(Text(name), name);
     if (!file.Format.empty() && std::ranges::find(formats, file.Format) == formats.end()) {
         std::string list;
         for (const std::string_view format : formats)
