@@ -129,20 +129,32 @@ void Redo(Workspace& workspace) {
 }
 
 constexpr Verb kVerbs[] = {
-    {"select", "N", "click on the row of layer N; 0 is the bottom", ReadSelect},
-    {"add-layer", "", "an empty layer above the selected one", ReadNothing<AddLayer>},
-    {"opacity", "V...", "one drag of the opacity slider through each V (0 to 100)", ReadOpacity},
-    {"scale", "V...", "one drag of the scale slider (0 to 100, 50 is rest)", ReadScale},
-    {"hue", "V...", "one drag of the hue slider (0 to 100)", ReadHue},
-    {"saturation", "V...", "one drag of the saturation slider (0 to 100)", ReadSaturation},
-    {"brightness", "V...", "one drag of the brightness slider (0 to 100)", ReadBrightness},
-    {"contrast", "V...", "one drag of the contrast slider (0 to 100)", ReadContrast},
+    {"select", "N", "click on the row of layer N; 0 is the bottom", ReadSelect,
+     "open leaf.volf select 0 style blur save leaf.volf"},
+    {"add-layer", "", "an empty layer above the selected one", ReadNothing<AddLayer>,
+     "open leaf.volf add-layer save leaf.volf"},
+    {"opacity", "V...", "one drag of the opacity slider through each V (0 to 100)", ReadOpacity,
+     "open leaf.png opacity 50 export pale.png"},
+    {"scale", "V...", "one drag of the scale slider (0 to 100, 50 is rest)", ReadScale,
+     "open leaf.png scale 40 export smaller.png"},
+    {"hue", "V...", "one drag of the hue slider (0 to 100)", ReadHue,
+     "open leaf.png hue 70 export other.png"},
+    {"saturation", "V...", "one drag of the saturation slider (0 to 100)", ReadSaturation,
+     "open leaf.png saturation 20 export dull.png"},
+    {"brightness", "V...", "one drag of the brightness slider (0 to 100)", ReadBrightness,
+     "open leaf.png brightness 60 export light.png"},
+    {"contrast", "V...", "one drag of the contrast slider (0 to 100)", ReadContrast,
+     "open leaf.png contrast 70 export hard.png"},
     {"style", "NAME",
      "disabled hot fresh ios origami-vertical origami-horizontal mac vista crystal blur sharpen "
      "irradiation shade reflection shadow",
-     ReadStyle},
-    {"undo", "", "take back one step", ReadNothing<Undo>},
-    {"redo", "", "do again what was taken back", ReadNothing<Redo>},
+     ReadStyle, "open leaf.png style crystal export leaf.ico",
+     "disabled hot fresh ios origami-vertical origami-horizontal mac vista crystal blur sharpen "
+     "irradiation shade reflection shadow"},
+    {"undo", "", "take back one step", ReadNothing<Undo>,
+     "open leaf.png style crystal undo style mac export leaf.ico"},
+    {"redo", "", "do again what was taken back", ReadNothing<Redo>,
+     "open leaf.png style mac undo redo export leaf.ico"},
 };
 
 }  // namespace

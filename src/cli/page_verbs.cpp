@@ -68,15 +68,19 @@ Action ReadZoom(Words& words) {
 }
 
 constexpr Verb kVerbs[] = {
-    {"page", "W H", "the page-size sliders; an undo step for each side that changes", ReadPage},
-    {"background", "COLOUR|none", "the page background: #RRGGBB or #AARRGGBB", ReadBackground},
+    {"page", "W H", "the page-size sliders; an undo step for each side that changes", ReadPage,
+     "open leaf.volf page 128 128 save leaf.volf"},
+    {"background", "COLOUR|none", "the page background: #RRGGBB or #AARRGGBB", ReadBackground,
+     "open leaf.png background '#FFFFFF' export leaf.jpg", "none"},
     {"size", "N|master [RECIPE]",
      "draw icon size N (8 to 256) by hand from here on, or the master again; RECIPE begins anew: "
      "plain sharper fill fill-outline outline snapped",
-     ReadSize},
+     ReadSize, "open leaf.volf size 16 sharper export leaf.ico",
+     "master plain sharper fill fill-outline outline snapped"},
     {"drop-size", "N", "give up the artwork of icon size N, which the master makes again",
-     ReadDropSize},
-    {"zoom", "Z", "the view's zoom, 0.2 to 20; 1 if not said", ReadZoom},
+     ReadDropSize, "open leaf.volf drop-size 16 save leaf.volf"},
+    {"zoom", "Z", "the view's zoom, 0.2 to 20; 1 if not said", ReadZoom,
+     "open leaf.png zoom 4 write-scene leaf-scene.png"},
 };
 
 }  // namespace

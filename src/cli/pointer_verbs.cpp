@@ -95,13 +95,20 @@ Action ReadNudge(Words& words) {
 }
 
 constexpr Verb kVerbs[] = {
-    {"drag", "X Y X Y...", "press, move and release over these page pixels", ReadDrag<0>},
-    {"shift-drag", "X Y X Y...", "the same with Shift held", ReadDrag<kShift>},
-    {"click", "X Y", "press and release on one page pixel", ReadClick<kLeftButton, 0>},
-    {"shift-click", "X Y", "the same with Shift held", ReadClick<kLeftButton, kShift>},
-    {"right-click", "X Y", "the same with the right button", ReadClick<kRightButton, 0>},
-    {"key", "KEY", "left right up down delete, pressed on the scene", ReadKey},
-    {"nudge", "left|right|up|down", "move the selected layer by half a pixel", ReadNudge},
+    {"drag", "X Y X Y...", "press, move and release over these page pixels", ReadDrag<0>,
+     "new 64 64 tool pencil drag 8 8 32 56 56 8 export v.png"},
+    {"shift-drag", "X Y X Y...", "the same with Shift held", ReadDrag<kShift>,
+     "new 64 64 tool filled-ellipse shift-drag 8 8 40 56 export disc.png"},
+    {"click", "X Y", "press and release on one page pixel", ReadClick<kLeftButton, 0>,
+     "open leaf.png tool pick click 20 20 tool pencil drag 0 0 63 0 save leaf.volf"},
+    {"shift-click", "X Y", "the same with Shift held", ReadClick<kLeftButton, kShift>,
+     "open leaf.volf tool move shift-click 20 20 info"},
+    {"right-click", "X Y", "the same with the right button", ReadClick<kRightButton, 0>,
+     "new 64 64 tool select-polygon click 4 4 click 60 4 click 32 60 right-click 32 60 selection"},
+    {"key", "KEY", "left right up down delete, pressed on the scene", ReadKey,
+     "open leaf.png key right key right save leaf.volf", "left right up down delete"},
+    {"nudge", "left|right|up|down", "move the selected layer by half a pixel", ReadNudge,
+     "open leaf.png nudge up save leaf.volf", "left right up down"},
 };
 
 }  // namespace

@@ -54,8 +54,7 @@ void ListCopies(std::ostream& output) {
 }  // namespace
 
 void Recover(std::span<const std::string> words, std::ostream& output) {
-    // An option without a word is an empty one.
-    const bool isList = words.size() == 1 && (words[0].empty() || words[0] == "list");
+    const bool isList = words.empty() || (words.size() == 1 && words[0] == "list");
     int number = 0;
     std::filesystem::path path;
     if (!isList) {

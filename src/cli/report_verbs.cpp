@@ -27,8 +27,20 @@ void PrintRuns(std::ostream& output, const std::vector<RectI>& rects) {
     }
 }
 
-void WritePng(const graphics::Bitmap& image, const std::filesystem::path& path) {
-    graphics::WriteFile(path, graphics::EncodePng(image));
+void WritePng(Workspace& workspace, const graphics::Bitmap& image, const FileName& name) {
+    const OutputFile file(name);
+    graphics::WriteFile(file.Path(), graphics::EncodePng(image));
+    file.Finish(workspace);
+}
+
+FileName ReadPngName(Words& words) {
+    static constexpr std::string_view kFormats[] = {"png"};
+    return words.Output("PATH", kFormats);
+}
+
+template <void (*kRun)(Workspace&, const FileName&)>
+Action ReadWrite(Words& words) {
+    return [name = ReadPngName(words)](Workspace& workspace) { kRun(workspace, name); };
 }
 
 void Info(Workspace& workspace) {
@@ -37,8 +49,8 @@ void Info(Workspace& workspace) {
     RequirePrinted(workspace.Output);
 }
 
-void Entries(Workspace& workspace, const std::filesystem::path& path) {
-    workspace.Output << DescribeEntries(formats::ReadIconFile(path)) << '\n';
+void Entries(Workspace& workspace, const InputFile& file) {
+    workspace.Output << DescribeEntries(formats::ReadIconFile(file.Path())) << '\n';
     RequirePrinted(workspace.Output);
 }
 
@@ -52,7 +64,13 @@ void Check(Workspace& workspace) {
     RequirePrinted(workspace.Output);
 }
 
+Action ReadEntries(Words& words) {
+    words.NotePrinting();
+    return ReadInput<Entries>(words);
+}
+
 Action ReadRegion(Words& words) {
+    words.NotePrinting();
     return [layer = words.Integer("N", 0)](Workspace& workspace) {
         PrintRuns(workspace.Output, RequireLayer(workspace, layer).Region.Rects());
         RequirePrinted(workspace.Output);
@@ -69,38 +87,63 @@ void PrintSelection(Workspace& workspace) {
 
 Action ReadWriteLayer(Words& words) {
     const int layer = words.Integer("N", 0);
-    return [layer, path = words.Path("PATH")](Workspace& workspace) {
+    return [layer, name = ReadPngName(words)](Workspace& workspace) {
         const graphics::Bitmap& image = RequireLayer(workspace, layer).Image;
         if (image.IsEmpty())
             throw Failure("the layer has no pixels");
-        WritePng(image, path);
+        WritePng(workspace, image, name);
     };
 }
 
-void WritePage(Workspace& workspace, const std::filesystem::path& path) {
+void WritePage(Workspace& workspace, const FileName& name) {
     RequireDocument(workspace);
-    WritePng(workspace.Editor.Canvas, path);
+    WritePng(workspace, workspace.Editor.Canvas, name);
 }
 
-void WriteScene(Workspace& workspace, const std::filesystem::path& path) {
+void WriteScene(Workspace& workspace, const FileName& name) {
     RequireDocument(workspace);
     const WindowView view(workspace);
     workspace.RunDuringDrag([](editing::Editor& editor) { editor.Changed.Scene = true; });
-    WritePng(workspace.Editor.Scene, path);
+    WritePng(workspace, workspace.Editor.Scene, name);
 }
 
 constexpr Verb kVerbs[] = {
-    {"info", "", "print the document as one JSON object on one line", ReadNothing<Info>},
-    {"entries", "PATH", "print the images of an icon file as one JSON array on one line",
-     ReadPath<Entries>},
+    {"info", "", "print the document as one JSON object on one line", ReadPrinter<Info>,
+     "open leaf.volf info"},
+    {"entries",
+     "PATH",
+     "print the images of an icon file as one JSON array on one line",
+     ReadEntries,
+     "entries app.ico",
+     {},
+     "ico cur"},
     {"check", "", "print what is wrong with the icon at its export sizes, a JSON object a line",
-     ReadNothing<Check>},
-    {"region", "N", "print layer N's region: a line 'y x0 x1' for each run of pixels", ReadRegion},
-    {"selection", "", "print the selection's region in the same form", ReadNothing<PrintSelection>},
-    {"write-layer", "N PATH", "write layer N's own pixels as a PNG", ReadWriteLayer},
-    {"write-page", "PATH", "write the composed page as a PNG", ReadPath<WritePage>},
-    {"write-scene", "PATH", "write the scene as the window shows it, 1024 by 768, as a PNG",
-     ReadPath<WriteScene>},
+     ReadPrinter<Check>, "open leaf.volf icon-sizes favicon check"},
+    {"region", "N", "print layer N's region: a line 'y x0 x1' for each run of pixels", ReadRegion,
+     "open leaf.png region 0"},
+    {"selection", "", "print the selection's region in the same form", ReadPrinter<PrintSelection>,
+     "open leaf.png select-all selection"},
+    {"write-layer",
+     "N PATH",
+     "write layer N's own pixels as a PNG",
+     ReadWriteLayer,
+     "open leaf.volf write-layer 0 bottom.png",
+     {},
+     "png"},
+    {"write-page",
+     "PATH",
+     "write the composed page as a PNG",
+     ReadWrite<WritePage>,
+     "open leaf.volf write-page page.png",
+     {},
+     "png"},
+    {"write-scene",
+     "PATH",
+     "write the scene as the window shows it, 1024 by 768, as a PNG",
+     ReadWrite<WriteScene>,
+     "open leaf.volf zoom 2 write-scene scene.png",
+     {},
+     "png"},
 };
 
 }  // namespace

@@ -51,11 +51,15 @@ std::string ReadText(std::istream& script, const std::string& name) {
     return text;
 }
 
-std::vector<Call> ParseLine(std::string_view line) {
+std::vector<std::string> WordsOf(std::string_view line) {
     if (line.find('\0') != std::string_view::npos)
         throw UsageError("a byte of 0; a script is plain text");
-    std::vector<Call> calls = ParseCalls(SplitLine(line));
-    if (calls.size() > 1)
+    return SplitLine(line);
+}
+
+std::vector<Call> ParseLine(const VerbLine& line) {
+    std::vector<Call> calls = ParseCalls(line.Words);
+    if (calls.size() > 1 && !line.Place.empty())
         throw UsageError(JoinWords(calls[1].Words) + ": a second verb on the line");
     return calls;
 }
@@ -72,9 +76,9 @@ std::vector<std::string> SplitLine(std::string_view line) {
     }
 }
 
-std::vector<Call> ParseScript(std::istream& script, const std::string& name) {
+std::vector<VerbLine> ReadScript(std::istream& script, const std::string& name) {
     const std::string text = ReadText(script, name);
-    std::vector<Call> calls;
+    std::vector<VerbLine> lines;
     std::string_view rest = text;
     if (rest.starts_with(kByteOrderMark))
         rest.remove_prefix(kByteOrderMark.size());
@@ -83,12 +87,25 @@ std::vector<Call> ParseScript(std::istream& script, const std::string& name) {
         rest.remove_prefix(std::min(line.size() + 1, rest.size()));
         const std::string place = name + ':' + std::to_string(number) + ": ";
         try {
+            if (std::vector<std::string> words = WordsOf(line); !words.empty())
+                lines.push_back({std::move(words), place});
+        } catch (const UsageError& error) {
+            throw UsageError(place + error.what());
+        }
+    }
+    return lines;
+}
+
+std::vector<Call> ParseLines(const std::vector<VerbLine>& lines) {
+    std::vector<Call> calls;
+    for (const VerbLine& line : lines) {
+        try {
             for (Call& call : ParseLine(line)) {
-                call.Place = place;
+                call.Place = line.Place;
                 calls.push_back(std::move(call));
             }
         } catch (const UsageError& error) {
-            throw UsageError(place + error.what());
+            throw UsageError(line.Place + error.what());
         }
     }
     return calls;

@@ -119,20 +119,34 @@ Action ReadMirror(Words& words) {
 }
 
 constexpr Verb kVerbs[] = {
-    {"foreground", "COLOUR", "the foreground colour: #RRGGBB or #AARRGGBB", ReadWellColor<0>},
-    {"background-colour", "COLOUR", "the background colour", ReadWellColor<1>},
-    {"active", "foreground|background", "the colour in use", ReadActive},
-    {"swap", "", "exchange the two colours", ReadNothing<Swap>},
-    {"fill", "KIND", "solid horizontal vertical radial", ReadFill},
-    {"line-width", "N", "the width of lines and outlines (1 to 255)", ReadLineWidth},
-    {"brush-size", "N", "the size of the brush eraser (1 to 100)", ReadBrushSize},
-    {"brush-opacity", "N", "the strength of the brush eraser (1 to 100)", ReadBrushOpacity},
+    {"foreground", "COLOUR", "the foreground colour: #RRGGBB or #AARRGGBB", ReadWellColor<0>,
+     "new 64 64 foreground '#D03030' tool filled-ellipse drag 6 6 58 58 export disc.ico"},
+    {"background-colour", "COLOUR", "the background colour", ReadWellColor<1>,
+     "new 64 64 background-colour '#80204060' active background tool line drag 0 0 63 63 export "
+     "line.png"},
+    {"active", "foreground|background", "the colour in use", ReadActive,
+     "new 64 64 active background tool pencil drag 4 4 60 60 export line.png",
+     "foreground background"},
+    {"swap", "", "exchange the two colours", ReadNothing<Swap>,
+     "new 64 64 swap tool pencil drag 4 4 60 60 export line.png"},
+    {"fill", "KIND", "solid horizontal vertical radial", ReadFill,
+     "new 64 64 fill radial tool filled-ellipse drag 6 6 58 58 export ball.png",
+     "solid horizontal vertical radial"},
+    {"line-width", "N", "the width of lines and outlines (1 to 255)", ReadLineWidth,
+     "new 64 64 tool ellipse line-width 6 drag 6 6 58 58 export ring.png"},
+    {"brush-size", "N", "the size of the brush eraser (1 to 100)", ReadBrushSize,
+     "open leaf.png tool brush-eraser brush-size 20 drag 0 0 63 63 save leaf.volf"},
+    {"brush-opacity", "N", "the strength of the brush eraser (1 to 100)", ReadBrushOpacity,
+     "open leaf.png tool brush-eraser brush-opacity 50 click 8 8 save leaf.volf"},
     {"tool", "NAME",
      "move pencil line rectangle ellipse filled-rectangle filled-ellipse pick pencil-eraser "
      "brush-eraser select-rectangle select-ellipse select-polygon",
-     ReadTool},
+     ReadTool, "new 64 64 tool filled-rectangle drag 8 8 56 56 export box.png",
+     "move pencil line rectangle ellipse filled-rectangle filled-ellipse pick pencil-eraser "
+     "brush-eraser select-rectangle select-ellipse select-polygon"},
     {"mirror", "AXES", "none horizontal vertical both: drawing is mirrored over the page's middle",
-     ReadMirror},
+     ReadMirror, "new 64 64 mirror horizontal tool pencil drag 8 8 24 56 export face.png",
+     "none horizontal vertical both"},
 };
 
 }  // namespace

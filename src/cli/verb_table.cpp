@@ -1,7 +1,6 @@
 #include "cli/verb_table.h"
 
 #include <algorithm>
-#include <array>
 #include <new>
 #include <utility>
 
@@ -10,41 +9,62 @@ namespace {
 
 constexpr std::size_t kHelpColumn = 36;
 
-std::array<std::span<const Verb>, 8> Topics() {
-    return {FileVerbs(),  ExportVerbs(), PageVerbs(),    LayerVerbs(),
-            StackVerbs(), ToolVerbs(),   PointerVerbs(), ReportVerbs()};
+std::string Usage(const Verb& verb) {
+    std::string usage(verb.Name);
+    return verb.Arguments.empty() ? usage : usage.append(" ").append(verb.Arguments);
 }
 
 std::string Describe(const Call& call, std::string problem) {
     // The core's messages begin with the path, which mostly ends the call already.
-    const std::string path = call.Words.back() + ": ";
-    if (problem.starts_with(path))
-        problem.erase(0, path.size());
+    std::string path = call.Words.back();
+    for (const FileUse& use : call.Files) {
+        if (use.File.IsStandard() && problem.starts_with(kMemoryFiles))
+            path = problem.substr(0, problem.find(": "));
+        else if (!use.File.Format.empty() && call.Words.back().ends_with(use.File.Path.string()))
+            path = use.File.Path.string();
+    }
+    if (problem.starts_with(path + ": "))
+        problem.erase(0, path.size() + 2);
     return call.Place + JoinWords(call.Words) + ": " + problem;
 }
 
 }  // namespace
 
-const Verb* FindVerb(std::string_view name) {
-    for (const std::span<const Verb> topic : Topics()) {
-        for (const Verb& verb : topic) {
-            if (verb.Name == name)
-                return &verb;
-        }
+std::vector<const Verb*> AllVerbs() {
+    std::vector<const Verb*> verbs;
+    for (const std::span<const Verb> topic :
+         {FileVerbs(), ExportVerbs(), PageVerbs(), LayerVerbs(), StackVerbs(), ToolVerbs(),
+          PointerVerbs(), ReportVerbs()}) {
+        for (const Verb& verb : topic)
+            verbs.push_back(&verb);
     }
-    return nullptr;
+    return verbs;
+}
+
+const Verb* FindVerb(std::string_view name) {
+    static const std::vector<const Verb*> verbs = AllVerbs();
+    const auto found = std::ranges::find(verbs, name, &Verb::Name);
+    return found == verbs.end() ? nullptr : *found;
+}
+
+std::string DescribeUnknownVerb(const std::string& word) {
+    std::vector<std::string_view> names;
+    for (const Verb* verb : AllVerbs())
+        names.push_back(verb->Name);
+    return JoinWords({&word, 1}) + ": unknown verb" + DidYouMean(word, names);
+}
+
+std::string VerbHelp(const Verb& verb) {
+    return "orbelle-cli ... " + Usage(verb) + "\n  " + std::string(verb.Help) +
+           "\n\nExample:\n  orbelle-cli " + std::string(verb.Example) + '\n';
 }
 
 std::string VerbHelp() {
     std::string help;
-    for (const std::span<const Verb> topic : Topics()) {
-        for (const Verb& verb : topic) {
-            std::string line = "  " + std::string(verb.Name);
-            if (!verb.Arguments.empty())
-                line.append(" ").append(verb.Arguments);
-            line.resize(std::max(kHelpColumn, line.size() + 1), ' ');
-            help.append("\n").append(line).append(verb.Help);
-        }
+    for (const Verb* verb : AllVerbs()) {
+        std::string line = "  " + Usage(*verb);
+        line.resize(std::max(kHelpColumn, line.size() + 1), ' ');
+        help.append("\n").append(line).append(verb->Help);
     }
     return help;
 }
@@ -54,12 +74,16 @@ std::vector<Call> ParseCalls(std::span<const std::string> words) {
     while (!words.empty()) {
         const Verb* verb = FindVerb(words[0]);
         if (!verb)
-            throw UsageError(JoinWords(words.first(1)) + ": unknown verb");
+            throw UsageError(DescribeUnknownVerb(words[0]));
         Words arguments(words.subspan(1));
         const auto taken = [&] { return words.first(1 + arguments.Taken()); };
         try {
             Action action = verb->Read(arguments);
-            calls.push_back({{taken().begin(), taken().end()}, std::move(action)});
+            calls.push_back({{taken().begin(), taken().end()},
+                             std::move(action),
+                             {},
+                             arguments.Files(),
+                             arguments.Prints()});
         } catch (const UsageError& error) {
             throw UsageError(JoinWords(taken()) + ": " + error.what());
         }

@@ -4,6 +4,7 @@
 #include <charconv>
 #include <optional>
 #include <sstream>
+#include <utility>
 
 namespace orbelle::cli {
 namespace {
@@ -33,7 +34,45 @@ std::optional<int> ParseInteger(std::string_view word) {
     return value;
 }
 
+// How many letters have to be put in, left out, changed or exchanged with the next one.
+std::size_t Distance(std::string_view a, std::string_view b) {
+    // The rows of the last two letters of `a`, and of the present one.
+    std::vector<std::size_t> before, last, row(b.size() + 1);
+    for (std::size_t j = 0; j <= b.size(); ++j)
+        row[j] = j;
+    for (std::size_t i = 1; i <= a.size(); ++i) {
+        before = std::exchange(last, row);
+        row[0] = i;
+        for (std::size_t j = 1; j <= b.size(); ++j) {
+            const std::size_t change = last[j - 1] + (a[i - 1] == b[j - 1] ? 0 : 1);
+            row[j] = std::min({last[j] + 1, row[j - 1] + 1, change});
+            if (i > 1 && j > 1 && a[i - 1] == b[j - 2] && a[i - 2] == b[j - 1])
+                row[j] = std::min(row[j], before[j - 2] + 1);
+        }
+    }
+    return row.back();
+}
+
 }  // namespace
+
+std::string DidYouMean(std::string_view word, std::span<const std::string_view> names) {
+    std::string small(word);
+    for (char& c : small)
+        c = c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+    // A letter of three may be wrong.
+    std::size_t least = small.size() / 3 + 1;
+    std::string_view nearest;
+    if (small.size() > 2 && small.size() < 64) {
+        for (const std::string_view name : names) {
+            const std::size_t distance = Distance(small, name);
+            if (distance < least) {
+                least = distance;
+                nearest = name;
+            }
+        }
+    }
+    return nearest.empty() ? "" : "; did you mean " + std::string(nearest) + "?";
+}
 
 std::string JoinWords(std::span<const std::string> words) {
     std::string line;
@@ -99,6 +138,28 @@ graphics::Argb Words::Color(const char* name) {
         std::from_chars(first, end, color, 16).ptr != end)
         Refuse(name, "a colour: #RRGGBB or #AARRGGBB");
     return word.size() == 7 ? graphics::SetAlphaByte(color, 255) : color;
+}
+
+FileName Words::Input(const char* name, FileRole kind) {
+    files_.push_back({kind, ParseFileName(Text(name), name)});
+    return files_.back().File;
+}
+
+FileName Words::Output(const char* name, std::span<const std::string_view> formats, FileRole kind) {
+    FileName file = ParseFileName(Text(name), name);
+    if (!file.Format.empty() && std::ranges::find(formats, file.Format) == formats.end()) {
+        std::string list;
+        for (const std::string_view format : formats)
+            list.append(list.empty() ? "" : ", ").append(format);
+        throw UsageError(std::string(name) + ": no " + file.Format + " is written here, but " +
+                         list);
+    }
+    files_.push_back({kind, file});
+    return file;
+}
+
+void Words::NoteSets(const std::filesystem::path& folder, std::vector<formats::IconSet> sets) {
+    files_.push_back({FileRole::SetFolder, {{}, folder}, std::move(sets)});
 }
 
 std::filesystem::path Words::Path(const char* name) {

@@ -4,23 +4,22 @@
 #include <filesystem>
 #include <limits>
 #include <span>
-#include <stdexcept>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "cli/file_name.h"
+#include "cli/usage_error.h"
 #include "graphics/color.h"
 
 namespace orbelle::cli {
 
-// Wrong usage; what() says what is wrong.
-class UsageError : public std::runtime_error {
-public:
-    using std::runtime_error::runtime_error;
-};
-
 // The words as they could be typed: those with blanks, and empty ones, between double quotes.
 std::string JoinWords(std::span<const std::string> words);
+
+// "; did you mean NAME?" with the name that a misspelt word is likely to stand for; empty when none
+// is near. Capitals don't matter.
+std::string DidYouMean(std::string_view word, std::span<const std::string_view> names);
 
 // Reads arguments one after the other; a reader takes the next word. All throw UsageError when it
 // is missing, malformed or out of range; `name` is the argument's name for the message.
@@ -56,8 +55,21 @@ public:
     // #RRGGBB (alpha 255) or #AARRGGBB.
     graphics::Argb Color(const char* name);
 
-    // Any word but an empty one.
+    // A file that is read or written; "-" is standard input or output. What is written is one of
+    // `formats`, where a format is said.
+    FileName Input(const char* name, FileRole kind = FileRole::Read);
+    FileName Output(const char* name, std::span<const std::string_view> formats,
+                    FileRole kind = FileRole::Written);
+
+    // A folder, without anything special; any word but an empty one.
     std::filesystem::path Path(const char* name);
+
+    // What the verb uses besides: sets of files in a folder, standard output.
+    void NoteSets(const std::filesystem::path& folder, std::vector<formats::IconSet> sets);
+    void NotePrinting() { prints_ = true; }
+
+    const std::vector<FileUse>& Files() const { return files_; }
+    bool Prints() const { return prints_; }
 
     // The place of the word in the list.
     std::size_t Choice(const char* name, std::span<const std::string_view> choices);
@@ -74,6 +86,8 @@ public:
 private:
     std::span<const std::string> words_;
     std::size_t taken_ = 0;
+    std::vector<FileUse> files_;
+    bool prints_ = false;
 };
 
 }  // namespace orbelle::cli

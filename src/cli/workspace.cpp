@@ -10,7 +10,7 @@ void CliHost::Put(const graphics::Bitmap& picture, const std::string& text) {
     text_ = text;
 }
 
-Workspace::Workspace(std::ostream& output) : Output(output) {
+Workspace::Workspace(std::ostream& output, std::istream& input) : Output(output), Input(input) {
     // Every command paints the scene, which nobody sees until a verb asks for it.
     Editor.View.SceneWidth = 1;
     Editor.View.SceneHeight = 1;

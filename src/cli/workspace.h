@@ -1,10 +1,12 @@
 // What the verbs of one run work on.
 #pragma once
 
+#include <filesystem>
+#include <iostream>
 #include <optional>
-#include <ostream>
 #include <string>
 #include <utility>
+#include <vector>
 
 #include "editing/editor.h"
 #include "editing/run.h"
@@ -38,7 +40,7 @@ private:
 };
 
 struct Workspace {
-    explicit Workspace(std::ostream& output);
+    explicit Workspace(std::ostream& output, std::istream& input = std::cin);
 
     // Runs a command on the editor. Throws Failure with what is wrong; what a command that went
     // well has to tell stays for TakeMessage.
@@ -54,8 +56,10 @@ struct Workspace {
     double Zoom = 1;  // of the view, scene pixels per page pixel
     // Which image the next open or import of an icon file takes; nothing: all.
     std::optional<int> IconImage = 0;
-    int SvgSide = graphics::kDefaultSvgSide;  // of the drawings opened or imported
-    std::ostream& Output;                     // for what verbs print
+    int SvgSide = graphics::kDefaultSvgSide;     // of the drawings opened or imported
+    std::ostream& Output;                        // for what verbs print
+    std::istream& Input;                         // for the file "-"
+    std::vector<std::filesystem::path> Written;  // by verbs that went well, in their order
 
 private:
     void Keep(const editing::Outcome& outcome);

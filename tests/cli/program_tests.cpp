@@ -130,8 +130,9 @@ TEST_F(ProgramTest, NothingRunsWhenAnyWordIsWrong) {
     EXPECT_EQ(Run("new 16 16 write-page a.png opacity -5"),
               WrongUsage("opacity -5: V must be from 0 to 100"));
     EXPECT_FALSE(Exists("a.png"));
-    EXPECT_EQ(Run("new 16 16 --help"), WrongUsage("--help: unknown verb"));
-    for (const char* words : {"", "--frobnicate", "--script", "--script a undo", "--script ."})
+    EXPECT_EQ(Run("--scirpt a"), WrongUsage("--scirpt: unknown option; did you mean --script?"));
+    for (const char* words : {"", "--frobnicate", "--script", "--script a undo", "--script .",
+                              "--help frobnicate", "frobnicate --help", "--version undo"})
         EXPECT_EQ(Run(words).Status, 2) << words;
 }
 
@@ -166,6 +167,16 @@ TEST_F(ProgramTest, HelpNamesTheVerbsOfEveryTopic) {
     for (const std::string verb : {"new", "page", "hue", "order", "tool", "drag", "info"})
         EXPECT_THAT(help.Output, HasSubstr("\n  " + verb + " "));
     EXPECT_THAT(Run("--version").Output, StartsWith("orbelle-cli "));
+    EXPECT_EQ(Run("-v"), Run("--version"));
+    EXPECT_EQ(Run("-h"), help);
+
+    const Outcome flip{0,
+                       "orbelle-cli ... flip horizontal|vertical\n  mirror the selected layer's "
+                       "picture\n\nExample:\n  orbelle-cli open arrow.png flip horizontal export "
+                       "left.png\n",
+                       ""};
+    for (const char* words : {"--help flip", "flip --help", "new 8 8 flip vertical -h undo"})
+        EXPECT_EQ(Run(words), flip) << words;
 }
 
 }  // namespace

@@ -36,7 +36,7 @@ TEST(SplitLineTest, WordsCommentsAndQuotes) {
 TextList CallsOf(const std::string& text) {
     std::istringstream script(text);
     TextList lines;
-    for (const Call& call : ParseScript(script, "a.txt"))
+    for (const Call& call : ParseLines(ReadScript(script, "a.txt")))
         lines.push_back(JoinWords(call.Words));
     return lines;
 }

@@ -77,7 +77,10 @@ TEST(ParseCallsTest, WrongArgumentsAreRefused) {
 
 TEST(ParseCallsTest, WrongUsageNamesTheVerbAndTheWord) {
     const std::pair<std::string, const char*> cases[] = {
-        {"Undo", "Undo: unknown verb"},
+        {"Undo", "Undo: unknown verb; did you mean undo?"},
+        {"exprot a.png", "exprot: unknown verb; did you mean export?"},
+        {"background-color", "background-color: unknown verb; did you mean background-colour?"},
+        {"frobnicate", "frobnicate: unknown verb"},
         {"undo 2", "2: unknown verb"},
         {"opacity 5 -x", "-x: unknown verb"},
         {"new 64", "new 64: H is missing"},
@@ -100,6 +103,33 @@ TEST(ParseCallsTest, WrongUsageNamesTheVerbAndTheWord) {
     EXPECT_THAT(CallsOf(sizes), ElementsAre(sizes));
     EXPECT_THAT([&] { CallsOf(sizes + " 16"); },
                 ThrowsMessage<UsageError>(sizes + ": more than 256 numbers"));
+}
+
+// As the first argument, or as one after a number.
+bool IsTaken(const std::string& verb, const std::string& value) {
+    for (const TextList& line : {TextList{verb, value}, {verb, "9", value}}) {
+        try {
+            if (ParseCalls(line).size() == 1)
+                return true;
+        } catch (const UsageError&) {
+            continue;
+        }
+    }
+    return false;
+}
+
+TEST(VerbTableTest, ExamplesAndValuesAreTaken) {
+    for (const Verb* verb : AllVerbs()) {
+        std::string line(verb->Example);
+        std::ranges::replace(line, '\'', '"');
+        TextList calls;
+        EXPECT_NO_THROW(calls = CallsOf(line)) << line;
+        EXPECT_THAT(calls, ::testing::Contains(
+                               ::testing::MatchesRegex(std::string(verb->Name) + "( .*)?")));
+        std::istringstream values{std::string(verb->Values)};
+        for (std::string value; values >> value;)
+            EXPECT_TRUE(IsTaken(std::string(verb->Name), value)) << verb->Name << ' ' << value;
+    }
 }
 
 TEST(RunCallsTest, WhateverAVerbThrowsBecomesItsFailure) {

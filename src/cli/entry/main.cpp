@@ -1,11 +1,16 @@
-#include <CLI/CLI.hpp>
+#include <algorithm>
 #include <cerrno>
 #include <cstring>
 #include <fstream>
 #include <iostream>
 #include <new>
+#include <thread>
 
+#include "cli/batch.h"
+#include "cli/completion.h"
 #include "cli/entry/process.h"
+#include "cli/options.h"
+#include "cli/plan.h"
 #include "cli/recover.h"
 #include "cli/script.h"
 #include "cli/verb_table.h"
@@ -14,6 +19,7 @@ namespace {
 
 using namespace orbelle::cli;
 
+constexpr int kSucceeded = 0;
 constexpr int kFailed = 1;
 constexpr int kWrongUsage = 2;
 
@@ -22,13 +28,56 @@ int Report(const std::exception& error, int status) {
     return status;
 }
 
-std::vector<Call> ParseScriptFile(const std::string& name) {
+std::vector<VerbLine> ReadScriptFile(const std::string& name) {
     if (name == "-")
-        return ParseScript(std::cin, name);
+        return ReadScript(std::cin, name);
     std::ifstream file(name, std::ios::binary);
     if (!file)
         throw UsageError(name + ": " + std::strerror(errno));
-    return ParseScript(file, name);
+    return ReadScript(file, name);
+}
+
+// In the place of "-" those that standard input names.
+std::vector<std::string> ReadFileNames(const std::vector<std::string>& words) {
+    std::vector<std::string> names;
+    for (const std::string& word : words) {
+        if (word != "-") {
+            names.push_back(word);
+            continue;
+        }
+        for (std::string line; std::getline(std::cin, line);) {
+            if (!line.empty())
+                names.push_back(line);
+        }
+        if (std::cin.bad())
+            throw UsageError("-: can't be read");
+    }
+    return names;
+}
+
+int RunEach(const Options::EachFile& each, std::vector<VerbLine> lines, bool inputIsTaken) {
+    const bool namesAreInput = std::ranges::find(each.Files, "-") != each.Files.end();
+    const int cores = static_cast<int>(std::max(std::thread::hardware_concurrency(), 1U));
+    const Batch batch{.Files = ReadFileNames(each.Files),
+                      .Lines = std::move(lines),
+                      .Jobs = each.Jobs.value_or(cores),
+                      .KeepsGoing = each.KeepsGoing,
+                      .IsJson = each.IsJson,
+                      .InputIsTaken = inputIsTaken || namesAreInput};
+    return RunBatch(batch, {std::cout, std::cerr, IsTerminalForErrors()}) ? kSucceeded : kFailed;
+}
+
+int Run(const Options& options) {
+    const bool inputIsTaken = options.Script == "-";
+    const std::vector<VerbLine> lines =
+        options.Script ? ReadScriptFile(*options.Script) : std::vector{VerbLine{options.Verbs}};
+    if (options.Each)
+        return RunEach(*options.Each, lines, inputIsTaken);
+    const std::vector<Call> calls = ParseLines(lines);
+    PlanRun(calls, inputIsTaken);
+    Workspace workspace(std::cout);
+    RunCalls(calls, workspace);
+    return kSucceeded;
 }
 
 }  // namespace
@@ -36,52 +85,29 @@ std::vector<Call> ParseScriptFile(const std::string& name) {
 int main(int argc, char** argv) {
     PrepareProcess();
     std::ios::sync_with_stdio(false);
+    std::cin.tie(nullptr);  // several threads may be at work
     try {
-        CLI::App app(
-            "The icon editor without a window:\n"
-            "  orbelle-cli VERB [ARG...] [VERB [ARG...]]...\n"
-            "  orbelle-cli --script FILE\n"
-            "  orbelle-cli --recover [list | N PATH]\n",
-            "orbelle-cli");
-        app.set_version_flag("--version", "orbelle-cli " ORBELLE_VERSION);
-        std::string script;
-        app.add_option("--script", script,
-                       "Read the verbs from FILE, one a line; '-': standard input")
-            ->type_name("FILE");
-        std::vector<std::string> recover;
-        const CLI::Option* recovers =
-            app.add_option(
-                   "--recover", recover,
-                   "List what the window kept safe when it was killed, or write number N to "
-                   "PATH as a document")
-                ->type_name("[list | N PATH]")
-                ->expected(0, 2);
-        app.footer([] { return "Verbs, run in order:" + VerbHelp(); });
-        // From the first word that is no option on, all words belong to verbs, whatever they look
-        // like.
-        app.prefix_command();
-        try {
-            app.parse(argc, argv);
-        } catch (const CLI::Success& help) {
-            const int status = app.exit(help);
-            RequirePrinted(std::cout);
-            return status;
+        const std::vector<std::string> words(argv + std::min(argc, 1), argv + argc);
+        const Options options = ReadOptions(words);
+        switch (options.Task) {
+            case Options::Task::Help:
+                std::cout << (options.HelpOn ? VerbHelp(*options.HelpOn) : ProgramHelp());
+                RequirePrinted(std::cout);
+                break;
+            case Options::Task::Version:
+                std::cout << "orbelle-cli " ORBELLE_VERSION "\n";
+                RequirePrinted(std::cout);
+                break;
+            case Options::Task::Completion:
+                std::cout << CompletionScript(options.Shell);
+                RequirePrinted(std::cout);
+                break;
+            case Options::Task::Recover:
+                Recover(options.Recover, std::cout);
+                break;
+            case Options::Task::Run:
+                return Run(options);
         }
-        const std::vector<std::string> words = app.remaining();
-        if (recovers->count() > 0) {
-            if (!words.empty() || !script.empty())
-                throw UsageError("--recover stands alone");
-            Recover(recover, std::cout);
-            return 0;
-        }
-        if (words.empty() == script.empty())
-            throw UsageError("either verbs or --script FILE are needed; see orbelle-cli --help");
-        const std::vector<Call> calls =
-            script.empty() ? ParseCalls(words) : ParseScriptFile(script);
-        Workspace workspace(std::cout);
-        RunCalls(calls, workspace);
-    } catch (const CLI::ParseError& error) {
-        return Report(error, kWrongUsage);
     } catch (const UsageError& error) {
         return Report(error, kWrongUsage);
     } catch (const std::bad_alloc&) {
@@ -90,5 +116,5 @@ int main(int argc, char** argv) {
     } catch (const std::exception& error) {
         return Report(error, kFailed);
     }
-    return 0;
+    return kSucceeded;
 }

@@ -8,4 +8,7 @@ namespace orbelle::cli {
 // are closed stay unusable, so that no other file is taken for them.
 void PrepareProcess();
 
+// Standard error is what someone looks at.
+bool IsTerminalForErrors();
+
 }  // namespace orbelle::cli

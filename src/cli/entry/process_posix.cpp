@@ -19,4 +19,8 @@ void PrepareProcess() {
     graphics::EndCleanlyOnSignals();
 }
 
+bool IsTerminalForErrors() {
+    return isatty(STDERR_FILENO) != 0;
+}
+
 }  // namespace orbelle::cli
