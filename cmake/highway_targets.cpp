@@ -4,8 +4,8 @@
 
 #include <hwy/targets.h>
 
-// The loader of glibc has asked the processor already. The compiler's own question is put whenever a
-// program that has one starts, and in a virtual machine takes as long as loading a library.
+// The loader of glibc has asked the processor already. The compiler asks again whenever a program
+// that has its question starts, which in a virtual machine takes as long as loading a library.
 #if __has_include(<sys/platform/x86.h>)
 #include <sys/platform/x86.h>
 #define ORBELLE_HAS(feature, name) CPU_FEATURE_ACTIVE(feature)
