@@ -6,7 +6,8 @@
 
 // The loader of glibc has asked the processor already. The compiler asks again whenever a program
 // that has its question starts, which in a virtual machine takes as long as loading a library.
-#if __has_include(<sys/platform/x86.h>)
+// (Clang cannot read that header as C++.)
+#if __has_include(<sys/platform/x86.h>) && !defined(__clang__)
 #include <sys/platform/x86.h>
 #define ORBELLE_HAS(feature, name) CPU_FEATURE_ACTIVE(feature)
 #else
