@@ -4,6 +4,16 @@
 
 #include <hwy/targets.h>
 
+// The loader of glibc has asked the processor already. The compiler asks again whenever a program
+// that has its question starts, which in a virtual machine takes as long as loading a library.
+// (Clang cannot read that header as C++.)
+#if __has_include(<sys/platform/x86.h>) && !defined(__clang__)
+#include <sys/platform/x86.h>
+#define ORBELLE_HAS(feature, name) CPU_FEATURE_ACTIVE(feature)
+#else
+#define ORBELLE_HAS(feature, name) __builtin_cpu_supports(name)
+#endif
+
 namespace hwy {
 
 namespace {
@@ -15,19 +25,19 @@ int64_t DetectTargets() {
     int64_t targets = HWY_STATIC_TARGET;
 #if HWY_ARCH_X86
     // Every processor with AVX2, FMA and BMI2 has the half floats and bit counts of that target.
-    if (__builtin_cpu_supports("ssse3")) {
+    if (ORBELLE_HAS(SSSE3, "ssse3")) {
         targets |= HWY_SSSE3;
     }
-    if (__builtin_cpu_supports("sse4.2") && __builtin_cpu_supports("pclmul") &&
-        __builtin_cpu_supports("aes")) {
+    if (ORBELLE_HAS(SSE4_2, "sse4.2") && ORBELLE_HAS(PCLMULQDQ, "pclmul") &&
+        ORBELLE_HAS(AES, "aes")) {
         targets |= HWY_SSE4;
     }
-    if (__builtin_cpu_supports("avx2") && __builtin_cpu_supports("fma") &&
-        __builtin_cpu_supports("bmi") && __builtin_cpu_supports("bmi2")) {
+    if (ORBELLE_HAS(AVX2, "avx2") && ORBELLE_HAS(FMA, "fma") && ORBELLE_HAS(BMI1, "bmi") &&
+        ORBELLE_HAS(BMI2, "bmi2")) {
         targets |= HWY_AVX2;
-        if (__builtin_cpu_supports("avx512f") && __builtin_cpu_supports("avx512vl") &&
-            __builtin_cpu_supports("avx512dq") && __builtin_cpu_supports("avx512bw") &&
-            __builtin_cpu_supports("avx512cd")) {
+        if (ORBELLE_HAS(AVX512F, "avx512f") && ORBELLE_HAS(AVX512VL, "avx512vl") &&
+            ORBELLE_HAS(AVX512DQ, "avx512dq") && ORBELLE_HAS(AVX512BW, "avx512bw") &&
+            ORBELLE_HAS(AVX512CD, "avx512cd")) {
             targets |= HWY_AVX3;
         }
     }

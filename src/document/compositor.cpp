@@ -1,9 +1,11 @@
 #include "document/compositor.h"
 
 #include <algorithm>
+#include <cstdint>
 
 #include "filters/round_shape.h"
 #include "graphics/drawing_context.h"
+#include "graphics/parallel.h"
 
 namespace orbelle::document {
 
@@ -12,6 +14,10 @@ using graphics::RectF;
 using graphics::RectI;
 
 namespace {
+
+// Pixels of all layers: below, starting a thread takes longer than it saves.
+constexpr std::int64_t kFewPixels = 4 << 20;
+constexpr int kBandRows = 32;
 
 // The smallest box around the pixels of `area`, which lies in both pictures, that differ.
 RectI DifferingPixels(const Bitmap& first, const Bitmap& second, const RectI& area) {
@@ -123,6 +129,23 @@ void Compositor::Draw(Bitmap& page, const std::vector<Drawn>& layers, std::size_
     }
 }
 
+// No pixel depends on what is drawn beside it.
+void Compositor::DrawInBands(Bitmap& page, const std::vector<Drawn>& layers, std::size_t first,
+                             std::size_t last, const RectI& area) const {
+    const auto layerCount = static_cast<std::int64_t>(last - first);
+    if (layerCount * area.Width * area.Height < kFewPixels || area.Height < 2 * kBandRows) {
+        Draw(page, layers, first, last, area);
+        return;
+    }
+    page.MutablePixels();  // from here on nobody copies them
+    const auto bands = static_cast<std::size_t>((area.Height + kBandRows - 1) / kBandRows);
+    graphics::ForEachInParallel(bands, [&](std::size_t band) {
+        const RectI rows{area.X, area.Y + static_cast<int>(band) * kBandRows, area.Width,
+                         kBandRows};
+        Draw(page, layers, first, last, Intersect(rows, area));
+    });
+}
+
 void Compositor::Update(Bitmap& page, const std::vector<Drawn>& layers) {
     const RectI whole{0, 0, page.Width(), page.Height()};
     const auto [newFirst, oldFirst] =
@@ -151,7 +174,7 @@ void Compositor::Update(Bitmap& page, const std::vector<Drawn>& layers) {
     const bool dragging = prefix > 0 && prefix == lastPrefix_;
     if (dragging && !(known && below_.size() == prefix)) {
         belowPicture_ = Bitmap(page.Width(), page.Height());
-        Draw(belowPicture_, layers, 0, prefix, whole);
+        DrawInBands(belowPicture_, layers, 0, prefix, whole);
         below_.assign(layers.begin(), newFirst);
     }
     lastPrefix_ = prefix;
@@ -166,7 +189,7 @@ void Compositor::Update(Bitmap& page, const std::vector<Drawn>& layers) {
         for (int y = damage.Y; y < damage.Y + damage.Height; ++y)
             std::fill_n(page.MutableRow(y) + damage.X, damage.Width, graphics::Argb{0});
     }
-    Draw(page, layers, start, layers.size(), damage);
+    DrawInBands(page, layers, start, layers.size(), damage);
 }
 
 void Compositor::Compose(Page& page, graphics::InterpolationMode interpolation,

@@ -7,6 +7,7 @@
 
 #include "graphics/bitmap.h"
 #include "graphics/detail/pixel_set.h"
+#include "graphics/detail/pixel_union.h"
 #include "graphics/detail/scan_conversion.h"
 
 namespace orbelle::graphics {
@@ -64,6 +65,22 @@ Pixels MakePixels(std::span<const RectI> rects) {
 std::vector<RectI> RectsOf(Path path, const Matrix& matrix, const RectI& within) {
     path.Transform(matrix);
     return PixelsInside(path.Flatten(), path.Fill(), 0, Intersect(within, kOutlinePlane));
+}
+
+// A box around the pixels in `within`, found without them.
+RectI BoxAround(const Path& path, const Matrix& matrix, const RectI& within) {
+    const Edges own = EdgesOf(path.WorldBounds());
+    const Edges box = Scaled(own, matrix);
+    // The box and the points come out rounded.
+    const auto reach = [](const Edges& edges) {
+        return std::max({std::abs(edges.Left), std::abs(edges.Top), std::abs(edges.Right),
+                         std::abs(edges.Bottom)});
+    };
+    const double scale = std::max(std::abs(matrix.ScaleX), std::abs(matrix.ScaleY));
+    const double margin = 1 + 1e-6 * (reach(box) + scale * reach(own));
+    const Edges wider{box.Left - margin, box.Top - margin, box.Right + margin, box.Bottom + margin};
+    const bool isKnown = std::isfinite(wider.Left + wider.Top + wider.Right + wider.Bottom);
+    return isKnown ? PixelsInside(wider, 0, within) : within;
 }
 
 Pixels PixelsOf(const Pixels& pixels, const Matrix& matrix) {
@@ -135,6 +152,8 @@ struct Region::Node {
     // A set that has the node's pixels in `within`, a part of the plane, and any others outside.
     const Pixels& Covered(const RectI& within) const;
     void AppendRects(std::vector<RectI>& rects, const RectI& within) const;
+    // A box around the pixels in `within`, not always the smallest.
+    RectI BoxWithin(const RectI& within) const;
     std::shared_ptr<Node> Transformed(const Matrix& matrix) const;
 };
 
@@ -145,6 +164,29 @@ using Node = Region::Node;
 template <typename Shape>
 std::shared_ptr<Node> MakeNode(Shape shape) {
     return std::make_shared<Node>(Node{std::move(shape)});
+}
+
+// The pixels of shapes that are joined; null where a list of their rows costs less.
+Pixels JoinedBits(std::span<const Node::Part> parts, const RectI& within) {
+    std::vector<RectI> boxes;
+    boxes.reserve(parts.size());
+    for (const Node::Part& part : parts)
+        boxes.push_back(part.Shape->BoxWithin(within));
+    const RectI area = BoxAround(boxes);
+    if (!PixelUnion::IsWorthwhile(area, parts.size()))
+        return nullptr;
+    PixelUnion joined(area);
+    std::vector<RectI> rects;
+    for (std::size_t i = 0; i < parts.size() && !joined.IsWhole(); ++i) {
+        // Of shapes that lie on each other most add nothing.
+        if (joined.Covers(boxes[i]))
+            continue;
+        rects.clear();
+        parts[i].Shape->AppendRects(rects, area);
+        for (const RectI& rect : rects)
+            joined.Add(rect);
+    }
+    return MakePixels(joined.Rects());
 }
 
 Pixels PixelsOf(const Node::Combination& parts, const RectI& within) {
@@ -160,6 +202,8 @@ Pixels PixelsOf(const Node::Combination& parts, const RectI& within) {
         if (end - part == 1) {
             operand = part->Shape->Covered(within);
             ++part;
+        } else if ((operand = JoinedBits({part, end}, within))) {
+            part = end;
         } else {
             std::vector<RectI> rects;
             for (; part != end && rects.size() < kMaxGatheredRects; ++part)
@@ -268,6 +312,16 @@ void Node::AppendRects(std::vector<RectI>& rects, const RectI& within) const {
     else
         own = Covered(within)->Rects();
     rects.insert(rects.end(), own.begin(), own.end());
+}
+
+RectI Node::BoxWithin(const RectI& within) const {
+    if (IsEverything())
+        return within;
+    if (const auto* rect = std::get_if<RectF>(&Shape))
+        return PixelsInside(Scaled(EdgesOf(*rect), Placement), 0, within);
+    if (const auto* path = std::get_if<Path>(&Shape))
+        return BoxAround(*path, Placement, within);
+    return Intersect(Covered(within)->Bounds(), within);
 }
 
 std::shared_ptr<Node> Node::Transformed(const Matrix& matrix) const {

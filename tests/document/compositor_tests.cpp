@@ -149,6 +149,26 @@ TEST(Compositor, WhatItRemembersNeverShows) {
     }
 }
 
+// Enough for all cores, and a strip at a time, which is for one.
+TEST(Compositor, ALargePageIsTheSameAsItsStrips) {
+    constexpr int kSide = 300, kStrip = 60;
+    std::mt19937 random(1);
+    Page page = PageOf(kSide, kSide);
+    for (int i = 0; i < 60; ++i) {
+        AddLayer(page, testing::RandomPicture(random, kSide, kSide));
+        page.Layers.back().Opacity = static_cast<float>(i + 30) / 100.0F;
+        page.Layers.back().Rect.Y = static_cast<float>(i % 7);
+        page.Layers.back().ClipNextLayer = i == 20 || i == 40;
+    }
+    const Bitmap whole = Composed(page);
+    page.Height = kStrip;
+    for (int y = 0; y < kSide; y += kStrip) {
+        ASSERT_TRUE(SamePixels(Composed(page), whole.CloneArea(0, y, kSide, kStrip))) << y;
+        for (IconLayer& layer : page.Layers)
+            layer.Rect.Y -= kStrip;
+    }
+}
+
 TEST(Compositor, RepaintsTheBoxAroundTheDotsThatAToolSet) {
     // Dots in the lower layer, of whose picture so many columns are shown.
     const struct {

@@ -209,6 +209,62 @@ TEST(Region, CombinationsHaveThePixelsOfTheirShapesInWhateverWindowAndOrder) {
     }
 }
 
+TEST(Region, ManyShapesOnEachOtherHaveThePixelsOfAll) {
+    constexpr int kSide = 150;
+    for (unsigned seed = 1; seed <= 60; ++seed) {
+        std::mt19937 random(seed);
+        const auto below = [&](unsigned bound) { return static_cast<float>(random() % bound); };
+        const auto anywhere = [&] { return below(640) / 4 - 20; };
+        const auto shape = [&] {
+            const unsigned kind = random() % 8;
+            if (kind == 0)
+                return Region::FromRect({anywhere(), anywhere(), below(60) / 4, below(90) / 4});
+            if (kind == 1)
+                return Region::FromPixelRects({{20, 30, 64, 9}, {100, 30, 28, 9}});
+            Path path(FillMode::Alternate);
+            if (kind == 2) {
+                std::vector<PointF> corners;
+                for (int i = 0; i < 5; ++i)
+                    corners.push_back({anywhere(), anywhere()});
+                path.AddPolygon(corners);
+            } else {
+                path.AddEllipse({anywhere(), anywhere(), below(200) / 4, below(900) / 4});
+            }
+            if (seed % 4 == 0)  // a curve that is left out
+                path.AddEllipse({NAN, 10, 100, 100});
+            return Region::FromPath(path);
+        };
+        const Matrix place{.ScaleX = seed % 3 == 0 ? -1.3 : 1,
+                           .ScaleY = seed % 3 == 0 ? 0.7 : 1,
+                           .OffsetX = seed % 3 == 0 ? 140.25 : 0,
+                           .OffsetY = 0.5};
+        const RectI window = seed % 2 ? RectI{0, 0, kSide, kSide} : RectI{13, 40, 101, 64};
+        const CombineMode mode = seed % 5 ? CombineMode::Union : CombineMode::Exclude;
+        Region all = Region::FromRect({0, 0, 0.25F, 0.25F});
+        if (mode == CombineMode::Exclude)
+            all = Region::FromRect({-500, -500, 1000, 1000});
+        std::vector<bool> inside(kSide * kSide);
+        for (int count = 8 + static_cast<int>(seed); count > 0; --count) {
+            Region one = shape();
+            all.Combine(one, mode);
+            one.Transform(place);
+            for (const RectI& rect : one.Rects(window)) {
+                for (int y = rect.Y; y < rect.Bottom(); ++y)
+                    std::fill_n(inside.begin() + y * kSide + rect.X, rect.Width, true);
+            }
+        }
+        all.Transform(place);
+        std::vector<RectI> expected;
+        for (int y = window.Y; y < window.Bottom(); ++y) {
+            for (int x = window.X; x < window.Right(); ++x) {
+                if (inside[y * kSide + x] == (mode == CombineMode::Union))
+                    expected.push_back({x, y, 1, 1});
+            }
+        }
+        ASSERT_EQ(all.Rects(window), Region::FromPixelRects(expected).Rects()) << seed;
+    }
+}
+
 TEST(Region, ThousandsOfShapesKeepTheirNumbers) {
     // Each too narrow for a pixel until it is scaled.
     Region comb = Region::Empty();
@@ -230,12 +286,12 @@ TEST(Region, ThousandsOfShapesKeepTheirNumbers) {
     EXPECT_EQ(kept.back().Bounds(), (RectF{0, 0, 5000, 1}));
     EXPECT_EQ(kept[9].Bounds(), (RectF{0, 0, 10, 1}));
 
-    // Tall ones are merged bit by bit.
+    // Tall ones far from each other are merged bit by bit.
     Region fence = Region::Empty();
     for (int i = 0; i < 80; ++i)
-        fence.Combine(Rectangle({float(i) * 3, -15000, 2, 30000}), CombineMode::Union);
+        fence.Combine(Rectangle({float(i) * 400, -15000, 2, 30000}), CombineMode::Union);
     EXPECT_EQ(fence.Rects().size(), 80U);
-    EXPECT_EQ(fence.Bounds(), (RectF{0, -15000, 239, 30000}));
+    EXPECT_EQ(fence.Bounds(), (RectF{0, -15000, 31602, 30000}));
 }
 
 TEST(Region, HostileNumbersAndEndlessCombinationsAreHarmless) {

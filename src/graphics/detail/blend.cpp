@@ -19,57 +19,112 @@ using PixelVec = hn::Vec<Pixels>;
 constexpr hn::RebindToFloat<Pixels> kFloats;
 using FloatVec = hn::Vec<decltype(kFloats)>;
 
-// Added to a number from 0 to 255, it leaves the rounded number in the low byte of the float.
-constexpr float kRoundingBias = 1 << 23;
+// Added to a number of a few hundred at most, it leaves the rounded number in the low bits of the
+// float.
+constexpr float kRoundingBias = 3 << 22;
+constexpr std::uint32_t kBiasBits = 0x4B400000;
 
-template <int kShift>
-HWY_INLINE FloatVec Channel(PixelVec pixels) {
+template <std::uint32_t kBits>
+HWY_INLINE FloatVec Difference(PixelVec source, PixelVec destination) {
     const Pixels d;
-    const auto channel = hn::And(hn::ShiftRight<kShift>(pixels), hn::Set(d, 0xFFu));
-    return hn::ConvertTo(kFloats, hn::BitCast(hn::RebindToSigned<Pixels>(), channel));
+    const auto bits = hn::Set(d, kBits);
+    const auto difference = hn::Sub(hn::And(source, bits), hn::And(destination, bits));
+    return hn::ConvertTo(kFloats, hn::BitCast(hn::RebindToSigned<Pixels>(), difference));
 }
 
-// The two weights of the mean, their sum R, and what turns a sum of weighted colours into a mean.
+HWY_INLINE FloatVec Alpha(PixelVec pixels) {
+    return hn::ConvertTo(kFloats,
+                         hn::BitCast(hn::RebindToSigned<Pixels>(), hn::ShiftRight<24>(pixels)));
+}
+
+// Off by less than a part in a thousand; the processor's is by one in 2,700 at most.
+HWY_INLINE FloatVec RoughInverse(FloatVec number) {
+#if HWY_ARCH_X86
+    return hn::ApproximateReciprocal(number);
+#else
+    return hn::Div(hn::Set(kFloats, 1.0F), number);
+#endif
+}
+
+// R, the sum of the two weights of a mean; its half, rounded up; and about its inverse.
 struct Weights {
-    FloatVec Source, Destination, Sum, HalfSum, Scale;
+    FloatVec Sum, HalfSum, Inverse;
 };
 
-// The mean of one channel; only the low byte of each lane means anything.
-template <int kShift>
-HWY_INLINE PixelVec Mean(PixelVec destination, PixelVec source, const Weights& weights) {
+// How far the mean lies from the destination, in one channel: (2 x difference x weight + R) / 2R,
+// rounded down. It comes less one and with kBiasBits added.
+HWY_INLINE PixelVec Step(FloatVec difference, FloatVec weight, const Weights& weights) {
     const Pixels d;
-    // At most 255 x 65025, so that every step on N and q x R is exact in a float.
-    const auto n = hn::MulAdd(weights.Destination, Channel<kShift>(destination),
-                              hn::Mul(weights.Source, Channel<kShift>(source)));
+    // Whole and below 2^24 in size, as all that follows but the quotient: every step is exact.
+    const auto n = hn::MulSub(difference, weight, weights.HalfSum);
     const auto bias = hn::Set(kFloats, kRoundingBias);
-    const auto biased = hn::MulAdd(n, weights.Scale, bias);
+    // n / R rounded: what n / R rounded down is, or one more. Then the remainder is negative.
+    const auto biased = hn::MulAdd(n, weights.Inverse, bias);
     const auto remainder = hn::NegMulAdd(hn::Sub(biased, bias), weights.Sum, n);
-    const auto oneMore = hn::VecFromMask(kFloats, hn::Ge(remainder, weights.HalfSum));
-    return hn::Sub(hn::BitCast(d, biased), hn::BitCast(d, oneMore));
+    return hn::Sub(hn::BitCast(d, biased), hn::ShiftRight<31>(hn::BitCast(d, remainder)));
 }
 
 HWY_INLINE PixelVec BlendVector(PixelVec destination, PixelVec source) {
     const Pixels d;
     const auto all = hn::Set(kFloats, 255.0F);
-    const auto sourceAlpha = Channel<24>(source);
+    const auto sourceAlpha = Alpha(source);
+    const auto weight = hn::Mul(all, sourceAlpha);
+    const auto sum = hn::MulAdd(Alpha(destination), hn::Sub(all, sourceAlpha), weight);
     Weights weights;
-    weights.Source = hn::Mul(all, sourceAlpha);
-    weights.Destination = hn::Mul(Channel<24>(destination), hn::Sub(all, sourceAlpha));
-    weights.Sum = hn::Add(weights.Source, weights.Destination);
-    weights.HalfSum = hn::Mul(weights.Sum, hn::Set(kFloats, 0.5F));
-    // A little too small, so that a quotient is either right or one too low, never too high.
-    weights.Scale = hn::Div(hn::Set(kFloats, 1.0F - 1.0F / (1 << 20)), weights.Sum);
+    // Nothing on nothing is no step as well.
+    weights.Sum = hn::Max(sum, hn::Set(kFloats, 1.0F));
+    weights.HalfSum = hn::Ceil(hn::Mul(weights.Sum, hn::Set(kFloats, 0.5F)));
+    weights.Inverse = RoughInverse(weights.Sum);
 
+    const auto blue = Step(Difference<0xFF>(source, destination), weight, weights);
+    const auto green = Step(Difference<0xFF00>(source, destination),
+                            hn::Mul(weight, hn::Set(kFloats, 1.0F / (1 << 8))), weights);
+    const auto red = Step(Difference<0xFF0000>(source, destination),
+                          hn::Mul(weight, hn::Set(kFloats, 1.0F / (1 << 16))), weights);
     const auto alpha =
-        hn::MulAdd(weights.Sum, hn::Set(kFloats, 1.0F / 255.0F), hn::Set(kFloats, kRoundingBias));
-    // The bits of the bias above the low byte are shifted out, but for blue.
-    const auto alphaAndRed = hn::Or(hn::ShiftLeft<24>(hn::BitCast(d, alpha)),
-                                    hn::ShiftLeft<16>(Mean<16>(destination, source, weights)));
-    const auto greenAndBlue =
-        hn::Or(hn::ShiftLeft<8>(Mean<8>(destination, source, weights)),
-               hn::And(Mean<0>(destination, source, weights), hn::Set(d, 0xFFu)));
-    const auto blended = hn::Or(alphaAndRed, greenAndBlue);
-    return hn::IfThenElse(hn::Lt(source, hn::Set(d, 1u << 24)), destination, blended);
+        hn::MulAdd(sum, hn::Set(kFloats, 1.0F / 255.0F), hn::Set(kFloats, kRoundingBias));
+    // Added up, what one channel borrows the next pays back.
+    constexpr std::uint32_t kSurplus = (kBiasBits - 1) * 0x010101;
+    const auto steps = hn::Add(hn::Add(blue, hn::ShiftLeft<8>(green)),
+                               hn::Add(hn::ShiftLeft<16>(red), hn::Set(d, 0u - kSurplus)));
+    const auto base = hn::Add(hn::And(destination, hn::Set(d, 0xFFFFFFu)),
+                              hn::ShiftLeft<24>(hn::BitCast(d, alpha)));
+    return hn::Add(base, steps);
+}
+
+#if HWY_TARGET != HWY_SCALAR
+// The same where all destinations are opaque: the weights add up to 255 x 255, so that the mean is
+// a whole number by 255, rounded; it never ends in one half.
+HWY_INLINE PixelVec BlendOnOpaque(PixelVec destination, PixelVec source, PixelVec sourceAlpha) {
+    const Pixels d;
+    const hn::Repartition<std::uint16_t, Pixels> halves;
+    using Halves = hn::Vec<decltype(halves)>;
+    const auto weight = hn::BitCast(halves, hn::Or(sourceAlpha, hn::ShiftLeft<16>(sourceAlpha)));
+    // Steps may pass the ends of 16 bits, what they end at lies between 0 and 65025.
+    const auto mean = [&](Halves below, Halves above) HWY_ATTR {
+        const auto sum = hn::Add(hn::Sub(hn::ShiftLeft<8>(below), below),
+                                 hn::Mul(weight, hn::Sub(above, below)));
+        const auto up = hn::Add(sum, hn::Set(halves, std::uint16_t{128}));
+        return hn::Add(up, hn::ShiftRight<8>(up));  // the mean is in the upper byte
+    };
+    const auto below = hn::BitCast(halves, destination);
+    const auto above = hn::BitCast(halves, source);
+    const auto low = hn::Set(halves, std::uint16_t{0xFF});
+    const auto blueAndRed = hn::ShiftRight<8>(mean(hn::And(below, low), hn::And(above, low)));
+    const auto green = hn::AndNot(low, mean(hn::ShiftRight<8>(below), hn::ShiftRight<8>(above)));
+    return hn::Or(hn::BitCast(d, hn::Or(blueAndRed, green)), hn::Set(d, 255u << 24));
+}
+
+#endif
+
+// Rows are opaque over long stretches.
+HWY_INLINE PixelVec Blend(PixelVec destination, PixelVec source) {
+#if HWY_TARGET != HWY_SCALAR
+    const Pixels d;
+    if (hn::AllFalse(d, hn::Lt(destination, hn::Set(d, 255u << 24))))
+        return BlendOnOpaque(destination, source, hn::ShiftRight<24>(source));
+#endif
+    return BlendVector(destination, source);
 }
 
 // Takes the alphas through the factor, as AlphaFactor::Apply does.
@@ -102,7 +157,7 @@ void BlendRowVectors(Argb* destination, const Argb* source, std::size_t count) {
         if (hn::AllFalse(d, hn::Lt(pixels, lowestOpaque)))
             hn::StoreU(pixels, d, destination + i);
         else
-            hn::StoreU(BlendVector(hn::LoadU(d, destination + i), pixels), d, destination + i);
+            hn::StoreU(Blend(hn::LoadU(d, destination + i), pixels), d, destination + i);
     }
     for (; i < count; ++i)
         destination[i] = BlendPixel(destination[i], source[i]);
@@ -122,7 +177,7 @@ void BlendScaledRowVectors(Argb* destination, const Argb* source, std::size_t co
         if (hn::AllTrue(d, hn::Lt(pixels, lowestVisible)))
             continue;
         const auto scaled = Scaled(pixels, multiplier, half, factor.Shift);
-        hn::StoreU(BlendVector(hn::LoadU(d, destination + i), scaled), d, destination + i);
+        hn::StoreU(Blend(hn::LoadU(d, destination + i), scaled), d, destination + i);
     }
     for (; i < count; ++i)
         destination[i] =
@@ -135,7 +190,7 @@ void BlendColorVectors(Argb* destination, Argb color, std::size_t count) {
     const std::size_t step = hn::Lanes(d);
     std::size_t i = 0;
     for (; i + step <= count; i += step)
-        hn::StoreU(BlendVector(hn::LoadU(d, destination + i), colors), d, destination + i);
+        hn::StoreU(Blend(hn::LoadU(d, destination + i), colors), d, destination + i);
     for (; i < count; ++i)
         destination[i] = BlendPixel(destination[i], color);
 }
