@@ -7,9 +7,9 @@
 
 #include "filters/shrink_to_size.h"
 #include "formats/icns_file.h"
-#include "formats/parallel.h"
 #include "graphics/errors.h"
 #include "graphics/file_io.h"
+#include "graphics/parallel.h"
 
 namespace orbelle::formats {
 namespace {
@@ -34,7 +34,7 @@ void LeaveInSizesFolder(const std::vector<Bitmap>& pictures) {
 void ExportIcns(const fs::path& path, const FlatFamily& family, const ExportSettings& settings) {
     std::vector<Bytes> pngs(std::size(kIcnsTypes));
     // The largest take most of the time.
-    ForEachInParallel(pngs.size(), [&](std::size_t i) {
+    graphics::ForEachInParallel(pngs.size(), [&](std::size_t i) {
         const std::size_t place = pngs.size() - 1 - i;
         pngs[place] =
             EncodePng(EnlargedPictureForSize(family, kIcnsTypes[place].Side), settings.Packing);
@@ -76,7 +76,7 @@ std::vector<Bytes> PngsForIcon(const FlatFamily& family, std::span<const Bitmap>
                                const ExportSettings& settings) {
     std::vector<Bytes> pngs(pictures.size());
     if (settings.IconPictures != IconFormat::Bmp)
-        ForEachInParallel(pngs.size(), [&](std::size_t i) {
+        graphics::ForEachInParallel(pngs.size(), [&](std::size_t i) {
             pngs[i] = PngForIcon(family, pictures[i], settings);
         });
     return pngs;

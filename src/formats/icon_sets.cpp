@@ -9,10 +9,10 @@
 #include "formats/export_icon.h"
 #include "formats/export_image.h"
 #include "formats/icns_file.h"
-#include "formats/parallel.h"
 #include "formats/set_texts.h"
 #include "graphics/drawing_context.h"
 #include "graphics/errors.h"
+#include "graphics/parallel.h"
 #include "graphics/staged_files.h"
 
 namespace orbelle::formats {
@@ -119,7 +119,7 @@ void Render(const SetSource& source, const ExportSettings& settings, Pictures& p
     for (Pictures::value_type& picture : pictures)
         all.push_back(&picture);
     std::ranges::reverse(all);
-    ForEachInParallel(all.size(), [&](std::size_t i) {
+    graphics::ForEachInParallel(all.size(), [&](std::size_t i) {
         Rendered& rendered = all[i]->second;
         rendered.Picture = DrawSetPicture(source, all[i]->first);
         if (rendered.NeedsPng)
@@ -231,7 +231,8 @@ void WriteSet(const fs::path& folder, const RenderedSet& set) {
     for (const RenderedFile& file : set.Files)
         paths.push_back(folder / file.Path);
     graphics::StagedFiles staged(paths);
-    ForEachInParallel(paths.size(), [&](std::size_t i) { staged.Stage(i, set.Files[i].Bytes); });
+    graphics::ForEachInParallel(paths.size(),
+                                [&](std::size_t i) { staged.Stage(i, set.Files[i].Bytes); });
     staged.Commit();
 }
 

@@ -8,7 +8,7 @@
 #include <thread>
 #include <vector>
 
-namespace orbelle::formats {
+namespace orbelle::graphics {
 
 // Runs work(0) to work(count - 1), in any order and at the same time; they must not touch the same
 // things. Returns when all are done. The first exception thrown is thrown again here, as it was.
@@ -41,4 +41,4 @@ void ForEachInParallel(std::size_t count, const Work& work) {
         std::rethrow_exception(failure);
 }
 
-}  // namespace orbelle::formats
+}  // namespace orbelle::graphics

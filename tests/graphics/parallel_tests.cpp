@@ -1,10 +1,10 @@
-#include "formats/parallel.h"
+#include "graphics/parallel.h"
 
 #include <gtest/gtest.h>
 
 #include <new>
 
-namespace orbelle::formats {
+namespace orbelle::graphics {
 namespace {
 
 TEST(ForEachInParallel, DoesEveryPieceOnceAndThrowsAsTheyDo) {
@@ -20,4 +20,4 @@ TEST(ForEachInParallel, DoesEveryPieceOnceAndThrowsAsTheyDo) {
 }
 
 }  // namespace
-}  // namespace orbelle::formats
+}  // namespace orbelle::graphics
