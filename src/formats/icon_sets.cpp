@@ -90,7 +90,9 @@ std::vector<SetFile> AndroidFiles(Argb background) {
 struct Rendered {
     Bitmap Picture;
     Bytes Png;
+    Bytes PngInIcon;  // empty: a bitmap
     bool NeedsPng = false;
+    bool IsInIcon = false;
 };
 using Pictures = std::map<SetPicture, Rendered>;
 
@@ -106,7 +108,7 @@ void NoteWanted(const SetFile& file, Argb background, Pictures& pictures) {
         pictures[Resolved(*picture, background)].NeedsPng = true;
     } else if (const auto* icon = std::get_if<SetIcon>(&file.Content)) {
         for (const int size : icon->Sizes)
-            pictures[Whole(size, Ground::None)];
+            pictures[Whole(size, Ground::None)].IsInIcon = true;
     } else if (std::holds_alternative<SetIcns>(file.Content)) {
         for (const IcnsType& type : kIcnsTypes)
             pictures[Whole(type.Side, Ground::None)].NeedsPng = true;
@@ -124,15 +126,21 @@ void Render(const SetSource& source, const ExportSettings& settings, Pictures& p
         rendered.Picture = DrawSetPicture(source, all[i]->first);
         if (rendered.NeedsPng)
             rendered.Png = EncodePng(rendered.Picture, settings.Packing);
+        if (rendered.IsInIcon)
+            rendered.PngInIcon =
+                PngForIcon(source.Family, rendered.Picture, settings, rendered.Png);
     });
 }
 
-Bytes IconBytes(const FlatFamily& family, const SetIcon& icon, const ExportSettings& settings,
-                const Pictures& pictures) {
+Bytes IconBytes(const SetIcon& icon, const ExportSettings& settings, const Pictures& pictures) {
     std::vector<Bitmap> drawn;
-    for (const int size : icon.Sizes)
-        drawn.push_back(pictures.at(Whole(size, Ground::None)).Picture);
-    return EncodeIcon(drawn, settings.IconPictures, PngsForIcon(family, drawn, settings));
+    std::vector<Bytes> pngs;
+    for (const int size : icon.Sizes) {
+        const Rendered& rendered = pictures.at(Whole(size, Ground::None));
+        drawn.push_back(rendered.Picture);
+        pngs.push_back(rendered.PngInIcon);
+    }
+    return EncodeIcon(drawn, settings.IconPictures, pngs);
 }
 
 Bytes FileBytes(const SetSource& source, const SetFile& file, const ExportSettings& settings,
@@ -140,7 +148,7 @@ Bytes FileBytes(const SetSource& source, const SetFile& file, const ExportSettin
     if (const auto* picture = std::get_if<SetPicture>(&file.Content))
         return pictures.at(Resolved(*picture, source.Background)).Png;
     if (const auto* icon = std::get_if<SetIcon>(&file.Content))
-        return IconBytes(source.Family, *icon, settings, pictures);
+        return IconBytes(*icon, settings, pictures);
     if (const auto* text = std::get_if<std::string>(&file.Content))
         return {text->begin(), text->end()};
     std::vector<Bytes> pngs;
