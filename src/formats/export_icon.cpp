@@ -40,6 +40,7 @@ void ExportIcns(const fs::path& path, const FlatFamily& family, const ExportSett
     for (const IcnsType& type : kIcnsTypes)
         pngOfSide[type.Side];
     std::vector<std::pair<const int, Bytes>*> sides;
+    sides.reserve(pngOfSide.size());
     for (auto& side : pngOfSide)
         sides.push_back(&side);
     graphics::ForEachInParallel(sides.size(), [&](std::size_t i) {
