@@ -96,4 +96,5 @@ def main():
     return subprocess.run([PROGRAM, CACHE / "list"]).returncode
 
 
-sys.exit(main())
+if __name__ == "__main__":
+    sys.exit(main())

@@ -3,13 +3,16 @@
 #include <algorithm>
 #include <cstdlib>
 #include <exception>
+#include <functional>
+#include <map>
 #include <string>
+#include <utility>
 
 #include "filters/shrink_to_size.h"
 #include "formats/icns_file.h"
-#include "formats/parallel.h"
 #include "graphics/errors.h"
 #include "graphics/file_io.h"
+#include "graphics/parallel.h"
 
 namespace orbelle::formats {
 namespace {
@@ -32,24 +35,22 @@ void LeaveInSizesFolder(const std::vector<Bitmap>& pictures) {
 }
 
 void ExportIcns(const fs::path& path, const FlatFamily& family, const ExportSettings& settings) {
-    std::vector<Bytes> pngs(std::size(kIcnsTypes));
-    // The largest take most of the time.
-    ForEachInParallel(pngs.size(), [&](std::size_t i) {
-        const std::size_t place = pngs.size() - 1 - i;
-        pngs[place] =
-            EncodePng(EnlargedPictureForSize(family, kIcnsTypes[place].Side), settings.Packing);
+    // Sizes that are there twice are made once. The largest come first: they take most of the time.
+    std::map<int, Bytes, std::greater<>> pngOfSide;
+    for (const IcnsType& type : kIcnsTypes)
+        pngOfSide[type.Side];
+    std::vector<std::pair<const int, Bytes>*> sides;
+    sides.reserve(pngOfSide.size());
+    for (auto& side : pngOfSide)
+        sides.push_back(&side);
+    graphics::ForEachInParallel(sides.size(), [&](std::size_t i) {
+        auto& [side, png] = *sides[i];
+        png = EncodePng(EnlargedPictureForSize(family, side), settings.Packing);
     });
+    std::vector<Bytes> pngs;
+    for (const IcnsType& type : kIcnsTypes)
+        pngs.push_back(pngOfSide[type.Side]);
     graphics::WriteFile(path, EncodeIcns(pngs));
-}
-
-// An untouched one stays as it is, unless it is to be smaller.
-Bytes PngForIcon(const FlatFamily& family, const Bitmap& picture, const ExportSettings& settings) {
-    Bytes untouched = UntouchedPng(family, picture);
-    const bool isFast = settings.Packing == graphics::PngPacking::Fast;
-    if (untouched.empty() ? !StandsAsPng(picture, settings.IconPictures) : isFast)
-        return untouched;
-    Bytes packed = EncodePng(picture, settings.Packing);
-    return untouched.empty() || packed.size() < untouched.size() ? packed : untouched;
 }
 
 }  // namespace
@@ -72,14 +73,18 @@ Hotspot HotspotForSize(const Bitmap& master, Hotspot hotspot, int size) {
             std::min(static_cast<int>(place.Y) + hotspot.Y * side / longer, size - 1)};
 }
 
-std::vector<Bytes> PngsForIcon(const FlatFamily& family, std::span<const Bitmap> pictures,
-                               const ExportSettings& settings) {
-    std::vector<Bytes> pngs(pictures.size());
-    if (settings.IconPictures != IconFormat::Bmp)
-        ForEachInParallel(pngs.size(), [&](std::size_t i) {
-            pngs[i] = PngForIcon(family, pictures[i], settings);
-        });
-    return pngs;
+Bytes PngForIcon(const FlatFamily& family, const Bitmap& picture, const ExportSettings& settings,
+                 Bytes packed) {
+    if (settings.IconPictures == IconFormat::Bmp)
+        return {};
+    // An untouched one stays as it is, unless it is to be smaller.
+    Bytes untouched = UntouchedPng(family, picture);
+    const bool isFast = settings.Packing == graphics::PngPacking::Fast;
+    if (untouched.empty() ? !StandsAsPng(picture, settings.IconPictures) : isFast)
+        return untouched;
+    if (packed.empty())
+        packed = EncodePng(picture, settings.Packing);
+    return untouched.empty() || packed.size() < untouched.size() ? packed : untouched;
 }
 
 void ExportIcon(const fs::path& path, IconKind kind, const FlatFamily& family,
@@ -99,8 +104,10 @@ void ExportIcon(const fs::path& path, IconKind kind, const FlatFamily& family,
     }
     if (pictures.empty())
         return;
-    graphics::WriteFile(path, EncodeIcon(pictures, settings.IconPictures,
-                                         PngsForIcon(family, pictures, settings), hotspots));
+    std::vector<Bytes> pngs(pictures.size());
+    graphics::ForEachInParallel(
+        pngs.size(), [&](std::size_t i) { pngs[i] = PngForIcon(family, pictures[i], settings); });
+    graphics::WriteFile(path, EncodeIcon(pictures, settings.IconPictures, pngs, hotspots));
     if (!settings.LeavesScratchPictures)
         return;
     try {

@@ -31,10 +31,11 @@ enum class IconKind { Windows, Pointer, MacOs };
 void ExportIcon(const std::filesystem::path& path, IconKind kind, const FlatFamily& family,
                 const ExportSettings& settings = {});
 
-// For each of the pictures what EncodeIcon takes as its PNG; empty where it stands as bitmap.
-std::vector<std::vector<std::uint8_t>> PngsForIcon(const FlatFamily& family,
-                                                   std::span<const graphics::Bitmap> pictures,
-                                                   const ExportSettings& settings);
+// What EncodeIcon takes as the picture's PNG; empty where it stands as bitmap. `packed`: the
+// picture's PNG by the same settings, if it has been made already.
+std::vector<std::uint8_t> PngForIcon(const FlatFamily& family, const graphics::Bitmap& picture,
+                                     const ExportSettings& settings,
+                                     std::vector<std::uint8_t> packed = {});
 
 // The folder "Sizes" in the user's cache folder (XDG_CACHE_HOME, else ~/.cache; LOCALAPPDATA on
 // Windows); not made here. Empty when there is no such folder.

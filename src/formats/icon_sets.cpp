@@ -9,10 +9,10 @@
 #include "formats/export_icon.h"
 #include "formats/export_image.h"
 #include "formats/icns_file.h"
-#include "formats/parallel.h"
 #include "formats/set_texts.h"
 #include "graphics/drawing_context.h"
 #include "graphics/errors.h"
+#include "graphics/parallel.h"
 #include "graphics/staged_files.h"
 
 namespace orbelle::formats {
@@ -90,7 +90,9 @@ std::vector<SetFile> AndroidFiles(Argb background) {
 struct Rendered {
     Bitmap Picture;
     Bytes Png;
+    Bytes PngInIcon;  // empty: a bitmap
     bool NeedsPng = false;
+    bool IsInIcon = false;
 };
 using Pictures = std::map<SetPicture, Rendered>;
 
@@ -106,7 +108,7 @@ void NoteWanted(const SetFile& file, Argb background, Pictures& pictures) {
         pictures[Resolved(*picture, background)].NeedsPng = true;
     } else if (const auto* icon = std::get_if<SetIcon>(&file.Content)) {
         for (const int size : icon->Sizes)
-            pictures[Whole(size, Ground::None)];
+            pictures[Whole(size, Ground::None)].IsInIcon = true;
     } else if (std::holds_alternative<SetIcns>(file.Content)) {
         for (const IcnsType& type : kIcnsTypes)
             pictures[Whole(type.Side, Ground::None)].NeedsPng = true;
@@ -119,20 +121,26 @@ void Render(const SetSource& source, const ExportSettings& settings, Pictures& p
     for (Pictures::value_type& picture : pictures)
         all.push_back(&picture);
     std::ranges::reverse(all);
-    ForEachInParallel(all.size(), [&](std::size_t i) {
+    graphics::ForEachInParallel(all.size(), [&](std::size_t i) {
         Rendered& rendered = all[i]->second;
         rendered.Picture = DrawSetPicture(source, all[i]->first);
         if (rendered.NeedsPng)
             rendered.Png = EncodePng(rendered.Picture, settings.Packing);
+        if (rendered.IsInIcon)
+            rendered.PngInIcon =
+                PngForIcon(source.Family, rendered.Picture, settings, rendered.Png);
     });
 }
 
-Bytes IconBytes(const FlatFamily& family, const SetIcon& icon, const ExportSettings& settings,
-                const Pictures& pictures) {
+Bytes IconBytes(const SetIcon& icon, const ExportSettings& settings, const Pictures& pictures) {
     std::vector<Bitmap> drawn;
-    for (const int size : icon.Sizes)
-        drawn.push_back(pictures.at(Whole(size, Ground::None)).Picture);
-    return EncodeIcon(drawn, settings.IconPictures, PngsForIcon(family, drawn, settings));
+    std::vector<Bytes> pngs;
+    for (const int size : icon.Sizes) {
+        const Rendered& rendered = pictures.at(Whole(size, Ground::None));
+        drawn.push_back(rendered.Picture);
+        pngs.push_back(rendered.PngInIcon);
+    }
+    return EncodeIcon(drawn, settings.IconPictures, pngs);
 }
 
 Bytes FileBytes(const SetSource& source, const SetFile& file, const ExportSettings& settings,
@@ -140,7 +148,7 @@ Bytes FileBytes(const SetSource& source, const SetFile& file, const ExportSettin
     if (const auto* picture = std::get_if<SetPicture>(&file.Content))
         return pictures.at(Resolved(*picture, source.Background)).Png;
     if (const auto* icon = std::get_if<SetIcon>(&file.Content))
-        return IconBytes(source.Family, *icon, settings, pictures);
+        return IconBytes(*icon, settings, pictures);
     if (const auto* text = std::get_if<std::string>(&file.Content))
         return {text->begin(), text->end()};
     std::vector<Bytes> pngs;
@@ -231,7 +239,8 @@ void WriteSet(const fs::path& folder, const RenderedSet& set) {
     for (const RenderedFile& file : set.Files)
         paths.push_back(folder / file.Path);
     graphics::StagedFiles staged(paths);
-    ForEachInParallel(paths.size(), [&](std::size_t i) { staged.Stage(i, set.Files[i].Bytes); });
+    graphics::ForEachInParallel(paths.size(),
+                                [&](std::size_t i) { staged.Stage(i, set.Files[i].Bytes); });
     staged.Commit();
 }
 

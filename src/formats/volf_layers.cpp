@@ -8,10 +8,10 @@
 
 #include "filters/create_region.h"
 #include "formats/document_limits.h"
-#include "formats/parallel.h"
 #include "formats/volf_layout.h"
 #include "graphics/codecs/image_files.h"
 #include "graphics/little_endian.h"
+#include "graphics/parallel.h"
 
 namespace orbelle::formats {
 namespace {
@@ -114,7 +114,7 @@ LayersRead LayerReader::Read(std::int32_t count) {
     LayersRead read;
     std::vector<Record> records = ReadRecords(count, read);
     read.End = place_;
-    ForEachInParallel(records.size(), [&](std::size_t i) { DecodePicture(records[i]); });
+    graphics::ForEachInParallel(records.size(), [&](std::size_t i) { DecodePicture(records[i]); });
     const std::vector<std::string> end = std::exchange(read.Problems, {});
     for (std::size_t i = 0; i < records.size(); ++i) {
         if (!records[i].Problem.empty()) {

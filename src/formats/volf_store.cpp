@@ -4,7 +4,6 @@
 #include <cstring>
 
 #include "formats/document_limits.h"
-#include "formats/parallel.h"
 #include "formats/volf_layout.h"
 #include "formats/volf_names.h"
 #include "graphics/checksum.h"
@@ -12,6 +11,7 @@
 #include "graphics/errors.h"
 #include "graphics/file_io.h"
 #include "graphics/little_endian.h"
+#include "graphics/parallel.h"
 
 namespace orbelle::formats {
 namespace {
@@ -156,7 +156,8 @@ std::vector<std::uint8_t> EncodeDocument(const Document& document) {
     // The pictures take nearly all of the time.
     const std::vector<const IconLayer*> layers = LayersOf(document);
     std::vector<std::vector<std::uint8_t>> pngs(layers.size());
-    ForEachInParallel(pngs.size(), [&](std::size_t i) { pngs[i] = EncodePicture(*layers[i]); });
+    graphics::ForEachInParallel(pngs.size(),
+                                [&](std::size_t i) { pngs[i] = EncodePicture(*layers[i]); });
     return FillFrame(EncodeFrame(document), pngs);
 }
 

@@ -2,6 +2,7 @@
 #include <png.h>
 
 #include "graphics/codecs/image_files.h"
+#include "graphics/codecs/png_rows.h"
 #include "graphics/decoding.h"
 #include "support/random_pictures.h"
 
@@ -121,14 +122,48 @@ TEST(PngCodec, RoundTripsKeepEveryBit) {
     for (auto format : {PixelFormat::Argb32, PixelFormat::Rgb24}) {
         const Bitmap image =
             testing::RandomPicture(random, 211, 97).CloneArea(0, 0, 211, 97, format);
-        FileBytes file = EncodePng(image);
-        const std::size_t kColorTypeAt = 25;
-        EXPECT_EQ(file[kColorTypeAt],
-                  format == PixelFormat::Rgb24 ? PNG_COLOR_TYPE_RGB : PNG_COLOR_TYPE_RGB_ALPHA);
-        file.push_back(0);  // bytes after the end don't matter
-        EXPECT_TRUE(testing::SamePixels(DecodeImage(file), image));
+        for (FileBytes file : {EncodePng(image), EncodePng(image, PngPacking::Fast)}) {
+            const std::size_t kColorTypeAt = 25;
+            EXPECT_EQ(file[kColorTypeAt],
+                      format == PixelFormat::Rgb24 ? PNG_COLOR_TYPE_RGB : PNG_COLOR_TYPE_RGB_ALPHA);
+            file.push_back(0);  // bytes after the end don't matter
+            EXPECT_TRUE(testing::SamePixels(DecodeImage(file), image));
+        }
     }
     EXPECT_TRUE(EncodePng({}).empty());
+}
+
+TEST(PngRows, FiltersTakeWhatTheNeighboursSay) {
+    PngRows rows{.Form = {.Width = 3, .Height = 2, .Colors = PngColors::Gray}, .Stride = 3};
+    rows.Bytes = {10, 20, 15, 12, 9, 40};
+    const struct {
+        PngFilter Filter;
+        FileBytes Expected;
+    } cases[] = {
+        {PngFilter::None, {0, 10, 20, 15, 0, 12, 9, 40}},
+        {PngFilter::Left, {1, 10, 10, 251, 1, 12, 253, 31}},
+        {PngFilter::Above, {2, 10, 20, 15, 2, 2, 245, 25}},
+        {PngFilter::Mean, {3, 10, 15, 5, 3, 7, 249, 28}},
+        // 12 + 20 - 10 is nearest to 20; 9 + 15 - 20 = 4 is nearest to 9.
+        {PngFilter::Paeth, {4, 10, 10, 251, 4, 2, 245, 31}},
+    };
+    for (const auto& [filter, expected] : cases)
+        EXPECT_EQ(FilterRows(rows, std::span(&filter, 1)), expected);
+    // 10 + 20 + 15 against 10 + 10 + 5, and 12 + 9 + 40 against 12 + 3 + 31.
+    constexpr PngFilter kBoth[] = {PngFilter::None, PngFilter::Left};
+    EXPECT_EQ(FilterRows(rows, kBoth), cases[1].Expected);
+}
+
+TEST(PngRows, DecodersUndoEveryFilter) {
+    std::mt19937 random(8);
+    const Bitmap image = testing::RandomPicture(random, 37, 23);
+    const PngRows rows = WholeRows(image);
+    for (const PngFilter filter :
+         {PngFilter::None, PngFilter::Left, PngFilter::Above, PngFilter::Mean, PngFilter::Paeth}) {
+        const FileBytes filtered = FilterRows(rows, std::span(&filter, 1));
+        EXPECT_TRUE(
+            testing::SamePixels(DecodeImage(AssemblePng(rows.Form, Deflate(filtered, 1))), image));
+    }
 }
 
 }  // namespace

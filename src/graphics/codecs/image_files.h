@@ -49,16 +49,15 @@ bool IsSvg(const ByteSource& file);
 bool IsPicture(const ByteSource& file);
 
 // 8-bit RGBA straight from the pixels, colours under alpha 0 kept (Rgb24 bitmaps: 8-bit RGB).
-// An empty bitmap gives no bytes.
+// An empty bitmap gives no bytes. Packed quickly.
 std::vector<std::uint8_t> EncodePng(const Bitmap& image);
 
-// A file as small as can be, in fifty times the time: every visible pixel is the same, those of
-// alpha 0 become 0. Palettes, greys and opaque pictures are stored as such.
+// A file as small as can be, in thirty times the time, on all cores: every visible pixel is the
+// same, those of alpha 0 become 0. Palettes, greys and opaque pictures are stored as such.
 std::vector<std::uint8_t> EncodeSmallPng(const Bitmap& image);
 
+// Fast: all is kept, as above, in a file a twelfth smaller for twice the time.
 enum class PngPacking { Fast, Small };
-
-// One of the two.
 std::vector<std::uint8_t> EncodePng(const Bitmap& image, PngPacking packing);
 
 // 24 bits, bottom-up, uncompressed, 3780 pixels a metre; alpha is dropped. An empty bitmap
