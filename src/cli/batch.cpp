@@ -1,39 +1,22 @@
 #include "cli/batch.h"
 
 #include <algorithm>
-#include <condition_variable>
-#include <map>
-#include <memory>
 #include <mutex>
 #include <nlohmann/json.hpp>
 #include <optional>
-#include <set>
 #include <sstream>
 #include <thread>
-
-#include "cli/plan.h"
+#include <utility>
 
 namespace orbelle::cli {
 namespace {
 
 namespace fs = std::filesystem;
 
-// One file's part.
-struct Job {
-    std::string File;
-    std::vector<Call> Calls;
-};
-
-struct WrittenFile {
-    std::string Path;
-    std::uintmax_t Bytes = 0;
-};
-
+// What a job printed and told.
 struct Result {
     std::string Output;
     std::string Notes;
-    std::string Error;  // empty: it went well
-    std::vector<WrittenFile> Written;
 };
 
 // A path that is told apart from options, numbers, verbs and formats in whatever place it stands.
@@ -44,121 +27,16 @@ std::string PlainPath(const std::string& file) {
     return isSpecial ? "./" + file : file;
 }
 
-// Who reads and writes what. The names of one file in several spellings are one.
-class Claims {
-public:
-    // Throws UsageError when another file claimed one of them.
-    void Add(const std::string& file, const Plan& plan);
-    // To be called at the end: who reads what another one writes.
-    void CheckReads() const;
-
-private:
-    void Claim(const std::string& file, const std::string& key, const std::string& what);
-
-    std::map<std::string, std::string> writers_;
-    std::vector<std::pair<std::string, fs::path>> reads_;  // the file, what it reads
-};
-
-std::string KeyOf(const fs::path& path) {
-    std::error_code error;
-    const fs::path key = fs::weakly_canonical(fs::absolute(path), error);
-    return (error ? fs::absolute(path).lexically_normal() : key).string();
-}
-
-void Claims::Claim(const std::string& file, const std::string& key, const std::string& what) {
-    const auto [place, isNew] = writers_.emplace(key, file);
-    if (!isNew)
-        throw UsageError(place->second + " and " + file + " would both " + what);
-}
-
-void Claims::Add(const std::string& file, const Plan& plan) {
-    std::set<std::string> own;  // what the verbs of one file write twice
-    for (const fs::path& path : plan.Writes) {
-        const std::string key = KeyOf(path);
-        if (own.insert(key).second)
-            Claim(file, key, "write " + path.string());
-    }
-    if (plan.WritesStandardOutput)
-        Claim(file, "-", "write to standard output");
-    if (plan.ReadsStandardInput)
-        Claim(file, "<", "read standard input");
-    for (const fs::path& path : plan.Reads)
-        reads_.emplace_back(file, path);
-}
-
-void Claims::CheckReads() const {
-    for (const auto& [file, path] : reads_) {
-        const auto writer = writers_.find(KeyOf(path));
-        if (writer != writers_.end() && writer->second != file)
-            throw UsageError(file + " would read " + path.string() + ", which " + writer->second +
-                             " writes");
-    }
-}
-
-std::vector<Job> PlanJobs(const Batch& batch) {
-    std::vector<Job> jobs;
-    Claims claims;
-    for (const std::string& file : batch.Files) {
-        if (file.empty())
-            throw UsageError("--each: FILE must be the name of a file");
-        std::vector<VerbLine> lines = batch.Lines;
-        for (VerbLine& line : lines)
-            line.Words = FillIn(line.Words, file);
-        Job& job = jobs.emplace_back(Job{file, ParseLines(lines)});
-        Plan plan = PlanRun(job.Calls, batch.InputIsTaken);
-        if (batch.IsJson && plan.WritesStandardOutput)
-            throw UsageError("--json and a file would both go to standard output");
-        plan.ReadsStandardInput = plan.ReadsStandardInput && !batch.InputIsTaken;
-        claims.Add(file, plan);
-    }
-    claims.CheckReads();
-    return jobs;
-}
-
-// Each once, as large as it is at the end.
-std::vector<WrittenFile> Measure(const std::vector<fs::path>& paths) {
-    std::vector<WrittenFile> files;
-    for (const fs::path& path : paths) {
-        if (std::ranges::find(files, path.string(), &WrittenFile::Path) != files.end())
-            continue;
-        std::error_code error;
-        const std::uintmax_t bytes = fs::file_size(path, error);
-        files.push_back({path.string(), error ? 0 : bytes});
-    }
-    return files;
-}
-
-Result RunJob(const Job& job) {
-    std::ostringstream output, notes;
-    Result result;
-    try {
-        Workspace workspace(output);
-        try {
-            RunCalls(job.Calls, workspace, notes);
-        } catch (const Failure& failure) {
-            result.Error = failure.what();
-        }
-        result.Written = Measure(workspace.Written);
-        result.Output = std::move(output).str();
-        result.Notes = std::move(notes).str();
-    } catch (const std::bad_alloc&) {
-        result.Error = "there is not enough memory";
-    } catch (const std::exception& error) {
-        result.Error = error.what();
-    }
-    return result;
-}
-
-std::string DescribeResult(const std::string& file, const Result& result) {
+std::string DescribeResult(const Job& job, const std::string& output) {
     using Json = nlohmann::ordered_json;
-    Json json = {{"file", file}, {"ok", result.Error.empty()}};
-    if (!result.Error.empty())
-        json["error"] = result.Error;
+    Json json = {{"file", job.File}, {"ok", job.Error.empty()}};
+    if (!job.Error.empty())
+        json["error"] = job.Error;
     json["written"] = Json::array();
-    for (const WrittenFile& written : result.Written)
-        json["written"].push_back({{"path", written.Path}, {"bytes", written.Bytes}});
+    for (const WrittenFile& written : job.Written)
+        json["written"].push_back({{"path", written.Path.string()}, {"bytes", written.Stamp.Size}});
     json["output"] = Json::array();
-    std::istringstream lines(result.Output);
+    std::istringstream lines(output);
     for (std::string line; std::getline(lines, line);)
         json["output"].push_back(line);
     return json.dump(-1, ' ', false, Json::error_handler_t::replace) + '\n';
@@ -167,20 +45,20 @@ std::string DescribeResult(const std::string& file, const Result& result) {
 // Gives out jobs, and tells how they ended in their order.
 class Foreman {
 public:
-    Foreman(const std::vector<Job>& jobs, const Batch& batch, const BatchStreams& streams)
-        : jobs_(jobs), batch_(batch), streams_(streams), results_(jobs.size()) {}
+    Foreman(std::vector<Job*> jobs, const Batch& batch, const BatchStreams& streams)
+        : jobs_(std::move(jobs)), batch_(batch), streams_(streams), results_(jobs_.size()) {}
 
-    // True when none failed. Throws what went wrong while telling.
-    bool RunAll();
+    // Throws what went wrong while telling.
+    void RunAll();
 
 private:
     std::optional<std::size_t> Begin();
     void End(std::size_t job, Result result);
     void Work();
-    void Tell(const std::string& file, const Result& result);
+    void Tell(const Job& job, const Result& result);
     void ShowProgress();
 
-    const std::vector<Job>& jobs_;
+    const std::vector<Job*> jobs_;
     const Batch& batch_;
     const BatchStreams& streams_;
 
@@ -202,12 +80,12 @@ std::optional<std::size_t> Foreman::Begin() {
 
 void Foreman::End(std::size_t job, Result result) {
     const std::lock_guard lock(mutex_);
-    anyFailed_ = anyFailed_ || !result.Error.empty();
+    anyFailed_ = anyFailed_ || !jobs_[job]->Error.empty();
     results_[job] = std::move(result);
     ++ended_;
     try {
         for (; !problem_ && told_ < begun_ && results_[told_]; ++told_) {
-            Tell(jobs_[told_].File, *results_[told_]);
+            Tell(*jobs_[told_], *results_[told_]);
             results_[told_] = Result();  // what was told is needed no more
         }
         ShowProgress();
@@ -216,11 +94,11 @@ void Foreman::End(std::size_t job, Result result) {
     }
 }
 
-void Foreman::Tell(const std::string& file, const Result& result) {
-    const std::string output = batch_.IsJson ? DescribeResult(file, result) : result.Output;
+void Foreman::Tell(const Job& job, const Result& result) {
+    const std::string output = batch_.IsJson ? DescribeResult(job, result.Output) : result.Output;
     std::string errors = result.Notes;
-    if (!result.Error.empty())
-        errors += "orbelle-cli: " + file + ": " + result.Error + '\n';
+    if (!job.Error.empty())
+        errors += "orbelle-cli: " + job.File + ": " + job.Error + '\n';
     if (!errors.empty()) {
         const char* const eraseLine = streams_.ShowsProgress ? "\r\x1B[K" : "";
         streams_.Errors << eraseLine << errors << std::flush;
@@ -241,11 +119,14 @@ void Foreman::ShowProgress() {
 }
 
 void Foreman::Work() {
-    while (const std::optional<std::size_t> job = Begin())
-        End(*job, RunJob(jobs_[*job]));
+    while (const std::optional<std::size_t> job = Begin()) {
+        std::ostringstream output, notes;
+        RunJob(*jobs_[*job], output, notes);
+        End(*job, {std::move(output).str(), std::move(notes).str()});
+    }
 }
 
-bool Foreman::RunAll() {
+void Foreman::RunAll() {
     {
         std::vector<std::jthread> helpers;
         const std::size_t count =
@@ -262,7 +143,6 @@ bool Foreman::RunAll() {
         streams_.Errors << "\r\x1B[K" << std::flush;
     if (problem_)
         std::rethrow_exception(problem_);
-    return !anyFailed_;
 }
 
 }  // namespace
@@ -289,9 +169,30 @@ std::vector<std::string> FillIn(const std::vector<std::string>& words, const std
     return filled;
 }
 
-bool RunBatch(const Batch& batch, const BatchStreams& streams) {
-    const std::vector<Job> jobs = PlanJobs(batch);
-    return Foreman(jobs, batch, streams).RunAll();
+std::vector<Job> PlanBatch(const Batch& batch, const std::vector<VerbLine>& lines, Claims& claims) {
+    std::vector<Job> jobs;
+    for (const std::string& file : batch.Files) {
+        if (file.empty())
+            throw UsageError("--each: FILE must be the name of a file");
+        std::vector<VerbLine> filled = lines;
+        for (VerbLine& line : filled)
+            line.Words = FillIn(line.Words, file);
+        Job& job = jobs.emplace_back(Job{file, ParseLines(filled), {}});
+        job.Plan = PlanRun(job.Calls, batch.InputIsTaken);
+        if (batch.IsJson && job.Plan.WritesStandardOutput)
+            throw UsageError("--json and a file would both go to standard output");
+        claims.Add(file, job.Plan);
+    }
+    return jobs;
+}
+
+void RunBatch(const Batch& batch, std::vector<Job>& jobs, const BatchStreams& streams) {
+    std::vector<Job*> due;
+    for (Job& job : jobs) {
+        if (job.IsDue)
+            due.push_back(&job);
+    }
+    Foreman(std::move(due), batch, streams).RunAll();
 }
 
 }  // namespace orbelle::cli

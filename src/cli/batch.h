@@ -5,13 +5,14 @@
 #include <string>
 #include <vector>
 
+#include "cli/claims.h"
+#include "cli/job.h"
 #include "cli/script.h"
 
 namespace orbelle::cli {
 
 struct Batch {
     std::vector<std::string> Files;
-    std::vector<VerbLine> Lines;  // with "{}" and the like
     int Jobs = 1;
     bool KeepsGoing = false;
     bool IsJson = false;
@@ -29,12 +30,13 @@ struct BatchStreams {
 // something else begins with "./".
 std::vector<std::string> FillIn(const std::vector<std::string>& words, const std::string& file);
 
-// Runs the verbs once for each file, in an editor of its own, on so many threads. What is printed
-// and told comes in the order of the files. Without KeepsGoing none is begun after one that failed.
-// True when none failed.
-//
-// Throws UsageError before anything runs: for wrong verbs, for a path that two files would write or
-// one would write and another one read. Throws Failure when the output can't be written.
-bool RunBatch(const Batch& batch, const BatchStreams& streams);
+// A job for each file, from lines with "{}" and the like. Throws UsageError: for wrong verbs, for
+// a path that two files would write.
+std::vector<Job> PlanBatch(const Batch& batch, const std::vector<VerbLine>& lines, Claims& claims);
+
+// Runs the jobs that are due, on so many threads. What is printed and told comes in their order.
+// Without KeepsGoing none is begun after one that failed. Throws Failure when the output can't be
+// written.
+void RunBatch(const Batch& batch, std::vector<Job>& jobs, const BatchStreams& streams);
 
 }  // namespace orbelle::cli

@@ -47,6 +47,7 @@ std::vector<Entry> Options() {
             {"--jobs", 1, false, "", "", "files at a time"},
             {"--keep-going", 0, false, "", "", "go on after a file that fails"},
             {"--json", 0, false, "", "", "an object for each file"},
+            {"--depfile", 1, false, "", "*", "what each output was made of"},
             {"--recover", 1, true, "list", "volf", "what was kept safe"},
             {"--completion", 1, false, "bash zsh fish", "", "a script for a shell"}};
 }
@@ -128,7 +129,7 @@ _orbelle_cli() {
     fi
     ((given < least)) && return
     case $last in
-        --each) COMPREPLY+=($(compgen -W '-- --jobs --keep-going --json' -- "$word")) ;;
+        --each) COMPREPLY+=($(compgen -W '-- --jobs --keep-going --json --depfile' -- "$word")) ;;
         ''|--*) COMPREPLY+=($(compgen -W '-- @OPTIONWORDS@' -- "$word")) ;;
     esac
     [[ $last == --each ]] || COMPREPLY+=($(compgen -W '@VERBWORDS@' -- "$word"))
@@ -165,7 +166,7 @@ _orbelle_cli() {
     fi
     ((given < least)) && return
     case $last in
-        (--each) compadd -- -- --jobs --keep-going --json; return ;;
+        (--each) compadd -- -- --jobs --keep-going --json --depfile; return ;;
         (''|--*) _describe -o option options ;;
     esac
     _describe verb verbs
@@ -214,7 +215,7 @@ function __orbelle_cli_complete
     test $given -lt $least; and return
     switch "$last"
         case --each
-            printf '%s\n' -- --jobs --keep-going --json
+            printf '%s\n' -- --jobs --keep-going --json --depfile
             return
         case '' '--*'
             printf '%s\n' \

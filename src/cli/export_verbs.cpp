@@ -119,7 +119,7 @@ void NoteSetFiles(Workspace& workspace, const fs::path& folder,
     const std::string name = editing::FileNameOf(workspace.Editor.Document);
     for (const formats::IconSet set : sets) {
         for (const formats::SetFile& file : formats::FilesOfSet(set, name, 0))
-            workspace.Written.push_back(folder / file.Path);
+            workspace.NoteWritten(folder / file.Path);
     }
 }
 

@@ -8,9 +8,9 @@
 namespace orbelle::cli {
 namespace {
 
-constexpr std::string_view kOptions[] = {"--help",       "--version", "--script",
-                                         "--recover",    "--each",    "--jobs",
-                                         "--keep-going", "--json",    "--completion"};
+constexpr std::string_view kOptions[] = {"--help",    "--version",   "--script",     "--recover",
+                                         "--each",    "--jobs",      "--keep-going", "--json",
+                                         "--depfile", "--completion"};
 
 constexpr int kMaxJobs = 1024;
 
@@ -20,6 +20,7 @@ constexpr char kHelp[] =
   orbelle-cli --script FILE
   orbelle-cli --each FILE... [--jobs N] [--keep-going] [--json] -- VERB [ARG...]...
   orbelle-cli --recover [list | N PATH]
+Before verbs, --script and --each also [--depfile FILE]
 
 Options:
   -h, --help [VERB]           print this, or what a verb does, with an example
@@ -32,6 +33,8 @@ Options:
   --jobs N                    so many files at a time; one for each core if not said
   --keep-going                a file that fails does not keep the others from being done
   --json                      print an object for each file, one a line
+  --depfile FILE              when all went well write to FILE which files each output was made
+                              of, as make and ninja read it
   --recover [list | N PATH]   list what the window kept safe when it was killed, or write
                               number N to PATH as a document
   --completion bash|zsh|fish  print what completes the words of a command line
@@ -137,6 +140,10 @@ void Reader::ReadOption(const std::string& option) {
         eachOption_ = option;
     } else if (option == "--script") {
         options_.Script = TakeValue(option);
+    } else if (option == "--depfile") {
+        options_.Depfile = TakeValue(option);
+        if (options_.Depfile == "-")
+            throw UsageError("--depfile needs the name of a file");
     } else {
         throw UsageError(option + ": unknown option" + DidYouMean(option, kOptions));
     }

@@ -7,6 +7,8 @@ namespace {
 
 class Planner {
 public:
+    explicit Planner(bool inputIsTaken) : inputIsTaken_(inputIsTaken) {}
+
     void Add(const Call& call);
 
     cli::Plan Plan;
@@ -17,6 +19,7 @@ private:
     void AddSets(const FileUse& use);
     void Name(const FileUse& use);
 
+    const bool inputIsTaken_;
     document::Document document_;  // no more of it than its name
     bool exists_ = false;
     bool prints_ = false;
@@ -28,7 +31,7 @@ private:
 
 void Planner::AddStandard(const Call& call, bool isRead) {
     if (isRead) {
-        if (Plan.ReadsStandardInput)
+        if (Plan.ReadsStandardInput || inputIsTaken_)
             Refuse(call, "standard input can be read once");
         Plan.ReadsStandardInput = true;
     } else {
@@ -84,8 +87,7 @@ void Planner::Add(const Call& call) {
 }  // namespace
 
 Plan PlanRun(std::span<const Call> calls, bool inputIsTaken) {
-    Planner planner;
-    planner.Plan.ReadsStandardInput = inputIsTaken;
+    Planner planner(inputIsTaken);
     for (const Call& call : calls)
         planner.Add(call);
     return std::move(planner.Plan);

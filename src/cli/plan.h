@@ -11,7 +11,7 @@ namespace orbelle::cli {
 struct Plan {
     std::vector<std::filesystem::path> Reads;
     std::vector<std::filesystem::path> Writes;
-    bool ReadsStandardInput = false;    // or it was taken already
+    bool ReadsStandardInput = false;
     bool WritesStandardOutput = false;  // a file; not what verbs print
 };
 

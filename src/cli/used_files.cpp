@@ -55,7 +55,7 @@ OutputFile::OutputFile(const FileName& name) : path_(name.Path) {
 
 void OutputFile::Finish(Workspace& workspace) const {
     if (!memory_) {
-        workspace.Written.push_back(path_);
+        workspace.NoteWritten(path_);
         return;
     }
     const std::vector<std::uint8_t> bytes = graphics::ReadFile(path_);

@@ -1,5 +1,6 @@
 #include "cli/workspace.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <system_error>
 
@@ -30,6 +31,17 @@ void Workspace::Keep(const editing::Outcome& outcome) {
         throw Failure(outcome.Problem());
     if (!message.empty())
         message_ = std::move(message);
+}
+
+void Workspace::NoteWritten(const std::filesystem::path& path) {
+    const graphics::FileStamp stamp = graphics::StampOf(path);
+    const auto known = std::ranges::find_if(Written, [&path](const WrittenFile& written) {
+        return written.Path.native() == path.native();
+    });
+    if (known == Written.end())
+        Written.push_back({path, stamp});
+    else
+        known->Stamp = stamp;
 }
 
 WindowView::WindowView(Workspace& workspace)

@@ -12,6 +12,7 @@
 #include "editing/run.h"
 #include "graphics/codecs/image_files.h"
 #include "graphics/errors.h"
+#include "graphics/file_stamp.h"
 
 namespace orbelle::cli {
 
@@ -39,6 +40,11 @@ private:
     std::string text_;
 };
 
+struct WrittenFile {
+    std::filesystem::path Path;
+    graphics::FileStamp Stamp;  // as it was left
+};
+
 struct Workspace {
     explicit Workspace(std::ostream& output, std::istream& input = std::cin);
 
@@ -51,15 +57,18 @@ struct Workspace {
     // Empty: nothing to tell.
     std::string TakeMessage() { return std::exchange(message_, {}); }
 
+    // To be called when a verb has written the file.
+    void NoteWritten(const std::filesystem::path& path);
+
     CliHost Host;
     editing::Editor Editor{Host, Host};
     double Zoom = 1;  // of the view, scene pixels per page pixel
     // Which image the next open or import of an icon file takes; nothing: all.
     std::optional<int> IconImage = 0;
-    int SvgSide = graphics::kDefaultSvgSide;     // of the drawings opened or imported
-    std::ostream& Output;                        // for what verbs print
-    std::istream& Input;                         // for the file "-"
-    std::vector<std::filesystem::path> Written;  // by verbs that went well, in their order
+    int SvgSide = graphics::kDefaultSvgSide;  // of the drawings opened or imported
+    std::ostream& Output;                     // for what verbs print
+    std::istream& Input;                      // for the file "-"
+    std::vector<WrittenFile> Written;         // by verbs that went well, each once, in their order
 
 private:
     void Keep(const editing::Outcome& outcome);

@@ -1,18 +1,12 @@
 #include <algorithm>
-#include <cerrno>
-#include <cstring>
-#include <fstream>
 #include <iostream>
 #include <new>
-#include <thread>
 
-#include "cli/batch.h"
 #include "cli/completion.h"
 #include "cli/entry/process.h"
 #include "cli/options.h"
-#include "cli/plan.h"
 #include "cli/recover.h"
-#include "cli/script.h"
+#include "cli/runner.h"
 #include "cli/verb_table.h"
 
 namespace {
@@ -28,56 +22,10 @@ int Report(const std::exception& error, int status) {
     return status;
 }
 
-std::vector<VerbLine> ReadScriptFile(const std::string& name) {
-    if (name == "-")
-        return ReadScript(std::cin, name);
-    std::ifstream file(name, std::ios::binary);
-    if (!file)
-        throw UsageError(name + ": " + std::strerror(errno));
-    return ReadScript(file, name);
-}
-
-// In the place of "-" those that standard input names.
-std::vector<std::string> ReadFileNames(const std::vector<std::string>& words) {
-    std::vector<std::string> names;
-    for (const std::string& word : words) {
-        if (word != "-") {
-            names.push_back(word);
-            continue;
-        }
-        for (std::string line; std::getline(std::cin, line);) {
-            if (!line.empty())
-                names.push_back(line);
-        }
-        if (std::cin.bad())
-            throw UsageError("-: can't be read");
-    }
-    return names;
-}
-
-int RunEach(const Options::EachFile& each, std::vector<VerbLine> lines, bool inputIsTaken) {
-    const bool namesAreInput = std::ranges::find(each.Files, "-") != each.Files.end();
-    const int cores = static_cast<int>(std::max(std::thread::hardware_concurrency(), 1U));
-    const Batch batch{.Files = ReadFileNames(each.Files),
-                      .Lines = std::move(lines),
-                      .Jobs = each.Jobs.value_or(cores),
-                      .KeepsGoing = each.KeepsGoing,
-                      .IsJson = each.IsJson,
-                      .InputIsTaken = inputIsTaken || namesAreInput};
-    return RunBatch(batch, {std::cout, std::cerr, IsTerminalForErrors()}) ? kSucceeded : kFailed;
-}
-
 int Run(const Options& options) {
-    const bool inputIsTaken = options.Script == "-";
-    const std::vector<VerbLine> lines =
-        options.Script ? ReadScriptFile(*options.Script) : std::vector{VerbLine{options.Verbs}};
-    if (options.Each)
-        return RunEach(*options.Each, lines, inputIsTaken);
-    const std::vector<Call> calls = ParseLines(lines);
-    PlanRun(calls, inputIsTaken);
-    Workspace workspace(std::cout);
-    RunCalls(calls, workspace);
-    return kSucceeded;
+    Runner runner(options, {std::cout, std::cerr, IsTerminalForErrors()});
+    runner.Plan();
+    return runner.Run() ? kSucceeded : kFailed;
 }
 
 }  // namespace

@@ -1,0 +1,127 @@
+#include "cli/runner.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <cstring>
+#include <fstream>
+#include <iostream>
+#include <thread>
+#include <utility>
+
+#include "cli/depfile.h"
+#include "graphics/file_io.h"
+
+namespace orbelle::cli {
+namespace {
+
+// In the place of "-" those that standard input names.
+std::vector<std::string> ReadFileNames(const std::vector<std::string>& words) {
+    std::vector<std::string> names;
+    for (const std::string& word : words) {
+        if (word != "-") {
+            names.push_back(word);
+            continue;
+        }
+        for (std::string line; std::getline(std::cin, line);) {
+            if (!line.empty())
+                names.push_back(line);
+        }
+        if (std::cin.bad())
+            throw UsageError("-: can't be read");
+    }
+    return names;
+}
+
+}  // namespace
+
+Runner::Runner(Options options, const BatchStreams& streams)
+    : options_(std::move(options)), streams_(streams) {
+    batch_.InputIsTaken = options_.Script == "-";
+    if (!options_.Each)
+        return;
+    const Options::EachFile& each = *options_.Each;
+    const int cores = static_cast<int>(std::max(std::thread::hardware_concurrency(), 1U));
+    batch_ = {.Files = ReadFileNames(each.Files),
+              .Jobs = each.Jobs.value_or(cores),
+              .KeepsGoing = each.KeepsGoing,
+              .IsJson = each.IsJson,
+              .InputIsTaken =
+                  batch_.InputIsTaken || std::ranges::find(each.Files, "-") != each.Files.end()};
+}
+
+std::string Runner::ScriptFile() const {
+    return options_.Script && options_.Script != "-" ? *options_.Script : "";
+}
+
+std::vector<VerbLine> Runner::ReadLines() const {
+    if (!options_.Script)
+        return {VerbLine{options_.Verbs}};
+    if (options_.Script == "-")
+        return ReadScript(std::cin, "-");
+    std::ifstream file(*options_.Script, std::ios::binary);
+    if (!file)
+        throw UsageError(*options_.Script + ": " + std::strerror(errno));
+    return ReadScript(file, *options_.Script);
+}
+
+void Runner::PlanOnce(const std::vector<VerbLine>& lines, Claims& claims) {
+    Job job{{}, ParseLines(lines), {}};
+    job.Plan = PlanRun(job.Calls, batch_.InputIsTaken);
+    if (!options_.Depfile.empty())
+        claims.Add("a verb", job.Plan);
+    Jobs.push_back(std::move(job));
+}
+
+void Runner::PlanDepfile(Claims& claims) const {
+    if (options_.Depfile.empty())
+        return;
+    CheckOutputNames(Jobs, ScriptFile());
+    claims.AddOutput("--depfile", options_.Depfile);
+    if (!ScriptFile().empty())
+        claims.AddInput("--script", ScriptFile());
+}
+
+void Runner::Plan() {
+    Jobs.clear();
+    const std::vector<VerbLine> lines = ReadLines();
+    Claims claims;
+    try {
+        if (options_.Each)
+            Jobs = PlanBatch(batch_, lines, claims);
+        else
+            PlanOnce(lines, claims);
+        PlanDepfile(claims);
+        claims.CheckInputs();
+    } catch (const UsageError&) {
+        Jobs.clear();
+        throw;
+    }
+}
+
+bool Runner::WriteDepfile() const {
+    try {
+        const std::string lines = DescribeOutputs(Jobs, ScriptFile());
+        graphics::WriteFile(options_.Depfile,
+                            {reinterpret_cast<const std::uint8_t*>(lines.data()), lines.size()});
+        return true;
+    } catch (const std::runtime_error& error) {
+        streams_.Errors << "orbelle-cli: --depfile " << error.what() << std::endl;
+        return false;
+    }
+}
+
+bool Runner::Run() {
+    if (options_.Each) {
+        RunBatch(batch_, Jobs, streams_);
+    } else {
+        Job& job = Jobs.front();
+        RunJob(job, streams_.Output, streams_.Errors);
+        if (!job.Error.empty())
+            streams_.Errors << "orbelle-cli: " << job.Error << std::endl;
+    }
+    const bool allWentWell =
+        std::ranges::none_of(Jobs, [](const Job& job) { return job.IsDue || !job.Error.empty(); });
+    return allWentWell && (options_.Depfile.empty() || WriteDepfile());
+}
+
+}  // namespace orbelle::cli
