@@ -48,6 +48,7 @@ std::vector<Entry> Options() {
             {"--keep-going", 0, false, "", "", "go on after a file that fails"},
             {"--json", 0, false, "", "", "an object for each file"},
             {"--depfile", 1, false, "", "*", "what each output was made of"},
+            {"--watch", 0, false, "", "", "run again when a file changes"},
             {"--recover", 1, true, "list", "volf", "what was kept safe"},
             {"--completion", 1, false, "bash zsh fish", "", "a script for a shell"}};
 }
@@ -129,7 +130,7 @@ _orbelle_cli() {
     fi
     ((given < least)) && return
     case $last in
-        --each) COMPREPLY+=($(compgen -W '-- --jobs --keep-going --json --depfile' -- "$word")) ;;
+        --each) COMPREPLY+=($(compgen -W '-- --jobs --keep-going --json --depfile --watch' -- "$word")) ;;
         ''|--*) COMPREPLY+=($(compgen -W '-- @OPTIONWORDS@' -- "$word")) ;;
     esac
     [[ $last == --each ]] || COMPREPLY+=($(compgen -W '@VERBWORDS@' -- "$word"))
@@ -166,7 +167,7 @@ _orbelle_cli() {
     fi
     ((given < least)) && return
     case $last in
-        (--each) compadd -- -- --jobs --keep-going --json --depfile; return ;;
+        (--each) compadd -- -- --jobs --keep-going --json --depfile --watch; return ;;
         (''|--*) _describe -o option options ;;
     esac
     _describe verb verbs
@@ -215,7 +216,7 @@ function __orbelle_cli_complete
     test $given -lt $least; and return
     switch "$last"
         case --each
-            printf '%s\n' -- --jobs --keep-going --json --depfile
+            printf '%s\n' -- --jobs --keep-going --json --depfile --watch
             return
         case '' '--*'
             printf '%s\n' \

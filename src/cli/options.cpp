@@ -8,9 +8,9 @@
 namespace orbelle::cli {
 namespace {
 
-constexpr std::string_view kOptions[] = {"--help",    "--version",   "--script",     "--recover",
-                                         "--each",    "--jobs",      "--keep-going", "--json",
-                                         "--depfile", "--completion"};
+constexpr std::string_view kOptions[] = {"--help",    "--version", "--script",     "--recover",
+                                         "--each",    "--jobs",    "--keep-going", "--json",
+                                         "--depfile", "--watch",   "--completion"};
 
 constexpr int kMaxJobs = 1024;
 
@@ -20,7 +20,7 @@ constexpr char kHelp[] =
   orbelle-cli --script FILE
   orbelle-cli --each FILE... [--jobs N] [--keep-going] [--json] -- VERB [ARG...]...
   orbelle-cli --recover [list | N PATH]
-Before verbs, --script and --each also [--depfile FILE]
+Before verbs, --script and --each also [--watch] [--depfile FILE]
 
 Options:
   -h, --help [VERB]           print this, or what a verb does, with an example
@@ -35,6 +35,8 @@ Options:
   --json                      print an object for each file, one a line
   --depfile FILE              when all went well write to FILE which files each output was made
                               of, as make and ninja read it
+  --watch                     run, and run again when a file that is read changes, until
+                              interrupted; with --each what is made of that file alone
   --recover [list | N PATH]   list what the window kept safe when it was killed, or write
                               number N to PATH as a document
   --completion bash|zsh|fish  print what completes the words of a command line
@@ -43,6 +45,7 @@ Examples:
   orbelle-cli open leaf.png style crystal save leaf.volf export leaf.ico
   orbelle-cli open logo.svg export-set icons windows macos linux web android ios
   orbelle-cli --each icons/*.svg -- open {} export {dir}/{stem}.ico
+  orbelle-cli --watch open logo.svg export logo.ico
 
 Verbs, run in order:)";
 
@@ -144,6 +147,8 @@ void Reader::ReadOption(const std::string& option) {
         options_.Depfile = TakeValue(option);
         if (options_.Depfile == "-")
             throw UsageError("--depfile needs the name of a file");
+    } else if (option == "--watch") {
+        options_.Watches = true;
     } else {
         throw UsageError(option + ": unknown option" + DidYouMean(option, kOptions));
     }

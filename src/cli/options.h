@@ -29,7 +29,8 @@ struct Options {
     // One of both for Task::Run: a file, "-" for standard input; or the words of the verbs.
     std::optional<std::string> Script;
     std::vector<std::string> Verbs;
-    std::string Depfile;  // empty: none is written
+    std::string Depfile;   // empty: none is written
+    bool Watches = false;  // runs again when a file changes
 };
 
 // From the first word that is no option on all words belong to verbs. Throws UsageError.

@@ -14,6 +14,15 @@
 namespace orbelle::cli {
 namespace {
 
+// Throws UsageError for a script that can be read once.
+void RequireWatchable(const std::string& script) {
+    std::error_code error;
+    const bool isOther =
+        std::filesystem::exists(script, error) && !std::filesystem::is_regular_file(script, error);
+    if (script == "-" || isOther)
+        throw UsageError("--watch: the script " + script + " can't be read again");
+}
+
 // In the place of "-" those that standard input names.
 std::vector<std::string> ReadFileNames(const std::vector<std::string>& words) {
     std::vector<std::string> names;
@@ -36,6 +45,8 @@ std::vector<std::string> ReadFileNames(const std::vector<std::string>& words) {
 
 Runner::Runner(Options options, const BatchStreams& streams)
     : options_(std::move(options)), streams_(streams) {
+    if (options_.Watches && options_.Script)
+        RequireWatchable(*options_.Script);
     batch_.InputIsTaken = options_.Script == "-";
     if (!options_.Each)
         return;
@@ -90,6 +101,9 @@ void Runner::Plan() {
             Jobs = PlanBatch(batch_, lines, claims);
         else
             PlanOnce(lines, claims);
+        if (options_.Watches &&
+            std::ranges::any_of(Jobs, [](const Job& job) { return job.Plan.ReadsStandardInput; }))
+            throw UsageError("--watch: standard input can't be read again");
         PlanDepfile(claims);
         claims.CheckInputs();
     } catch (const UsageError&) {

@@ -42,6 +42,7 @@ TEST_F(CompletionTest, BashOffersVerbsTheirWordsAndTheirFiles) {
     EXPECT_EQ(Bash("--help eras"), "||");
     EXPECT_EQ(Bash("--help und"), "|undo|");
     EXPECT_EQ(Bash("--each leaf.t"), "|leaf.txt|");
+    EXPECT_EQ(Bash("--depfile leaf.t"), "|leaf.txt|");
     EXPECT_THAT(Bash("--each leaf.txt --"), HasSubstr("|--keep-going|"));
     EXPECT_EQ(Bash("--each leaf.txt -- op"), "|open|opacity|");
 }

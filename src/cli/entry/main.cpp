@@ -8,6 +8,7 @@
 #include "cli/recover.h"
 #include "cli/runner.h"
 #include "cli/verb_table.h"
+#include "cli/watch.h"
 
 namespace {
 
@@ -23,7 +24,12 @@ int Report(const std::exception& error, int status) {
 }
 
 int Run(const Options& options) {
-    Runner runner(options, {std::cout, std::cerr, IsTerminalForErrors()});
+    const BatchStreams streams{std::cout, std::cerr, IsTerminalForErrors()};
+    Runner runner(options, streams);
+    if (options.Watches) {
+        Watch(runner, streams);
+        return kFailed;
+    }
     runner.Plan();
     return runner.Run() ? kSucceeded : kFailed;
 }

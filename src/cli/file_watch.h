@@ -1,0 +1,41 @@
+// Waiting for files to change.
+#pragma once
+
+#include <chrono>
+#include <filesystem>
+#include <map>
+#include <optional>
+#include <set>
+#include <span>
+#include <string>
+
+namespace orbelle::cli {
+
+// Sees what is written to files, put in their place, comes and goes, also where folders and links
+// on the way do. Where the system can't see that, it looks once a second.
+class FileWatch {
+public:
+    FileWatch();
+    ~FileWatch();
+    FileWatch(const FileWatch&) = delete;
+    FileWatch& operator=(const FileWatch&) = delete;
+
+    // These from here on, in place of those before. What happens later is seen by a Wait; to be
+    // called again after one that saw something, since there may be other folders on the way.
+    void Watch(std::span<const std::filesystem::path> files);
+
+    // Until one of them may have changed, or the time is over: false.
+    bool Wait(std::optional<std::chrono::milliseconds> limit = {});
+
+private:
+    void WatchOnTheWay(const std::filesystem::path& file);
+    void WatchName(const std::filesystem::path& folder, const std::string& name, bool isFile);
+    bool TakeEvents();
+
+    int descriptor_;
+    std::map<int, std::set<std::string>> names_;  // of interest, by the watch of their folder
+    std::set<std::string> folders_;               // on the way that are no links
+    bool isBlind_ = false;                        // somewhere
+};
+
+}  // namespace orbelle::cli
