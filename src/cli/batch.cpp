@@ -33,6 +33,7 @@ struct Result {
     std::string Output;
     std::string Notes;
     std::string Error;  // empty: it went well
+    bool Differs = false;
     std::vector<WrittenFile> Written;
 };
 
@@ -138,6 +139,7 @@ Result RunJob(const Job& job) {
         } catch (const Failure& failure) {
             result.Error = failure.what();
         }
+        result.Differs = workspace.Differs;
         result.Written = Measure(workspace.Written);
         result.Output = std::move(output).str();
         result.Notes = std::move(notes).str();
@@ -170,7 +172,7 @@ public:
     Foreman(const std::vector<Job>& jobs, const Batch& batch, const BatchStreams& streams)
         : jobs_(jobs), batch_(batch), streams_(streams), results_(jobs.size()) {}
 
-    // True when none failed. Throws what went wrong while telling.
+    // As RunBatch. Throws what went wrong while telling.
     bool RunAll();
 
 private:
@@ -190,6 +192,7 @@ private:
     std::size_t ended_ = 0;
     std::size_t told_ = 0;
     bool anyFailed_ = false;
+    bool anyDiffers_ = false;
     std::exception_ptr problem_;  // with the streams
 };
 
@@ -203,6 +206,7 @@ std::optional<std::size_t> Foreman::Begin() {
 void Foreman::End(std::size_t job, Result result) {
     const std::lock_guard lock(mutex_);
     anyFailed_ = anyFailed_ || !result.Error.empty();
+    anyDiffers_ = anyDiffers_ || result.Differs;
     results_[job] = std::move(result);
     ++ended_;
     try {
@@ -262,7 +266,7 @@ bool Foreman::RunAll() {
         streams_.Errors << "\r\x1B[K" << std::flush;
     if (problem_)
         std::rethrow_exception(problem_);
-    return !anyFailed_;
+    return !anyFailed_ && !anyDiffers_;
 }
 
 }  // namespace

@@ -31,7 +31,7 @@ std::vector<std::string> FillIn(const std::vector<std::string>& words, const std
 
 // Runs the verbs once for each file, in an editor of its own, on so many threads. What is printed
 // and told comes in the order of the files. Without KeepsGoing none is begun after one that failed.
-// True when none failed.
+// True when none failed and no two files that they compared differ.
 //
 // Throws UsageError before anything runs: for wrong verbs, for a path that two files would write or
 // one would write and another one read. Throws Failure when the output can't be written.

@@ -60,6 +60,7 @@ struct Workspace {
     std::ostream& Output;                        // for what verbs print
     std::istream& Input;                         // for the file "-"
     std::vector<std::filesystem::path> Written;  // by verbs that went well, in their order
+    bool Differs = false;                        // a verb found that files do; not a failure
 
 private:
     void Keep(const editing::Outcome& outcome);

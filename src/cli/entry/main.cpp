@@ -77,7 +77,7 @@ int Run(const Options& options) {
     PlanRun(calls, inputIsTaken);
     Workspace workspace(std::cout);
     RunCalls(calls, workspace);
-    return kSucceeded;
+    return workspace.Differs ? kFailed : kSucceeded;
 }
 
 }  // namespace
