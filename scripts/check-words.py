@@ -16,7 +16,8 @@ NOT_TOLD = {"formats/set_texts.cpp", "graphics/color_profile.cpp"}
 NEVER_SHOWN = re.compile(r"(?:std::invalid_argument|static_assert)\s*\([^;]*;", re.S)
 OTHER = {"volf ", "TOC ", r"orbelle journal 1\n", "Varnel Orbelle",
          "too large for a preview",  # there is none then, and nothing is said
-         "Icon "}  # of the command line; the window has its own
+         # Of the command line alone:
+         "Icon ", "too many sizes for one picture"}
 LITERAL = re.compile(r'"((?:[^"\\\n]|\\.)*)"')
 PLACEHOLDER = re.compile(r"%(?:n|L?[1-9])")
 

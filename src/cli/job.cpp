@@ -8,6 +8,7 @@ namespace orbelle::cli {
 void RunJob(Job& job, std::ostream& output, std::ostream& notes) {
     job.IsDue = false;
     job.Error.clear();
+    job.Differs = false;
     job.Written.clear();
     try {
         Workspace workspace(output);
@@ -16,6 +17,7 @@ void RunJob(Job& job, std::ostream& output, std::ostream& notes) {
         } catch (const Failure& failure) {
             job.Error = failure.what();
         }
+        job.Differs = workspace.Differs;
         job.Written = std::move(workspace.Written);
     } catch (const std::bad_alloc&) {
         job.Error = "there is not enough memory";

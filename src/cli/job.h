@@ -16,7 +16,8 @@ struct Job {
 
     bool IsDue = true;  // it has not run since it was planned, or since what it reads has changed
     // Of its last run.
-    std::string Error{};  // empty: it went well
+    std::string Error{};   // empty: it went well
+    bool Differs = false;  // files that it compared
     std::vector<WrittenFile> Written{};
 };
 

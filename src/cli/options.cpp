@@ -1,5 +1,6 @@
 #include "cli/options.h"
 
+#include <CLI/CLI.hpp>
 #include <algorithm>
 
 #include "cli/completion.h"
@@ -7,10 +8,6 @@
 
 namespace orbelle::cli {
 namespace {
-
-constexpr std::string_view kOptions[] = {"--help",    "--version", "--script",     "--recover",
-                                         "--each",    "--jobs",    "--keep-going", "--json",
-                                         "--depfile", "--watch",   "--completion"};
 
 constexpr int kMaxJobs = 1024;
 
@@ -60,154 +57,169 @@ const Verb& RequireVerb(const std::string& word) {
     return *verb;
 }
 
-// The words of the program, taken one after the other.
-class Reader {
+// The options, as they are typed.
+class Typed {
 public:
-    explicit Reader(std::span<const std::string> words) : words_(words.begin(), words.end()) {}
+    // With --each files and options come in any order; else all words from the first that is no
+    // option on are left. Throws UsageError.
+    Typed(const std::vector<std::string>& words, bool isEach);
 
-    Options Read();
+    bool Has(const char* option) const { return app_.count(option) > 0; }
+    // Throws UsageError when there are other options, or words are left.
+    void RequireAlone(const char* option) const;
+
+    std::vector<std::string> Help;
+    std::vector<std::string> Recover;
+    std::string Script;
+    std::string Shell;
+    std::string Jobs;
+    bool KeepsGoing = false;
+    bool IsJson = false;
+    std::string Depfile;
+    bool Watches = false;
+    std::vector<std::string> Rest;
 
 private:
-    bool IsAtEnd() const { return taken_ == words_.size(); }
-    const std::string& Next() const { return words_[taken_]; }
-    std::string Take() { return words_[taken_++]; }
-    std::string TakeOption();
-    // The word of an option that needs one.
-    std::string TakeValue(const std::string& option);
-    void ReadOption(const std::string& option);
-    void ReadFiles();
-    void FinishEach();
-    void ReadVerbs();
-    void RequireEnd(const char* problem) const;
+    void RefuseUnknown() const;
 
-    std::vector<std::string> words_;
-    std::size_t taken_ = 0;
-    Options options_;
-    Options::EachFile each_;
-    bool isEach_ = false;
-    std::string eachOption_;  // the last one that needs --each
+    CLI::App app_;
 };
 
-// "--OPTION=VALUE" are two words.
-std::string Reader::TakeOption() {
-    std::string option = Take();
-    const std::size_t equals = option.find('=');
-    if (option.starts_with("--") && equals != std::string::npos) {
-        words_[--taken_] = option.substr(equals + 1);
-        option.resize(equals);
+Typed::Typed(const std::vector<std::string>& words, bool isEach) {
+    app_.set_help_flag();  // ours takes a verb
+    app_.add_option("-h,--help", Help)->expected(0, 1)->allow_extra_args(false);
+    app_.add_flag("-v,--version");
+    app_.add_option("--script", Script)->type_name("FILE");
+    app_.add_flag("--each");
+    app_.add_option("--jobs", Jobs)->type_name("N");
+    app_.add_flag("--keep-going", KeepsGoing);
+    app_.add_flag("--json", IsJson);
+    app_.add_option("--depfile", Depfile)->type_name("FILE");
+    app_.add_flag("--watch", Watches);
+    app_.add_option("--recover", Recover)->expected(0, 2)->allow_extra_args(false);
+    app_.add_option("--completion", Shell)->type_name("SHELL");
+    app_.allow_extras(isEach);
+    app_.prefix_command(!isEach);
+    try {
+        app_.parse(std::vector<std::string>(words.rbegin(), words.rend()));
+    } catch (const CLI::ParseError& error) {
+        throw UsageError(std::string(error.what()) + "; see orbelle-cli --help");
     }
-    return option;
+    for (std::vector<std::string>* values : {&Help, &Recover})
+        std::erase(*values, "");  // the library's word for none
+    Rest = app_.remaining();
+    RefuseUnknown();
 }
 
-std::string Reader::TakeValue(const std::string& option) {
-    if (IsAtEnd() || Next().empty())
-        throw UsageError(option + " needs a word after it; see orbelle-cli --help");
-    return Take();
-}
-
-void Reader::RequireEnd(const char* problem) const {
-    if (!IsAtEnd())
-        throw UsageError(problem);
-}
-
-void Reader::ReadOption(const std::string& option) {
-    if (IsHelp(option)) {
-        options_.Task = Options::Task::Help;
-        if (!IsAtEnd())
-            options_.HelpOn = &RequireVerb(Take());
-        RequireEnd("--help is about one verb");
-    } else if (option == "-v" || option == "--version") {
-        options_.Task = Options::Task::Version;
-        RequireEnd("--version stands alone");
-    } else if (option == "--completion") {
-        options_.Task = Options::Task::Completion;
-        const std::string shell = TakeValue(option);
-        options_.Shell = kShells[Words({&shell, 1}).Choice("--completion", kShells)];
-        RequireEnd("--completion stands alone");
-    } else if (option == "--recover") {
-        options_.Task = Options::Task::Recover;
-        while (!IsAtEnd() && options_.Recover.size() < 2)
-            options_.Recover.push_back(Take());
-        RequireEnd("--recover stands alone");
-    } else if (option == "--each") {
-        ReadFiles();
-    } else if (option == "--jobs") {
-        const std::string count = TakeValue(option);
-        each_.Jobs = Words({&count, 1}).Integer("--jobs", 1, kMaxJobs);
-        eachOption_ = option;
-    } else if (option == "--keep-going") {
-        each_.KeepsGoing = true;
-        eachOption_ = option;
-    } else if (option == "--json") {
-        each_.IsJson = true;
-        eachOption_ = option;
-    } else if (option == "--script") {
-        options_.Script = TakeValue(option);
-    } else if (option == "--depfile") {
-        options_.Depfile = TakeValue(option);
-        if (options_.Depfile == "-")
-            throw UsageError("--depfile needs the name of a file");
-    } else if (option == "--watch") {
-        options_.Watches = true;
-    } else {
-        throw UsageError(option + ": unknown option" + DidYouMean(option, kOptions));
+void Typed::RefuseUnknown() const {
+    std::vector<std::string> names;
+    for (const CLI::Option* option : app_.get_options())
+        names.push_back("--" + option->get_lnames()[0]);
+    for (const std::string& word : Rest) {
+        if (word.size() > 1 && word.starts_with('-'))
+            throw UsageError(
+                word + ": unknown option" +
+                DidYouMean(word, std::vector<std::string_view>(names.begin(), names.end())));
+        if (app_.get_prefix_command())
+            break;  // the others are of the verbs
     }
 }
 
-void Reader::ReadFiles() {
-    isEach_ = true;
-    while (!IsAtEnd() && (Next() == "-" || !Next().starts_with('-')))
-        each_.Files.push_back(Take());
-    if (each_.Files.empty())
+void Typed::RequireAlone(const char* option) const {
+    const auto isGiven = [](const CLI::Option* other) { return other->count() > 0; };
+    if (!Rest.empty() || std::ranges::count_if(app_.get_options(), isGiven) > 1)
+        throw UsageError(std::string(option) + " stands alone");
+}
+
+// From the options before "--" and the words after it.
+Options::EachFile EachOf(const Typed& typed) {
+    Options::EachFile each{
+        .Files = typed.Rest, .Jobs = {}, .KeepsGoing = typed.KeepsGoing, .IsJson = typed.IsJson};
+    if (each.Files.empty())
         throw UsageError("--each: FILE is missing");
-}
-
-// Between the options and the verbs.
-void Reader::FinishEach() {
-    if (!isEach_ && !eachOption_.empty())
-        throw UsageError(eachOption_ + " goes with --each");
-    if (!isEach_)
-        return;
-    if (!IsAtEnd() && Next().starts_with("--script"))
-        ReadOption(TakeOption());
-    if (options_.Task == Options::Task::Run && IsAtEnd() && !options_.Script)
-        throw UsageError("--each: \"--\" and verbs are missing after the files");
-    if (std::ranges::count(each_.Files, "-") + (options_.Script == "-" ? 1 : 0) > 1)
-        throw UsageError("standard input can be read once");
-    options_.Each = each_;
+    if (typed.Has("--jobs"))
+        each.Jobs = Words({&typed.Jobs, 1}).Integer("--jobs", 1, kMaxJobs);
+    return each;
 }
 
 // A question about the verb before it takes the place of the run.
-void Reader::ReadVerbs() {
-    options_.Verbs.assign(words_.begin() + static_cast<std::ptrdiff_t>(taken_), words_.end());
-    const auto help = std::ranges::find_if(options_.Verbs, IsHelp);
-    if (help == options_.Verbs.end())
-        return;
-    options_.Task = Options::Task::Help;
-    for (auto word = help; !options_.HelpOn && word != options_.Verbs.begin();)
-        options_.HelpOn = FindVerb(*--word);
-    if (!options_.HelpOn)
-        RequireVerb(options_.Verbs[0]);
+void ReadVerbs(Options& options, std::vector<std::string> words) {
+    const auto help = std::ranges::find_if(words, IsHelp);
+    if (help != words.end()) {
+        options.Task = Options::Task::Help;
+        for (auto word = help; !options.HelpOn && word != words.begin();)
+            options.HelpOn = FindVerb(*--word);
+        if (!options.HelpOn)
+            RequireVerb(words[0]);
+    }
+    options.Verbs = std::move(words);
 }
 
-Options Reader::Read() {
-    while (!IsAtEnd() && Next().size() > 1 && Next()[0] == '-' && Next() != "--")
-        ReadOption(TakeOption());
-    if (!IsAtEnd() && Next() == "--")
-        Take();
-    FinishEach();
-    if (options_.Task == Options::Task::Run)
-        ReadVerbs();
-    if (options_.Task == Options::Task::Run &&
-        options_.Verbs.empty() != options_.Script.has_value())
-        throw UsageError("either verbs or --script FILE are needed; see orbelle-cli --help");
-    return std::move(options_);
+// False when it is none of the tasks without a run.
+bool ReadTask(Options& options, const Typed& typed) {
+    if (typed.Has("--help")) {
+        options.Task = Options::Task::Help;
+        if (!typed.Help.empty())
+            options.HelpOn = &RequireVerb(typed.Help[0]);
+        if (!typed.Rest.empty())
+            throw UsageError("--help is about one verb");
+    } else if (typed.Has("--version")) {
+        options.Task = Options::Task::Version;
+        typed.RequireAlone("--version");
+    } else if (typed.Has("--completion")) {
+        options.Task = Options::Task::Completion;
+        options.Shell = kShells[Words({&typed.Shell, 1}).Choice("--completion", kShells)];
+        typed.RequireAlone("--completion");
+    } else if (typed.Has("--recover")) {
+        options.Task = Options::Task::Recover;
+        options.Recover = typed.Recover;
+        typed.RequireAlone("--recover");
+    }
+    return options.Task != Options::Task::Run;
 }
 
 }  // namespace
 
 Options ReadOptions(std::span<const std::string> words) {
-    return Reader(words).Read();
+    const auto mark = std::ranges::find(words, "--");
+    const std::vector<std::string> before(words.begin(), mark);
+    std::vector<std::string> after(mark == words.end() ? mark : mark + 1, words.end());
+    const bool isEach = std::ranges::find(before, "--each") != before.end();
+    const Typed typed(before, isEach);
+    Options options;
+    if (ReadTask(options, typed))
+        return options;
+
+    if (typed.Has("--script"))
+        options.Script = typed.Script;
+    if (typed.Has("--depfile") && (typed.Depfile.empty() || typed.Depfile == "-"))
+        throw UsageError("--depfile needs the name of a file");
+    options.Depfile = typed.Depfile;
+    options.Watches = typed.Watches;
+    if (isEach) {
+        options.Each = EachOf(typed);
+        if (after.size() == 2 && after[0] == "--script" && !options.Script) {
+            options.Script = after[1];
+            after.clear();
+        }
+        if (after.empty() && !options.Script)
+            throw UsageError("--each: \"--\" and verbs are missing after the files");
+        if (std::ranges::count(typed.Rest, "-") + (options.Script == "-" ? 1 : 0) > 1)
+            throw UsageError("standard input can be read once");
+    } else {
+        for (const char* option : {"--jobs", "--keep-going", "--json"}) {
+            if (typed.Has(option))
+                throw UsageError(std::string(option) + " goes with --each");
+        }
+        if (!typed.Rest.empty())
+            after.assign(
+                words.end() - static_cast<std::ptrdiff_t>(typed.Rest.size()) - (words.end() - mark),
+                words.end());
+    }
+    ReadVerbs(options, std::move(after));
+    if (options.Task == Options::Task::Run && options.Verbs.empty() != options.Script.has_value())
+        throw UsageError("either verbs or --script FILE are needed; see orbelle-cli --help");
+    return options;
 }
 
 std::string ProgramHelp() {

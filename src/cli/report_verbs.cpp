@@ -1,6 +1,7 @@
 // What tells about the document: text on the output, and pictures as they stand in memory.
 #include <algorithm>
 
+#include "cli/diff_verb.h"
 #include "cli/document_json.h"
 #include "cli/icon_json.h"
 #include "cli/verb_table.h"
@@ -119,6 +120,13 @@ constexpr Verb kVerbs[] = {
      "ico cur"},
     {"check", "", "print what is wrong with the icon at its export sizes, a JSON object a line",
      ReadPrinter<Check>, "open leaf.volf icon-sizes favicon check"},
+    {"diff",
+     "A B [SHEET.png]",
+     "compare two files at all their sizes: a JSON object for each that differs, status 1 then",
+     ReadDiff,
+     "diff old.ico new.ico changes.png",
+     {},
+     "volf png jpg jpeg gif bmp ico cur webp svg"},
     {"region", "N", "print layer N's region: a line 'y x0 x1' for each run of pixels", ReadRegion,
      "open leaf.png region 0"},
     {"selection", "", "print the selection's region in the same form", ReadPrinter<PrintSelection>,

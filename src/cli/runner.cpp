@@ -133,8 +133,8 @@ bool Runner::Run() {
         if (!job.Error.empty())
             streams_.Errors << "orbelle-cli: " << job.Error << std::endl;
     }
-    const bool allWentWell =
-        std::ranges::none_of(Jobs, [](const Job& job) { return job.IsDue || !job.Error.empty(); });
+    const bool allWentWell = std::ranges::none_of(
+        Jobs, [](const Job& job) { return job.IsDue || !job.Error.empty() || job.Differs; });
     return allWentWell && (options_.Depfile.empty() || WriteDepfile());
 }
 

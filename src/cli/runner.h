@@ -19,8 +19,9 @@ public:
     // UsageError, and there is no job then.
     void Plan();
 
-    // Runs the jobs that are due and tells what went wrong. If nothing did, in any job, writes the
-    // depfile. False when something did. Throws Failure when the output can't be written.
+    // Runs the jobs that are due and tells what went wrong. If nothing did, in any job, and no
+    // files that were compared differ, writes the depfile. False when something did. Throws Failure
+    // when the output can't be written.
     bool Run();
 
     // Empty: the verbs are the program's own words, or come from standard input.

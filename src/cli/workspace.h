@@ -69,6 +69,7 @@ struct Workspace {
     std::ostream& Output;                     // for what verbs print
     std::istream& Input;                      // for the file "-"
     std::vector<WrittenFile> Written;         // by verbs that went well, each once, in their order
+    bool Differs = false;                     // a verb found that files do; not a failure
 
 private:
     void Keep(const editing::Outcome& outcome);

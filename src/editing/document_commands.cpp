@@ -1,7 +1,6 @@
 #include "editing/document_commands.h"
 
 #include <algorithm>
-#include <cctype>
 #include <optional>
 #include <string>
 #include <utility>
@@ -15,6 +14,7 @@
 #include "editing/view_commands.h"
 #include "filters/shrink_to_size.h"
 #include "formats/document_limits.h"
+#include "formats/file_kind.h"
 #include "formats/icon_family.h"
 #include "formats/icon_reader.h"
 #include "formats/volf_reader.h"
@@ -28,31 +28,9 @@ namespace fs = std::filesystem;
 
 namespace {
 
-bool IsNamedAsDocument(const fs::path& path) {
-    std::string extension = path.extension().string();
-    std::ranges::transform(extension, extension.begin(),
-                           [](unsigned char c) { return std::tolower(c); });
-    return extension == ".volf";
-}
-
-enum class FileKind { Document, Icon, Picture };
-
-// By the first bytes; a file that is none of these and is named as a document counts as one that is
-// damaged. Throws FileError.
-FileKind KindOf(const fs::path& path) {
-    const graphics::FileSource file(path);
-    FileKind kind = FileKind::Picture;
-    if (formats::IsIcon(file))
-        kind = FileKind::Icon;
-    else if (formats::IsDocument(file) || (IsNamedAsDocument(path) && !graphics::IsPicture(file)))
-        kind = FileKind::Document;
-    file.RequireWasRead();
-    return kind;
-}
-
-bool IsOfKind(const fs::path& path, FileKind kind) {
+bool IsOfKind(const fs::path& path, formats::FileKind kind) {
     try {
-        return KindOf(path) == kind;
+        return formats::KindOfFile(path) == kind;
     } catch (const std::exception&) {
         return false;
     }
@@ -150,9 +128,9 @@ struct ReadResult {
 };
 
 // The picture that the file holds, of at most so many pixels.
-ReadResult ReadPicture(const fs::path& path, FileKind kind, const ReadChoices& choices,
+ReadResult ReadPicture(const fs::path& path, formats::FileKind kind, const ReadChoices& choices,
                        std::int64_t maxPixels) {
-    if (kind == FileKind::Picture)
+    if (kind == formats::FileKind::Picture)
         return {graphics::LoadImageFromFile(path, {maxPixels}, choices.SvgSide)};
     const std::vector<formats::IconEntryImage> images = formats::ReadIconFile(path);
     const int iconImage = choices.IconImage;
@@ -189,16 +167,17 @@ std::int64_t RoomForImport(const Editor& editor) {
 }  // namespace
 
 bool IsDocumentFile(const fs::path& path) {
-    return IsOfKind(path, FileKind::Document);
+    return IsOfKind(path, formats::FileKind::Document);
 }
 
 bool IsIconFile(const fs::path& path) {
-    return IsOfKind(path, FileKind::Icon);
+    return IsOfKind(path, formats::FileKind::Icon);
 }
 
 bool IsSvgFile(const fs::path& path) {
     try {
-        return KindOf(path) == FileKind::Picture && graphics::IsSvg(graphics::FileSource(path));
+        return formats::KindOfFile(path) == formats::FileKind::Picture &&
+               graphics::IsSvg(graphics::FileSource(path));
     } catch (const std::exception&) {
         return false;
     }
@@ -206,7 +185,7 @@ bool IsSvgFile(const fs::path& path) {
 
 graphics::Bitmap ReadPictureToImport(const Editor& editor, const fs::path& path,
                                      const ReadChoices& choices) {
-    return ReadPicture(path, KindOf(path), choices, RoomForImport(editor)).Picture;
+    return ReadPicture(path, formats::KindOfFile(path), choices, RoomForImport(editor)).Picture;
 }
 
 std::vector<formats::IconEntryImage> ReadIconImages(const fs::path& path) {
@@ -227,15 +206,15 @@ void NewDocument(Editor& editor, int pageWidth, int pageHeight) {
 }
 
 void OpenFile(Editor& editor, const fs::path& path, const ReadChoices& choices) {
-    const FileKind kind = KindOf(path);
-    if (kind == FileKind::Document)
+    const formats::FileKind kind = formats::KindOfFile(path);
+    if (kind == formats::FileKind::Document)
         OpenDocument(editor, path);
     else
         OpenPicture(editor, ReadPicture(path, kind, choices, graphics::kMaxBitmapPixels), path);
 }
 
 void OpenIconFamily(Editor& editor, const fs::path& path) {
-    if (KindOf(path) != FileKind::Icon)
+    if (formats::KindOfFile(path) != formats::FileKind::Icon)
         return OpenFile(editor, path);
     formats::IconFamily family = formats::LoadIconFamily(path);
     ShowDocument(editor, std::move(family.Document));
@@ -246,8 +225,8 @@ void OpenIconFamily(Editor& editor, const fs::path& path) {
 }
 
 void ImportFile(Editor& editor, const fs::path& path, const ReadChoices& choices) {
-    const FileKind kind = KindOf(path);
-    if (kind == FileKind::Document)
+    const formats::FileKind kind = formats::KindOfFile(path);
+    if (kind == formats::FileKind::Document)
         return OpenDocument(editor, path);
     const ReadResult read = ReadPicture(path, kind, choices, RoomForImport(editor));
     if (editor.DocumentExists)

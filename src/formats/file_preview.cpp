@@ -6,9 +6,9 @@
 #include "document/compositor.h"
 #include "filters/shrink_to_size.h"
 #include "formats/export_image.h"
+#include "formats/file_kind.h"
 #include "formats/icon_reader.h"
 #include "formats/volf_reader.h"
-#include "graphics/byte_source.h"
 #include "graphics/codecs/image_files.h"
 #include "graphics/errors.h"
 
@@ -19,20 +19,6 @@ using graphics::Bitmap;
 using graphics::FileError;
 
 namespace fs = std::filesystem;
-
-// By the first bytes, as for opening.
-enum class Kind { Document, Icon, Picture };
-
-Kind KindOf(const fs::path& path) {
-    const graphics::FileSource file(path);
-    Kind kind = Kind::Picture;
-    if (IsDocument(file))
-        kind = Kind::Document;
-    else if (IsIcon(file))
-        kind = Kind::Icon;
-    file.RequireWasRead();
-    return kind;
-}
 
 Bitmap PageOf(const fs::path& path) {
     LoadedDocument read = LoadDocument(path, kMaxPreviewPixels);
@@ -53,12 +39,12 @@ Bitmap LargestImageOf(const fs::path& path) {
 }
 
 Bitmap PictureOf(const fs::path& path, int side) {
-    switch (KindOf(path)) {
-        case Kind::Document:
+    switch (KindOfFile(path)) {
+        case FileKind::Document:
             return PageOf(path);
-        case Kind::Icon:
+        case FileKind::Icon:
             return LargestImageOf(path);
-        case Kind::Picture:
+        case FileKind::Picture:
             break;
     }
     return graphics::LoadImageFromFile(path, {kMaxPreviewPixels}, side);
