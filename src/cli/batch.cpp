@@ -12,11 +12,15 @@
 #include <thread>
 
 #include "cli/plan.h"
+#include "graphics/work_places.h"
 
 namespace orbelle::cli {
 namespace {
 
 namespace fs = std::filesystem;
+
+// So many more threads than compute at a time: files are on the disk before they are done.
+constexpr std::size_t kWaitingForDisk = 6;
 
 // One file's part.
 struct Job {
@@ -183,6 +187,7 @@ private:
     const std::vector<Job>& jobs_;
     const Batch& batch_;
     const BatchStreams& streams_;
+    graphics::WorkPlaces places_{static_cast<std::size_t>(batch_.Jobs)};
 
     std::mutex mutex_;  // for all that follows and the streams
     std::vector<std::optional<Result>> results_;
@@ -241,15 +246,20 @@ void Foreman::ShowProgress() {
 }
 
 void Foreman::Work() {
-    while (const std::optional<std::size_t> job = Begin())
+    while (true) {
+        const graphics::WorkPlace place(places_);
+        const std::optional<std::size_t> job = Begin();
+        if (!job)
+            return;
         End(*job, RunJob(jobs_[*job]));
+    }
 }
 
 bool Foreman::RunAll() {
     {
         std::vector<std::jthread> helpers;
         const std::size_t count =
-            std::min<std::size_t>(static_cast<std::size_t>(batch_.Jobs), jobs_.size());
+            std::min(static_cast<std::size_t>(batch_.Jobs) + kWaitingForDisk, jobs_.size());
         try {
             for (std::size_t i = 1; i < count; ++i)
                 helpers.emplace_back([this] { Work(); });

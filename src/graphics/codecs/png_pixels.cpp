@@ -16,7 +16,7 @@ static_assert(std::endian::native == std::endian::little, "pixels are taken from
 
 constexpr std::size_t kSignatureBytes = 8;
 constexpr std::size_t kNumberBytes = 4;                    // of a chunk's length, name and checksum
-constexpr std::size_t kMostBytes = std::size_t{32} << 20;  // of the file, and of its rows
+constexpr std::size_t kMostBytes = std::size_t{20} << 20;  // of the file, and of its rows
 constexpr std::uint8_t kLastFilter = 4;
 
 std::uint32_t NumberAt(std::span<const std::uint8_t> bytes, std::size_t place) {
