@@ -7,6 +7,7 @@
 #include <thread>
 #include <vector>
 
+#include "graphics/other_core.h"
 #include "graphics/work_places.h"
 
 namespace orbelle::graphics {
@@ -38,6 +39,7 @@ void ForEachInParallel(std::size_t count, const Work& work) {
                 const WorkPlace place(places, true);
                 run();
             });
+            MoveToOtherCore(helpers.back());
         } catch (const std::exception&) {
             // As many as memory and the system give; this one does the rest.
             places.Leave();
