@@ -3,21 +3,19 @@
 #include <libdeflate.h>
 
 #include <algorithm>
-#include <bit>
 #include <cstring>
 #include <memory>
 #include <new>
 #include <vector>
 
+#include "graphics/codecs/png_unfilter.h"
+
 namespace orbelle::graphics {
 namespace {
-
-static_assert(std::endian::native == std::endian::little, "pixels are taken from bytes");
 
 constexpr std::size_t kSignatureBytes = 8;
 constexpr std::size_t kNumberBytes = 4;                    // of a chunk's length, name and checksum
 constexpr std::size_t kMostBytes = std::size_t{20} << 20;  // of the file, and of its rows
-constexpr std::uint8_t kLastFilter = 4;
 
 std::uint32_t NumberAt(std::span<const std::uint8_t> bytes, std::size_t place) {
     return std::uint32_t{bytes[place]} << 24 | bytes[place + 1] << 16 | bytes[place + 2] << 8 |
@@ -72,74 +70,6 @@ bool InflateAll(std::span<const std::uint8_t> stream, std::uint8_t* to, std::siz
            read == stream.size() && written == size;
 }
 
-// All four channels at once, each for itself.
-Argb AddChannels(Argb a, Argb b) {
-    constexpr Argb kHighBits = 0x80808080;
-    return ((a & ~kHighBits) + (b & ~kHighBits)) ^ ((a ^ b) & kHighBits);
-}
-
-Argb MeanChannels(Argb a, Argb b) {
-    return (a & b) + (((a ^ b) & 0xFEFEFEFE) >> 1);
-}
-
-// Without branches: nobody can foretell them.
-Argb PaethChannels(Argb left, Argb above, Argb corner) {
-    Argb guess = 0;
-    for (int shift = 0; shift < 32; shift += 8) {
-        const auto channel = [shift](Argb color) {
-            return static_cast<int>(color >> shift & 0xFF);
-        };
-        const int fromCorner = channel(above) - channel(corner);
-        const int aside = channel(left) - channel(corner);
-        const int toLeft = std::abs(fromCorner);
-        const int toAbove = std::abs(aside);
-        const int toCorner = std::abs(fromCorner + aside);
-        const Argb other = toAbove <= toCorner ? above : corner;
-        const Argb nearest = toLeft <= std::min(toAbove, toCorner) ? left : other;
-        guess |= nearest & Argb{0xFF} << shift;
-    }
-    return guess;
-}
-
-Argb BlueFirst(Argb color) {
-    return (color & 0xFF00FF00) | RedOf(color) | BlueOf(color) << 16;
-}
-
-// `Step` bytes a pixel; after the last one stands another. `guess` takes the pixels to the left,
-// above and to the left of that.
-template <std::size_t Step, typename Guess>
-void Restore(const std::uint8_t* bytes, std::span<Argb> row, const Argb* above,
-             const Guess& guess) {
-    constexpr Argb kFilled = Step == 3 ? 0xFF000000 : 0;
-    Argb left = 0, corner = 0;
-    for (std::size_t x = 0; x < row.size(); ++x) {
-        Argb difference = 0;
-        std::memcpy(&difference, bytes + x * Step, sizeof difference);
-        left = AddChannels(BlueFirst(difference), guess(left, above[x], corner));
-        corner = above[x];
-        row[x] = left | kFilled;
-    }
-}
-
-template <std::size_t Step>
-void RestoreRow(std::uint8_t filter, const std::uint8_t* bytes, std::span<Argb> row,
-                const Argb* above) {
-    switch (filter) {
-        case 0:
-            return Restore<Step>(bytes, row, above, [](Argb, Argb, Argb) { return Argb{0}; });
-        case 1:
-            return Restore<Step>(bytes, row, above, [](Argb left, Argb, Argb) { return left; });
-        case 2:
-            return Restore<Step>(bytes, row, above, [](Argb, Argb over, Argb) { return over; });
-        case 3:
-            return Restore<Step>(bytes, row, above, [](Argb left, Argb over, Argb) {
-                return MeanChannels(left, over);
-            });
-        default:
-            return Restore<Step>(bytes, row, above, PaethChannels);
-    }
-}
-
 }  // namespace
 
 bool ReadPlainPixels(const ByteSource& file, const PlainPng& picture, Argb* pixels) {
@@ -158,13 +88,10 @@ bool ReadPlainPixels(const ByteSource& file, const PlainPng& picture, Argb* pixe
     const Argb* above = zeros.data();
     for (std::size_t y = 0; y < picture.Height; ++y) {
         const std::uint8_t* row = rows.get() + y * stride;
-        if (*row > kLastFilter)
+        if (*row > kLastPngFilter)
             return false;
         const std::span<Argb> to(pixels + y * picture.Width, picture.Width);
-        if (picture.HasAlpha)
-            RestoreRow<4>(*row, row + 1, to, above);
-        else
-            RestoreRow<3>(*row, row + 1, to, above);
+        RestoreRow(*row, row + 1, picture.HasAlpha, to, above);
         above = to.data();
     }
     return true;
