@@ -14,11 +14,12 @@ namespace orbelle::cli {
 namespace {
 
 // Pictures come and go. What they leave is kept: the system would fill the next one's memory with
-// zeros, a page at a time.
+// zeros, a page at a time. What large ones leave is given back, for it would add to the most that a
+// file may take.
 void KeepMemory() {
 #ifdef __GLIBC__
-    constexpr int kLargestFromHeap = 32 << 20;  // the library takes no more
-    constexpr int kMostKept = 256 << 20;
+    constexpr int kLargestFromHeap = 8 << 20;
+    constexpr int kMostKept = 64 << 20;
     mallopt(M_MMAP_THRESHOLD, kLargestFromHeap);
     mallopt(M_TRIM_THRESHOLD, kMostKept);
 #endif
