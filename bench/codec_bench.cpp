@@ -43,6 +43,14 @@ FileBytes MakeGif(const Bitmap& image) {
     return formats::EncodeGifPicture(image, true, 130);
 }
 
+FileBytes MakeFastPng(const Bitmap& image) {
+    return graphics::EncodePng(image, graphics::PngPacking::Fast);
+}
+
+FileBytes MakeSmallPng(const Bitmap& image) {
+    return graphics::EncodePng(image, graphics::PngPacking::Small);
+}
+
 // Shows the time of one pixel and the size of the file.
 void Report(benchmark::State& state, const Bitmap& image, const FileBytes& file) {
     const double pixels = static_cast<double>(image.Width()) * image.Height();
@@ -71,6 +79,8 @@ void Decode(benchmark::State& state, FileBytes (*encode)(const Bitmap&)) {
     BENCHMARK_CAPTURE(Encode, name, encode)->Arg(48)->Arg(256)->Arg(512); \
     BENCHMARK_CAPTURE(Decode, name, encode)->Arg(48)->Arg(256)->Arg(512)
 ORBELLE_FORMAT_BENCHMARKS(Png, graphics::EncodePng);
+ORBELLE_FORMAT_BENCHMARKS(FastPng, MakeFastPng);
+ORBELLE_FORMAT_BENCHMARKS(SmallPng, MakeSmallPng);
 ORBELLE_FORMAT_BENCHMARKS(Jpeg, MakeJpeg);
 ORBELLE_FORMAT_BENCHMARKS(Gif, MakeGif);
 ORBELLE_FORMAT_BENCHMARKS(Bmp, graphics::EncodeBmp);

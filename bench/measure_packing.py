@@ -1,9 +1,9 @@
 #!/usr/bin/env python3
 # measure_packing.py [ROUNDS]: how small and how fast PNG, icon and GIF files of 20 icons of 256 pixels
 # are written, ten of each of two themes, beside ImageMagick and zopflipng where these are installed.
-# Times are of whole processes, the programs in turn, of ROUNDS (else 5) the fastest. Fetches the
-# themes' Debian packages into the cache folder of measure_recipes.py. Build orbelle-cli first;
-# ORBELLE_CLI names another one, to compare two.
+# Times are of whole processes, the programs in turn, of ROUNDS (else 5) the fastest: the mean of all
+# icons and that of the slowest. Fetches the themes' Debian packages into the cache folder of
+# measure_recipes.py. Build orbelle-cli first; ORBELLE_CLI names another one, to compare two.
 import hashlib
 import os
 import shutil
@@ -68,6 +68,7 @@ def main():
     rows = list(ways(convert))
     sizes = [0] * len(rows)
     times = [0.0] * len(rows)
+    slowest = [0.0] * len(rows)
     with tempfile.TemporaryDirectory() as folder:
         for source in icons():
             best = [float("inf")] * len(rows)
@@ -80,8 +81,10 @@ def main():
                     if turn == 0:
                         sizes[i] += output.stat().st_size
             times = [a + b for a, b in zip(times, best)]
-    for (ending, name, _), size, seconds in zip(rows, sizes, times):
-        print(f"{ending}  {name:32} {size:9,} bytes {seconds * 1000 / 20:8.1f} ms each")
+            slowest = [max(a, b) for a, b in zip(slowest, best)]
+    for (ending, name, _), size, seconds, most in zip(rows, sizes, times, slowest):
+        print(f"{ending}  {name:32} {size:9,} bytes {seconds * 1000 / 20:8.1f} ms each,"
+              f" {most * 1000:8.1f} at most")
 
 
 if __name__ == "__main__":

@@ -8,10 +8,15 @@
 #include <thread>
 #include <utility>
 
+#include "graphics/work_places.h"
+
 namespace orbelle::cli {
 namespace {
 
 namespace fs = std::filesystem;
+
+// So many more threads than compute at a time: files are on the disk before they are done.
+constexpr std::size_t kWaitingForDisk = 6;
 
 // What a job printed and told.
 struct Result {
@@ -61,6 +66,7 @@ private:
     const std::vector<Job*> jobs_;
     const Batch& batch_;
     const BatchStreams& streams_;
+    graphics::WorkPlaces places_{static_cast<std::size_t>(batch_.Jobs)};
 
     std::mutex mutex_;  // for all that follows and the streams
     std::vector<std::optional<Result>> results_;
@@ -119,7 +125,11 @@ void Foreman::ShowProgress() {
 }
 
 void Foreman::Work() {
-    while (const std::optional<std::size_t> job = Begin()) {
+    while (true) {
+        const graphics::WorkPlace place(places_);
+        const std::optional<std::size_t> job = Begin();
+        if (!job)
+            return;
         std::ostringstream output, notes;
         RunJob(*jobs_[*job], output, notes);
         End(*job, {std::move(output).str(), std::move(notes).str()});
@@ -130,7 +140,7 @@ void Foreman::RunAll() {
     {
         std::vector<std::jthread> helpers;
         const std::size_t count =
-            std::min<std::size_t>(static_cast<std::size_t>(batch_.Jobs), jobs_.size());
+            std::min(static_cast<std::size_t>(batch_.Jobs) + kWaitingForDisk, jobs_.size());
         try {
             for (std::size_t i = 1; i < count; ++i)
                 helpers.emplace_back([this] { Work(); });

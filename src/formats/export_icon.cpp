@@ -5,6 +5,7 @@
 #include <exception>
 #include <functional>
 #include <map>
+#include <numeric>
 #include <string>
 #include <utility>
 
@@ -32,6 +33,14 @@ void LeaveInSizesFolder(const std::vector<Bitmap>& pictures) {
         const std::string name = "temp" + std::to_string(picture.Width()) + ".png";
         graphics::WriteScratchFile(folder / name, graphics::EncodePng(picture));
     }
+}
+
+// Those that take long are begun first, so that none of them is left for one thread alone.
+std::vector<std::size_t> LargestFirst(const std::vector<int>& sizes) {
+    std::vector<std::size_t> order(sizes.size());
+    std::iota(order.begin(), order.end(), std::size_t{0});
+    std::ranges::stable_sort(order, std::greater<>(), [&](std::size_t i) { return sizes[i]; });
+    return order;
 }
 
 void ExportIcns(const fs::path& path, const FlatFamily& family, const ExportSettings& settings) {
@@ -95,18 +104,21 @@ void ExportIcon(const fs::path& path, IconKind kind, const FlatFamily& family,
     const std::vector<int> sizes =
         isListed ? *settings.IconSizes
                  : IconSizesFor(family.Master.Width(), family.Master.Height());
-    std::vector<Bitmap> pictures;
+    if (sizes.empty())
+        return;
     std::vector<Hotspot> hotspots;
     for (int size : sizes) {
         if (kind == IconKind::Pointer)
             hotspots.push_back(HotspotForSize(family.Master, settings.PointerHotspot, size));
-        pictures.push_back(PictureForSize(family, size));
     }
-    if (pictures.empty())
-        return;
-    std::vector<Bytes> pngs(pictures.size());
-    graphics::ForEachInParallel(
-        pngs.size(), [&](std::size_t i) { pngs[i] = PngForIcon(family, pictures[i], settings); });
+    std::vector<Bitmap> pictures(sizes.size());
+    std::vector<Bytes> pngs(sizes.size());
+    const std::vector<std::size_t> order = LargestFirst(sizes);
+    graphics::ForEachInParallel(order.size(), [&](std::size_t turn) {
+        const std::size_t i = order[turn];
+        pictures[i] = PictureForSize(family, sizes[i]);
+        pngs[i] = PngForIcon(family, pictures[i], settings);
+    });
     graphics::WriteFile(path, EncodeIcon(pictures, settings.IconPictures, pngs, hotspots));
     if (!settings.LeavesScratchPictures)
         return;

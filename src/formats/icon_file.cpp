@@ -42,7 +42,10 @@ Bytes MaskRow(const Bitmap& picture, int y) {
 
 // A bitmap of twice the height: rows bottom-up, the colours first and then the mask.
 Bytes EncodeBitmap(const Bitmap& picture) {
+    const auto width = static_cast<std::size_t>(picture.Width());
+    const auto height = static_cast<std::size_t>(picture.Height());
     Bytes bytes;
+    bytes.reserve(kBitmapHeaderBytes + height * (width * sizeof(graphics::Argb) + width / 8 + 4));
     Append<std::uint32_t>(bytes, kBitmapHeaderBytes);
     Append<std::int32_t>(bytes, picture.Width());
     Append<std::int32_t>(bytes, picture.Height() * 2);
@@ -78,23 +81,31 @@ Bytes EncodeIcon(std::span<const Bitmap> pictures, IconFormat format, std::span<
                  std::span<const Hotspot> hotspots, graphics::PngPacking packing) {
     if (pictures.empty() || pictures.size() > kMaxEntries)
         throw std::invalid_argument("an icon holds 1 to 65535 pictures");
-    Bytes icon;
-    Append<std::uint16_t>(icon, 0);
-    Append<std::uint16_t>(icon, hotspots.empty() ? kIconType : kPointerType);
-    Append<std::uint16_t>(icon, static_cast<std::uint16_t>(pictures.size()));
-
-    Bytes data;
-    const std::size_t dataStart = kDirectoryBytes + pictures.size() * kEntryBytes;
+    std::vector<Bytes> own(pictures.size());  // of those that have no PNG yet
+    std::size_t bytes = kDirectoryBytes + pictures.size() * kEntryBytes;
+    const auto dataOf = [&](std::size_t i) -> const Bytes& {
+        return i < pngs.size() && !pngs[i].empty() ? pngs[i] : own[i];
+    };
     for (std::size_t i = 0; i < pictures.size(); ++i) {
         const Bitmap& picture = pictures[i];
         if (picture.IsEmpty() || IsTooLarge(picture))
             throw std::invalid_argument("a picture of an icon has 1 to 256 pixels a side");
         // Entries have 32 bits, also when the picture came without alpha.
-        const Bytes encoded =
-            i < pngs.size() && !pngs[i].empty()
-                ? pngs[i]
-                : EncodePicture(CopyBitmap(picture, picture.Width(), picture.Height()), format,
-                                packing);
+        if (dataOf(i).empty())
+            own[i] = EncodePicture(CopyBitmap(picture, picture.Width(), picture.Height()), format,
+                                   packing);
+        bytes += dataOf(i).size();
+    }
+
+    Bytes icon;
+    icon.reserve(bytes);
+    Append<std::uint16_t>(icon, 0);
+    Append<std::uint16_t>(icon, hotspots.empty() ? kIconType : kPointerType);
+    Append<std::uint16_t>(icon, static_cast<std::uint16_t>(pictures.size()));
+
+    std::size_t place = kDirectoryBytes + pictures.size() * kEntryBytes;
+    for (std::size_t i = 0; i < pictures.size(); ++i) {
+        const Bitmap& picture = pictures[i];
         // 256 does not fit into its byte and stands as 0.
         Append<std::uint8_t>(icon, static_cast<std::uint8_t>(picture.Width()));
         Append<std::uint8_t>(icon, static_cast<std::uint8_t>(picture.Height()));
@@ -104,11 +115,12 @@ Bytes EncodeIcon(std::span<const Bitmap> pictures, IconFormat format, std::span<
         const bool isIcon = hotspots.empty();
         Append<std::uint16_t>(icon, isIcon ? kPlanes : static_cast<std::uint16_t>(hotspots[i].X));
         Append<std::uint16_t>(icon, isIcon ? kBitCount : static_cast<std::uint16_t>(hotspots[i].Y));
-        Append<std::uint32_t>(icon, static_cast<std::uint32_t>(encoded.size()));
-        Append<std::uint32_t>(icon, static_cast<std::uint32_t>(dataStart + data.size()));
-        data.insert(data.end(), encoded.begin(), encoded.end());
+        Append<std::uint32_t>(icon, static_cast<std::uint32_t>(dataOf(i).size()));
+        Append<std::uint32_t>(icon, static_cast<std::uint32_t>(place));
+        place += dataOf(i).size();
     }
-    icon.insert(icon.end(), data.begin(), data.end());
+    for (std::size_t i = 0; i < pictures.size(); ++i)
+        icon.insert(icon.end(), dataOf(i).begin(), dataOf(i).end());
     return icon;
 }
 

@@ -14,6 +14,7 @@
 #include "graphics/errors.h"
 #include "graphics/parallel.h"
 #include "graphics/staged_files.h"
+#include "graphics/work_places.h"
 
 namespace orbelle::formats {
 namespace {
@@ -238,6 +239,7 @@ void WriteSet(const fs::path& folder, const RenderedSet& set) {
     std::vector<fs::path> paths;
     for (const RenderedFile& file : set.Files)
         paths.push_back(folder / file.Path);
+    const graphics::WorkBreak untilOnDisk;
     graphics::StagedFiles staged(paths);
     graphics::ForEachInParallel(paths.size(),
                                 [&](std::size_t i) { staged.Stage(i, set.Files[i].Bytes); });

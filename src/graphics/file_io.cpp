@@ -11,6 +11,7 @@
 #include "graphics/errors.h"
 #include "graphics/state_folder.h"
 #include "graphics/unfinished_files.h"
+#include "graphics/work_places.h"
 
 namespace orbelle::graphics {
 namespace {
@@ -198,6 +199,7 @@ std::vector<std::uint8_t> ReadFile(const fs::path& path) {
 }
 
 void WriteFile(const fs::path& path, std::span<const std::uint8_t> bytes) {
+    const WorkBreak untilOnDisk;
     Write(path, bytes, Durability::OnDisk);
 }
 

@@ -1,17 +1,21 @@
 // Independent pieces of work on all cores.
 #pragma once
 
-#include <algorithm>
 #include <atomic>
 #include <exception>
 #include <mutex>
 #include <thread>
 #include <vector>
 
+#include "graphics/other_core.h"
+#include "graphics/work_places.h"
+
 namespace orbelle::graphics {
 
 // Runs work(0) to work(count - 1), in any order and at the same time; they must not touch the same
 // things. Returns when all are done. The first exception thrown is thrown again here, as it was.
+// Work that calls this again, or runs on one of many threads, gets no more threads than there are
+// places (work_places.h).
 template <typename Work>
 void ForEachInParallel(std::size_t count, const Work& work) {
     std::atomic<std::size_t> next = 0;
@@ -28,12 +32,19 @@ void ForEachInParallel(std::size_t count, const Work& work) {
         }
     };
     std::vector<std::jthread> helpers;
-    const std::size_t cores = std::max(std::thread::hardware_concurrency(), 1U);
-    try {
-        for (std::size_t i = 1; i < std::min(count, cores); ++i)
-            helpers.emplace_back(run);
-    } catch (const std::exception&) {
-        // As many as memory and the system give; this one does the rest.
+    WorkPlaces& places = WorkPlaces::OfThisThread();
+    for (std::size_t i = 1; i < count && places.TryTake(); ++i) {
+        try {
+            helpers.emplace_back([&] {
+                const WorkPlace place(places, true);
+                run();
+            });
+            MoveToOtherCore(helpers.back());
+        } catch (const std::exception&) {
+            // As many as memory and the system give; this one does the rest.
+            places.Leave();
+            break;
+        }
     }
     run();
     helpers.clear();

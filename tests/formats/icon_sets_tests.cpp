@@ -4,11 +4,15 @@
 
 #include <fstream>
 
+#include "formats/export_icon.h"
+#include "formats/icns_file.h"
+#include "formats/icon_reader.h"
 #include "formats/set_texts.h"
 #include "graphics/codecs/image_files.h"
 #include "graphics/errors.h"
 #include "graphics/file_io.h"
 #include "support/pictures.h"
+#include "support/random_pictures.h"
 #include "support/temporary_folder.h"
 
 namespace orbelle::formats {
@@ -82,6 +86,42 @@ TEST(IconSets, ASizeWithArtworkIsThatArtwork) {
         {FilledPicture(64, 64, kBlue), {{48, FilledPicture(48, 48, 0xFFFFFF00)}}}, 0, "a"};
     EXPECT_EQ(DrawSetPicture(source, {48, 48, Ground::Page}).GetPixel(5, 5), 0xFFFFFF00);
     EXPECT_EQ(DrawSetPicture(source, {192, 192, Ground::Page}).GetPixel(5, 5), kBlue);
+}
+
+// What several files hold is packed once: each must have got the picture of its own size.
+TEST(IconSets, PicturesThatFilesShareStandWhereTheyBelong) {
+    std::mt19937 random(4);
+    const SetSource source{{testing::RandomPicture(random, 64, 64),
+                            {{256, testing::RandomPicture(random, 256, 256)},
+                             {32, testing::RandomPicture(random, 32, 32)}}},
+                           0,
+                           "a"};
+    const auto pictureOf = [&](int side) {
+        return DrawSetPicture(source, {side, side, Ground::None});
+    };
+    const auto pngOf = [&](int side) {
+        return EncodePng(pictureOf(side), graphics::PngPacking::Fast);
+    };
+    std::vector<std::vector<std::uint8_t>> ofMac;
+    for (const IcnsType& type : kIcnsTypes)
+        ofMac.push_back(pngOf(type.Side));
+    const testing::TemporaryFolder folder;
+    ExportIcon(folder / "a.icns", IconKind::MacOs, source.Family, {});
+    EXPECT_EQ(graphics::ReadFile(folder / "a.icns"), EncodeIcns(ofMac));
+
+    const IconSet sets[] = {IconSet::Windows, IconSet::MacOs, IconSet::Linux};
+    for (const RenderedSet& set : RenderSets(source, sets, {}))
+        WriteSet(folder.Path(), set);
+    const auto read = [&](const std::string& name) { return graphics::ReadFile(folder / name); };
+    EXPECT_EQ(read("macos/a.icns"), EncodeIcns(ofMac));
+    for (const int side : {16, 32, 256, 512}) {
+        const std::string size = std::to_string(side);
+        EXPECT_EQ(read("linux/hicolor/" + size + "x" + size + "/apps/a.png"), pngOf(side));
+    }
+    std::vector<Bitmap> ofWindows;
+    for (const IconEntryImage& entry : ReadIconFile(folder / "windows/a.ico"))
+        ofWindows.push_back(pictureOf(entry.Width));
+    EXPECT_EQ(read("windows/a.ico"), EncodeIcon(ofWindows, IconFormat::Png256));
 }
 
 TEST(IconSets, ASetThatFailsLeavesNothing) {

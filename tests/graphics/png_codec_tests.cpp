@@ -1,14 +1,18 @@
 #include <gmock/gmock.h>
 #include <png.h>
+#include <zlib.h>
 
+#include "graphics/checksum.h"
 #include "graphics/codecs/image_files.h"
 #include "graphics/codecs/png_rows.h"
 #include "graphics/decoding.h"
+#include "support/instruction_sets.h"
 #include "support/random_pictures.h"
 
 namespace orbelle::graphics {
 namespace {
 
+using ::testing::HasSubstr;
 using ::testing::StartsWith;
 
 struct PngPicture {
@@ -156,14 +160,98 @@ TEST(PngRows, FiltersTakeWhatTheNeighboursSay) {
 
 TEST(PngRows, DecodersUndoEveryFilter) {
     std::mt19937 random(8);
-    const Bitmap image = testing::RandomPicture(random, 37, 23);
-    const PngRows rows = WholeRows(image);
-    for (const PngFilter filter :
-         {PngFilter::None, PngFilter::Left, PngFilter::Above, PngFilter::Mean, PngFilter::Paeth}) {
-        const FileBytes filtered = FilterRows(rows, std::span(&filter, 1));
-        EXPECT_TRUE(
-            testing::SamePixels(DecodeImage(AssemblePng(rows.Form, Deflate(filtered, 1))), image));
+    for (const PixelFormat format : {PixelFormat::Argb32, PixelFormat::Rgb24}) {
+        const Bitmap image = testing::RandomPicture(random, 37, 23).CloneArea(0, 0, 37, 23, format);
+        const PngRows rows = WholeRows(image);
+        for (const PngFilter filter : {PngFilter::None, PngFilter::Left, PngFilter::Above,
+                                       PngFilter::Mean, PngFilter::Paeth}) {
+            const FileBytes file =
+                AssemblePng(rows.Form, Deflate(FilterRows(rows, std::span(&filter, 1)), 1));
+            testing::WithEachInstructionSet(
+                [&] { EXPECT_TRUE(testing::SamePixels(DecodeImage(file), image)); });
+        }
     }
+}
+
+// With these instead of the one IDAT chunk that it has.
+FileBytes WithData(const FileBytes& png, const std::vector<FileBytes>& pieces) {
+    constexpr std::ptrdiff_t kHeadBytes = 33, kEndBytes = 12;
+    FileBytes file(png.begin(), png.begin() + kHeadBytes);
+    const auto append = [&](std::size_t number) {
+        for (int shift = 24; shift >= 0; shift -= 8)
+            file.push_back(static_cast<std::uint8_t>(number >> shift));
+    };
+    for (FileBytes piece : pieces) {
+        append(piece.size());
+        piece.insert(piece.begin(), {'I', 'D', 'A', 'T'});
+        file.insert(file.end(), piece.begin(), piece.end());
+        append(Crc32(piece));
+    }
+    file.insert(file.end(), png.end() - kEndBytes, png.end());
+    return file;
+}
+
+FileBytes Join(const FileBytes& first, const FileBytes& second) {
+    FileBytes joined = first;
+    joined.insert(joined.end(), second.begin(), second.end());
+    return joined;
+}
+
+// As zlib packs with a window of 512 bytes.
+FileBytes WithSmallWindow(const FileBytes& data) {
+    constexpr int kWindowBits = 9, kMemory = 8;
+    FileBytes stream(2 * data.size() + 100);
+    z_stream zlib{};
+    deflateInit2(&zlib, 9, Z_DEFLATED, kWindowBits, kMemory, Z_DEFAULT_STRATEGY);
+    zlib.next_in = const_cast<Bytef*>(data.data());
+    zlib.avail_in = static_cast<uInt>(data.size());
+    zlib.next_out = stream.data();
+    zlib.avail_out = static_cast<uInt>(stream.size());
+    deflate(&zlib, Z_FINISH);
+    stream.resize(zlib.total_out);
+    deflateEnd(&zlib);
+    return stream;
+}
+
+// Streams as others may write them, and damaged ones.
+TEST(PngDecoder, ReadsStrangeStreamsAndRefusesDamagedOnes) {
+    std::mt19937 random(9);
+    Bitmap image = testing::RandomPicture(random, 37, 23);
+    for (int y = 12; y < 23; ++y)
+        std::copy_n(image.Row(y - 12), 37, image.MutableRow(y));
+    const PngRows whole = WholeRows(image);
+    constexpr PngFilter kFilter = PngFilter::None;
+    const FileBytes rows = FilterRows(whole, std::span(&kFilter, 1));
+    const FileBytes stream = Deflate(rows, 6);
+    const FileBytes png = AssemblePng(whole.Form, stream);
+    const std::vector<FileBytes> good[] = {
+        {{stream.begin(), stream.begin() + 1}, {}, {stream.begin() + 1, stream.end()}},
+        {Join(stream, {1, 2, 3})},
+        {stream, {1, 2, 3}},
+        {Deflate(Join(rows, rows), 6)},
+        {WithSmallWindow(rows)},
+    };
+    for (const auto& pieces : good)
+        EXPECT_TRUE(testing::SamePixels(DecodeImage(WithData(png, pieces)), image));
+
+    FileBytes badFilter = rows;
+    badFilter[badFilter.size() / 23 * 5] = 5;
+    FileBytes badSum = stream;
+    badSum.back() ^= 1;
+    FileBytes badWindow = stream;              // equal rows are farther apart
+    badWindow[0] = 0x08, badWindow[1] = 0x1D;  // 256 bytes
+    const std::pair<FileBytes, const char*> bad[] = {
+        {WithData(png, {Deflate(badFilter, 6)}), "filter"},
+        {WithData(png, {badSum}), "incorrect data check"},
+        {WithData(png, {{stream.begin(), stream.end() - 5}}), "ough image data"},
+        {WithData(png, {Deflate({rows.begin(), rows.end() - 1}, 6)}), "ough image data"},
+        {WithData(png, {badWindow}), "far back"},
+    };
+    for (const auto& [file, words] : bad)
+        EXPECT_THAT(ProblemOf(file), HasSubstr(words));
+    FileBytes badChecksum = png;
+    badChecksum[png.size() - 13] ^= 1;
+    EXPECT_THAT(ProblemOf(badChecksum), HasSubstr("CRC"));
 }
 
 }  // namespace

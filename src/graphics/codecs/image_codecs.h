@@ -1,7 +1,8 @@
 // The decoders behind DecodeImage, one for each format. Each takes a whole file that starts with
 // the format's signature, gives 32-bit straight alpha, and throws ImageError. Each takes the size
 // that the file declares from the budget before it takes memory, and decodes into the picture that
-// it gives, without a second copy of it. Colours that the file states otherwise become sRGB.
+// it gives; beside it stand at most 40 MiB of a PNG. Colours that the file states otherwise become
+// sRGB.
 #pragma once
 
 #include <cstdint>

@@ -6,9 +6,11 @@
 #include <cstdio>
 #include <cstdlib>
 #include <new>
+#include <optional>
 
 #include "graphics/codecs/image_codecs.h"
 #include "graphics/codecs/png_colors.h"
+#include "graphics/codecs/png_pixels.h"
 
 // libpng leaves its calls by longjmp when something fails. Functions with a setjmp therefore hold
 // no object that would have to be destroyed; they answer false, and their callers throw.
@@ -80,6 +82,19 @@ public:
     }
     std::int64_t BytesInFile() const { return Height() * png_get_rowbytes(png_, info_); }
 
+    // Nothing when the picture is of another kind.
+    std::optional<PlainPng> Plain() const {
+        const int type = png_get_color_type(png_, info_);
+        const bool isPlain = (type == PNG_COLOR_TYPE_RGB || type == PNG_COLOR_TYPE_RGB_ALPHA) &&
+                             png_get_bit_depth(png_, info_) == 8 &&
+                             png_get_interlace_type(png_, info_) == PNG_INTERLACE_NONE &&
+                             png_get_valid(png_, info_, PNG_INFO_tRNS) == 0;
+        if (!isPlain)
+            return std::nullopt;
+        return PlainPng{static_cast<std::size_t>(Width()), static_cast<std::size_t>(Height()),
+                        type == PNG_COLOR_TYPE_RGB_ALPHA};
+    }
+
     // Fills Width() x Height() pixels.
     bool ReadPixels(Argb* pixels) {
         if (setjmp(png_jmpbuf(png_)))
@@ -128,7 +143,9 @@ Bitmap DecodePng(const ByteSource& file, PixelBudget& budget, ColorHandling colo
         ThrowDamaged("PNG", "too little data for its size");
     const FileChannels channels = reader.Channels();
     Bitmap image(static_cast<int>(reader.Width()), static_cast<int>(reader.Height()));
-    if (!reader.ReadPixels(image.MutablePixels()))
+    const auto plain = reader.Plain();
+    if (!(plain && ReadPlainPixels(file, *plain, image.MutablePixels())) &&
+        !reader.ReadPixels(image.MutablePixels()))
         reader.ThrowProblem();
     const std::int64_t pixels = reader.Width() * reader.Height();
     if (colors == ColorHandling::ToSrgb)

@@ -56,10 +56,12 @@ Bytes Deflate(const Bytes& data, int level) {
         libdeflate_alloc_compressor(level));
     if (!compressor)
         throw std::bad_alloc();
-    Bytes result(libdeflate_zlib_compress_bound(compressor.get(), data.size()));
-    result.resize(libdeflate_zlib_compress(compressor.get(), data.data(), data.size(),
-                                           result.data(), result.size()));
-    return result;
+    // Most of it stays untouched.
+    const std::size_t bound = libdeflate_zlib_compress_bound(compressor.get(), data.size());
+    const auto room = std::make_unique_for_overwrite<std::uint8_t[]>(bound);
+    const std::size_t size =
+        libdeflate_zlib_compress(compressor.get(), data.data(), data.size(), room.get(), bound);
+    return {room.get(), room.get() + size};
 }
 
 }  // namespace orbelle::graphics

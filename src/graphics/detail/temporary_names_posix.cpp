@@ -1,6 +1,7 @@
 #include <dirent.h>
 #include <fcntl.h>
 #include <sys/file.h>
+#include <sys/random.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -8,12 +9,12 @@
 #include <charconv>
 #include <chrono>
 #include <csignal>
+#include <cstdint>
 #include <exception>
 #include <map>
 #include <memory>
 #include <mutex>
 #include <optional>
-#include <random>
 #include <string>
 #include <string_view>
 
@@ -81,9 +82,12 @@ bool IsDue(const fs::path& folder) {
 }  // namespace
 
 fs::path TemporaryNameIn(const fs::path& folder) {
-    std::random_device random;
-    return folder / (std::string(kFront) + std::to_string(getpid()) + '-' +
-                     std::to_string(random()) + std::to_string(random()) + std::string(kBack));
+    // The library's generator asks the processor what it can do, which takes long in a virtual one.
+    std::uint64_t random = 0;
+    if (getentropy(&random, sizeof random) != 0)
+        random = static_cast<std::uint64_t>(Clock::now().time_since_epoch().count());
+    return folder / (std::string(kFront) + std::to_string(getpid()) + '-' + std::to_string(random) +
+                     std::string(kBack));
 }
 
 void RemoveStaleFiles(const fs::path& folder) noexcept {
