@@ -1,6 +1,4 @@
 #include <algorithm>
-#include <cstddef>
-#include <vector>
 
 #include "filters/blur_sharpen.h"
 
@@ -9,25 +7,21 @@
 #include <hwy/foreach_target.h>
 #include <hwy/highway.h>
 
-// Every pixel waits for the one to its left and for the two above, which have been rewritten. So a
-// vector holds a column of rows, each row kLag pixels behind the one above: all its lanes are
-// worked out at once, and what they wait for is in the vectors of the steps before.
+#include "filters/slanted_rows-inl.h"
+
 HWY_BEFORE_NAMESPACE();
 namespace orbelle::filters {
 namespace HWY_NAMESPACE {
 namespace hn = hwy::HWY_NAMESPACE;
 
-using graphics::Argb;
-using graphics::Bitmap;
-
-using Pixels = hn::ScalableTag<Argb>;
-using PixelVec = hn::Vec<Pixels>;
-constexpr std::size_t kLag = 2;
-
 // Sums of pixels, two channels in each lane: blue and red, green and the number of pixels.
 struct Sums {
     PixelVec BlueRed, GreenCount;
 };
+
+HWY_INLINE Sums Nothing() {
+    return {hn::Zero(Pixels()), hn::Zero(Pixels())};
+}
 
 HWY_INLINE Sums operator+(const Sums& a, const Sums& b) {
     return {hn::Add(a.BlueRed, b.BlueRed), hn::Add(a.GreenCount, b.GreenCount)};
@@ -77,90 +71,32 @@ HWY_INLINE PixelVec Means(const Sums& sums) {
     return hn::Or(blue, hn::Or(hn::ShiftLeft<8>(green), hn::ShiftLeft<16>(red)));
 }
 
-// A block of as many rows as a vector has lanes, and the row below it, slanted: pixel x of row k
-// lies at step x + kLag k, lane k. Around the rows there is nothing, which is transparent.
-class SlantedRows {
+class Softening {
 public:
-    explicit SlantedRows(std::size_t width)
-        : width_(width), above_(Steps() + 1), pixels_((Steps() + kLag) * Stride()) {}
+    explicit Softening(unsigned own)
+        : own_(hn::Set(Pixels(), own)),
+          above_(Nothing()),
+          below_(Nothing()),
+          belowLeft_(Nothing()) {}
 
-    static std::size_t Lanes() { return hn::Lanes(Pixels()); }
-    static std::size_t Stride() { return Lanes() + 1; }
-    std::size_t Steps() const { return width_ + kLag * (Lanes() - 1); }
-
-    // Row y and those below it.
-    void Read(const Bitmap& image, int y) {
-        if (y > 0)
-            std::copy_n(image.Row(y - 1), width_, above_.begin());
-        for (std::size_t k = 0; k <= Lanes(); ++k) {
-            const int from = y + static_cast<int>(k);
-            const Argb* row = from < image.Height() ? image.Row(from) : nullptr;
-            for (std::size_t x = 0; x < width_; ++x)
-                *At(x, k) = row ? row[x] : 0;
-        }
-    }
-
-    void Write(Bitmap& image, int y) {
-        const Pixels d;
-        const hn::RebindToSigned<Pixels> ints;
-        const auto indices = hn::Mul(hn::Iota(ints, 0), hn::Set(ints, static_cast<int>(Stride())));
-        const std::size_t end = std::min<std::size_t>(Lanes(), image.Height() - y);
-        for (std::size_t k = 0; k < end; ++k) {
-            Argb* row = image.MutableRow(y + static_cast<int>(k));
-            std::size_t x = 0;
-            for (; x + Lanes() <= width_; x += Lanes())
-                hn::StoreU(hn::GatherIndex(d, At(x, k), indices), d, row + x);
-            for (; x < width_; ++x)
-                row[x] = *At(x, k);
-        }
-    }
-
-    void Soften(unsigned own) {
-        const Pixels d;
-        const auto factor = hn::Set(d, own);
-        const hn::RebindToSigned<Pixels> ints;
-        const auto oneDown = hn::IndicesFromVec(
-            d, hn::Max(hn::Sub(hn::Iota(ints, 0), hn::Set(ints, 1)), hn::Zero(ints)));
-        const auto first = hn::FirstN(d, 1);
-        const Sums nothing{hn::Zero(d), hn::Zero(d)};
-        Sums left = nothing, belowLeft = nothing;
-        Sums above = Visible(hn::IfThenElseZero(first, hn::Set(d, above_[0])));
-        auto rewritten = hn::Zero(d);
-        auto pixels = hn::LoadU(d, pixels_.data());
-        Argb* step = pixels_.data();
-        for (std::size_t s = 0; s < Steps(); ++s, step += Stride()) {
-            const auto right = hn::LoadU(d, step + Stride());
-            const Sums below = Visible(hn::LoadU(d, step + kLag * Stride() + 1));
-            const Sums aboveRight = Visible(hn::IfThenElse(
-                first, hn::Set(d, above_[s + 1]), hn::TableLookupLanes(rewritten, oneDown)));
-            const Sums others = Times(All(pixels), factor) + Visible(right) + below + belowLeft +
-                                above + aboveRight;
-            const auto means = Means(others + left);
-            rewritten = hn::Or(means, hn::And(pixels, hn::Set(d, 0xFF000000u)));
-            hn::StoreU(rewritten, d, step);
-            left = Visible(rewritten);
-            belowLeft = below;
-            above = aboveRight;
-            pixels = right;
-        }
+    PixelVec Next(PixelVec left, PixelVec here, const Column& right) {
+        const Sums aboveRight = Visible(right.Above);
+        const Sums others = Times(All(here), own_) + Visible(right.Here) + belowLeft_ + below_ +
+                            above_ + aboveRight;
+        belowLeft_ = below_;
+        below_ = Visible(right.Below);
+        above_ = aboveRight;
+        const auto means = Means(others + Visible(left));
+        return hn::Or(means, hn::And(here, hn::Set(Pixels(), 0xFF000000u)));
     }
 
 private:
-    // Pixel x of row k.
-    Argb* At(std::size_t x, std::size_t k) { return &pixels_[(x + kLag * k) * Stride() + k]; }
-
-    std::size_t width_;
-    std::vector<Argb> above_;  // the row above, transparent after its end
-    std::vector<Argb> pixels_;
+    PixelVec own_;
+    Sums above_, below_, belowLeft_;
 };
 
-void SoftenBlocks(Bitmap& image, unsigned own) {
-    SlantedRows rows(image.Width());
-    for (int y = 0; y < image.Height(); y += static_cast<int>(SlantedRows::Lanes())) {
-        rows.Read(image, y);
-        rows.Soften(own);
-        rows.Write(image, y);
-    }
+void SoftenVectors(graphics::Bitmap& image, unsigned own) {
+    SlantedRows(image, image.Width(), image.Height(), 0, 0).Rewrite(Softening(own));
 }
 
 }  // namespace HWY_NAMESPACE
@@ -170,11 +106,11 @@ HWY_AFTER_NAMESPACE();
 #if HWY_ONCE
 namespace orbelle::filters {
 
-HWY_EXPORT(SoftenBlocks);
+HWY_EXPORT(SoftenVectors);
 
 void Soften(graphics::Bitmap& image, int level) {
     if (!image.IsEmpty())
-        HWY_DYNAMIC_DISPATCH(SoftenBlocks)(image, 101 - std::clamp(level, 0, 100));
+        HWY_DYNAMIC_DISPATCH(SoftenVectors)(image, 101 - std::clamp(level, 0, 100));
 }
 
 }  // namespace orbelle::filters
