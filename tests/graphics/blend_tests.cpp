@@ -97,7 +97,8 @@ TEST(Blend, TakesSourceAlphasThroughAFactor) {
         for (const float opacity : opacities) {
             const AlphaFactor factor(opacity);
             std::vector<Argb> row(1000, 0x80204060);
-            BlendRow(row.data(), source.data(), row.size(), factor);
+            const LayerRow layer{source.data(), &factor};
+            BlendLayers(row.data(), {&layer, 1}, row.size());
             for (unsigned i = 0; i < row.size(); ++i) {
                 const auto alpha = static_cast<unsigned>(double{opacity} * (i % 256) + 0.5);
                 ASSERT_EQ(factor.Apply(i % 256), alpha) << opacity << " x " << i % 256;

@@ -1,6 +1,7 @@
 #include "graphics/detail/blend.h"
 
 #include <algorithm>
+#include <bit>
 #include <cmath>
 
 #undef HWY_TARGET_INCLUDE
@@ -22,117 +23,138 @@ using FloatVec = hn::Vec<decltype(kFloats)>;
 // Added to a number of a few hundred at most, it leaves the rounded number in the low bits of the
 // float.
 constexpr float kRoundingBias = 3 << 22;
-constexpr std::uint32_t kBiasBits = 0x4B400000;
 
+// A channel c lies as 256.5 + c in a float: c from the 15th bit on, below it one half. So a mean,
+// worked out here, is rounded by cutting what is below the 15th bit.
+constexpr std::uint32_t kChannelBits = 0x7F8000, kFractionBits = 0x7FFF;
+constexpr std::uint32_t kZeroChannel = 0x43804000;
+
+// The same bits everywhere. As a float: compilers read that from memory, whole numbers they build
+// anew by way of the ports that have the most to do.
 template <std::uint32_t kBits>
-HWY_INLINE FloatVec Difference(PixelVec source, PixelVec destination) {
-    const Pixels d;
-    const auto bits = hn::Set(d, kBits);
-    const auto difference = hn::Sub(hn::And(source, bits), hn::And(destination, bits));
-    return hn::ConvertTo(kFloats, hn::BitCast(hn::RebindToSigned<Pixels>(), difference));
+HWY_INLINE PixelVec Bits() {
+    return hn::BitCast(Pixels(), hn::Set(kFloats, std::bit_cast<float>(kBits)));
+}
+
+// A vector of pixels; Alpha is the number itself.
+struct Planes {
+    FloatVec Blue, Green, Red, Alpha;
+};
+
+HWY_INLINE FloatVec Channel(PixelVec shifted) {
+    const auto channel = hn::And(shifted, Bits<kChannelBits>());
+    return hn::BitCast(kFloats, hn::Or(channel, Bits<kZeroChannel>()));
+}
+
+HWY_INLINE void Round(Planes& planes) {
+    for (FloatVec* channel : {&planes.Blue, &planes.Green, &planes.Red})
+        *channel = Channel(hn::BitCast(Pixels(), *channel));
+}
+
+HWY_INLINE FloatVec Number(PixelVec number) {
+    return hn::ConvertTo(kFloats, hn::BitCast(hn::RebindToSigned<Pixels>(), number));
 }
 
 HWY_INLINE FloatVec Alpha(PixelVec pixels) {
-    return hn::ConvertTo(kFloats,
-                         hn::BitCast(hn::RebindToSigned<Pixels>(), hn::ShiftRight<24>(pixels)));
+    return Number(hn::ShiftRight<24>(pixels));
 }
 
-// Off by less than a part in a thousand; the processor's is by one in 2,700 at most.
-HWY_INLINE FloatVec RoughInverse(FloatVec number) {
-#if HWY_ARCH_X86
-    return hn::ApproximateReciprocal(number);
-#else
-    return hn::Div(hn::Set(kFloats, 1.0F), number);
-#endif
+HWY_INLINE Planes Spread(PixelVec pixels, FloatVec alpha) {
+    return {Channel(hn::ShiftLeft<15>(pixels)), Channel(hn::ShiftLeft<7>(pixels)),
+            Channel(hn::ShiftRight<1>(pixels)), alpha};
 }
 
-// R, the sum of the two weights of a mean; its half, rounded up; and about its inverse.
-struct Weights {
-    FloatVec Sum, HalfSum, Inverse;
-};
-
-// How far the mean lies from the destination, in one channel: (2 x difference x weight + R) / 2R,
-// rounded down. It comes less one and with kBiasBits added.
-HWY_INLINE PixelVec Step(FloatVec difference, FloatVec weight, const Weights& weights) {
-    const Pixels d;
-    // Whole and below 2^24 in size, as all that follows but the quotient: every step is exact.
-    const auto n = hn::MulSub(difference, weight, weights.HalfSum);
-    const auto bias = hn::Set(kFloats, kRoundingBias);
-    // n / R rounded: what n / R rounded down is, or one more. Then the remainder is negative.
-    const auto biased = hn::MulAdd(n, weights.Inverse, bias);
-    const auto remainder = hn::NegMulAdd(hn::Sub(biased, bias), weights.Sum, n);
-    return hn::Sub(hn::BitCast(d, biased), hn::ShiftRight<31>(hn::BitCast(d, remainder)));
+// The first where the bits are set, else the second.
+template <std::uint32_t kBits>
+HWY_INLINE PixelVec Selected(PixelVec first, PixelVec second) {
+    return hn::Or(hn::And(first, Bits<kBits>()), hn::AndNot(Bits<kBits>(), second));
 }
 
-HWY_INLINE PixelVec BlendVector(PixelVec destination, PixelVec source) {
-    const Pixels d;
-    const auto all = hn::Set(kFloats, 255.0F);
-    const auto sourceAlpha = Alpha(source);
-    const auto weight = hn::Mul(all, sourceAlpha);
-    const auto sum = hn::MulAdd(Alpha(destination), hn::Sub(all, sourceAlpha), weight);
-    Weights weights;
-    // Nothing on nothing is no step as well.
-    weights.Sum = hn::Max(sum, hn::Set(kFloats, 1.0F));
-    weights.HalfSum = hn::Ceil(hn::Mul(weights.Sum, hn::Set(kFloats, 0.5F)));
-    weights.Inverse = RoughInverse(weights.Sum);
-
-    const auto blue = Step(Difference<0xFF>(source, destination), weight, weights);
-    const auto green = Step(Difference<0xFF00>(source, destination),
-                            hn::Mul(weight, hn::Set(kFloats, 1.0F / (1 << 8))), weights);
-    const auto red = Step(Difference<0xFF0000>(source, destination),
-                          hn::Mul(weight, hn::Set(kFloats, 1.0F / (1 << 16))), weights);
+// The pixels, their channels rounded.
+HWY_INLINE PixelVec Joined(const Planes& planes) {
+    const auto bits = [](FloatVec plane) HWY_ATTR { return hn::BitCast(Pixels(), plane); };
     const auto alpha =
-        hn::MulAdd(sum, hn::Set(kFloats, 1.0F / 255.0F), hn::Set(kFloats, kRoundingBias));
-    // Added up, what one channel borrows the next pays back.
-    constexpr std::uint32_t kSurplus = (kBiasBits - 1) * 0x010101;
-    const auto steps = hn::Add(hn::Add(blue, hn::ShiftLeft<8>(green)),
-                               hn::Add(hn::ShiftLeft<16>(red), hn::Set(d, 0u - kSurplus)));
-    const auto base = hn::Add(hn::And(destination, hn::Set(d, 0xFFFFFFu)),
-                              hn::ShiftLeft<24>(hn::BitCast(d, alpha)));
-    return hn::Add(base, steps);
+        hn::ShiftLeft<24>(bits(hn::Add(planes.Alpha, hn::Set(kFloats, kRoundingBias))));
+    const auto blue = hn::ShiftRight<15>(bits(planes.Blue));
+    const auto green = hn::ShiftRight<7>(bits(planes.Green));
+    const auto red = hn::ShiftLeft<1>(bits(planes.Red));
+    return Selected<0xFFFF>(Selected<0xFF>(blue, green), Selected<0xFF0000>(red, alpha));
 }
 
-#if HWY_TARGET != HWY_SCALAR
-// The same where all destinations are opaque: the weights add up to 255 x 255, so that the mean is
-// a whole number by 255, rounded; it never ends in one half.
-HWY_INLINE PixelVec BlendOnOpaque(PixelVec destination, PixelVec source, PixelVec sourceAlpha) {
-    const Pixels d;
-    const hn::Repartition<std::uint16_t, Pixels> halves;
-    using Halves = hn::Vec<decltype(halves)>;
-    const auto weight = hn::BitCast(halves, hn::Or(sourceAlpha, hn::ShiftLeft<16>(sourceAlpha)));
-    // Steps may pass the ends of 16 bits, what they end at lies between 0 and 65025.
-    const auto mean = [&](Halves below, Halves above) HWY_ATTR {
-        const auto sum = hn::Add(hn::Sub(hn::ShiftLeft<8>(below), below),
-                                 hn::Mul(weight, hn::Sub(above, below)));
-        const auto up = hn::Add(sum, hn::Set(halves, std::uint16_t{128}));
-        return hn::Add(up, hn::ShiftRight<8>(up));  // the mean is in the upper byte
-    };
-    const auto below = hn::BitCast(halves, destination);
-    const auto above = hn::BitCast(halves, source);
-    const auto low = hn::Set(halves, std::uint16_t{0xFF});
-    const auto blueAndRed = hn::ShiftRight<8>(mean(hn::And(below, low), hn::And(above, low)));
-    const auto green = hn::AndNot(low, mean(hn::ShiftRight<8>(below), hn::ShiftRight<8>(above)));
-    return hn::Or(hn::BitCast(d, hn::Or(blueAndRed, green)), hn::Set(d, 255u << 24));
+// The mean of two channels, the source's share being weight / sum, to the last bit.
+HWY_INLINE FloatVec ExactMean(FloatVec below, FloatVec above, FloatVec weight, FloatVec sum) {
+    const auto one = hn::Set(kFloats, 1.0F);
+    const auto halfSum = hn::Ceil(hn::Mul(sum, hn::Set(kFloats, 0.5F)));
+    // The step from `below` is (2 x difference x weight + sum) / 2 sum, rounded down; less one it
+    // is n / sum rounded down. Whole and below 2^24 in size, as all that follows but the quotient:
+    // every step is exact.
+    const auto n = hn::MulSub(hn::Sub(above, below), weight, halfSum);
+    const auto bias = hn::Set(kFloats, kRoundingBias);
+    const auto quotient = hn::Sub(hn::MulAdd(n, hn::Div(one, sum), bias), bias);
+    // Rounded to the nearest: right, or one too many. Then the remainder is negative.
+    const auto isTooMany = hn::Lt(hn::NegMulAdd(quotient, sum, n), hn::Zero(kFloats));
+    return hn::Add(below, hn::IfThenElse(isTooMany, quotient, hn::Add(quotient, one)));
 }
 
+HWY_INLINE hn::Mask<Pixels> HasFraction(FloatVec channel) {
+    const auto bits = hn::BitCast(Pixels(), channel);
+#if HWY_ARCH_X86 && HWY_TARGET <= HWY_AVX3
+    return hn::TestBit(bits, Bits<kFractionBits>());  // any of them, here
+#else
+    return hn::Ne(hn::And(bits, Bits<kFractionBits>()), hn::Zero(Pixels()));
 #endif
-
-// Rows are opaque over long stretches.
-HWY_INLINE PixelVec Blend(PixelVec destination, PixelVec source) {
-#if HWY_TARGET != HWY_SCALAR
-    const Pixels d;
-    if (hn::AllFalse(d, hn::Lt(destination, hn::Set(d, 255u << 24))))
-        return BlendOnOpaque(destination, source, hn::ShiftRight<24>(source));
-#endif
-    return BlendVector(destination, source);
 }
 
-// Takes the alphas through the factor, as AlphaFactor::Apply does.
-HWY_INLINE PixelVec Scaled(PixelVec pixels, PixelVec multiplier, PixelVec half, int shift) {
+// Leaves channels that are not rounded yet.
+HWY_INLINE void Blend(Planes& below, const Planes& above) {
+    const auto all = hn::Set(kFloats, 255.0F);
+    const auto weight = hn::Mul(all, above.Alpha);
+    const auto weights = hn::MulAdd(below.Alpha, hn::Sub(all, above.Alpha), weight);
+    // Nothing on nothing is no step as well.
+    const auto sum = hn::Max(weights, hn::Set(kFloats, 1.0F));
+    const auto share = hn::Div(weight, sum);
+    const auto mean = [&](FloatVec under, FloatVec over)
+                          HWY_ATTR { return hn::MulAdd(hn::Sub(over, under), share, under); };
+    auto blue = mean(below.Blue, above.Blue);
+    auto green = mean(below.Green, above.Green);
+    auto red = mean(below.Red, above.Red);
+    // The share is off by 2^-25 at most, so that a mean is by 255 x 2^-25, and where machines round
+    // before they add, by 2^-17 more: in sum by less than half the last bit. Only where no fraction
+    // is left the mean may have been less.
+    if (HWY_UNLIKELY(!hn::AllTrue(
+            Pixels(), hn::And(hn::And(HasFraction(blue), HasFraction(green)), HasFraction(red))))) {
+        blue = ExactMean(below.Blue, above.Blue, weight, sum);
+        green = ExactMean(below.Green, above.Green, weight, sum);
+        red = ExactMean(below.Red, above.Red, weight, sum);
+    }
+    const auto bias = hn::Set(kFloats, kRoundingBias);
+    const auto alpha = hn::MulAdd(weights, hn::Set(kFloats, 1.0F / 255.0F), bias);
+    below = {blue, green, red, hn::Sub(alpha, bias)};
+}
+
+// The same where all of `below` is opaque. The means are multiples of 1 / 255 and one half: never
+// near a whole number.
+HWY_INLINE void BlendOnOpaque(Planes& below, const Planes& above) {
+    const auto share = hn::Mul(above.Alpha, hn::Set(kFloats, 1.0F / 255.0F));
+    const auto mean = [&](FloatVec under, FloatVec over)
+                          HWY_ATTR { return hn::MulAdd(hn::Sub(over, under), share, under); };
+    below.Blue = mean(below.Blue, above.Blue);
+    below.Green = mean(below.Green, above.Green);
+    below.Red = mean(below.Red, above.Red);
+}
+
+// The alphas taken through the factor, as AlphaFactor::Apply does.
+HWY_INLINE FloatVec ScaledAlpha(PixelVec pixels, const AlphaFactor& factor) {
+#if HWY_NATIVE_FMA
+    // Nothing is rounded but the sum.
+    const auto bias = hn::Set(kFloats, kRoundingBias);
+    return hn::Sub(hn::MulAdd(Alpha(pixels), hn::Set(kFloats, factor.Opacity), bias), bias);
+#else
     const Pixels d;
-    const auto product = hn::Mul(hn::ShiftRight<24>(pixels), multiplier);
-    const auto alpha = hn::ShiftRightSame(hn::Add(hn::ShiftRight<1>(product), half), shift);
-    return hn::Or(hn::And(pixels, hn::Set(d, 0xFFFFFFu)), hn::ShiftLeft<24>(alpha));
+    const auto product = hn::Mul(hn::ShiftRight<24>(pixels), hn::Set(d, factor.Multiplier));
+    const auto half = hn::Set(d, 1u << (factor.Shift - 1));
+    return Number(hn::ShiftRightSame(hn::Add(hn::ShiftRight<1>(product), half), factor.Shift));
+#endif
 }
 
 // Layers are read once, row after row, and are seldom in the cache: without this most of the time
@@ -143,54 +165,88 @@ HWY_INLINE void FetchAhead(const Argb* pixels) {
         reinterpret_cast<const Argb*>(reinterpret_cast<std::uintptr_t>(pixels) + kAheadBytes));
 }
 
-void BlendRowVectors(Argb* destination, const Argb* source, std::size_t count) {
-    const Pixels d;
-    const auto lowestVisible = hn::Set(d, 1u << 24);
-    const auto lowestOpaque = hn::Set(d, 255u << 24);
-    const std::size_t step = hn::Lanes(d);
-    std::size_t i = 0;
-    for (; i + step <= count; i += step) {
-        FetchAhead(source + i);
-        const auto pixels = hn::LoadU(d, source + i);
-        if (hn::AllTrue(d, hn::Lt(pixels, lowestVisible)))
-            continue;
-        if (hn::AllFalse(d, hn::Lt(pixels, lowestOpaque)))
-            hn::StoreU(pixels, d, destination + i);
-        else
-            hn::StoreU(Blend(hn::LoadU(d, destination + i), pixels), d, destination + i);
-    }
-    for (; i < count; ++i)
-        destination[i] = BlendPixel(destination[i], source[i]);
+HWY_INLINE bool IsVisible(PixelVec pixels) {
+    return !hn::AllTrue(Pixels(), hn::Lt(pixels, Bits<1u << 24>()));
 }
 
-void BlendScaledRowVectors(Argb* destination, const Argb* source, std::size_t count,
-                           const AlphaFactor& factor) {
+HWY_INLINE bool IsOpaque(PixelVec pixels) {
+    return hn::AllFalse(Pixels(), hn::Lt(pixels, Bits<255u << 24>()));
+}
+
+// One vector. The pixels stay spread from the first layer to the last.
+HWY_INLINE void BlendLayersAt(Argb* destination, std::span<const LayerRow> layers, std::size_t i) {
     const Pixels d;
-    const auto lowestVisible = hn::Set(d, 1u << 24);
-    const auto multiplier = hn::Set(d, factor.Multiplier);
-    const auto half = hn::Set(d, 1u << (factor.Shift - 1));
-    const std::size_t step = hn::Lanes(d);
-    std::size_t i = 0;
-    for (; i + step <= count; i += step) {
-        FetchAhead(source + i);
-        const auto pixels = hn::LoadU(d, source + i);
-        if (hn::AllTrue(d, hn::Lt(pixels, lowestVisible)))
-            continue;
-        const auto scaled = Scaled(pixels, multiplier, half, factor.Shift);
-        hn::StoreU(Blend(hn::LoadU(d, destination + i), scaled), d, destination + i);
+    auto layer = layers.begin();
+    auto source = hn::Undefined(d);
+    const auto isAtVisible = [&]() HWY_ATTR {
+        for (; layer != layers.end(); ++layer) {
+            FetchAhead(layer->Pixels + i);
+            source = hn::LoadU(d, layer->Pixels + i);
+            if (IsVisible(source))
+                return true;
+        }
+        return false;
+    };
+    if (!isAtVisible())
+        return;
+    auto pixels = hn::LoadU(d, destination + i);
+    while (!layer->Factor && IsOpaque(source)) {
+        pixels = source;
+        ++layer;
+        if (!isAtVisible()) {
+            hn::StoreU(pixels, d, destination + i);
+            return;
+        }
     }
-    for (; i < count; ++i)
-        destination[i] =
-            BlendPixel(destination[i], SetAlphaByte(source[i], factor.Apply(AlphaOf(source[i]))));
+    Planes below = Spread(pixels, Alpha(pixels));
+    bool isOpaque = IsOpaque(pixels);
+    for (;;) {
+        const Planes above =
+            Spread(source, layer->Factor ? ScaledAlpha(source, *layer->Factor) : Alpha(source));
+        if (isOpaque)
+            BlendOnOpaque(below, above);
+        else
+            Blend(below, above);
+        ++layer;
+        if (!isAtVisible())
+            break;
+        Round(below);
+        isOpaque = isOpaque || hn::AllTrue(kFloats, hn::Ge(below.Alpha, hn::Set(kFloats, 255.0F)));
+    }
+    hn::StoreU(Joined(below), d, destination + i);
+}
+
+void BlendLayersVectors(Argb* destination, std::span<const LayerRow> layers, std::size_t count) {
+    const std::size_t step = hn::Lanes(Pixels());
+    std::size_t i = 0;
+    for (; i + step <= count; i += step)
+        BlendLayersAt(destination, layers, i);
+    for (; i < count; ++i) {
+        for (const LayerRow& layer : layers) {
+            const Argb source = layer.Pixels[i];
+            const unsigned alpha = AlphaOf(source);
+            destination[i] =
+                BlendPixel(destination[i],
+                           SetAlphaByte(source, layer.Factor ? layer.Factor->Apply(alpha) : alpha));
+        }
+    }
 }
 
 void BlendColorVectors(Argb* destination, Argb color, std::size_t count) {
     const Pixels d;
     const auto colors = hn::Set(d, color);
+    const Planes above = Spread(colors, Alpha(colors));
     const std::size_t step = hn::Lanes(d);
     std::size_t i = 0;
-    for (; i + step <= count; i += step)
-        hn::StoreU(Blend(hn::LoadU(d, destination + i), colors), d, destination + i);
+    for (; i + step <= count; i += step) {
+        const auto pixels = hn::LoadU(d, destination + i);
+        Planes below = Spread(pixels, Alpha(pixels));
+        if (IsOpaque(pixels))
+            BlendOnOpaque(below, above);
+        else
+            Blend(below, above);
+        hn::StoreU(Joined(below), d, destination + i);
+    }
     for (; i < count; ++i)
         destination[i] = BlendPixel(destination[i], color);
 }
@@ -202,8 +258,7 @@ HWY_AFTER_NAMESPACE();
 #if HWY_ONCE
 namespace orbelle::graphics {
 
-HWY_EXPORT(BlendRowVectors);
-HWY_EXPORT(BlendScaledRowVectors);
+HWY_EXPORT(BlendLayersVectors);
 HWY_EXPORT(BlendColorVectors);
 
 AlphaFactor::AlphaFactor(float opacity) {
@@ -216,6 +271,11 @@ AlphaFactor::AlphaFactor(float opacity) {
         return;
     Multiplier = static_cast<std::uint32_t>(std::ldexp(mantissa, kMantissaBits));
     Shift = kMantissaBits - exponent - 1;
+    Opacity = std::clamp(opacity, 0.0F, 1.0F);
+    // A product ends in one half if the alpha has as many twos as are missing here.
+    const int missing = Shift - std::countr_zero(Multiplier);
+    if (missing >= 0 && missing < 8)
+        Opacity = std::nextafter(Opacity, 2.0F);
 }
 
 Argb BlendPixel(Argb destination, Argb source) {
@@ -234,12 +294,13 @@ Argb BlendPixel(Argb destination, Argb source) {
                     mean(BlueOf(source), BlueOf(destination)));
 }
 
-void BlendRow(Argb* destination, const Argb* source, std::size_t count) {
-    HWY_DYNAMIC_DISPATCH(BlendRowVectors)(destination, source, count);
+void BlendLayers(Argb* destination, std::span<const LayerRow> layers, std::size_t count) {
+    HWY_DYNAMIC_DISPATCH(BlendLayersVectors)(destination, layers, count);
 }
 
-void BlendRow(Argb* destination, const Argb* source, std::size_t count, const AlphaFactor& factor) {
-    HWY_DYNAMIC_DISPATCH(BlendScaledRowVectors)(destination, source, count, factor);
+void BlendRow(Argb* destination, const Argb* source, std::size_t count) {
+    const LayerRow row{source, nullptr};
+    BlendLayers(destination, {&row, 1}, count);
 }
 
 void BlendColor(Argb* destination, Argb color, std::size_t count) {
