@@ -10,6 +10,29 @@
 #include <hwy/foreach_target.h>
 #include <hwy/highway.h>
 
+#ifndef ORBELLE_GRAPHICS_BLEND_MASKS
+#define ORBELLE_GRAPHICS_BLEND_MASKS
+namespace orbelle::graphics {
+
+// Bits that the loops need. They come as an argument because compilers build constants that they
+// know anew each time, by way of the ports that have the most to do.
+struct BlendMasks {
+    Argb LowestVisible = 1U << 24;
+    Argb LowestOpaque = 255U << 24;
+    Argb Blue = 0xFF, Red = 0xFF0000, BlueGreen = 0xFFFF;
+
+    // A channel c lies as 256.5 + c in a float: c from the 15th bit on, below it one half. So a
+    // mean, worked out there, is rounded by cutting what is below the 15th bit.
+    std::uint32_t Channel = 0x7F8000;
+    std::uint32_t Fraction = 0x7FFF;
+    std::uint32_t NoChannel = 0x43804000;
+    // Alpha lies as kRoundingBias + alpha: in the low bits.
+    std::uint32_t NoAlpha = 0x4B400000;
+};
+
+}  // namespace orbelle::graphics
+#endif
+
 HWY_BEFORE_NAMESPACE();
 namespace orbelle::graphics {
 namespace HWY_NAMESPACE {
@@ -24,61 +47,50 @@ using FloatVec = hn::Vec<decltype(kFloats)>;
 // float.
 constexpr float kRoundingBias = 3 << 22;
 
-// A channel c lies as 256.5 + c in a float: c from the 15th bit on, below it one half. So a mean,
-// worked out here, is rounded by cutting what is below the 15th bit.
-constexpr std::uint32_t kChannelBits = 0x7F8000, kFractionBits = 0x7FFF;
-constexpr std::uint32_t kZeroChannel = 0x43804000;
-
-// The same bits everywhere. As a float: compilers read that from memory, whole numbers they build
-// anew by way of the ports that have the most to do.
-template <std::uint32_t kBits>
-HWY_INLINE PixelVec Bits() {
-    return hn::BitCast(Pixels(), hn::Set(kFloats, std::bit_cast<float>(kBits)));
-}
-
-// A vector of pixels; Alpha is the number itself.
+// A vector of pixels, as BlendMasks tells.
 struct Planes {
     FloatVec Blue, Green, Red, Alpha;
 };
 
-HWY_INLINE FloatVec Channel(PixelVec shifted) {
-    const auto channel = hn::And(shifted, Bits<kChannelBits>());
-    return hn::BitCast(kFloats, hn::Or(channel, Bits<kZeroChannel>()));
+HWY_INLINE PixelVec Bits(FloatVec plane) {
+    return hn::BitCast(Pixels(), plane);
 }
 
-HWY_INLINE void Round(Planes& planes) {
-    for (FloatVec* channel : {&planes.Blue, &planes.Green, &planes.Red})
-        *channel = Channel(hn::BitCast(Pixels(), *channel));
+HWY_INLINE FloatVec Channel(PixelVec shifted, const BlendMasks& masks) {
+    const Pixels d;
+    return hn::BitCast(
+        kFloats, hn::Or(hn::And(shifted, hn::Set(d, masks.Channel)), hn::Set(d, masks.NoChannel)));
 }
 
-HWY_INLINE FloatVec Number(PixelVec number) {
-    return hn::ConvertTo(kFloats, hn::BitCast(hn::RebindToSigned<Pixels>(), number));
+HWY_INLINE Planes Rounded(const Planes& planes, const BlendMasks& masks) {
+    return {Channel(Bits(planes.Blue), masks), Channel(Bits(planes.Green), masks),
+            Channel(Bits(planes.Red), masks), planes.Alpha};
 }
 
-HWY_INLINE FloatVec Alpha(PixelVec pixels) {
-    return Number(hn::ShiftRight<24>(pixels));
+HWY_INLINE FloatVec Alpha(PixelVec pixels, const BlendMasks& masks) {
+    const Pixels d;
+    return hn::BitCast(kFloats, hn::Or(hn::ShiftRight<24>(pixels), hn::Set(d, masks.NoAlpha)));
 }
 
-HWY_INLINE Planes Spread(PixelVec pixels, FloatVec alpha) {
-    return {Channel(hn::ShiftLeft<15>(pixels)), Channel(hn::ShiftLeft<7>(pixels)),
-            Channel(hn::ShiftRight<1>(pixels)), alpha};
+HWY_INLINE Planes Spread(PixelVec pixels, FloatVec alpha, const BlendMasks& masks) {
+    return {Channel(hn::ShiftLeft<15>(pixels), masks), Channel(hn::ShiftLeft<7>(pixels), masks),
+            Channel(hn::ShiftRight<1>(pixels), masks), alpha};
 }
 
 // The first where the bits are set, else the second.
-template <std::uint32_t kBits>
-HWY_INLINE PixelVec Selected(PixelVec first, PixelVec second) {
-    return hn::Or(hn::And(first, Bits<kBits>()), hn::AndNot(Bits<kBits>(), second));
+HWY_INLINE PixelVec Selected(Argb bits, PixelVec first, PixelVec second) {
+    const auto mask = hn::Set(Pixels(), bits);
+    return hn::Or(hn::And(first, mask), hn::AndNot(mask, second));
 }
 
 // The pixels, their channels rounded.
-HWY_INLINE PixelVec Joined(const Planes& planes) {
-    const auto bits = [](FloatVec plane) HWY_ATTR { return hn::BitCast(Pixels(), plane); };
-    const auto alpha =
-        hn::ShiftLeft<24>(bits(hn::Add(planes.Alpha, hn::Set(kFloats, kRoundingBias))));
-    const auto blue = hn::ShiftRight<15>(bits(planes.Blue));
-    const auto green = hn::ShiftRight<7>(bits(planes.Green));
-    const auto red = hn::ShiftLeft<1>(bits(planes.Red));
-    return Selected<0xFFFF>(Selected<0xFF>(blue, green), Selected<0xFF0000>(red, alpha));
+HWY_INLINE PixelVec Joined(const Planes& planes, const BlendMasks& masks) {
+    const auto blue = hn::ShiftRight<15>(Bits(planes.Blue));
+    const auto green = hn::ShiftRight<7>(Bits(planes.Green));
+    const auto red = hn::ShiftLeft<1>(Bits(planes.Red));
+    const auto alpha = hn::ShiftLeft<24>(Bits(planes.Alpha));
+    return Selected(masks.BlueGreen, Selected(masks.Blue, blue, green),
+                    Selected(masks.Red, red, alpha));
 }
 
 // The mean of two channels, the source's share being weight / sum, to the last bit.
@@ -96,23 +108,41 @@ HWY_INLINE FloatVec ExactMean(FloatVec below, FloatVec above, FloatVec weight, F
     return hn::Add(below, hn::IfThenElse(isTooMany, quotient, hn::Add(quotient, one)));
 }
 
-HWY_INLINE hn::Mask<Pixels> HasFraction(FloatVec channel) {
-    const auto bits = hn::BitCast(Pixels(), channel);
+HWY_INLINE hn::Mask<Pixels> HasFraction(FloatVec channel, const BlendMasks& masks) {
+    const auto fraction = hn::Set(Pixels(), masks.Fraction);
 #if HWY_ARCH_X86 && HWY_TARGET <= HWY_AVX3
-    return hn::TestBit(bits, Bits<kFractionBits>());  // any of them, here
+    return hn::TestBit(Bits(channel), fraction);  // any of them, here
 #else
-    return hn::Ne(hn::And(bits, Bits<kFractionBits>()), hn::Zero(Pixels()));
+    return hn::Ne(hn::And(Bits(channel), fraction), hn::Zero(Pixels()));
+#endif
+}
+
+// How much the pixels above and all those below them weigh.
+struct Weights {
+    FloatVec Above, Below;
+};
+
+HWY_INLINE Weights WeightsOf(FloatVec alpha) {
+    const auto all = hn::Set(kFloats, 255.0F);
+    const auto bias = hn::Set(kFloats, kRoundingBias);
+#if HWY_NATIVE_FMA
+    // Without the bias, in one step each.
+    return {hn::MulSub(all, alpha, hn::Set(kFloats, 255 * kRoundingBias)),
+            hn::Sub(hn::Set(kFloats, 255 + kRoundingBias), alpha)};
+#else
+    const auto number = hn::Sub(alpha, bias);
+    return {hn::Mul(all, number), hn::Sub(all, number)};
 #endif
 }
 
 // Leaves channels that are not rounded yet.
-HWY_INLINE void Blend(Planes& below, const Planes& above) {
-    const auto all = hn::Set(kFloats, 255.0F);
-    const auto weight = hn::Mul(all, above.Alpha);
-    const auto weights = hn::MulAdd(below.Alpha, hn::Sub(all, above.Alpha), weight);
+HWY_INLINE void Blend(Planes& below, const Planes& above, const BlendMasks& masks) {
+    const auto bias = hn::Set(kFloats, kRoundingBias);
+    const Weights weights = WeightsOf(above.Alpha);
+    const auto sum = hn::MulAdd(hn::Sub(below.Alpha, bias), weights.Below, weights.Above);
     // Nothing on nothing is no step as well.
-    const auto sum = hn::Max(weights, hn::Set(kFloats, 1.0F));
-    const auto share = hn::Div(weight, sum);
+    const auto divisor = hn::Max(sum, hn::Set(kFloats, 1.0F));
+    const auto share = hn::Div(weights.Above, divisor);
     const auto mean = [&](FloatVec under, FloatVec over)
                           HWY_ATTR { return hn::MulAdd(hn::Sub(over, under), share, under); };
     auto blue = mean(below.Blue, above.Blue);
@@ -121,21 +151,21 @@ HWY_INLINE void Blend(Planes& below, const Planes& above) {
     // The share is off by 2^-25 at most, so that a mean is by 255 x 2^-25, and where machines round
     // before they add, by 2^-17 more: in sum by less than half the last bit. Only where no fraction
     // is left the mean may have been less.
-    if (HWY_UNLIKELY(!hn::AllTrue(
-            Pixels(), hn::And(hn::And(HasFraction(blue), HasFraction(green)), HasFraction(red))))) {
-        blue = ExactMean(below.Blue, above.Blue, weight, sum);
-        green = ExactMean(below.Green, above.Green, weight, sum);
-        red = ExactMean(below.Red, above.Red, weight, sum);
+    const auto isSure = hn::And(hn::And(HasFraction(blue, masks), HasFraction(green, masks)),
+                                HasFraction(red, masks));
+    if (HWY_UNLIKELY(!hn::AllTrue(Pixels(), isSure))) {
+        blue = ExactMean(below.Blue, above.Blue, weights.Above, divisor);
+        green = ExactMean(below.Green, above.Green, weights.Above, divisor);
+        red = ExactMean(below.Red, above.Red, weights.Above, divisor);
     }
-    const auto bias = hn::Set(kFloats, kRoundingBias);
-    const auto alpha = hn::MulAdd(weights, hn::Set(kFloats, 1.0F / 255.0F), bias);
-    below = {blue, green, red, hn::Sub(alpha, bias)};
+    below = {blue, green, red, hn::MulAdd(sum, hn::Set(kFloats, 1.0F / 255.0F), bias)};
 }
 
 // The same where all of `below` is opaque. The means are multiples of 1 / 255 and one half: never
 // near a whole number.
 HWY_INLINE void BlendOnOpaque(Planes& below, const Planes& above) {
-    const auto share = hn::Mul(above.Alpha, hn::Set(kFloats, 1.0F / 255.0F));
+    const auto alpha = hn::Sub(above.Alpha, hn::Set(kFloats, kRoundingBias));
+    const auto share = hn::Mul(alpha, hn::Set(kFloats, 1.0F / 255.0F));
     const auto mean = [&](FloatVec under, FloatVec over)
                           HWY_ATTR { return hn::MulAdd(hn::Sub(over, under), share, under); };
     below.Blue = mean(below.Blue, above.Blue);
@@ -143,17 +173,24 @@ HWY_INLINE void BlendOnOpaque(Planes& below, const Planes& above) {
     below.Red = mean(below.Red, above.Red);
 }
 
+HWY_INLINE bool IsOpaque(const Planes& planes) {
+    return hn::AllTrue(kFloats, hn::Ge(planes.Alpha, hn::Set(kFloats, 255 + kRoundingBias)));
+}
+
 // The alphas taken through the factor, as AlphaFactor::Apply does.
-HWY_INLINE FloatVec ScaledAlpha(PixelVec pixels, const AlphaFactor& factor) {
+HWY_INLINE FloatVec ScaledAlpha(PixelVec pixels, const AlphaFactor& factor,
+                                const BlendMasks& masks) {
+    const Pixels d;
+    const auto alpha = hn::ShiftRight<24>(pixels);
 #if HWY_NATIVE_FMA
     // Nothing is rounded but the sum.
-    const auto bias = hn::Set(kFloats, kRoundingBias);
-    return hn::Sub(hn::MulAdd(Alpha(pixels), hn::Set(kFloats, factor.Opacity), bias), bias);
+    const auto number = hn::ConvertTo(kFloats, hn::BitCast(hn::RebindToSigned<Pixels>(), alpha));
+    return hn::MulAdd(number, hn::Set(kFloats, factor.Opacity), hn::Set(kFloats, kRoundingBias));
 #else
-    const Pixels d;
-    const auto product = hn::Mul(hn::ShiftRight<24>(pixels), hn::Set(d, factor.Multiplier));
+    const auto product = hn::Mul(alpha, hn::Set(d, factor.Multiplier));
     const auto half = hn::Set(d, 1u << (factor.Shift - 1));
-    return Number(hn::ShiftRightSame(hn::Add(hn::ShiftRight<1>(product), half), factor.Shift));
+    const auto scaled = hn::ShiftRightSame(hn::Add(hn::ShiftRight<1>(product), half), factor.Shift);
+    return hn::BitCast(kFloats, hn::Or(scaled, hn::Set(d, masks.NoAlpha)));
 #endif
 }
 
@@ -165,16 +202,19 @@ HWY_INLINE void FetchAhead(const Argb* pixels) {
         reinterpret_cast<const Argb*>(reinterpret_cast<std::uintptr_t>(pixels) + kAheadBytes));
 }
 
-HWY_INLINE bool IsVisible(PixelVec pixels) {
-    return !hn::AllTrue(Pixels(), hn::Lt(pixels, Bits<1u << 24>()));
+HWY_INLINE bool IsVisible(PixelVec pixels, const BlendMasks& masks) {
+    const Pixels d;
+    return !hn::AllTrue(d, hn::Lt(pixels, hn::Set(d, masks.LowestVisible)));
 }
 
-HWY_INLINE bool IsOpaque(PixelVec pixels) {
-    return hn::AllFalse(Pixels(), hn::Lt(pixels, Bits<255u << 24>()));
+HWY_INLINE bool IsOpaque(PixelVec pixels, const BlendMasks& masks) {
+    const Pixels d;
+    return hn::AllFalse(d, hn::Lt(pixels, hn::Set(d, masks.LowestOpaque)));
 }
 
 // One vector. The pixels stay spread from the first layer to the last.
-HWY_INLINE void BlendLayersAt(Argb* destination, std::span<const LayerRow> layers, std::size_t i) {
+HWY_INLINE void BlendLayersAt(Argb* destination, std::span<const LayerRow> layers, std::size_t i,
+                              const BlendMasks& masks) {
     const Pixels d;
     auto layer = layers.begin();
     auto source = hn::Undefined(d);
@@ -182,7 +222,7 @@ HWY_INLINE void BlendLayersAt(Argb* destination, std::span<const LayerRow> layer
         for (; layer != layers.end(); ++layer) {
             FetchAhead(layer->Pixels + i);
             source = hn::LoadU(d, layer->Pixels + i);
-            if (IsVisible(source))
+            if (IsVisible(source, masks))
                 return true;
         }
         return false;
@@ -190,7 +230,7 @@ HWY_INLINE void BlendLayersAt(Argb* destination, std::span<const LayerRow> layer
     if (!isAtVisible())
         return;
     auto pixels = hn::LoadU(d, destination + i);
-    while (!layer->Factor && IsOpaque(source)) {
+    while (!layer->Factor && IsOpaque(source, masks)) {
         pixels = source;
         ++layer;
         if (!isAtVisible()) {
@@ -198,29 +238,31 @@ HWY_INLINE void BlendLayersAt(Argb* destination, std::span<const LayerRow> layer
             return;
         }
     }
-    Planes below = Spread(pixels, Alpha(pixels));
-    bool isOpaque = IsOpaque(pixels);
+    Planes below = Spread(pixels, Alpha(pixels, masks), masks);
+    bool isOpaque = IsOpaque(pixels, masks);
     for (;;) {
-        const Planes above =
-            Spread(source, layer->Factor ? ScaledAlpha(source, *layer->Factor) : Alpha(source));
+        const auto alpha =
+            layer->Factor ? ScaledAlpha(source, *layer->Factor, masks) : Alpha(source, masks);
+        const Planes above = Spread(source, alpha, masks);
         if (isOpaque)
             BlendOnOpaque(below, above);
         else
-            Blend(below, above);
+            Blend(below, above, masks);
         ++layer;
         if (!isAtVisible())
             break;
-        Round(below);
-        isOpaque = isOpaque || hn::AllTrue(kFloats, hn::Ge(below.Alpha, hn::Set(kFloats, 255.0F)));
+        below = Rounded(below, masks);
+        isOpaque = isOpaque || IsOpaque(below);
     }
-    hn::StoreU(Joined(below), d, destination + i);
+    hn::StoreU(Joined(below, masks), d, destination + i);
 }
 
-void BlendLayersVectors(Argb* destination, std::span<const LayerRow> layers, std::size_t count) {
+void BlendLayersVectors(Argb* destination, std::span<const LayerRow> layers, std::size_t count,
+                        const BlendMasks& masks) {
     const std::size_t step = hn::Lanes(Pixels());
     std::size_t i = 0;
     for (; i + step <= count; i += step)
-        BlendLayersAt(destination, layers, i);
+        BlendLayersAt(destination, layers, i, masks);
     for (; i < count; ++i) {
         for (const LayerRow& layer : layers) {
             const Argb source = layer.Pixels[i];
@@ -232,20 +274,20 @@ void BlendLayersVectors(Argb* destination, std::span<const LayerRow> layers, std
     }
 }
 
-void BlendColorVectors(Argb* destination, Argb color, std::size_t count) {
+void BlendColorVectors(Argb* destination, Argb color, std::size_t count, const BlendMasks& masks) {
     const Pixels d;
     const auto colors = hn::Set(d, color);
-    const Planes above = Spread(colors, Alpha(colors));
+    const Planes above = Spread(colors, Alpha(colors, masks), masks);
     const std::size_t step = hn::Lanes(d);
     std::size_t i = 0;
     for (; i + step <= count; i += step) {
         const auto pixels = hn::LoadU(d, destination + i);
-        Planes below = Spread(pixels, Alpha(pixels));
-        if (IsOpaque(pixels))
+        Planes below = Spread(pixels, Alpha(pixels, masks), masks);
+        if (IsOpaque(pixels, masks))
             BlendOnOpaque(below, above);
         else
-            Blend(below, above);
-        hn::StoreU(Joined(below), d, destination + i);
+            Blend(below, above, masks);
+        hn::StoreU(Joined(below, masks), d, destination + i);
     }
     for (; i < count; ++i)
         destination[i] = BlendPixel(destination[i], color);
@@ -295,7 +337,7 @@ Argb BlendPixel(Argb destination, Argb source) {
 }
 
 void BlendLayers(Argb* destination, std::span<const LayerRow> layers, std::size_t count) {
-    HWY_DYNAMIC_DISPATCH(BlendLayersVectors)(destination, layers, count);
+    HWY_DYNAMIC_DISPATCH(BlendLayersVectors)(destination, layers, count, BlendMasks());
 }
 
 void BlendRow(Argb* destination, const Argb* source, std::size_t count) {
@@ -307,7 +349,7 @@ void BlendColor(Argb* destination, Argb color, std::size_t count) {
     if (AlphaOf(color) == 255)
         std::fill_n(destination, count, color);
     else if (AlphaOf(color) > 0)
-        HWY_DYNAMIC_DISPATCH(BlendColorVectors)(destination, color, count);
+        HWY_DYNAMIC_DISPATCH(BlendColorVectors)(destination, color, count, BlendMasks());
 }
 
 }  // namespace orbelle::graphics
