@@ -108,12 +108,20 @@ HWY_INLINE FloatVec ExactMean(FloatVec below, FloatVec above, FloatVec weight, F
     return hn::Add(below, hn::IfThenElse(isTooMany, quotient, hn::Add(quotient, one)));
 }
 
-HWY_INLINE hn::Mask<Pixels> HasFraction(FloatVec channel, const BlendMasks& masks) {
-    const auto fraction = hn::Set(Pixels(), masks.Fraction);
+HWY_INLINE bool AllHaveFractions(FloatVec blue, FloatVec green, FloatVec red,
+                                 const BlendMasks& masks) {
+    const Pixels d;
+    const auto bits = hn::Set(d, masks.Fraction);
 #if HWY_ARCH_X86 && HWY_TARGET <= HWY_AVX3
-    return hn::TestBit(Bits(channel), fraction);  // any of them, here
+    // Each test takes the last one's lanes: that spares putting three masks together.
+    const auto inBlue = _mm512_test_epi32_mask(Bits(blue).raw, bits.raw);
+    const auto inBoth = _mm512_mask_test_epi32_mask(inBlue, Bits(green).raw, bits.raw);
+    const auto inAll = _mm512_mask_test_epi32_mask(inBoth, Bits(red).raw, bits.raw);
+    return inAll == 0xFFFF;
 #else
-    return hn::Ne(hn::And(Bits(channel), fraction), hn::Zero(Pixels()));
+    const auto hasNone = [&](FloatVec channel)
+                             HWY_ATTR { return hn::Eq(hn::And(Bits(channel), bits), hn::Zero(d)); };
+    return hn::AllFalse(d, hn::Or(hn::Or(hasNone(blue), hasNone(green)), hasNone(red)));
 #endif
 }
 
@@ -151,9 +159,7 @@ HWY_INLINE void Blend(Planes& below, const Planes& above, const BlendMasks& mask
     // The share is off by 2^-25 at most, so that a mean is by 255 x 2^-25, and where machines round
     // before they add, by 2^-17 more: in sum by less than half the last bit. Only where no fraction
     // is left the mean may have been less.
-    const auto isSure = hn::And(hn::And(HasFraction(blue, masks), HasFraction(green, masks)),
-                                HasFraction(red, masks));
-    if (HWY_UNLIKELY(!hn::AllTrue(Pixels(), isSure))) {
+    if (HWY_UNLIKELY(!AllHaveFractions(blue, green, red, masks))) {
         blue = ExactMean(below.Blue, above.Blue, weights.Above, divisor);
         green = ExactMean(below.Green, above.Green, weights.Above, divisor);
         red = ExactMean(below.Red, above.Red, weights.Above, divisor);
@@ -171,10 +177,6 @@ HWY_INLINE void BlendOnOpaque(Planes& below, const Planes& above) {
     below.Blue = mean(below.Blue, above.Blue);
     below.Green = mean(below.Green, above.Green);
     below.Red = mean(below.Red, above.Red);
-}
-
-HWY_INLINE bool IsOpaque(const Planes& planes) {
-    return hn::AllTrue(kFloats, hn::Ge(planes.Alpha, hn::Set(kFloats, 255 + kRoundingBias)));
 }
 
 // The alphas taken through the factor, as AlphaFactor::Apply does.
@@ -212,9 +214,23 @@ HWY_INLINE bool IsOpaque(PixelVec pixels, const BlendMasks& masks) {
     return hn::AllFalse(d, hn::Lt(pixels, hn::Set(d, masks.LowestOpaque)));
 }
 
+// Tells whether vectors of a row are opaque. Where they are not, only one in eight is looked at:
+// the way that asks for nothing is not much longer.
+class OpaqueRun {
+public:
+    HWY_INLINE bool IsOpaqueAt(std::size_t i, PixelVec pixels, const BlendMasks& masks) {
+        if (isOpaque_ || i % (8 * hn::Lanes(Pixels())) == 0)
+            isOpaque_ = IsOpaque(pixels, masks);
+        return isOpaque_;
+    }
+
+private:
+    bool isOpaque_ = false;
+};
+
 // One vector. The pixels stay spread from the first layer to the last.
 HWY_INLINE void BlendLayersAt(Argb* destination, std::span<const LayerRow> layers, std::size_t i,
-                              const BlendMasks& masks) {
+                              OpaqueRun& run, const BlendMasks& masks) {
     const Pixels d;
     auto layer = layers.begin();
     auto source = hn::Undefined(d);
@@ -239,7 +255,7 @@ HWY_INLINE void BlendLayersAt(Argb* destination, std::span<const LayerRow> layer
         }
     }
     Planes below = Spread(pixels, Alpha(pixels, masks), masks);
-    bool isOpaque = IsOpaque(pixels, masks);
+    const bool isOpaque = run.IsOpaqueAt(i, pixels, masks);
     for (;;) {
         const auto alpha =
             layer->Factor ? ScaledAlpha(source, *layer->Factor, masks) : Alpha(source, masks);
@@ -252,7 +268,6 @@ HWY_INLINE void BlendLayersAt(Argb* destination, std::span<const LayerRow> layer
         if (!isAtVisible())
             break;
         below = Rounded(below, masks);
-        isOpaque = isOpaque || IsOpaque(below);
     }
     hn::StoreU(Joined(below, masks), d, destination + i);
 }
@@ -260,9 +275,10 @@ HWY_INLINE void BlendLayersAt(Argb* destination, std::span<const LayerRow> layer
 void BlendLayersVectors(Argb* destination, std::span<const LayerRow> layers, std::size_t count,
                         const BlendMasks& masks) {
     const std::size_t step = hn::Lanes(Pixels());
+    OpaqueRun run;
     std::size_t i = 0;
     for (; i + step <= count; i += step)
-        BlendLayersAt(destination, layers, i, masks);
+        BlendLayersAt(destination, layers, i, run, masks);
     for (; i < count; ++i) {
         for (const LayerRow& layer : layers) {
             const Argb source = layer.Pixels[i];
