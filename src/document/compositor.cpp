@@ -112,10 +112,15 @@ void Compositor::Draw(Bitmap& page, const std::vector<Drawn>& layers, std::size_
     const auto clip = graphics::Region::FromPixelRects({area});
     context.SetClipRegion(clip, graphics::CombineMode::Replace);
     const Plate* cutBy = nullptr;  // those that the clip has been cut to
+    std::vector<graphics::ImageToDraw> images;
     for (std::size_t i = first; i < last; ++i) {
         const Drawn& layer = layers[i];
         if (Intersect(layer.Destination, area).IsEmpty())
             continue;
+        if (layer.CutBy.get() != cutBy) {
+            context.DrawImages(images);
+            images.clear();
+        }
         // All that cut a layer cut those above it, too.
         for (const Plate* plate = layer.CutBy.get(); plate != cutBy; plate = plate->Before.get()) {
             const RectF& box = plate->Box;
@@ -124,9 +129,12 @@ void Compositor::Draw(Bitmap& page, const std::vector<Drawn>& layers, std::size_
                                 graphics::CombineMode::Intersect);
         }
         cutBy = layer.CutBy.get();
-        context.DrawImageRectRectI(layer.Image, layer.Destination, layer.Source,
-                                   {graphics::OpacityMatrix(layer.Opacity)});
+        images.push_back({layer.Image,
+                          layer.Destination,
+                          layer.Source,
+                          {graphics::OpacityMatrix(layer.Opacity)}});
     }
+    context.DrawImages(images);
 }
 
 // No pixel depends on what is drawn beside it.

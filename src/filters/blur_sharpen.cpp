@@ -31,43 +31,6 @@ constexpr unsigned Lane(Lanes lanes, int index) {
     return lanes >> 16 * index & 0xFFFF;
 }
 
-// Two of the lanes with room to multiply: Even holds blue and green, Odd red and alpha, in the low
-// and the high 32 bits.
-using LanePair = std::uint64_t;
-constexpr LanePair kPairOfOnes = 0x0000'0001'0000'0001;
-constexpr LanePair Even(Lanes lanes) {
-    return lanes & 0xFFFF * kPairOfOnes;
-}
-constexpr LanePair Odd(Lanes lanes) {
-    return Even(lanes >> 16);
-}
-
-// Division by 1 to 107 of up to 255 times that, rounded to the nearest, ties to even. It multiplies
-// by 2^23 / divisor, rounded up: that makes the product too large by less than 256 x 107, and
-// 2^23 / 107 would be needed to reach the next whole quotient.
-class RoundingDivisor {
-public:
-    explicit RoundingDivisor(unsigned divisor)
-        : factor_(((1U << 23) + divisor - 1) / divisor),
-          half_(divisor / 2 * factor_ * kPairOfOnes),
-          tie_(divisor % 2 == 0 ? factor_ * kPairOfOnes : 0) {}
-
-    LanePair Divide(LanePair numbers) const {
-        const LanePair up = numbers * factor_ + half_;
-        const LanePair down = up - tie_;
-        // Only at a tie do the two differ, by one: there the odd one loses its last bit.
-        return (up >> 23) & (down >> 23 | 0xFE * kPairOfOnes) & 0xFF * kPairOfOnes;
-    }
-
-private:
-    std::uint64_t factor_, half_, tie_;
-};
-
-// A neighbour's colours and, in the alpha lane, 1; nothing for a transparent one.
-constexpr Lanes VisibleLanes(Argb color) {
-    return AlphaOf(color) != 0 ? ColorLanes(color) | Lanes{1} << 48 : 0;
-}
-
 // number / divisor for 0 to `highest`, rounded down, at most 255; 0 for negative numbers down to
 // `lowest`. One entry each from `lowest` on.
 std::vector<std::uint8_t> MakeQuotients(int lowest, int highest, int divisor) {
@@ -80,52 +43,6 @@ std::vector<std::uint8_t> MakeQuotients(int lowest, int highest, int divisor) {
 }
 
 }  // namespace
-
-void Soften(Bitmap& image, int level) {
-    if (image.IsEmpty())
-        return;
-    constexpr unsigned kMostNeighbors = 6;
-    const unsigned own = 101 - std::clamp(level, 0, 100);
-    std::vector<RoundingDivisor> divisors;
-    for (unsigned neighbors = 0; neighbors <= kMostNeighbors; ++neighbors)
-        divisors.emplace_back(own + neighbors);
-
-    const int width = image.Width();
-    const std::vector<Argb> outside(width);
-    Argb* row = image.MutablePixels();
-    for (int y = 0; y < image.Height(); ++y, row += width) {
-        const Argb* above = y > 0 ? row - width : outside.data();
-        const Argb* below = y + 1 < image.Height() ? row + width : outside.data();
-        Argb color = row[0];
-        Lanes aboveHere = VisibleLanes(above[0]);
-        Lanes belowLeft = 0;
-        // The left neighbour is apart from the others: it's the one that is waited for.
-        unsigned leftVisible = 0;
-        LanePair leftEven = 0, leftOdd = 0;
-        for (int x = 0; x < width; ++x) {
-            const bool isLast = x + 1 == width;
-            const Argb right = isLast ? 0 : row[x + 1];
-            const Lanes aboveRight = VisibleLanes(isLast ? 0 : above[x + 1]);
-            const Lanes belowHere = VisibleLanes(below[x]);
-            const Lanes neighbors =
-                aboveHere + aboveRight + VisibleLanes(right) + belowLeft + belowHere;
-            const Lanes sums = ColorLanes(color) * own + neighbors;
-            const RoundingDivisor& divisor = divisors[(neighbors >> 48) + leftVisible];
-
-            const LanePair even = divisor.Divide(Even(sums) + leftEven);
-            const LanePair odd = divisor.Divide(Odd(sums) + leftOdd);
-            const auto red = static_cast<Argb>(odd) << 16;
-            row[x] = (color & 0xFF000000) | red | static_cast<Argb>(even | even >> 24);
-
-            leftVisible = AlphaOf(color) != 0 ? 1 : 0;
-            leftEven = leftVisible ? even : 0;
-            leftOdd = leftVisible ? odd & 0xFF : 0;
-            color = right;
-            aboveHere = aboveRight;
-            belowLeft = belowHere;
-        }
-    }
-}
 
 void Sharpen(Bitmap& image, int level) {
     const int width = image.Width();

@@ -12,6 +12,14 @@
 
 namespace orbelle::graphics {
 
+// The part `Source` of a picture, scaled into `Destination`.
+struct ImageToDraw {
+    Bitmap Image;
+    RectI Destination;
+    RectI Source;
+    ImageAttributes Attributes;
+};
+
 // Draws on `target`, which must outlive it; on an empty bitmap nothing is drawn. Coordinates are
 // target pixels, (0, 0) the top left; what falls outside is cut.
 class DrawingContext {
@@ -60,6 +68,8 @@ public:
     // The part `source` of the picture (what lies outside it is transparent) scaled into `dest`.
     void DrawImageRectRectI(const Bitmap& image, const RectI& dest, const RectI& source,
                             const ImageAttributes& attributes = {});
+    // The same for each of several pictures, in turn. Quicker where they lie pixel for pixel.
+    void DrawImages(std::span<const ImageToDraw> images);
 
 private:
     double Offset() const;

@@ -7,6 +7,7 @@
 #include <cmath>
 #include <utility>
 
+#include "support/instruction_sets.h"
 #include "support/pictures.h"
 #include "support/random_pictures.h"
 
@@ -58,19 +59,22 @@ void PlainSharpen(Bitmap& image, int level) {
 }
 
 TEST(BlurSharpen, AgreesWithThePlainForm) {
-    std::mt19937 random(1);
-    for (const auto& [filter, plainFilter] :
-         {std::pair(&Soften, &PlainSoften), {&Sharpen, &PlainSharpen}}) {
-        for (const int level : {0, 1, 50, 79, 80, 81, 85, 89, 90, 91, 99, 100}) {
-            for (const auto& [width, height] : SizesToTry(random)) {
-                Bitmap fast = RandomPicture(random, width, height), plain = fast;
-                filter(fast, level);
-                plainFilter(plain, level);
-                ASSERT_TRUE(SamePixels(fast, plain)) << (filter == &Soften ? "Soften " : "Sharpen ")
-                                                     << level << ": " << width << " x " << height;
+    WithEachInstructionSet([] {
+        std::mt19937 random(1);
+        for (const auto& [filter, plainFilter] :
+             {std::pair(&Soften, &PlainSoften), {&Sharpen, &PlainSharpen}}) {
+            for (const int level : {0, 1, 50, 79, 80, 81, 85, 89, 90, 91, 99, 100}) {
+                for (const auto& [width, height] : SizesToTry(random)) {
+                    Bitmap fast = RandomPicture(random, width, height), plain = fast;
+                    filter(fast, level);
+                    plainFilter(plain, level);
+                    ASSERT_TRUE(SamePixels(fast, plain))
+                        << (filter == &Soften ? "Soften " : "Sharpen ") << level << ": " << width
+                        << " x " << height;
+                }
             }
         }
-    }
+    });
 }
 
 TEST(BlurSharpen, AUniformPictureStaysUnderEveryBlurAndSharpening) {
@@ -104,19 +108,21 @@ TEST(Soften, RoundsEveryMeanOfTwoPixels) {
             pairs.SetPixel(3 * x + 1, 2 * y, MakeArgb(1, x, x, x));
         }
     }
-    for (int level = 0; level <= 100; ++level) {
-        const int own = 101 - level;
-        Bitmap picture = pairs;
-        Soften(picture, level);
-        for (int y = 0; y < 256; ++y) {
-            for (int x = 0; x < 256; ++x) {
-                const auto mean =
-                    static_cast<unsigned>(std::nearbyint((own * y + x) / (own + 1.0)));
-                ASSERT_EQ(picture.Row(2 * y)[3 * x], MakeArgb(255, mean, mean, mean))
-                    << level << ": " << y << ", " << x;
+    WithEachInstructionSet([&] {
+        for (int level = 0; level <= 100; ++level) {
+            const int own = 101 - level;
+            Bitmap picture = pairs;
+            Soften(picture, level);
+            for (int y = 0; y < 256; ++y) {
+                for (int x = 0; x < 256; ++x) {
+                    const auto mean =
+                        static_cast<unsigned>(std::nearbyint((own * y + x) / (own + 1.0)));
+                    ASSERT_EQ(picture.Row(2 * y)[3 * x], MakeArgb(255, mean, mean, mean))
+                        << level << ": " << y << ", " << x;
+                }
             }
         }
-    }
+    });
 }
 
 }  // namespace

@@ -6,6 +6,7 @@
 #include <climits>
 
 #include "graphics/drawing_context.h"
+#include "support/instruction_sets.h"
 #include "support/pictures.h"
 #include "support/random_pictures.h"
 
@@ -82,18 +83,20 @@ private:
 };
 
 TEST(FreshStyle, AgreesWithThePlainForm) {
-    std::mt19937 random(1);
-    for (const auto& [width, height] : SizesToTry(random)) {
-        const Bitmap image = RandomPicture(random, width, height);
-        for (const auto& [pageWidth, pageHeight] :
-             {std::pair{width, height}, {width + 5, height + 2}, {1, height}, {20, 10}}) {
-            const StylePicture relief = FreshStyle(image, pageWidth, pageHeight);
-            PlainRelief plain(image, pageWidth, pageHeight);
-            plain.Run();
-            ASSERT_TRUE(SamePixels(relief.Image, plain.Picture))
-                << width << " x " << height << " on " << pageWidth << " x " << pageHeight;
+    WithEachInstructionSet([] {
+        std::mt19937 random(1);
+        for (const auto& [width, height] : SizesToTry(random)) {
+            const Bitmap image = RandomPicture(random, width, height);
+            for (const auto& [pageWidth, pageHeight] :
+                 {std::pair{width, height}, {width + 5, height + 2}, {1, height}, {20, 10}}) {
+                const StylePicture relief = FreshStyle(image, pageWidth, pageHeight);
+                PlainRelief plain(image, pageWidth, pageHeight);
+                plain.Run();
+                ASSERT_TRUE(SamePixels(relief.Image, plain.Picture))
+                    << width << " x " << height << " on " << pageWidth << " x " << pageHeight;
+            }
         }
-    }
+    });
 }
 
 // Drawn are 4 x 4 pixels of 120. The ring of them is darkened to 60 70 71 51 / 70 68 / 71 71 /

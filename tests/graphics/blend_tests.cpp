@@ -88,6 +88,9 @@ TEST(Blend, DecidesTiesExactly) {
 // To the nearest of opacity times alpha.
 TEST(Blend, TakesSourceAlphasThroughAFactor) {
     std::vector<float> opacities = {1e-30F, 1.0F / 512, 1.0F / 511, 0.00196F, 0.999999F, 1};
+    for (const float tie : {0.5F, 0.25F, 0.625F, 9 / 256.0F})
+        opacities.insert(opacities.end(),
+                         {std::nextafter(tie, 0.0F), tie, std::nextafter(tie, 1.0F)});
     for (int percent = 0; percent < 100; ++percent)
         opacities.push_back(static_cast<float>(percent / 100.0));
     std::vector<Argb> source(1000);
@@ -97,7 +100,8 @@ TEST(Blend, TakesSourceAlphasThroughAFactor) {
         for (const float opacity : opacities) {
             const AlphaFactor factor(opacity);
             std::vector<Argb> row(1000, 0x80204060);
-            BlendRow(row.data(), source.data(), row.size(), factor);
+            const LayerRow layer{source.data(), &factor};
+            BlendLayers(row.data(), {&layer, 1}, row.size());
             for (unsigned i = 0; i < row.size(); ++i) {
                 const auto alpha = static_cast<unsigned>(double{opacity} * (i % 256) + 0.5);
                 ASSERT_EQ(factor.Apply(i % 256), alpha) << opacity << " x " << i % 256;
@@ -109,6 +113,40 @@ TEST(Blend, TakesSourceAlphasThroughAFactor) {
     EXPECT_EQ(AlphaFactor(-1).Apply(255), 0U);
     EXPECT_EQ(AlphaFactor(7).Apply(100), 100U);
     EXPECT_EQ(AlphaFactor(std::nanf("")).Apply(255), 0U);
+}
+
+// Among them some that hide all below and some with long stretches of nothing.
+TEST(Blend, LayersAreBlendedOneAfterTheOther) {
+    constexpr std::size_t kCount = 301;
+    std::mt19937 random(1);
+    for (std::size_t layerCount = 1; layerCount <= 9; ++layerCount) {
+        std::vector<std::vector<Argb>> rows(layerCount, std::vector<Argb>(kCount));
+        std::vector<AlphaFactor> factors;
+        std::vector<LayerRow> layers;
+        std::vector<Argb> destination(kCount);
+        for (Argb& pixel : destination)
+            pixel = random() % 4 == 0 ? 0 : random();
+        std::vector<Argb> expected = destination;
+        factors.reserve(layerCount);
+        for (std::vector<Argb>& row : rows) {
+            const unsigned kind = random() % 4;
+            factors.emplace_back(static_cast<float>(random() % 101) / 100);
+            const AlphaFactor* factor = random() % 2 == 0 ? &factors.back() : nullptr;
+            for (std::size_t i = 0; i < kCount; ++i) {
+                const unsigned stretch = (i / 40 + kind) % 3;
+                row[i] = stretch == 0 ? random() : MakeArgb(stretch == 1 ? 0 : 255, i, kind, 7);
+                const unsigned alpha = AlphaOf(row[i]);
+                expected[i] = Reference(
+                    expected[i], SetAlphaByte(row[i], factor ? factor->Apply(alpha) : alpha));
+            }
+            layers.push_back({row.data(), factor});
+        }
+        WithEachInstructionSet([&] {
+            std::vector<Argb> blended = destination;
+            BlendLayers(blended.data(), layers, kCount);
+            ASSERT_EQ(blended, expected) << layerCount;
+        });
+    }
 }
 
 }  // namespace

@@ -6,6 +6,7 @@
 #include <cmath>
 
 #include "graphics/drawing_context.h"
+#include "support/instruction_sets.h"
 #include "support/pictures.h"
 #include "support/pixel_runs.h"
 #include "support/shapes.h"
@@ -73,17 +74,22 @@ TEST(PathGradient, ColorsAreMixedByTheirAlphaAlongTheRay) {
 }
 
 TEST(PathGradient, ACirclePaintsPixelsByTheirDistanceAsFarAsItsEdge) {
-    Bitmap graded(128, 128);
     const PathGradientBrush brush{
         EllipsePath({10, 12, 100, 100}), 0xFF000000, {60, 62}, 0xFF0000FF};
-    DrawingContext(graded).FillRectangle(brush, {0, 0, 128, 128});
-    for (int y = 0; y < 128; ++y) {
-        for (int x = 0; x < 128; ++x) {
-            const double distance = std::min(std::hypot(x - 60, y - 62), 50.0);
-            ASSERT_NEAR(BlueOf(graded.Row(y)[x]), distance * 255 / 50, 1) << x << ", " << y;
-            ASSERT_EQ(AlphaOf(graded.Row(y)[x]), 255U) << x << ", " << y;
+    Bitmap before;
+    testing::WithEachInstructionSet([&] {
+        Bitmap graded(128, 128);
+        DrawingContext(graded).FillRectangle(brush, {0, 0, 128, 128});
+        for (int y = 0; y < 128; ++y) {
+            for (int x = 0; x < 128; ++x) {
+                const double distance = std::min(std::hypot(x - 60, y - 62), 50.0);
+                ASSERT_NEAR(BlueOf(graded.Row(y)[x]), distance * 255 / 50, 1) << x << ", " << y;
+                ASSERT_EQ(AlphaOf(graded.Row(y)[x]), 255U) << x << ", " << y;
+            }
         }
-    }
+        ASSERT_TRUE(before.IsEmpty() || testing::SamePixels(graded, before));
+        before = graded;
+    });
 }
 
 TEST(PathGradient, PartsAndSoftEdgesTakeTheColorsOfTheirPixels) {

@@ -251,6 +251,33 @@ TEST(ImageDrawing, ABitmapCanBeDrawnOnItself) {
     }
 }
 
+// Runs of pictures that cover the same, others in between, one of them the target itself.
+TEST(ImageDrawing, PicturesDrawnTogetherAreThoseDrawnInTurn) {
+    std::mt19937 random(1);
+    const Bitmap ground = testing::RandomPicture(random, 40, 30);
+    std::vector<Bitmap> images;
+    std::vector<ImageDrawing> drawings;
+    for (int i = 0; i < 40; ++i) {
+        images.push_back(i == 20 ? ground : testing::RandomPicture(random, 40, 30));
+        const auto moved = static_cast<float>(i % 13 == 12 ? i - 20 : 0);
+        drawings.push_back(Whole(images.back(), {moved, 0, 40, 30}, Default, kHalf));
+        if (i % 3 != 0)
+            drawings.back().Attributes.Matrix = OpacityMatrix(static_cast<float>(i) / 40);
+        if (i == 15)
+            drawings.back().Attributes.Gamma = 2.0F;
+        if (i == 30)
+            drawings.back().Destination.Width = 35;
+    }
+    for (const std::vector<RectI>& clip :
+         {std::vector<RectI>{{0, 0, 40, 30}}, {{3, 2, 20, 5}, {30, 2, 4, 5}, {1, 9, 38, 1}}}) {
+        Bitmap together = ground, inTurn = ground;
+        DrawImagesOn(together, images, drawings, clip);
+        for (std::size_t i = 0; i < images.size(); ++i)
+            DrawImageOn(inTurn, images[i], drawings[i], clip);
+        EXPECT_TRUE(testing::SamePixels(together, inTurn));
+    }
+}
+
 TEST(ImageDrawing, TwentyFourBitTargetsStayOpaque) {
     Bitmap target(20, 20, PixelFormat::Rgb24);
     const Bitmap image = Noise(20, 20);

@@ -2,8 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <cfloat>
 #include <cmath>
+#include <random>
 
 #include "support/pixel_runs.h"
 #include "support/shapes.h"
@@ -112,6 +114,23 @@ TEST(PixelsInside, HostileCoordinatesAreHarmless) {
         Path path = PolygonPath({{0, 0}, {bad, 0}, {8, 8}, {0, 8}});
         path.AddRectangle({2, 2, 2, 1});
         EXPECT_EQ(Runs(path, 0), "2: 2-3");
+    }
+}
+
+TEST(PixelsInside, ATriangleCoversThePixelsOfThatFigure) {
+    std::mt19937 random(1);
+    // Quarters, so that corners meet centres and sides lie flat.
+    const auto coordinate = [&] { return static_cast<float>(random() % 80) / 4 - 4; };
+    const RectI within{1, 2, 12, 9};
+    std::vector<RectI> runs;
+    for (int i = 0; i < 2000; ++i) {
+        const std::array<PointF, 3> corners = {PointF{coordinate(), coordinate()},
+                                               {coordinate(), coordinate()},
+                                               {coordinate(), coordinate()}};
+        const FlatFigure figure{{corners.begin(), corners.end()}, true};
+        const double offset = i % 2 == 0 ? 0 : 0.5;
+        PixelsInsideTriangle(corners, offset, within, runs);
+        ASSERT_EQ(runs, PixelsInside({&figure, 1}, FillMode::Winding, offset, within)) << i;
     }
 }
 

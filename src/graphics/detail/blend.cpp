@@ -1,6 +1,7 @@
 #include "graphics/detail/blend.h"
 
 #include <algorithm>
+#include <bit>
 #include <cmath>
 
 #undef HWY_TARGET_INCLUDE
@@ -8,6 +9,29 @@
 #include <hwy/cache_control.h>
 #include <hwy/foreach_target.h>
 #include <hwy/highway.h>
+
+#ifndef ORBELLE_GRAPHICS_BLEND_MASKS
+#define ORBELLE_GRAPHICS_BLEND_MASKS
+namespace orbelle::graphics {
+
+// Bits that the loops need. They come as an argument because compilers build constants that they
+// know anew each time, by way of the ports that have the most to do.
+struct BlendMasks {
+    Argb LowestVisible = 1U << 24;
+    Argb LowestOpaque = 255U << 24;
+    Argb Blue = 0xFF, Red = 0xFF0000, BlueGreen = 0xFFFF;
+
+    // A channel c lies as 256.5 + c in a float: c from the 15th bit on, below it one half. So a
+    // mean, worked out there, is rounded by cutting what is below the 15th bit.
+    std::uint32_t Channel = 0x7F8000;
+    std::uint32_t Fraction = 0x7FFF;
+    std::uint32_t NoChannel = 0x43804000;
+    // Alpha lies as kRoundingBias + alpha: in the low bits.
+    std::uint32_t NoAlpha = 0x4B400000;
+};
+
+}  // namespace orbelle::graphics
+#endif
 
 HWY_BEFORE_NAMESPACE();
 namespace orbelle::graphics {
@@ -22,117 +46,154 @@ using FloatVec = hn::Vec<decltype(kFloats)>;
 // Added to a number of a few hundred at most, it leaves the rounded number in the low bits of the
 // float.
 constexpr float kRoundingBias = 3 << 22;
-constexpr std::uint32_t kBiasBits = 0x4B400000;
 
-template <std::uint32_t kBits>
-HWY_INLINE FloatVec Difference(PixelVec source, PixelVec destination) {
-    const Pixels d;
-    const auto bits = hn::Set(d, kBits);
-    const auto difference = hn::Sub(hn::And(source, bits), hn::And(destination, bits));
-    return hn::ConvertTo(kFloats, hn::BitCast(hn::RebindToSigned<Pixels>(), difference));
-}
-
-HWY_INLINE FloatVec Alpha(PixelVec pixels) {
-    return hn::ConvertTo(kFloats,
-                         hn::BitCast(hn::RebindToSigned<Pixels>(), hn::ShiftRight<24>(pixels)));
-}
-
-// Off by less than a part in a thousand; the processor's is by one in 2,700 at most.
-HWY_INLINE FloatVec RoughInverse(FloatVec number) {
-#if HWY_ARCH_X86
-    return hn::ApproximateReciprocal(number);
-#else
-    return hn::Div(hn::Set(kFloats, 1.0F), number);
-#endif
-}
-
-// R, the sum of the two weights of a mean; its half, rounded up; and about its inverse.
-struct Weights {
-    FloatVec Sum, HalfSum, Inverse;
+// A vector of pixels, as BlendMasks tells.
+struct Planes {
+    FloatVec Blue, Green, Red, Alpha;
 };
 
-// How far the mean lies from the destination, in one channel: (2 x difference x weight + R) / 2R,
-// rounded down. It comes less one and with kBiasBits added.
-HWY_INLINE PixelVec Step(FloatVec difference, FloatVec weight, const Weights& weights) {
+HWY_INLINE PixelVec Bits(FloatVec plane) {
+    return hn::BitCast(Pixels(), plane);
+}
+
+HWY_INLINE FloatVec Channel(PixelVec shifted, const BlendMasks& masks) {
     const Pixels d;
-    // Whole and below 2^24 in size, as all that follows but the quotient: every step is exact.
-    const auto n = hn::MulSub(difference, weight, weights.HalfSum);
+    return hn::BitCast(
+        kFloats, hn::Or(hn::And(shifted, hn::Set(d, masks.Channel)), hn::Set(d, masks.NoChannel)));
+}
+
+HWY_INLINE Planes Rounded(const Planes& planes, const BlendMasks& masks) {
+    return {Channel(Bits(planes.Blue), masks), Channel(Bits(planes.Green), masks),
+            Channel(Bits(planes.Red), masks), planes.Alpha};
+}
+
+HWY_INLINE FloatVec Alpha(PixelVec pixels, const BlendMasks& masks) {
+    const Pixels d;
+    return hn::BitCast(kFloats, hn::Or(hn::ShiftRight<24>(pixels), hn::Set(d, masks.NoAlpha)));
+}
+
+HWY_INLINE Planes Spread(PixelVec pixels, FloatVec alpha, const BlendMasks& masks) {
+    return {Channel(hn::ShiftLeft<15>(pixels), masks), Channel(hn::ShiftLeft<7>(pixels), masks),
+            Channel(hn::ShiftRight<1>(pixels), masks), alpha};
+}
+
+// The first where the bits are set, else the second.
+HWY_INLINE PixelVec Selected(Argb bits, PixelVec first, PixelVec second) {
+    const auto mask = hn::Set(Pixels(), bits);
+    return hn::Or(hn::And(first, mask), hn::AndNot(mask, second));
+}
+
+// The pixels, their channels rounded.
+HWY_INLINE PixelVec Joined(const Planes& planes, const BlendMasks& masks) {
+    const auto blue = hn::ShiftRight<15>(Bits(planes.Blue));
+    const auto green = hn::ShiftRight<7>(Bits(planes.Green));
+    const auto red = hn::ShiftLeft<1>(Bits(planes.Red));
+    const auto alpha = hn::ShiftLeft<24>(Bits(planes.Alpha));
+    return Selected(masks.BlueGreen, Selected(masks.Blue, blue, green),
+                    Selected(masks.Red, red, alpha));
+}
+
+// The mean of two channels, the source's share being weight / sum, to the last bit.
+HWY_INLINE FloatVec ExactMean(FloatVec below, FloatVec above, FloatVec weight, FloatVec sum) {
+    const auto one = hn::Set(kFloats, 1.0F);
+    const auto halfSum = hn::Ceil(hn::Mul(sum, hn::Set(kFloats, 0.5F)));
+    // The step from `below` is (2 x difference x weight + sum) / 2 sum, rounded down; less one it
+    // is n / sum rounded down. Whole and below 2^24 in size, as all that follows but the quotient:
+    // every step is exact.
+    const auto n = hn::MulSub(hn::Sub(above, below), weight, halfSum);
     const auto bias = hn::Set(kFloats, kRoundingBias);
-    // n / R rounded: what n / R rounded down is, or one more. Then the remainder is negative.
-    const auto biased = hn::MulAdd(n, weights.Inverse, bias);
-    const auto remainder = hn::NegMulAdd(hn::Sub(biased, bias), weights.Sum, n);
-    return hn::Sub(hn::BitCast(d, biased), hn::ShiftRight<31>(hn::BitCast(d, remainder)));
+    const auto quotient = hn::Sub(hn::MulAdd(n, hn::Div(one, sum), bias), bias);
+    // Rounded to the nearest: right, or one too many. Then the remainder is negative.
+    const auto isTooMany = hn::Lt(hn::NegMulAdd(quotient, sum, n), hn::Zero(kFloats));
+    return hn::Add(below, hn::IfThenElse(isTooMany, quotient, hn::Add(quotient, one)));
 }
 
-HWY_INLINE PixelVec BlendVector(PixelVec destination, PixelVec source) {
+HWY_INLINE bool AllHaveFractions(FloatVec blue, FloatVec green, FloatVec red,
+                                 const BlendMasks& masks) {
     const Pixels d;
+    const auto bits = hn::Set(d, masks.Fraction);
+#if HWY_ARCH_X86 && HWY_TARGET <= HWY_AVX3
+    // Each test takes the last one's lanes: that spares putting three masks together.
+    const auto inBlue = _mm512_test_epi32_mask(Bits(blue).raw, bits.raw);
+    const auto inBoth = _mm512_mask_test_epi32_mask(inBlue, Bits(green).raw, bits.raw);
+    const auto inAll = _mm512_mask_test_epi32_mask(inBoth, Bits(red).raw, bits.raw);
+    return inAll == 0xFFFF;
+#else
+    const auto hasNone = [&](FloatVec channel)
+                             HWY_ATTR { return hn::Eq(hn::And(Bits(channel), bits), hn::Zero(d)); };
+    return hn::AllFalse(d, hn::Or(hn::Or(hasNone(blue), hasNone(green)), hasNone(red)));
+#endif
+}
+
+// How much the pixels above and all those below them weigh.
+struct Weights {
+    FloatVec Above, Below;
+};
+
+HWY_INLINE Weights WeightsOf(FloatVec alpha) {
     const auto all = hn::Set(kFloats, 255.0F);
-    const auto sourceAlpha = Alpha(source);
-    const auto weight = hn::Mul(all, sourceAlpha);
-    const auto sum = hn::MulAdd(Alpha(destination), hn::Sub(all, sourceAlpha), weight);
-    Weights weights;
+    const auto bias = hn::Set(kFloats, kRoundingBias);
+#if HWY_NATIVE_FMA
+    // Without the bias, in one step each.
+    return {hn::MulSub(all, alpha, hn::Set(kFloats, 255 * kRoundingBias)),
+            hn::Sub(hn::Set(kFloats, 255 + kRoundingBias), alpha)};
+#else
+    const auto number = hn::Sub(alpha, bias);
+    return {hn::Mul(all, number), hn::Sub(all, number)};
+#endif
+}
+
+// Leaves channels that are not rounded yet.
+HWY_INLINE void Blend(Planes& below, const Planes& above, const BlendMasks& masks) {
+    const auto bias = hn::Set(kFloats, kRoundingBias);
+    const Weights weights = WeightsOf(above.Alpha);
+    const auto sum = hn::MulAdd(hn::Sub(below.Alpha, bias), weights.Below, weights.Above);
     // Nothing on nothing is no step as well.
-    weights.Sum = hn::Max(sum, hn::Set(kFloats, 1.0F));
-    weights.HalfSum = hn::Ceil(hn::Mul(weights.Sum, hn::Set(kFloats, 0.5F)));
-    weights.Inverse = RoughInverse(weights.Sum);
-
-    const auto blue = Step(Difference<0xFF>(source, destination), weight, weights);
-    const auto green = Step(Difference<0xFF00>(source, destination),
-                            hn::Mul(weight, hn::Set(kFloats, 1.0F / (1 << 8))), weights);
-    const auto red = Step(Difference<0xFF0000>(source, destination),
-                          hn::Mul(weight, hn::Set(kFloats, 1.0F / (1 << 16))), weights);
-    const auto alpha =
-        hn::MulAdd(sum, hn::Set(kFloats, 1.0F / 255.0F), hn::Set(kFloats, kRoundingBias));
-    // Added up, what one channel borrows the next pays back.
-    constexpr std::uint32_t kSurplus = (kBiasBits - 1) * 0x010101;
-    const auto steps = hn::Add(hn::Add(blue, hn::ShiftLeft<8>(green)),
-                               hn::Add(hn::ShiftLeft<16>(red), hn::Set(d, 0u - kSurplus)));
-    const auto base = hn::Add(hn::And(destination, hn::Set(d, 0xFFFFFFu)),
-                              hn::ShiftLeft<24>(hn::BitCast(d, alpha)));
-    return hn::Add(base, steps);
+    const auto divisor = hn::Max(sum, hn::Set(kFloats, 1.0F));
+    const auto share = hn::Div(weights.Above, divisor);
+    const auto mean = [&](FloatVec under, FloatVec over)
+                          HWY_ATTR { return hn::MulAdd(hn::Sub(over, under), share, under); };
+    auto blue = mean(below.Blue, above.Blue);
+    auto green = mean(below.Green, above.Green);
+    auto red = mean(below.Red, above.Red);
+    // The share is off by 2^-25 at most, so that a mean is by 255 x 2^-25, and where machines round
+    // before they add, by 2^-17 more: in sum by less than half the last bit. Only where no fraction
+    // is left the mean may have been less.
+    if (HWY_UNLIKELY(!AllHaveFractions(blue, green, red, masks))) {
+        blue = ExactMean(below.Blue, above.Blue, weights.Above, divisor);
+        green = ExactMean(below.Green, above.Green, weights.Above, divisor);
+        red = ExactMean(below.Red, above.Red, weights.Above, divisor);
+    }
+    below = {blue, green, red, hn::MulAdd(sum, hn::Set(kFloats, 1.0F / 255.0F), bias)};
 }
 
-#if HWY_TARGET != HWY_SCALAR
-// The same where all destinations are opaque: the weights add up to 255 x 255, so that the mean is
-// a whole number by 255, rounded; it never ends in one half.
-HWY_INLINE PixelVec BlendOnOpaque(PixelVec destination, PixelVec source, PixelVec sourceAlpha) {
+// The same where all of `below` is opaque. The means are multiples of 1 / 255 and one half: never
+// near a whole number.
+HWY_INLINE void BlendOnOpaque(Planes& below, const Planes& above) {
+    const auto alpha = hn::Sub(above.Alpha, hn::Set(kFloats, kRoundingBias));
+    const auto share = hn::Mul(alpha, hn::Set(kFloats, 1.0F / 255.0F));
+    const auto mean = [&](FloatVec under, FloatVec over)
+                          HWY_ATTR { return hn::MulAdd(hn::Sub(over, under), share, under); };
+    below.Blue = mean(below.Blue, above.Blue);
+    below.Green = mean(below.Green, above.Green);
+    below.Red = mean(below.Red, above.Red);
+}
+
+// The alphas taken through the factor, as AlphaFactor::Apply does.
+HWY_INLINE FloatVec ScaledAlpha(PixelVec pixels, const AlphaFactor& factor,
+                                const BlendMasks& masks) {
     const Pixels d;
-    const hn::Repartition<std::uint16_t, Pixels> halves;
-    using Halves = hn::Vec<decltype(halves)>;
-    const auto weight = hn::BitCast(halves, hn::Or(sourceAlpha, hn::ShiftLeft<16>(sourceAlpha)));
-    // Steps may pass the ends of 16 bits, what they end at lies between 0 and 65025.
-    const auto mean = [&](Halves below, Halves above) HWY_ATTR {
-        const auto sum = hn::Add(hn::Sub(hn::ShiftLeft<8>(below), below),
-                                 hn::Mul(weight, hn::Sub(above, below)));
-        const auto up = hn::Add(sum, hn::Set(halves, std::uint16_t{128}));
-        return hn::Add(up, hn::ShiftRight<8>(up));  // the mean is in the upper byte
-    };
-    const auto below = hn::BitCast(halves, destination);
-    const auto above = hn::BitCast(halves, source);
-    const auto low = hn::Set(halves, std::uint16_t{0xFF});
-    const auto blueAndRed = hn::ShiftRight<8>(mean(hn::And(below, low), hn::And(above, low)));
-    const auto green = hn::AndNot(low, mean(hn::ShiftRight<8>(below), hn::ShiftRight<8>(above)));
-    return hn::Or(hn::BitCast(d, hn::Or(blueAndRed, green)), hn::Set(d, 255u << 24));
-}
-
+    const auto alpha = hn::ShiftRight<24>(pixels);
+#if HWY_NATIVE_FMA
+    // Nothing is rounded but the sum.
+    const auto number = hn::ConvertTo(kFloats, hn::BitCast(hn::RebindToSigned<Pixels>(), alpha));
+    return hn::MulAdd(number, hn::Set(kFloats, factor.Opacity), hn::Set(kFloats, kRoundingBias));
+#else
+    const auto product = hn::Mul(alpha, hn::Set(d, factor.Multiplier));
+    const auto half = hn::Set(d, 1u << (factor.Shift - 1));
+    const auto scaled = hn::ShiftRightSame(hn::Add(hn::ShiftRight<1>(product), half), factor.Shift);
+    return hn::BitCast(kFloats, hn::Or(scaled, hn::Set(d, masks.NoAlpha)));
 #endif
-
-// Rows are opaque over long stretches.
-HWY_INLINE PixelVec Blend(PixelVec destination, PixelVec source) {
-#if HWY_TARGET != HWY_SCALAR
-    const Pixels d;
-    if (hn::AllFalse(d, hn::Lt(destination, hn::Set(d, 255u << 24))))
-        return BlendOnOpaque(destination, source, hn::ShiftRight<24>(source));
-#endif
-    return BlendVector(destination, source);
-}
-
-// Takes the alphas through the factor, as AlphaFactor::Apply does.
-HWY_INLINE PixelVec Scaled(PixelVec pixels, PixelVec multiplier, PixelVec half, int shift) {
-    const Pixels d;
-    const auto product = hn::Mul(hn::ShiftRight<24>(pixels), multiplier);
-    const auto alpha = hn::ShiftRightSame(hn::Add(hn::ShiftRight<1>(product), half), shift);
-    return hn::Or(hn::And(pixels, hn::Set(d, 0xFFFFFFu)), hn::ShiftLeft<24>(alpha));
 }
 
 // Layers are read once, row after row, and are seldom in the cache: without this most of the time
@@ -143,54 +204,107 @@ HWY_INLINE void FetchAhead(const Argb* pixels) {
         reinterpret_cast<const Argb*>(reinterpret_cast<std::uintptr_t>(pixels) + kAheadBytes));
 }
 
-void BlendRowVectors(Argb* destination, const Argb* source, std::size_t count) {
+HWY_INLINE bool IsVisible(PixelVec pixels, const BlendMasks& masks) {
     const Pixels d;
-    const auto lowestVisible = hn::Set(d, 1u << 24);
-    const auto lowestOpaque = hn::Set(d, 255u << 24);
-    const std::size_t step = hn::Lanes(d);
-    std::size_t i = 0;
-    for (; i + step <= count; i += step) {
-        FetchAhead(source + i);
-        const auto pixels = hn::LoadU(d, source + i);
-        if (hn::AllTrue(d, hn::Lt(pixels, lowestVisible)))
-            continue;
-        if (hn::AllFalse(d, hn::Lt(pixels, lowestOpaque)))
+    return !hn::AllTrue(d, hn::Lt(pixels, hn::Set(d, masks.LowestVisible)));
+}
+
+HWY_INLINE bool IsOpaque(PixelVec pixels, const BlendMasks& masks) {
+    const Pixels d;
+    return hn::AllFalse(d, hn::Lt(pixels, hn::Set(d, masks.LowestOpaque)));
+}
+
+// Tells whether vectors of a row are opaque. Where they are not, only one in eight is looked at:
+// the way that asks for nothing is not much longer.
+class OpaqueRun {
+public:
+    HWY_INLINE bool IsOpaqueAt(std::size_t i, PixelVec pixels, const BlendMasks& masks) {
+        if (isOpaque_ || i % (8 * hn::Lanes(Pixels())) == 0)
+            isOpaque_ = IsOpaque(pixels, masks);
+        return isOpaque_;
+    }
+
+private:
+    bool isOpaque_ = false;
+};
+
+// One vector. The pixels stay spread from the first layer to the last.
+HWY_INLINE void BlendLayersAt(Argb* destination, std::span<const LayerRow> layers, std::size_t i,
+                              OpaqueRun& run, const BlendMasks& masks) {
+    const Pixels d;
+    auto layer = layers.begin();
+    auto source = hn::Undefined(d);
+    const auto isAtVisible = [&]() HWY_ATTR {
+        for (; layer != layers.end(); ++layer) {
+            FetchAhead(layer->Pixels + i);
+            source = hn::LoadU(d, layer->Pixels + i);
+            if (IsVisible(source, masks))
+                return true;
+        }
+        return false;
+    };
+    if (!isAtVisible())
+        return;
+    auto pixels = hn::LoadU(d, destination + i);
+    while (!layer->Factor && IsOpaque(source, masks)) {
+        pixels = source;
+        ++layer;
+        if (!isAtVisible()) {
             hn::StoreU(pixels, d, destination + i);
+            return;
+        }
+    }
+    Planes below = Spread(pixels, Alpha(pixels, masks), masks);
+    const bool isOpaque = run.IsOpaqueAt(i, pixels, masks);
+    for (;;) {
+        const auto alpha =
+            layer->Factor ? ScaledAlpha(source, *layer->Factor, masks) : Alpha(source, masks);
+        const Planes above = Spread(source, alpha, masks);
+        if (isOpaque)
+            BlendOnOpaque(below, above);
         else
-            hn::StoreU(Blend(hn::LoadU(d, destination + i), pixels), d, destination + i);
+            Blend(below, above, masks);
+        ++layer;
+        if (!isAtVisible())
+            break;
+        below = Rounded(below, masks);
     }
-    for (; i < count; ++i)
-        destination[i] = BlendPixel(destination[i], source[i]);
+    hn::StoreU(Joined(below, masks), d, destination + i);
 }
 
-void BlendScaledRowVectors(Argb* destination, const Argb* source, std::size_t count,
-                           const AlphaFactor& factor) {
-    const Pixels d;
-    const auto lowestVisible = hn::Set(d, 1u << 24);
-    const auto multiplier = hn::Set(d, factor.Multiplier);
-    const auto half = hn::Set(d, 1u << (factor.Shift - 1));
-    const std::size_t step = hn::Lanes(d);
-    std::size_t i = 0;
-    for (; i + step <= count; i += step) {
-        FetchAhead(source + i);
-        const auto pixels = hn::LoadU(d, source + i);
-        if (hn::AllTrue(d, hn::Lt(pixels, lowestVisible)))
-            continue;
-        const auto scaled = Scaled(pixels, multiplier, half, factor.Shift);
-        hn::StoreU(Blend(hn::LoadU(d, destination + i), scaled), d, destination + i);
-    }
-    for (; i < count; ++i)
-        destination[i] =
-            BlendPixel(destination[i], SetAlphaByte(source[i], factor.Apply(AlphaOf(source[i]))));
-}
-
-void BlendColorVectors(Argb* destination, Argb color, std::size_t count) {
-    const Pixels d;
-    const auto colors = hn::Set(d, color);
-    const std::size_t step = hn::Lanes(d);
+void BlendLayersVectors(Argb* destination, std::span<const LayerRow> layers, std::size_t count,
+                        const BlendMasks& masks) {
+    const std::size_t step = hn::Lanes(Pixels());
+    OpaqueRun run;
     std::size_t i = 0;
     for (; i + step <= count; i += step)
-        hn::StoreU(Blend(hn::LoadU(d, destination + i), colors), d, destination + i);
+        BlendLayersAt(destination, layers, i, run, masks);
+    for (; i < count; ++i) {
+        for (const LayerRow& layer : layers) {
+            const Argb source = layer.Pixels[i];
+            const unsigned alpha = AlphaOf(source);
+            destination[i] =
+                BlendPixel(destination[i],
+                           SetAlphaByte(source, layer.Factor ? layer.Factor->Apply(alpha) : alpha));
+        }
+    }
+}
+
+void BlendColorVectors(Argb* destination, Argb color, std::size_t count, const BlendMasks& masks) {
+    const Pixels d;
+    const auto colors = hn::Set(d, color);
+    const Planes above = Spread(colors, Alpha(colors, masks), masks);
+    const std::size_t step = hn::Lanes(d);
+    std::size_t i = 0;
+    for (; i + step <= count; i += step) {
+        const auto pixels = hn::LoadU(d, destination + i);
+        Planes below = Spread(pixels, Alpha(pixels, masks), masks);
+        if (IsOpaque(pixels, masks))
+            BlendOnOpaque(below, above);
+        else
+            Blend(below, above, masks);
+        hn::StoreU(Joined(below, masks), d, destination + i);
+    }
     for (; i < count; ++i)
         destination[i] = BlendPixel(destination[i], color);
 }
@@ -202,8 +316,7 @@ HWY_AFTER_NAMESPACE();
 #if HWY_ONCE
 namespace orbelle::graphics {
 
-HWY_EXPORT(BlendRowVectors);
-HWY_EXPORT(BlendScaledRowVectors);
+HWY_EXPORT(BlendLayersVectors);
 HWY_EXPORT(BlendColorVectors);
 
 AlphaFactor::AlphaFactor(float opacity) {
@@ -216,6 +329,11 @@ AlphaFactor::AlphaFactor(float opacity) {
         return;
     Multiplier = static_cast<std::uint32_t>(std::ldexp(mantissa, kMantissaBits));
     Shift = kMantissaBits - exponent - 1;
+    Opacity = std::clamp(opacity, 0.0F, 1.0F);
+    // A product ends in one half if the alpha has as many twos as are missing here.
+    const int missing = Shift - std::countr_zero(Multiplier);
+    if (missing >= 0 && missing < 8)
+        Opacity = std::nextafter(Opacity, 2.0F);
 }
 
 Argb BlendPixel(Argb destination, Argb source) {
@@ -234,19 +352,20 @@ Argb BlendPixel(Argb destination, Argb source) {
                     mean(BlueOf(source), BlueOf(destination)));
 }
 
-void BlendRow(Argb* destination, const Argb* source, std::size_t count) {
-    HWY_DYNAMIC_DISPATCH(BlendRowVectors)(destination, source, count);
+void BlendLayers(Argb* destination, std::span<const LayerRow> layers, std::size_t count) {
+    HWY_DYNAMIC_DISPATCH(BlendLayersVectors)(destination, layers, count, BlendMasks());
 }
 
-void BlendRow(Argb* destination, const Argb* source, std::size_t count, const AlphaFactor& factor) {
-    HWY_DYNAMIC_DISPATCH(BlendScaledRowVectors)(destination, source, count, factor);
+void BlendRow(Argb* destination, const Argb* source, std::size_t count) {
+    const LayerRow row{source, nullptr};
+    BlendLayers(destination, {&row, 1}, count);
 }
 
 void BlendColor(Argb* destination, Argb color, std::size_t count) {
     if (AlphaOf(color) == 255)
         std::fill_n(destination, count, color);
     else if (AlphaOf(color) > 0)
-        HWY_DYNAMIC_DISPATCH(BlendColorVectors)(destination, color, count);
+        HWY_DYNAMIC_DISPATCH(BlendColorVectors)(destination, color, count, BlendMasks());
 }
 
 }  // namespace orbelle::graphics

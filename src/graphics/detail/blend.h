@@ -7,6 +7,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <span>
 
 #include "graphics/color.h"
 
@@ -30,10 +31,19 @@ public:
 
     std::uint32_t Multiplier = 0;  // below 2^24
     int Shift = 1;                 // opacity = Multiplier / 2^(Shift + 1)
+    // The opacity, or where it makes a product end in one half, the next number above: its products
+    // rounded to the nearest are those of Apply.
+    float Opacity = 0;
 };
 
-// The same with each source alpha first taken through the factor.
-void BlendRow(Argb* destination, const Argb* source, std::size_t count, const AlphaFactor& factor);
+// Pixels to be blended; each alpha is first taken through the factor if there is one.
+struct LayerRow {
+    const Argb* Pixels;
+    const AlphaFactor* Factor;
+};
+
+// Blends `count` pixels of each row over as many destination pixels, one row after the other.
+void BlendLayers(Argb* destination, std::span<const LayerRow> layers, std::size_t count);
 
 // Blends one colour over `count` pixels.
 void BlendColor(Argb* destination, Argb color, std::size_t count);

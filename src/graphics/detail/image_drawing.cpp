@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <cmath>
+#include <optional>
+#include <utility>
 #include <vector>
 
 #include "graphics/detail/blend.h"
@@ -20,32 +22,60 @@ bool IsPixelForPixel(const ImageDrawing& drawing) {
            to.Y == std::floor(to.Y);
 }
 
-void DrawPixelForPixel(Bitmap& target, const Bitmap& image, const ImageDrawing& drawing,
-                       std::span<const RectI> clip) {
-    const Recoloring recoloring(drawing.Attributes);
+// A picture that is drawn pixel for pixel.
+struct PlacedImage {
+    Bitmap Image;
+    int Left, Top;  // where its first pixel comes to lie in the target
+    RectI Area;     // the target pixels that it reaches
+    Recoloring Changes;
+
+    const Argb* Row(int x, int y) const { return Image.Row(y - Top) + (x - Left); }
+};
+
+std::optional<PlacedImage> Place(const Bitmap& image, const ImageDrawing& drawing) {
+    if (image.IsEmpty() || !IsPixelForPixel(drawing))
+        return {};
     const RectI part = Intersect(drawing.Source, {0, 0, image.Width(), image.Height()});
     // In real numbers: either place may lie at the ends of int.
     const double left = double{drawing.Destination.X} - drawing.Source.X;
     const double top = double{drawing.Destination.Y} - drawing.Source.Y;
-    if (std::abs(left) > 2.0 * kMaxBitmapSide || std::abs(top) > 2.0 * kMaxBitmapSide)
-        return;
-    const int dx = static_cast<int>(left);
-    const int dy = static_cast<int>(top);
+    const bool isFar =
+        std::abs(left) > 2.0 * kMaxBitmapSide || std::abs(top) > 2.0 * kMaxBitmapSide;
+    const int dx = isFar ? 0 : static_cast<int>(left);
+    const int dy = isFar ? 0 : static_cast<int>(top);
+    const RectI area{part.X + dx, part.Y + dy, part.Width, part.Height};
+    return PlacedImage{image, dx, dy, isFar ? RectI{} : area, Recoloring(drawing.Attributes)};
+}
+
+// Whether all that changes is alpha, by a factor.
+bool IsLayer(const Recoloring& changes) {
+    return changes.ChangesNothing() || changes.Factor();
+}
+
+// Pictures that reach the same pixels, each of them a layer.
+void BlendPlaced(Bitmap& target, std::span<const PlacedImage> images, std::span<const RectI> clip) {
+    std::vector<LayerRow> layers(images.size());
+    for (const RectI& rect : clip) {
+        const RectI area = Intersect(rect, images.front().Area);
+        for (int y = area.Y; y < area.Y + area.Height; ++y) {
+            std::ranges::transform(images, layers.begin(), [&](const PlacedImage& image) {
+                const auto& factor = image.Changes.Factor();
+                return LayerRow{image.Row(area.X, y), factor ? &*factor : nullptr};
+            });
+            BlendLayers(target.MutableRow(y) + area.X, layers, area.Width);
+        }
+    }
+}
+
+void BlendRecolored(Bitmap& target, const PlacedImage& image, std::span<const RectI> clip) {
     std::vector<Argb> changed;
     for (const RectI& rect : clip) {
-        const RectI area = Intersect(rect, {part.X + dx, part.Y + dy, part.Width, part.Height});
+        const RectI area = Intersect(rect, image.Area);
         for (int y = area.Y; y < area.Y + area.Height; ++y) {
-            const Argb* from = image.Row(y - dy) + (area.X - dx);
-            Argb* to = target.MutableRow(y) + area.X;
-            if (recoloring.ChangesNothing()) {
-                BlendRow(to, from, area.Width);
-            } else if (const auto& factor = recoloring.Factor()) {
-                BlendRow(to, from, area.Width, *factor);
-            } else {
-                changed.assign(from, from + area.Width);
-                recoloring.Apply(changed);
-                BlendRow(to, changed.data(), area.Width);
-            }
+            const Argb* from = image.Row(area.X, y);
+            changed.assign(from, from + area.Width);
+            image.Changes.Apply(changed);
+            BlendRow(target.MutableRow(y) + area.X, changed.data(), area.Width);
         }
     }
 }
@@ -161,12 +191,40 @@ void DrawImageOn(Bitmap& target, const Bitmap& image, const ImageDrawing& drawin
     // Keeps the pixels as they are while the target, which may be the same bitmap, is written.
     const Bitmap source = image;  // NOLINT(performance-unnecessary-copy-initialization)
     const RectI bounds = BoxAround(clip);
-    if (IsPixelForPixel(drawing))
-        DrawPixelForPixel(target, source, drawing, clip);
+    if (const auto placed = Place(source, drawing); placed && IsLayer(placed->Changes))
+        BlendPlaced(target, {&*placed, 1}, clip);
+    else if (placed)
+        BlendRecolored(target, *placed, clip);
     else if (drawing.Interpolation == InterpolationMode::NearestNeighbor)
         DrawNearest(target, source, drawing, clip, bounds);
     else
         DrawSmooth(target, source, drawing, clip, bounds);
+}
+
+void DrawImagesOn(Bitmap& target, std::span<const Bitmap> images,
+                  std::span<const ImageDrawing> drawings, std::span<const RectI> clip) {
+    // More rows at a time would drive each other out of the cache.
+    constexpr std::size_t kMostAtOnce = 8;
+    const RectI bounds = BoxAround(clip);
+    std::vector<PlacedImage> placed;
+    const auto blend = [&] {
+        if (!placed.empty())
+            BlendPlaced(target, placed, clip);
+        placed.clear();
+    };
+    for (std::size_t i = 0; i < images.size(); ++i) {
+        auto next = Place(images[i], drawings[i]);
+        if (!next || !IsLayer(next->Changes)) {
+            blend();
+            DrawImageOn(target, images[i], drawings[i], clip);
+            continue;
+        }
+        next->Area = Intersect(next->Area, bounds);
+        if (placed.size() == kMostAtOnce || (!placed.empty() && next->Area != placed[0].Area))
+            blend();
+        placed.push_back(*std::move(next));
+    }
+    blend();
 }
 
 }  // namespace orbelle::graphics

@@ -25,4 +25,8 @@ struct ImageDrawing {
 void DrawImageOn(Bitmap& target, const Bitmap& image, const ImageDrawing& drawing,
                  std::span<const RectI> clip);
 
+// The same for several pictures, one over the other.
+void DrawImagesOn(Bitmap& target, std::span<const Bitmap> images,
+                  std::span<const ImageDrawing> drawings, std::span<const RectI> clip);
+
 }  // namespace orbelle::graphics

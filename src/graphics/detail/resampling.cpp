@@ -1,7 +1,6 @@
 #include "graphics/detail/resampling.h"
 
 #include <algorithm>
-#include <array>
 
 #undef HWY_TARGET_INCLUDE
 #define HWY_TARGET_INCLUDE "graphics/detail/resampling.cpp"
@@ -14,19 +13,6 @@ HWY_BEFORE_NAMESPACE();
 namespace orbelle::graphics {
 namespace HWY_NAMESPACE {
 namespace hn = hwy::HWY_NAMESPACE;
-
-// The pixel that a total of blue, green, red (times alpha) and alpha stands for.
-HWY_INLINE Argb StraightPixel(const std::array<float, 4>& total) {
-    const float alpha = std::min(total[3], 255.0F);
-    if (alpha < 0.5F)
-        return 0;
-    const auto round = [](float channel) HWY_ATTR {
-        const float limited = std::min(std::max(channel, 0.0F), 255.0F);
-        return static_cast<unsigned>(limited + 0.5F);  // NOLINT(bugprone-incorrect-roundings)
-    };
-    return MakeArgb(round(alpha), round(total[2] / alpha), round(total[1] / alpha),
-                    round(total[0] / alpha));
-}
 
 // One vector's worth of columns.
 template <class D>
@@ -63,23 +49,59 @@ void AddUpRowsVectors(const Argb* pixels, std::size_t stride, std::span<const fl
         AddUpRowsOf(one, pixels + x, stride, weights, sums + 4 * x);
 }
 
-void AddUpColumnsVectors(const float* sums, int firstColumn, std::span<const Taps> taps,
-                         const float* weights, Argb* pixels) {
+// The totals of one pixel: blue, green, red (times alpha) and alpha.
+HWY_INLINE void AddUpTaps(const float* columns, const float* weights, int count, float* total) {
     // The four numbers of a pixel, or one after the other where vectors are shorter.
     const hn::CappedTag<float, 4> d;
-    for (const Taps& tap : taps) {
-        const float* first = sums + 4 * static_cast<std::size_t>(tap.First - firstColumn);
-        std::array<float, 4> total;
-        for (std::size_t part = 0; part < total.size(); part += hn::Lanes(d)) {
-            const float* column = first + part;
-            auto sum = hn::Zero(d);
-            for (int i = 0; i < tap.Count; ++i, column += 4) {
-                const auto weight = hn::Set(d, weights[tap.Weights + i]);
-                sum = hn::Add(sum, hn::Mul(hn::LoadU(d, column), weight));
-            }
-            hn::StoreU(sum, d, total.data() + part);
-        }
-        *pixels++ = StraightPixel(total);
+    for (std::size_t part = 0; part < 4; part += hn::Lanes(d)) {
+        const float* column = columns + part;
+        auto sum = hn::Zero(d);
+        for (int i = 0; i < count; ++i, column += 4)
+            sum = hn::Add(sum, hn::Mul(hn::LoadU(d, column), hn::Set(d, weights[i])));
+        hn::StoreU(sum, d, total + part);
+    }
+}
+
+// The pixels that a vector's worth of totals stands for.
+template <class D>
+HWY_INLINE void StoreStraight(D d, const float* totals, Argb* pixels) {
+    const hn::RebindToFloat<D> floats;
+    const hn::RebindToSigned<D> ints;
+    hn::Vec<decltype(floats)> blue, green, red, total;
+    hn::LoadInterleaved4(floats, totals, blue, green, red, total);
+    const auto most = hn::Set(floats, 255.0F);
+    const auto half = hn::Set(floats, 0.5F);
+    const auto alpha = hn::Min(total, most);
+    const auto round = [&](auto channel) HWY_ATTR {
+        const auto limited = hn::Min(hn::Max(channel, hn::Zero(floats)), most);
+        return hn::BitCast(d, hn::ConvertTo(ints, hn::Add(limited, half)));
+    };
+    const auto colors =
+        hn::Or(hn::ShiftLeft<16>(round(hn::Div(red, alpha))),
+               hn::Or(hn::ShiftLeft<8>(round(hn::Div(green, alpha))), round(hn::Div(blue, alpha))));
+    const auto straight = hn::Or(hn::ShiftLeft<24>(round(alpha)), colors);
+    hn::StoreU(hn::IfThenElseZero(hn::RebindMask(d, hn::Ge(alpha, half)), straight), d, pixels);
+}
+
+void AddUpColumnsVectors(const float* sums, int firstColumn, std::span<const Taps> taps,
+                         const float* weights, Argb* pixels) {
+    const hn::ScalableTag<Argb> d;
+    const hn::CappedTag<Argb, 1> one;
+    // Some vectors at a time: a total can't be read as part of a vector right after it was written.
+    constexpr std::size_t kMost = 64;
+    HWY_ALIGN float totals[4 * kMost];
+    while (!taps.empty()) {
+        const std::size_t count = std::min(taps.size(), kMost);
+        for (std::size_t x = 0; x < count; ++x)
+            AddUpTaps(sums + 4 * static_cast<std::size_t>(taps[x].First - firstColumn),
+                      weights + taps[x].Weights, taps[x].Count, totals + 4 * x);
+        std::size_t x = 0;
+        for (; x + hn::Lanes(d) <= count; x += hn::Lanes(d))
+            StoreStraight(d, totals + 4 * x, pixels + x);
+        for (; x < count; ++x)
+            StoreStraight(one, totals + 4 * x, pixels + x);
+        taps = taps.subspan(count);
+        pixels += count;
     }
 }
 
