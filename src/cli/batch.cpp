@@ -15,8 +15,14 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// So many more threads than compute at a time: files are on the disk before they are done.
+// So many more threads than cores: files are on the disk before a job is done.
 constexpr std::size_t kWaitingForDisk = 6;
+
+// So many jobs compute at a time.
+std::size_t PlaceCount(const Batch& batch) {
+    return batch.Jobs ? static_cast<std::size_t>(*batch.Jobs)
+                      : std::max<std::size_t>(std::thread::hardware_concurrency(), 1);
+}
 
 // What a job printed and told.
 struct Result {
@@ -66,7 +72,7 @@ private:
     const std::vector<Job*> jobs_;
     const Batch& batch_;
     const BatchStreams& streams_;
-    graphics::WorkPlaces places_{static_cast<std::size_t>(batch_.Jobs)};
+    graphics::WorkPlaces places_{PlaceCount(batch_)};
 
     std::mutex mutex_;  // for all that follows and the streams
     std::vector<std::optional<Result>> results_;
@@ -140,7 +146,7 @@ void Foreman::RunAll() {
     {
         std::vector<std::jthread> helpers;
         const std::size_t count =
-            std::min(static_cast<std::size_t>(batch_.Jobs) + kWaitingForDisk, jobs_.size());
+            std::min(PlaceCount(batch_) + (batch_.Jobs ? 0 : kWaitingForDisk), jobs_.size());
         try {
             for (std::size_t i = 1; i < count; ++i)
                 helpers.emplace_back([this] { Work(); });

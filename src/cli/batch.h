@@ -1,6 +1,7 @@
 // One set of verbs for many files.
 #pragma once
 
+#include <optional>
 #include <ostream>
 #include <string>
 #include <vector>
@@ -13,7 +14,7 @@ namespace orbelle::cli {
 
 struct Batch {
     std::vector<std::string> Files;
-    int Jobs = 1;
+    std::optional<int> Jobs = 1;  // at a time; nothing: as many as keep all cores busy
     bool KeepsGoing = false;
     bool IsJson = false;
     bool InputIsTaken = false;  // by the names of the files, or the script

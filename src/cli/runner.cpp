@@ -5,7 +5,6 @@
 #include <cstring>
 #include <fstream>
 #include <iostream>
-#include <thread>
 #include <utility>
 
 #include "cli/depfile.h"
@@ -51,9 +50,8 @@ Runner::Runner(Options options, const BatchStreams& streams)
     if (!options_.Each)
         return;
     const Options::EachFile& each = *options_.Each;
-    const int cores = static_cast<int>(std::max(std::thread::hardware_concurrency(), 1U));
     batch_ = {.Files = ReadFileNames(each.Files),
-              .Jobs = each.Jobs.value_or(cores),
+              .Jobs = each.Jobs,
               .KeepsGoing = each.KeepsGoing,
               .IsJson = each.IsJson,
               .InputIsTaken =
