@@ -133,13 +133,12 @@ struct Weights {
 
 HWY_INLINE Weights WeightsOf(FloatVec alpha) {
     const auto all = hn::Set(kFloats, 255.0F);
-    const auto bias = hn::Set(kFloats, kRoundingBias);
 #if HWY_NATIVE_FMA
     // Without the bias, in one step each.
     return {hn::MulSub(all, alpha, hn::Set(kFloats, 255 * kRoundingBias)),
             hn::Sub(hn::Set(kFloats, 255 + kRoundingBias), alpha)};
 #else
-    const auto number = hn::Sub(alpha, bias);
+    const auto number = hn::Sub(alpha, hn::Set(kFloats, kRoundingBias));
     return {hn::Mul(all, number), hn::Sub(all, number)};
 #endif
 }
