@@ -10,21 +10,13 @@ namespace {
 
 using namespace graphics;
 
-// The channels of a pixel, or sums of them, in 16 bits each from the lowest on: blue, red, green,
-// alpha. So whole pixels are added and multiplied at once.
+// The colours of a pixel, or sums of them, in 16 bits each from the lowest on: blue, red, green. So
+// whole pixels are added and multiplied at once.
 using Lanes = std::uint64_t;
 constexpr int kColorLanes = 3;
 
-constexpr Lanes ToLanes(Argb color) {
-    return (color & 0x00FF00FF) | Lanes{color & 0xFF00FF00} << 24;
-}
-
 constexpr Lanes ColorLanes(Argb color) {
-    return ToLanes(color & 0x00FFFFFF);
-}
-
-constexpr Argb ToColor(Lanes lanes) {
-    return static_cast<Argb>((lanes & 0x00FF00FF) | (lanes >> 24 & 0xFF00FF00));
+    return (color & 0x00FF00FF) | Lanes{color & 0x0000FF00} << 24;
 }
 
 constexpr unsigned Lane(Lanes lanes, int index) {

@@ -19,7 +19,8 @@ namespace orbelle::graphics {
 struct BlendMasks {
     Argb LowestVisible = 1U << 24;
     Argb LowestOpaque = 255U << 24;
-    Argb Blue = 0xFF, Red = 0xFF0000, BlueGreen = 0xFFFF;
+    Argb Blue = 0xFF, Red = 0xFF0000, BlueGreen = 0xFFFF, BlueRed = 0xFF00FF;
+    std::uint32_t OneHalf = 0x800080;  // of 255 / 256, twice
 
     // A channel c lies as 256.5 + c in a float: c from the 15th bit on, below it one half. So a
     // mean, worked out there, is rounded by cutting what is below the 15th bit.
@@ -132,13 +133,12 @@ struct Weights {
 
 HWY_INLINE Weights WeightsOf(FloatVec alpha) {
     const auto all = hn::Set(kFloats, 255.0F);
-    const auto bias = hn::Set(kFloats, kRoundingBias);
 #if HWY_NATIVE_FMA
     // Without the bias, in one step each.
     return {hn::MulSub(all, alpha, hn::Set(kFloats, 255 * kRoundingBias)),
             hn::Sub(hn::Set(kFloats, 255 + kRoundingBias), alpha)};
 #else
-    const auto number = hn::Sub(alpha, bias);
+    const auto number = hn::Sub(alpha, hn::Set(kFloats, kRoundingBias));
     return {hn::Mul(all, number), hn::Sub(all, number)};
 #endif
 }
@@ -178,6 +178,33 @@ HWY_INLINE void BlendOnOpaque(Planes& below, const Planes& above) {
     below.Green = mean(below.Green, above.Green);
     below.Red = mean(below.Red, above.Red);
 }
+
+#if HWY_TARGET != HWY_SCALAR
+// A single vector on opaque ones, in 16 bits without being spread. The means are whole numbers by
+// 255.
+HWY_INLINE PixelVec BlendedOnOpaque(PixelVec below, PixelVec above, FloatVec alpha,
+                                    const BlendMasks& masks) {
+    const Pixels d;
+    const hn::Repartition<std::uint16_t, Pixels> halves;
+    using Halves = hn::Vec<decltype(halves)>;
+    const auto number = hn::And(Bits(alpha), hn::Set(d, masks.Blue));
+    const auto weight = hn::BitCast(halves, hn::Or(number, hn::ShiftLeft<16>(number)));
+    const auto oneHalf = hn::BitCast(halves, hn::Set(d, masks.OneHalf));
+    // Steps may pass the ends of 16 bits, what they end at lies between 0 and 65025.
+    const auto mean = [&](Halves under, Halves over) HWY_ATTR {
+        const auto sum =
+            hn::Add(hn::Sub(hn::ShiftLeft<8>(under), under), hn::Mul(weight, hn::Sub(over, under)));
+        const auto up = hn::Add(sum, oneHalf);
+        return hn::Add(up, hn::ShiftRight<8>(up));  // the mean is in the upper byte
+    };
+    const auto under = hn::BitCast(halves, below);
+    const auto over = hn::BitCast(halves, above);
+    const auto low = hn::BitCast(halves, hn::Set(d, masks.BlueRed));
+    const auto blueAndRed = hn::ShiftRight<8>(mean(hn::And(under, low), hn::And(over, low)));
+    const auto green = hn::AndNot(low, mean(hn::ShiftRight<8>(under), hn::ShiftRight<8>(over)));
+    return hn::Or(hn::BitCast(d, hn::Or(blueAndRed, green)), hn::Set(d, masks.LowestOpaque));
+}
+#endif
 
 // The alphas taken through the factor, as AlphaFactor::Apply does.
 HWY_INLINE FloatVec ScaledAlpha(PixelVec pixels, const AlphaFactor& factor,
@@ -254,12 +281,19 @@ HWY_INLINE void BlendLayersAt(Argb* destination, std::span<const LayerRow> layer
             return;
         }
     }
-    Planes below = Spread(pixels, Alpha(pixels, masks), masks);
+    const auto alpha = [&]() HWY_ATTR {
+        return layer->Factor ? ScaledAlpha(source, *layer->Factor, masks) : Alpha(source, masks);
+    };
     const bool isOpaque = run.IsOpaqueAt(i, pixels, masks);
+#if HWY_TARGET != HWY_SCALAR
+    if (isOpaque && layer + 1 == layers.end()) {
+        hn::StoreU(BlendedOnOpaque(pixels, source, alpha(), masks), d, destination + i);
+        return;
+    }
+#endif
+    Planes below = Spread(pixels, Alpha(pixels, masks), masks);
     for (;;) {
-        const auto alpha =
-            layer->Factor ? ScaledAlpha(source, *layer->Factor, masks) : Alpha(source, masks);
-        const Planes above = Spread(source, alpha, masks);
+        const Planes above = Spread(source, alpha(), masks);
         if (isOpaque)
             BlendOnOpaque(below, above);
         else
@@ -293,16 +327,20 @@ void BlendLayersVectors(Argb* destination, std::span<const LayerRow> layers, std
 void BlendColorVectors(Argb* destination, Argb color, std::size_t count, const BlendMasks& masks) {
     const Pixels d;
     const auto colors = hn::Set(d, color);
-    const Planes above = Spread(colors, Alpha(colors, masks), masks);
+    const auto alpha = Alpha(colors, masks);
+    const Planes above = Spread(colors, alpha, masks);
     const std::size_t step = hn::Lanes(d);
     std::size_t i = 0;
     for (; i + step <= count; i += step) {
         const auto pixels = hn::LoadU(d, destination + i);
+#if HWY_TARGET != HWY_SCALAR
+        if (IsOpaque(pixels, masks)) {
+            hn::StoreU(BlendedOnOpaque(pixels, colors, alpha, masks), d, destination + i);
+            continue;
+        }
+#endif
         Planes below = Spread(pixels, Alpha(pixels, masks), masks);
-        if (IsOpaque(pixels, masks))
-            BlendOnOpaque(below, above);
-        else
-            Blend(below, above, masks);
+        Blend(below, above, masks);
         hn::StoreU(Joined(below, masks), d, destination + i);
     }
     for (; i < count; ++i)
