@@ -19,7 +19,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// So many more threads than compute at a time: files are on the disk before they are done.
+// So many files more than compute at a time are begun: a file is done when it is on the disk.
 constexpr std::size_t kWaitingForDisk = 6;
 
 // One file's part.
@@ -187,7 +187,8 @@ private:
     const std::vector<Job>& jobs_;
     const Batch& batch_;
     const BatchStreams& streams_;
-    graphics::WorkPlaces places_{static_cast<std::size_t>(batch_.Jobs)};
+    // One more than threads are to compute: systems are slow to give a core that waits another one.
+    graphics::WorkPlaces places_{static_cast<std::size_t>(batch_.Jobs) + (batch_.Jobs > 1 ? 1 : 0)};
 
     std::mutex mutex_;  // for all that follows and the streams
     std::vector<std::optional<Result>> results_;
@@ -258,8 +259,9 @@ void Foreman::Work() {
 bool Foreman::RunAll() {
     {
         std::vector<std::jthread> helpers;
-        const std::size_t count =
-            std::min(static_cast<std::size_t>(batch_.Jobs) + kWaitingForDisk, jobs_.size());
+        // A single job is over before the next file is begun, which depends on how it went.
+        const auto jobs = static_cast<std::size_t>(batch_.Jobs);
+        const std::size_t count = std::min(jobs > 1 ? jobs + kWaitingForDisk : jobs, jobs_.size());
         try {
             for (std::size_t i = 1; i < count; ++i)
                 helpers.emplace_back([this] { Work(); });
