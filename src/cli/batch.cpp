@@ -15,13 +15,14 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// So many more threads than cores: files are on the disk before a job is done.
+// So many jobs more than compute at a time are begun: a job is done when its files are on the disk.
 constexpr std::size_t kWaitingForDisk = 6;
 
-// So many jobs compute at a time.
+// So many jobs compute at a time. One more than there are cores: systems are slow to give a core
+// that waits another one.
 std::size_t PlaceCount(const Batch& batch) {
     return batch.Jobs ? static_cast<std::size_t>(*batch.Jobs)
-                      : std::max<std::size_t>(std::thread::hardware_concurrency(), 1);
+                      : std::size_t{std::max(std::thread::hardware_concurrency(), 1U)} + 1;
 }
 
 // What a job printed and told.
