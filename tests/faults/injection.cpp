@@ -287,4 +287,11 @@ int fclose(std::FILE* file) {
     return FileOperationFails() ? EOF : result;
 }
 
+// What the leak sanitizer is to pass over: AGG forgets its first list of blocks (2 KiB) when there
+// is no memory for the first block.
+const char* __lsan_default_suppressions();
+const char* __lsan_default_suppressions() {
+    return "leak:agg::rasterizer_cells_aa<agg::cell_aa>::allocate_block";
+}
+
 }  // extern "C"
