@@ -28,12 +28,15 @@ HWY_INLINE void AddUpRowsOf(D d, const Argb* pixels, std::size_t stride,
     auto green = blue, red = blue, alpha = blue;
     for (const float weight : weights) {
         const auto row = hn::LoadU(d, pixels);
-        const auto share = hn::Mul(toFloats(hn::ShiftRight<24>(row)), hn::Set(floats, weight));
+        pixels += stride;
+        const auto alphas = hn::ShiftRight<24>(row);
+        if (hn::AllTrue(d, hn::Eq(alphas, hn::Zero(d))))
+            continue;  // of icons a third is empty
+        const auto share = hn::Mul(toFloats(alphas), hn::Set(floats, weight));
         blue = hn::Add(blue, hn::Mul(share, toFloats(hn::And(row, low))));
         green = hn::Add(green, hn::Mul(share, toFloats(hn::And(hn::ShiftRight<8>(row), low))));
         red = hn::Add(red, hn::Mul(share, toFloats(hn::And(hn::ShiftRight<16>(row), low))));
         alpha = hn::Add(alpha, share);
-        pixels += stride;
     }
     hn::StoreInterleaved4(blue, green, red, alpha, floats, sums);
 }
