@@ -24,7 +24,7 @@ TEST_F(BeginnersPathTest, GoesFromTheFirstStartToAnExportedIcon) {
     Settings().clear();
     StartProgram({});
     ASSERT_TRUE(FocusEmptyMain());
-    Do({"getwindowfocus", "windowmove", "20", "20"});
+    ASSERT_TRUE(MoveToTwin());
 
     Press({"ctrl+n"});
     ASSERT_TRUE(FocusWindow("^New Icon"));
@@ -76,7 +76,7 @@ TEST_F(BeginnersPathTest, GoesFromTheFirstStartToAnExportedIcon) {
 
     StartProgram({Path("first.volf")});
     ASSERT_TRUE(FocusWindow("^first.volf - Varnel Orbelle$"));
-    Do({"getwindowfocus", "windowmove", "20", "20"});
+    ASSERT_TRUE(MoveToTwin());
     ASSERT_TRUE(WaitUntil([&] { return Count(kRed) == kRedPixels; }));
     const QImage exported = Export();
     ASSERT_EQ(exported.size(), QSize(kNewSide, kNewSide));

@@ -210,6 +210,18 @@ protected:
     }
     bool FocusMain() { return FocusWindow("^Varnel Orbelle - Project|. - Varnel Orbelle$"); }
 
+    // Puts the window that has the keyboard where the twin is.
+    bool MoveToTwin() {
+        const QString x = QString::number(kWindowPlace.x()), y = QString::number(kWindowPlace.y());
+        const QString window = Xdotool({"getwindowfocus", "-f"});
+        const bool isThere = testing::WaitUntil([&] {
+            Xdotool({"windowmove", window, x, y});
+            return Xdotool({"getwindowgeometry", window}).contains("Position: " + x + "," + y);
+        });
+        WaitUntilIdle();
+        return isThere;
+    }
+
     void Do(const QStringList& input) {
         Xdotool(input);
         WaitUntilIdle();
@@ -308,12 +320,21 @@ protected:
     // Where the page's corner is once the program shows an empty page of that size at 100 %.
     QPoint PlaceOfNewPage(int side) {
         twin_->Run([side](editing::Editor& editor) { NewDocument(editor, side, side); });
-        testing::WaitUntil([&] { return twin_->IsAtRest(); });
-        twin_->Run(editing::OriginalSize);
-        const document::View& view = twin_->Editor().View;
-        const document::Page& shown = twin_->Editor().Page();
-        return SceneRect().topLeft() +
-               QPoint(document::PageOffsetX(shown, view), document::PageOffsetY(shown, view));
+        // Until the bars have found their places: what is queued twice moves nothing any more.
+        QPoint place, before;
+        int same = 0;
+        testing::WaitUntil([&] {
+            QApplication::processEvents();
+            twin_->Run(editing::OriginalSize);
+            const document::View& view = twin_->Editor().View;
+            const document::Page& shown = twin_->Editor().Page();
+            before = std::exchange(
+                place, SceneRect().topLeft() + QPoint(document::PageOffsetX(shown, view),
+                                                      document::PageOffsetY(shown, view)));
+            same = twin_->IsAtRest() && place == before ? same + 1 : 0;
+            return same == 3;
+        });
+        return place;
     }
     QImage Shown(const QRect& area) const { return display_->Picture().copy(area); }
     QRgb At(QPoint place) const { return display_->Picture().pixel(place); }
