@@ -35,6 +35,9 @@ std::vector<std::string> ReadFileNames(const std::vector<std::string>& words) {
             continue;
         }
         for (std::string line; std::getline(std::cin, line);) {
+#ifdef _WIN32
+            line.resize(line.find_last_not_of('\r') + 1);  // lines end with it there
+#endif
             if (!line.empty())
                 names.push_back(line);
         }

@@ -86,6 +86,7 @@ void StagedFiles::PutInPlace(File& file) {
     if (fs::is_directory(file.Target))
         throw std::system_error(std::make_error_code(std::errc::is_a_directory));
     if (fs::exists(file.Target)) {
+        detail::RequireReplaceable(file.Target);
         file.Old = detail::TemporaryNameIn(FolderOf(file.Target));
         std::error_code hasNoLinks;
         fs::create_hard_link(file.Target, file.Old, hasNoLinks);

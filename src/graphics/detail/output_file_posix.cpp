@@ -207,6 +207,8 @@ bool IsStream(const fs::path& path) {
     return fs::exists(status) && !fs::is_regular_file(status);
 }
 
+void RequireReplaceable(const fs::path&) {}
+
 void TakeName(const fs::path& file, const fs::path& name) {
     fs::rename(file, name);
 }

@@ -133,7 +133,16 @@ void OutputFile::Close() {
     Require(CloseHandle(HandleOf(std::exchange(descriptor_, kClosed))));
 }
 
-void OutputFile::TakeAttributesOf(const OutputFile&) {}  // TakeName does
+void OutputFile::TakeAttributesOf(const OutputFile& other) {
+    // TakeName brings the others along.
+    constexpr DWORD kTaken = FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM;
+    FILE_BASIC_INFO info{}, own{};
+    if (!GetFileInformationByHandleEx(HandleOf(other.descriptor_), FileBasicInfo, &info,
+                                      sizeof info))
+        return;
+    own.FileAttributes = FILE_ATTRIBUTE_ARCHIVE | (info.FileAttributes & kTaken);
+    SetFileInformationByHandle(HandleOf(descriptor_), FileBasicInfo, &own, sizeof own);
+}
 
 bool OutputFile::LinkTo(const fs::path&) {
     return false;
@@ -148,8 +157,16 @@ bool IsStream(const fs::path& path) {
     return isDevice || fs::is_directory(path);
 }
 
+void RequireReplaceable(const fs::path& path) {
+    const WindowsHandle file(
+        CreateFileW(path.c_str(), DELETE, kSharedByAll, nullptr, OPEN_EXISTING, 0, nullptr));
+    if (const DWORD error = GetLastError(); !file.IsOpen() && error == ERROR_SHARING_VIOLATION)
+        ThrowError(error);
+}
+
 void TakeName(const fs::path& file, const fs::path& name) {
     constexpr DWORD kBestOfBoth = REPLACEFILE_IGNORE_MERGE_ERRORS | REPLACEFILE_IGNORE_ACL_ERRORS;
+    RequireReplaceable(name);
     if (ReplaceFileW(name.c_str(), file.c_str(), nullptr, kBestOfBoth, nullptr, nullptr))
         return;
     // There is none of that name, or the file system knows no such thing.
