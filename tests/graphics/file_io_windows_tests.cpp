@@ -29,6 +29,10 @@ private:
     HANDLE handle_;
 };
 
+bool IsWine() {
+    return GetProcAddress(GetModuleHandleW(L"ntdll.dll"), "wine_get_version") != nullptr;
+}
+
 class WindowsFileIo : public FileIo {
 protected:
     WindowsFileIo() { WriteFile(file_, kOld); }
@@ -38,6 +42,8 @@ protected:
 
 TEST_F(WindowsFileIo, AReadOnlyFileIsNotReplaced) {
     SetFileAttributesW(file_.c_str(), FILE_ATTRIBUTE_READONLY);
+    if (IsWine() && std::ofstream(file_, std::ios::app))
+        GTEST_SKIP() << "a system below that lets this user write to every file";
     EXPECT_THAT([&] { WriteFile(file_, kNew); },
                 ThrowsMessage<FileError>(Utf8Of(file_) + ": Permission denied"));
     EXPECT_EQ(ReadFile(file_), kOld);
@@ -75,6 +81,8 @@ TEST_F(WindowsFileIo, WhatOthersShareIsWritten) {
 }
 
 TEST_F(WindowsFileIo, AReplacedFileKeepsItsAttributes) {
+    if (IsWine())
+        GTEST_SKIP() << "it keeps none";
     SetFileAttributesW(file_.c_str(), FILE_ATTRIBUTE_HIDDEN);
     WriteFile(file_, kNew);
     EXPECT_EQ(ReadFile(file_), kNew);
