@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
-# install-dependencies.sh programs|tests|ci: installs the packages of Debian 12 that are missing to
-# build the programs, to build and run the tests too, or for all that .ci/run does.
+# install-dependencies.sh programs|tests|ci|windows: installs the packages of Debian 12 that are
+# missing to build the programs, to build and run the tests too, for all that .ci/run does, or to
+# build the programs for Windows and test them.
 set -euo pipefail
 
 packages=(
@@ -13,8 +14,10 @@ case ${1:-} in
     programs) ;;
     tests | ci) packages+=(libgtest-dev libgmock-dev libbenchmark-dev xvfb xdotool icnsutils icoutils python3
                         at-spi2-core dbus gir1.2-atspi-2.0 python3-gi qt6-translations-l10n) ;;
+    windows) packages+=(g++-mingw-w64-x86-64-posix libz-mingw-w64-dev nasm make dpkg-dev googletest cmark-gfm
+                        qt6-translations-l10n wine wine64 unzip python3) ;;
     *)
-        echo "usage: install-dependencies.sh programs|tests|ci" >&2
+        echo "usage: install-dependencies.sh programs|tests|ci|windows" >&2
         exit 2
         ;;
 esac

@@ -691,6 +691,18 @@
         <source>unknown header</source>
         <translation>unbekannter Kopf</translation>
     </message>
+    <message>
+        <source>another program keeps the file open</source>
+        <translation>ein anderes Programm hält die Datei offen</translation>
+    </message>
+    <message>
+        <source>SVG drawings can&apos;t be read on Windows</source>
+        <translation>SVG-Zeichnungen können unter Windows nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>error %1 of the system</source>
+        <translation>Fehler %1 des Systems</translation>
+    </message>
 </context>
 <context>
     <name>Words</name>

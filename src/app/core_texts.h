@@ -147,6 +147,8 @@ inline constexpr CoreText kCoreTexts[] = {
     {QT_TRANSLATE_NOOP("Core", "not a regular file")},
     {QT_TRANSLATE_NOOP("Core", "the GIF file holds no picture")},
     {QT_TRANSLATE_NOOP("Core", "the BMP picture is of a kind that is not supported")},
+    {QT_TRANSLATE_NOOP("Core", "another program keeps the file open")},
+    {QT_TRANSLATE_NOOP("Core", "SVG drawings can't be read on Windows")},
     {QT_TRANSLATE_NOOP("Core", "the SVG drawing takes too long")},
     {QT_TRANSLATE_NOOP("Core", "the SVG drawing takes too much memory, or is damaged")},
     {QT_TRANSLATE_NOOP("Core", "the artwork of a size keeps its size")},
@@ -199,6 +201,7 @@ inline constexpr CoreText kCoreTexts[] = {
     {QT_TRANSLATE_NOOP(
         "Core", "the JPEG picture is too large: %1 MiB to put its scans together, more than %2")},
     {QT_TRANSLATE_NOOP("Core", "the %1 picture is cut short or damaged: %2"), "12"},
+    {QT_TRANSLATE_NOOP("Core", "error %1 of the system")},
     {QT_TRANSLATE_NOOP("Core", "the GIF picture can't be written: %1"), "1"},
     {QT_TRANSLATE_NOOP("Core", "the SVG drawing can't be read: %1: %2"), "12"},
     {QT_TRANSLATE_NOOP("Core", "%1, and a copy for writing in place can't be made: %2"), "12"},

@@ -19,7 +19,10 @@ Language::Language(const QLocale& wanted) {
             return;
         if (!ours_.load("orbelle_" + language, ":/translations"))
             continue;
-        if (toolkit_.load("qtbase_" + language, QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+        // A static toolkit brings no files along.
+        const QString toolkit = "qtbase_" + language;
+        if (toolkit_.load(toolkit, QLibraryInfo::path(QLibraryInfo::TranslationsPath)) ||
+            toolkit_.load(toolkit, ":/translations"))
             QCoreApplication::installTranslator(&toolkit_);
         QCoreApplication::installTranslator(&ours_);
         return;

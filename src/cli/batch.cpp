@@ -8,6 +8,7 @@
 #include <thread>
 #include <utility>
 
+#include "graphics/path_text.h"
 #include "graphics/work_places.h"
 
 namespace orbelle::cli {
@@ -46,7 +47,8 @@ std::string DescribeResult(const Job& job, const std::string& output) {
         json["error"] = job.Error;
     json["written"] = Json::array();
     for (const WrittenFile& written : job.Written)
-        json["written"].push_back({{"path", written.Path.string()}, {"bytes", written.Stamp.Size}});
+        json["written"].push_back(
+            {{"path", graphics::Utf8Of(written.Path)}, {"bytes", written.Stamp.Size}});
     json["output"] = Json::array();
     std::istringstream lines(output);
     for (std::string line; std::getline(lines, line);)
@@ -165,12 +167,12 @@ void Foreman::RunAll() {
 }  // namespace
 
 std::vector<std::string> FillIn(const std::vector<std::string>& words, const std::string& file) {
-    const fs::path path(file);
-    const std::string folder = path.parent_path().string();
+    const fs::path path = graphics::PathOfUtf8(file);
+    const std::string folder = graphics::Utf8Of(path.parent_path());
     const std::pair<std::string_view, std::string> values[] = {
         {"{}", PlainPath(file)},
-        {"{name}", path.filename().string()},
-        {"{stem}", path.stem().string()},
+        {"{name}", graphics::Utf8Of(path.filename())},
+        {"{stem}", graphics::Utf8Of(path.stem())},
         {"{dir}", folder.empty() ? "." : folder}};
     std::vector<std::string> filled;
     for (const std::string& word : words) {

@@ -3,6 +3,7 @@
 #include <set>
 
 #include "cli/usage_error.h"
+#include "graphics/path_text.h"
 
 namespace orbelle::cli {
 
@@ -11,7 +12,7 @@ namespace fs = std::filesystem;
 std::string FileKey(const fs::path& path) {
     std::error_code error;
     const fs::path key = fs::weakly_canonical(fs::absolute(path), error);
-    return (error ? fs::absolute(path).lexically_normal() : key).string();
+    return graphics::Utf8Of(error ? fs::absolute(path).lexically_normal() : key);
 }
 
 void Claims::Claim(const std::string& who, const std::string& key, const std::string& what) {
@@ -35,7 +36,7 @@ void Claims::Add(const std::string& who, const Plan& plan) {
 }
 
 void Claims::AddOutput(const std::string& who, const fs::path& path) {
-    Claim(who, FileKey(path), "write " + path.string());
+    Claim(who, FileKey(path), "write " + graphics::Utf8Of(path));
 }
 
 void Claims::AddInput(const std::string& who, const fs::path& path) {
@@ -46,8 +47,8 @@ void Claims::CheckInputs() const {
     for (const auto& [who, path] : inputs_) {
         const auto writer = writers_.find(FileKey(path));
         if (writer != writers_.end() && writer->second != who)
-            throw UsageError(who + " would read " + path.string() + ", which " + writer->second +
-                             " writes");
+            throw UsageError(who + " would read " + graphics::Utf8Of(path) + ", which " +
+                             writer->second + " writes");
     }
 }
 

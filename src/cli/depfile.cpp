@@ -4,6 +4,7 @@
 #include <set>
 
 #include "cli/claims.h"
+#include "graphics/path_text.h"
 
 namespace orbelle::cli {
 namespace {
@@ -42,9 +43,9 @@ std::string DescribeInputs(const Job& job, const std::string& script) {
     std::vector<std::string> names;
     for (const fs::path& path : job.Plan.Reads) {
         if (!own.contains(FileKey(path)))
-            names.push_back(NameForDepfile(path.string(), false));
+            names.push_back(NameForDepfile(graphics::Utf8Of(path), false));
     }
-    if (!script.empty() && !own.contains(FileKey(script)))
+    if (!script.empty() && !own.contains(FileKey(graphics::PathOfUtf8(script))))
         names.push_back(NameForDepfile(script, false));
     std::string inputs;
     std::set<std::string> known;
@@ -80,7 +81,7 @@ std::string DescribeOutputs(std::span<const Job> jobs, const std::string& script
     for (const Job& job : jobs) {
         const std::string inputs = DescribeInputs(job, script);
         for (const WrittenFile& file : job.Written)
-            lines += NameForDepfile(file.Path.string(), true) + ':' + inputs + '\n';
+            lines += NameForDepfile(graphics::Utf8Of(file.Path), true) + ':' + inputs + '\n';
     }
     return lines;
 }
@@ -90,9 +91,9 @@ void CheckOutputNames(std::span<const Job> jobs, const std::string& script) {
         if (job.Plan.Writes.empty())
             throw UsageError("--depfile: no verb writes a file");
         for (const fs::path& path : job.Plan.Writes)
-            NameForDepfile(path.string(), true);
+            NameForDepfile(graphics::Utf8Of(path), true);
         for (const fs::path& path : job.Plan.Reads)
-            NameForDepfile(path.string(), false);
+            NameForDepfile(graphics::Utf8Of(path), false);
     }
     if (!script.empty())
         NameForDepfile(script, false);

@@ -7,6 +7,7 @@
 #include "formats/diff_sheet.h"
 #include "formats/pictures_of_file.h"
 #include "graphics/file_io.h"
+#include "graphics/path_text.h"
 
 namespace orbelle::cli {
 namespace {
@@ -51,7 +52,7 @@ bool IsSheetNext(const Words& words) {
 FileName ReadSheet(Words& words) {
     static constexpr std::string_view kFormats[] = {"png"};
     FileName name = words.Output("SHEET", kFormats);
-    std::string extension = name.Path.extension().string();
+    std::string extension = graphics::Utf8Of(name.Path.extension());
     std::ranges::transform(extension, extension.begin(),
                            [](unsigned char c) { return std::tolower(c); });
     if (name.Format.empty() && extension != ".png")

@@ -5,6 +5,8 @@
 #include <cstdio>
 #include <nlohmann/json.hpp>
 
+#include "graphics/path_text.h"
+
 namespace orbelle::cli {
 namespace {
 
@@ -64,7 +66,7 @@ std::string DescribeDocument(const editing::Editor& editor) {
                         {{"width", page.Width},
                          {"height", page.Height},
                          {"background", Color(document.Background)}}},
-                       {"path", document.Path.string()},
+                       {"path", graphics::Utf8Of(document.Path)},
                        {"modified", document.Modified},
                        {"selected", page.SelectedLayer},
                        {"undo", editor.History.UndoIndex()},

@@ -8,6 +8,7 @@
 #include "editing/export_commands.h"
 #include "formats/export_icon.h"
 #include "formats/icon_file.h"
+#include "graphics/path_text.h"
 
 namespace orbelle::cli {
 namespace {
@@ -44,7 +45,7 @@ Action ReadExport(Words& words) {
                                                     "gif", "jpg", "bmp"};
     const FileName name = words.Output("PATH", kFormats);
     const auto format = formats::FindExportFormat(
-        name.Format.empty() ? name.Path : fs::path("picture." + name.Format));
+        name.Format.empty() ? name.Path : graphics::PathOfUtf8("picture." + name.Format));
     if (!format && name.IsStandard())
         throw UsageError("the format is missing, as in png:-");
     if (!format)
@@ -119,7 +120,7 @@ void NoteSetFiles(Workspace& workspace, const fs::path& folder,
     const std::string name = editing::FileNameOf(workspace.Editor.Document);
     for (const formats::IconSet set : sets) {
         for (const formats::SetFile& file : formats::FilesOfSet(set, name, 0))
-            workspace.NoteWritten(folder / file.Path);
+            workspace.NoteWritten(folder / graphics::PathOfUtf8(file.Path));
     }
 }
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "cli/usage_error.h"
+#include "graphics/path_text.h"
 
 namespace orbelle::cli {
 
@@ -18,7 +19,7 @@ FileName ParseFileName(const std::string& word, const char* name) {
     if (path.empty())
         throw UsageError(std::string(name) + " must be the name of a file");
     if (path != "-")
-        file.Path = path;
+        file.Path = graphics::PathOfUtf8(path);
     return file;
 }
 

@@ -3,16 +3,14 @@
 
 #include <chrono>
 #include <filesystem>
-#include <map>
+#include <memory>
 #include <optional>
-#include <set>
 #include <span>
-#include <string>
 
 namespace orbelle::cli {
 
 // Sees what is written to files, put in their place, comes and goes, also where folders and links
-// on the way do. Where the system can't see that, it looks once a second.
+// on the way do. Where the system can't see that, it looks at least once a second.
 class FileWatch {
 public:
     FileWatch();
@@ -28,14 +26,9 @@ public:
     bool Wait(std::optional<std::chrono::milliseconds> limit = {});
 
 private:
-    void WatchOnTheWay(const std::filesystem::path& file);
-    void WatchName(const std::filesystem::path& folder, const std::string& name, bool isFile);
-    bool TakeEvents();
+    class Eyes;  // what the system has for that
 
-    int descriptor_;
-    std::map<int, std::set<std::string>> names_;  // of interest, by the watch of their folder
-    std::set<std::string> folders_;               // on the way that are no links
-    bool isBlind_ = false;                        // somewhere
+    std::unique_ptr<Eyes> eyes_;
 };
 
 }  // namespace orbelle::cli

@@ -5,6 +5,9 @@
 #include <algorithm>
 #include <cerrno>
 #include <deque>
+#include <map>
+#include <set>
+#include <string>
 #include <utility>
 
 #include "cli/file_watch.h"
@@ -29,14 +32,31 @@ constexpr std::uint32_t kFileEvents = kNameEvents | IN_MODIFY | IN_CLOSE_WRITE |
 
 }  // namespace
 
-FileWatch::FileWatch() : descriptor_(inotify_init1(IN_CLOEXEC | IN_NONBLOCK)) {}
+class FileWatch::Eyes {
+public:
+    Eyes() : descriptor_(inotify_init1(IN_CLOEXEC | IN_NONBLOCK)) {}
+    ~Eyes() {
+        if (descriptor_ >= 0)
+            close(descriptor_);
+    }
+    Eyes(const Eyes&) = delete;
+    Eyes& operator=(const Eyes&) = delete;
 
-FileWatch::~FileWatch() {
-    if (descriptor_ >= 0)
-        close(descriptor_);
-}
+    void Watch(std::span<const fs::path> files);
+    bool Wait(std::optional<milliseconds> limit);
 
-void FileWatch::Watch(std::span<const fs::path> files) {
+private:
+    void WatchOnTheWay(const fs::path& file);
+    void WatchName(const fs::path& folder, const std::string& name, bool isFile);
+    bool TakeEvents();
+
+    int descriptor_;
+    std::map<int, std::set<std::string>> names_;  // of interest, by the watch of their folder
+    std::set<std::string> folders_;               // on the way that are no links
+    bool isBlind_ = false;                        // somewhere
+};
+
+void FileWatch::Eyes::Watch(std::span<const fs::path> files) {
     const auto before = std::exchange(names_, {});
     folders_.clear();
     isBlind_ = descriptor_ < 0;
@@ -49,7 +69,7 @@ void FileWatch::Watch(std::span<const fs::path> files) {
 }
 
 // Each folder is watched before what is in it is looked at, so that nothing happens unseen.
-void FileWatch::WatchOnTheWay(const fs::path& file) {
+void FileWatch::Eyes::WatchOnTheWay(const fs::path& file) {
     fs::path folder = file.is_absolute() ? file.root_path() : ".";
     const fs::path relative = file.relative_path();
     std::deque<fs::path> rest(relative.begin(), relative.end());
@@ -76,7 +96,7 @@ void FileWatch::WatchOnTheWay(const fs::path& file) {
     }
 }
 
-void FileWatch::WatchName(const fs::path& folder, const std::string& name, bool isFile) {
+void FileWatch::Eyes::WatchName(const fs::path& folder, const std::string& name, bool isFile) {
     const std::uint32_t events = isFile ? kFileEvents : kNameEvents;
     const int watch =
         inotify_add_watch(descriptor_, folder.c_str(), events | IN_ONLYDIR | IN_MASK_ADD);
@@ -87,7 +107,7 @@ void FileWatch::WatchName(const fs::path& folder, const std::string& name, bool 
 }
 
 // True when one is about the names of interest.
-bool FileWatch::TakeEvents() {
+bool FileWatch::Eyes::TakeEvents() {
     alignas(inotify_event) char buffer[1 << 14];
     bool isAny = false;
     for (ssize_t size = 0; (size = read(descriptor_, buffer, sizeof buffer)) > 0;) {
@@ -104,7 +124,7 @@ bool FileWatch::TakeEvents() {
     return isAny;
 }
 
-bool FileWatch::Wait(std::optional<milliseconds> limit) {
+bool FileWatch::Eyes::Wait(std::optional<milliseconds> limit) {
     using Clock = std::chrono::steady_clock;
     const bool hasEnd = limit || isBlind_;
     const Clock::time_point end = Clock::now() + limit.value_or(kBlindLook);
@@ -117,6 +137,18 @@ bool FileWatch::Wait(std::optional<milliseconds> limit) {
         if (hasEnd && Clock::now() >= end)
             return !limit;
     }
+}
+
+FileWatch::FileWatch() : eyes_(std::make_unique<Eyes>()) {}
+
+FileWatch::~FileWatch() = default;
+
+void FileWatch::Watch(std::span<const fs::path> files) {
+    eyes_->Watch(files);
+}
+
+bool FileWatch::Wait(std::optional<milliseconds> limit) {
+    return eyes_->Wait(limit);
 }
 
 }  // namespace orbelle::cli

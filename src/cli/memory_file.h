@@ -1,10 +1,13 @@
-// A file that is in memory alone, for what comes and goes by pipes.
+// A file of this run alone, for what comes and goes by pipes.
 #pragma once
 
 #include <filesystem>
+#include <memory>
+#include <string_view>
 
 namespace orbelle::cli {
 
+// In memory where the system has such files, else among the temporary ones.
 class MemoryFile {
 public:
     // Empty. Throws Failure when the system has none to give.
@@ -17,11 +20,13 @@ public:
     const std::filesystem::path& Path() const { return path_; }
 
 private:
-    int descriptor_;
+    struct Keeper;
+
     std::filesystem::path path_;
+    std::unique_ptr<Keeper> keeper_;
 };
 
-// What begins such a path.
-inline constexpr char kMemoryFiles[] = "/dev/fd/";
+// Whether a message begins with such a path.
+bool IsOfMemoryFile(std::string_view message);
 
 }  // namespace orbelle::cli

@@ -9,15 +9,31 @@
 #include "cli/workspace.h"
 
 namespace orbelle::cli {
+namespace {
 
-MemoryFile::MemoryFile() : descriptor_(memfd_create("orbelle-cli", MFD_CLOEXEC)) {
-    if (descriptor_ < 0)
+constexpr char kFront[] = "/dev/fd/";
+
+}  // namespace
+
+struct MemoryFile::Keeper {
+    int Descriptor = memfd_create("orbelle-cli", MFD_CLOEXEC);
+
+    ~Keeper() {
+        if (Descriptor >= 0)
+            close(Descriptor);
+    }
+};
+
+MemoryFile::MemoryFile() : keeper_(std::make_unique<Keeper>()) {
+    if (keeper_->Descriptor < 0)
         throw Failure(std::generic_category().message(errno));
-    path_ = kMemoryFiles + std::to_string(descriptor_);
+    path_ = kFront + std::to_string(keeper_->Descriptor);
 }
 
-MemoryFile::~MemoryFile() {
-    close(descriptor_);
+MemoryFile::~MemoryFile() = default;
+
+bool IsOfMemoryFile(std::string_view message) {
+    return message.starts_with(kFront);
 }
 
 }  // namespace orbelle::cli

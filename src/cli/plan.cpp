@@ -1,6 +1,7 @@
 #include "cli/plan.h"
 
 #include "editing/export_commands.h"
+#include "graphics/path_text.h"
 
 namespace orbelle::cli {
 namespace {
@@ -45,13 +46,13 @@ void Planner::AddSets(const FileUse& use) {
     const std::string name = editing::FileNameOf(document_);
     for (const formats::IconSet set : use.Sets) {
         for (const formats::SetFile& file : formats::FilesOfSet(set, name, 0))
-            Plan.Writes.push_back(use.File.Path / file.Path);
+            Plan.Writes.push_back(use.File.Path / graphics::PathOfUtf8(file.Path));
     }
 }
 
 // As the editor names its document.
 void Planner::Name(const FileUse& use) {
-    const bool isDocument = use.File.Path.extension() == ".volf";
+    const bool isDocument = use.File.Path.extension() == u8".volf";
     if (use.Role == FileRole::Saved && !use.File.IsStandard()) {
         document_.Path = use.File.Path;
     } else if (use.Role == FileRole::Opened ||

@@ -11,6 +11,7 @@
 #include "editing/recovery.h"
 #include "formats/journal_file.h"
 #include "formats/volf_store.h"
+#include "graphics/path_text.h"
 #include "graphics/state_folder.h"
 
 namespace orbelle::cli {
@@ -21,7 +22,12 @@ std::string TimeText(std::int64_t milliseconds) {
     const std::time_t seconds = milliseconds / 1000;
     std::tm utc{};
     char text[64] = "";
-    if (gmtime_r(&seconds, &utc))
+#ifdef _WIN32
+    const bool isKnown = gmtime_s(&utc, &seconds) == 0;
+#else
+    const bool isKnown = gmtime_r(&seconds, &utc) != nullptr;
+#endif
+    if (isKnown)
         std::strftime(text, sizeof text, "%Y-%m-%dT%H:%M:%SZ", &utc);
     return text;
 }
@@ -31,7 +37,7 @@ void List(const std::vector<formats::FoundJournal>& journals, std::ostream& outp
     for (std::size_t i = 0; i < journals.size(); ++i) {
         const document::Document& document = journals[i].Entry().Document;
         const Json json = {{"number", i},
-                           {"path", document.Path.string()},
+                           {"path", graphics::Utf8Of(document.Path)},
                            {"time", TimeText(journals[i].Entry().Time)},
                            {"layers", document.Master.LayerCount()},
                            {"page", Json::array({document.Master.Width, document.Master.Height})}};
@@ -44,7 +50,7 @@ void ListCopies(std::ostream& output) {
     std::error_code error;
     for (const auto& copy :
          std::filesystem::directory_iterator(graphics::SaveCopiesFolder(), error)) {
-        const nlohmann::ordered_json json = {{"copy", copy.path().string()},
+        const nlohmann::ordered_json json = {{"copy", graphics::Utf8Of(copy.path())},
                                              {"bytes", copy.file_size(error)}};
         output << json.dump(-1, ' ', false, nlohmann::ordered_json::error_handler_t::replace)
                << '\n';

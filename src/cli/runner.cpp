@@ -5,29 +5,33 @@
 #include <cstring>
 #include <fstream>
 #include <iostream>
+#include <iterator>
 #include <utility>
 
 #include "cli/depfile.h"
+#include "cli/wildcards.h"
 #include "graphics/file_io.h"
+#include "graphics/path_text.h"
 
 namespace orbelle::cli {
 namespace {
 
 // Throws UsageError for a script that can be read once.
 void RequireWatchable(const std::string& script) {
+    const std::filesystem::path path = graphics::PathOfUtf8(script);
     std::error_code error;
     const bool isOther =
-        std::filesystem::exists(script, error) && !std::filesystem::is_regular_file(script, error);
+        std::filesystem::exists(path, error) && !std::filesystem::is_regular_file(path, error);
     if (script == "-" || isOther)
         throw UsageError("--watch: the script " + script + " can't be read again");
 }
 
-// In the place of "-" those that standard input names.
+// In the place of "-" those that standard input names, in that of a pattern those that it is for.
 std::vector<std::string> ReadFileNames(const std::vector<std::string>& words) {
     std::vector<std::string> names;
     for (const std::string& word : words) {
         if (word != "-") {
-            names.push_back(word);
+            std::ranges::move(FilesMeantBy(word), std::back_inserter(names));
             continue;
         }
         for (std::string line; std::getline(std::cin, line);) {
@@ -67,7 +71,7 @@ std::vector<VerbLine> Runner::ReadLines() const {
         return {VerbLine{options_.Verbs}};
     if (options_.Script == "-")
         return ReadScript(std::cin, "-");
-    std::ifstream file(*options_.Script, std::ios::binary);
+    std::ifstream file(graphics::PathOfUtf8(*options_.Script), std::ios::binary);
     if (!file)
         throw UsageError(*options_.Script + ": " + std::strerror(errno));
     return ReadScript(file, *options_.Script);
@@ -85,9 +89,9 @@ void Runner::PlanDepfile(Claims& claims) const {
     if (options_.Depfile.empty())
         return;
     CheckOutputNames(Jobs, ScriptFile());
-    claims.AddOutput("--depfile", options_.Depfile);
+    claims.AddOutput("--depfile", graphics::PathOfUtf8(options_.Depfile));
     if (!ScriptFile().empty())
-        claims.AddInput("--script", ScriptFile());
+        claims.AddInput("--script", graphics::PathOfUtf8(ScriptFile()));
 }
 
 void Runner::Plan() {
@@ -113,7 +117,7 @@ void Runner::Plan() {
 bool Runner::WriteDepfile() const {
     try {
         const std::string lines = DescribeOutputs(Jobs, ScriptFile());
-        graphics::WriteFile(options_.Depfile,
+        graphics::WriteFile(graphics::PathOfUtf8(options_.Depfile),
                             {reinterpret_cast<const std::uint8_t*>(lines.data()), lines.size()});
         return true;
     } catch (const std::runtime_error& error) {

@@ -4,6 +4,8 @@
 #include <new>
 #include <utility>
 
+#include "graphics/path_text.h"
+
 namespace orbelle::cli {
 namespace {
 
@@ -18,10 +20,11 @@ std::string Describe(const Call& call, std::string problem) {
     // The core's messages begin with the path, which mostly ends the call already.
     std::string path = call.Words.back();
     for (const FileUse& use : call.Files) {
-        if (use.File.IsStandard() && problem.starts_with(kMemoryFiles))
+        if (use.File.IsStandard() && IsOfMemoryFile(problem))
             path = problem.substr(0, problem.find(": "));
-        else if (!use.File.Format.empty() && call.Words.back().ends_with(use.File.Path.string()))
-            path = use.File.Path.string();
+        else if (!use.File.Format.empty() &&
+                 call.Words.back().ends_with(graphics::Utf8Of(use.File.Path)))
+            path = graphics::Utf8Of(use.File.Path);
     }
     if (problem.starts_with(path + ": "))
         problem.erase(0, path.size() + 2);

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "cli/file_watch.h"
+#include "graphics/path_text.h"
 
 namespace orbelle::cli {
 namespace {
@@ -43,7 +44,7 @@ private:
 std::vector<fs::path> Watcher::Files() const {
     std::vector<fs::path> files;
     if (const std::string script = runner_.ScriptFile(); !script.empty())
-        files.emplace_back(script);
+        files.push_back(graphics::PathOfUtf8(script));
     for (const Job& job : runner_.Jobs)
         files.insert(files.end(), job.Plan.Reads.begin(), job.Plan.Reads.end());
     return files;
@@ -51,7 +52,7 @@ std::vector<fs::path> Watcher::Files() const {
 
 void Watcher::Plan() {
     const bool isFirst = !script_;
-    script_ = StampOf(runner_.ScriptFile());
+    script_ = StampOf(graphics::PathOfUtf8(runner_.ScriptFile()));
     try {
         runner_.Plan();
         isNew_ = true;
@@ -104,7 +105,7 @@ void Watcher::Run() {
         Stamps now;
         for (const fs::path& file : files)
             now.emplace(file, StampOf(file));
-        if (StampOf(runner_.ScriptFile()) != script_) {
+        if (StampOf(graphics::PathOfUtf8(runner_.ScriptFile())) != script_) {
             Plan();
         } else if (FindDue(now)) {
             seen_ = std::move(now);

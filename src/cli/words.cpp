@@ -6,6 +6,8 @@
 #include <sstream>
 #include <utility>
 
+#include "graphics/path_text.h"
+
 namespace orbelle::cli {
 namespace {
 
@@ -166,7 +168,7 @@ std::filesystem::path Words::Path(const char* name) {
     const std::string& word = Text(name);
     if (word.empty())
         Refuse(name, "the name of a file");
-    return word;
+    return graphics::PathOfUtf8(word);
 }
 
 std::size_t Words::Choice(const char* name, std::span<const std::string_view> choices) {

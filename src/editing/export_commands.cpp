@@ -7,6 +7,7 @@
 
 #include "formats/export_icon.h"
 #include "formats/size_pictures.h"
+#include "graphics/path_text.h"
 
 namespace orbelle::editing {
 namespace {
@@ -107,7 +108,7 @@ void ExportSets(Editor& editor, const std::filesystem::path& folder,
 
 std::string FileNameOf(const document::Document& document) {
     const std::filesystem::path& origin = document.Path.empty() ? document.Source : document.Path;
-    std::string name = origin.stem().string();
+    std::string name = graphics::Utf8Of(origin.stem());
     return name.empty() ? kUnnamed : name;
 }
 

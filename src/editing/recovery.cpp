@@ -21,7 +21,7 @@ std::int64_t Now() {
 }  // namespace
 
 std::filesystem::path JournalFolder() {
-    return graphics::StateFolder() / "journals";
+    return graphics::StateFolder() / u8"journals";
 }
 
 Recovery::Recovery(std::filesystem::path folder, std::function<void(const std::string&)> trouble)

@@ -1,5 +1,7 @@
 #include "editing/title.h"
 
+#include "graphics/path_text.h"
+
 namespace orbelle::editing {
 
 std::string TitleOf(const std::filesystem::path& path, int editedSize) {
@@ -7,7 +9,7 @@ std::string TitleOf(const std::filesystem::path& path, int editedSize) {
         editedSize == document::Family::kMaster ? "" : " - " + document::NameOfSize(editedSize);
     if (path.empty())
         return std::string(kProductName) + " - Project *" + size;
-    return path.filename().string() + size + " - " + kProductName;
+    return graphics::Utf8Of(path.filename()) + size + " - " + kProductName;
 }
 
 void ShowTitle(Editor& editor) {

@@ -1,7 +1,6 @@
 #include "formats/export_icon.h"
 
 #include <algorithm>
-#include <cstdlib>
 #include <exception>
 #include <functional>
 #include <map>
@@ -14,6 +13,8 @@
 #include "graphics/errors.h"
 #include "graphics/file_io.h"
 #include "graphics/parallel.h"
+#include "graphics/path_text.h"
+#include "graphics/user_folders.h"
 
 namespace orbelle::formats {
 namespace {
@@ -31,7 +32,8 @@ void LeaveInSizesFolder(const std::vector<Bitmap>& pictures) {
     fs::create_directories(folder);
     for (const Bitmap& picture : pictures) {
         const std::string name = "temp" + std::to_string(picture.Width()) + ".png";
-        graphics::WriteScratchFile(folder / name, graphics::EncodePng(picture));
+        graphics::WriteScratchFile(folder / graphics::PathOfUtf8(name),
+                                   graphics::EncodePng(picture));
     }
 }
 
@@ -130,17 +132,8 @@ void ExportIcon(const fs::path& path, IconKind kind, const FlatFamily& family,
 }
 
 fs::path SizesFolder() {
-#ifdef _WIN32
-    const wchar_t* folder = _wgetenv(L"LOCALAPPDATA");
-    return folder ? fs::path(folder) / "Sizes" : fs::path();
-#else
-    // A relative cache folder counts as none.
-    const char* cache = std::getenv("XDG_CACHE_HOME");
-    if (cache && fs::path(cache).is_absolute())
-        return fs::path(cache) / "Sizes";
-    const char* home = std::getenv("HOME");
-    return home && fs::path(home).is_absolute() ? fs::path(home) / ".cache" / "Sizes" : fs::path();
-#endif
+    const fs::path cache = graphics::CacheHome();
+    return cache.empty() ? cache : cache / u8"Sizes";
 }
 
 }  // namespace orbelle::formats

@@ -37,8 +37,8 @@ std::vector<std::uint8_t> PngForIcon(const FlatFamily& family, const graphics::B
                                      const ExportSettings& settings,
                                      std::vector<std::uint8_t> packed = {});
 
-// The folder "Sizes" in the user's cache folder (XDG_CACHE_HOME, else ~/.cache; LOCALAPPDATA on
-// Windows); not made here. Empty when there is no such folder.
+// The folder "Sizes" in the user's cache folder (graphics/user_folders.h); not made here. Empty
+// when there is no such folder.
 std::filesystem::path SizesFolder();
 
 }  // namespace orbelle::formats

@@ -11,6 +11,7 @@
 #include "graphics/drawing_context.h"
 #include "graphics/errors.h"
 #include "graphics/file_io.h"
+#include "graphics/path_text.h"
 
 namespace orbelle::formats {
 namespace {
@@ -46,7 +47,7 @@ constexpr std::pair<std::string_view, ExportFormat> kExtensions[] = {
 }  // namespace
 
 std::optional<ExportFormat> FindExportFormat(const fs::path& path) {
-    std::string extension = path.extension().string();
+    std::string extension = graphics::Utf8Of(path.extension());
     std::ranges::transform(extension, extension.begin(),
                            [](unsigned char c) { return std::tolower(c); });
     const auto* found = std::ranges::find(kExtensions, extension,

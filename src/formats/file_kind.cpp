@@ -8,12 +8,13 @@
 #include "formats/volf_reader.h"
 #include "graphics/byte_source.h"
 #include "graphics/codecs/image_files.h"
+#include "graphics/path_text.h"
 
 namespace orbelle::formats {
 namespace {
 
 bool IsNamedAsDocument(const std::filesystem::path& path) {
-    std::string extension = path.extension().string();
+    std::string extension = graphics::Utf8Of(path.extension());
     std::ranges::transform(extension, extension.begin(),
                            [](unsigned char c) { return std::tolower(c); });
     return extension == ".volf";

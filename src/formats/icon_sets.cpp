@@ -13,6 +13,7 @@
 #include "graphics/drawing_context.h"
 #include "graphics/errors.h"
 #include "graphics/parallel.h"
+#include "graphics/path_text.h"
 #include "graphics/staged_files.h"
 #include "graphics/work_places.h"
 
@@ -238,7 +239,7 @@ std::vector<RenderedSet> RenderSets(const SetSource& source, std::span<const Ico
 void WriteSet(const fs::path& folder, const RenderedSet& set) {
     std::vector<fs::path> paths;
     for (const RenderedFile& file : set.Files)
-        paths.push_back(folder / file.Path);
+        paths.push_back(folder / graphics::PathOfUtf8(file.Path));
     const graphics::WorkBreak untilOnDisk;
     graphics::StagedFiles staged(paths);
     graphics::ForEachInParallel(paths.size(),

@@ -11,6 +11,7 @@
 #include "graphics/byte_source.h"
 #include "graphics/checksum.h"
 #include "graphics/little_endian.h"
+#include "graphics/path_text.h"
 
 namespace orbelle::formats {
 namespace {
@@ -46,7 +47,7 @@ void AppendRecord(Bytes& journal, Kind kind, std::span<const std::uint8_t> conte
 // All but the time.
 Bytes EncodeState(const Document& document, const std::vector<std::uint64_t>& numbers) {
     const DocumentFrame frame = EncodeFrame(document);
-    const std::string path = document.Path.string();
+    const std::string path = graphics::Utf8Of(document.Path);
     Bytes state;
     Append<std::uint32_t>(state, static_cast<std::uint32_t>(path.size()));
     state.insert(state.end(), path.begin(), path.end());
@@ -131,7 +132,7 @@ JournalEntry ReadState(JournalSource& source, const Record& record,
     ByteReader state(content);
     JournalEntry entry;
     entry.Time = state.Read<std::int64_t>();
-    const auto path = state.Take(state.Read<std::uint32_t>());
+    const auto name = state.Take(state.Read<std::uint32_t>());
     graphics::FileStamp stamp;
     stamp.Device = state.Read<std::uint64_t>();
     stamp.Inode = state.Read<std::uint64_t>();
@@ -150,7 +151,8 @@ JournalEntry ReadState(JournalSource& source, const Record& record,
     const Bytes file = FillFrame(frame, pngs);
     // Its checksums leave nothing to damage; what is there is better than nothing.
     entry.Document = DecodeDocument(graphics::MemorySource(file)).Document;
-    entry.Document.Path = std::string(path.begin(), path.end());
+    entry.Document.Path =
+        graphics::PathOfUtf8({reinterpret_cast<const char*>(name.data()), name.size()});
     entry.Document.Stamp = stamp;
     entry.Document.Modified = true;
     if (selected >= 0 && selected < entry.Document.Master.LayerCount())

@@ -10,7 +10,6 @@
 
 namespace orbelle::formats {
 
-// An open file that this process has locked.
 class LockedFile;
 
 // The journal of this process. As long as it lives no other process takes the file for one that was
@@ -34,8 +33,7 @@ public:
     void Remove() noexcept;
 
 private:
-    std::unique_ptr<LockedFile> Replace(const std::filesystem::path& path,
-                                        std::span<const std::uint8_t> bytes) const;
+    void Replace(std::span<const std::uint8_t> bytes);
 
     std::filesystem::path folder_;
     std::filesystem::path path_;

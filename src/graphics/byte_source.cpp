@@ -7,7 +7,9 @@
 #include <system_error>
 #include <utility>
 
+#include "graphics/detail/open_file.h"
 #include "graphics/errors.h"
+#include "graphics/system_words.h"
 
 namespace orbelle::graphics {
 namespace {
@@ -40,20 +42,20 @@ FileSource::FileSource(const fs::path& path) : ByteSource(0), path_(path) {
     const fs::file_status status = fs::status(path, error);
     // That a file is missing is known, too, and told when it is opened.
     if (!fs::status_known(status))
-        throw FileError(path, error.message());
+        throw FileError(path, WordsFor(error));
     if (fs::is_directory(status))
         throw FileError(path, Words(EISDIR));
     // Opening a pipe would wait for its writer.
     if (fs::exists(status) && !fs::is_regular_file(status))
         throw FileError(path, "not a regular file");
-    file_.reset(std::fopen(path.string().c_str(), "rb"));
+    file_.reset(detail::OpenForReading(path, error));
     if (!file_)
-        throw FileError(path, Words(errno));
+        throw FileError(path, WordsFor(error));
     // Pieces are large enough.
     std::setvbuf(file_.get(), nullptr, _IONBF, 0);
     const std::uintmax_t size = fs::file_size(path, error);
     if (error)
-        throw FileError(path, error.message());
+        throw FileError(path, WordsFor(error));
     if (size > kMaxFileBytes)
         throw FileError(path, "larger than " + std::to_string(kMaxFileBytes >> 20) + " MiB");
     size_ = size;

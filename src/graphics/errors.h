@@ -5,6 +5,8 @@
 #include <stdexcept>
 #include <string>
 
+#include "graphics/path_text.h"
+
 namespace orbelle {
 
 // Something could not be done; what() says what is wrong, in words fit to be shown to the user.
@@ -21,7 +23,7 @@ namespace graphics {
 class FileError : public Error {
 public:
     FileError(const std::filesystem::path& path, const std::string& problem)
-        : Error(path.string() + ": " + problem) {}
+        : Error(Utf8Of(path) + ": " + problem) {}
 };
 
 // A picture that can't be decoded or encoded.

@@ -9,7 +9,9 @@
 #include "graphics/detail/output_file.h"
 #include "graphics/detail/temporary_names.h"
 #include "graphics/errors.h"
+#include "graphics/path_text.h"
 #include "graphics/state_folder.h"
+#include "graphics/system_words.h"
 #include "graphics/unfinished_files.h"
 #include "graphics/work_places.h"
 
@@ -33,8 +35,8 @@ constexpr int kMaxLinks = 40;
 // Such a link leads to an open file, which may have no name at all.
 bool IsDescriptor(const fs::path& path) {
     const fs::path folder = path.parent_path();
-    return folder == "/dev/fd" ||
-           (folder.filename() == "fd" && folder.string().starts_with("/proc/"));
+    return folder == u8"/dev/fd" ||
+           (folder.filename() == u8"fd" && Utf8Of(folder).starts_with("/proc/"));
 }
 
 // What a chain of links ends at, which need not exist.
@@ -76,26 +78,33 @@ bool PutUnnamed(const fs::path& folder, const fs::path& target, Bytes bytes, con
     return true;
 }
 
-void PutNamed(const fs::path& folder, const fs::path& target, Bytes bytes, const OutputFile* old,
-              fs::perms permissions, Durability durability) {
+// Closes `old`: some systems give nobody the name of a file that is open.
+void PutNamed(const fs::path& folder, const fs::path& target, Bytes bytes,
+              std::optional<OutputFile>& old, fs::perms permissions, Durability durability) {
     UnfinishedFile name(detail::TemporaryNameIn(folder));
     OutputFile file = OutputFile::New(name.Path(), permissions);
-    Fill(file, bytes, old, durability);
+    Fill(file, bytes, old ? &*old : nullptr, durability);
     file.Close();
-    fs::rename(name.Path(), target);
+    old.reset();
+    detail::TakeName(name.Path(), target);
     name.Finish();
 }
 
 // A new file under the target's name. `old` is the one that has it now.
-void Put(const fs::path& target, Bytes bytes, const OutputFile* old, fs::perms permissions,
+void Put(const fs::path& target, Bytes bytes, std::optional<OutputFile>& old, fs::perms permissions,
          Durability durability) {
     // Nothing may fail once the file has its name.
-    const fs::path folder = target.has_parent_path() ? target.parent_path() : ".";
+    const fs::path folder = target.has_parent_path() ? target.parent_path() : u8".";
     detail::RemoveStaleFiles(folder);
-    if (!PutUnnamed(folder, target, bytes, old, permissions, durability))
+    if (!PutUnnamed(folder, target, bytes, old ? &*old : nullptr, permissions, durability))
         PutNamed(folder, target, bytes, old, permissions, durability);
     if (durability == Durability::OnDisk)
         detail::FlushFolder(folder);
+}
+
+void PutNew(const fs::path& target, Bytes bytes, fs::perms permissions, Durability durability) {
+    std::optional<OutputFile> none;
+    Put(target, bytes, none, permissions, durability);
 }
 
 // The folder does not let us, though the file may.
@@ -110,14 +119,14 @@ bool IsRefusal(const std::error_code& error) {
 // With the old name at its end, so that it can be told and opened.
 fs::path NameOfCopy(const fs::path& target) {
     constexpr std::size_t kLongest = 200;
-    const std::string name = target.filename().string();
+    const std::string name = Utf8Of(target.filename());
     const fs::path folder = SaveCopiesFolder();
     std::error_code error;
     fs::create_directory(folder, error);
     if (error)
-        throw FileError(folder, error.message());
-    return folder / (std::to_string(std::random_device()()) + '-' +
-                     name.substr(name.size() - std::min(name.size(), kLongest)));
+        throw FileError(folder, WordsFor(error));
+    return folder / PathOfUtf8(std::to_string(std::random_device()()) + '-' +
+                               name.substr(name.size() - std::min(name.size(), kLongest)));
 }
 
 // What has several names, or may not be replaced. Whatever happens, either the file or a copy in
@@ -129,9 +138,9 @@ void WriteInPlace(const fs::path& target, OutputFile& file, Bytes bytes, const s
     std::optional<UnfinishedFile> copy;
     try {
         copy.emplace(NameOfCopy(target));
-        Put(copy->Path(), bytes, nullptr, kCopyPermissions, Durability::OnDisk);
+        PutNew(copy->Path(), bytes, kCopyPermissions, Durability::OnDisk);
     } catch (const std::system_error& error) {
-        refuse(error.code().message());
+        refuse(WordsFor(error.code()));
     } catch (const Error& error) {
         refuse(error.what());
     }
@@ -144,8 +153,8 @@ void WriteInPlace(const fs::path& target, OutputFile& file, Bytes bytes, const s
         file.Flush();
         file.Close();
     } catch (const std::system_error& error) {
-        throw Error(error.code().message() + ". What was to be saved is in " +
-                    copy->Path().string());
+        throw Error(WordsFor(error.code()) + ". What was to be saved is in " +
+                    Utf8Of(copy->Path()));
     }
     std::error_code ignored;
     fs::remove(copy->Path(), ignored);
@@ -153,15 +162,17 @@ void WriteInPlace(const fs::path& target, OutputFile& file, Bytes bytes, const s
 
 void Replace(const fs::path& target, Bytes bytes, Durability durability) {
     // Taking a file's name needs no right to write to the file itself; ask for it all the same.
-    OutputFile old = OutputFile::Existing(target);
-    if (old.HasOtherNames())
-        return WriteInPlace(target, old, bytes, "it has several names");
+    std::optional<OutputFile> old(OutputFile::Existing(target));
+    if (old->HasOtherNames())
+        return WriteInPlace(target, *old, bytes, "it has several names");
     try {
-        Put(target, bytes, &old, old.Permissions(), durability);
+        Put(target, bytes, old, old->Permissions(), durability);
     } catch (const std::system_error& error) {
         if (!IsRefusal(error.code()))
             throw;
-        WriteInPlace(target, old, bytes, error.code().message());
+        if (!old)
+            old.emplace(OutputFile::Existing(target));
+        WriteInPlace(target, *old, bytes, WordsFor(error.code()));
     }
 }
 
@@ -173,16 +184,16 @@ void WriteStream(const fs::path& path, Bytes bytes) {
 
 void Write(const fs::path& path, Bytes bytes, Durability durability) {
     try {
-        const fs::file_status status = fs::status(path);
+        const bool isThere = fs::exists(path);
         const fs::path target = FollowLinks(path);
-        if (fs::exists(status) && (!fs::is_regular_file(status) || IsDescriptor(target)))
+        if (detail::IsStream(path) || (isThere && IsDescriptor(target)))
             WriteStream(path, bytes);
-        else if (fs::exists(status))
+        else if (isThere)
             Replace(target, bytes, durability);
         else
-            Put(target, bytes, nullptr, kNewPermissions, durability);
+            PutNew(target, bytes, kNewPermissions, durability);
     } catch (const std::system_error& error) {
-        throw FileError(path, error.code().message());
+        throw FileError(path, WordsFor(error.code()));
     } catch (const Error& error) {
         throw FileError(path, error.what());
     }

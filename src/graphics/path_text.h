@@ -11,8 +11,8 @@ namespace orbelle::graphics {
 // Use these two wherever text becomes a path or a path becomes text: path's own constructor and
 // string() go by the C locale on Windows. A literal is written u8"name".
 //
-// Where names are bytes they stay these bytes, also those that are no UTF-8; elsewhere what is wrong
-// in the text becomes U+FFFD.
+// Where names are bytes they stay these bytes, also those that are no UTF-8; elsewhere what is
+// wrong in the text becomes U+FFFD.
 std::filesystem::path PathOfUtf8(std::string_view text);
 std::string Utf8Of(const std::filesystem::path& path);
 

@@ -6,6 +6,7 @@
 #include "graphics/detail/output_file.h"
 #include "graphics/detail/temporary_names.h"
 #include "graphics/errors.h"
+#include "graphics/system_words.h"
 
 namespace orbelle::graphics {
 namespace {
@@ -17,7 +18,7 @@ using detail::OutputFile;
 constexpr fs::perms kNewPermissions = fs::perms(0666);
 
 fs::path FolderOf(const fs::path& path) {
-    return path.has_parent_path() ? path.parent_path() : ".";
+    return path.has_parent_path() ? path.parent_path() : u8".";
 }
 
 // Failures of the system become those of the file.
@@ -26,7 +27,7 @@ void For(const fs::path& path, const Work& work) {
     try {
         work();
     } catch (const std::system_error& error) {
-        throw FileError(path, error.code().message());
+        throw FileError(path, WordsFor(error.code()));
     }
 }
 
@@ -85,13 +86,14 @@ void StagedFiles::PutInPlace(File& file) {
     if (fs::is_directory(file.Target))
         throw std::system_error(std::make_error_code(std::errc::is_a_directory));
     if (fs::exists(file.Target)) {
+        detail::RequireReplaceable(file.Target);
         file.Old = detail::TemporaryNameIn(FolderOf(file.Target));
         std::error_code hasNoLinks;
         fs::create_hard_link(file.Target, file.Old, hasNoLinks);
         if (hasNoLinks)
             fs::rename(file.Target, file.Old);
     }
-    fs::rename(file.New->Path(), file.Target);
+    detail::TakeName(file.New->Path(), file.Target);
     file.New->Finish();
     file.IsInPlace = true;
 }

@@ -5,8 +5,8 @@
 
 namespace orbelle::graphics {
 
-// $XDG_STATE_HOME/orbelle, or ~/.local/state/orbelle when that is not an absolute path. It is made
-// when it is missing, for the user alone. Throws FileError.
+// The folder "orbelle" in StateHome() (user_folders.h). It is made when it is missing, for the user
+// alone. Throws FileError, and Error when there is no such place.
 std::filesystem::path StateFolder();
 
 // In it: whole copies of what is being written into files that can't be replaced, and what was when

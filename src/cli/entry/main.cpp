@@ -1,4 +1,3 @@
-#include <algorithm>
 #include <iostream>
 #include <new>
 
@@ -41,8 +40,7 @@ int main(int argc, char** argv) {
     std::ios::sync_with_stdio(false);
     std::cin.tie(nullptr);  // several threads may be at work
     try {
-        const std::vector<std::string> words(argv + std::min(argc, 1), argv + argc);
-        const Options options = ReadOptions(words);
+        const Options options = ReadOptions(ArgumentsOf(argc, argv));
         switch (options.Task) {
             case Options::Task::Help:
                 std::cout << (options.HelpOn ? VerbHelp(*options.HelpOn) : ProgramHelp());

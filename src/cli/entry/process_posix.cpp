@@ -1,6 +1,7 @@
 #include <fcntl.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <csignal>
 
 #include "cli/entry/process.h"
@@ -37,6 +38,10 @@ void PrepareProcess() {
     std::signal(SIGPIPE, SIG_IGN);
     std::signal(SIGXFSZ, SIG_IGN);
     graphics::EndCleanlyOnSignals();
+}
+
+std::vector<std::string> ArgumentsOf(int argc, char** argv) {
+    return {argv + std::min(argc, 1), argv + argc};
 }
 
 bool IsTerminalForErrors() {

@@ -50,6 +50,19 @@ private:
     int descriptor_;
 };
 
+// What has this name, links followed, is no file, which another one could replace: it is a pipe, a
+// device or a folder. Throws std::system_error when that can't be told.
+bool IsStream(const std::filesystem::path& path);
+
+// Throws std::system_error when the file can't be replaced since another program has it open, which
+// keeps nobody from it on most systems.
+void RequireReplaceable(const std::filesystem::path& path);
+
+// Gives a file that is closed the other name, in one step when another file has it, which then is
+// no more. Where TakeAttributesOf can't, this keeps what the system knows of that one. Throws
+// std::system_error, with both files as they were.
+void TakeName(const std::filesystem::path& file, const std::filesystem::path& name);
+
 // Returns when the names in the folder are on the disk, as far as the system can tell: once a file
 // has its new name, nobody can do anything about a failure.
 void FlushFolder(const std::filesystem::path& folder) noexcept;

@@ -202,6 +202,17 @@ bool OutputFile::LinkTo(const fs::path& path) {
            }) == 0;
 }
 
+bool IsStream(const fs::path& path) {
+    const fs::file_status status = fs::status(path);
+    return fs::exists(status) && !fs::is_regular_file(status);
+}
+
+void RequireReplaceable(const fs::path&) {}
+
+void TakeName(const fs::path& file, const fs::path& name) {
+    fs::rename(file, name);
+}
+
 void FlushFolder(const fs::path& folder) noexcept {
     const int descriptor =
         Finished([&] { return open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC); });
