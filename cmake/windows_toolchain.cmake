@@ -9,6 +9,10 @@ set(CMAKE_CXX_COMPILER ${triplet}-g++-posix)
 set(CMAKE_RC_COMPILER ${triplet}-windres)
 set(CMAKE_EXE_LINKER_FLAGS_INIT -static)
 
+# The stack is aligned to 16 bytes there, and GCC moves 32 at a time as if it were to more.
+set(CMAKE_C_FLAGS_INIT -Wa,-muse-unaligned-vector-move)
+set(CMAKE_CXX_FLAGS_INIT -Wa,-muse-unaligned-vector-move)
+
 set(CMAKE_FIND_ROOT_PATH $ENV{ORBELLE_WINDOWS_PREFIX} /usr/${triplet})
 set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
 set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)

@@ -9,7 +9,8 @@ export ORBELLE_WINDOWS_PREFIX=$prefix
 triplet=x86_64-w64-mingw32
 cc=$triplet-gcc-posix
 cxx=$triplet-g++-posix
-optimized=(-O2 -fno-strict-aliasing)
+# The last as cmake/windows_toolchain.cmake has it.
+optimized=(-O2 -fno-strict-aliasing -Wa,-muse-unaligned-vector-move)
 mkdir -p "$prefix"/{include,lib/pkgconfig,lib/cmake}
 
 with_cmake() { # PACKAGE OPTION...
@@ -22,7 +23,7 @@ with_cmake() { # PACKAGE OPTION...
 
 with_configure() { # PACKAGE OPTION...
     cd "$sources/$1"
-    ./configure --host=$triplet CC=$cc --prefix="$prefix" --disable-shared --enable-static "${@:2}"
+    ./configure --host=$triplet CC=$cc CFLAGS="${optimized[*]}" --prefix="$prefix" --disable-shared --enable-static "${@:2}"
 }
 
 archive() { # NAME COMPILER SOURCE...: a library of few files, compiled in the current folder
@@ -49,7 +50,7 @@ make -C include install
 make install-pkgconfigDATA
 
 cd "$sources/libdeflate"
-make CC=$cc AR=$triplet-ar libdeflatestatic.lib
+make CC=$cc AR=$triplet-ar CFLAGS="${optimized[*]}" libdeflatestatic.lib
 install -m 644 libdeflatestatic.lib "$prefix/lib/libdeflate.a"
 install -m 644 libdeflate.h "$prefix/include"
 tell_pkg_config libdeflate 1.14 -ldeflate ''
