@@ -237,10 +237,8 @@ std::vector<RenderedSet> RenderSets(const SetSource& source, std::span<const Ico
 }
 
 fs::path PathInSets(const fs::path& folder, const std::string& file) {
-    fs::path path = folder;
-    if (path.has_filename())
-        path += u8"/";
-    return path += graphics::PathOfUtf8(file);
+    const char* const parted = folder.has_filename() ? "/" : "";
+    return graphics::PathOfUtf8(graphics::Utf8Of(folder) + parted + file);
 }
 
 void WriteSet(const fs::path& folder, const RenderedSet& set) {
