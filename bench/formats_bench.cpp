@@ -1,6 +1,5 @@
 #include <benchmark/benchmark.h>
 
-#include <cstdlib>
 #include <filesystem>
 
 #include "filters/shrink_to_size.h"
@@ -9,6 +8,7 @@
 #include "formats/icon_sets.h"
 #include "formats/volf_reader.h"
 #include "formats/volf_store.h"
+#include "support/system.h"
 
 namespace orbelle {
 namespace {
@@ -79,7 +79,7 @@ BENCHMARK(DrawAndEncodeIcon)->Unit(benchmark::kMillisecond);
 // With the files: the icon and the pictures in the cache folder.
 void ExportIcon(benchmark::State& state) {
     const fs::path folder = fs::temp_directory_path() / "orbelle-bench";
-    setenv("XDG_CACHE_HOME", folder.c_str(), 1);
+    testing::SetEnvironment(testing::EnvironmentIn(folder));
     fs::create_directories(folder);
     const Bitmap page = MakeIconPicture(512);
     for (auto _ : state)

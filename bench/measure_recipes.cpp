@@ -19,6 +19,7 @@
 
 #include "filters/size_recipes.h"
 #include "graphics/codecs/image_files.h"
+#include "graphics/path_text.h"
 
 namespace {
 
@@ -134,9 +135,9 @@ void Measure(std::istream& list) {
     Bitmap large;
     for (Pair pair; list >> pair;) {
         if (pair.Large != loaded)
-            large = graphics::LoadImageFromFile(pair.Large);
+            large = graphics::LoadImageFromFile(graphics::PathOfUtf8(pair.Large));
         loaded = pair.Large;
-        const Bitmap drawn = graphics::LoadImageFromFile(pair.Drawn);
+        const Bitmap drawn = graphics::LoadImageFromFile(graphics::PathOfUtf8(pair.Drawn));
         if (drawn.Width() != pair.Size || drawn.Height() != pair.Size)
             continue;
         std::array<Bitmap, kRecipes> made;

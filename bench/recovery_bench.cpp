@@ -6,6 +6,8 @@
 #include "editing/recovery.h"
 #include "editor_page.h"
 #include "formats/journal.h"
+#include "graphics/file_io.h"
+#include "support/temporary_folder.h"
 
 namespace orbelle::bench {
 namespace {
@@ -51,7 +53,10 @@ BENCHMARK(JournalRead)->Arg(10)->Unit(benchmark::kMillisecond);
 void RecoveryNote(benchmark::State& state) {
     EditorPage page(static_cast<int>(state.range(0)), 0);
     page.editor.Document.Modified = true;
-    editing::Recovery recovery("/dev/null/nowhere", [](const std::string&) {});
+    // A folder that can't be made.
+    const testing::TemporaryFolder folder;
+    graphics::WriteFile(folder / "file", {});
+    editing::Recovery recovery(folder / "file" / "journals", [](const std::string&) {});
     editing::Changes changes;
     changes.Pixels = true;
     for (auto _ : state)

@@ -14,7 +14,7 @@ trap 'wineserver -k || true; rm -rf "$work"' EXIT
 wine wineboot --init
 
 ctest --test-dir "$build" --output-on-failure -j"$(nproc)"
-"$scripts/compare-windows.sh" "$linux" "$build/bin"
+"$scripts/compare-windows.py" "$linux" "$build/bin"
 
 [[ -n $zip ]] || exit 0
 # From a folder with a name that is nothing special on Windows.

@@ -2,6 +2,7 @@
 
 #include <set>
 
+#include "cli/compared_name.h"
 #include "cli/usage_error.h"
 #include "graphics/path_text.h"
 
@@ -12,7 +13,7 @@ namespace fs = std::filesystem;
 std::string FileKey(const fs::path& path) {
     std::error_code error;
     const fs::path key = fs::weakly_canonical(fs::absolute(path), error);
-    return graphics::Utf8Of(error ? fs::absolute(path).lexically_normal() : key);
+    return graphics::Utf8Of(ComparedName(error ? fs::absolute(path).lexically_normal() : key));
 }
 
 void Claims::Claim(const std::string& who, const std::string& key, const std::string& what) {

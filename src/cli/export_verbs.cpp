@@ -120,7 +120,7 @@ void NoteSetFiles(Workspace& workspace, const fs::path& folder,
     const std::string name = editing::FileNameOf(workspace.Editor.Document);
     for (const formats::IconSet set : sets) {
         for (const formats::SetFile& file : formats::FilesOfSet(set, name, 0))
-            workspace.NoteWritten(folder / graphics::PathOfUtf8(file.Path));
+            workspace.NoteWritten(formats::PathInSets(folder, file.Path));
     }
 }
 

@@ -1,7 +1,6 @@
 #include "cli/plan.h"
 
 #include "editing/export_commands.h"
-#include "graphics/path_text.h"
 
 namespace orbelle::cli {
 namespace {
@@ -46,7 +45,7 @@ void Planner::AddSets(const FileUse& use) {
     const std::string name = editing::FileNameOf(document_);
     for (const formats::IconSet set : use.Sets) {
         for (const formats::SetFile& file : formats::FilesOfSet(set, name, 0))
-            Plan.Writes.push_back(use.File.Path / graphics::PathOfUtf8(file.Path));
+            Plan.Writes.push_back(formats::PathInSets(use.File.Path, file.Path));
     }
 }
 

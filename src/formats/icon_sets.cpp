@@ -236,10 +236,15 @@ std::vector<RenderedSet> RenderSets(const SetSource& source, std::span<const Ico
     return rendered;
 }
 
+fs::path PathInSets(const fs::path& folder, const std::string& file) {
+    const char* const parted = folder.has_filename() ? "/" : "";
+    return graphics::PathOfUtf8(graphics::Utf8Of(folder) + parted + file);
+}
+
 void WriteSet(const fs::path& folder, const RenderedSet& set) {
     std::vector<fs::path> paths;
     for (const RenderedFile& file : set.Files)
-        paths.push_back(folder / graphics::PathOfUtf8(file.Path));
+        paths.push_back(PathInSets(folder, file.Path));
     const graphics::WorkBreak untilOnDisk;
     graphics::StagedFiles staged(paths);
     graphics::ForEachInParallel(paths.size(),

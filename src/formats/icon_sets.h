@@ -48,6 +48,9 @@ struct SetFile {
 // `name` is what the user calls the icon, any bytes but '/'.
 std::vector<SetFile> FilesOfSet(IconSet set, const std::string& name, graphics::Argb background);
 
+// Where such a file goes, as it is told: parted by '/' on every system.
+std::filesystem::path PathInSets(const std::filesystem::path& folder, const std::string& file);
+
 // Of the pictures that the icon fills, rising.
 std::vector<int> SizesOfSet(IconSet set);
 

@@ -127,20 +127,5 @@ TEST_F(BatchTest, NamesAndVerbsComeFromStandardInputAndScripts) {
     EXPECT_EQ(Run("--each 4.png -- open {} export bmp:-").Output.size(), 54u + 16 * 12 * 3);
 }
 
-TEST_F(BatchTest, AnInterruptLeavesNothingUnfinished) {
-    std::string names;
-    for (int i = 0; i < 400; ++i) {
-        std::filesystem::copy_file(folder / "12.png", folder / ("in" + std::to_string(i) + ".png"));
-        names += "in" + std::to_string(i) + ".png\n";
-    }
-    const std::string verbs = " -- open {} compress small export-size 512 export o/{stem}.png";
-    EXPECT_EQ(
-        Shell("mkdir o; timeout --preserve-status -s INT 0.4 \"$cli\" --each -" + verbs, names)
-            .Status,
-        128 + SIGINT);
-    for (const auto& file : std::filesystem::directory_iterator(folder / "o"))
-        EXPECT_EQ(Picture(file.path().string()).Height(), 410);
-}
-
 }  // namespace
 }  // namespace orbelle::cli

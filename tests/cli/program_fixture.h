@@ -2,15 +2,13 @@
 #pragma once
 
 #include <gmock/gmock.h>
-#include <sys/wait.h>
 
-#include <cstdlib>
 #include <string>
 #include <vector>
 
 #include "graphics/codecs/image_files.h"
-#include "graphics/file_io.h"
 #include "support/pictures.h"
+#include "support/system.h"
 #include "support/temporary_folder.h"
 
 namespace orbelle::cli {
@@ -38,40 +36,21 @@ inline Outcome WrongUsage(const std::string& message) {
     return Failed(message, 2);
 }
 
+// Names of files are UTF-8, as all text.
 class ProgramTest : public ::testing::Test {
 protected:
-    // Words as a shell takes them; paths among them are relative to `folder`.
-    Outcome Run(const std::string& words, const std::string& input = "") {
-        return Shell("\"$cli\" " + words, input);
-    }
-    // Commands of a shell, in which $cli is the program.
-    Outcome Shell(const std::string& commands, const std::string& input = "") {
-        Write("input", {input.begin(), input.end()});
-        const std::string command = "cd '" + folder.Path().string() +
-                                    "' && export HOME=$PWD XDG_CACHE_HOME=$PWD/cache" +
-                                    " XDG_STATE_HOME=$PWD/state cli='" ORBELLE_CLI_PROGRAM "'\n{ " +
-                                    commands + "\n} <input >output 2>errors";
-        const int status = std::system(command.c_str());
-        return {WEXITSTATUS(status), Text("output"), Text("errors")};
-    }
+    // Words as a shell takes them: blanks part them unless they stand between quotes, and `<FILE`,
+    // `>FILE` put files in place of the input and of the output. Paths are relative to `folder`.
+    Outcome Run(const std::string& words, const std::string& input = "");
+    // What Run starts.
+    testing::ProgramCall Call(const std::string& words) const;
 
-    void Write(const std::string& name, const graphics::Bitmap& picture) {
-        graphics::WriteFile(folder / name, graphics::EncodePng(picture));
-    }
-    void Write(const std::string& name, const std::vector<std::uint8_t>& bytes) {
-        graphics::WriteFile(folder / name, bytes);
-    }
-    std::vector<std::uint8_t> Bytes(const std::string& name) {
-        return graphics::ReadFile(folder / name);
-    }
-    std::string Text(const std::string& name) {
-        const std::vector<std::uint8_t> bytes = Bytes(name);
-        return {bytes.begin(), bytes.end()};
-    }
-    graphics::Bitmap Picture(const std::string& name) {
-        return graphics::LoadImageFromFile(folder / name);
-    }
-    bool Exists(const std::string& name) { return std::filesystem::exists(folder / name); }
+    void Write(const std::string& name, const graphics::Bitmap& picture) const;
+    void Write(const std::string& name, const std::vector<std::uint8_t>& bytes) const;
+    std::vector<std::uint8_t> Bytes(const std::string& name) const;
+    std::string Text(const std::string& name) const;
+    graphics::Bitmap Picture(const std::string& name) const;
+    bool Exists(const std::string& name) const;
 
     testing::TemporaryFolder folder;
 };

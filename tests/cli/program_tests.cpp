@@ -157,7 +157,7 @@ TEST_F(ProgramTest, ScriptsComeFromFilesAndStandardInput) {
     EXPECT_EQ(Run("--script b.txt"),
               Failed("b.txt:3: select 9: there is no layer 9; the document has 1"));
     EXPECT_FALSE(Exists("a.volf"));
-    EXPECT_EQ(Run("--script .").Errors, "orbelle-cli: .: can't be read\n");
+    EXPECT_THAT(Run("--script .").Errors, StartsWith("orbelle-cli: .: "));
     EXPECT_EQ(Run("--script none"), WrongUsage("none: No such file or directory"));
 }
 

@@ -7,14 +7,16 @@ namespace {
 class SamplesTest : public ProgramTest, public ::testing::WithParamInterface<std::string> {};
 
 TEST_P(SamplesTest, ScriptDrawsTheDocumentBesideIt) {
-    const std::string samples = ORBELLE_SAMPLES "/", name = GetParam() + ".volf";
+    const std::filesystem::path samples = std::filesystem::absolute(ORBELLE_SAMPLES);
+    const std::string name = GetParam() + ".volf";
     for (const char* picture : {"camera.png", "folder.png", "gear.png", "leaf.png"})
-        std::filesystem::copy_file(samples + picture, folder / picture);
+        std::filesystem::copy_file(samples / picture, folder / picture);
 
-    EXPECT_EQ(Run("--script '" + samples + GetParam() + ".txt'"), kSuccess);
+    EXPECT_EQ(Run("--script '" + graphics::Utf8Of(samples / (GetParam() + ".txt")) + "'"),
+              kSuccess);
     const Outcome drawn =
         Run("open " + name + " write-page drawn.png info size 16 write-page drawn-16.png");
-    std::filesystem::copy_file(samples + name, folder / name,
+    std::filesystem::copy_file(samples / name, folder / name,
                                std::filesystem::copy_options::overwrite_existing);
     EXPECT_EQ(Run("open " + name + " write-page kept.png info size 16 write-page kept-16.png"),
               drawn);

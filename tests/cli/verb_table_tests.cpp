@@ -2,6 +2,7 @@
 
 #include <gmock/gmock.h>
 
+#include <algorithm>
 #include <sstream>
 
 #include "cli/script.h"
@@ -124,8 +125,9 @@ TEST(VerbTableTest, ExamplesAndValuesAreTaken) {
         std::ranges::replace(line, '\'', '"');
         TextList calls;
         EXPECT_NO_THROW(calls = CallsOf(line)) << line;
-        EXPECT_THAT(calls, ::testing::Contains(
-                               ::testing::MatchesRegex(std::string(verb->Name) + "( .*)?")));
+        EXPECT_TRUE(std::ranges::any_of(calls, [&](const std::string& call) {
+            return (call + ' ').starts_with(std::string(verb->Name) + ' ');
+        })) << line;
         std::istringstream values{std::string(verb->Values)};
         for (std::string value; values >> value;)
             EXPECT_TRUE(IsTaken(std::string(verb->Name), value)) << verb->Name << ' ' << value;

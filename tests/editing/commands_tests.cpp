@@ -367,7 +367,7 @@ TEST_F(Commands, AnOpenedDocumentHasScrollBarsAndTheLayersBeforeItsDamage) {
     Do([&](Editor& e) { OpenFile(e, path); });
     EXPECT_EQ(editor.Page().LayerCount(), 2);
     EXPECT_EQ(editor.Page().SelectedLayer, 1);
-    EXPECT_THAT(recorder.Last.Message, ::testing::StartsWith(path.string() + ": "));
+    EXPECT_THAT(recorder.Last.Message, ::testing::StartsWith(graphics::Utf8Of(path) + ": "));
     EXPECT_EQ(recorder.LastTip(), -1);
     EXPECT_TRUE(recorder.Last.Title);
     EXPECT_TRUE(editor.Zoom.IsAnimated);

@@ -69,9 +69,6 @@ protected:
 TEST_F(PicturesOfFileTest, AreThoseOfAllSizes) {
     Write("a.png", EncodePng(FilledPicture(9, 3, kRed)));
     EXPECT_EQ(Shown("a.png"), Sizes({{9, 3}}));
-    const std::string drawing = "<svg xmlns='http://www.w3.org/2000/svg' viewBox='0 0 2 1'/>";
-    Write("a.svg", {drawing.begin(), drawing.end()});
-    EXPECT_EQ(Shown("a.svg"), Sizes({{64, 32}}));
 
     document::Document document;
     document.Master = document::MakePicturePage(FilledPicture(32, 20, kRed));

@@ -113,8 +113,9 @@ TEST(CombinePngs, PassesOverEmptyNamesAndNamesTheFileAtFault) {
     for (const auto& bad : {write("large.png", graphics::EncodePng(Bitmap(257, 16))),
                             write("text.png", {'t', 'e', 'x', 't'}), folder / "missing.png"}) {
         names[3] = bad;
-        EXPECT_THAT([&] { CombinePngs(names, output); },
-                    ::testing::ThrowsMessage<graphics::FileError>(HasSubstr(bad.string())));
+        EXPECT_THAT(
+            [&] { CombinePngs(names, output); },
+            ::testing::ThrowsMessage<graphics::FileError>(HasSubstr(graphics::Utf8Of(bad))));
         EXPECT_FALSE(std::filesystem::exists(output));
     }
 

@@ -329,7 +329,7 @@ TEST(IconReader, ADamagedFileIsNamed) {
     graphics::WriteFile(folder / "b.ico", MakeIcon({}));
     for (const auto& bad : {folder / "b.ico", folder / "missing.ico"})
         EXPECT_THAT([&] { ReadIconFile(bad); },
-                    ThrowsMessage<graphics::FileError>(HasSubstr(bad.string())));
+                    ThrowsMessage<graphics::FileError>(HasSubstr(graphics::Utf8Of(bad))));
 }
 
 }  // namespace

@@ -357,11 +357,12 @@ TEST(VolfStore, ProblemsOfFilesNameThem) {
     EXPECT_EQ(LoadDocument(path).Damage, "");
 
     std::filesystem::resize_file(path, std::filesystem::file_size(path) - 1);
-    EXPECT_EQ(LoadDocument(path).Damage,
-              path.string() + ": layer 1: the file is cut short; 1 of 2 layers could be read");
+    EXPECT_EQ(
+        LoadDocument(path).Damage,
+        graphics::Utf8Of(path) + ": layer 1: the file is cut short; 1 of 2 layers could be read");
     std::filesystem::resize_file(path, kPictureAt);
     EXPECT_THAT([&] { LoadDocument(path); },
-                ::testing::ThrowsMessage<graphics::FileError>(path.string() +
+                ::testing::ThrowsMessage<graphics::FileError>(graphics::Utf8Of(path) +
                                                               ": layer 0: the file is cut short"));
     graphics::WriteFile(path, Bytes{'B', 'M'});
     EXPECT_THROW(LoadDocument(path), InvalidFile);

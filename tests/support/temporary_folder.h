@@ -1,23 +1,17 @@
 // A folder of a test's own, gone afterwards.
 #pragma once
 
-#include <unistd.h>
-
-#include <cstdlib>
 #include <filesystem>
-#include <stdexcept>
 #include <string>
+
+#include "graphics/path_text.h"
+#include "support/system.h"
 
 namespace orbelle::testing {
 
 class TemporaryFolder {
 public:
-    TemporaryFolder() {
-        std::string name = (std::filesystem::temp_directory_path() / "orbelle-XXXXXX").string();
-        if (!mkdtemp(name.data()))
-            throw std::runtime_error("no temporary folder");
-        path_ = name;
-    }
+    TemporaryFolder() : path_(MakeTemporaryFolder()) {}
     ~TemporaryFolder() {
         std::error_code ignored;
         std::filesystem::remove_all(path_, ignored);
@@ -25,7 +19,10 @@ public:
     TemporaryFolder(const TemporaryFolder&) = delete;
     TemporaryFolder& operator=(const TemporaryFolder&) = delete;
 
-    std::filesystem::path operator/(const std::string& name) const { return path_ / name; }
+    // The name in UTF-8, as all text.
+    std::filesystem::path operator/(const std::string& name) const {
+        return path_ / graphics::PathOfUtf8(name);
+    }
     const std::filesystem::path& Path() const { return path_; }
 
 private:

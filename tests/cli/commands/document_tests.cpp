@@ -23,11 +23,6 @@ protected:
         Write("large.png", FilledPicture(600, 400, kBlue));
         const std::vector<graphics::Bitmap> images{FilledPicture(16, 16, kBlue),
                                                    FilledPicture(40, 6, kBlue)};
-        const std::string_view drawing =
-            "<svg xmlns='http://www.w3.org/2000/svg' width='8' height='4'>"
-            "<rect width='8' height='4' fill='#204060'/></svg>";
-        graphics::WriteFile(
-            "d.svg", {reinterpret_cast<const std::uint8_t*>(drawing.data()), drawing.size()});
         graphics::WriteFile("a.ICO", formats::EncodeIcon(images, formats::IconFormat::Bmp));
         graphics::WriteFile("bad.volf", std::vector<std::uint8_t>(100, 'x'));
         WriteDocument("none.volf", 9, 7, {});
@@ -66,11 +61,6 @@ TEST_F(DocumentCommands, WhatEachMakes) {
         {"a new document has no path", "open a.png save s.volf new 3 3", "path "},
         {"an import of a document opens it", "open a.png save s.volf new 3 3 import s.volf",
          "page/width 12, path s.volf, undo 0"},
-        {"a drawing", "open d.svg", "page/width 512, page/height 256, page@0,0 FF204060"},
-        {"a drawing of a size", "svg-size 20 open d.svg import d.svg",
-         "page/width 20, page/height 10, widths 2020, undo 1, page@19,9 FF204060"},
-        {"of another", "svg-size 20 open d.svg svg-size 6 import-fit d.svg",
-         "1/rect 7 3 6 3, undo 1"},
         {"fitted", "new 20 20 import-fit b.png",
          "widths 2020, 1/rect 0 8 20 4, 1/base_rect 0 8 20 4, 1/size 20 4, undo 1"},
         {"fitted upright", "new 100 20 import-fit large.png",

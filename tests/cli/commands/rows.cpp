@@ -147,7 +147,7 @@ void CheckUndo(editing::Editor& editor, const std::string& first) {
 
 RowsTest::RowsTest() : before_(std::filesystem::current_path()) {
     std::filesystem::current_path(folder.Path());
-    setenv("XDG_CACHE_HOME", (folder / "cache").c_str(), 1);
+    testing::SetEnvironment(testing::EnvironmentIn(folder.Path()));
 }
 
 RowsTest::~RowsTest() {

@@ -1,5 +1,5 @@
 // Shells ask the program's own scripts.
-#include "program_fixture.h"
+#include "shell_fixture.h"
 
 namespace orbelle::cli {
 namespace {
@@ -8,7 +8,7 @@ using ::testing::AllOf;
 using ::testing::HasSubstr;
 using ::testing::Not;
 
-class CompletionTest : public ProgramTest {
+class CompletionTest : public ShellTest {
 protected:
     CompletionTest() {
         for (const char* name : {"leaf.PNG", "leaf.volf", "leaf.txt", "leaf gear.ico"})

@@ -1,14 +1,14 @@
 // Our files read by programs of others, as far as they are installed.
 #include <algorithm>
 
-#include "program_fixture.h"
+#include "shell_fixture.h"
 
 namespace orbelle::cli {
 namespace {
 
 using ::testing::HasSubstr;
 
-class RefereeTest : public ProgramTest {
+class RefereeTest : public ShellTest {
 protected:
     bool IsThere(const std::string& program) { return Shell("command -v " + program).Status == 0; }
     void ExportSets(const std::string& sets) {
