@@ -10,6 +10,7 @@
 #include <memory>
 #include <span>
 
+#include "app/desktop_font.h"
 #include "app/desktop_motion.h"
 #include "app/ending_signals.h"
 #include "app/file_names.h"
@@ -70,6 +71,7 @@ int main(int argc, char** argv) {
     QApplication::setApplicationName("orbelle");
     QApplication::setApplicationVersion(ORBELLE_VERSION);
     QApplication::setDesktopFileName("orbelle");
+    UseDesktopFont();
     const Language language;
     orbelle::widgets::SetMotionWanted(DoesDesktopWantMotion());
     ApplyLooks(StoredLooks());
