@@ -6,7 +6,7 @@ set -euo pipefail
 
 packages=(
     g++ cmake ninja-build pkg-config
-    qt6-base-dev qt6-svg-dev qt6-l10n-tools libagg-dev libpixman-1-dev libpng-dev libjpeg62-turbo-dev libgif-dev libhwy-dev libdeflate-dev
+    qt6-base-dev qt6-l10n-tools libagg-dev libpixman-1-dev libpng-dev libjpeg62-turbo-dev libgif-dev libhwy-dev libdeflate-dev
     libwebp-dev liblcms2-dev librsvg2-dev zlib1g-dev
     libcli11-dev nlohmann-json3-dev
 )

@@ -2,6 +2,7 @@
 
 #include <QStringList>
 
+#include "app/file_names.h"
 #include "app/import_files.h"
 #include "app/recent_files.h"
 #include "app/save_commands.h"
@@ -10,6 +11,7 @@
 #include "editing/document_commands.h"
 #include "editing/page_commands.h"
 #include "editing/size_commands.h"
+#include "graphics/path_text.h"
 #include "widgets/words.h"
 
 namespace orbelle::app {
@@ -20,33 +22,40 @@ using editing::Editor;
 
 namespace {
 
+#ifdef _WIN32
+constexpr bool kReadsDrawings = false;
+#else
+constexpr bool kReadsDrawings = true;
+#endif
+
 // "text|patterns" of each kind of picture that is read.
-QString PictureFilters() {
-    return QStringList{Words::tr("ICO Files (*.ICO)"),         "*.ico",
-                       Words::tr("PNG Files (*.PNG)"),         "*.png",
-                       Words::tr("GIF Files (*.GIF)"),         "*.gif",
-                       Words::tr("JPEG Files (*.JPG;*.JPEG)"), "*.jpg;*.jpeg",
-                       Words::tr("BMP Files (*.BMP)"),         "*.bmp",
-                       Words::tr("CUR Files (*.CUR)"),         "*.cur",
-                       Words::tr("WebP Files (*.WEBP)"),       "*.webp",
-                       Words::tr("SVG Files (*.SVG;*.SVGZ)"),  "*.svg;*.svgz"}
-        .join('|');
+QStringList PictureFilters() {
+    QStringList filters{Words::tr("ICO Files (*.ICO)"),         "*.ico",
+                        Words::tr("PNG Files (*.PNG)"),         "*.png",
+                        Words::tr("GIF Files (*.GIF)"),         "*.gif",
+                        Words::tr("JPEG Files (*.JPG;*.JPEG)"), "*.jpg;*.jpeg",
+                        Words::tr("BMP Files (*.BMP)"),         "*.bmp",
+                        Words::tr("CUR Files (*.CUR)"),         "*.cur",
+                        Words::tr("WebP Files (*.WEBP)"),       "*.webp"};
+    if (kReadsDrawings)
+        filters += {Words::tr("SVG Files (*.SVG;*.SVGZ)"), "*.svg;*.svgz"};
+    return filters;
 }
 
-constexpr char kPicturePatterns[] =
-    "*.ico;*.png;*.gif;*.jpg;*.jpeg;*.bmp;*.cur;*.webp;*.svg;*.svgz";
+QString PicturePatterns() {
+    return QString("*.ico;*.png;*.gif;*.jpg;*.jpeg;*.bmp;*.cur;*.webp") +
+           (kReadsDrawings ? ";*.svg;*.svgz" : "");
+}
 
 std::string OpenFilter() {
-    return QStringList{Words::tr("All Supported Formats"), QString("*.volf;") + kPicturePatterns,
-                       Words::tr("Varnel Orbelle Files (*.VOLF)"), "*.volf", PictureFilters()}
-        .join('|')
-        .toStdString();
+    const QStringList first{Words::tr("All Supported Formats"), "*.volf;" + PicturePatterns(),
+                            Words::tr("Varnel Orbelle Files (*.VOLF)"), "*.volf"};
+    return (first + PictureFilters()).join('|').toStdString();
 }
 
 std::string ImportFilter() {
-    return QStringList{Words::tr("All Supported Formats"), kPicturePatterns, PictureFilters()}
-        .join('|')
-        .toStdString();
+    const QStringList first{Words::tr("All Supported Formats"), PicturePatterns()};
+    return (first + PictureFilters()).join('|').toStdString();
 }
 
 void OpenPath(const WindowContext& context, const fs::path& path) {
@@ -78,9 +87,8 @@ void OpenRecent(const WindowContext& context, const fs::path& path) {
     std::error_code unknown;
     if (fs::status(path, unknown).type() == fs::file_type::not_found) {
         context.Recent.Forget(path);
-        context.User.ShowMessage(Words::tr("%1: the file is not there any more")
-                                     .arg(QString::fromStdString(path.string()))
-                                     .toStdString());
+        context.User.ShowMessage(
+            Words::tr("%1: the file is not there any more").arg(TextOf(path)).toStdString());
         return;
     }
     if (MayGiveUpDocument(context))
@@ -92,7 +100,7 @@ void OpenHandedOver(const WindowContext& context, std::string_view command) {
         return;
     const auto end = command.find_last_not_of(' ');
     const std::size_t length = end == std::string_view::npos ? 0 : end + 1;
-    OpenPath(context, length > 2 ? command.substr(1, length - 2) : std::string_view());
+    OpenPath(context, graphics::PathOfUtf8(length > 2 ? command.substr(1, length - 2) : ""));
 }
 
 void AskImport(const WindowContext& context) {

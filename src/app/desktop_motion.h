@@ -3,8 +3,8 @@
 
 namespace orbelle::app {
 
-// What its settings say of animations, as far as they stand in files (GTK's and KDE's). The toolkit
-// knows of other desktops itself.
+// What its settings say of animations: those of Windows, or files of GTK and KDE. The toolkit knows
+// of other desktops itself.
 bool DoesDesktopWantMotion();
 
 }  // namespace orbelle::app

@@ -1,4 +1,4 @@
-// The signals by which a system ends a program: SIGTERM, SIGHUP and SIGINT.
+// The signals by which a system ends a program: SIGTERM, SIGHUP and SIGINT. Windows has none.
 #pragma once
 
 #include <QObject>

@@ -4,9 +4,11 @@
 #include <span>
 
 #include "app/core_words.h"
+#include "app/file_names.h"
 #include "app/icon_set_captions.h"
 #include "app/written_text.h"
 #include "editing/export_commands.h"
+#include "graphics/path_text.h"
 #include "widgets/words.h"
 
 namespace orbelle::app {
@@ -21,7 +23,7 @@ using formats::IconSet;
 fs::path ProposedFolder(const document::Document& document) {
     const fs::path& origin = document.Path.empty() ? document.Source : document.Path;
     std::error_code unknown;
-    return fs::absolute(origin.parent_path() / "icons", unknown);
+    return fs::absolute(origin.parent_path() / u8"icons", unknown);
 }
 
 struct Files {
@@ -34,7 +36,8 @@ Files FilesThere(const SetChoice& choice, IconSet set, const formats::SetSource&
     Files files;
     for (const formats::SetFile& file : FilesOfSet(set, source.Name, source.Background)) {
         std::error_code missing;
-        const std::uintmax_t bytes = fs::file_size(choice.Folder / file.Path, missing);
+        const std::uintmax_t bytes =
+            fs::file_size(choice.Folder / graphics::PathOfUtf8(file.Path), missing);
         if (missing)
             continue;
         ++files.Count;
@@ -85,9 +88,9 @@ public:
         if (sets_ == 0)
             return user.ShowMessage(
                 (text + Words::tr("Nothing was exported.") + failures_).toStdString());
-        text += Words::tr("Exported %1, %2, in %3")
-                    .arg(FilesText(written_.Count), SizeText(written_.Bytes),
-                         QString::fromStdString(choice_.Folder.string()));
+        text +=
+            Words::tr("Exported %1, %2, in %3")
+                .arg(FilesText(written_.Count), SizeText(written_.Bytes), TextOf(choice_.Folder));
         user.ShowFolder((text + failures_).toStdString(), choice_.Folder);
     }
 

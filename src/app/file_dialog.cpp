@@ -1,10 +1,10 @@
 #include "app/file_dialog.h"
 
 #include <QDir>
-#include <QFile>
 #include <QFileDialog>
 #include <QFileInfo>
 
+#include "app/file_names.h"
 #include "app/settings.h"
 #include "widgets/words.h"
 
@@ -27,7 +27,7 @@ public:
             return {};
         const QString file = selectedFiles().constFirst();
         Settings().setValue(kLastFolder, QFileInfo(file).absolutePath());
-        return EncodedName(file);
+        return PathOf(file);
     }
 };
 
@@ -43,10 +43,6 @@ QStringList NameFilters(const std::string& filter) {
     return filters;
 }
 
-std::string EncodedName(const QString& name) {
-    return QFile::encodeName(name).toStdString();
-}
-
 std::filesystem::path AskForFile(QWidget* parent, const std::string& filter) {
     FileDialog dialog(parent, filter);
     dialog.setFileMode(QFileDialog::ExistingFile);
@@ -58,7 +54,7 @@ std::filesystem::path AskForFileToWrite(QWidget* parent, const std::string& filt
     FileDialog dialog(parent, filter);
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setOption(QFileDialog::DontConfirmOverwrite);
-    const QFileInfo file(QFile::decodeName(proposed.string().c_str()));
+    const QFileInfo file(TextOf(proposed));
     if (proposed.has_parent_path() && file.dir().exists())
         dialog.setDirectory(file.absolutePath());
     dialog.selectFile(file.fileName());

@@ -12,9 +12,6 @@ namespace orbelle::app {
 // "text|*.a;*.b|text|*.c" as "text (*.a *.b)", "text (*.c)". A text without patterns is dropped.
 QStringList NameFilters(const std::string& filter);
 
-// The name of a file, or a command line with one, as the system's own calls take it.
-std::string EncodedName(const QString& name);
-
 // Starts in the folder of the last file. Empty: cancelled.
 std::filesystem::path AskForFile(QWidget* parent, const std::string& filter);
 

@@ -2,6 +2,7 @@
 
 #include <QCheckBox>
 #include <QDialogButtonBox>
+#include <QDir>
 #include <QFileDialog>
 #include <QGridLayout>
 #include <QLabel>
@@ -12,6 +13,7 @@
 #include <algorithm>
 #include <set>
 
+#include "app/file_names.h"
 #include "app/icon_set_captions.h"
 #include "app/settings.h"
 #include "app/shared_image.h"
@@ -164,8 +166,7 @@ QWidget* IconSetsDialog::MakeFolderRow(const std::filesystem::path& folder) {
     auto* layout = new QHBoxLayout(row);
     layout->setContentsMargins(0, 0, 0, 0);
     const QString remembered = Settings().value(kFolderSetting).toString();
-    folder_ =
-        new QLineEdit(remembered.isEmpty() ? QString::fromStdString(folder.string()) : remembered);
+    folder_ = new QLineEdit(remembered.isEmpty() ? TextOf(folder) : remembered);
     folder_->setObjectName("Folder");
     connect(folder_, &QLineEdit::textChanged, this, &IconSetsDialog::ShowState);
     auto* label = new QLabel(Words::tr("&Folder:"));
@@ -176,7 +177,7 @@ QWidget* IconSetsDialog::MakeFolderRow(const std::filesystem::path& folder) {
         const QString chosen =
             QFileDialog::getExistingDirectory(this, Words::tr("Icon Set"), folder_->text());
         if (!chosen.isEmpty())
-            folder_->setText(chosen);
+            folder_->setText(QDir::toNativeSeparators(chosen));
     });
     layout->addWidget(label);
     layout->addWidget(folder_, 1);
@@ -194,7 +195,7 @@ void IconSetsDialog::ShowState() {
 }
 
 SetChoice IconSetsDialog::Choice() const {
-    SetChoice choice{{}, folder_->text().toStdString()};
+    SetChoice choice{{}, PathOf(folder_->text())};
     for (std::size_t i = 0; i < boxes_.size(); ++i) {
         if (boxes_[i]->isChecked())
             choice.Sets.push_back(static_cast<IconSet>(i));

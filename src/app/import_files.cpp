@@ -3,6 +3,7 @@
 #include <QStringList>
 #include <algorithm>
 
+#include "app/file_names.h"
 #include "app/save_commands.h"
 #include "app/take_file.h"
 #include "document/undo_history.h"
@@ -152,7 +153,7 @@ void TellFar(const WindowContext& context, const QStringList& addresses, bool is
 std::vector<fs::path> PathsOf(const QByteArrayList& files) {
     std::vector<fs::path> paths;
     for (const QByteArray& file : files)
-        paths.emplace_back(file.toStdString());
+        paths.push_back(PathOfBytes(file));
     return paths;
 }
 

@@ -7,6 +7,8 @@
 #include <algorithm>
 #include <iterator>
 
+#include "app/file_names.h"
+#include "graphics/path_text.h"
 #include "widgets/words.h"
 
 namespace orbelle::app {
@@ -22,8 +24,8 @@ void OpenLink(const WindowContext& context, const QString& address) {
 }
 
 void OpenFolder(const WindowContext& context, const std::filesystem::path& folder) {
-    const std::string text = folder.string();
-    const QString shown = QString::fromStdString(text);
+    const std::string text = graphics::Utf8Of(folder);
+    const QString shown = TextOf(folder);
     if (QDesktopServices::openUrl(QUrl::fromLocalFile(shown)))
         context.User.ShowStatus(Words::tr("Opened the folder: %1").arg(shown).toStdString());
     else
@@ -36,7 +38,7 @@ void OpenFolder(const WindowContext& context, const std::filesystem::path& folde
 void OpenSamples(const WindowContext& context) {
     const QDir program(QCoreApplication::applicationDirPath());
     const auto clean = [&](const char* folder) {
-        return QDir::cleanPath(program.absoluteFilePath(folder));
+        return QDir::toNativeSeparators(QDir::cleanPath(program.absoluteFilePath(folder)));
     };
     constexpr const char* kFolders[] = {"Samples", "../share/orbelle/samples", "../../../samples"};
     const auto* found =

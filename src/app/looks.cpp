@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QPalette>
 
+#include "app/desktop_shade.h"
 #include "app/settings.h"
 #include "widgets/theme.h"
 #include "widgets/theme_style.h"
@@ -87,16 +88,6 @@ QPalette PaletteOfTheme() {
     return palette;
 }
 
-// Asked before any looks of ours hide it.
-bool IsDesktopDark() {
-    static const bool isDark = [] {
-        const QPalette palette = QGuiApplication::palette();
-        return palette.color(QPalette::Window).lightness() <
-               palette.color(QPalette::WindowText).lightness();
-    }();
-    return isDark;
-}
-
 Looks& LooksInUse() {
     static Looks looks = Looks::AsDesktop;
     return looks;
@@ -110,7 +101,7 @@ Looks CurrentLooks() {
 
 void ApplyLooks(Looks looks) {
     LooksInUse() = looks;
-    const bool isDesktopDark = IsDesktopDark();
+    static const bool isDesktopDark = IsDesktopDark();
     const bool isDark = looks == Looks::Dark || (looks == Looks::AsDesktop && isDesktopDark);
     widgets::SetShade(isDark ? Shade::Dark : Shade::Light);
     if (!dynamic_cast<widgets::ThemeStyle*>(QApplication::style()))

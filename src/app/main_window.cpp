@@ -12,7 +12,7 @@
 #include "app/bottom_panel.h"
 #include "app/close_tips_tab.h"
 #include "app/core_words.h"
-#include "app/file_dialog.h"
+#include "app/file_names.h"
 #include "app/import_files.h"
 #include "app/recent_files_menu.h"
 #include "app/right_panel.h"
@@ -149,7 +149,7 @@ void MainWindow::TakeHandOver(const QByteArray& commandLine) {
 }
 
 void MainWindow::OpenPath(const QString& path) {
-    ShellOpen(QByteArray::fromStdString('"' + EncodedName(path) + '"'));
+    ShellOpen('"' + BytesOf(PathOf(path)) + '"');
 }
 
 // A question may have come up since the drop.

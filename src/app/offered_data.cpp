@@ -2,7 +2,6 @@
 
 #include <QBuffer>
 #include <QDir>
-#include <QFile>
 #include <QImage>
 #include <QImageReader>
 #include <QMimeData>
@@ -11,6 +10,7 @@
 #include <new>
 #include <span>
 
+#include "app/file_names.h"
 #include "graphics/codecs/image_files.h"
 #include "graphics/codecs/pixel_budget.h"
 #include "graphics/errors.h"
@@ -57,19 +57,19 @@ graphics::Bitmap Read(const QMimeData& data) {
     throw graphics::ImageError("the picture can't be read");
 }
 
-QByteArray PathOf(const QUrl& url) {
+QByteArray LocalName(const QUrl& url) {
 #ifdef Q_OS_UNIX
     // Names need not be UTF-8; the address has their bytes.
     return QByteArray::fromPercentEncoding(url.path(QUrl::FullyEncoded).toLatin1());
 #else
-    return QFile::encodeName(url.toLocalFile());
+    return BytesOf(PathOf(url.toLocalFile()));
 #endif
 }
 
 OfferedFiles Sorted(const QList<QUrl>& urls) {
     OfferedFiles files;
     for (const QUrl& url : urls) {
-        const QByteArray path = url.isLocalFile() ? PathOf(url) : QByteArray();
+        const QByteArray path = url.isLocalFile() ? LocalName(url) : QByteArray();
         if (!path.isEmpty() && !path.contains('\0'))
             files.Local += path;
         else if (!url.isLocalFile() && !url.isEmpty())

@@ -24,7 +24,7 @@ OfferedPicture ReadOffered(const QMimeData& data);
 // Throws Error with the problem if there is one.
 const graphics::Bitmap& RequireReadable(const OfferedPicture& offered);
 
-// The paths of local files as the system has them, in the order given.
+// The paths of local files as bytes (file_names.h), in the order given.
 QByteArrayList LocalFiles(const QMimeData& data);
 
 struct OfferedFiles {

@@ -5,6 +5,7 @@
 #include <QVariant>
 #include <algorithm>
 
+#include "app/file_names.h"
 #include "app/settings.h"
 
 namespace orbelle::app {
@@ -16,12 +17,12 @@ constexpr char kKey[] = "RecentFiles";
 
 // As bytes in ASCII: a name need not be a text.
 QString Stored(const fs::path& path) {
-    return QString::fromLatin1(QByteArray::fromStdString(path.string()).toPercentEncoding("/"));
+    return QString::fromLatin1(BytesOf(path).toPercentEncoding("/"));
 }
 
-fs::path PathOf(const QString& stored) {
+fs::path PathIn(const QString& stored) {
     const QByteArray bytes = QByteArray::fromPercentEncoding(stored.toLatin1());
-    return bytes.contains('\0') ? fs::path() : fs::path(bytes.toStdString());
+    return bytes.contains('\0') ? fs::path() : PathOfBytes(bytes);
 }
 
 }  // namespace
@@ -38,7 +39,7 @@ void RecentFiles::Read() {
         return;
     paths_.clear();
     for (const QString& stored : Settings().value(kKey).toStringList()) {
-        const fs::path path = PathOf(stored);
+        const fs::path path = PathIn(stored);
         if (path.is_absolute() && paths_.size() < kMostRecentFiles &&
             std::ranges::find(paths_, path) == paths_.end())
             paths_.push_back(path);
@@ -79,7 +80,7 @@ void RecentFiles::Clear() {
 }
 
 QString ShownPath(const fs::path& path) {
-    QString shown = QString::fromStdString(path.string());
+    QString shown = TextOf(path);
     for (QChar& character : shown)
         if (character.category() == QChar::Other_Control)
             character = QChar::ReplacementCharacter;

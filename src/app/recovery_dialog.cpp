@@ -2,7 +2,6 @@
 
 #include <QDateTime>
 #include <QDialogButtonBox>
-#include <QFileInfo>
 #include <QLabel>
 #include <QListWidget>
 #include <QLocale>
@@ -11,6 +10,7 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "app/file_names.h"
 #include "app/message_boxes.h"
 #include "app/shared_image.h"
 #include "document/compositor.h"
@@ -52,9 +52,9 @@ QImage PictureOf(document::Document document, qreal scale) {
     return picture;
 }
 
-QString TextOf(const formats::JournalEntry& entry) {
+QString EntryText(const formats::JournalEntry& entry) {
     const document::Page& page = entry.Document.Master;
-    const QString name = QFile::decodeName(entry.Document.Path.filename().c_str());
+    const QString name = TextOf(entry.Document.Path.filename());
     const QString time =
         QLocale().toString(QDateTime::fromMSecsSinceEpoch(entry.Time), QLocale::ShortFormat);
     const QString layers = page.LayerCount() == 1
@@ -101,7 +101,7 @@ RecoveryDialog::RecoveryDialog(std::vector<formats::FoundJournal>& journals, QWi
             QPixmap::fromImage(PictureOf(journal.Entry().Document, devicePixelRatioF()));
         QIcon icon(picture);
         icon.addPixmap(picture, QIcon::Selected);  // not tinted
-        new QListWidgetItem(icon, TextOf(journal.Entry()), list_);
+        new QListWidgetItem(icon, EntryText(journal.Entry()), list_);
     }
     QPalette palette = list_->palette();
     palette.setColor(QPalette::Highlight, widgets::PressedColor());

@@ -4,11 +4,13 @@
 #include <cctype>
 #include <functional>
 
+#include "app/file_names.h"
 #include "app/recent_files.h"
 #include "app/written_text.h"
 #include "editing/document_commands.h"
 #include "editing/export_commands.h"
 #include "formats/icns_file.h"
+#include "graphics/path_text.h"
 #include "widgets/words.h"
 
 namespace orbelle::app {
@@ -47,9 +49,7 @@ fs::path AskWhereTo(const WindowContext& context, const std::string& filter) {
     std::error_code unknown;
     if (!fs::is_fifo(path, unknown))
         return path;
-    context.User.ShowMessage(Words::tr("%1: a pipe, not a file")
-                                 .arg(QString::fromStdString(path.string()))
-                                 .toStdString());
+    context.User.ShowMessage(Words::tr("%1: a pipe, not a file").arg(TextOf(path)).toStdString());
     return {};
 }
 
@@ -65,7 +65,7 @@ bool MayReplace(const WindowContext& context, const fs::path& path) {
     return found == graphics::FileStamp() || found == context.Commands.Editor().Document.Stamp ||
            Confirm(context,
                    Words::tr("%1 was changed by another program since you opened it. Overwrite it?")
-                       .arg(QString::fromStdString(path.filename().string())));
+                       .arg(TextOf(path.filename())));
 }
 
 std::optional<std::uintmax_t> SizeOf(const fs::path& path) {
@@ -179,12 +179,13 @@ bool MayGiveUpDocument(const WindowContext& context) {
 fs::path ProposedName(const document::Document& document, std::string_view filter) {
     const fs::path& origin = document.Path.empty() ? document.Source : document.Path;
     std::error_code unknown;
-    fs::path proposed = origin.empty() ? "icon" : fs::absolute(origin, unknown).replace_extension();
-    return proposed += FirstExtension(PatternsOf(filter));
+    fs::path proposed =
+        origin.empty() ? u8"icon" : fs::absolute(origin, unknown).replace_extension();
+    return proposed += graphics::PathOfUtf8(FirstExtension(PatternsOf(filter)));
 }
 
 fs::path CompletedName(const fs::path& path, std::string_view filter) {
-    const std::string name = path.filename().string();
+    const std::string name = graphics::Utf8Of(path.filename());
     std::string_view patterns = PatternsOf(filter);
     const std::string_view first = FirstExtension(patterns);
     while (!patterns.empty()) {
@@ -193,7 +194,7 @@ fs::path CompletedName(const fs::path& path, std::string_view filter) {
             return path;
         patterns.remove_prefix(std::min(end + 1, patterns.size()));
     }
-    return fs::path(path) += first;
+    return fs::path(path) += graphics::PathOfUtf8(first);
 }
 
 }  // namespace orbelle::app

@@ -1,43 +1,27 @@
 #include "app/settings.h"
 
-#include <QFile>
 #include <QGuiApplication>
 #include <QScreen>
-#include <QStandardPaths>
 #include <QStyle>
 #include <QWidget>
 #include <algorithm>
-#include <filesystem>
+
+#include "app/settings_store.h"
 
 namespace orbelle::app {
 namespace {
 
-namespace fs = std::filesystem;
-
-constexpr char kOrganization[] = "OrbelleWork";  // names the place, too
-constexpr int kMaximized = 2;                    // the stored number of that window state
+constexpr int kMaximized = 2;  // the stored number of that window state
 
 QRect ScreenFor(const QPoint& point) {
     const QScreen* screen = QGuiApplication::screenAt(point);
     return (screen ? screen : QGuiApplication::primaryScreen())->availableGeometry();
 }
 
-// To open a pipe would wait for somebody to write to it; what is no file must not be replaced by
-// one. `name` of a file in the user's folder of settings.
-bool IsFileOrFree(const QString& name) {
-    const QString folder = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation);
-    std::error_code unreachable;
-    const fs::file_status status =
-        fs::status(QFile::encodeName(folder + '/' + name).toStdString(), unreachable);
-    return !fs::exists(status) || fs::is_regular_file(status);
-}
-
 }  // namespace
 
 Settings::Settings() {
-    if (IsFileOrFree(kOrganization + QString(".conf")) &&
-        IsFileOrFree(kOrganization + QString(".conf.lock")))
-        store_.emplace(QString(kOrganization));
+    OpenStore(store_);
 }
 
 bool Settings::isEmpty() const {

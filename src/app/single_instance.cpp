@@ -3,9 +3,10 @@
 #include <QDeadlineTimer>
 #include <QLocalSocket>
 #include <QLockFile>
-#include <QStandardPaths>
 #include <QTimer>
 #include <algorithm>
+
+#include "app/hand_over_place.h"
 
 namespace orbelle::app {
 namespace {
@@ -17,16 +18,6 @@ constexpr int kLongestCommandLine = 1 << 16;
 constexpr int kMostPeers = 64;
 constexpr QByteArrayView kProtocol = "Orbelle hand-over 1 ";
 constexpr QByteArrayView kAnswer = "Orbelle hand-over 1 queued\n";
-
-// In a folder that only the user can write to; where there is none, copies do not know each other.
-QString ServerName() {
-#ifdef Q_OS_UNIX
-    const QString folder = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
-    return folder.isEmpty() ? folder : folder + "/orbelle-main-window";
-#else
-    return "Orbelle|MainWindow";
-#endif
-}
 
 struct Request {
     bool IsWrong = false;  // else it is whole, or more of it is to come
@@ -51,24 +42,26 @@ Request ReadRequest(const QByteArray& bytes) {
     return {false, true, text.left(length)};
 }
 
-bool SomebodyListens() {
+bool SomebodyListens(const QString& name) {
     QLocalSocket socket;
-    socket.connectToServer(ServerName());
+    socket.connectToServer(name);
     return socket.waitForConnected(kPatienceMilliseconds);
 }
 
 }  // namespace
 
 HandOverEnd SingleInstance::HandOver(const QByteArray& commandLine) {
-    if (ServerName().isEmpty())
+    const QString name = FindHandOverPlace().Server;
+    if (name.isEmpty())
         return HandOverEnd::Nobody;
     const QDeadlineTimer deadline(kPatienceMilliseconds);
     const auto left = [&] { return static_cast<int>(deadline.remainingTime()); };
     QLocalSocket socket;
     socket.setReadBufferSize(kLongestHead);
-    socket.connectToServer(ServerName());
+    socket.connectToServer(name);
     if (!socket.waitForConnected(left()))
         return deadline.hasExpired() ? HandOverEnd::NoAnswer : HandOverEnd::Nobody;
+    LetOthersToFront();
     socket.write(kProtocol.toByteArray() + QByteArray::number(commandLine.size()) + '\n' +
                  commandLine);
     while (socket.bytesAvailable() < kAnswer.size() && socket.waitForReadyRead(left())) {
@@ -77,22 +70,26 @@ HandOverEnd SingleInstance::HandOver(const QByteArray& commandLine) {
 }
 
 SingleInstance::SingleInstance(QObject* parent) : QObject(parent) {
+#ifdef _WIN32
+    // Elsewhere the place does, and with options the toolkit takes the name from whoever has it.
+    server_.setSocketOptions(QLocalServer::UserAccessOption);
+#endif
     connect(&server_, &QLocalServer::newConnection, this, &SingleInstance::Greet);
 }
 
 bool SingleInstance::Listen() {
-    const QString name = ServerName();
+    const auto [name, lockFile] = FindHandOverPlace();
     if (name.isEmpty())
         return false;
     // Of two copies that start at once, one would take the name from the other.
-    QLockFile lock(name + ".lock");
+    QLockFile lock(lockFile);
     if (!lock.tryLock(kPatienceMilliseconds))
         return false;
-    // Without options for access: with them the toolkit takes the name from whoever has it.
+    // Asked first: Windows lets several listen to one name.
+    if (SomebodyListens(name))
+        return false;
     if (server_.listen(name))
         return true;
-    if (SomebodyListens())
-        return false;
     // A copy that crashed leaves its name behind.
     QLocalServer::removeServer(name);
     return server_.listen(name);
@@ -121,7 +118,8 @@ void SingleInstance::Read(QLocalSocket& peer) {
         return;
     peer.disconnect(this);
     peer.write(kAnswer.toByteArray());
-    const bool isThere = peer.flush() && peer.state() == QLocalSocket::ConnectedState;
+    const bool isThere = (peer.flush() || peer.waitForBytesWritten(kPeerMilliseconds)) &&
+                         peer.state() == QLocalSocket::ConnectedState;
     peer.disconnectFromServer();
     if (isThere)
         emit Received(request.CommandLine);

@@ -6,6 +6,7 @@
 #include <QStyle>
 #include <algorithm>
 
+#include "app/file_names.h"
 #include "app/recent_files.h"
 #include "widgets/artwork.h"
 #include "widgets/theme.h"
@@ -112,7 +113,7 @@ void FileTile::DrawPicture(QPainter& painter, const QRect& place) const {
         painter.setPen(SceneTheme().Note);
         if (isMade_)
             painter.drawText(place, Qt::AlignCenter | Qt::TextSingleLine,
-                             QString::fromStdString(path_.extension().string()));
+                             TextOf(path_.extension()));
         else
             DrawRing(painter, place, QPen(Qt::NoPen), SceneTheme().Ground);
         painter.setPen(SceneTheme().Text);

@@ -2,6 +2,7 @@
 
 #include <QStringList>
 
+#include "app/file_names.h"
 #include "widgets/words.h"
 
 namespace orbelle::app {
@@ -14,7 +15,7 @@ constexpr std::uintmax_t kKilobyte = 1024;
 constexpr std::uintmax_t kMegabyte = kKilobyte * kKilobyte;
 
 QString NameOf(const fs::path& path) {
-    return QString::fromStdString(path.filename().string());
+    return TextOf(path.filename());
 }
 
 // With the size and the folder, where these are known, behind what was done.
@@ -22,7 +23,7 @@ std::string Told(QStringList facts, const fs::path& path, std::optional<std::uin
     if (bytes)
         facts += SizeText(*bytes);
     if (path.has_parent_path())
-        facts += Words::tr("in %1").arg(QString::fromStdString(path.parent_path().string()));
+        facts += Words::tr("in %1").arg(TextOf(path.parent_path()));
     return facts.join(", ").toStdString();
 }
 

@@ -2,10 +2,9 @@
 
 #include <QFile>
 #include <QIconEngine>
+#include <QImage>
 #include <QPainter>
 #include <QPixmapCache>
-#include <QSvgRenderer>
-#include <utility>
 
 #include "widgets/theme.h"
 
@@ -13,6 +12,7 @@
 static void LoadResources() {
     static const bool loaded = [] {
         Q_INIT_RESOURCE(orbelle);
+        Q_INIT_RESOURCE(artwork);
         return true;
     }();
     Q_UNUSED(loaded);
@@ -21,48 +21,41 @@ static void LoadResources() {
 namespace orbelle::widgets {
 namespace {
 
-// What our drawings are made with, and what stands for it on dark.
-constexpr std::pair<const char*, const char*> kDarkColors[] = {
-    {"#4A5564", "#B8C0CA"},  // outlines
-    {"#DCEBFB", "#3B5674"},  // areas
-    {"#B9C4D2", "#59626E"},
-    {"#2F86E6", "#5AA2F5"},
-};
-
 constexpr double kDisabledOpacity = 0.35;
+constexpr int kWidestPicture = 1440;  // pixels
 
-// Pointers and pictures bring their own ground.
-bool FollowsTheme(const QString& name) {
-    return name.contains('/') && !name.startsWith("cursors/");
+// Empty: none of that width.
+QString PictureFile(const QString& name, int width, Shade shade) {
+    const QString picture = QString("/%1-%2.png").arg(name).arg(width);
+    // What brings its own ground is the same on both.
+    if (const QString dark = ":/artwork/dark" + picture;
+        shade == Shade::Dark && QFile::exists(dark))
+        return dark;
+    const QString light = ":/artwork/light" + picture;
+    return QFile::exists(light) ? light : QString();
 }
 
-// Small drawings have whole pixels for strokes; what falls between two pixels at some ratio has a
-// drawing of its own for that number of device pixels ("layers/add-24").
-QByteArray Drawing(const QString& name, int pixels, Shade shade) {
-    QFile file(QString(":/%1-%2.svg").arg(name).arg(pixels));
-    if (!file.exists())
-        file.setFileName(":/" + name + ".svg");
-    if (!file.open(QIODevice::ReadOnly))
+// The drawing in that width or, where it was not drawn in that, in the next larger one; where there
+// is none in the largest. Null: there is no such drawing.
+QImage Picture(const QString& name, int width, Shade shade) {
+    LoadResources();
+    if (name.isEmpty())
         return {};
-    QByteArray drawing = file.readAll();
-    if (FollowsTheme(name) && shade == Shade::Dark)
-        for (const auto& [light, dark] : kDarkColors)
-            drawing.replace(light, dark);
-    return drawing;
+    QString file;
+    for (int at = width; file.isEmpty() && at <= kWidestPicture; ++at)
+        file = PictureFile(name, at, shade);
+    for (int at = width - 1; file.isEmpty() && at > 0; --at)
+        file = PictureFile(name, at, shade);
+    return QImage(file);
 }
 
 // In pixels of the screen; null: there is no such drawing.
 QPixmap Rendered(const QString& name, const QSize& pixels, Shade shade) {
-    LoadResources();
-    QSvgRenderer drawing(Drawing(name, pixels.width(), shade));
-    if (!drawing.isValid())
-        return {};
-    QPixmap pixmap(pixels);
-    pixmap.fill(Qt::transparent);
-    QPainter painter(&pixmap);
-    drawing.setAspectRatioMode(Qt::KeepAspectRatio);
-    drawing.render(&painter, QRectF(pixmap.rect()));
-    return pixmap;
+    const QImage picture = Picture(name, pixels.width(), shade);
+    if (picture.isNull() || picture.size() == pixels)
+        return QPixmap::fromImage(picture);
+    return QPixmap::fromImage(
+        picture.scaled(pixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
 }
 
 class Engine : public QIconEngine {

@@ -1,7 +1,6 @@
 // The entry point of the window.
 #include <QApplication>
 #include <QCommandLineParser>
-#include <QFile>
 #include <QIcon>
 #include <QProcess>
 #include <QSessionManager>
@@ -11,14 +10,16 @@
 #include <memory>
 #include <span>
 
+#include "app/desktop_font.h"
 #include "app/desktop_motion.h"
 #include "app/ending_signals.h"
-#include "app/file_dialog.h"
+#include "app/file_names.h"
 #include "app/hand_over_queue.h"
 #include "app/language.h"
 #include "app/looks.h"
 #include "app/main_window.h"
 #include "app/single_instance.h"
+#include "app/starter_console.h"
 #include "app/welcome_window.h"
 #include "widgets/theme.h"
 #include "widgets/words.h"
@@ -29,10 +30,10 @@ using namespace orbelle::app;
 using orbelle::Words;
 
 // The text that a shell passes on: the path between quotation marks, or nothing.
-QByteArray CommandLineOf(const QString& file, std::span<char*> arguments) {
+QByteArray CommandLineOf(const QString& file, [[maybe_unused]] std::span<char*> arguments) {
     if (file.isEmpty())
         return {};
-    std::filesystem::path path = EncodedName(file);
+    std::filesystem::path path = PathOf(file);
 #ifdef Q_OS_UNIX
     // As the system gave it: it need not be UTF-8.
     for (const char* argument : arguments)
@@ -42,7 +43,7 @@ QByteArray CommandLineOf(const QString& file, std::span<char*> arguments) {
     std::error_code noFolder;
     if (std::filesystem::path whole = std::filesystem::absolute(path, noFolder); !noFolder)
         path = std::move(whole);
-    return QByteArray::fromStdString('"' + path.string() + '"');
+    return '"' + BytesOf(path) + '"';
 }
 
 // Whether another copy of the program takes the file. Of two that start at once one comes too late
@@ -59,7 +60,7 @@ void OpenInAnotherCopy(const QByteArrayList& commandLines) {
     for (const QByteArray& commandLine : commandLines) {
         if (!commandLine.isEmpty())
             QProcess::startDetached(QApplication::applicationFilePath(),
-                                    {QFile::decodeName(commandLine.mid(1).chopped(1))});
+                                    {QString::fromUtf8(commandLine.mid(1).chopped(1))});
     }
 }
 
@@ -70,6 +71,7 @@ int main(int argc, char** argv) {
     QApplication::setApplicationName("orbelle");
     QApplication::setApplicationVersion(ORBELLE_VERSION);
     QApplication::setDesktopFileName("orbelle");
+    UseDesktopFont();
     const Language language;
     orbelle::widgets::SetMotionWanted(DoesDesktopWantMotion());
     ApplyLooks(StoredLooks());
@@ -78,6 +80,7 @@ int main(int argc, char** argv) {
         icon.addFile(QString(":/icons/orbelle-%1.png").arg(size), {size, size});
     QApplication::setWindowIcon(icon);
 
+    UseConsoleOfStarter();
     QCommandLineParser parser;
     parser.setApplicationDescription(Words::tr("Varnel Orbelle, an icon editor."));
     parser.addHelpOption();
@@ -86,7 +89,7 @@ int main(int argc, char** argv) {
     parser.process(application);
     const QStringList files = parser.positionalArguments();
     if (files.size() > 1) {
-        qCritical("orbelle: %s", qUtf8Printable(Words::tr("only one FILE can be opened")));
+        TellStarter(Words::tr("only one FILE can be opened"));
         return 1;
     }
     const QByteArray commandLine =

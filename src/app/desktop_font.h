@@ -1,0 +1,10 @@
+// The font of the desktop.
+#pragma once
+
+namespace orbelle::app {
+
+// Makes it the program's, where the toolkit does not do so by itself. Once after the application
+// object was made.
+void UseDesktopFont();
+
+}  // namespace orbelle::app

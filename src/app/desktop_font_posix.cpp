@@ -1,0 +1,7 @@
+#include "app/desktop_font.h"
+
+namespace orbelle::app {
+
+void UseDesktopFont() {}
+
+}  // namespace orbelle::app
