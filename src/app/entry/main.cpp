@@ -60,7 +60,7 @@ void OpenInAnotherCopy(const QByteArrayList& commandLines) {
     for (const QByteArray& commandLine : commandLines) {
         if (!commandLine.isEmpty())
             QProcess::startDetached(QApplication::applicationFilePath(),
-                                    {QString::fromUtf8(commandLine.mid(1).chopped(1))});
+                                    {TextOf(PathOfBytes(commandLine.mid(1).chopped(1)))});
     }
 }
 
