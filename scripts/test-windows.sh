@@ -8,6 +8,8 @@ zip=${3:-}
 scripts=$(cd "$(dirname "$0")" && pwd)
 
 work=$(mktemp -d)
+# Wine takes this system's names by its locale.
+export LC_ALL=C.UTF-8
 export WINEPREFIX=$work/wine WINEDEBUG=-all WINEDLLOVERRIDES='mscoree,mshtml='
 trap 'wineserver -k || true; rm -rf "$work"' EXIT
 # It is made once, before several programs want it.

@@ -17,22 +17,30 @@ if not exist "%program%" (
     exit /b 1
 )
 
-reg add "%classes%\%document%" /ve /d "Varnel Orbelle document" /f >nul || goto failed
-reg add "%classes%\%document%\DefaultIcon" /ve /d "\"%program%\",1" /f >nul || goto failed
-reg add "%classes%\%document%\shell\open\command" /ve /d "\"%program%\" \"%%1\"" /f >nul || goto failed
-reg add "%classes%\.volf" /ve /d "%document%" /f >nul || goto failed
-reg add "%classes%\Applications\orbelle.exe" /v FriendlyAppName /d "Varnel Orbelle" /f >nul || goto failed
-reg add "%classes%\Applications\orbelle.exe\shell\open\command" /ve /d "\"%program%\" \"%%1\"" /f >nul || goto failed
+reg add "%classes%\%document%" /ve /d "Varnel Orbelle document" /f >nul
+if errorlevel 1 goto failed
+reg add "%classes%\%document%\DefaultIcon" /ve /d "\"%program%\",1" /f >nul
+if errorlevel 1 goto failed
+reg add "%classes%\%document%\shell\open\command" /ve /d "\"%program%\" \"%%1\"" /f >nul
+if errorlevel 1 goto failed
+reg add "%classes%\.volf" /ve /d "%document%" /f >nul
+if errorlevel 1 goto failed
+reg add "%classes%\Applications\orbelle.exe" /v FriendlyAppName /d "Varnel Orbelle" /f >nul
+if errorlevel 1 goto failed
+reg add "%classes%\Applications\orbelle.exe\shell\open\command" /ve /d "\"%program%\" \"%%1\"" /f >nul
+if errorlevel 1 goto failed
 for %%e in (.volf %pictures%) do (
-    reg add "%classes%\Applications\orbelle.exe\SupportedTypes" /v %%e /d "" /f >nul || goto failed
+    reg add "%classes%\Applications\orbelle.exe\SupportedTypes" /v %%e /d "" /f >nul
 )
+if errorlevel 1 goto failed
 echo .volf files open in Varnel Orbelle now.
 exit /b 0
 
 :undo
 reg delete "%classes%\%document%" /f >nul 2>&1
 reg delete "%classes%\Applications\orbelle.exe" /f >nul 2>&1
-reg query "%classes%\.volf" /ve 2>nul | find "%document%" >nul && reg delete "%classes%\.volf" /ve /f >nul
+reg query "%classes%\.volf" /ve 2>nul | find "%document%" >nul
+if not errorlevel 1 reg delete "%classes%\.volf" /ve /f >nul
 echo Varnel Orbelle is no longer registered.
 exit /b 0
 

@@ -15,7 +15,7 @@ fs::path FromEnvironment(const char* name) {
 }
 
 fs::path Home(const char* variable, const fs::path& below) {
-    const fs::path told = FromEnvironment(variable);
+    fs::path told = FromEnvironment(variable);
     if (!told.empty())
         return told;
     const fs::path home = FromEnvironment("HOME");

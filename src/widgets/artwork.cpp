@@ -28,8 +28,7 @@ constexpr int kWidestPicture = 1440;  // pixels
 QString PictureFile(const QString& name, int width, Shade shade) {
     const QString picture = QString("/%1-%2.png").arg(name).arg(width);
     // What brings its own ground is the same on both.
-    if (const QString dark = ":/artwork/dark" + picture;
-        shade == Shade::Dark && QFile::exists(dark))
+    if (QString dark = ":/artwork/dark" + picture; shade == Shade::Dark && QFile::exists(dark))
         return dark;
     const QString light = ":/artwork/light" + picture;
     return QFile::exists(light) ? light : QString();
