@@ -42,15 +42,15 @@ with_cmake libwebp -DWEBP_BUILD_{ANIM_UTILS,CWEBP,DWEBP,GIF2WEBP,IMG2WEBP,VWEBP,
 with_cmake googletest
 
 with_configure pixman --disable-openmp --disable-libpng --disable-gtk
-make -C pixman install
+make -C pixman -j"$(nproc)" install
 make install-pkgconfigDATA
 with_configure lcms2 --without-jpeg --without-tiff --without-zlib
-make -C src install
+make -C src -j"$(nproc)" install
 make -C include install
 make install-pkgconfigDATA
 
 cd "$sources/libdeflate"
-make CC=$cc AR=$triplet-ar CFLAGS="${optimized[*]}" libdeflatestatic.lib
+make -j"$(nproc)" CC=$cc AR=$triplet-ar CFLAGS="${optimized[*]}" libdeflatestatic.lib
 install -m 644 libdeflatestatic.lib "$prefix/lib/libdeflate.a"
 install -m 644 libdeflate.h "$prefix/include"
 tell_pkg_config libdeflate 1.14 -ldeflate ''
