@@ -25,6 +25,7 @@ mkdir "$place"
 unzip -q "$zip" -d "$place"
 cd "$place"/*/
 wine orbelle-cli.exe --version | tr -d '\r'
+wine orbelle.exe --version | tr -d '\r'
 wine orbelle-cli.exe --script samples/speech-bubble.txt
 wine cmd /c 'register.cmd' > /dev/null
 wine reg query 'HKCU\Software\Classes\VarnelOrbelle.Document\shell\open\command' /ve | grep -q 'orbelle.exe.*%1'

@@ -2270,5 +2270,13 @@
         <source>Start</source>
         <translation>Start</translation>
     </message>
+    <message>
+        <source>Print this help.</source>
+        <translation>Gibt diese Hilfe aus.</translation>
+    </message>
+    <message>
+        <source>Print the version.</source>
+        <translation>Gibt die Version aus.</translation>
+    </message>
 </context>
 </TS>

@@ -1,13 +1,15 @@
-#include <QtGlobal>
+#include <cstdio>
 
 #include "app/starter_console.h"
 
 namespace orbelle::app {
 
-void UseConsoleOfStarter() {}
+void AnswerStarter(const QString& text) {
+    std::fputs(qPrintable(text), stdout);
+}
 
 void TellStarter(const QString& problem) {
-    qCritical("orbelle: %s", qUtf8Printable(problem));
+    std::fprintf(stderr, "orbelle: %s\n", qPrintable(problem));
 }
 
 }  // namespace orbelle::app

@@ -1,48 +1,45 @@
 #include <windows.h>
 
-#include <cstdio>
-#include <cstdlib>
-
 #include "app/starter_console.h"
 #include "editing/editor_state.h"
 
 namespace orbelle::app {
 namespace {
 
-UINT charsetBefore = 0;
-
-void RestoreCharset() {
-    SetConsoleOutputCP(charsetBefore);
+// Where words for a standard stream go: the file, pipe or console that the starter gave, or else
+// its own console. Nowhere: INVALID_HANDLE_VALUE.
+HANDLE PlaceOf(DWORD stream) {
+    const HANDLE given = GetStdHandle(stream);
+    if (given && given != INVALID_HANDLE_VALUE && GetFileType(given) != FILE_TYPE_UNKNOWN)
+        return given;
+    if (!AttachConsole(ATTACH_PARENT_PROCESS))
+        return INVALID_HANDLE_VALUE;
+    return CreateFileW(L"CONOUT$", GENERIC_READ | GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_WRITE,
+                       nullptr, OPEN_EXISTING, 0, nullptr);
 }
 
-// Into a file or a pipe, which the starter may have put there.
-bool IsUsed(DWORD stream) {
-    const HANDLE handle = GetStdHandle(stream);
-    return handle && handle != INVALID_HANDLE_VALUE && GetFileType(handle) != FILE_TYPE_UNKNOWN;
+void Tell(DWORD stream, const QString& text, UINT boxIcon) {
+    const HANDLE place = PlaceOf(stream);
+    DWORD mode = 0, written = 0;
+    if (place == INVALID_HANDLE_VALUE) {
+        MessageBoxW(nullptr, qUtf16Printable(text), qUtf16Printable(QString(editing::kProductName)),
+                    boxIcon);
+    } else if (GetConsoleMode(place, &mode)) {
+        WriteConsoleW(place, text.utf16(), DWORD(text.size()), &written, nullptr);
+    } else {
+        const QByteArray bytes = text.toUtf8();
+        WriteFile(place, bytes.data(), DWORD(bytes.size()), &written, nullptr);
+    }
 }
 
 }  // namespace
 
-void UseConsoleOfStarter() {
-    const bool hasOutput = IsUsed(STD_OUTPUT_HANDLE), hasErrors = IsUsed(STD_ERROR_HANDLE);
-    if (!AttachConsole(ATTACH_PARENT_PROCESS))
-        return;
-    if (!hasOutput)
-        std::freopen("CONOUT$", "w", stdout);
-    if (!hasErrors)
-        std::freopen("CONOUT$", "w", stderr);
-    // The toolkit writes in the charset of windows, which is not that of consoles.
-    charsetBefore = GetConsoleOutputCP();
-    SetConsoleOutputCP(GetACP());
-    std::atexit(RestoreCharset);
+void AnswerStarter(const QString& text) {
+    Tell(STD_OUTPUT_HANDLE, text, MB_ICONINFORMATION);
 }
 
 void TellStarter(const QString& problem) {
-    if (IsUsed(STD_ERROR_HANDLE) || GetConsoleWindow())
-        std::fprintf(stderr, "orbelle: %s\n", qPrintable(problem));
-    else
-        MessageBoxW(nullptr, problem.toStdWString().c_str(),
-                    QString(editing::kProductName).toStdWString().c_str(), MB_ICONERROR);
+    Tell(STD_ERROR_HANDLE, "orbelle: " + problem + '\n', MB_ICONERROR);
 }
 
 }  // namespace orbelle::app

@@ -54,6 +54,18 @@ protected:
         return files;
     }
 
+    // Where "a.png" or "b.png" is the same file as there: each change is told once.
+    void ChangeWhatIsWrittenInto(const std::string& name) {
+        Start("--each a.png b.png --json -- open {} flip vertical export " + name + "/{name}");
+        ASSERT_TRUE(Prints(2));
+        const std::string changes = "abab";
+        for (int i = 0; i < 4; ++i) {
+            Write(changes.substr(i, 1) + ".png", testing::FilledPicture(100 + i * 100, 8, kBlue));
+            ASSERT_TRUE(Prints(3 + i));
+        }
+        EXPECT_EQ(FilesTold(), "ab" + changes);
+    }
+
 private:
     std::optional<testing::RunningProgram> program_;
 };

@@ -80,17 +80,21 @@ int main(int argc, char** argv) {
         icon.addFile(QString(":/icons/orbelle-%1.png").arg(size), {size, size});
     QApplication::setWindowIcon(icon);
 
-    UseConsoleOfStarter();
     QCommandLineParser parser;
     parser.setApplicationDescription(Words::tr("Varnel Orbelle, an icon editor."));
-    parser.addHelpOption();
-    parser.addVersionOption();
+    const QCommandLineOption help({"h", "help"}, Words::tr("Print this help."));
+    const QCommandLineOption version({"v", "version"}, Words::tr("Print the version."));
+    parser.addOptions({help, version});
     parser.addPositionalArgument("FILE", Words::tr("The document or picture to open."), "[FILE]");
-    parser.process(application);
+    const bool isUnderstood = parser.parse(QApplication::arguments());
     const QStringList files = parser.positionalArguments();
-    if (files.size() > 1) {
-        TellStarter(Words::tr("only one FILE can be opened"));
+    if (!isUnderstood || files.size() > 1) {
+        TellStarter(isUnderstood ? Words::tr("only one FILE can be opened") : parser.errorText());
         return 1;
+    }
+    if (parser.isSet(help) || parser.isSet(version)) {
+        AnswerStarter(parser.isSet(help) ? parser.helpText() : "orbelle " ORBELLE_VERSION "\n");
+        return 0;
     }
     const QByteArray commandLine =
         CommandLineOf(files.value(0), {argv + 1, argv + std::max(argc, 1)});

@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <filesystem>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -14,7 +15,8 @@ int OwnProcess();
 // Also false when that can't be told.
 bool IsGone(int process);
 
-std::uint64_t RandomNumber();
+// Nothing: the system has none.
+std::optional<std::uint64_t> RandomOfSystem();
 
 // The names in the folder that begin and end so; none when it can't be read.
 std::vector<std::string> NamesIn(const std::filesystem::path& folder, std::string_view front,

@@ -5,7 +5,6 @@
 #include <unistd.h>
 
 #include <cerrno>
-#include <chrono>
 #include <csignal>
 #include <memory>
 
@@ -40,13 +39,9 @@ bool IsGone(int process) {
     return kill(process, 0) < 0 && errno == ESRCH;
 }
 
-std::uint64_t RandomNumber() {
-    // The library's generator asks the processor what it can do, which takes long in a virtual one.
+std::optional<std::uint64_t> RandomOfSystem() {
     std::uint64_t random = 0;
-    if (getentropy(&random, sizeof random) != 0)
-        random =
-            static_cast<std::uint64_t>(std::chrono::steady_clock::now().time_since_epoch().count());
-    return random;
+    return getentropy(&random, sizeof random) == 0 ? std::optional(random) : std::nullopt;
 }
 
 std::vector<std::string> NamesIn(const fs::path& folder, std::string_view front,

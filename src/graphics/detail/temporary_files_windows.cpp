@@ -2,8 +2,6 @@
 
 #include <ntsecapi.h>
 
-#include <chrono>
-
 #include "graphics/detail/temporary_files.h"
 #include "graphics/path_text.h"
 #include "graphics/windows_handle.h"
@@ -24,12 +22,9 @@ bool IsGone(int process) {
     return WaitForSingleObject(handle.Get(), 0) == WAIT_OBJECT_0;
 }
 
-std::uint64_t RandomNumber() {
+std::optional<std::uint64_t> RandomOfSystem() {
     std::uint64_t random = 0;
-    if (!RtlGenRandom(&random, sizeof random))
-        random =
-            static_cast<std::uint64_t>(std::chrono::steady_clock::now().time_since_epoch().count());
-    return random;
+    return RtlGenRandom(&random, sizeof random) ? std::optional(random) : std::nullopt;
 }
 
 std::vector<std::string> NamesIn(const fs::path& folder, std::string_view front,

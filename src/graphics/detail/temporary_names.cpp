@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <charconv>
 #include <chrono>
+#include <cstdint>
 #include <exception>
 #include <map>
 #include <mutex>
@@ -54,6 +55,13 @@ bool IsDue(const fs::path& folder) {
         return false;
     found->second = now;
     return true;
+}
+
+// Not by the library's generator: it asks the processor what it can do, which takes long in a
+// virtual one.
+std::uint64_t RandomNumber() {
+    return RandomOfSystem().value_or(
+        static_cast<std::uint64_t>(Clock::now().time_since_epoch().count()));
 }
 
 }  // namespace
