@@ -10,10 +10,16 @@ export ORBELLE_WINDOWS_PREFIX=$prefix
 off=(opengl vulkan sql testlib dbus xml printsupport concurrent ssl schannel http udpsocket networkproxy socks5
     dnslookup topleveldomain networkdiskcache networklistmanager icu glib zstd brotli gssapi
     textmarkdownreader textmarkdownwriter textodfwriter pdf wizard mdiarea tabletevent direct2d1_1
-    gif ico jpeg
+    gif ico jpeg calendarwidget datetimeedit lcdnumber dial columnview fontcombobox fontdialog colordialog
+    inputdialog errormessage splashscreen keysequenceedit toolbox undocommand undostack undogroup undoview
+    syntaxhighlighter gestures
     system_doubleconversion system_freetype system_harfbuzz system_jpeg system_pcre2)
 features=("${off[@]/#/-DFEATURE_}")
 features=("${features[@]/%/=OFF}")
+
+# Parts that no feature leaves out and nothing here needs.
+sed -i -E '/add_subdirectory\((minimal|offscreen|certonly)\)/d' "$sources"/qt6-base/src/plugins/{platforms,tls}/CMakeLists.txt
+sed -i '/hb-subset/d' "$sources/qt6-base/src/3rdparty/harfbuzz-ng/CMakeLists.txt"
 
 cmake -S "$sources/qt6-base" -B "$sources/qt6-base-build" -G Ninja -DCMAKE_BUILD_TYPE=Release \
     -DCMAKE_TOOLCHAIN_FILE="$root/cmake/windows_toolchain.cmake" -DCMAKE_INSTALL_PREFIX="$prefix" \
