@@ -17,17 +17,19 @@ if not exist "%program%" (
     exit /b 1
 )
 
+rem To the shell a mark with ^ begins nothing, so that the folder stands between the two after it and
+rem may have an ampersand in its name.
 reg add "%classes%\%document%" /ve /d "Varnel Orbelle document" /f >nul
 if errorlevel 1 goto failed
-reg add "%classes%\%document%\DefaultIcon" /ve /d "\"%program%\",1" /f >nul
+reg add "%classes%\%document%\DefaultIcon" /ve /d "%program%,1" /f >nul
 if errorlevel 1 goto failed
-reg add "%classes%\%document%\shell\open\command" /ve /d "\"%program%\" \"%%1\"" /f >nul
+reg add "%classes%\%document%\shell\open\command" /ve /d ^"\"%program%\" \"%%1\"^" /f >nul
 if errorlevel 1 goto failed
 reg add "%classes%\.volf" /ve /d "%document%" /f >nul
 if errorlevel 1 goto failed
 reg add "%classes%\Applications\orbelle.exe" /v FriendlyAppName /d "Varnel Orbelle" /f >nul
 if errorlevel 1 goto failed
-reg add "%classes%\Applications\orbelle.exe\shell\open\command" /ve /d "\"%program%\" \"%%1\"" /f >nul
+reg add "%classes%\Applications\orbelle.exe\shell\open\command" /ve /d ^"\"%program%\" \"%%1\"^" /f >nul
 if errorlevel 1 goto failed
 for %%e in (.volf %pictures%) do (
     reg add "%classes%\Applications\orbelle.exe\SupportedTypes" /v %%e /d "" /f >nul
