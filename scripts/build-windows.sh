@@ -57,7 +57,12 @@ provide libraries libpng1.6 libjpeg-turbo libwebp googletest pixman lcms2 libdef
 [[ $preset == windows-core ]] || provide qt qt6-base
 
 targets=()
-[[ -n $test ]] || targets=(--target programs guide)
+if [[ -z $test ]]; then
+    targets=(--target orbelle-cli)
+    [[ $preset == windows-core ]] || targets+=(orbelle guide)
+fi
+# A build of before the libraries changed finds the old ones.
+grep -qs "$ORBELLE_WINDOWS_PREFIX/" "build/$preset/CMakeCache.txt" || rm -rf "build/$preset"
 cmake --preset $preset
 cmake --build --preset $preset "${targets[@]}"
 
