@@ -71,10 +71,10 @@ int main(int argc, char** argv) {
     QApplication::setApplicationName("orbelle");
     QApplication::setApplicationVersion(ORBELLE_VERSION);
     QApplication::setDesktopFileName("orbelle");
-    UseDesktopFont();
     const Language language;
     orbelle::widgets::SetMotionWanted(DoesDesktopWantMotion());
     ApplyLooks(StoredLooks());
+    UseDesktopFont();
     QIcon icon;
     for (const int size : {16, 24, 32, 48, 64, 128, 256})
         icon.addFile(QString(":/icons/orbelle-%1.png").arg(size), {size, size});
