@@ -18,7 +18,8 @@ features=("${off[@]/#/-DFEATURE_}")
 features=("${features[@]/%/=OFF}")
 
 # Parts that no feature leaves out and nothing here needs.
-sed -i -E '/add_subdirectory\((minimal|offscreen|certonly)\)/d' "$sources"/qt6-base/src/plugins/{platforms,tls}/CMakeLists.txt
+sed -i -E '/add_subdirectory\((minimal|offscreen|certonly|styles)\)/d' \
+    "$sources"/qt6-base/src/plugins/{platforms/,tls/,}CMakeLists.txt
 sed -i '/hb-subset/d' "$sources/qt6-base/src/3rdparty/harfbuzz-ng/CMakeLists.txt"
 
 cmake -S "$sources/qt6-base" -B "$sources/qt6-base-build" -G Ninja -DCMAKE_BUILD_TYPE=Release \
