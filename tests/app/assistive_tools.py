@@ -8,6 +8,8 @@ gi.require_version("Atspi", "2.0")
 from gi.repository import Atspi, GLib
 
 SECONDS = 20
+# Less than one of them would be enough but for a busy machine.
+Atspi.set_timeout(SECONDS * 1000, SECONDS * 1000)
 faults = []
 
 
