@@ -21,6 +21,6 @@ else
 fi
 
 cmake --preset tidy > /dev/null
-grep -v -e "$windows" -e '^$' <<< "$sources" | sort -u |
-    xargs -n 1 -P "$(nproc)" clang-tidy -p build/tidy --quiet \
+{ grep -v -e "$windows" -e '^$' <<< "$sources" || true; } | sort -u |
+    xargs -r -n 1 -P "$(nproc)" clang-tidy -p build/tidy --quiet \
         2> >(grep -v ' warnings generated' >&2 || true)
