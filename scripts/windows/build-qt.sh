@@ -12,7 +12,7 @@ off=(opengl vulkan sql testlib dbus xml printsupport concurrent ssl schannel htt
     textmarkdownreader textmarkdownwriter textodfwriter pdf wizard mdiarea tabletevent direct2d1_1
     gif ico jpeg calendarwidget datetimeedit lcdnumber dial columnview fontcombobox fontdialog colordialog
     inputdialog errormessage splashscreen keysequenceedit toolbox undocommand undostack undogroup undoview
-    syntaxhighlighter gestures
+    syntaxhighlighter gestures graphicseffect graphicsview freetype
     system_doubleconversion system_freetype system_harfbuzz system_jpeg system_pcre2)
 features=("${off[@]/#/-DFEATURE_}")
 features=("${features[@]/%/=OFF}")

@@ -1,7 +1,5 @@
 #include "app/button_bars.h"
 
-#include <QGraphicsDropShadowEffect>
-
 #include "app/ask_commands.h"
 #include "app/links.h"
 #include "app/save_commands.h"
@@ -231,14 +229,8 @@ ButtonBars::ButtonBars(const WindowContext& context)
                int pressed) { ChooseEraser(editor, editing::EraserToolOf(pressed)); },
             button);
     });
-    for (ButtonBar* popup : {FillBar, SelectionBar, EraserBar}) {
-        auto* shadow = new QGraphicsDropShadowEffect(popup);
-        shadow->setBlurRadius(14);
-        shadow->setOffset(0, 2);
-        shadow->setColor(QColor(0, 0, 0, 120));
-        popup->setGraphicsEffect(shadow);
+    for (ButtonBar* popup : {FillBar, SelectionBar, EraserBar})
         popup->hide();
-    }
 }
 
 void ButtonBars::AddZoomField(const WindowContext& context) {

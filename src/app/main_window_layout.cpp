@@ -23,6 +23,7 @@
 #include "editing/scene_input.h"
 #include "editing/tips.h"
 #include "editing/view_commands.h"
+#include "widgets/soft_shadow.h"
 #include "widgets/words.h"
 
 namespace orbelle::app {
@@ -80,8 +81,10 @@ void MainWindow::AddPanels() {
     rows->addWidget(bottomPanel_);
     setCentralWidget(central);
 
-    for (widgets::ButtonBar* popup : {bars_->FillBar, bars_->SelectionBar, bars_->EraserBar})
+    for (widgets::ButtonBar* popup : {bars_->FillBar, bars_->SelectionBar, bars_->EraserBar}) {
         popup->setParent(central);
+        new widgets::SoftShadow(*popup);
+    }
     closeTips_ = new CloseTipsTab(*central, *sizesPanel_, *horizontalScroll_);
     tips_ = std::make_unique<TipBalloons>(editor_, *central, *this);
     connect(tips_.get(), &TipBalloons::Placed, closeTips_,

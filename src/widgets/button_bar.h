@@ -106,7 +106,7 @@ private:
 
     void LoadIcons(qreal ratio);
     void PaintButton(QPainter& painter, int index) const;
-    void PaintFrame(QPainter& painter) const;
+    void PaintGround(QPainter& painter) const;
     void PaintFocus(QPainter& painter, const QRect& place) const;
 
     ButtonBarMetrics metrics_;

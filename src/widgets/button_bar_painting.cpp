@@ -60,9 +60,7 @@ void ButtonBar::LoadIcons(qreal ratio) {
 void ButtonBar::paintEvent(QPaintEvent*) {
     LoadIcons(devicePixelRatioF());
     QPainter painter(this);
-    painter.fillRect(rect(), onBand_ ? BandColor() : CurrentTheme().Ground);
-    if (hasFrame_)
-        PaintFrame(painter);
+    PaintGround(painter);
     for (int i = 0; i < Count(); ++i) {
         if (buttons_[i].IsSeparator)
             PaintLine(painter, layout_.Lines[i], devicePixelRatioF());
@@ -107,9 +105,14 @@ void ButtonBar::PaintButton(QPainter& painter, int index) const {
     painter.setOpacity(1);
 }
 
-void ButtonBar::PaintFrame(QPainter& painter) const {
-    painter.setPen(CurrentTheme().Line);
-    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+void ButtonBar::PaintGround(QPainter& painter) const {
+    QRectF ground = rect();
+    if (hasFrame_) {
+        painter.fillRect(ground, CurrentTheme().Line);
+        const qreal line = std::floor(devicePixelRatioF()) / devicePixelRatioF();
+        ground.adjust(line, line, -line, -line);
+    }
+    painter.fillRect(ground, onBand_ ? BandColor() : CurrentTheme().Ground);
 }
 
 void ButtonBar::PaintFocus(QPainter& painter, const QRect& place) const {
