@@ -13,6 +13,8 @@ off=(opengl vulkan sql testlib dbus xml printsupport concurrent ssl schannel htt
     gif ico jpeg calendarwidget datetimeedit lcdnumber dial columnview fontcombobox fontdialog colordialog
     inputdialog errormessage splashscreen keysequenceedit toolbox undocommand undostack undogroup undoview
     syntaxhighlighter gestures graphicseffect graphicsview freetype
+    treewidget tablewidget mimetype timezone systemtrayicon scroller whatsthis textedit spinbox dockwidget
+    movie picture islamiccivilcalendar jalalicalendar sharedmemory systemsemaphore sortfilterproxymodel
     system_doubleconversion system_freetype system_harfbuzz system_jpeg system_pcre2)
 features=("${off[@]/#/-DFEATURE_}")
 features=("${features[@]/%/=OFF}")
@@ -20,7 +22,13 @@ features=("${features[@]/%/=OFF}")
 # Parts that no feature leaves out and nothing here needs.
 sed -i -E '/add_subdirectory\((minimal|offscreen|certonly|styles)\)/d' \
     "$sources"/qt6-base/src/plugins/{platforms/,tls/,}CMakeLists.txt
-sed -i '/hb-subset/d' "$sources/qt6-base/src/3rdparty/harfbuzz-ng/CMakeLists.txt"
+harfbuzz=$sources/qt6-base/src/3rdparty/harfbuzz-ng/CMakeLists.txt
+sed -i '/hb-subset/d' "$harfbuzz"
+# Most of each file is the same headers.
+echo 'set_target_properties(BundledHarfbuzz PROPERTIES UNITY_BUILD ON UNITY_BUILD_BATCH_SIZE 20)' >> "$harfbuzz"
+# What no pixel passes through is optimised less, which takes a third of the time away.
+sed -i '1i add_compile_options(-O1)' "$harfbuzz" \
+    "$sources"/qt6-base/src/{widgets,network,plugins/platforms/windows}/CMakeLists.txt
 
 cmake -S "$sources/qt6-base" -B "$sources/qt6-base-build" -G Ninja -DCMAKE_BUILD_TYPE=Release \
     -DCMAKE_TOOLCHAIN_FILE="$root/cmake/windows_toolchain.cmake" -DCMAKE_INSTALL_PREFIX="$prefix" \
