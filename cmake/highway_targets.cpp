@@ -4,6 +4,8 @@
 
 #include <hwy/targets.h>
 
+#include <cstdlib>
+
 // The loader of glibc has asked the processor already. The compiler asks again whenever a program
 // that has its question starts, which in a virtual machine takes as long as loading a library.
 // (Clang cannot read that header as C++.)
@@ -59,6 +61,11 @@ void SetSupportedTargetsForTest(int64_t targets) {
 ChosenTarget& GetChosenTarget() {
     static ChosenTarget chosen;
     return chosen;
+}
+
+// For a shift by a number of bytes that no vector has; some compilers leave that case in.
+HWY_NORETURN void Abort(const char*, int, const char*, ...) {
+    std::abort();
 }
 
 }  // namespace hwy

@@ -22,7 +22,7 @@ case ${1:-} in
         ;;
 esac
 if [[ $1 == ci ]]; then
-    packages+=(git clang clang-format clang-tidy dpkg-dev file lintian)
+    packages+=(git clang libclang-rt-dev clang-format clang-tidy dpkg-dev file lintian)
 fi
 
 if ! command -v dpkg-query >/dev/null; then

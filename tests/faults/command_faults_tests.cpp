@@ -387,10 +387,11 @@ Step Press(float x, float y, int button = 1) {
 // A press, moves and a release at the last point.
 Steps Drag(const std::vector<graphics::PointF>& points) {
     Steps steps = {Press(points.front().X, points.front().Y)};
-    for (const auto& [x, y] : points)
-        steps.push_back({[=](Editor& editor) { MoveScene(editor, OnPage(x, y)); }, true});
-    const auto [x, y] = points.back();
-    steps.push_back({[=](Editor& editor) { ReleaseScene(editor, OnPage(x, y)); }, true});
+    for (const graphics::PointF point : points)
+        steps.push_back(
+            {[=](Editor& editor) { MoveScene(editor, OnPage(point.X, point.Y)); }, true});
+    const graphics::PointF last = points.back();
+    steps.push_back({[=](Editor& editor) { ReleaseScene(editor, OnPage(last.X, last.Y)); }, true});
     return steps;
 }
 

@@ -97,7 +97,9 @@ TEST(GifDecoder, ReadsFrames) {
         const Bitmap image = DecodeImage(file);
         EXPECT_EQ(image.Height(), height);
         EXPECT_EQ(PixelsOf(image), pixels);
-        const auto secondFrame = std::ranges::find_end(file, FileBytes{0x21, 0xF9}).begin();
+        const FileBytes control = {0x21, 0xF9};
+        const auto secondFrame =
+            std::find_end(file.begin(), file.end(), control.begin(), control.end());
         ExpectCutsToThrow(file, secondFrame - file.begin());
         ExpectToSurviveDamage(file);
     }

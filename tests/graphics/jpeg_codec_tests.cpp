@@ -178,7 +178,9 @@ TEST(JpegDecoder, CutOrDamagedFilesThrow) {
 TEST(JpegDecoder, RefusesSizesAndScansThatOnlyCostTime) {
     const JpegPicture picture = {.Samples = {1}, .Progressive = true};
     const FileBytes good = MakeJpeg(picture);
-    const auto frame = std::ranges::search(good, FileBytes{0xFF, 0xC2}).begin() - good.begin();
+    const FileBytes frameMark = {0xFF, 0xC2}, scanMark = {0xFF, 0xDA};
+    const auto frame =
+        std::search(good.begin(), good.end(), frameMark.begin(), frameMark.end()) - good.begin();
     const auto withSize = [&](int width, int height) {
         FileBytes file = good;
         for (auto [at, value] : {std::pair{5, height}, {7, width}}) {
@@ -192,7 +194,7 @@ TEST(JpegDecoder, RefusesSizesAndScansThatOnlyCostTime) {
     EXPECT_EQ(ProblemOf(withSize(16384, 3072)),
               "the JPEG picture is cut short or damaged: too little data for its size");
 
-    const auto lastScan = std::ranges::find_end(good, FileBytes{0xFF, 0xDA}).begin();
+    const auto lastScan = std::find_end(good.begin(), good.end(), scanMark.begin(), scanMark.end());
     const FileBytes scan(lastScan, good.end() - 2);
     FileBytes file = good;
     for (int i = 0; i < 200; ++i)
@@ -224,7 +226,7 @@ TEST(JpegEncoder, TheFileIsBaselineJfifAt96DpiWithFullColors) {
     // Baseline frame: 8 bits, 200 x 300, three components with one sample per pixel each.
     const FileBytes frame = {0xFF, 0xC0, 0, 17, 8,    0, 200, 1,    44, 3,
                              1,    0x11, 0, 2,  0x11, 1, 3,   0x11, 1};
-    EXPECT_NE(std::ranges::search(file, frame).begin(), file.end());
+    EXPECT_NE(std::search(file.begin(), file.end(), frame.begin(), frame.end()), file.end());
     file.resize(20);
     EXPECT_EQ(file, (FileBytes{0xFF, 0xD8, 0xFF, 0xE0, 0, 16, 'J', 'F', 'I', 'F',
                                0,    1,    1,    1,    0, 96, 0,   96,  0,   0}));

@@ -24,6 +24,15 @@ using orbelle::graphics::SvgReply;
 constexpr double kDotsPerInch = 96;  // as CSS has it
 constexpr rlim_t kMaxMemory = rlim_t{512} << 20;
 
+// The address sanitizer needs more than that for itself.
+#if defined(__SANITIZE_ADDRESS__)
+constexpr bool kLimitsMemory = false;
+#elif defined(__has_feature)
+constexpr bool kLimitsMemory = !__has_feature(address_sanitizer);
+#else
+constexpr bool kLimitsMemory = true;
+#endif
+
 [[noreturn]] void Fail(const std::string& problem) {
     std::fputs(problem.c_str(), stdout);
     std::fflush(stdout);
@@ -38,9 +47,8 @@ void Limit(decltype(RLIMIT_CPU) what, rlim_t most) {
 void LimitOurselves() {
     Limit(RLIMIT_CORE, 0);
     Limit(RLIMIT_CPU, orbelle::graphics::kMaxSvgSeconds);
-#ifndef __SANITIZE_ADDRESS__
-    Limit(RLIMIT_DATA, kMaxMemory);
-#endif
+    if (kLimitsMemory)
+        Limit(RLIMIT_DATA, kMaxMemory);
     // Each thread has its own memory; and a drawing does not depend on the user's language.
     setenv("RAYON_NUM_THREADS", "2", 1);
     setenv("LC_ALL", "C", 1);
