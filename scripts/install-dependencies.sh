@@ -15,7 +15,7 @@ case ${1:-} in
     tests | ci) packages+=(libgtest-dev libgmock-dev libbenchmark-dev xvfb xdotool icnsutils icoutils python3
                         at-spi2-core dbus gir1.2-atspi-2.0 python3-gi qt6-translations-l10n) ;;
     windows) packages+=(g++-mingw-w64-x86-64-posix libz-mingw-w64-dev nasm make dpkg-dev googletest cmark-gfm
-                        qt6-translations-l10n wine wine64 unzip python3) ;;
+                        qt6-translations-l10n wine wine64 unzip python3 xvfb xauth) ;;
     *)
         echo "usage: install-dependencies.sh programs|tests|ci|windows" >&2
         exit 2

@@ -2,7 +2,7 @@
 # test-windows.sh BUILD LINUX [ZIP]: runs the tests of a build for Windows under Wine, compares what
 # its orbelle-cli makes with what the one in the folder LINUX does, and tries the programs of the zip.
 set -euo pipefail
-build=$1
+build=$(cd "$1" && pwd)
 linux=$2
 zip=${3:-}
 scripts=$(cd "$(dirname "$0")" && pwd)
@@ -31,3 +31,6 @@ wine cmd /c 'register.cmd' > /dev/null
 wine reg query 'HKCU\Software\Classes\VarnelOrbelle.Document\shell\open\command' /ve | grep -q 'orbelle.exe.*%1'
 wine cmd /c 'register.cmd /undo' > /dev/null
 ! wine reg query 'HKCU\Software\Classes\VarnelOrbelle.Document' > /dev/null 2>&1
+# The window, which uses all of the toolkit; a program that crashes asks what to do.
+xvfb-run -a timeout -k 5 60 wine "$build/bin/orbelle-screenshot.exe" window.png samples/envelope.volf
+[[ -s window.png ]]

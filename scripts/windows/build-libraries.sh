@@ -36,10 +36,14 @@ tell_pkg_config() { # NAME VERSION LIBS CFLAGS
         "$1" "$1" "$2" "$prefix" "$3" "$prefix" "$4" > "$prefix/lib/pkgconfig/$1.pc"
 }
 
-with_cmake libpng1.6 -DPNG_SHARED=OFF -DPNG_TESTS=OFF -DPNG_EXECUTABLES=OFF
-with_cmake libjpeg-turbo -DENABLE_SHARED=OFF -DWITH_TURBOJPEG=OFF
-with_cmake libwebp -DWEBP_BUILD_{ANIM_UTILS,CWEBP,DWEBP,GIF2WEBP,IMG2WEBP,VWEBP,WEBPINFO,WEBPMUX,EXTRAS}=OFF
-with_cmake googletest
+# Most of the time goes by with questions to the compiler, one after the other: two at a time.
+{
+    with_cmake libpng1.6 -DPNG_SHARED=OFF -DPNG_TESTS=OFF -DPNG_EXECUTABLES=OFF
+    with_cmake libjpeg-turbo -DENABLE_SHARED=OFF -DWITH_TURBOJPEG=OFF
+    with_cmake libwebp -DWEBP_BUILD_{ANIM_UTILS,CWEBP,DWEBP,GIF2WEBP,IMG2WEBP,VWEBP,WEBPINFO,WEBPMUX,EXTRAS}=OFF
+    with_cmake googletest
+} &
+others=$!
 
 with_configure pixman --disable-openmp --disable-libpng --disable-gtk
 make -C pixman -j"$(nproc)" install
@@ -70,3 +74,5 @@ tell_pkg_config libagg 2.6.1 -lagg /agg2
 cp -r /usr/include/hwy /usr/include/CLI /usr/include/nlohmann "$prefix/include"
 tell_pkg_config libhwy 1.0.3 '' ''
 cp -r /usr/share/cmake/{CLI11,nlohmann_json} "$prefix/lib/cmake"
+
+wait "$others"

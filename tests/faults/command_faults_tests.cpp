@@ -272,7 +272,7 @@ private:
 
 // Commands with thousands of operations are sampled.
 long Next(long n) {
-    return n + 1 + std::max(0L, n - 80) / 8;
+    return n + 1 + std::max(0L, n - 40) / 4;
 }
 
 int CommandFaults::FailEach(Fault fault, Extent extent) {
