@@ -4,6 +4,7 @@
 #include <QLabel>
 #include <QMenu>
 #include <QWheelEvent>
+#include <QWindow>
 
 #include "editing/color_wells.h"
 #include "editing/page_commands.h"
@@ -27,6 +28,32 @@ TEST_F(MainWindowTest, CtrlAndTheWheelZoomInWholeSteps) {
     EXPECT_EQ(turn(120, Qt::NoModifier), 1);
     for (const auto& [delta, zoom] : {std::pair(60, 1), {60, 3}, {240, 7}, {-120, 5}})
         EXPECT_EQ(turn(delta, Qt::ControlModifier), zoom);
+}
+
+// Only Windows does such a press again for what lies below, unless the attribute is set.
+TEST_F(MainWindowTest, PressOutsideMenusClosesThemAndDoesNothingElse) {
+    OpenPicture(32, 32);
+    QMenu menu(&window);
+    QMenu* inner = menu.addMenu("Inner");
+    inner->addAction("Action");
+    for (const bool isInnerOpen : {false, true}) {
+        menu.popup(window.mapToGlobal(QPoint(50, 30)));
+        if (isInnerOpen)
+            menu.setActiveAction(inner->menuAction());
+        QWidget* top = QApplication::activePopupWidget();
+        ASSERT_EQ(top, isInnerOpen ? inner : &menu);
+        const auto press = [&](const QPointF& place) {
+            QMouseEvent event(QEvent::MouseButtonPress, place, top->mapToGlobal(place),
+                              Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
+            QApplication::sendEvent(top->windowHandle(), &event);
+        };
+        press({3, 3});
+        EXPECT_FALSE(menu.testAttribute(Qt::WA_NoMouseReplay));
+        press(top->mapFromGlobal(Scene().mapToGlobal(QPointF(Scene().rect().center()))));
+        EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
+        EXPECT_TRUE(menu.testAttribute(Qt::WA_NoMouseReplay)) << "inner menu: " << isInnerOpen;
+        menu.setAttribute(Qt::WA_NoMouseReplay, false);
+    }
 }
 
 TEST_F(MainWindowTest, ToolButtonsChooseAndLatchOneTool) {
