@@ -7,8 +7,8 @@ class QWidget;
 
 namespace orbelle::app {
 
-// Such a press closes the menu, or the list of a field, and does nothing else. By itself the toolkit
-// does it again for what lies below on some desktops (Windows), and version 6.4 beside the pointer.
+// Such a press closes the menu, or the list of a field, and does nothing else. By itself the
+// toolkit does it again for what lies below on Windows, and version 6.4 beside the pointer.
 class OutsidePress : public QObject {
 public:
     explicit OutsidePress(QWidget& window);

@@ -49,7 +49,12 @@ TEST_F(MainWindowTest, DroppedFilesOpenOrBecomeLayers) {
 
 TEST_F(MainWindowTest, DroppedTextsAreAddressesOrPaths) {
     const QString picture = Picture("a \u00e4%.png", 4, 4), none = Path("none.png");
-    const std::tuple<QString, int, const char*> cases[] = {
+    struct Case {
+        QString Text;
+        int Layers;  // below 0: it is not taken
+        const char* Told;
+    };
+    const Case cases[] = {
         {"some text", -1, ""},
         {"first.png", -1, ""},
         {picture + "\nand more", -1, ""},
@@ -61,23 +66,24 @@ TEST_F(MainWindowTest, DroppedTextsAreAddressesOrPaths) {
         {"https://example.org/a.png", 0, "only files that are can be opened."},
         {"https:", -1, ""},
     };
-    for (const auto& [text, layers, told] : cases) {
-        SCOPED_TRACE(text.toStdString());
+    for (const Case& dropped : cases) {
+        SCOPED_TRACE(dropped.Text.toStdString());
         NewPage(8, 8);
         QMimeData data;
-        data.setText(text);
-        EXPECT_EQ(IsTaken(data), layers >= 0);
-        if (layers < 0)
+        data.setText(dropped.Text);
+        EXPECT_EQ(IsTaken(data), dropped.Layers >= 0);
+        if (dropped.Layers < 0)
             continue;
         QString message = "";
-        if (*told)
+        if (*dropped.Told)
             AnswerDialog<QMessageBox>([&](QMessageBox& box) {
                 message = box.text();
                 box.accept();
             });
         Drop(data);
-        EXPECT_TRUE(WaitUntil([&] { return Page().LayerCount() == 1 + layers; }));
-        EXPECT_TRUE(WaitUntil([&] { return message.endsWith(told); })) << message.toStdString();
+        EXPECT_TRUE(WaitUntil([&] { return Page().LayerCount() == 1 + dropped.Layers; }));
+        EXPECT_TRUE(WaitUntil([&] { return message.endsWith(dropped.Told); }))
+            << message.toStdString();
     }
 }
 
