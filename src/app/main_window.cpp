@@ -14,6 +14,7 @@
 #include "app/core_words.h"
 #include "app/file_names.h"
 #include "app/import_files.h"
+#include "app/outside_press.h"
 #include "app/recent_files_menu.h"
 #include "app/right_panel.h"
 #include "app/save_commands.h"
@@ -48,6 +49,7 @@ MainWindow::MainWindow() {
     AddPanels();
     ConnectScene();
     AddShortcuts();
+    new OutsidePress(*this);
 
     zoomAnimation_.setInterval(kZoomTickMilliseconds);
     connect(&zoomAnimation_, &QTimer::timeout, this, [this] {

@@ -14,7 +14,6 @@
 #include "app/bottom_panel.h"
 #include "app/close_tips_tab.h"
 #include "app/drop_target.h"
-#include "app/outside_press.h"
 #include "app/right_panel.h"
 #include "app/scene_view.h"
 #include "app/shortcuts.h"
@@ -182,7 +181,6 @@ void MainWindow::ConnectScene() {
     connect(scene_, &SceneView::ShiftHeld, this, [this](bool isHeld) {
         RunDuringDrag([=](Editor& editor) { HoldShift(editor, isHeld); });
     });
-    new OutsidePress(*this);
     // Queued: the program that the files come from waits until the drop has been taken.
     auto* drops = new DropTarget(*this, [this] { return !editor_.DocumentExists; });
     connect(drops, &DropTarget::Dropped, this, &MainWindow::TakeDrop, Qt::QueuedConnection);
